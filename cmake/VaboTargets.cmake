@@ -1,0 +1,47 @@
+# One INTERFACE target carries standard, warnings and sanitizers; two functions make the libraries and the tests.
+
+add_library(vabo_options INTERFACE)
+target_compile_features(vabo_options INTERFACE cxx_std_20)
+target_compile_options(vabo_options INTERFACE -Wall -Wextra -Wpedantic -Werror)
+target_include_directories(vabo_options INTERFACE ${CMAKE_SOURCE_DIR}/src)
+set_property(GLOBAL PROPERTY CXX_EXTENSIONS OFF)
+foreach(sanitizer IN LISTS VABO_SANITIZE)
+    target_compile_options(vabo_options INTERFACE -fsanitize=${sanitizer} -fno-sanitize-recover=all
+                                                  -fno-omit-frame-pointer)
+    target_link_options(vabo_options INTERFACE -fsanitize=${sanitizer})
+endforeach()
+
+find_program(VABO_CCACHE ccache)
+if(VABO_CCACHE)
+    set(CMAKE_CXX_COMPILER_LAUNCHER ${VABO_CCACHE})
+endif()
+if(VABO_TIDY)
+    find_program(VABO_CLANG_TIDY clang-tidy REQUIRED)
+    set(CMAKE_CXX_CLANG_TIDY ${VABO_CLANG_TIDY};--quiet;--extra-arg=-Wno-unknown-warning-option)
+endif()
+
+# vabo_library(name SOURCES … LINKS …): a static library of one layer.
+function(vabo_library name)
+    cmake_parse_arguments(ARG "QT" "" "SOURCES;LINKS" ${ARGN})
+    add_library(${name} STATIC ${ARG_SOURCES})
+    target_link_libraries(${name} PUBLIC vabo_options ${ARG_LINKS})
+    if(ARG_QT)
+        set_target_properties(${name} PROPERTIES AUTOMOC ON AUTOUIC ON AUTORCC ON)
+    endif()
+endfunction()
+
+# vabo_test(name SOURCES … LINKS …): one test executable, one ctest entry per test case in it.
+function(vabo_test name)
+    cmake_parse_arguments(ARG "QT" "" "SOURCES;LINKS;LABELS" ${ARGN})
+    add_executable(${name} ${ARG_SOURCES})
+    target_link_libraries(${name} PRIVATE vabo_options ${ARG_LINKS} GTest::gtest GTest::gmock)
+    target_include_directories(${name} PRIVATE ${CMAKE_SOURCE_DIR}/tests)
+    if(ARG_QT)
+        set_target_properties(${name} PROPERTIES AUTOMOC ON AUTOUIC ON)
+    endif()
+    if(NOT ARG_LABELS)
+        set(ARG_LABELS unit)
+    endif()
+    add_test(NAME ${name} COMMAND ${name})
+    set_tests_properties(${name} PROPERTIES LABELS "${ARG_LABELS}" ENVIRONMENT "QT_QPA_PLATFORM=offscreen;LC_ALL=C.UTF-8")
+endfunction()

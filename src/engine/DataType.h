@@ -1,0 +1,42 @@
+#pragma once
+
+#include <string>
+
+namespace engine {
+
+/// A type of the dialect. Lengths are in characters, -1 stands for `max`.
+struct DataType {
+    enum class Kind {
+        Unknown, ///< the type of a bare NULL
+        Bit,
+        TinyInt,
+        SmallInt,
+        Int,
+        BigInt,
+        Decimal, ///< also numeric, money (19,4) and smallmoney (10,4)
+        Real,
+        Float,
+        DateTime, ///< also smalldatetime and date
+        Char,
+        VarChar,
+        NChar,
+        NVarChar, ///< also sysname (128), ntext and text (-1)
+        VarBinary
+    };
+
+    Kind kind = Kind::Unknown;
+    int length = 0;    ///< texts and binaries
+    int precision = 0; ///< decimals
+    int scale = 0;     ///< decimals
+
+    bool operator==(const DataType&) const = default;
+
+    bool isText() const { return kind >= Kind::Char && kind <= Kind::NVarChar; }
+    bool isInteger() const { return kind >= Kind::Bit && kind <= Kind::BigInt; }
+    bool isNumber() const { return kind >= Kind::Bit && kind <= Kind::Float; }
+};
+
+/// The type as a script would write it: `nvarchar(255)`, `decimal(18,2)`.
+std::string toText(const DataType& type);
+
+} // namespace engine

@@ -1,0 +1,20 @@
+#pragma once
+
+#include "engine/Tree.h"
+
+#include <string_view>
+
+namespace engine {
+
+/// Deepest nesting of expressions, selects and brackets that the parser follows; deeper is error 191.
+inline constexpr int kDeepestNesting = 200;
+/// Longest batch in bytes.
+inline constexpr std::size_t kLongestBatch = 65536 * 4096ULL;
+
+/// The tree of a batch. Throws Error 102, 105, 156 or 191 with the place; nothing of a refused batch runs.
+BatchTree parse(std::string_view batch);
+
+/// The tree of one expression alone, for stored defaults.
+ExpressionPtr parseExpression(std::string_view text);
+
+} // namespace engine

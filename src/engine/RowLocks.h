@@ -1,0 +1,34 @@
+#pragma once
+
+#include <cstdint>
+#include <filesystem>
+#include <memory>
+#include <string_view>
+#include <vector>
+
+namespace engine {
+
+/// Holds on rows of one database, seen by every session of every process that uses it, and gone with their holder.
+/// One object per session and database. File locks stand behind FileLock.h alone.
+class RowLocks {
+public:
+    /// `database` is the database's file; the locks live in a file beside it.
+    explicit RowLocks(const std::filesystem::path& database);
+    ~RowLocks();
+    RowLocks(const RowLocks&) = delete;
+    RowLocks& operator=(const RowLocks&) = delete;
+
+    /// False at once when another session holds the row. Counted: as many releases as acquires.
+    bool acquire(std::string_view table, std::int64_t row);
+    void release(std::string_view table, std::int64_t row);
+
+    /// One question for the whole database, so that writers pay nothing while nobody holds.
+    bool anyHeldByOthers() const;
+    bool heldByOthers(std::string_view table, std::int64_t row) const;
+
+private:
+    struct State;
+    std::unique_ptr<State> state_;
+};
+
+} // namespace engine

@@ -1,0 +1,31 @@
+#pragma once
+
+#include <optional>
+#include <string>
+#include <string_view>
+#include <utility>
+#include <vector>
+
+namespace ado {
+
+/// The keys of a connection text in their order, read by any of their names. Values may stand in braces or quotes.
+/// Of a key that stands twice the first counts.
+class ConnectionString {
+public:
+    explicit ConnectionString(std::string_view text);
+
+    const std::string& text() const { return text_; }
+    std::optional<std::string> value(std::string_view key) const; ///< key in any case
+
+    std::string provider() const; ///< Provider
+    std::string server() const;   ///< Server, Data Source
+    std::string database() const; ///< DATABase, Initial Catalog
+    std::string user() const;     ///< UID, ID utente, User ID
+    std::string password() const; ///< PWD, Password
+
+private:
+    std::string text_;
+    std::vector<std::pair<std::string, std::string>> pairs_;
+};
+
+} // namespace ado

@@ -1,0 +1,28 @@
+#pragma once
+
+#include <memory>
+#include <optional>
+#include <string>
+
+namespace platform {
+
+enum class Icon { None, Stop };
+
+/// All boxes that ask or tell. `controls` implements it with windows, tests with a script. Texts are shown as they
+/// are, line breaks included; without a title the application's own shows.
+class Dialogs {
+public:
+    virtual ~Dialogs() = default;
+    virtual void message(const std::string& text, Icon icon = Icon::None) = 0;
+    virtual bool question(const std::string& text) = 0; ///< Yes and No
+    virtual bool confirm(const std::string& text) = 0;  ///< OK and Cancel
+    /// Nothing typed and Cancel are both the empty text.
+    virtual std::string input(const std::string& prompt, const std::string& title, const std::string& proposed) = 0;
+    /// A folder, empty when none was chosen.
+    virtual std::string folder(const std::string& title) = 0;
+};
+
+Dialogs& dialogs();
+void setDialogs(std::unique_ptr<Dialogs> dialogs);
+
+} // namespace platform

@@ -1,0 +1,69 @@
+#pragma once
+
+// All global state of the console, for the life of the process. Zero or empty at its start.
+
+#include "ado/Connection.h"
+#include "ado/Recordset.h"
+
+#include <array>
+#include <cstdint>
+#include <memory>
+#include <string>
+
+namespace vabo {
+
+/// A 16-bit flag: -1 true, 0 false.
+using Flag = std::int16_t;
+inline constexpr Flag kVero = -1;
+inline constexpr Flag kFalso = 0;
+
+/// One flag per rights column of AbilitazioneAccessi, in the order of the table.
+struct Diritti {
+    Flag Administrator = kFalso;
+    Flag A_Inserisci = kFalso;
+    Flag A_Cancella = kFalso;
+    Flag A_Iva = kFalso;
+    Flag A_Bilancio = kFalso;
+    Flag A_Personale = kFalso;
+    Flag A_ArchivioStoria = kFalso;
+    Flag A_PFinanza = kFalso;
+    Flag A_Synchro = kFalso;
+    Flag A_EmettiPagamenti = kFalso;
+    Flag A_Progetta = kFalso;
+    Flag Disabilita = kFalso;
+
+    bool operator==(const Diritti&) const = default;
+};
+
+/// 23 recordsets that forms borrow for one operation; ChiudiRecordset takes them all back.
+class RecordsetCondivisi {
+public:
+    static constexpr int kNumero = 23;
+    /// Made on first use. Places count from 1.
+    ado::Recordset& operator()(int posto);
+    /// Closes where it can and drops it.
+    void Rilascia(int posto);
+
+private:
+    std::array<std::unique_ptr<ado::Recordset>, kNumero> elenco_;
+};
+
+extern ado::Connection DbAzienda, DbControllo, DbTemp;
+/// Made on first use, dropped by ChiudiRecordset.
+extern std::unique_ptr<ado::Connection> DbLocale;
+extern RecordsetCondivisi RsCondivisi;
+
+extern std::string StringaAzienda, StringaAziendaCopia, StringaLocale, StringaTemp;
+extern std::string NomeTerminale, NomeServer, NomeAzienda, NomeDatabase, UtenteDb, PasswordDb, NomeDsn;
+extern std::string IndirizzoMdf, IndirizzoVabodati, IndirizzoVabodatiCopia;
+extern std::string CartellaFile, PercorsoFileLocale, FileLocale;
+extern std::string LinguaCorrente, NomeUtenteLogin;
+extern std::string Sql, SqlLavoro, Appoggio;
+extern double IdAzienda, IdAziendaLavoro, IdAziendaScelta, IdSede, IdSedeCopia, TentativiLogin;
+extern Flag ClienteDornavel, ServerMancante;
+extern Diritti DirittiUtente;
+
+/// Everything as at the start of the process.
+void AzzeraVariabili();
+
+} // namespace vabo

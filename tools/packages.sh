@@ -1,0 +1,42 @@
+#!/usr/bin/env bash
+# Installs the Debian packages of one purpose: build, test or check. Does nothing where they are all there.
+set -euo pipefail
+
+build=(g++ cmake ninja-build qt6-base-dev qt6-base-dev-tools libgl-dev qt6-translations-l10n libsqlite3-dev libicu-dev
+    fonts-dejavu-core)
+test=(libgtest-dev libgmock-dev librapidcheck-dev)
+check=(clang-format clang-tidy)
+bench=(libbenchmark-dev)
+
+wanted=()
+for purpose in "$@"; do
+    case "$purpose" in
+    build) wanted+=("${build[@]}") ;;
+    test) wanted+=("${test[@]}") ;;
+    check) wanted+=("${check[@]}") ;;
+    bench) wanted+=("${bench[@]}") ;;
+    *)
+        echo "usage: packages.sh [build] [test] [check] [bench]" >&2
+        exit 2
+        ;;
+    esac
+done
+
+missing=()
+for package in "${wanted[@]}"; do
+    status=$(dpkg-query -W -f '${Status}' "$package" 2>/dev/null || true)
+    [ "$status" = "install ok installed" ] || missing+=("$package")
+done
+[ ${#missing[@]} -eq 0 ] && exit 0
+
+as_root=()
+if [ "$(id -u)" -ne 0 ]; then
+    command -v sudo >/dev/null || {
+        echo "These packages are missing: ${missing[*]}. Install them as root, or install sudo." >&2
+        exit 1
+    }
+    as_root=(sudo)
+fi
+echo "Installing: ${missing[*]}"
+"${as_root[@]}" apt-get update -qq
+"${as_root[@]}" env DEBIAN_FRONTEND=noninteractive apt-get install -y -qq --no-install-recommends "${missing[@]}" >/dev/null

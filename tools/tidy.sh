@@ -1,0 +1,20 @@
+#!/usr/bin/env bash
+# clang-tidy over every source that a built preset (ci unless named) compiles, or over the files given behind it.
+set -euo pipefail
+cd "$(dirname "$0")/.."
+preset=${1:-ci}
+shift || true
+
+tools/packages.sh check
+database=build/$preset/compile_commands.json
+[ -f "$database" ] || {
+    echo "Build first: cmake --preset $preset && cmake --build --preset $preset" >&2
+    exit 1
+}
+if [ $# -gt 0 ]; then
+    files=("$@")
+else
+    mapfile -t files < <(sed -n 's/^ *"file": "\(.*\)",\{0,1\}$/\1/p' "$database" | grep -v "^$PWD/build/" | sort -u)
+fi
+echo "clang-tidy: ${#files[@]} sources"
+printf '%s\n' "${files[@]}" | xargs -P "$(nproc)" -n 3 clang-tidy --quiet -p "build/$preset" 2> >(grep -v 'warnings generated\|^Suppressed\|^Use -header-filter' >&2)

@@ -1,0 +1,67 @@
+#include "engine/Shape.h"
+
+#include "engine/Lexer.h"
+
+namespace engine {
+
+namespace {
+
+std::string_view markerOf(Literal::Kind kind) {
+    switch (kind) {
+    case Literal::Kind::Null:
+        return "";
+    case Literal::Kind::Integer:
+        return "?i";
+    case Literal::Kind::Decimal:
+        return "?d";
+    case Literal::Kind::Float:
+        return "?f";
+    case Literal::Kind::Text:
+        return "?t";
+    case Literal::Kind::NationalText:
+        return "?n";
+    }
+    return "";
+}
+
+} // namespace
+
+Literal::Kind literalKind(const Token& token) {
+    switch (token.kind) {
+    case Token::Kind::Integer:
+        return Literal::Kind::Integer;
+    case Token::Kind::Decimal:
+        return Literal::Kind::Decimal;
+    case Token::Kind::Float:
+        return Literal::Kind::Float;
+    case Token::Kind::Text:
+        return Literal::Kind::Text;
+    case Token::Kind::NationalText:
+        return Literal::Kind::NationalText;
+    default:
+        return Literal::Kind::Null;
+    }
+}
+
+Shape shapeOf(std::span<const Token> tokens) {
+    Shape shape;
+    for (const Token& token : tokens) {
+        if (token.kind == Token::Kind::End)
+            break;
+        if (!shape.key.empty())
+            shape.key += ' ';
+        if (token.isLiteral()) {
+            shape.literals.push_back({literalKind(token), valueOf(token)});
+            shape.key += markerOf(shape.literals.back().kind);
+        } else {
+            shape.key += token.keyword == Keyword::None ? token.text : textOf(token.keyword);
+        }
+    }
+    return shape;
+}
+
+Shape shapeOf(std::string_view statement) {
+    return shapeOf(tokenize(statement));
+}
+
+} // namespace engine

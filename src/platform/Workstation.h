@@ -21,6 +21,8 @@ Workstation& workstation();
 void setWorkstation(Workstation workstation);
 /// Reads the real machine and makes it the present one: regional settings and the embedded server's home included.
 void takeRealWorkstation();
+/// The machine's name from its host name: what stands ahead of the first dot.
+std::string terminalName(const std::string& hostName);
 /// Hands drive C's instances and paths to the data layer.
 void connectDataLayer();
 

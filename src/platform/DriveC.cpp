@@ -1,0 +1,210 @@
+#include "platform/DriveC.h"
+
+#include "platform/Machine.h"
+
+#include <QString>
+
+#include <algorithm>
+#include <array>
+#include <cerrno>
+#include <fstream>
+#include <optional>
+#include <system_error>
+#include <utility>
+#include <vector>
+
+namespace platform {
+
+namespace fs = std::filesystem;
+
+namespace {
+
+enum Number { FileNotFound = 53, DeviceError = 57, EndOfFile = 62, Denied = 70, AccessError = 75, PathNotFound = 76 };
+
+constexpr std::array kWords{
+    std::pair{FileNotFound, "File not found"},        std::pair{DeviceError, "Device I/O error"},
+    std::pair{EndOfFile, "Input past end of file"},   std::pair{Denied, "Permission denied"},
+    std::pair{AccessError, "Path/File access error"}, std::pair{PathNotFound, "Path not found"},
+};
+
+bool isSeparator(char c) {
+    return c == '\\' || c == '/';
+}
+
+QString folded(const std::string& name) {
+    return QString::fromStdString(name).toCaseFolded();
+}
+
+/// The names on the road from the drive's root, `.` and `..` taken away; nothing for a place that isn't on drive C.
+std::optional<std::vector<std::string>> namesOf(std::string_view path) {
+    if (path.size() >= 2 && path[1] == ':') {
+        if (path[0] != 'C' && path[0] != 'c')
+            return std::nullopt;
+        path.remove_prefix(2);
+    } else if (path.size() >= 2 && isSeparator(path[0]) && isSeparator(path[1])) {
+        return std::nullopt; // another machine's share
+    }
+    if (path.find('\0') != std::string_view::npos)
+        return std::nullopt;
+
+    std::vector<std::string> names;
+    while (!path.empty()) {
+        std::size_t length = 0;
+        while (length < path.size() && !isSeparator(path[length]))
+            ++length;
+        const std::string name(path.substr(0, length));
+        path.remove_prefix(std::min(length + 1, path.size()));
+        if (name == "..") {
+            if (!names.empty())
+                names.pop_back();
+        } else if (!name.empty() && name != ".") {
+            names.push_back(name);
+        }
+    }
+    return names;
+}
+
+/// The entry of that name: the exact spelling first, else the first in another case.
+fs::path entryOf(const fs::path& folder, const std::string& name) {
+    std::error_code ignored;
+    if (fs::exists(fs::symlink_status(folder / name, ignored)))
+        return folder / name;
+    const QString wanted = folded(name);
+    std::string found;
+    for (fs::directory_iterator entry(folder, ignored), end; entry != end; entry.increment(ignored)) {
+        const std::string candidate = entry->path().filename().string();
+        if ((found.empty() || candidate < found) && folded(candidate) == wanted)
+            found = candidate;
+    }
+    return folder / (found.empty() ? name : found);
+}
+
+std::optional<fs::path> find(const fs::path& root, std::string_view path) {
+    const auto names = namesOf(path);
+    if (!names)
+        return std::nullopt;
+    fs::path place = root;
+    for (const std::string& name : *names)
+        place = entryOf(place, name);
+    return place;
+}
+
+/// What the run-time says of a file whose reading, writing or removing the system refused.
+FileError refusal(const fs::path& file, std::error_code reason) {
+    std::error_code ignored;
+    if (reason == std::errc::no_such_file_or_directory || reason == std::errc::not_a_directory)
+        return FileError(fs::is_directory(file.parent_path(), ignored) ? FileNotFound : PathNotFound);
+    if (reason == std::errc::filename_too_long)
+        return FileError(PathNotFound);
+    if (reason == std::errc::permission_denied || reason == std::errc::operation_not_permitted)
+        return FileError(Denied);
+    if (reason == std::errc::is_a_directory || reason == std::errc::file_exists ||
+        reason == std::errc::read_only_file_system)
+        return FileError(AccessError);
+    return FileError(DeviceError);
+}
+
+std::error_code lastError() {
+    return {errno, std::generic_category()};
+}
+
+/// Up to the first line break or the end of the file; nothing when there is no byte at all.
+std::optional<std::string> readLine(std::istream& file) {
+    std::string line;
+    if (!std::getline(file, line) && line.empty())
+        return std::nullopt;
+    if (!line.empty() && line.back() == '\r')
+        line.pop_back();
+    return line;
+}
+
+} // namespace
+
+FileError::FileError(int number) : number_(number) {}
+
+const char* FileError::what() const noexcept {
+    for (const auto& [number, words] : kWords) {
+        if (number == number_)
+            return words;
+    }
+    return "Application-defined or object-defined error";
+}
+
+fs::path DriveC::real(std::string_view path) const {
+    if (auto place = find(root_, path))
+        return *place;
+    throw FileError(PathNotFound);
+}
+
+bool DriveC::exists(std::string_view path) const {
+    const auto place = find(root_, path);
+    std::error_code ignored;
+    return place && fs::exists(*place, ignored);
+}
+
+bool DriveC::isFile(std::string_view path) const {
+    const auto place = find(root_, path);
+    std::error_code ignored;
+    return place && fs::is_regular_file(*place, ignored);
+}
+
+bool DriveC::isFolder(std::string_view path) const {
+    const auto place = find(root_, path);
+    std::error_code ignored;
+    return place && fs::is_directory(*place, ignored);
+}
+
+std::string DriveC::firstLine(std::string_view path) const {
+    const fs::path place = real(path);
+    std::error_code reason;
+    const fs::file_status status = fs::status(place, reason);
+    if (!fs::exists(status))
+        throw refusal(place, reason ? reason : make_error_code(std::errc::no_such_file_or_directory));
+    if (!fs::is_regular_file(status))
+        throw FileError(AccessError);
+    errno = 0;
+    std::ifstream file(place, std::ios::binary);
+    if (!file)
+        throw refusal(place, lastError());
+    const auto line = readLine(file);
+    if (file.bad())
+        throw FileError(DeviceError);
+    if (!line)
+        throw FileError(EndOfFile);
+    return QString::fromStdString(*line).toStdString(); // what is no UTF-8 becomes U+FFFD
+}
+
+void DriveC::writeLine(std::string_view path, std::string_view line) const {
+    const fs::path place = real(path);
+    std::error_code ignored;
+    if (fs::is_directory(place, ignored))
+        throw FileError(AccessError);
+    try {
+        machine::replaceFile(place, std::string(line) + "\r\n");
+    } catch (const std::system_error& error) {
+        throw refusal(place, error.code());
+    }
+}
+
+void DriveC::remove(std::string_view path) const {
+    const fs::path place = real(path);
+    std::error_code reason;
+    if (fs::is_directory(place, reason))
+        throw FileError(AccessError);
+    if (fs::remove(place, reason))
+        return;
+    throw refusal(place, reason ? reason : make_error_code(std::errc::no_such_file_or_directory));
+}
+
+void DriveC::makeFolder(std::string_view path) const {
+    const fs::path place = real(path);
+    try {
+        machine::makePrivateFolder(place);
+    } catch (const std::system_error& error) {
+        if (error.code() == std::errc::no_such_file_or_directory)
+            throw FileError(PathNotFound);
+        throw refusal(place, error.code());
+    }
+}
+
+} // namespace platform

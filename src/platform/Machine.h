@@ -1,0 +1,23 @@
+#pragma once
+
+// What is asked of the operating system itself; one source file a system implements it.
+
+#include <filesystem>
+#include <string>
+#include <string_view>
+
+namespace platform::machine {
+
+/// The whole host name, domain included.
+std::string hostName();
+std::filesystem::path programFile();
+/// The folder that stands for drive C: $VABO_DRIVE_C, or else `vabo/c` in the user's data folder.
+std::filesystem::path driveC();
+
+/// Replaces a file by these bytes, for the owner alone, and returns when they are on the disk. Whoever looks, even
+/// after a kill or a power cut, finds the old file or the new one. Throws std::system_error.
+void replaceFile(const std::filesystem::path& file, std::string_view bytes);
+/// Throws std::system_error.
+void makePrivateFolder(const std::filesystem::path& folder);
+
+} // namespace platform::machine

@@ -1,0 +1,127 @@
+#include "platform/Machine.h"
+
+#include <array>
+#include <cerrno>
+#include <cstdlib>
+#include <fcntl.h>
+#include <pwd.h>
+#include <sys/stat.h>
+#include <system_error>
+#include <unistd.h>
+
+namespace platform::machine {
+
+namespace fs = std::filesystem;
+
+namespace {
+
+[[noreturn]] void fail(const char* what) {
+    throw std::system_error(errno, std::generic_category(), what);
+}
+
+class Descriptor {
+public:
+    Descriptor(int number, const char* what) : number_(number) {
+        if (number_ < 0)
+            fail(what);
+    }
+    Descriptor(const Descriptor&) = delete;
+    Descriptor& operator=(const Descriptor&) = delete;
+    ~Descriptor() { ::close(number_); }
+    int number() const { return number_; }
+
+private:
+    int number_;
+};
+
+/// A new file beside the one to replace; what is left unfinished is taken away again.
+class TemporarySibling {
+public:
+    explicit TemporarySibling(const fs::path& folder)
+        : name_((folder / ".vabo-XXXXXX").string()), descriptor_(::mkostemp(name_.data(), O_CLOEXEC), "create") {}
+    TemporarySibling(const TemporarySibling&) = delete;
+    TemporarySibling& operator=(const TemporarySibling&) = delete;
+    ~TemporarySibling() {
+        if (!kept_)
+            ::unlink(name_.c_str());
+    }
+
+    void write(std::string_view bytes) const {
+        while (!bytes.empty()) {
+            const ssize_t written = ::write(descriptor_.number(), bytes.data(), bytes.size());
+            if (written < 0 && errno != EINTR)
+                fail("write");
+            if (written > 0)
+                bytes.remove_prefix(static_cast<std::size_t>(written));
+        }
+        if (::fsync(descriptor_.number()) != 0)
+            fail("sync");
+    }
+
+    void takeThePlaceOf(const fs::path& file) {
+        if (::rename(name_.c_str(), file.c_str()) != 0)
+            fail("rename");
+        kept_ = true;
+    }
+
+private:
+    std::string name_;
+    Descriptor descriptor_; // mkostemp makes it 0600
+    bool kept_ = false;
+};
+
+void syncFolder(const fs::path& folder) {
+    const Descriptor descriptor(::open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC), "open folder");
+    if (::fsync(descriptor.number()) != 0)
+        fail("sync folder");
+}
+
+std::string environment(const char* name) {
+    const char* value = std::getenv(name);
+    return value == nullptr ? "" : value;
+}
+
+fs::path home() {
+    if (const std::string folder = environment("HOME"); !folder.empty())
+        return folder;
+    const passwd* entry = ::getpwuid(::getuid());
+    return entry == nullptr ? fs::path("/") : fs::path(entry->pw_dir);
+}
+
+} // namespace
+
+std::string hostName() {
+    std::array<char, 256> buffer{};
+    if (::gethostname(buffer.data(), buffer.size() - 1) != 0)
+        return {};
+    return buffer.data();
+}
+
+fs::path programFile() {
+    std::error_code ignored;
+    return fs::read_symlink("/proc/self/exe", ignored);
+}
+
+fs::path driveC() {
+    if (const std::string folder = environment("VABO_DRIVE_C"); !folder.empty())
+        return fs::absolute(folder).lexically_normal();
+    const fs::path data = environment("XDG_DATA_HOME");
+    return (data.is_absolute() ? data : home() / ".local" / "share") / "vabo" / "c";
+}
+
+void replaceFile(const fs::path& file, std::string_view bytes) {
+    // A rename would pass over a file that its owner has closed to writing.
+    if (::access(file.c_str(), W_OK) != 0 && errno != ENOENT)
+        fail("access");
+    TemporarySibling sibling(file.parent_path());
+    sibling.write(bytes);
+    sibling.takeThePlaceOf(file);
+    syncFolder(file.parent_path());
+}
+
+void makePrivateFolder(const fs::path& folder) {
+    if (::mkdir(folder.c_str(), S_IRWXU) != 0)
+        fail("mkdir");
+}
+
+} // namespace platform::machine

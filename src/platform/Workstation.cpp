@@ -1,0 +1,62 @@
+#include "platform/Workstation.h"
+
+#include "ado/Drivers.h"
+#include "platform/Machine.h"
+#include "platform/RegionalSettings.h"
+#include "platform/Version.h"
+
+#include <optional>
+#include <utility>
+
+namespace platform {
+
+namespace {
+
+constexpr const char* kInstances = "C:\\vabo\\istanze";
+
+std::optional<Workstation> present;
+
+/// For the server: a place that isn't on drive C is one that no folder leads to.
+std::filesystem::path serverPath(std::string_view path) {
+    const DriveC& drive = workstation().driveC;
+    try {
+        return drive.real(path);
+    } catch (const FileError&) {
+        return drive.root() / "no such drive" / "file";
+    }
+}
+
+} // namespace
+
+std::string terminalName(const std::string& hostName) {
+    return hostName.substr(0, hostName.find('.'));
+}
+
+Workstation& workstation() {
+    if (!present)
+        takeRealWorkstation();
+    return *present;
+}
+
+void setWorkstation(Workstation workstation) {
+    present = std::move(workstation);
+}
+
+void takeRealWorkstation() {
+    setWorkstation({.driveC = DriveC(machine::driveC()),
+                    .machineName = terminalName(machine::hostName()),
+                    .programName = machine::programFile().stem().string(),
+                    .productName = version::kProductName,
+                    .legalNotice = version::kLegalNotice,
+                    .versionMajor = version::kMajor,
+                    .versionMinor = version::kMinor,
+                    .versionRevision = version::kRevision});
+    useLocale(localeOr(QLocale::system()));
+    connectDataLayer();
+}
+
+void connectDataLayer() {
+    ado::setEmbeddedHome({.instances = [] { return workstation().driveC.real(kInstances); }, .mapPath = serverPath});
+}
+
+} // namespace platform

@@ -61,10 +61,19 @@ public:
     void addKey(std::string_view table, const KeyInfo& key);
     void removeTable(std::string_view table);
 
-    /// The next identity value of a table, used up for good also when the statement fails afterwards.
+    /// The next identity value of a table. Call it inside the transaction of the insert, which makes it unique among
+    /// all processes and costs no write of its own; throws 8115 where the type is used up. A value given stays used up
+    /// for this session whatever becomes of the transaction.
     std::int64_t nextIdentity(const TableInfo& table);
+    /// After a failed statement or a rollback: the values given since are used up for everybody. Writes (in the open
+    /// transaction, or else in one of its own) only where a rollback took one back.
+    void settleIdentities();
     /// After an insert with IDENTITY_INSERT on: later values start behind this one.
     void raiseIdentity(const TableInfo& table, std::int64_t used);
+    /// Back to the seed, as when a table is emptied by TRUNCATE.
+    void resetIdentity(const TableInfo& table);
+    /// The last value given in any session; the seed where none was.
+    std::int64_t currentIdentity(const TableInfo& table);
 
 private:
     struct State;

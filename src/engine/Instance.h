@@ -19,7 +19,8 @@ struct DatabaseEntry {
     int id = 0;
     std::string name;
     std::filesystem::path file;
-    std::string created; ///< YYYY-MM-DD hh:mm:ss.mmm
+    std::string serverPath; ///< as CREATE DATABASE named it, or else the file's own
+    std::string created;    ///< YYYY-MM-DD hh:mm:ss.mmm
 };
 
 /// A folder with databases in it, each one file. Several processes may use one instance.
@@ -37,9 +38,10 @@ public:
     virtual std::vector<DatabaseEntry> databases() const = 0;
     /// Names compare under the server's collation.
     virtual std::optional<DatabaseEntry> database(std::string_view name) const = 0;
-    /// Throws 1801, 5133.
-    virtual DatabaseEntry createDatabase(const std::string& name, const std::string& fileName, const std::string& logName) = 0;
-    /// Throws 3701.
+    /// `fileName` empty: `<name>.mdf` in the instance; a bare name lies there too. Throws 1801, 5133, 5170.
+    virtual DatabaseEntry createDatabase(const std::string& name, const std::string& fileName,
+                                         const std::string& logName) = 0;
+    /// Throws 3701, 3702 while a session uses it, 3708 for the server's own.
     virtual void dropDatabase(const std::string& name) = 0;
 
     /// Server options of sp_configure; see ServerOptions.h.
@@ -49,14 +51,17 @@ public:
         bool advanced = false;
     };
     virtual std::vector<Option> options() const = 0;
+    /// `name` may be any part that only one option has. Throws 15123, 15124, 15129.
     virtual void configure(const std::string& name, long long value) = 0;
+    /// What was configured runs from now on.
     virtual void reconfigure() = 0;
 
-    /// Options of one database, as sp_dboption sets them.
+    /// Options of one database, as sp_dboption sets them; see DatabaseOptions.h. Throws 15010 for an unknown database,
+    /// 15011 and 15242 for an option.
     virtual std::vector<std::pair<std::string, bool>> databaseOptions(const std::string& database) const = 0;
     virtual void setDatabaseOption(const std::string& database, const std::string& option, bool value) = 0;
 
-    /// Adds a login or changes its password.
+    /// Adds a login or changes its password. Names compare under the collation, passwords letter for letter.
     virtual void addLogin(const std::string& user, const std::string& password) = 0;
     virtual bool authenticates(const std::string& user, const std::string& password) const = 0;
 };

@@ -26,6 +26,11 @@ public:
     bool anyHeldByOthers() const;
     bool heldByOthers(std::string_view table, std::int64_t row) const;
 
+    /// Whether any session has an object for the database.
+    static bool databaseInUse(const std::filesystem::path& database);
+    /// For a database that goes away.
+    static void removeFile(const std::filesystem::path& database);
+
 private:
     struct State;
     std::unique_ptr<State> state_;

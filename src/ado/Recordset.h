@@ -81,6 +81,10 @@ public:
     void setAbsolutePosition(long position);
     long RecordCount() const; ///< -1 on forward-only and dynamic cursors
 
+    /// For controls that draw many rows: a value by place (from 1, as the filter leaves them) and column, without moving.
+    /// Error 3021 where there is no such row.
+    ado::Value ValueAt(long position, int column) const;
+
     /// Told after every change of row, of rows or of filter, so that a control can follow.
     void onChange(std::function<void()> listener);
 

@@ -40,7 +40,9 @@ Error unclosedQuote(const std::string& rest, int position);            // 105
 Error unclosedComment(int position);                                   // 113
 Error tooManyPrefixes(const std::string& name, int position);          // 117
 Error undeclaredVariable(const std::string& variable, int position);   // 137
+Error sizeBeyondAnyType(const std::string& kind, const std::string& name, const std::string& size, int position); // 131
 Error syntaxNearKeyword(const std::string& keyword, int position);     // 156
+Error scaleOutOfRange(const std::string& scale, const std::string& name, int maximum, int position); // 183
 Error ambiguousColumn(const std::string& column);                      // 209
 Error unboundIdentifier(const std::string& identifier);                // 4104
 Error invalidColumn(const std::string& column);                        // 207
@@ -49,6 +51,7 @@ Error dateConversion();                                                // 241
 Error dateOutOfRange();                                                // 242
 Error undefinedType(const std::string& type, int position);            // 243
 Error intConversion(const std::string& type, const std::string& value, const std::string& target); // 245
+Error invalidCollation(const std::string& collation, int position);    // 448
 Error nullIntoColumn(const std::string& column, const std::string& table, const std::string& verb); // 515
 Error explicitIdentity(const std::string& table);                      // 544
 Error databaseMissing(const std::string& database);                    // 911
@@ -62,7 +65,8 @@ Error duplicateIndexKey(const std::string& table, const std::string& index);    
 Error duplicateColumn(const std::string& column, const std::string& table); // 2705
 Error objectExists(const std::string& object);                         // 2714
 Error typeMissing(int ordinal, const std::string& type, int position); // 2715
-Error sizeExceeded(const std::string& size, const std::string& column, int maximum, int position); // 2717
+Error sizeExceeded(const std::string& kind, const std::string& name, const std::string& size, int maximum, int position); // 2717
+Error precisionExceeded(int ordinal, const std::string& precision, int position); // 2750
 Error procedureMissing(const std::string& procedure);                  // 2812
 Error cannotDrop(const std::string& kind, const std::string& object);  // 3701
 Error cannotOpenDatabase(const std::string& database);                 // 4060

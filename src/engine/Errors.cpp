@@ -39,8 +39,22 @@ Error undeclaredVariable(const std::string& variable, int position) {
     return {137, "Must declare the scalar variable \"" + variable + "\".", Reach::Batch, position};
 }
 
+Error sizeBeyondAnyType(const std::string& kind, const std::string& name, const std::string& size, int position) {
+    return {131,
+            "The size (" + size + ") given to the " + kind + " " + quoted(name) +
+                " exceeds the maximum allowed for any data type (8000).",
+            Reach::Batch, position};
+}
+
 Error syntaxNearKeyword(const std::string& keyword, int position) {
     return {156, "Incorrect syntax near the keyword " + quoted(keyword) + ".", Reach::Batch, position};
+}
+
+Error scaleOutOfRange(const std::string& scale, const std::string& name, int maximum, int position) {
+    return {183,
+            "The scale (" + scale + ") for column " + quoted(name) + " must be within the range 0 to " +
+                std::to_string(maximum) + ".",
+            Reach::Batch, position};
 }
 
 Error nestedTooDeep() {
@@ -80,6 +94,10 @@ Error intConversion(const std::string& type, const std::string& value, const std
             "Conversion failed when converting the " + type + " value " + quoted(value) + " to data type " + target +
                 ".",
             Reach::Batch};
+}
+
+Error invalidCollation(const std::string& collation, int position) {
+    return {448, "Invalid collation " + quoted(collation) + ".", Reach::Batch, position};
 }
 
 Error nullIntoColumn(const std::string& column, const std::string& table, const std::string& verb) {
@@ -142,10 +160,18 @@ Error typeMissing(int ordinal, const std::string& type, int position) {
             Reach::Batch, position};
 }
 
-Error sizeExceeded(const std::string& size, const std::string& column, int maximum, int position) {
+Error sizeExceeded(const std::string& kind, const std::string& name, const std::string& size, int maximum,
+                   int position) {
     return {2717,
-            "The size (" + size + ") given to the column " + quoted(column) + " exceeds the maximum allowed (" +
+            "The size (" + size + ") given to the " + kind + " " + quoted(name) + " exceeds the maximum allowed (" +
                 std::to_string(maximum) + ").",
+            Reach::Batch, position};
+}
+
+Error precisionExceeded(int ordinal, const std::string& precision, int position) {
+    return {2750,
+            "Column or parameter #" + std::to_string(ordinal) + ": Specified column precision " + precision +
+                " is greater than the maximum precision of 38.",
             Reach::Batch, position};
 }
 

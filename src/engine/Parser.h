@@ -8,6 +8,8 @@ namespace engine {
 
 /// Deepest nesting of expressions, selects and brackets that the parser follows; deeper is error 191.
 inline constexpr int kDeepestNesting = 200;
+/// Tallest tree of one expression; a longer chain of operators is error 191, so that every stage may recurse.
+inline constexpr int kTallestTree = 900;
 /// Longest batch in bytes.
 inline constexpr std::size_t kLongestBatch = 65536 * 4096ULL;
 

@@ -103,7 +103,7 @@ struct Conversion {
 
 /// @@name
 struct ServerVariable {
-    std::string name;
+    std::string name; ///< without the @@
 };
 
 struct Expression {
@@ -196,6 +196,7 @@ struct ColumnDefinition {
     DataType type;
     std::optional<bool> nullable; ///< as written, nothing where neither NULL nor NOT NULL stands
     ExpressionPtr defaultValue;
+    std::string defaultText; ///< the default as the script wrote it
     std::string defaultName; ///< of CONSTRAINT name DEFAULT, may be empty
     bool identity = false;
     long long identitySeed = 1, identityIncrement = 1;

@@ -1,0 +1,15 @@
+# cmake -DOUTPUT=<file.cpp> -P EmbedScripts.cmake -- <file.sql>…: a table of the scripts' names and texts.
+
+set(entries "")
+set(reading FALSE)
+foreach(index RANGE 1 ${CMAKE_ARGC})
+    set(file "${CMAKE_ARGV${index}}")
+    if(reading AND file)
+        get_filename_component(name "${file}" NAME)
+        file(READ "${file}" text)
+        string(APPEND entries "    {\"${name}\", R\"sql(${text})sql\"},\n")
+    elseif(file STREQUAL "--")
+        set(reading TRUE)
+    endif()
+endforeach()
+file(WRITE "${OUTPUT}" "#include \"provision/Scripts.h\"\n\nnamespace provision {\n\nconst std::vector<Script>& scripts() {\n    static const std::vector<Script> all = {\n${entries}    };\n    return all;\n}\n\n} // namespace provision\n")

@@ -1,0 +1,11 @@
+#pragma once
+
+#include "engine/Session.h"
+
+namespace provision {
+
+/// Fills `stati` and `ZoneGeografiche` of an empty company: Italy first, the others by their Italian names, each with
+/// codes, currency and area.
+void addStates(engine::Session& session);
+
+} // namespace provision

@@ -1,6 +1,7 @@
 #pragma once
 
-// The three rules of failure. A procedure names its rule in its first lines; nothing else catches.
+// The three rules of failure: skip the statement (salta, vera), tell and end (oFine), go to a step of recovery
+// (riesce). A procedure names its rule in its first lines; nothing else catches.
 
 #include "platform/Process.h"
 
@@ -19,7 +20,7 @@ void Saltato(const std::exception& errore); ///< tells the logging category vabo
 } // namespace regole
 
 /// A failing statement is skipped and the next one runs.
-template <typename Istruzione>
+template<typename Istruzione>
 void salta(Istruzione&& istruzione) {
     try {
         istruzione();
@@ -29,7 +30,7 @@ void salta(Istruzione&& istruzione) {
 }
 
 /// A failing test counts as true.
-template <typename Prova>
+template<typename Prova>
 bool vera(Prova&& prova) {
     try {
         return static_cast<bool>(prova());
@@ -39,8 +40,20 @@ bool vera(Prova&& prova) {
     }
 }
 
+/// Whether a statement went well; where it failed the caller goes to its step of recovery.
+template<typename Istruzione>
+bool riesce(Istruzione&& istruzione) {
+    try {
+        istruzione();
+        return true;
+    } catch (const std::exception& errore) {
+        regole::Saltato(errore);
+        return false;
+    }
+}
+
 /// The error's own description in a box, then the end of the process.
-template <typename Procedura>
+template<typename Procedura>
 void oFine(Procedura&& procedura) {
     try {
         procedura();

@@ -9,6 +9,7 @@
 #include <cstdint>
 #include <memory>
 #include <string>
+#include <vector>
 
 namespace vabo {
 
@@ -62,6 +63,9 @@ extern std::string Sql, SqlLavoro, Appoggio;
 extern double IdAzienda, IdAziendaLavoro, IdAziendaScelta, IdSede, IdSedeCopia, TentativiLogin;
 extern Flag ClienteDornavel, ServerMancante;
 extern Diritti DirittiUtente;
+/// The forms under the present one, and the index of the top.
+extern std::vector<std::string> PilaForm;
+extern double CimaForm;
 
 /// Everything as at the start of the process.
 void AzzeraVariabili();

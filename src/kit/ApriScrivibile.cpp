@@ -1,0 +1,9 @@
+#include "kit/ApriScrivibile.h"
+
+namespace vabo {
+
+void ApriScrivibile(ado::Recordset& rs, const std::string& testo, ado::Connection& connessione) {
+    rs.Open(testo, connessione, ado::CursorType::Keyset, ado::LockType::Pessimistic);
+}
+
+} // namespace vabo

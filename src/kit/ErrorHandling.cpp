@@ -1,0 +1,25 @@
+#include "kit/ErrorHandling.h"
+
+#include "kit/Regole.h"
+#include "session/variabili.h"
+
+namespace vabo {
+
+// To be repeated while the error state stays set; but a state that is set is an error raised, which leaves at once.
+void AggiornaRecord(ado::Recordset& rs) {
+    rs.Update();
+}
+
+// Failing statements are skipped.
+std::string ChiudiRecordset() {
+    for (int posto = 1; posto <= RecordsetCondivisi::kNumero; ++posto) {
+        RsCondivisi.Rilascia(posto);
+    }
+    if (DbLocale) {
+        salta([] { DbLocale->Close(); });
+        DbLocale.reset();
+    }
+    return {};
+}
+
+} // namespace vabo

@@ -1,0 +1,15 @@
+#pragma once
+
+#include "ado/Recordset.h"
+
+#include <string>
+
+namespace vabo {
+
+/// Updates the current record. An update that fails raises in the caller, whose rule decides.
+void AggiornaRecord(ado::Recordset& rs);
+
+/// Closes and drops all shared recordsets and DbLocale; the three long-lived connections stay. Always the empty text.
+std::string ChiudiRecordset();
+
+} // namespace vabo

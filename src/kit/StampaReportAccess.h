@@ -1,0 +1,11 @@
+#pragma once
+
+#include <cstdint>
+#include <string>
+
+namespace vabo {
+
+/// Opens a report of a local database in the report application. A machine without it shows and reports nothing.
+void StampaReportAccess(const std::string& percorso, const std::string& report, std::int16_t vista);
+
+} // namespace vabo

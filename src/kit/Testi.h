@@ -1,0 +1,16 @@
+#pragma once
+
+#include "ado/Value.h"
+
+#include <string>
+
+namespace vabo {
+
+/// Case of all letters, accents included.
+std::string Minuscolo(const std::string& testo);
+std::string Maiuscolo(const std::string& testo);
+
+/// A value as a piece of a concatenation: null is nothing and raises nothing.
+std::string Pezzo(const ado::Value& valore);
+
+} // namespace vabo

@@ -1,0 +1,88 @@
+#include "session/Avviamento.h"
+
+#include "ado/Conversions.h"
+#include "kit/ApriScrivibile.h"
+#include "kit/ErrorHandling.h"
+#include "kit/LinguaClient.h"
+#include "kit/PulisciNome.h"
+#include "kit/Regole.h"
+#include "platform/Workstation.h"
+#include "rights/AbilitazioneUtente.h"
+#include "session/ApriAzienda.h"
+#include "session/ApriDbSede.h"
+#include "session/Aziende.h"
+#include "session/variabili.h"
+
+namespace vabo {
+
+namespace {
+
+constexpr const char* kOpzioniServer =
+    "EXEC sys.sp_configure N'show advanced options', N'1'  RECONFIGURE WITH OVERRIDE"
+    "\r\n"
+    " EXEC sys.sp_configure N'min memory per query (KB)', N'10240'"
+    "\r\n"
+    " RECONFIGURE WITH OVERRIDE "
+    "\r\n"
+    " EXEC sys.sp_configure N'show advanced options', N'0'  RECONFIGURE WITH OVERRIDE";
+
+} // namespace
+
+std::string TestoVersione() {
+    const platform::Workstation& macchina = platform::workstation();
+    return "Ver. " + std::to_string(macchina.versionMajor) + "." + std::to_string(macchina.versionMinor) + "." +
+           std::to_string(macchina.versionRevision);
+}
+
+std::string TestoDatabase() {
+    return "DataBase :   " + NomeAzienda;
+}
+
+void PrendiAziendaDelTerminale() {
+    std::string nome = platform::workstation().machineName;
+    NomeTerminale = PulisciNome(nome);
+    IdAziendaLavoro = AziendaTerminale();
+    IdAziendaScelta = IdAziendaLavoro;
+    ApriAzienda(IdAziendaLavoro);
+    ClienteDornavel = kFalso;
+}
+
+void RiconosciDornavel() {
+    if (ado::matches(NomeAzienda, "*dornavel*")) {
+        ClienteDornavel = kVero;
+    }
+}
+
+void ApriSedeDiAvvio() {
+    if (ServerMancante != kFalso) {
+        return;
+    }
+    salta([] { DbAzienda.Open(ConnessioneAzienda()); });
+    IndirizzoVabodatiCopia = IndirizzoVabodati;
+    LeggiSede();
+    ChiudiRecordset();
+}
+
+void PrendiLingua() {
+    salta([] { LinguaCorrente = LeggiLinguaClient(""); });
+}
+
+void PreparaServer() {
+    salta([] { DbAzienda.Execute(kOpzioniServer); });
+    LeggiIndirizzoMdf();
+    salta([] { ApriDbTemp(); });
+    ChiudiRecordset();
+}
+
+bool ServeLogin() {
+    ado::Recordset& rs = RsCondivisi(2);
+    salta([&] { ApriScrivibile(rs, "AbilitazioneAccessi", DbAzienda); });
+    const bool nessuno = vera([&] { return rs.EOF(); });
+    if (nessuno) {
+        DirittiUtente = kDirittiAvvioSenzaUtenti;
+    }
+    ChiudiRecordset();
+    return !nessuno;
+}
+
+} // namespace vabo

@@ -33,8 +33,8 @@ public:
     /// Runs a text to its end and gives the rows written; the first error raises. Error 3704 when closed.
     std::int64_t Execute(const std::string& text);
 
-    /// For Recordset: the road below. Error 3709 when closed.
-    DriverConnection& road();
+    /// For Recordset: the road below, alive as long as anybody uses it. Error 3709 when closed.
+    std::shared_ptr<DriverConnection> road();
 
 private:
     std::string connectionString_;

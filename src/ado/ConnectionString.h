@@ -1,5 +1,6 @@
 #pragma once
 
+#include <initializer_list>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -24,6 +25,9 @@ public:
     std::string password() const; ///< PWD, Password
 
 private:
+    /// The value of the first pair whose key is one of the names, empty where there is none.
+    std::string firstOf(std::initializer_list<std::string_view> names) const;
+
     std::string text_;
     std::vector<std::pair<std::string, std::string>> pairs_;
 };

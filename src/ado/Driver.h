@@ -14,7 +14,21 @@
 
 namespace ado {
 
-enum class FieldType { Boolean, Byte, SmallInt, Integer, BigInt, Single, Double, Currency, Decimal, DateTime, Char, WChar, Binary };
+enum class FieldType {
+    Boolean,
+    Byte,
+    SmallInt,
+    Integer,
+    BigInt,
+    Single,
+    Double,
+    Currency,
+    Decimal,
+    DateTime,
+    Char,
+    WChar,
+    Binary
+};
 
 struct FieldDescription {
     std::string name;
@@ -59,6 +73,8 @@ public:
     virtual std::unique_ptr<DriverHold> hold(std::string_view select) = 0;
     /// The identity given by this connection's last INSERT, 0 where none.
     virtual std::int64_t lastIdentity() = 0;
+    /// The columns of a table's primary key, none where it has none.
+    virtual std::vector<std::string> primaryKey(const std::string& table) = 0;
     virtual bool alive() const = 0;
 };
 

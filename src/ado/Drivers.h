@@ -16,6 +16,9 @@ struct EmbeddedHome {
 
 void setEmbeddedHome(EmbeddedHome home);
 
+/// Where a path of the server's own lies on this machine.
+std::filesystem::path mapServerPath(std::string_view path);
+
 /// The folder of the instance of that server name, whether it exists or not.
 std::filesystem::path instanceFolder(std::string_view server);
 

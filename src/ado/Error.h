@@ -49,6 +49,8 @@ public:
 
     /// Adds where it happened, innermost first, as the error rises.
     Error& in(const std::string& place);
+    /// Keeps the statement that was refused; the innermost one stays.
+    Error& during(const std::string& statement);
 
     const char* what() const noexcept override { return description_.c_str(); }
 

@@ -49,8 +49,8 @@ public:
     void Open(const std::string& source, Connection& connection, CursorType cursor = CursorType::ForwardOnly,
               LockType lock = LockType::ReadOnly, int options = -1);
     /// On a connection of its own, closed with the recordset.
-    void Open(const std::string& source, const std::string& connectionString, CursorType cursor = CursorType::ForwardOnly,
-              LockType lock = LockType::ReadOnly, int options = -1);
+    void Open(const std::string& source, const std::string& connectionString,
+              CursorType cursor = CursorType::ForwardOnly, LockType lock = LockType::ReadOnly, int options = -1);
     void Close();
     bool IsOpen() const;
     const std::string& Source() const;
@@ -81,8 +81,8 @@ public:
     void setAbsolutePosition(long position);
     long RecordCount() const; ///< -1 on forward-only and dynamic cursors
 
-    /// For controls that draw many rows: a value by place (from 1, as the filter leaves them) and column, without moving.
-    /// Error 3021 where there is no such row.
+    /// For controls that draw many rows: a value by place (from 1, as the filter leaves them) and column, without
+    /// moving. Error 3021 where there is no such row.
     ado::Value ValueAt(long position, int column) const;
 
     /// Told after every change of row, of rows or of filter, so that a control can follow.

@@ -45,8 +45,8 @@ struct Decimal {
 /// A value of a field: empty (never set), null, or one of the types of the data layer. Texts are UTF-8.
 class Value {
 public:
-    using Variant = std::variant<std::monostate, Null, bool, std::uint8_t, std::int16_t, std::int32_t, float, double, Currency,
-                                 Decimal, Date, std::string>;
+    using Variant = std::variant<std::monostate, Null, bool, std::uint8_t, std::int16_t, std::int32_t, float, double,
+                                 Currency, Decimal, Date, std::string>;
 
     Value() = default;
     Value(Null value) : value_(value) {}

@@ -1,0 +1,120 @@
+#include "ado/Drivers.h"
+
+#include "ado/Names.h"
+#include "ado/drivers/embedded/EmbeddedDriver.h"
+
+#include <algorithm>
+#include <initializer_list>
+#include <system_error>
+#include <utility>
+
+namespace ado {
+
+namespace {
+
+namespace fs = std::filesystem;
+
+EmbeddedHome& home() {
+    static EmbeddedHome current;
+    return current;
+}
+
+fs::path fromUtf8(std::string_view text) {
+    return {std::u8string(text.begin(), text.end())};
+}
+
+std::string toUtf8(const fs::path& path) {
+    const std::u8string text = path.u8string();
+    return {text.begin(), text.end()};
+}
+
+/// A server's name as the name of one folder: "\" reads "$"; what means something to a file system is spelt in hex, so
+/// that no name leads out of the folder of the instances.
+std::string folderName(std::string_view server) {
+    static constexpr std::string_view kHexDigits = "0123456789ABCDEF";
+    static constexpr std::string_view kUnsafe = "/:*?\"<>|%";
+    const bool onlyDots = server.find_first_not_of('.') == std::string_view::npos;
+    std::string name;
+    for (const char c : server) {
+        const auto byte = static_cast<unsigned char>(c);
+        if (c == '\\')
+            name += '$';
+        else if (byte < 0x20 || kUnsafe.find(c) != std::string_view::npos || (onlyDots && c == '.'))
+            (name += '%').append({kHexDigits[byte >> 4U], kHexDigits[byte & 15U]});
+        else
+            name += c;
+    }
+    return name;
+}
+
+bool anyOf(std::string_view text, std::initializer_list<std::string_view> words) {
+    return std::ranges::any_of(words, [&](std::string_view word) { return sameName(text, word); });
+}
+
+void checkProvider(const ConnectionString& text) {
+    const std::string provider = text.provider();
+    if (!provider.empty() &&
+        !anyOf(provider, {"SQLOLEDB", "SQLOLEDB.1", "SQLNCLI", "SQLNCLI10", "SQLNCLI11", "MSOLEDBSQL", "MSDASQL"}))
+        throw Error(kProviderNotFound);
+}
+
+void checkSecurity(const ConnectionString& text) {
+    const auto security = text.value("Integrated Security");
+    if (security && !anyOf(*security, {"SSPI", "true", "yes", "false", "no"}))
+        throw Error(kMultipleStep);
+}
+
+/// The road to servers of the network, until a driver for it stands here: every one of them is out of reach.
+class UnreachableServer : public Driver {
+public:
+    const char* name() const override { return "unreachable"; }
+    std::unique_ptr<DriverConnection> connect(const ConnectionString&) override {
+        throw Error(kUnspecified, "Server does not exist or access denied.", "08001", 0, {});
+    }
+};
+
+Driver& embeddedDriver() {
+    static EmbeddedDriver driver;
+    return driver;
+}
+
+Driver& networkDriver() {
+    static UnreachableServer driver;
+    return driver;
+}
+
+} // namespace
+
+void setEmbeddedHome(EmbeddedHome newHome) {
+    home() = std::move(newHome);
+}
+
+fs::path mapServerPath(std::string_view path) {
+    return home().mapPath ? home().mapPath(path) : fromUtf8(path);
+}
+
+fs::path instanceFolder(std::string_view server) {
+    if (!home().instances)
+        return {};
+    const fs::path instances = home().instances();
+    const std::string name = folderName(server);
+    const fs::path spelt = instances / fromUtf8(name);
+    std::error_code ignored;
+    if (name.empty() || fs::exists(spelt, ignored))
+        return spelt;
+    for (const fs::directory_entry& entry : fs::directory_iterator(instances, ignored)) {
+        if (sameName(toUtf8(entry.path().filename()), name))
+            return entry.path();
+    }
+    return spelt;
+}
+
+Driver& driverFor(const ConnectionString& text) {
+    checkProvider(text);
+    checkSecurity(text);
+    std::error_code ignored;
+    const bool embedded = !text.server().empty() && fs::is_directory(instanceFolder(text.server()), ignored);
+    return embedded ? embeddedDriver() : networkDriver();
+}
+
+} // namespace ado

@@ -1,0 +1,173 @@
+#include "ado/drivers/embedded/EmbeddedDriver.h"
+
+#include "ado/Drivers.h"
+#include "ado/ServerErrors.h"
+#include "engine/Session.h"
+
+#include <array>
+#include <utility>
+
+namespace ado {
+
+namespace {
+
+using SessionPtr = std::shared_ptr<engine::Session>;
+
+/// The one border at which the engine's refusals become the data layer's.
+template<typename Work>
+decltype(auto) translated(Work&& work) {
+    try {
+        return work();
+    } catch (const engine::Error& error) {
+        throw serverError(error.number(), error.what());
+    } catch (const std::runtime_error& error) {
+        throw serverError(0, error.what());
+    }
+}
+
+FieldType fieldType(const engine::DataType& type) {
+    using Kind = engine::DataType::Kind;
+    struct Pair {
+        Kind kind;
+        FieldType field;
+    };
+    static constexpr std::array kPairs = std::to_array<Pair>({
+        {Kind::Unknown, FieldType::Integer},
+        {Kind::Bit, FieldType::Boolean},
+        {Kind::TinyInt, FieldType::Byte},
+        {Kind::SmallInt, FieldType::SmallInt},
+        {Kind::Int, FieldType::Integer},
+        {Kind::BigInt, FieldType::BigInt},
+        {Kind::Decimal, FieldType::Decimal},
+        {Kind::Real, FieldType::Single},
+        {Kind::Float, FieldType::Double},
+        {Kind::DateTime, FieldType::DateTime},
+        {Kind::Char, FieldType::Char},
+        {Kind::VarChar, FieldType::Char},
+        {Kind::NChar, FieldType::WChar},
+        {Kind::NVarChar, FieldType::WChar},
+        {Kind::VarBinary, FieldType::Binary},
+    });
+    // The engine keeps money and smallmoney as the decimals that they are.
+    if (type.kind == Kind::Decimal && type.scale == 4 && (type.precision == 19 || type.precision == 10))
+        return FieldType::Currency;
+    for (const Pair& pair : kPairs) {
+        if (pair.kind == type.kind)
+            return pair.field;
+    }
+    return FieldType::WChar;
+}
+
+FieldDescription describe(const engine::ResultColumn& column) {
+    FieldDescription field;
+    field.name = column.name;
+    field.type = fieldType(column.type);
+    field.length = column.type.length;
+    field.precision = column.type.precision;
+    field.scale = column.type.scale;
+    field.nullable = column.nullable;
+    field.identity = column.identity;
+    field.key = column.key;
+    field.baseTable = column.baseTable;
+    field.baseColumn = column.baseColumn;
+    return field;
+}
+
+class EmbeddedResult : public DriverResult {
+public:
+    EmbeddedResult(SessionPtr session, std::unique_ptr<engine::Batch> batch)
+        : session_(std::move(session)), batch_(std::move(batch)) {}
+
+    bool nextResult() override {
+        fields_.clear();
+        if (!translated([&] { return batch_->nextResult(); }))
+            return false;
+        for (const engine::ResultColumn& column : batch_->columns())
+            fields_.push_back(describe(column));
+        return true;
+    }
+    bool hasRows() const override { return batch_->hasRows(); }
+    const std::vector<FieldDescription>& fields() const override { return fields_; }
+    std::int64_t affected() const override { return batch_->affected(); }
+
+    bool nextRow() override {
+        return translated([&] { return batch_->nextRow(); });
+    }
+    bool isNull(int field) const override { return batch_->isNull(field); }
+    std::int64_t integer(int field) const override { return batch_->integer(field); }
+    double real(int field) const override { return batch_->real(field); }
+    std::string_view text(int field) const override { return batch_->text(field); }
+
+private:
+    SessionPtr session_;
+    std::unique_ptr<engine::Batch> batch_; // ends before its session
+    std::vector<FieldDescription> fields_;
+};
+
+std::unique_ptr<DriverResult> runOn(const SessionPtr& session, std::string_view text) {
+    return std::make_unique<EmbeddedResult>(session, translated([&] { return session->execute(text); }));
+}
+
+/// This session's own writes pass its holds, so a text may go the usual road.
+class EmbeddedHold : public DriverHold {
+public:
+    EmbeddedHold(SessionPtr session, std::unique_ptr<engine::RowHold> rows)
+        : session_(std::move(session)), rows_(std::move(rows)) {}
+
+    std::unique_ptr<DriverResult> run(std::string_view text) override { return runOn(session_, text); }
+
+private:
+    SessionPtr session_;
+    std::unique_ptr<engine::RowHold> rows_;
+};
+
+class EmbeddedConnection : public DriverConnection {
+public:
+    explicit EmbeddedConnection(SessionPtr session) : session_(std::move(session)) {}
+
+    std::unique_ptr<DriverResult> run(std::string_view text) override { return runOn(session_, text); }
+
+    std::unique_ptr<DriverHold> hold(std::string_view select) override {
+        return std::make_unique<EmbeddedHold>(session_, translated([&] { return session_->hold(select); }));
+    }
+
+    std::int64_t lastIdentity() override { return session_->lastIdentity(); }
+
+    std::vector<std::string> primaryKey(const std::string& table) override {
+        std::vector<std::string> columns;
+        const auto result = run("SELECT * FROM [" + table + "] WHERE 1 = 0");
+        if (!result->nextResult())
+            return columns;
+        for (const FieldDescription& field : result->fields()) {
+            if (field.key)
+                columns.push_back(field.baseColumn);
+        }
+        return columns;
+    }
+
+    bool alive() const override { return true; }
+
+private:
+    SessionPtr session_;
+};
+
+} // namespace
+
+std::shared_ptr<engine::Instance> EmbeddedDriver::instance(const std::filesystem::path& folder) {
+    std::weak_ptr<engine::Instance>& known = instances_[folder];
+    if (auto living = known.lock())
+        return living;
+    auto opened = engine::Instance::open(folder, {[](std::string_view path) { return mapServerPath(path); }});
+    known = opened;
+    return opened;
+}
+
+std::unique_ptr<DriverConnection> EmbeddedDriver::connect(const ConnectionString& text) {
+    return translated([&] {
+        const engine::Login login{text.user(), text.password(), text.database()};
+        SessionPtr session = engine::Session::open(instance(instanceFolder(text.server())), login);
+        return std::make_unique<EmbeddedConnection>(std::move(session));
+    });
+}
+
+} // namespace ado

@@ -1,0 +1,44 @@
+#pragma once
+
+// The checked door to ODBC: handles that own themselves, and one function that turns a return code into an answer.
+
+#include "ado/Error.h"
+
+#include <sql.h>
+#include <sqlext.h>
+
+#include <string>
+#include <string_view>
+
+namespace ado::odbc {
+
+/// Owns one handle of its kind.
+class Handle {
+public:
+    Handle() = default;
+    /// Throws Error where the handle can't be had.
+    Handle(SQLSMALLINT kind, SQLHANDLE parent);
+    ~Handle();
+    Handle(Handle&& other) noexcept;
+    Handle& operator=(Handle&& other) noexcept;
+
+    SQLHANDLE get() const { return handle_; }
+    SQLSMALLINT kind() const { return kind_; }
+    explicit operator bool() const { return handle_ != nullptr; }
+
+private:
+    SQLSMALLINT kind_ = 0;
+    SQLHANDLE handle_ = nullptr;
+};
+
+/// The process's environment, with connection pooling on.
+SQLHANDLE environment();
+
+/// True for success with or without information, false for "no data" and "need data". Throws Error with all diagnostic
+/// records of the handle: the first one that is an error gives number and text, the others follow as context.
+bool check(SQLRETURN code, const Handle& handle, const char* call);
+
+std::u16string toUtf16(std::string_view text);
+std::string toUtf8(const SQLWCHAR* text, std::size_t characters);
+
+} // namespace ado::odbc

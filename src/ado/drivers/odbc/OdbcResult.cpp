@@ -1,0 +1,169 @@
+#include "ado/drivers/odbc/OdbcResult.h"
+
+#include <array>
+#include <cstdio>
+
+namespace ado::odbc {
+
+namespace {
+
+constexpr std::size_t kTextPiece = 4096;
+constexpr SQLULEN kLongestText = 4000;
+
+FieldType fieldType(SQLSMALLINT type) {
+    switch (type) {
+    case SQL_BIT:
+        return FieldType::Boolean;
+    case SQL_TINYINT:
+        return FieldType::Byte;
+    case SQL_SMALLINT:
+        return FieldType::SmallInt;
+    case SQL_INTEGER:
+        return FieldType::Integer;
+    case SQL_BIGINT:
+        return FieldType::BigInt;
+    case SQL_REAL:
+        return FieldType::Single;
+    case SQL_FLOAT:
+    case SQL_DOUBLE:
+        return FieldType::Double;
+    case SQL_DECIMAL:
+    case SQL_NUMERIC:
+        return FieldType::Decimal;
+    case SQL_TYPE_DATE:
+    case SQL_TYPE_TIMESTAMP:
+        return FieldType::DateTime;
+    case SQL_BINARY:
+    case SQL_VARBINARY:
+    case SQL_LONGVARBINARY:
+        return FieldType::Binary;
+    case SQL_CHAR:
+    case SQL_VARCHAR:
+    case SQL_LONGVARCHAR:
+        return FieldType::Char;
+    default:
+        return FieldType::WChar;
+    }
+}
+
+} // namespace
+
+OdbcResult::OdbcResult(SQLHANDLE connection, std::string_view text)
+    : statement_(SQL_HANDLE_STMT, connection), buffer_(kTextPiece) {
+    std::u16string wide = toUtf16(text);
+    executed_ = SQLExecDirectW(statement_.get(), reinterpret_cast<SQLWCHAR*>(wide.data()),
+                               static_cast<SQLINTEGER>(wide.size()));
+}
+
+bool OdbcResult::nextResult() {
+    const SQLRETURN code = started_ ? SQLMoreResults(statement_.get()) : executed_;
+    const bool first = !started_;
+    started_ = true;
+    fields_.clear();
+    affected_ = -1;
+    // A searched UPDATE or DELETE that met no row is "no data", and a result all the same.
+    if (!check(code, statement_, first ? "SQLExecDirect" : "SQLMoreResults") && !first)
+        return false;
+    describe();
+    return true;
+}
+
+void OdbcResult::describe() {
+    SQLSMALLINT columns = 0;
+    check(SQLNumResultCols(statement_.get(), &columns), statement_, "SQLNumResultCols");
+    for (SQLSMALLINT number = 1; number <= columns; ++number)
+        fields_.push_back(describeField(static_cast<SQLUSMALLINT>(number)));
+    cells_.resize(fields_.size());
+    if (columns > 0)
+        return;
+    SQLLEN rows = -1;
+    check(SQLRowCount(statement_.get(), &rows), statement_, "SQLRowCount");
+    affected_ = rows;
+}
+
+FieldDescription OdbcResult::describeField(SQLUSMALLINT number) {
+    std::array<SQLWCHAR, 256> name{};
+    SQLSMALLINT length = 0, type = 0, digits = 0, nullable = 0;
+    SQLULEN size = 0;
+    check(SQLDescribeColW(statement_.get(), number, name.data(), static_cast<SQLSMALLINT>(name.size()), &length, &type,
+                          &size, &digits, &nullable),
+          statement_, "SQLDescribeCol");
+    SQLLEN identity = SQL_FALSE;
+    SQLColAttributeW(statement_.get(), number, SQL_DESC_AUTO_UNIQUE_VALUE, nullptr, 0, nullptr, &identity);
+
+    FieldDescription field;
+    field.name = toUtf8(name.data(), static_cast<std::size_t>(length));
+    field.type = fieldType(type);
+    field.length = size == 0 || size > kLongestText ? -1 : static_cast<int>(size);
+    field.precision = static_cast<int>(size);
+    field.scale = digits;
+    field.nullable = nullable != SQL_NO_NULLS;
+    field.identity = identity == SQL_TRUE;
+    return field;
+}
+
+bool OdbcResult::nextRow() {
+    if (!check(SQLFetch(statement_.get()), statement_, "SQLFetch"))
+        return false;
+    for (SQLUSMALLINT number = 1; number <= fields_.size(); ++number)
+        read(number);
+    return true;
+}
+
+void OdbcResult::read(SQLUSMALLINT number) {
+    Cell& cell = cells_[number - 1U];
+    SQLLEN length = 0;
+    const auto get = [&](SQLSMALLINT type, SQLPOINTER target, SQLLEN room) {
+        check(SQLGetData(statement_.get(), number, type, target, room, &length), statement_, "SQLGetData");
+        cell.null = length == SQL_NULL_DATA;
+    };
+    switch (fields_[number - 1U].type) {
+    case FieldType::Boolean:
+    case FieldType::Byte:
+    case FieldType::SmallInt:
+    case FieldType::Integer:
+    case FieldType::BigInt:
+        get(SQL_C_SBIGINT, &cell.integer, sizeof cell.integer);
+        return;
+    case FieldType::Single:
+    case FieldType::Double:
+        get(SQL_C_DOUBLE, &cell.real, sizeof cell.real);
+        return;
+    case FieldType::DateTime: {
+        SQL_TIMESTAMP_STRUCT at{};
+        get(SQL_C_TYPE_TIMESTAMP, &at, sizeof at);
+        std::array<char, 32> written{};
+        std::snprintf(written.data(), written.size(), "%04d-%02u-%02u %02u:%02u:%02u.%03u", at.year, at.month, at.day,
+                      at.hour, at.minute, at.second, static_cast<unsigned>(at.fraction / 1'000'000));
+        cell.text = written.data();
+        return;
+    }
+    default:
+        readText(number, cell);
+        return;
+    }
+}
+
+void OdbcResult::readText(SQLUSMALLINT number, Cell& cell) {
+    cell.text.clear();
+    cell.null = false;
+    while (true) {
+        SQLLEN length = 0;
+        const SQLRETURN code = SQLGetData(statement_.get(), number, SQL_C_WCHAR, buffer_.data(),
+                                          static_cast<SQLLEN>(buffer_.size() * sizeof(SQLWCHAR)), &length);
+        if (!check(code, statement_, "SQLGetData"))
+            return;
+        if (length == SQL_NULL_DATA) {
+            cell.null = true;
+            return;
+        }
+        const std::size_t room = buffer_.size() - 1;
+        const auto characters = static_cast<std::size_t>(length) / sizeof(SQLWCHAR);
+        const bool more = code == SQL_SUCCESS_WITH_INFO && (length == SQL_NO_TOTAL || characters > room);
+        cell.text += toUtf8(buffer_.data(), more ? room : characters);
+        if (!more)
+            return;
+    }
+}
+
+} // namespace ado::odbc

@@ -1,0 +1,49 @@
+#pragma once
+
+#include "ado/Driver.h"
+#include "ado/drivers/odbc/OdbcHandles.h"
+
+#include <string>
+#include <vector>
+
+namespace ado::odbc {
+
+/// The results of one text on a statement of its own, fetched row by row without a cursor of the driver's.
+class OdbcResult : public DriverResult {
+public:
+    OdbcResult(SQLHANDLE connection, std::string_view text);
+
+    bool nextResult() override;
+    bool hasRows() const override { return !fields_.empty(); }
+    const std::vector<FieldDescription>& fields() const override { return fields_; }
+    std::int64_t affected() const override { return affected_; }
+
+    bool nextRow() override;
+    bool isNull(int field) const override { return cells_[static_cast<std::size_t>(field)].null; }
+    std::int64_t integer(int field) const override { return cells_[static_cast<std::size_t>(field)].integer; }
+    double real(int field) const override { return cells_[static_cast<std::size_t>(field)].real; }
+    std::string_view text(int field) const override { return cells_[static_cast<std::size_t>(field)].text; }
+
+private:
+    struct Cell {
+        bool null = true;
+        std::int64_t integer = 0;
+        double real = 0;
+        std::string text;
+    };
+
+    void describe();
+    FieldDescription describeField(SQLUSMALLINT number);
+    void read(SQLUSMALLINT number);
+    void readText(SQLUSMALLINT number, Cell& cell);
+
+    Handle statement_;
+    SQLRETURN executed_;
+    bool started_ = false;
+    std::vector<FieldDescription> fields_;
+    std::vector<Cell> cells_;
+    std::vector<SQLWCHAR> buffer_;
+    std::int64_t affected_ = -1;
+};
+
+} // namespace ado::odbc

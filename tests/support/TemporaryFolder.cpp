@@ -1,0 +1,40 @@
+#include "support/TemporaryFolder.h"
+
+#include <QTemporaryDir>
+
+#include <stdexcept>
+
+namespace support {
+
+namespace fs = std::filesystem;
+
+namespace {
+
+fs::path base() {
+    constexpr std::uintmax_t kRoom = 512ULL << 20U;
+    const fs::path memory = "/dev/shm";
+    std::error_code missing;
+    const fs::space_info space = fs::space(memory, missing);
+    return !missing && space.available >= kRoom ? memory : fs::temp_directory_path();
+}
+
+} // namespace
+
+TemporaryFolder::TemporaryFolder() {
+    QTemporaryDir folder(QString::fromStdString((base() / "vabo-test-XXXXXX").string()));
+    if (!folder.isValid())
+        throw std::runtime_error("No temporary folder: " + folder.errorString().toStdString());
+    folder.setAutoRemove(false); // Qt's own removal stops at folders that a test has closed
+    path_ = folder.path().toStdString();
+}
+
+TemporaryFolder::~TemporaryFolder() {
+    std::error_code ignored;
+    for (fs::recursive_directory_iterator entry(path_, ignored), end; entry != end; entry.increment(ignored)) {
+        if (entry->is_directory(ignored) && !entry->is_symlink(ignored))
+            fs::permissions(entry->path(), fs::perms::owner_all, ignored);
+    }
+    fs::remove_all(path_, ignored);
+}
+
+} // namespace support

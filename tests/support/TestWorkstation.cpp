@@ -1,0 +1,91 @@
+#include "support/TestWorkstation.h"
+
+#include "ado/Drivers.h"
+#include "engine/Instance.h"
+#include "session/variabili.h"
+#include "support/Environment.h"
+
+#include <gtest/gtest.h>
+
+#include <fstream>
+#include <iterator>
+
+namespace support {
+
+namespace fs = std::filesystem;
+
+namespace {
+
+void makePresent(const platform::Workstation& workstation) {
+    platform::setWorkstation(workstation);
+    platform::connectDataLayer();
+    vabo::AzzeraVariabili();
+}
+
+} // namespace
+
+TestWorkstation::TestWorkstation(DriveC content) {
+    if (content == DriveC::Sample)
+        fs::copy(VABO_TEST_TEMPLATE, folder_.path(), fs::copy_options::recursive);
+    makePresent(workstationOn(folder_.path()));
+}
+
+TestWorkstation::~TestWorkstation() {
+    makePresent(workstationOn(nowhere()));
+}
+
+const platform::DriveC& TestWorkstation::driveC() const {
+    return platform::workstation().driveC;
+}
+
+std::optional<std::string> TestWorkstation::fileText(std::string_view path) const {
+    std::ifstream file(driveC().real(path), std::ios::binary);
+    if (!file)
+        return std::nullopt;
+    return std::string(std::istreambuf_iterator<char>(file), {});
+}
+
+void TestWorkstation::putFile(std::string_view path, std::string_view bytes) const {
+    const fs::path place = driveC().real(path);
+    fs::create_directories(place.parent_path());
+    std::ofstream(place, std::ios::binary) << bytes;
+}
+
+std::unique_ptr<engine::Session> TestWorkstation::engineSession(const std::string& database) const {
+    const engine::InstanceOptions options{
+        .mapPath = [drive = driveC()](std::string_view path) { return drive.real(path); }};
+    return engine::Session::open(engine::Instance::open(ado::instanceFolder(kServerName), options),
+                                 {.user = {}, .password = {}, .database = database});
+}
+
+std::vector<TestWorkstation::Row> TestWorkstation::rows(const std::string& database, const std::string& sql) const {
+    const auto session = engineSession(database);
+    const auto batch = session->execute(sql);
+    std::vector<Row> all;
+    while (batch->nextResult()) {
+        const int columns = static_cast<int>(batch->columns().size());
+        while (batch->hasRows() && batch->nextRow()) {
+            Row& row = all.emplace_back();
+            for (int column = 0; column < columns; ++column)
+                row.emplace_back(batch->isNull(column) ? "NULL" : batch->text(column));
+        }
+    }
+    return all;
+}
+
+TestWorkstation::Row TestWorkstation::row(const std::string& database, const std::string& sql) const {
+    const auto all = rows(database, sql);
+    EXPECT_EQ(all.size(), 1U) << sql;
+    return all.empty() ? Row{} : all.front();
+}
+
+std::string TestWorkstation::value(const std::string& database, const std::string& sql) const {
+    const Row first = row(database, sql);
+    return first.empty() ? std::string() : first.front();
+}
+
+void TestWorkstation::run(const std::string& database, const std::string& sql) const {
+    rows(database, sql);
+}
+
+} // namespace support

@@ -1,0 +1,66 @@
+#pragma once
+
+#include "controls/DataControl.h"
+
+#include <QComboBox>
+
+#include <string>
+#include <vector>
+
+class QStringListModel;
+
+namespace controls {
+
+/// A field with a list over the rows of a data control: it shows ListField and gives BoundColumn. A pick doesn't move
+/// the source's current row. Typing searches the list.
+class DataCombo : public QComboBox {
+    Q_OBJECT
+public:
+    enum Area { Button = 0, Edit = 1, List = 2 };
+
+    explicit DataCombo(QWidget* parent = nullptr);
+
+    std::string ListField;
+    std::string BoundColumn;
+
+    void setRowSource(DataControl* source);
+    /// Rebuilds the list; the text stays.
+    void ReFill();
+    /// Repaints.
+    void Refresh() { repaint(); }
+
+    std::string Text() const { return currentText().toStdString(); }
+    /// Any text, in the list or not.
+    void setText(const std::string& text);
+    /// The bound column of the first row that the text stands for, empty where none does.
+    std::string BoundText() const;
+    /// Shows the row of this key; the empty text where there is none.
+    void setBoundText(const std::string& key);
+
+signals:
+    void GotFocus();
+    void LostFocus(); ///< only when the focus moves within the program
+    void Click(int area);
+
+protected:
+    void keyPressEvent(QKeyEvent* event) override;
+    void wheelEvent(QWheelEvent* event) override;
+    void mousePressEvent(QMouseEvent* event) override;
+    void focusOutEvent(QFocusEvent* event) override;
+    void showPopup() override;
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+private:
+    void followFocus(QWidget* from, QWidget* to);
+    void picked(int row);
+    void widenPopup();
+
+    DataControl* source_ = nullptr;
+    QStringListModel* list_;
+    std::vector<std::string> keys_; ///< by row of the list
+    int pickedRow_ = -1;            ///< tells rows of one text apart
+    bool leaving_ = false;
+    bool selectAtRelease_ = false;
+};
+
+} // namespace controls

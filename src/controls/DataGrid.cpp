@@ -1,0 +1,146 @@
+#include "controls/DataGrid.h"
+
+#include "ado/Conversions.h"
+
+#include <QHeaderView>
+#include <QKeyEvent>
+#include <QScopedValueRollback>
+
+namespace controls {
+
+namespace {
+
+constexpr int kTwipsInAPixel = 15;
+
+}
+
+void DataGrid::Column::setLocked(bool locked) {
+    grid_->model_->column(index_).locked = locked;
+}
+
+void DataGrid::Column::setVisible(bool visible) {
+    grid_->setColumnHidden(index_, !visible);
+}
+
+void DataGrid::Column::setWidth(int twips) {
+    setVisible(twips > 0);
+    if (twips > 0)
+        grid_->setColumnWidth(index_, twips / kTwipsInAPixel);
+}
+
+void DataGrid::Column::setCaption(const std::string& caption) {
+    grid_->model_->column(index_).caption = QString::fromStdString(caption);
+    grid_->model_->columnChanged(index_);
+}
+
+void DataGrid::Column::setAlignment(Qt::Alignment alignment) {
+    grid_->model_->column(index_).alignment = alignment;
+    grid_->model_->columnChanged(index_);
+}
+
+bool DataGrid::Column::Locked() const {
+    return grid_->model_->column(index_).locked;
+}
+
+bool DataGrid::Column::Visible() const {
+    return !grid_->isColumnHidden(index_);
+}
+
+int DataGrid::Column::Width() const {
+    return grid_->columnWidth(index_) * kTwipsInAPixel;
+}
+
+std::string DataGrid::Column::Caption() const {
+    return grid_->model_->column(index_).caption.toStdString();
+}
+
+std::string DataGrid::Column::Text() const {
+    const ado::Value value = Value();
+    return value.isNull() ? std::string() : ado::toText(value);
+}
+
+ado::Value DataGrid::Column::Value() const {
+    return grid_->model_->source()->Recordset()[index_].Value();
+}
+
+DataGrid::DataGrid(QWidget* parent) : QTableView(parent), model_(new RecordsetModel(this)) {
+    setModel(model_);
+    setSelectionBehavior(SelectRows);
+    setSelectionMode(SingleSelection);
+    setTabKeyNavigation(false);
+    setAlternatingRowColors(true);
+    setWordWrap(false);
+    verticalHeader()->hide();
+    horizontalHeader()->setHighlightSections(false);
+    horizontalHeader()->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
+    horizontalHeader()->setStretchLastSection(true);
+    connect(this, &QTableView::doubleClicked, this, &DataGrid::DblClick);
+}
+
+void DataGrid::setDataSource(DataControl* source) {
+    if (DataControl* former = model_->source())
+        former->disconnect(this);
+    model_->setSource(source);
+    if (source != nullptr) {
+        // After the model's own connections: the rows are there when the grid follows.
+        connect(source, &DataControl::refreshed, this, &DataGrid::showAllColumns);
+        connect(source, &DataControl::refreshed, this, &DataGrid::followRecordset);
+        connect(source, &DataControl::moved, this, &DataGrid::followRecordset);
+    }
+    showAllColumns();
+    followRecordset();
+}
+
+DataGrid::Column DataGrid::Columns(int index) {
+    model_->column(index);
+    return {*this, index};
+}
+
+void DataGrid::showAllColumns() {
+    for (int i = 0; i < ColumnCount(); ++i) {
+        setColumnHidden(i, false);
+        setColumnWidth(i, horizontalHeader()->defaultSectionSize());
+    }
+}
+
+void DataGrid::followRecordset() {
+    const QScopedValueRollback following(following_, true);
+    DataControl* source = model_->source();
+    const bool open = source != nullptr && source->hasRecordset() && source->Recordset().IsOpen();
+    const long position = open ? source->Recordset().AbsolutePosition() : -1;
+    if (position < 1) {
+        setCurrentIndex({});
+        return;
+    }
+    const int row = static_cast<int>(position) - 1;
+    if (currentIndex().row() == row)
+        return;
+    int column = std::max(0, currentIndex().column());
+    while (column < ColumnCount() - 1 && isColumnHidden(column))
+        ++column;
+    setCurrentIndex(model_->index(row, column));
+}
+
+void DataGrid::currentChanged(const QModelIndex& current, const QModelIndex& previous) {
+    QTableView::currentChanged(current, previous);
+    if (following_ || !current.isValid() || current.row() == previous.row())
+        return;
+    DataControl* source = model_->source();
+    source->byUser([&] { source->Recordset().setAbsolutePosition(current.row() + 1); });
+    followRecordset();
+}
+
+void DataGrid::keyPressEvent(QKeyEvent* event) {
+    const bool enter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+    if (enter && state() != EditingState && currentIndex().isValid())
+        emit DblClick();
+    else
+        QTableView::keyPressEvent(event);
+}
+
+void DataGrid::focusInEvent(QFocusEvent* event) {
+    QTableView::focusInEvent(event);
+    followRecordset();
+}
+
+} // namespace controls

@@ -1,0 +1,61 @@
+#pragma once
+
+#include "controls/RecordsetModel.h"
+
+#include <QTableView>
+
+namespace controls {
+
+/// A grid over the rows of a data control. Its current row and the recordset's are one. Each refresh of the source
+/// makes the columns anew: every field visible, under its own name, open to edits.
+class DataGrid : public QTableView {
+    Q_OBJECT
+public:
+    /// One column, by its place from 0.
+    class Column {
+    public:
+        void setLocked(bool locked);
+        void setVisible(bool visible);
+        void setWidth(int twips); ///< 15 to a pixel; 0 hides it
+        void setCaption(const std::string& caption);
+        void setAlignment(Qt::Alignment alignment);
+
+        bool Locked() const;
+        bool Visible() const;
+        int Width() const;
+        std::string Caption() const;
+        /// What the current row shows. Error 3021 without one.
+        std::string Text() const;
+        ado::Value Value() const;
+
+    private:
+        friend class DataGrid;
+        Column(DataGrid& grid, int index) : grid_(&grid), index_(index) {}
+        DataGrid* grid_;
+        int index_;
+    };
+
+    explicit DataGrid(QWidget* parent = nullptr);
+
+    void setDataSource(DataControl* source);
+    int ColumnCount() const { return model_->columnCount(); }
+    /// Error 9 for a column that isn't there.
+    Column Columns(int index);
+
+signals:
+    void DblClick(); ///< or Enter, on a row
+
+protected:
+    void keyPressEvent(QKeyEvent* event) override;
+    void currentChanged(const QModelIndex& current, const QModelIndex& previous) override;
+    void focusInEvent(QFocusEvent* event) override;
+
+private:
+    void followRecordset();
+    void showAllColumns();
+
+    RecordsetModel* model_;
+    bool following_ = false;
+};
+
+} // namespace controls

@@ -1,0 +1,99 @@
+#include "controls/Form.h"
+
+#include "platform/Forms.h"
+
+#include <QAbstractButton>
+#include <QCloseEvent>
+#include <QDeadlineTimer>
+#include <QGuiApplication>
+#include <QLabel>
+#include <QPushButton>
+#include <QWindow>
+
+namespace controls {
+
+namespace {
+
+/// A window that the system hasn't shown yet can't paint.
+void waitUntilExposed(const QWidget& form) {
+    constexpr int kLongestMilliseconds = 1000;
+    constexpr int kSliceMilliseconds = 20;
+    const QDeadlineTimer deadline(kLongestMilliseconds);
+    const QWindow* window = form.windowHandle();
+    while (window != nullptr && !window->isExposed() && !deadline.hasExpired())
+        QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents, kSliceMilliseconds);
+}
+
+QString spokenName(QString caption) {
+    caption.remove(QLatin1Char('&'));
+    caption = caption.trimmed();
+    while (caption.endsWith(QLatin1Char(':')))
+        caption = caption.chopped(1).trimmed();
+    return caption;
+}
+
+} // namespace
+
+Form::Form(const char* name) {
+    setObjectName(QString::fromUtf8(name));
+}
+
+void Form::runLoad() {
+    // Outside a dialog Enter presses a button only where it is told to.
+    for (auto* button : findChildren<QPushButton*>())
+        button->setAutoDefault(true);
+    nameForAssistiveTools();
+    run([this] { Load(); });
+}
+
+void Form::runActivate() {
+    run([this] { Activate(); });
+}
+
+void Form::runUnload() {
+    unloading_ = true;
+    run([this] { Unload(); });
+    unloaded_ = true;
+}
+
+void Form::run(const std::function<void()>& event) {
+    if (!unloaded_)
+        guarded(event);
+}
+
+void Form::chain(std::vector<KeyRow> rows) {
+    new KeyChain(
+        this, [this](const std::function<void()>& handler) { run(handler); }, std::move(rows));
+}
+
+void Form::Refresh() {
+    if (!isVisible())
+        return;
+    waitUntilExposed(*this);
+    repaint();
+    QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
+}
+
+void Form::Hide() {
+    platform::formHost().hide(Name());
+}
+
+void Form::UnloadMe() {
+    platform::formHost().unload(Name());
+}
+
+void Form::closeEvent(QCloseEvent* event) {
+    event->ignore();
+    UnloadMe();
+}
+
+void Form::nameForAssistiveTools() {
+    for (const QLabel* label : findChildren<QLabel*>())
+        if (label->buddy() != nullptr && label->buddy()->accessibleName().isEmpty())
+            label->buddy()->setAccessibleName(spokenName(label->text()));
+    for (auto* button : findChildren<QAbstractButton*>())
+        if (button->accessibleName().isEmpty())
+            button->setAccessibleName(spokenName(button->text()));
+}
+
+} // namespace controls

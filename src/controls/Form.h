@@ -1,0 +1,65 @@
+#pragma once
+
+#include "controls/Guard.h"
+#include "controls/KeyChain.h"
+
+#include <QWidget>
+
+#include <string>
+#include <type_traits>
+#include <vector>
+
+namespace controls {
+
+/// A window of the program. Its life: made at first use, Load, visible, Activate each time it becomes the program's
+/// active form, Unload. Its objectName is its name. What it keeps dies with its unload; a form may be unloaded from
+/// its own events, it is deleted once they are over.
+class Form : public QWidget {
+    Q_OBJECT
+public:
+    explicit Form(const char* name);
+
+    std::string Name() const { return objectName().toStdString(); }
+
+    // For whoever hosts the forms: each runs its event behind the guard.
+    void runLoad();
+    void runActivate();
+    void runUnload();
+    bool isUnloading() const { return unloading_; }
+
+protected:
+    virtual void Load() {}
+    virtual void Activate() {}
+    virtual void Unload() {}
+
+    /// The handler of one event of a control: errors end the event with a box, and an unloaded form gets none.
+    template<typename Sender, typename Signal, typename Handler>
+    void on(Sender* sender, Signal signal, Handler handler) {
+        connect(sender, signal, this, [this, handler](auto&&... values) {
+            run([&] {
+                if constexpr (std::is_invocable_v<Handler, decltype(values)...>)
+                    handler(values...);
+                else
+                    handler();
+            });
+        });
+    }
+    /// The order of entry: which keys end a field and what happens then.
+    void chain(std::vector<KeyRow> rows);
+
+    /// Paints at once, so that the texts can be read while a long step runs.
+    void Refresh();
+    void Hide();
+    void UnloadMe();
+
+    void closeEvent(QCloseEvent* event) override;
+
+private:
+    void run(const std::function<void()>& event);
+    void nameForAssistiveTools();
+
+    bool unloading_ = false;
+    bool unloaded_ = false;
+};
+
+} // namespace controls

@@ -1,0 +1,54 @@
+#pragma once
+
+#include "controls/Form.h"
+#include "platform/Forms.h"
+
+#include <QObject>
+#include <QPointer>
+
+#include <functional>
+#include <map>
+#include <memory>
+#include <string>
+#include <string_view>
+
+namespace controls {
+
+/// The forms by name: a single instance each, made on first use. Names are compared exactly.
+class FormRegistry : public QObject, public platform::FormHost {
+    Q_OBJECT
+public:
+    using Factory = std::function<std::unique_ptr<Form>()>;
+
+    FormRegistry();
+    ~FormRegistry() override;
+
+    void add(std::string name, Factory factory);
+
+    bool show(std::string_view name) override;
+    bool makeVisible(std::string_view name) override;
+    void hide(std::string_view name) override;
+    void unload(std::string_view name) override;
+    bool isLoaded(std::string_view name) const override;
+
+    /// Null where it isn't loaded.
+    Form* loaded(std::string_view name) const;
+    /// The form that has last become active and still stands on the screen.
+    Form* active() const { return active_; }
+
+private:
+    struct Gone {
+        void operator()(Form* form) const;
+    };
+    using Holder = std::unique_ptr<Form, Gone>;
+
+    Form* load(std::string_view name);
+    void activate(Form& form);
+    void followWindows();
+
+    std::map<std::string, Factory, std::less<>> factories_;
+    std::map<std::string, Holder, std::less<>> forms_;
+    QPointer<Form> active_;
+};
+
+} // namespace controls

@@ -1,0 +1,48 @@
+#include "controls/KeyChain.h"
+
+#include <QKeyEvent>
+#include <QWidget>
+
+#include <algorithm>
+
+namespace controls {
+
+namespace {
+
+bool endsEntry(const QKeyEvent& key, EndOfEntry keys) {
+    const bool plain = (key.modifiers() & ~Qt::KeypadModifier) == Qt::NoModifier;
+    if (!plain)
+        return false;
+    if (key.key() == Qt::Key_Return || key.key() == Qt::Key_Enter)
+        return true;
+    return key.key() == Qt::Key_Tab && keys == EndOfEntry::EnterOrTab;
+}
+
+} // namespace
+
+KeyRow::KeyRow(QWidget* field, EndOfEntry keys, std::function<void()> handler)
+    : field(field), keys(keys), handler(std::move(handler)) {}
+
+KeyRow::KeyRow(QWidget* field, EndOfEntry keys, QWidget* next)
+    : KeyRow(field, keys, [next] { next->setFocus(Qt::TabFocusReason); }) {}
+
+KeyChain::KeyChain(QObject* parent, Runner run, std::vector<KeyRow> rows)
+    : QObject(parent), run_(std::move(run)), rows_(std::move(rows)) {
+    for (const KeyRow& row : rows_)
+        row.field->installEventFilter(this);
+}
+
+bool KeyChain::eventFilter(QObject* watched, QEvent* event) {
+    if (event->type() != QEvent::KeyPress)
+        return false;
+    const auto& key = static_cast<const QKeyEvent&>(*event);
+    const auto row = std::find_if(rows_.begin(), rows_.end(), [&](const KeyRow& each) {
+        return each.field == watched && endsEntry(key, each.keys);
+    });
+    if (row == rows_.end())
+        return false;
+    run_(row->handler);
+    return true;
+}
+
+} // namespace controls

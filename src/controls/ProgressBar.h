@@ -1,0 +1,21 @@
+#pragma once
+
+#include <QProgressBar>
+
+namespace controls {
+
+/// A bar from 0 to 100.
+class ProgressBar : public QProgressBar {
+    Q_OBJECT
+public:
+    explicit ProgressBar(QWidget* parent = nullptr);
+
+    double Value() const { return value_; }
+    /// Error 380 outside 0 to 100; the bar stays as it was.
+    void setValue(double value);
+
+private:
+    double value_ = 0;
+};
+
+} // namespace controls

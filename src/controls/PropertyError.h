@@ -1,0 +1,19 @@
+#pragma once
+
+#include "ado/Error.h"
+
+namespace controls {
+
+/// What a control refuses a value with.
+inline ado::Error invalidPropertyValue() {
+    constexpr int kNumber = 380;
+    return {kNumber, "Invalid property value"};
+}
+
+/// What a control refuses a place with that it doesn't have.
+inline ado::Error subscriptOutOfRange() {
+    constexpr int kNumber = 9;
+    return {kNumber, "Subscript out of range"};
+}
+
+} // namespace controls

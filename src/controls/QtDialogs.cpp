@@ -1,0 +1,88 @@
+#include "controls/QtDialogs.h"
+
+#include "platform/Workstation.h"
+
+#include <QApplication>
+#include <QDir>
+#include <QFileDialog>
+#include <QInputDialog>
+#include <QMessageBox>
+#include <QPushButton>
+
+namespace controls {
+
+namespace {
+
+const QString kOk = QStringLiteral("OK");
+const QString kAnnulla = QStringLiteral("Annulla");
+const QString kSi = QStringLiteral("Sì");
+const QString kNo = QStringLiteral("No");
+
+QString applicationTitle() {
+    return QString::fromStdString(platform::workstation().productName);
+}
+
+QString titleOr(const std::string& title) {
+    return title.empty() ? applicationTitle() : QString::fromStdString(title);
+}
+
+/// Shows a box with its buttons; true when the first one was chosen. Esc is the last one.
+bool ask(const std::string& text, QMessageBox::Icon icon, const QStringList& captions) {
+    QMessageBox box(icon, applicationTitle(), QString(), QMessageBox::NoButton, QApplication::activeWindow());
+    box.setTextFormat(Qt::PlainText);
+    box.setText(QString::fromStdString(text));
+    QList<QPushButton*> buttons;
+    for (const QString& caption : captions) {
+        const bool first = buttons.isEmpty();
+        buttons.append(box.addButton(caption, first ? QMessageBox::AcceptRole : QMessageBox::RejectRole));
+        buttons.last()->setObjectName(caption);
+    }
+    box.setDefaultButton(buttons.first());
+    box.setEscapeButton(buttons.last());
+    box.exec();
+    return box.clickedButton() == buttons.first();
+}
+
+} // namespace
+
+void QtDialogs::message(const std::string& text, platform::Icon icon) {
+    ask(text, icon == platform::Icon::Stop ? QMessageBox::Critical : QMessageBox::NoIcon, {kOk});
+}
+
+bool QtDialogs::question(const std::string& text) {
+    return ask(text, QMessageBox::Question, {kSi, kNo});
+}
+
+bool QtDialogs::confirm(const std::string& text) {
+    return ask(text, QMessageBox::Question, {kOk, kAnnulla});
+}
+
+std::string QtDialogs::input(const std::string& prompt, const std::string& title, const std::string& proposed) {
+    QInputDialog box(QApplication::activeWindow());
+    box.setWindowTitle(titleOr(title));
+    box.setLabelText(QString::fromStdString(prompt));
+    box.setTextValue(QString::fromStdString(proposed));
+    box.setOkButtonText(kOk);
+    box.setCancelButtonText(kAnnulla);
+    return box.exec() == QDialog::Accepted ? box.textValue().toStdString() : std::string();
+}
+
+std::string QtDialogs::folder(const std::string& title) {
+    const QString root = QString::fromStdString(platform::workstation().driveC.root().string());
+    QFileDialog box(QApplication::activeWindow(), titleOr(title), root);
+    box.setFileMode(QFileDialog::Directory);
+    box.setOption(QFileDialog::ShowDirsOnly);
+    box.setLabelText(QFileDialog::Accept, kOk);
+    box.setLabelText(QFileDialog::Reject, kAnnulla);
+    if (box.exec() != QDialog::Accepted)
+        return {};
+    const QString chosen = box.selectedFiles().value(0);
+    const QString inside = QDir(root).relativeFilePath(chosen);
+    if (inside == QLatin1String("."))
+        return "C:\\";
+    if (inside.startsWith(QLatin1String("..")) || QDir::isAbsolutePath(inside))
+        return QDir::toNativeSeparators(chosen).toStdString();
+    return "C:\\" + QString(inside).replace(QLatin1Char('/'), QLatin1Char('\\')).toStdString();
+}
+
+} // namespace controls

@@ -1,0 +1,47 @@
+#pragma once
+
+#include "controls/DataControl.h"
+
+#include <QAbstractTableModel>
+
+#include <vector>
+
+namespace controls {
+
+/// The rows of a data control as a grid draws them, read where they are: nothing is copied and nothing moves.
+class RecordsetModel : public QAbstractTableModel {
+    Q_OBJECT
+public:
+    struct Column {
+        QString caption;
+        Qt::Alignment alignment = Qt::AlignLeft;
+        bool locked = false;
+    };
+
+    explicit RecordsetModel(QObject* parent);
+
+    void setSource(DataControl* source);
+    DataControl* source() const { return source_; }
+    /// Error 9 for a column that isn't there.
+    Column& column(int index);
+    /// After a caption or an alignment has changed.
+    void columnChanged(int index);
+    std::string text(int row, int column) const;
+
+    int rowCount(const QModelIndex& parent = {}) const override;
+    int columnCount(const QModelIndex& parent = {}) const override;
+    QVariant data(const QModelIndex& index, int role) const override;
+    QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
+    Qt::ItemFlags flags(const QModelIndex& index) const override;
+    bool setData(const QModelIndex& index, const QVariant& value, int role) override;
+
+private:
+    ado::Recordset* recordset() const;
+    void makeColumns();
+    void showRows();
+
+    DataControl* source_ = nullptr;
+    std::vector<Column> columns_;
+};
+
+} // namespace controls

@@ -1,0 +1,102 @@
+#include "controls/Style.h"
+
+#include <QApplication>
+#include <QPalette>
+#include <QProxyStyle>
+#include <QStyleFactory>
+
+namespace controls::style {
+
+namespace {
+
+struct Colours {
+    const char *window, *base, *alternate, *text, *muted, *button, *border, *accent, *accentText, *disabled;
+};
+
+constexpr Colours kLight = {"#f3f5f7", "#ffffff", "#f6f8fa", "#1c2731", "#5b6975",
+                            "#fdfdfe", "#c3cbd3", "#1f6391", "#ffffff", "#9aa5ae"};
+constexpr Colours kDark = {"#21262c", "#191d22", "#1e2329", "#e3e8ec", "#9aa7b2",
+                           "#2c333b", "#46515c", "#4a9ac9", "#0d151b", "#6d7882"};
+
+QPalette palette(const Colours& colours) {
+    QPalette palette{QColor(colours.button), QColor(colours.window)};
+    const std::initializer_list<std::pair<QPalette::ColorRole, const char*>> roles = {
+        {QPalette::Window, colours.window},
+        {QPalette::WindowText, colours.text},
+        {QPalette::Base, colours.base},
+        {QPalette::AlternateBase, colours.alternate},
+        {QPalette::Text, colours.text},
+        {QPalette::Button, colours.button},
+        {QPalette::ButtonText, colours.text},
+        {QPalette::ToolTipBase, colours.base},
+        {QPalette::ToolTipText, colours.text},
+        {QPalette::Highlight, colours.accent},
+        {QPalette::HighlightedText, colours.accentText},
+        {QPalette::PlaceholderText, colours.muted},
+        {QPalette::Link, colours.accent},
+        {QPalette::Mid, colours.border},
+        {QPalette::BrightText, colours.accentText}};
+    for (const auto& [role, colour] : roles)
+        palette.setColor(role, QColor(colour));
+    for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText})
+        palette.setColor(QPalette::Disabled, role, QColor(colours.disabled));
+    return palette;
+}
+
+/// More room than the style below gives, the same for every field and button.
+class RoomyStyle : public QProxyStyle {
+public:
+    RoomyStyle() : QProxyStyle(QStyleFactory::create(QStringLiteral("Fusion"))) {}
+
+    int pixelMetric(PixelMetric metric, const QStyleOption* option, const QWidget* widget) const override {
+        switch (metric) {
+        case PM_LayoutLeftMargin:
+        case PM_LayoutRightMargin:
+        case PM_LayoutTopMargin:
+        case PM_LayoutBottomMargin:
+            return kMargin / 2;
+        case PM_LayoutHorizontalSpacing:
+        case PM_LayoutVerticalSpacing:
+            return kSpacing;
+        default:
+            return QProxyStyle::pixelMetric(metric, option, widget);
+        }
+    }
+
+    QSize sizeFromContents(ContentsType type, const QStyleOption* option, const QSize& contents,
+                           const QWidget* widget) const override {
+        constexpr int kControlHeight = 32;
+        constexpr int kButtonPadding = 20;
+        QSize size = QProxyStyle::sizeFromContents(type, option, contents, widget);
+        if (type == CT_LineEdit || type == CT_ComboBox || type == CT_PushButton)
+            size.setHeight(std::max(size.height(), kControlHeight));
+        if (type == CT_PushButton)
+            size.rwidth() += kButtonPadding;
+        return size;
+    }
+};
+
+const char* const kSheet = R"(
+*[role="header"] { background-color: #1b4f72; border: none; }
+*[role="header"] QLabel { color: #cfe0ec; background: transparent; }
+*[role="header"] QLabel[role="title"] { color: #ffffff; font-size: 17pt; font-weight: 600; }
+*[role="header"] QLabel[role="subtitle"] { color: #ffffff; font-size: 11pt; }
+*[role="section"] { font-size: 11pt; font-weight: 600; }
+*[role="muted"] { color: palette(placeholder-text); }
+*[role="panel"] { background-color: palette(base); border: 1px solid palette(mid); border-radius: 6px; }
+QPushButton[role="primary"] { font-weight: 600; }
+)";
+
+} // namespace
+
+void install(QApplication& application, Scheme scheme) {
+    constexpr int kMiddleLightness = 128;
+    const bool dark =
+        scheme == Scheme::Dark ||
+        (scheme == Scheme::System && application.palette().color(QPalette::Window).lightness() < kMiddleLightness);
+    QApplication::setStyle(new RoomyStyle);
+    QApplication::setPalette(palette(dark ? kDark : kLight));
+    application.setStyleSheet(QString::fromLatin1(kSheet));
+}
+
+} // namespace controls::style

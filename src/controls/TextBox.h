@@ -1,0 +1,32 @@
+#pragma once
+
+#include <QLineEdit>
+
+#include <string>
+
+namespace controls {
+
+/// A field of one line. The whole text is selected whenever the field gets the focus, so that typing replaces it.
+class TextBox : public QLineEdit {
+    Q_OBJECT
+public:
+    explicit TextBox(QWidget* parent = nullptr);
+
+    std::string Text() const { return text().toStdString(); }
+    /// Cut at the field's greatest length.
+    void setText(const std::string& text) { QLineEdit::setText(QString::fromStdString(text)); }
+
+signals:
+    void GotFocus();
+    void LostFocus(); ///< only when the focus moves within the program
+
+protected:
+    void mouseReleaseEvent(QMouseEvent* event) override;
+
+private:
+    void followFocus(QWidget* from, QWidget* to);
+
+    bool selectAtRelease_ = false;
+};
+
+} // namespace controls

@@ -183,6 +183,13 @@ long Recordset::RecordCount() const {
     return counted ? state_->cursor.count() : -1;
 }
 
+Value Recordset::ValueAt(long position, int column) const {
+    state_->demandOpen();
+    if (column < 0 || column >= FieldCount())
+        throw Error(kItemNotFound);
+    return state_->rows.value(state_->cursor.rowAt(position - 1), column);
+}
+
 void Recordset::onChange(std::function<void()> listener) {
     state_->listeners.push_back(std::move(listener));
 }

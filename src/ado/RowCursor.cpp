@@ -28,8 +28,14 @@ void RowCursor::added(std::size_t row) {
 }
 
 std::size_t RowCursor::row() const {
-    const auto position = static_cast<std::size_t>(position_);
-    return filtered_ ? shown_[position] : position;
+    return rowAt(position_);
+}
+
+std::size_t RowCursor::rowAt(long position) const {
+    if (position < 0 || position >= count_)
+        throw Error(kNoCurrentRecord);
+    const auto place = static_cast<std::size_t>(position);
+    return filtered_ ? shown_[place] : place;
 }
 
 void RowCursor::first() {

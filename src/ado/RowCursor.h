@@ -23,6 +23,7 @@ public:
     long count() const { return count_; }
     std::size_t row() const; ///< its place in the store; only where there is one
     long position() const { return position_; }
+    std::size_t rowAt(long position) const; ///< the place in the store of a shown row, from 0; raises 3021
 
     void first();
     void last();

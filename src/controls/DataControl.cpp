@@ -17,14 +17,9 @@ DataControl::DataControl(QWidget* parent) : QWidget(parent) {
     hide();
 }
 
-DataControl::~DataControl() {
-    if (recordset_ != nullptr)
-        recordset_->onChange({});
-}
+DataControl::~DataControl() = default;
 
 void DataControl::Refresh() {
-    if (recordset_ != nullptr)
-        recordset_->onChange({});
     recordset_.reset();
     auto fresh = std::make_unique<ado::Recordset>();
     try {
@@ -49,6 +44,8 @@ ado::Recordset& DataControl::Recordset() {
 }
 
 void DataControl::follow() {
+    if (recordset_ == nullptr)
+        return;
     if (!recordset_->IsOpen() || recordset_->Filter() != filter_ || recordset_->RecordCount() != count_) {
         filter_ = recordset_->IsOpen() ? recordset_->Filter() : std::string();
         count_ = recordset_->IsOpen() ? recordset_->RecordCount() : 0;

@@ -1,15 +1,12 @@
 #include "controls/FormRegistry.h"
 
 #include <QApplication>
-#include <QLoggingCategory>
 #include <QScreen>
 #include <QWindow>
 
 namespace controls {
 
 namespace {
-
-Q_LOGGING_CATEGORY(forms, "vabo.forms", QtWarningMsg)
 
 void centre(Form& form) {
     form.adjustSize();
@@ -41,10 +38,8 @@ void FormRegistry::add(std::string name, Factory factory) {
 }
 
 bool FormRegistry::show(std::string_view name) {
-    if (factories_.find(name) == factories_.end()) {
-        qCInfo(forms) << "no form of the name" << QByteArray(name.data(), static_cast<qsizetype>(name.size()));
+    if (factories_.find(name) == factories_.end())
         return false;
-    }
     Form* form = load(name);
     if (form == nullptr)
         return true; // its own Load has unloaded it

@@ -73,8 +73,10 @@ Error cannotOpenDatabase(const std::string& database);                 // 4060
 Error conditionExpected(const std::string& token, int position);       // 4145
 Error alterNeedsDefault(const std::string& column, const std::string& table); // 4901
 Error directoryLookup(const std::string& file, const std::string& reason);    // 5133
+Error nullableKey(const std::string& table, int position);              // 8111
 Error numericConversion();                                             // 8114
 Error overflow(const std::string& target);                             // 8115
+Error nullableIdentity(const std::string& column, const std::string& table, int position); // 8147
 Error truncated();                                                     // 8152
 Error optionMissing(const std::string& option);                        // 15123
 Error loginFailed(const std::string& user);                            // 18456

@@ -214,12 +214,24 @@ Error directoryLookup(const std::string& file, const std::string& reason) {
             "Directory lookup for the file \"" + file + "\" failed with the operating system error " + reason + "."};
 }
 
+Error nullableKey(const std::string& table, int position) {
+    return {8111, "Cannot define PRIMARY KEY constraint on nullable column in table " + quoted(table) + ".",
+            Reach::Batch, position};
+}
+
 Error numericConversion() {
     return {8114, "Error converting data type varchar to numeric.", Reach::Batch};
 }
 
 Error overflow(const std::string& target) {
     return {8115, "Arithmetic overflow error converting expression to data type " + target + "."};
+}
+
+Error nullableIdentity(const std::string& column, const std::string& table, int position) {
+    return {8147,
+            "Could not create IDENTITY attribute on nullable column " + quoted(column) + ", table " + quoted(table) +
+                ".",
+            Reach::Batch, position};
 }
 
 Error truncated() {

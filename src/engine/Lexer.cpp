@@ -209,7 +209,7 @@ private:
                 return;
             }
         if (kSymbols.find(look()) == std::string_view::npos)
-            throw errors::syntaxNear(std::string(1, look()), static_cast<int>(begin));
+            throw errors::syntaxNear(std::string(look() == '\0' ? 0 : 1, look()), static_cast<int>(begin));
         ++at_;
         add(Token::Kind::Symbol, begin);
     }

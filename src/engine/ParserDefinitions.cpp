@@ -6,15 +6,24 @@ namespace engine {
 
 namespace {
 
-/// The columns of a primary key take no NULL, whether or not the script says so.
-void refuseNullInKeys(CreateTable& table) {
-    for (const KeyDefinition& key : table.keys) {
-        if (key.kind != KeyDefinition::Kind::Primary)
-            continue;
-        for (ColumnDefinition& column : table.columns)
-            if (!column.nullable && std::any_of(key.columns.begin(), key.columns.end(),
-                                                [&](const auto& name) { return sameWord(name, column.name); }))
-                column.nullable = false;
+/// The columns of a primary key and an identity take no NULL, whether or not the script says so.
+void refuseNull(std::vector<ColumnDefinition>& columns, const std::vector<KeyDefinition>& keys,
+                const std::string& table) {
+    const auto isPrimary = [&](const ColumnDefinition& column) {
+        return std::any_of(keys.begin(), keys.end(), [&](const KeyDefinition& key) {
+            return key.kind == KeyDefinition::Kind::Primary &&
+                   std::any_of(key.columns.begin(), key.columns.end(),
+                               [&](const auto& name) { return sameWord(name, column.name); });
+        });
+    };
+    for (ColumnDefinition& column : columns) {
+        const bool primary = isPrimary(column);
+        if (column.identity && column.nullable.value_or(false))
+            throw errors::nullableIdentity(column.name, table, column.position);
+        if (primary && column.nullable.value_or(false))
+            throw errors::nullableKey(table, column.position);
+        if (column.identity || primary)
+            column.nullable = false;
     }
 }
 
@@ -45,7 +54,7 @@ Grammar::Node Grammar::createTable() {
     filegroup();
     node.columns = std::move(elements.columns);
     node.keys = std::move(elements.keys);
-    refuseNullInKeys(node);
+    refuseNull(node.columns, node.keys, node.table.last());
     return node;
 }
 
@@ -136,8 +145,6 @@ bool Grammar::columnConstraint(TableElements& elements, ColumnDefinition& column
     } else if (atKey()) {
         const auto kind = keyKind();
         filegroup();
-        if (kind == KeyDefinition::Kind::Primary && !column.nullable)
-            column.nullable = false;
         elements.keys.push_back({kind, std::move(name), {column.name}});
     } else {
         return false;
@@ -146,7 +153,7 @@ bool Grammar::columnConstraint(TableElements& elements, ColumnDefinition& column
 }
 
 void Grammar::nullability(ColumnDefinition& column, bool nullable) {
-    if (!at(Keyword::Null))
+    if (!at(Keyword::Null) || column.nullable.value_or(nullable) != nullable)
         refuse();
     consume();
     column.nullable = nullable;
@@ -155,8 +162,6 @@ void Grammar::nullability(ColumnDefinition& column, bool nullable) {
 void Grammar::identity(ColumnDefinition& column) {
     expect(Keyword::Identity);
     column.identity = true;
-    if (!column.nullable)
-        column.nullable = false;
     if (!consumeIf("("))
         return;
     column.identitySeed = expectInteger();
@@ -222,6 +227,7 @@ Grammar::Node Grammar::alter() {
     while (consumeIf(","));
     node.added = std::move(elements.columns);
     node.keys = std::move(elements.keys);
+    refuseNull(node.added, node.keys, node.table.last());
     return node;
 }
 

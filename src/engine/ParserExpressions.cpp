@@ -105,7 +105,7 @@ ExpressionPtr Grammar::operand(int least) {
         return primary();
     const Level level(*this);
     const int position = consume().position;
-    auto operand = climb(kComparison);
+    auto operand = at(Keyword::Not) ? this->operand(kNot) : climb(kComparison);
     requireCondition(*operand);
     return makeExpression(position, Unary{Unary::Operator::Not, std::move(operand)});
 }

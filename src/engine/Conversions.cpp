@@ -161,12 +161,12 @@ double toFloat(std::string_view text) {
     if (number.empty()) {
         return 0;
     }
+    const bool doubleSign = number.starts_with("+-");
     if (number.starts_with('+')) {
         number.remove_prefix(1);
     }
-    // No words such as "inf", and no second sign.
-    const bool plain =
-        !number.starts_with("+") && number.find_first_not_of("0123456789.eE+-") == std::string_view::npos;
+    // No words such as "inf".
+    const bool plain = !doubleSign && number.find_first_not_of("0123456789.eE+-") == std::string_view::npos;
     double value = 0;
     const auto read = std::from_chars(number.data(), number.data() + number.size(), value);
     if (!plain || read.ec != std::errc{} || read.ptr != number.data() + number.size()) {

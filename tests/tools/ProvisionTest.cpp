@@ -1,0 +1,233 @@
+#include "provision/Provision.h"
+
+#include "engine/Error.h"
+#include "provision/PointerFiles.h"
+#include "provision/Sql.h"
+#include "support/TemporaryFolder.h"
+#include "tools/SampleWorkstation.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <fstream>
+#include <iterator>
+#include <map>
+
+namespace fs = std::filesystem;
+using provision::layDown;
+using provision::Outcome;
+using provision::Plan;
+using provision::Refused;
+using testing::HasSubstr;
+
+namespace {
+
+std::string bytesOf(const fs::path& file) {
+    std::ifstream stream(file, std::ios::binary);
+    return {std::istreambuf_iterator<char>(stream), {}};
+}
+
+void writeFile(const fs::path& file, std::string_view bytes) {
+    std::ofstream(file, std::ios::binary) << bytes;
+}
+
+/// All that could change of what lies in a folder.
+std::map<std::string, std::pair<fs::file_time_type, std::string>> snapshot(const fs::path& folder) {
+    std::map<std::string, std::pair<fs::file_time_type, std::string>> found;
+    for (const fs::directory_entry& entry : fs::recursive_directory_iterator(folder))
+        found[entry.path().string()] = {entry.last_write_time(), entry.is_regular_file() ? bytesOf(entry.path()) : ""};
+    return found;
+}
+
+std::string refusal(const Plan& plan) {
+    try {
+        layDown(plan);
+    } catch (const Refused& error) {
+        return error.what();
+    }
+    return "not refused";
+}
+
+Plan smallPlan(const fs::path& driveC) {
+    return {driveC, "POSTO_7", 10, 0};
+}
+
+std::int64_t ledgerRows(const fs::path& driveC) {
+    return provision::integers(*openSession(driveC, provision::kFirstDatabase), "SELECT COUNT(*) FROM partitadoppia")
+        .at(0);
+}
+
+} // namespace
+
+TEST(Provision, WritesEveryPointerFileAsOneLine) {
+    const fs::path vabo = SampleWorkstation::shared().vabo();
+    const std::map<std::string, std::string> expected = {
+        {"IndirizzoServer.txt", "Driver=SQL Server;Server=POSTO_7\\sqlexpress;UID=sa;PWD=Campione-2024;\r\n"},
+        {"NomeServer.txt", "POSTO_7\\sqlexpress\r\n"},
+        {"Leggi_ServerLocal.txt", "Driver=SQL Server;Server=POSTO_7\\sqlexpress;ID utente=;Password=;\r\n"},
+        {"NomeServerLocal.txt", "POSTO_7\\sqlexpress\r\n"},
+        {"IndirizzoServerLocal.txt", "Driver=SQL Server;Server=POSTO_7\\sqlexpress;ID utente=;Password=;\r\n"},
+        {"DirectorySede.txt", "C:\\vabo\\Server\r\n"},
+        {"IndirizzoVabo.txt", "C:\\vabo\\Server\\InstallazioneLoco\r\n"},
+        {"IndirizzoVaboinstalla.txt", "C:\\vabo\\Server\\InstallazioneLoco\\vabo\r\n"},
+        {"IndirizzoVabodati.txt", "C:\\vabo\\Server\\VaBoDati\r\n"},
+        {"DirectoryHq.txt", "C:\\vabo\\Server\\VaBoDatiHQ\r\n"},
+        {"IndirizzoServerVabo.txt", "C:\\vabo\\Server\r\n"},
+        {"DirectoryBackup.txt", "C:\\vabo\\Server\\Backup\r\n"},
+    };
+    for (const auto& [name, line] : expected)
+        EXPECT_EQ(bytesOf(vabo / name), line) << name;
+    EXPECT_EQ(provision::pointerFiles("x").size(), expected.size());
+}
+
+TEST(Provision, MakesTheFoldersOfAWorkstationAndNoLocalFile) {
+    const fs::path vabo = SampleWorkstation::shared().vabo();
+    EXPECT_TRUE(fs::is_directory(vabo / "sedi"));
+    EXPECT_TRUE(fs::is_directory(vabo / "istanze" / "POSTO_7$sqlexpress"));
+    EXPECT_TRUE(fs::is_regular_file(vabo / "Server" / "VaBoDati" / "VaBoDatiAurora.mdf"));
+    EXPECT_TRUE(fs::is_empty(vabo / "Files"));
+}
+
+TEST(Provision, KeepsEverythingForTheOwner) {
+    const fs::path vabo = SampleWorkstation::shared().vabo();
+    EXPECT_EQ(fs::status(vabo).permissions(), fs::perms::owner_all);
+    for (const fs::directory_entry& entry : fs::recursive_directory_iterator(vabo)) {
+        const auto expected =
+            entry.is_directory() ? fs::perms::owner_all : fs::perms::owner_read | fs::perms::owner_write;
+        EXPECT_EQ(entry.status().permissions(), expected) << entry.path();
+    }
+}
+
+TEST(Provision, LetsTheServersUserInWithItsPasswordOnly) {
+    const fs::path driveC = SampleWorkstation::shared().plan().driveC;
+    EXPECT_EQ(openSession(driveC, provision::kFirstDatabase)->database(), provision::kFirstDatabase);
+    try {
+        openSession(driveC, provision::kFirstDatabase, "wrong");
+        FAIL() << "a wrong password was let in";
+    } catch (const engine::Error& error) {
+        EXPECT_EQ(error.number(), 18456);
+    }
+}
+
+TEST(Provision, ChangesNothingTheSecondTime) {
+    const support::TemporaryFolder driveC;
+    ASSERT_EQ(layDown(smallPlan(driveC.path())), Outcome::Made);
+    const auto before = snapshot(driveC.path());
+    EXPECT_EQ(layDown(smallPlan(driveC.path())), Outcome::AlreadyThere);
+    EXPECT_EQ(snapshot(driveC.path()), before);
+}
+
+TEST(Provision, KeepsWhatWasChangedSince) {
+    const support::TemporaryFolder driveC;
+    layDown(smallPlan(driveC.path()));
+    provision::run(*openSession(driveC.path(), provision::kFirstDatabase), "DELETE FROM partitadoppia");
+    writeFile(driveC.path() / "vabo" / "NomeServer.txt", "other\r\n");
+    EXPECT_EQ(layDown(smallPlan(driveC.path())), Outcome::AlreadyThere);
+    EXPECT_EQ(ledgerRows(driveC.path()), 0);
+    EXPECT_EQ(bytesOf(driveC.path() / "vabo" / "NomeServer.txt"), "other\r\n");
+}
+
+TEST(Provision, RefusesOtherValuesThanBefore) {
+    const support::TemporaryFolder driveC;
+    layDown(smallPlan(driveC.path()));
+    const auto before = snapshot(driveC.path());
+    Plan other = smallPlan(driveC.path());
+    other.ledgerRows = 12;
+    EXPECT_THAT(refusal(other),
+                HasSubstr("was laid down with other values: --terminal POSTO_7 --ledger 10 --accounts 0"));
+    other = smallPlan(driveC.path());
+    other.terminal = "POSTO_8";
+    EXPECT_THAT(refusal(other), HasSubstr("was laid down with other values"));
+    EXPECT_EQ(snapshot(driveC.path()), before);
+}
+
+TEST(Provision, RefusesAFolderThatSomebodyElseMade) {
+    const support::TemporaryFolder driveC;
+    fs::create_directory(driveC.path() / "VABO");
+    writeFile(driveC.path() / "VABO" / "NomeServer.txt", "real server\r\n");
+    const auto before = snapshot(driveC.path());
+    EXPECT_THAT(refusal(smallPlan(driveC.path())), HasSubstr("was made by somebody else and is left alone"));
+    EXPECT_EQ(snapshot(driveC.path()), before);
+}
+
+TEST(Provision, TakesAnEmptyFolderAndADriveThatIsNotThereYet) {
+    const support::TemporaryFolder folder;
+    const fs::path driveC = folder.path() / "deep" / "c";
+    EXPECT_EQ(layDown(smallPlan(driveC)), Outcome::Made);
+    EXPECT_EQ(fs::status(driveC).permissions(), fs::perms::owner_all);
+
+    const support::TemporaryFolder other;
+    fs::create_directory(other.path() / "vabo");
+    EXPECT_EQ(layDown(smallPlan(other.path())), Outcome::Made);
+}
+
+TEST(Provision, LeavesOtherFoldersOfTheDriveAlone) {
+    const support::TemporaryFolder driveC;
+    fs::create_directory(driveC.path() / "Documenti");
+    writeFile(driveC.path() / "Documenti" / "lettera.txt", "cara");
+    EXPECT_EQ(layDown(smallPlan(driveC.path())), Outcome::Made);
+    EXPECT_EQ(bytesOf(driveC.path() / "Documenti" / "lettera.txt"), "cara");
+}
+
+TEST(Provision, MakesAgainWhatAnInterruptedRunLeft) {
+    const support::TemporaryFolder driveC;
+    layDown(smallPlan(driveC.path()));
+    // As if the run had been cut off: the databases half filled, another terminal's instance beside them.
+    writeFile(driveC.path() / "vabo" / "provision.txt", "vabo-provision 1, unfinished: --terminal OTHER\r\n");
+    provision::run(*openSession(driveC.path(), provision::kFirstDatabase), "DROP TABLE partitadoppia");
+    fs::remove(driveC.path() / "vabo" / "NomeServer.txt");
+    fs::create_directory(driveC.path() / "vabo" / "istanze" / "OTHER$sqlexpress");
+
+    EXPECT_EQ(layDown(smallPlan(driveC.path())), Outcome::Made);
+    EXPECT_EQ(ledgerRows(driveC.path()), 10);
+    EXPECT_EQ(bytesOf(driveC.path() / "vabo" / "NomeServer.txt"), "POSTO_7\\sqlexpress\r\n");
+    EXPECT_FALSE(fs::exists(driveC.path() / "vabo" / "istanze" / "OTHER$sqlexpress"));
+    EXPECT_EQ(layDown(smallPlan(driveC.path())), Outcome::AlreadyThere);
+}
+
+TEST(Provision, RefusesTheMarkOfAnotherVersion) {
+    const support::TemporaryFolder driveC;
+    layDown(smallPlan(driveC.path()));
+    writeFile(driveC.path() / "vabo" / "provision.txt", "vabo-provision 0, finished: \r\n");
+    EXPECT_THAT(refusal(smallPlan(driveC.path())), HasSubstr("was not written by this version"));
+}
+
+TEST(Provision, SaysWhatIsMissing) {
+    for (const char* const name :
+         {"NomeServerLocal.txt", "istanze/POSTO_7$sqlexpress", "Server/VaBoDati/VaBoDatiPonte.mdf"}) {
+        const support::TemporaryFolder driveC;
+        layDown(smallPlan(driveC.path()));
+        fs::remove_all(driveC.path() / "vabo" / name);
+        EXPECT_THAT(refusal(smallPlan(driveC.path())),
+                    HasSubstr((driveC.path() / "vabo" / name).string() + " is missing"));
+    }
+}
+
+TEST(Provision, RefusesAPlanThatCanNotBe) {
+    const support::TemporaryFolder driveC;
+    const fs::path root = driveC.path();
+    struct Case {
+        Plan plan;
+        const char* words;
+    };
+    const Case cases[] = {
+        {{{}, "POSTO_7", 10, 0}, "no folder for drive C is given"},
+        {{root, "", 10, 0}, "'' can't be the name of a terminal"},
+        {{root, "A\\B", 10, 0}, "'A\\B' can't be the name of a terminal"},
+        {{root, "A;B", 10, 0}, "'A;B' can't be the name of a terminal"},
+        {{root, "POSTO_7", 1, 0}, "a ledger has no rows or at least two"},
+        {{root, "POSTO_7", -1, 0}, "a ledger has no rows or at least two"},
+        {{root, "POSTO_7", 10, -1}, "a chart can't have less than no accounts"},
+    };
+    for (const Case& refused : cases)
+        EXPECT_EQ(refusal(refused.plan), refused.words);
+    EXPECT_TRUE(fs::is_empty(root));
+}
+
+TEST(Provision, CanBeMovedToAnotherFolder) {
+    const support::TemporaryFolder copy;
+    fs::copy(SampleWorkstation::shared().plan().driveC, copy.path(), fs::copy_options::recursive);
+    provision::run(*openSession(copy.path(), provision::kFirstDatabase), "DELETE FROM partitadoppia");
+    EXPECT_EQ(ledgerRows(copy.path()), 0);
+    EXPECT_EQ(ledgerRows(SampleWorkstation::shared().plan().driveC), 200);
+}

@@ -1,0 +1,48 @@
+#include "general_tables/Conti.h"
+
+#include "ado/Conversions.h"
+#include "kit/ApriScrivibile.h"
+#include "kit/IsEmptyValue.h"
+#include "kit/Regole.h"
+#include "session/variabili.h"
+
+namespace vabo {
+
+// Without a rule of its own.
+std::int32_t LeggiGruppoVabo(double idConto) {
+    ado::Connection connessione;
+    connessione.Open(StringaAzienda);
+    Sql = "SELECT  IdGruppoVabo From conti where IdConto =" + ado::plainNumber(idConto);
+    ado::Recordset rs;
+    rs.Open(Sql, connessione, ado::CursorType::Keyset, ado::LockType::ReadOnly);
+    std::int32_t gruppo = 0;
+    if (!rs.EOF()) {
+        rs.MoveFirst();
+        gruppo = ado::toLong(rs["IdGruppoVabo"]);
+    }
+    rs.Close();
+    connessione.Close();
+    return gruppo;
+}
+
+// Failing statements are skipped.
+bool ContoEconomico(double idConto) {
+    bool economico = false;
+    if (IsEmptyValue(idConto)) {
+        return economico;
+    }
+    ado::Recordset rs;
+    salta([&] {
+        ApriScrivibile(rs, "select idmastro from conti where idconto = " + ado::plainNumber(idConto), DbAzienda);
+    });
+    if (vera([&] { return !rs.EOF(); }) && vera([&] { return !IsEmptyValue(rs["Idmastro"].Value()); })) {
+        salta([&] {
+            const double mastro = ado::toDouble(rs["Idmastro"]);
+            economico = mastro == 1 || mastro == 4;
+        });
+    }
+    salta([&] { rs.Close(); });
+    return economico;
+}
+
+} // namespace vabo

@@ -1,0 +1,120 @@
+#include "general_tables/Opzioni.h"
+
+#include "ado/Conversions.h"
+#include "general_tables/RecordsetConsole.h"
+#include "kit/ApriScrivibile.h"
+#include "kit/ErrorHandling.h"
+#include "kit/Regole.h"
+#include "kit/Testi.h"
+#include "session/variabili.h"
+
+#include <algorithm>
+#include <stdexcept>
+
+namespace vabo {
+
+namespace {
+
+constexpr int kRigaBudgetOng = 5;
+constexpr int kRigaBadge = 9;
+
+bool RigaConNumero(const Opzione& opzione) {
+    return opzione.tabella == Opzione::Tabella::TabellaUilityConti;
+}
+
+const char* ColonnaValore(const Opzione& opzione) {
+    return RigaConNumero(opzione) ? "Lunghezza" : "Contatore";
+}
+
+/// The numbered rows of datiGenerali go through a shared recordset, the others through one of their own.
+bool RecordsetCondiviso(const Opzione& opzione) {
+    return !RigaConNumero(opzione) && opzione.riga != 0;
+}
+
+template<typename Regola>
+void ScriviOpzione(Regola&& regola, ado::Recordset& rs, const Opzione& opzione, int valore) {
+    regola([&] { ApriScrivibile(rs, TestoOpzione(opzione), DbAzienda); });
+    if (vera([&] { return rs.EOF(); })) {
+        regola([&] { rs.AddNew(); });
+        if (RigaConNumero(opzione)) {
+            regola([&] { rs["id"] = opzione.riga; });
+        }
+        if (opzione.descrizione) {
+            regola([&] { rs["Descrizione"] = opzione.descrizione; });
+        }
+    }
+    regola([&] { rs[ColonnaValore(opzione)] = valore; });
+    regola([&] { rs.Update(); });
+    regola([&] { rs.Close(); });
+}
+
+// Failing statements are skipped. The load sets this box while the same recordset is open: it is taken over as it is.
+void SalvaBudgetOng(const Opzione& opzione, int valore) {
+    ado::Recordset& rs = RsOpzioni();
+    salta([&] { rs.Update(); });
+    salta([&] { rs.Close(); });
+    salta([&] { ApriScrivibile(rs, TestoOpzione(opzione), DbAzienda); });
+    if (vera([&] { return rs.EOF(); })) {
+        salta([&] { rs.AddNew(); });
+        salta([&] { rs["id"] = opzione.riga; });
+        salta([&] { rs["Lunghezza"] = valore; });
+        salta([&] { rs["Descrizione"] = opzione.descrizione; });
+    } else {
+        salta([&] { rs.MoveFirst(); });
+        salta([&] { rs["Lunghezza"] = valore; });
+    }
+    salta([&] { AggiornaRecord(rs); });
+    ChiudiRecordset();
+}
+
+} // namespace
+
+const Opzione& OpzioneDi(std::string_view casella) {
+    const auto trovata = std::ranges::find(kOpzioni, casella, &Opzione::casella);
+    if (trovata == kOpzioni.end()) {
+        throw std::logic_error("no option stands behind this box");
+    }
+    return *trovata;
+}
+
+std::string TestoOpzione(const Opzione& opzione) {
+    if (opzione.riga == 0) {
+        return "select * from datiGenerali where descrizione ='" + std::string(opzione.descrizione) + "'";
+    }
+    const std::string tabella = RigaConNumero(opzione) ? "TabellaUilityConti" : "datiGenerali";
+    return "select * from " + tabella + " where id = " + std::to_string(opzione.riga);
+}
+
+void SalvaOpzione(const Opzione& opzione, bool spuntata) {
+    const int valore = spuntata ? opzione.valoreSpuntata : 0;
+    if (RigaConNumero(opzione) && opzione.riga == kRigaBudgetOng) {
+        SalvaBudgetOng(opzione, valore);
+        return;
+    }
+    ado::Recordset proprio;
+    ado::Recordset& rs = RecordsetCondiviso(opzione) ? RsCaselle() : proprio;
+    if (opzione.ignoraErrori) {
+        ScriviOpzione([](auto&& istruzione) { salta(istruzione); }, rs, opzione, valore);
+    } else {
+        ScriviOpzione([](auto&& istruzione) { istruzione(); }, rs, opzione, valore);
+    }
+}
+
+bool UsaBadge() {
+    bool usa = false;
+    ado::Recordset rs;
+    ApriScrivibile(rs, "select * from TabellaUilityConti where id = 9", DbAzienda);
+    if (rs.EOF()) {
+        rs.AddNew();
+        rs["id"] = kRigaBadge;
+        rs["Lunghezza"] = ado::matches(Minuscolo(NomeDatabase), "*dornavel*") ? 1 : 0;
+        rs["Descrizione"] = "Usa Badge";
+        rs.Update();
+    } else {
+        usa = ado::toDouble(rs["Lunghezza"]) == 1;
+    }
+    rs.Close();
+    return usa;
+}
+
+} // namespace vabo

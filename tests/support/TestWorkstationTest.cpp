@@ -1,0 +1,74 @@
+#include "support/TestWorkstation.h"
+
+#include "ado/Conversions.h"
+#include "ado/Recordset.h"
+#include "session/variabili.h"
+#include "support/Environment.h"
+
+#include <gtest/gtest.h>
+
+namespace fs = std::filesystem;
+using support::TestWorkstation;
+
+TEST(TestWorkstation, HasTheSampleOnItsDriveC) {
+    const TestWorkstation workstation;
+    EXPECT_TRUE(workstation.driveC().isFile("C:\\vabo\\IndirizzoServer.txt"));
+    EXPECT_TRUE(workstation.driveC().isFolder("C:\\vabo\\sedi"));
+    EXPECT_EQ(workstation.row(support::kControlDatabase, "select count(*) from link_programma"),
+              TestWorkstation::Row{"2"});
+    EXPECT_NE(workstation.value(support::kCompany, "select count(*) from partitadoppia"), "0");
+    EXPECT_NE(workstation.value(support::kOtherCompany, "select count(*) from AbilitazioneAccessi"), "0");
+}
+
+TEST(TestWorkstation, IsTheProgramsOwn) {
+    const TestWorkstation workstation;
+    EXPECT_EQ(platform::workstation().machineName, "POSTO-7");
+    EXPECT_EQ(platform::workstation().programName, "vabo");
+    ado::Connection connection;
+    connection.Open(platform::workstation().driveC.firstLine("C:\\vabo\\IndirizzoServer.txt") +
+                    "DATABase=" + support::kCompany);
+    ado::Recordset rows;
+    rows.Open("select count(*) as n from stati", connection);
+    EXPECT_EQ(std::to_string(ado::toLong(rows["n"])),
+              workstation.value(support::kCompany, "select count(*) from stati"));
+}
+
+TEST(TestWorkstation, IsNewForEveryTest) {
+    {
+        const TestWorkstation first;
+        first.run(support::kCompany, "delete from Comuni");
+        EXPECT_EQ(first.value(support::kCompany, "select count(*) from Comuni"), "0");
+        first.putFile("C:\\vabo\\x.txt", "x");
+    }
+    const TestWorkstation second;
+    EXPECT_NE(second.value(support::kCompany, "select count(*) from Comuni"), "0");
+    EXPECT_EQ(second.fileText("C:\\vabo\\x.txt"), std::nullopt);
+}
+
+TEST(TestWorkstation, CanBeEmpty) {
+    const TestWorkstation workstation(TestWorkstation::DriveC::Empty);
+    EXPECT_TRUE(fs::is_empty(workstation.driveC().root()));
+    EXPECT_EQ(workstation.fileText("C:\\vabo\\IndirizzoServer.txt"), std::nullopt);
+    workstation.putFile("C:\\vabo\\NomeServer.txt", "a\nb");
+    EXPECT_EQ(workstation.fileText("C:\\vabo\\NOMESERVER.txt"), "a\nb");
+}
+
+TEST(TestWorkstation, StartsWithTheGlobalsAtZeroAndLeavesNothingBehind) {
+    vabo::NomeAzienda = "left over";
+    fs::path root;
+    {
+        const TestWorkstation workstation;
+        EXPECT_EQ(vabo::NomeAzienda, "");
+        vabo::NomeAzienda = "taken up";
+        root = workstation.driveC().root();
+    }
+    EXPECT_EQ(vabo::NomeAzienda, "");
+    EXPECT_FALSE(fs::exists(root));
+    EXPECT_EQ(platform::workstation().driveC.root(), support::nowhere());
+}
+
+TEST(TestWorkstation, NullsAndSeveralRowsAreRead) {
+    const TestWorkstation workstation;
+    const std::vector<TestWorkstation::Row> rows{{"1", "a"}, {"2", "NULL"}};
+    EXPECT_EQ(workstation.rows(support::kCompany, "select 1, 'a' union all select 2, NULL"), rows);
+}

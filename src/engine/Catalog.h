@@ -53,7 +53,8 @@ public:
     /// By name under the server's collation; nullptr where there is none. Valid until the next change of the schema.
     const TableInfo* table(std::string_view name);
     std::vector<std::string> tableNames();
-    /// Sees what other sessions changed since the last call; true when something did.
+    /// Sees what any session changed, or took back, since the last call; true when something did. Cheap when nothing
+    /// did.
     bool refresh();
 
     void addTable(const TableInfo& table);

@@ -148,6 +148,19 @@ TEST_F(CatalogOfTwo, IsNotMisledWhenAnotherTakesTheNumberOfAChangeRolledBack) {
     EXPECT_EQ(catalog.tableNames(), std::vector<std::string>{"conti"});
 }
 
+TEST_F(CatalogOfTwo, ForgetsAChangeThatFailedHalfWay) {
+    connection.run("CREATE TRIGGER full BEFORE INSERT ON _vabo_keys BEGIN SELECT raise(ABORT, 'no room'); END");
+    EXPECT_THROW(catalog.addTable(progetti()), sqlite::Failure);
+    EXPECT_TRUE(catalog.refresh());
+    EXPECT_EQ(catalog.table("progetti"), nullptr);
+}
+
+TEST_F(CatalogOfTwo, TellsOfItsOwnChangesOnce) {
+    catalog.addTable(progetti());
+    EXPECT_TRUE(catalog.refresh());
+    EXPECT_FALSE(catalog.refresh());
+}
+
 TEST_F(CatalogOfTwo, ATableOfTheSameNameIsRefusedByTheFileItself) {
     catalog.addTable(progetti());
     TableInfo again = progetti();
@@ -258,6 +271,13 @@ TEST_F(CatalogOfTwo, AnIdentityEndsWithItsType) {
     EXPECT_EQ(catalog.nextIdentity(made), 255);
     EXPECT_EQ(errorOf([&] { catalog.nextIdentity(made); }),
               "8115 Arithmetic overflow error converting IDENTITY to data type tinyint.");
+
+    table.name = "down";
+    table.columns[0].seed = 0;
+    table.columns[0].increment = -1;
+    catalog.addTable(table);
+    EXPECT_EQ(catalog.nextIdentity(*catalog.table("down")), 0);
+    EXPECT_EQ(errorNumberOf([&] { catalog.nextIdentity(*catalog.table("down")); }), 8115);
 }
 
 TEST_F(CatalogOfTwo, ATableMadeAgainStartsFromItsSeed) {

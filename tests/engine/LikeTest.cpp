@@ -139,9 +139,7 @@ TEST(Like, AgreesWithItsDefinition) {
         const auto text =
             *rc::gen::resize(12, rc::gen::container<std::string>(rc::gen::elementOf(std::string("abB "))));
         const auto pattern =
-            *rc::gen::resize(8, rc::gen::container<std::string>(rc::gen::elementOf(std::string("ab%_ "))));
-        // A blank equals nothing in sameText(), which is about whole texts.
-        RC_PRE(pattern.find(' ') == std::string::npos);
+            *rc::gen::resize(8, rc::gen::container<std::string>(rc::gen::elementOf(std::string("ab%_"))));
         RC_ASSERT(like(text, pattern) == plainly(text, pattern));
     });
     EXPECT_TRUE(held);

@@ -43,6 +43,9 @@ QPalette palette(const Colours& colours) {
     return palette;
 }
 
+constexpr int kMargin = 12;
+constexpr int kSpacing = 12;
+
 /// More room than the style below gives, the same for every field and button.
 class RoomyStyle : public QProxyStyle {
 public:
@@ -54,7 +57,7 @@ public:
         case PM_LayoutRightMargin:
         case PM_LayoutTopMargin:
         case PM_LayoutBottomMargin:
-            return kMargin / 2;
+            return kMargin;
         case PM_LayoutHorizontalSpacing:
         case PM_LayoutVerticalSpacing:
             return kSpacing;
@@ -81,10 +84,10 @@ const char* const kSheet = R"(
 *[role="header"] QLabel { color: #cfe0ec; background: transparent; }
 *[role="header"] QLabel[role="title"] { color: #ffffff; font-size: 17pt; font-weight: 600; }
 *[role="header"] QLabel[role="subtitle"] { color: #ffffff; font-size: 11pt; }
+*[role="heading"] { font-size: 17pt; font-weight: 600; }
 *[role="section"] { font-size: 11pt; font-weight: 600; }
 *[role="muted"] { color: palette(placeholder-text); }
 *[role="panel"] { background-color: palette(base); border: 1px solid palette(mid); border-radius: 6px; }
-QPushButton[role="primary"] { font-weight: 600; }
 )";
 
 } // namespace

@@ -1,8 +1,6 @@
 #pragma once
 
 class QApplication;
-class QString;
-class QWidget;
 
 namespace controls::style {
 
@@ -10,12 +8,8 @@ namespace controls::style {
 enum class Scheme { System, Light, Dark };
 
 /// The look of all forms: roomy controls, quiet colours, one accent. Controls take a part in it by their dynamic
-/// property `role`: header (the band at the top of a form), title and subtitle (texts on it), section (the title over a
-/// group), muted (what is read once), panel (a raised surface), primary (the one button of the usual next step).
+/// property `role`: header (the band of a form), title and subtitle (texts on it), heading and section (titles in the
+/// body), muted (what is read once), panel (a raised surface).
 void install(QApplication& application, Scheme scheme = Scheme::System);
-
-/// A label of more than one line that keeps what it needs of height.
-inline constexpr int kMargin = 24;
-inline constexpr int kSpacing = 12;
 
 } // namespace controls::style

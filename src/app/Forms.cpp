@@ -1,0 +1,26 @@
+#include "app/Forms.h"
+
+#include "session/About.h"
+#include "session/Avvio.h"
+#include "session/Avvio_Azienda.h"
+#include "session/FormRefreshLinks.h"
+
+namespace app {
+
+namespace {
+
+template<typename Form>
+std::unique_ptr<controls::Form> make() {
+    return std::make_unique<Form>();
+}
+
+} // namespace
+
+void registerForms(controls::FormRegistry& registry) {
+    registry.add("Avvio", make<vabo::Avvio>);
+    registry.add("FormRefreshLinks", make<vabo::FormRefreshLinks>);
+    registry.add("About", make<vabo::About>);
+    registry.add("Avvio_Azienda", make<vabo::Avvio_Azienda>);
+}
+
+} // namespace app

@@ -1,0 +1,21 @@
+#pragma once
+
+#include <QIcon>
+#include <QWidget>
+
+namespace controls {
+
+/// The product's mark, drawn sharp at any scale: the columns of a ledger on a rounded square.
+class Mark : public QWidget {
+    Q_OBJECT
+public:
+    explicit Mark(QWidget* parent = nullptr);
+    QSize sizeHint() const override;
+
+    static QIcon icon();
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+};
+
+} // namespace controls

@@ -1,0 +1,175 @@
+#include "session/About.h"
+
+#include "kit/ErrorHandling.h"
+#include "kit/IsEmptyValue.h"
+#include "platform/Dialogs.h"
+#include "platform/Forms.h"
+#include "platform/Workstation.h"
+#include "session/ApriDbSede.h"
+#include "session/Avviamento.h"
+#include "session/RegoleLogin.h"
+#include "session/TreatForms.h"
+#include "session/variabili.h"
+#include "ui_About.h"
+
+namespace vabo {
+
+namespace {
+
+constexpr int kArgomentoGuida = 44;
+
+std::string ConVersione(const std::string& nome) {
+    const platform::Workstation& macchina = platform::workstation();
+    return nome + " - Ver.Nr. " + std::to_string(macchina.versionMajor) + "." + std::to_string(macchina.versionMinor) +
+           "." + std::to_string(macchina.versionRevision);
+}
+
+std::string Normalizza(controls::TextBox& campo) {
+    campo.setText(Normalizzato(campo.Text()));
+    return campo.Text();
+}
+
+void Mostra(controls::TextBox& campo, bool mostra) {
+    campo.setEnabled(mostra);
+    campo.setVisible(mostra);
+}
+
+} // namespace
+
+About::About() : Form("About"), ui_(std::make_unique<Ui::About>()) {
+    ui_->setupUi(this);
+    using controls::EndOfEntry;
+    chain({{ui_->txtUserName, EndOfEntry::Enter, [this] { ConfermaNome(); }},
+           {ui_->txtPassword, EndOfEntry::EnterOrTab, [this] { ControllaPassword(); }},
+           {ui_->txtPassword1, EndOfEntry::Enter, [this] { ConfermaPrimaPassword(); }}});
+    on(ui_->Command8, &QPushButton::clicked, [this] { UnloadMe(); });
+}
+
+About::~About() = default;
+
+void About::Load() {
+    const platform::Workstation& macchina = platform::workstation();
+    ui_->txtPassword->setEnabled(false);
+    ui_->lblVersion->setText(QString::fromStdString(ConVersione(macchina.productName)));
+    ui_->lblCopyright->setText(QString::fromStdString(macchina.legalNotice));
+    setWindowTitle(QString::fromStdString(ConVersione("Tlv - Aldane Works Software Solutions")));
+    PreparaLogin();
+    Controlla_server();
+    if (ServerMancante != kFalso)
+        return;
+    ApriDatiLogin();
+    ui_->Label1->setText(QString::fromStdString(TestoDatabase()));
+    ui_->PswLabels_0->setText(QStringLiteral("Password :"));
+    ui_->txtPassword->show();
+    Mostra(*ui_->txtPassword1, false);
+    ui_->txtPassword->setFocus();
+    ChiudiRecordset();
+}
+
+void About::Controlla_server() {
+    if (ServerRisponde())
+        return;
+    UnloadMe();
+    ApriForm("FormRegistraAziendeNeiDns", true);
+}
+
+void About::Activate() {
+    setProperty("HelpContextID", kArgomentoGuida);
+    for (auto* controllo : findChildren<QWidget*>())
+        controllo->setProperty("HelpContextID", kArgomentoGuida);
+    if (LoginSenzaUtenti()) {
+        UnloadMe();
+        platform::formHost().show("Avvio_Azienda");
+        return;
+    }
+    for (auto* campo : {ui_->txtPassword, ui_->txtPassword1, ui_->txtUserName})
+        campo->clear();
+    ui_->txtUserName->setFocus();
+}
+
+void About::ConfermaNome() {
+    if (IsEmptyValue(Normalizza(*ui_->txtUserName)))
+        return;
+    ui_->txtPassword->setEnabled(true);
+    ui_->txtPassword->setFocus();
+}
+
+void About::ConfermaPrimaPassword() {
+    Normalizza(*ui_->txtPassword1);
+    Mostra(*ui_->txtPassword, true);
+    Mostra(*ui_->txtPassword1, false);
+    ui_->PswLabels_0->setText(QStringLiteral("Password (repeat):"));
+    platform::dialogs().message("Confirm your Password");
+    ui_->txtPassword->setFocus();
+}
+
+// Also the second entry of a first password; when the two differ, the run goes on as a login by the name alone.
+void About::ControllaPassword() {
+    const std::string ripetuta = Normalizza(*ui_->txtPassword);
+    const std::string prima = ui_->txtPassword1->Text();
+    if (!IsEmptyValue(ripetuta) && !IsEmptyValue(prima)) {
+        if (ripetuta == prima) {
+            EntraConPrimaPassword(IdUtenteNuovo, ui_->txtUserName->Text(), ripetuta);
+            Entra();
+            return;
+        }
+        platform::dialogs().message("Wrong password, retry!");
+        ChiediPassword();
+    }
+    // A name may have been changed since its Enter: it never reaches a statement as it was typed.
+    const std::string utente = Normalizza(*ui_->txtUserName);
+    const std::string password = ui_->txtPassword->Text();
+    switch (ControllaLogin(utente, password, IdUtenteNuovo)) {
+    case EsitoLogin::Rifiutato:
+        ContaFallimento();
+        break;
+    case EsitoLogin::PrimaPassword:
+        ChiediPrimaPassword();
+        break;
+    case EsitoLogin::Disabilitato:
+        platform::dialogs().message("User not allowed! ");
+        UnloadMe();
+        break;
+    case EsitoLogin::Riconosciuto:
+        EntraUtente(utente, password);
+        Entra();
+        break;
+    }
+}
+
+void About::ContaFallimento() {
+    if (ContaTentativo()) {
+        UnloadMe();
+        return;
+    }
+    ui_->txtUserName->setFocus();
+    ui_->txtPassword->setEnabled(false);
+}
+
+void About::ChiediPrimaPassword() {
+    Mostra(*ui_->txtPassword1, true);
+    Mostra(*ui_->txtPassword, false);
+    ui_->PswLabels_0->setText(QStringLiteral("Password :"));
+    platform::dialogs().message("Please enter your personal Password, max length. 12 char");
+    ui_->txtPassword1->setFocus();
+}
+
+void About::ChiediPassword() {
+    ui_->txtPassword->clear();
+    ui_->txtPassword1->clear();
+    Mostra(*ui_->txtPassword, true);
+    ui_->PswLabels_0->setText(QStringLiteral("Password :"));
+    Mostra(*ui_->txtPassword1, false);
+    ui_->txtPassword->setFocus();
+}
+
+void About::Entra() {
+    ApriForm("Avvio_Azienda", true);
+    UnloadMe();
+}
+
+void About::Unload() {
+    ApriDbTemp();
+}
+
+} // namespace vabo

@@ -1,0 +1,35 @@
+#pragma once
+
+#include "controls/Form.h"
+
+#include <memory>
+#include <string>
+
+namespace Ui {
+class Avvio_Azienda;
+}
+
+namespace vabo {
+
+/// The hub of the console: the list of companies and the three ways on. It is the bottom of the form stack; each of its
+/// Loads takes up the company anew.
+class Avvio_Azienda : public controls::Form {
+    Q_OBJECT
+public:
+    Avvio_Azienda();
+    ~Avvio_Azienda() override;
+
+protected:
+    void Load() override;
+
+private:
+    void CaricaElenco();
+    void ScegliAzienda(int area);
+    void ApriUtenti();
+    void ApriDa(const std::string& nome);
+    void MostraAziendaAperta();
+
+    std::unique_ptr<Ui::Avvio_Azienda> ui_;
+};
+
+} // namespace vabo

@@ -1,0 +1,27 @@
+#pragma once
+
+#include "controls/Form.h"
+
+#include <memory>
+
+namespace Ui {
+class Avvio;
+}
+
+namespace vabo {
+
+/// What is seen while the linked tables are pointed at another company; it looks like the start form.
+class FormRefreshLinks : public controls::Form {
+    Q_OBJECT
+public:
+    FormRefreshLinks();
+    ~FormRefreshLinks() override;
+
+protected:
+    void Load() override;
+
+private:
+    std::unique_ptr<Ui::Avvio> ui_;
+};
+
+} // namespace vabo

@@ -191,7 +191,8 @@ Value Recordset::ValueAt(long position, int column) const {
 }
 
 void Recordset::onChange(std::function<void()> listener) {
-    state_->listeners.push_back(std::move(listener));
+    if (listener)
+        state_->listeners.push_back(std::move(listener));
 }
 
 } // namespace ado

@@ -1,0 +1,85 @@
+#include "ado/AdoFixture.h"
+
+#include "ado/Conversions.h"
+#include "ado/Drivers.h"
+#include "engine/Instance.h"
+#include "support/TemporaryFolder.h"
+
+#include <filesystem>
+
+namespace ado::test {
+
+namespace {
+
+/// The embedded server in a temporary folder.
+class EmbeddedServer : public TestServer {
+public:
+    EmbeddedServer() {
+        std::filesystem::create_directories(instances());
+        const auto mapPath = [this](std::string_view path) { return folder_.path() / path; };
+        instance_ = engine::Instance::create(instances() / "PROVA$sqlexpress", {mapPath});
+        instance_->addLogin("sa", "segreta");
+        setEmbeddedHome({[this] { return instances(); }, mapPath});
+        Connection master;
+        master.Open(connectionString("master"));
+        master.Execute("CREATE DATABASE Vabodati");
+    }
+    ~EmbeddedServer() override { setEmbeddedHome({}); }
+
+    std::string connectionString() const override { return connectionString("Vabodati"); }
+    std::string connectionString(const std::string& database) const override {
+        return "Driver=SQL Server;Server=PROVA\\sqlexpress;UID=sa;PWD=segreta;DATABase=" + database;
+    }
+    std::vector<std::string> helperArguments() const override { return {instances().string(), connectionString()}; }
+
+private:
+    std::filesystem::path instances() const { return folder_.path() / "istanze"; }
+
+    support::TemporaryFolder folder_;
+    std::shared_ptr<engine::Instance> instance_;
+};
+
+} // namespace
+
+std::vector<ServerUnderTest> serversUnderTest() {
+    return {{"embedded", [] { return std::unique_ptr<TestServer>(std::make_unique<EmbeddedServer>()); }}};
+}
+
+void Contract::SetUp() {
+    server = GetParam().make();
+    connection.Open(server->connectionString());
+    connection.Execute("CREATE TABLE Comuni (id int IDENTITY (1, 1) NOT NULL PRIMARY KEY, nome nvarchar(20) NOT NULL, "
+                       "cap nvarchar(5) NULL DEFAULT '00000', abitanti int NULL, sede bit NOT NULL DEFAULT 0)");
+    connection.Execute("INSERT INTO Comuni (nome, cap, abitanti, sede) VALUES ('Roma', '00118', 2800000, 1), "
+                       "('Milano', '20121', 1400000, 0), (N'Forlì', '47121', NULL, 0), ('L''Aquila', NULL, 70000, 1)");
+    connection.Execute(
+        "CREATE TABLE Tipi (id int NOT NULL PRIMARY KEY, logico bit NULL, ottetto tinyint NULL, corto smallint "
+        "NULL, intero int NULL, grande bigint NULL, singolo real NULL, doppio float NULL, decimale "
+        "decimal(10,2) NULL, denaro money NULL, data datetime NULL, testo nvarchar(10) NULL, stretto "
+        "varchar(10) NULL, fisso char(3) NULL, lungo ntext NULL)");
+    connection.Execute("INSERT INTO Tipi (id) VALUES (1)");
+}
+
+std::vector<std::string> Contract::rowsOf(const std::string& statement) {
+    std::vector<std::string> rows;
+    Recordset rs;
+    rs.Open(statement, connection);
+    for (; !rs.EOF(); rs.MoveNext()) {
+        std::string row;
+        for (int i = 0; i < rs.FieldCount(); ++i)
+            row += (i == 0 ? "" : "|") + display(rs[i]);
+        rows.push_back(row);
+    }
+    return rows;
+}
+
+std::string Contract::cell(const std::string& statement) {
+    const auto rows = rowsOf(statement);
+    return rows.size() == 1 ? rows.front() : "(" + std::to_string(rows.size()) + " rows)";
+}
+
+std::string display(const Value& value) {
+    return value.isNull() ? "-" : toText(value);
+}
+
+} // namespace ado::test

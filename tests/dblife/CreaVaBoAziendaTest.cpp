@@ -1,0 +1,167 @@
+#include "dblife/CreaVaBoAzienda.h"
+
+#include "session/ApriDbSede.h"
+#include "session/variabili.h"
+#include "support/DialogScript.h"
+#include "support/StatementRecorder.h"
+#include "support/TestWorkstation.h"
+
+#include <gtest/gtest.h>
+
+#include <string>
+#include <vector>
+
+namespace {
+
+using namespace vabo;
+
+const std::vector<std::pair<std::string, std::string>> kOptions = {
+    {"autoclose", "true"},
+    {"bulkcopy", "true"},
+    {"trunc. log", "true"},
+    {"torn page detection", "true"},
+    {"read only", "false"},
+    {"dbo use", "false"},
+    {"single", "false"},
+    {"autoshrink", "true"},
+    {"ANSI null default", "false"},
+    {"recursive triggers", "false"},
+    {"ANSI nulls", "false"},
+    {"concat null yields null", "false"},
+    {"cursor close on commit", "false"},
+    {"default to local cursor", "false"},
+    {"quoted identifier", "false"},
+    {"ANSI warnings", "false"},
+    {"auto create statistics", "true"},
+    {"auto update statistics", "true"},
+};
+
+const std::string kCreateTemporary =
+    "IF not EXISTS (SELECT name FROM master.dbo.sysdatabases WHERE name = N'VaBoDatiTemp')  CREATE DATABASE "
+    "[VaBoDatiTemp]  ON (NAME = N'VaBoDatiTemp_dat', FILENAME = 'C:\\vabo\\sedi\\VaBoDatiTemp.mdf' ,  FILEGROWTH = "
+    "10%) LOG ON (NAME = N'VaBoDatiTemp_log', FILENAME = 'C:\\vabo\\sedi\\VaBoDatiTemp.ldf' , SIZE = 2, FILEGROWTH = "
+    "10%) COLLATE Latin1_General_CI_AS";
+const std::string kCreateControl =
+    "IF not EXISTS (SELECT name FROM master.dbo.sysdatabases WHERE name = N'VaBoDatiAzienda')  CREATE DATABASE "
+    "[VaBoDatiAzienda]  ON (NAME = N'VaBoDatiAzienda_dat', FILENAME = N'VaBoDatiAzienda.mdf' ,  FILEGROWTH = 10%) LOG "
+    "ON (NAME = N'VaBoDatiAzienda_log', FILENAME = N'VaBoDatiAzienda.ldf' , SIZE = 2, FILEGROWTH = 10%) COLLATE "
+    "Latin1_General_CI_AS";
+const std::string kCompanies =
+    "CREATE TABLE [link_programma] (  [id] [int] IDENTITY (1, 1) NOT NULL ,  [NomeAzienda] [varchar] (255)   NULL ,  "
+    "[Stringa_connessione_sql] [nvarchar] (255)   NULL ,  [tlv_access] [nvarchar] (255)   NULL ,  [tlv_sql] [nvarchar] "
+    "(255)   NULL ,  [wzzip] [nvarchar] (255)   NULL ,  [wzunzip] [nvarchar] (50)   NULL ,  [Nserver] [nvarchar] (250) "
+    "  NULL ,  [dbname] [nvarchar] (50)   NULL ,  [nRoot] [nvarchar] (50)   NULL ,  [Npassw] [nvarchar] (50)   NULL,  "
+    "[ultimo] bit not null default '0' , [nometerminale] [nvarchar] (255)  NULL,  [IndirizzoMdf] nvarchar(250) Null,  "
+    "[IndirizzoLdf] nvarchar(250) Null) ";
+const std::string kTerminals =
+    "create table link_programmaTerminale  (idAutonumber int NOT NULL IDENTITY (1, 1), Nometerminale nvarchar(255) "
+    "null, ultimo int not null default 0, Version int not null default 0)";
+
+std::vector<std::string> allStatements() {
+    std::vector<std::string> all = {"sp_configure 'query timeout',0 RECONFIGURE", kCreateTemporary};
+    for (const auto& [option, value] : kOptions) {
+        all.push_back(" sp_dboption N'VaBoDatiTemp', N'" + option + "', N'" + value + "'");
+    }
+    all.push_back(kCreateControl);
+    std::string start = "  ";
+    for (const auto& [option, value] : kOptions) {
+        all.push_back(start + "sp_dboption N'VaBoDatiAzienda', N'" + option + "', N'" + value + "'");
+        start = " ";
+    }
+    all.push_back(kCompanies);
+    all.push_back(kTerminals);
+    return all;
+}
+
+class CreaVaBoAzienda : public testing::Test {
+protected:
+    CreaVaBoAzienda() { NomeTerminale = support::kTerminalName; }
+    std::string databases(const std::string& name) const {
+        return workstation.value("master", "select count(*) from sysdatabases where name = '" + name + "'");
+    }
+    std::string count(const std::string& table) const {
+        return workstation.value(support::kControlDatabase, "select count(*) from " + table);
+    }
+    support::TestWorkstation workstation;
+    support::DialogScript noBox;
+};
+
+TEST_F(CreaVaBoAzienda, SendsItsStatementsLetterForLetter) {
+    const support::StatementRecorder recorder;
+    CreaDatabaseControllo();
+    EXPECT_EQ(recorder.texts(), allStatements());
+    EXPECT_EQ(Sql, kTerminals);
+}
+
+TEST_F(CreaVaBoAzienda, MakesBothDatabasesAndBothEmptyTablesOnABareInstance) {
+    workstation.run("master", "DROP DATABASE vabodatiazienda");
+    CreaDatabaseControllo();
+    EXPECT_EQ(databases("VaBoDatiTemp"), "1");
+    EXPECT_EQ(databases("VaBoDatiAzienda"), "1");
+    EXPECT_EQ(count("link_programma"), "0");
+    EXPECT_EQ(count("link_programmaTerminale"), "0");
+    EXPECT_FALSE(DbTemp.IsOpen());
+}
+
+TEST_F(CreaVaBoAzienda, TheTablesTakeRowsWithTheirDefaults) {
+    workstation.run("master", "DROP DATABASE vabodatiazienda");
+    CreaDatabaseControllo();
+    workstation.run(support::kControlDatabase, "insert into link_programma (NomeAzienda) values ('A')");
+    workstation.run(support::kControlDatabase, "insert into link_programmaTerminale (Nometerminale) values (N'P')");
+    EXPECT_EQ(workstation.row(support::kControlDatabase, "select id, NomeAzienda, ultimo, dbname from link_programma"),
+              (support::TestWorkstation::Row{"1", "A", "0", "NULL"}));
+    EXPECT_EQ(workstation.row(support::kControlDatabase, "select * from link_programmaTerminale"),
+              (support::TestWorkstation::Row{"1", "P", "0", "0"}));
+}
+
+TEST_F(CreaVaBoAzienda, TheTemporaryDatabaseLiesInItsFolder) {
+    CreaDatabaseControllo();
+    EXPECT_TRUE(workstation.driveC().isFile("C:\\vabo\\sedi\\VaBoDatiTemp.mdf"));
+}
+
+TEST_F(CreaVaBoAzienda, ExistingDatabasesAndTheirRowsStay) {
+    const std::string companies = count("link_programma");
+    CreaDatabaseControllo();
+    CreaDatabaseControllo();
+    EXPECT_EQ(count("link_programma"), companies);
+    EXPECT_EQ(databases("VaBoDatiAzienda"), "1");
+}
+
+TEST_F(CreaVaBoAzienda, OnlyTheMissingTablesAreMade) {
+    workstation.run(support::kControlDatabase, "DROP TABLE link_programmaTerminale");
+    const std::string companies = count("link_programma");
+    CreaDatabaseControllo();
+    EXPECT_EQ(count("link_programmaTerminale"), "0");
+    EXPECT_EQ(count("link_programma"), companies);
+}
+
+TEST_F(CreaVaBoAzienda, TheOptionsAreSetOnEveryRun) {
+    CreaDatabaseControllo();
+    const support::StatementRecorder recorder;
+    CreaDatabaseControllo();
+    EXPECT_EQ(recorder.holding("sp_dboption").size(), 2 * kOptions.size());
+}
+
+TEST_F(CreaVaBoAzienda, AMissingFolderIsSilentAndTheRestIsMade) {
+    std::filesystem::remove_all(workstation.driveC().real("C:\\vabo\\sedi"));
+    workstation.run("master", "DROP DATABASE vabodatiazienda");
+    CreaDatabaseControllo();
+    EXPECT_EQ(databases("VaBoDatiTemp"), "0");
+    EXPECT_EQ(count("link_programma"), "0");
+}
+
+TEST_F(CreaVaBoAzienda, WithoutALocalServerNothingIsSentAndNothingIsSaid) {
+    workstation.putFile("C:\\vabo\\Leggi_ServerLocal.txt", "Server=lontano;\r\n");
+    const support::StatementRecorder recorder;
+    CreaDatabaseControllo();
+    EXPECT_TRUE(recorder.texts().empty());
+    EXPECT_FALSE(ApriDbTemp());
+}
+
+TEST_F(CreaVaBoAzienda, OpeningTheTemporaryDatabaseMakesWhatIsMissing) {
+    workstation.run("master", "DROP DATABASE vabodatiazienda");
+    EXPECT_TRUE(ApriDbTemp());
+    EXPECT_EQ(count("link_programma"), "0");
+}
+
+} // namespace

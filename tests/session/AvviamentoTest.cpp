@@ -1,0 +1,177 @@
+#include "session/Avviamento.h"
+
+#include "rights/AbilitazioneUtente.h"
+#include "session/SessionFixture.h"
+
+namespace {
+
+using namespace vabo;
+using support::kCompany;
+using support::kOtherCompany;
+
+class Avviamento : public SessionTest {
+protected:
+    Avviamento() { NomeTerminale.clear(); }
+};
+
+TEST_F(Avviamento, TheVersionIsThatOfTheProgram) {
+    platform::workstation().versionMajor = 2;
+    platform::workstation().versionMinor = 0;
+    platform::workstation().versionRevision = 1045;
+    EXPECT_EQ(TestoVersione(), "Ver. 2.0.1045");
+}
+
+TEST_F(Avviamento, TheDatabaseTextEndsInTheCompanysName) {
+    EXPECT_EQ(TestoDatabase(), "DataBase :   ");
+    NomeAzienda = "Associazione Aurora";
+    EXPECT_EQ(TestoDatabase(), "DataBase :   Associazione Aurora");
+}
+
+TEST_F(Avviamento, TheTerminalsCompanyIsTakenUp) {
+    setTerminal("POSTO_7", idOf(kOtherCompany));
+    ClienteDornavel = kVero;
+    PrendiAziendaDelTerminale();
+    EXPECT_EQ(NomeTerminale, "POSTO_7");
+    EXPECT_EQ(IdAziendaScelta, idOf(kOtherCompany));
+    EXPECT_EQ(IdAziendaLavoro, idOf(kOtherCompany));
+    EXPECT_EQ(NomeDatabase, "VaBoDatiPonte");
+    EXPECT_TRUE(DbAzienda.IsOpen());
+    EXPECT_EQ(ClienteDornavel, kFalso);
+}
+
+TEST_F(Avviamento, AFirstStartTakesTheFirstCompanyAndEntersTheTerminal) {
+    PrendiAziendaDelTerminale();
+    EXPECT_EQ(NomeDatabase, "VaBoDatiAurora");
+    EXPECT_EQ(terminals(), (Rows{{"POSTO_7", textOf(idOf(kCompany))}}));
+}
+
+TEST_F(Avviamento, AMachineWithoutANameIsToldTwiceAndGoesOn) {
+    platform::workstation().machineName.clear();
+    script.expectMessage("Carica Nome PC");
+    script.expectMessage("Caricare il nome del PC!");
+    PrendiAziendaDelTerminale();
+    EXPECT_EQ(IdAziendaScelta, 0);
+    EXPECT_FALSE(DbAzienda.IsOpen());
+    EXPECT_EQ(end.ended(), 0);
+}
+
+TEST_F(Avviamento, AMissingPointerFileEndsTheStart) {
+    removeFile("C:\\vabo\\NomeServer.txt");
+    script.expectMessage("File not found");
+    EXPECT_TRUE(end.endedBy([] { PrendiAziendaDelTerminale(); }));
+}
+
+TEST_F(Avviamento, AnEmptyDriveEndsTheStart) {
+    const support::TestWorkstation empty(support::TestWorkstation::DriveC::Empty);
+    script.expectMessage("Path not found");
+    EXPECT_TRUE(end.endedBy([] { PrendiAziendaDelTerminale(); }));
+}
+
+TEST_F(Avviamento, AServerWithoutCompaniesEndsTheStart) {
+    control("delete from link_programma");
+    noCompanyDatabases();
+    script.expectMessage("Nessun database caricato");
+    EXPECT_TRUE(end.endedBy([] { PrendiAziendaDelTerminale(); }));
+}
+
+TEST_F(Avviamento, TheWordInTheCompanysNameIsRecognisedWithItsCase) {
+    const std::vector<std::pair<const char*, Flag>> cases = {
+        {"dornavel", kVero},   {"Centro dornavel onlus", kVero},
+        {"DORNAVEL", kFalso},  {"Dornavel", kFalso},
+        {"dorna vel", kFalso}, {"", kFalso},
+    };
+    for (const auto& [name, expected] : cases) {
+        ClienteDornavel = kFalso;
+        NomeAzienda = name;
+        RiconosciDornavel();
+        EXPECT_EQ(ClienteDornavel, expected) << name;
+    }
+}
+
+TEST_F(Avviamento, TheBranchIsReadUnlessTheServerIsMissing) {
+    PrendiAziendaDelTerminale();
+    IndirizzoVabodati = "x";
+    ServerMancante = kVero;
+    ApriSedeDiAvvio();
+    EXPECT_EQ(IdSede, 0);
+    EXPECT_EQ(IndirizzoVabodatiCopia, "");
+    ServerMancante = kFalso;
+    ApriSedeDiAvvio();
+    EXPECT_EQ(IdSede, 1);
+    EXPECT_EQ(IndirizzoVabodatiCopia, "x");
+}
+
+TEST_F(Avviamento, ACompanyThatIsClosedIsOpenedForTheBranch) {
+    PrendiAziendaDelTerminale();
+    DbAzienda.Close();
+    ApriSedeDiAvvio();
+    EXPECT_TRUE(DbAzienda.IsOpen());
+}
+
+TEST_F(Avviamento, TheServersOptionsAreOneBatch) {
+    PrendiAziendaDelTerminale();
+    const support::StatementRecorder recorder;
+    PreparaServer();
+    EXPECT_EQ(recorder.count("EXEC sys.sp_configure N'show advanced options', N'1'  RECONFIGURE WITH OVERRIDE\r\n"
+                             " EXEC sys.sp_configure N'min memory per query (KB)', N'10240'\r\n"
+                             " RECONFIGURE WITH OVERRIDE \r\n"
+                             " EXEC sys.sp_configure N'show advanced options', N'0'  RECONFIGURE WITH OVERRIDE"),
+              1);
+}
+
+TEST_F(Avviamento, TheServerIsLeftWithItsMemoryAndWithoutAdvancedOptions) {
+    PrendiAziendaDelTerminale();
+    PreparaServer();
+    EXPECT_EQ(workstation.value("master", "select cast(value_in_use as int) from sys.configurations where name = "
+                                          "'min memory per query (KB)'"),
+              "10240");
+    EXPECT_EQ(workstation.value("master", "select cast(value_in_use as int) from sys.configurations where name = "
+                                          "'show advanced options'"),
+              "0");
+}
+
+TEST_F(Avviamento, TheDataFileAndTheTemporaryDatabaseAreReady) {
+    PrendiAziendaDelTerminale();
+    PreparaServer();
+    EXPECT_NE(IndirizzoMdf, "");
+    EXPECT_TRUE(DbTemp.IsOpen());
+}
+
+TEST_F(Avviamento, WithoutServersTheServersPreparationIsSilent) {
+    removeFile("C:\\vabo\\IndirizzoServer.txt");
+    workstation.putFile("C:\\vabo\\Leggi_ServerLocal.txt", "Server=lontano;\r\n");
+    PreparaServer();
+    EXPECT_FALSE(DbTemp.IsOpen());
+}
+
+TEST_F(Avviamento, TheLanguageIsRead) {
+    PrendiAziendaDelTerminale();
+    workstation.run(support::kTemporaryDatabase, "update LinguaClient set Lingua = 'ES'");
+    PrendiLingua();
+    EXPECT_EQ(LinguaCorrente, "ES");
+}
+
+TEST_F(Avviamento, WhereThereAreUsersTheLoginIsNeeded) {
+    PrendiAziendaDelTerminale();
+    EXPECT_TRUE(ServeLogin());
+    EXPECT_EQ(DirittiUtente, Diritti{});
+    EXPECT_FALSE(RsCondivisi(2).IsOpen());
+}
+
+TEST_F(Avviamento, WithoutUsersAllRightsButTwoAreGiven) {
+    PrendiAziendaDelTerminale();
+    workstation.run(kCompany, "delete from AbilitazioneAccessi");
+    EXPECT_FALSE(ServeLogin());
+    EXPECT_EQ(DirittiUtente, kDirittiAvvioSenzaUtenti);
+    EXPECT_EQ(DirittiUtente.A_EmettiPagamenti, kVero);
+    EXPECT_EQ(DirittiUtente.A_Progetta, kFalso);
+    EXPECT_EQ(DirittiUtente.Disabilita, kFalso);
+    EXPECT_FALSE(RsCondivisi(2).IsOpen());
+}
+
+TEST_F(Avviamento, ACompanyThatCannotBeReadCountsAsOneWithoutUsers) {
+    EXPECT_FALSE(ServeLogin());
+    EXPECT_EQ(DirittiUtente, kDirittiAvvioSenzaUtenti);
+}
+
+} // namespace

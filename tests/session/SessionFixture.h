@@ -1,0 +1,52 @@
+#pragma once
+
+#include "session/variabili.h"
+#include "support/DialogScript.h"
+#include "support/EndOfProcess.h"
+#include "support/StatementRecorder.h"
+#include "support/TestWorkstation.h"
+
+#include <gtest/gtest.h>
+
+#include <string>
+#include <vector>
+
+/// The sample workstation with the terminal's name known, as the start form leaves it.
+class SessionTest : public testing::Test {
+protected:
+    SessionTest() {
+        vabo::NomeTerminale = support::kTerminalName;
+        server = workstation.driveC().firstLine("C:\\vabo\\IndirizzoServer.txt");
+    }
+
+    void control(const std::string& sql) const { workstation.run(support::kControlDatabase, sql); }
+    std::string controlValue(const std::string& sql) const { return workstation.value(support::kControlDatabase, sql); }
+    /// The company's number in the registry.
+    double idOf(const std::string& database) const {
+        return std::stod(controlValue("select id from link_programma where dbname = '" + database + "'"));
+    }
+    std::string textOf(double number) const { return std::to_string(static_cast<long>(number)); }
+    void setTerminal(const std::string& name, double number) const {
+        control("insert into link_programmaTerminale (Nometerminale, ultimo) values (N'" + name + "', " +
+                textOf(number) + ")");
+    }
+    /// Name and company of every terminal.
+    std::vector<support::TestWorkstation::Row> terminals() const {
+        return workstation.rows(support::kControlDatabase,
+                                "select Nometerminale, ultimo from link_programmaTerminale order by idAutonumber");
+    }
+    void drop(const std::string& database) const { workstation.run("master", "DROP DATABASE [" + database + "]"); }
+    void create(const std::string& database) const { workstation.run("master", "CREATE DATABASE [" + database + "]"); }
+    void noCompanyDatabases() const {
+        drop(support::kCompany);
+        drop(support::kOtherCompany);
+    }
+    void removeFile(const std::string& path) const { workstation.driveC().remove(path); }
+
+    support::TestWorkstation workstation;
+    support::DialogScript script; ///< no box but those that the test expects
+    support::EndOfProcess end;
+    std::string server; ///< first line of the server's pointer file
+};
+
+using Rows = std::vector<support::TestWorkstation::Row>;

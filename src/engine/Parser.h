@@ -16,7 +16,7 @@ inline constexpr std::size_t kLongestBatch = 65536 * 4096ULL;
 /// The tree of a batch. Throws Error 102, 105, 156 or 191 with the place; nothing of a refused batch runs.
 BatchTree parse(std::string_view batch);
 
-/// The tree of one expression alone, for stored defaults.
+/// The tree of one expression alone, for stored defaults; its literals have no index.
 ExpressionPtr parseExpression(std::string_view text);
 
 } // namespace engine

@@ -63,6 +63,7 @@ bool isCondition(const Expression& expression) {
 } // namespace
 
 ExpressionPtr Grammar::expressionAlone() {
+    structural_ = true; // it will stand in statements whose literals are not its own
     auto expression = value();
     if (!atEnd())
         refuse();

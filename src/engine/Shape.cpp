@@ -44,7 +44,9 @@ Literal::Kind literalKind(const Token& token) {
 }
 
 Shape shapeOf(std::span<const Token> tokens) {
+    constexpr std::size_t kUsualLength = 8;
     Shape shape;
+    shape.key.reserve(tokens.size() * kUsualLength);
     for (const Token& token : tokens) {
         if (token.kind == Token::Kind::End)
             break;

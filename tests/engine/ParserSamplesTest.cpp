@@ -104,6 +104,7 @@ TEST(Literals, ThatShapeTheStatementHaveNoNumber) {
     EXPECT_EQ(std::get<Literal>(sum.right->node).index, 2);
     const auto& table = std::get<CreateTable>(batch.statements.at(1)->node);
     EXPECT_EQ(std::get<Literal>(table.columns.front().defaultValue->node).index, -1);
+    EXPECT_EQ(std::get<Literal>(parseExpression("5")->node).index, -1);
 }
 
 } // namespace

@@ -12,9 +12,8 @@ void AggiornaRecord(ado::Recordset& rs) {
 
 // Failing statements are skipped.
 std::string ChiudiRecordset() {
-    for (int posto = 1; posto <= RecordsetCondivisi::kNumero; ++posto) {
+    for (int posto = 1; posto <= RecordsetCondivisi::kNumero; ++posto)
         RsCondivisi.Rilascia(posto);
-    }
     if (DbLocale) {
         salta([] { DbLocale->Close(); });
         DbLocale.reset();

@@ -28,9 +28,8 @@ bool Contiene(const std::array<std::string_view, N>& elenco, std::string_view te
 // A date value without a day, 30 December 1899, is written as its time alone.
 std::string TestoData(const ado::Date& data) {
     static const ado::Date giornoZero = ado::Date::of(1899, 12, 30);
-    if (data == giornoZero) {
+    if (data == giornoZero)
         return "00:00:00";
-    }
     return ado::formatDate(data);
 }
 

@@ -108,9 +108,8 @@ void RisolviConTerminale() {
 }
 
 void ScriviUltimo(const std::string& numero) {
-    if (IsEmptyValue(Appoggio)) {
+    if (IsEmptyValue(Appoggio))
         return;
-    }
     salta([&] {
         DbControllo.Execute("update link_programmaTerminale set ultimo = " + numero + " where  " +
                             " nometerminale = '" + Appoggio + "'");
@@ -126,15 +125,13 @@ void RegistraScelta() {
 
 /// An empty column keeps the value of the company before.
 void PrendiTesto(ado::Recordset& rs, const char* colonna, std::string& globale) {
-    if (vera([&] { return !IsEmptyValue(rs[colonna]); })) {
+    if (vera([&] { return !IsEmptyValue(rs[colonna]); }))
         salta([&] { globale = ado::toText(rs[colonna]); });
-    }
 }
 
 void CreaCartellaFile() {
-    for (const char* cartella : {"C:\\", "C:\\Vabo", "C:\\Vabo\\Files"}) {
+    for (const char* cartella : {"C:\\", "C:\\Vabo", "C:\\Vabo\\Files"})
         salta([&] { platform::workstation().driveC.makeFolder(cartella); });
-    }
     CartellaFile = "C:\\Vabo\\Files";
 }
 
@@ -150,25 +147,21 @@ void ComponiStringhe(ado::Recordset& rs) {
     Leggi_ServerLocal(); // its text serves nothing here, the file that it may write does
     salta([&] { PercorsoFileLocale = std::string("C:\\Vabo\\Files") + "\\" + Pezzo(rs["tlv_sql"]); });
     salta([&] { FileLocale = Pezzo(rs["tlv_sql"]); });
-    if (IsEmptyValue(FileLocale)) {
+    if (IsEmptyValue(FileLocale))
         FileLocale = LinguaCorrente == "EN" ? "tlv_locale_sqlEN.mdb" : "tlv_locale_sql.mdb";
-    }
 }
 
 Esito AziendaSenzaDatabase(ado::Recordset& rs, double& id) {
     PrendiTesto(rs, "NomeAzienda", NomeAzienda);
     PrendiTesto(rs, "nRoot", UtenteDb);
     PrendiTesto(rs, "nPassw", PasswordDb);
-    if (vera([&] { return !IsEmptyValue(rs["tlv_sql"]); })) {
+    if (vera([&] { return !IsEmptyValue(rs["tlv_sql"]); }))
         salta([&] { PercorsoFileLocale = "C:\\Vabo\\Files\\" + Pezzo(rs["tlv_sql"]); });
-    }
-    for (double* numero : {&IdAzienda, &IdAziendaLavoro, &id}) {
+    for (double* numero : {&IdAzienda, &IdAziendaLavoro, &id})
         salta([&] { *numero = ado::toDouble(rs["id"]); });
-    }
     salta([&] { rs.Close(); });
-    if (!DatabasePresente()) { // of the company before
+    if (!DatabasePresente()) // of the company before
         return Esito::DaRipiegare;
-    }
     ChiudiRecordset();
     return Esito::Aperta;
 }
@@ -184,9 +177,8 @@ Esito Concludi(ado::Recordset& rs) {
     salta([] { DbAzienda.Close(); });
     salta([] { DbControllo.Close(); });
     RiapriDbAzienda();
-    if (IsEmptyValue(NomeDatabase) || !DatabasePresente()) {
+    if (IsEmptyValue(NomeDatabase) || !DatabasePresente())
         return Esito::DaRipiegare;
-    }
     NomeDsn = "Tlv_server";
     salta([] { DbControllo.Open(ConnessioneControllo()); });
     CancellaTerminaliVuoti();
@@ -203,18 +195,16 @@ Esito AziendaConDatabase(ado::Recordset& rs) {
     CreaCartellaFile();
     ComponiStringhe(rs);
     salta([] { DbAzienda.Close(); });
-    if (!DatabasePresente()) {
+    if (!DatabasePresente())
         return Esito::DaRipiegare;
-    }
     RiapriDbAzienda();
     return Concludi(rs);
 }
 
 Esito Passata(double& id) {
     StringheDiPartenza(id);
-    if (IsEmptyValue(IdAziendaLavoro)) {
+    if (IsEmptyValue(IdAziendaLavoro))
         RisolviConTerminale();
-    }
     RegistraScelta();
     ado::Recordset rs;
     salta([&] {
@@ -228,17 +218,15 @@ Esito Passata(double& id) {
         return Esito::SenzaRiga;
     }
     salta([] { LinguaCorrente = LeggiLinguaClient(""); });
-    if (vera([&] { return IsEmptyValue(rs["DBname"]); })) {
+    if (vera([&] { return IsEmptyValue(rs["DBname"]); }))
         return AziendaSenzaDatabase(rs, id);
-    }
     return AziendaConDatabase(rs);
 }
 
 /// The one search on the server: it runs anew for each use of its answer.
 void RipiegaSullaPrima(double& id) {
-    if (IsEmptyValue(PrimaAziendaSuServer())) {
+    if (IsEmptyValue(PrimaAziendaSuServer()))
         FineConMessaggio("Non è possibile caricare il DataBase");
-    }
     IdAzienda = PrimaAziendaSuServer();
     IdAziendaLavoro = PrimaAziendaSuServer();
     id = PrimaAziendaSuServer();
@@ -247,14 +235,12 @@ void RipiegaSullaPrima(double& id) {
 } // namespace
 
 void ApriAzienda(double& id) {
-    if (!NumeroDiPartenza(id)) {
+    if (!NumeroDiPartenza(id))
         return;
-    }
     for (Esito esito = Passata(id); esito != Esito::Aperta; esito = Passata(id)) {
         RipiegaSullaPrima(id);
-        if (esito == Esito::SenzaRiga) {
+        if (esito == Esito::SenzaRiga)
             salta([] { DbControllo.Close(); });
-        }
     }
 }
 

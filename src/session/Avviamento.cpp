@@ -48,15 +48,13 @@ void PrendiAziendaDelTerminale() {
 }
 
 void RiconosciDornavel() {
-    if (ado::matches(NomeAzienda, "*dornavel*")) {
+    if (ado::matches(NomeAzienda, "*dornavel*"))
         ClienteDornavel = kVero;
-    }
 }
 
 void ApriSedeDiAvvio() {
-    if (ServerMancante != kFalso) {
+    if (ServerMancante != kFalso)
         return;
-    }
     salta([] { DbAzienda.Open(ConnessioneAzienda()); });
     IndirizzoVabodatiCopia = IndirizzoVabodati;
     LeggiSede();
@@ -78,9 +76,8 @@ bool ServeLogin() {
     ado::Recordset& rs = RsCondivisi(2);
     salta([&] { ApriScrivibile(rs, "AbilitazioneAccessi", DbAzienda); });
     const bool nessuno = vera([&] { return rs.EOF(); });
-    if (nessuno) {
+    if (nessuno)
         DirittiUtente = kDirittiAvvioSenzaUtenti;
-    }
     ChiudiRecordset();
     return !nessuno;
 }

@@ -93,9 +93,8 @@ bool ApriForm(const std::string& nome, bool ricorda) {
         CimaForm = 0;
         PilaForm = {nome};
     }
-    if (MostraForm(nome)) {
+    if (MostraForm(nome))
         return true;
-    }
     qCInfo(kForme).noquote() << "no such form:" << QString::fromStdString(nome);
     CimaForm = cima;
     PilaForm = pila;
@@ -104,9 +103,8 @@ bool ApriForm(const std::string& nome, bool ricorda) {
 
 void ChiudiForm() {
     CimaForm -= 1;
-    if (CimaForm < 0 || IsEmptyValue(CimaForm)) {
+    if (CimaForm < 0 || IsEmptyValue(CimaForm))
         CimaForm = 0;
-    }
     RidimensionaPila();
     RiattivaForm(NomeInCima());
 }

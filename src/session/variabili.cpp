@@ -22,9 +22,8 @@ double CimaForm;
 
 ado::Recordset& RecordsetCondivisi::operator()(int posto) {
     std::unique_ptr<ado::Recordset>& rs = elenco_.at(static_cast<std::size_t>(posto - 1));
-    if (!rs) {
+    if (!rs)
         rs = std::make_unique<ado::Recordset>();
-    }
     return *rs;
 }
 
@@ -37,14 +36,12 @@ void RecordsetCondivisi::Rilascia(int posto) {
 }
 
 void AzzeraVariabili() {
-    for (int posto = 1; posto <= RecordsetCondivisi::kNumero; ++posto) {
+    for (int posto = 1; posto <= RecordsetCondivisi::kNumero; ++posto)
         RsCondivisi.Rilascia(posto);
-    }
     DbLocale.reset();
     for (ado::Connection* connessione : {&DbAzienda, &DbControllo, &DbTemp}) {
-        if (connessione->IsOpen()) {
+        if (connessione->IsOpen())
             connessione->Close();
-        }
         connessione->setConnectionString("");
     }
     for (std::string* testo : {&StringaAzienda,    &StringaAziendaCopia,
@@ -57,13 +54,11 @@ void AzzeraVariabili() {
                                &CartellaFile,      &PercorsoFileLocale,
                                &FileLocale,        &LinguaCorrente,
                                &NomeUtenteLogin,   &Sql,
-                               &SqlLavoro,         &Appoggio}) {
+                               &SqlLavoro,         &Appoggio})
         testo->clear();
-    }
     for (double* numero :
-         {&IdAzienda, &IdAziendaLavoro, &IdAziendaScelta, &IdSede, &IdSedeCopia, &TentativiLogin, &CimaForm}) {
+         {&IdAzienda, &IdAziendaLavoro, &IdAziendaScelta, &IdSede, &IdSedeCopia, &TentativiLogin, &CimaForm})
         *numero = 0;
-    }
     ClienteDornavel = kFalso;
     ServerMancante = kFalso;
     DirittiUtente = {};

@@ -59,9 +59,8 @@ const std::string kTerminals =
 
 std::vector<std::string> allStatements() {
     std::vector<std::string> all = {"sp_configure 'query timeout',0 RECONFIGURE", kCreateTemporary};
-    for (const auto& [option, value] : kOptions) {
+    for (const auto& [option, value] : kOptions)
         all.push_back(" sp_dboption N'VaBoDatiTemp', N'" + option + "', N'" + value + "'");
-    }
     all.push_back(kCreateControl);
     std::string start = "  ";
     for (const auto& [option, value] : kOptions) {

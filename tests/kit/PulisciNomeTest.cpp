@@ -13,18 +13,15 @@ std::string cleaned(std::string text) {
 }
 
 TEST(PulisciNome, ReplacesEachForbiddenCharacterByAnUnderscore) {
-    for (const char c : std::string(" ,/\\'&@\"-+!=?^$#()[]*")) {
+    for (const char c : std::string(" ,/\\'&@\"-+!=?^$#()[]*"))
         EXPECT_EQ(cleaned(std::string("a") + c + "b"), "a_b") << "character " << c;
-    }
 }
 
 TEST(PulisciNome, LeavesAllOtherPrintableCharacters) {
     const std::string forbidden = " ,/\\'&@\"-+!=?^$#()[]*";
-    for (char c = '!'; c <= '~'; ++c) {
-        if (forbidden.find(c) == std::string::npos) {
+    for (char c = '!'; c <= '~'; ++c)
+        if (forbidden.find(c) == std::string::npos)
             EXPECT_EQ(cleaned(std::string(1, c)), std::string(1, c));
-        }
-    }
 }
 
 TEST(PulisciNome, CleansWholeNames) {
@@ -41,9 +38,8 @@ TEST(PulisciNome, CleansWholeNames) {
         {"a.b;c:d<e>f|g%h_i`j~k{l}", "a.b;c:d<e>f|g%h_i`j~k{l}"},
         {"ʼ’＇", "ʼ’＇"},
     };
-    for (const auto& [text, expected] : cases) {
+    for (const auto& [text, expected] : cases)
         EXPECT_EQ(cleaned(text), expected);
-    }
 }
 
 TEST(PulisciNome, ChangesItsArgumentAndGivesItBack) {

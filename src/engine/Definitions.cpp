@@ -1,0 +1,40 @@
+#include "engine/Definitions.h"
+
+#include "engine/BindErrors.h"
+#include "engine/Collation.h"
+
+namespace engine {
+
+namespace {
+
+template<class Node>
+concept Definition = requires(ServerSession& session, const Node& node) {
+    define(session, node);
+}
+&&!std::same_as<Node, Statement>;
+
+} // namespace
+
+bool define(ServerSession& session, const Statement& statement) {
+    return std::visit(
+        [&](const auto& node) {
+            if constexpr (Definition<std::decay_t<decltype(node)>>) {
+                define(session, node);
+                return true;
+            } else {
+                return false;
+            }
+        },
+        statement.node);
+}
+
+const TableInfo* definedTable(ServerSession& session, const Name& name) {
+    const std::size_t pieces = name.pieces.size();
+    const bool elsewhere =
+        pieces > 2 && !name.pieces[pieces - 3].empty() && !sameText(name.pieces[pieces - 3], session.database());
+    const bool otherSchema =
+        pieces > 1 && !name.pieces[pieces - 2].empty() && !sameText(name.pieces[pieces - 2], "dbo");
+    return elsewhere || otherSchema ? nullptr : session.current().catalog().table(name.last());
+}
+
+} // namespace engine

@@ -1,0 +1,148 @@
+#include "engine/BindErrors.h"
+#include "engine/Conversions.h"
+#include "engine/Error.h"
+#include "engine/FunctionRoutines.h"
+
+#include <cmath>
+#include <cstdlib>
+#include <limits>
+
+namespace engine {
+
+namespace {
+
+Scalar absolute(FunctionContext& /*context*/, Arguments arguments) {
+    if (const auto* integer = std::get_if<std::int64_t>(&arguments[0])) {
+        if (*integer == std::numeric_limits<std::int64_t>::min()) {
+            throw errors::overflow("bigint");
+        }
+        return *integer < 0 ? -*integer : *integer;
+    }
+    return std::fabs(numberAt(arguments, 0));
+}
+
+Scalar floorOf(FunctionContext& /*context*/, Arguments arguments) {
+    return std::holds_alternative<std::int64_t>(arguments[0]) ? arguments[0]
+                                                              : Scalar(std::floor(numberAt(arguments, 0)));
+}
+
+Scalar ceilingOf(FunctionContext& /*context*/, Arguments arguments) {
+    return std::holds_alternative<std::int64_t>(arguments[0]) ? arguments[0]
+                                                              : Scalar(std::ceil(numberAt(arguments, 0)));
+}
+
+Scalar roundOf(FunctionContext& /*context*/, Arguments arguments) {
+    constexpr std::int64_t kMostDigits = 18;
+    const std::int64_t places = integerAt(arguments, 1);
+    if (places > kMostDigits) {
+        return arguments[0];
+    }
+    if (places < -kMostDigits) {
+        return std::holds_alternative<std::int64_t>(arguments[0]) ? Scalar(std::int64_t{0}) : Scalar(0.0);
+    }
+    if (const auto* integer = std::get_if<std::int64_t>(&arguments[0])) {
+        if (places >= 0) {
+            return *integer;
+        }
+        const double unit = std::pow(10.0, static_cast<double>(-places));
+        return static_cast<std::int64_t>(std::round(static_cast<double>(*integer) / unit) * unit);
+    }
+    if (places < 0) {
+        const double unit = std::pow(10.0, static_cast<double>(-places));
+        return std::round(numberAt(arguments, 0) / unit) * unit;
+    }
+    constexpr int kWidest = 38;
+    return toDecimal(numberAt(arguments, 0), DataType{DataType::Kind::Decimal, 0, kWidest, static_cast<int>(places)});
+}
+
+Scalar isNumeric(FunctionContext& /*context*/, Arguments arguments) {
+    const auto* text = std::get_if<std::string>(&arguments[0]);
+    if (text == nullptr) {
+        return std::int64_t{!isNull(arguments[0])};
+    }
+    try {
+        toFloat(*text);
+        return std::int64_t{text->find_first_not_of(' ') != std::string::npos};
+    } catch (const Error&) {
+        return std::int64_t{0};
+    }
+}
+
+/// Division that refuses zero and stays among integers when both sides are.
+Scalar divide(FunctionContext& /*context*/, Arguments arguments) {
+    if (numberAt(arguments, 1) == 0.0) {
+        throw errors::divideByZero();
+    }
+    const auto* left = std::get_if<std::int64_t>(&arguments[0]);
+    const auto* right = std::get_if<std::int64_t>(&arguments[1]);
+    const bool integers = left != nullptr && right != nullptr && integerAt(arguments, 2) != 0;
+    if (!integers) {
+        return numberAt(arguments, 0) / numberAt(arguments, 1);
+    }
+    return *right == -1 ? Scalar(-*left) : Scalar(*left / *right);
+}
+
+Scalar modulo(FunctionContext& /*context*/, Arguments arguments) {
+    if (numberAt(arguments, 1) == 0.0) {
+        throw errors::divideByZero();
+    }
+    const auto* left = std::get_if<std::int64_t>(&arguments[0]);
+    const auto* right = std::get_if<std::int64_t>(&arguments[1]);
+    if (left == nullptr || right == nullptr) {
+        return std::fmod(numberAt(arguments, 0), numberAt(arguments, 1));
+    }
+    return *right == -1 ? Scalar(std::int64_t{0}) : Scalar(*left % *right);
+}
+
+/// value, type it has, type it gets, style or -1, 1 where it is an assignment
+Scalar convertValue(FunctionContext& context, Arguments arguments) {
+    ConversionRequest request;
+    request.from = decodeType(integerAt(arguments, 1));
+    request.to = decodeType(integerAt(arguments, 2));
+    if (integerAt(arguments, 3) >= 0) {
+        request.style = static_cast<int>(integerAt(arguments, 3));
+    }
+    request.purpose = integerAt(arguments, 4) != 0 ? Purpose::Assignment : Purpose::Cast;
+    request.dayFirst = context.dayFirst;
+    return convert(arguments[0], request);
+}
+
+/// A sum or product of bigints: the storage goes over to floating numbers where it leaves their range.
+Scalar bigInteger(FunctionContext& /*context*/, Arguments arguments) {
+    if (!std::holds_alternative<std::int64_t>(arguments[0])) {
+        throw errors::overflow("bigint");
+    }
+    return arguments[0];
+}
+
+/// name of what is asked, argument if there is one
+Scalar fact(FunctionContext& context, Arguments arguments) {
+    return context.fact(textAt(arguments, 0), arguments.size() > 1 ? arguments[1] : Scalar());
+}
+
+/// Raised by the translation of a subselect that may give one row at most.
+Scalar tooManyRows(FunctionContext& /*context*/, Arguments /*arguments*/) {
+    throw errors::moreThanOneValue();
+}
+
+constexpr RoutineEntry kRoutines[] = {
+    {"tsql_bigint", 1, bigInteger},
+    {"tsql_abs", 1, absolute},
+    {"tsql_ceiling", 1, ceilingOf},
+    {"tsql_convert", 5, convertValue},
+    {"tsql_divide", 3, divide},
+    {"tsql_fact", -1, fact, false},
+    {"tsql_floor", 1, floorOf},
+    {"tsql_isnumeric", 1, isNumeric, false},
+    {"tsql_modulo", 2, modulo},
+    {"tsql_round", 2, roundOf},
+    {"tsql_too_many_rows", 0, tooManyRows},
+};
+
+} // namespace
+
+std::span<const RoutineEntry> numberRoutines() {
+    return kRoutines;
+}
+
+} // namespace engine

@@ -1,0 +1,175 @@
+#include "engine/Planner.h"
+
+#include "engine/BindErrors.h"
+#include "engine/BoundMakers.h"
+#include "engine/SessionTables.h"
+#include "engine/translate/SqlText.h"
+
+#include <set>
+
+namespace engine {
+
+namespace {
+
+constexpr int kInvalidObject = 208;
+
+class Planner {
+public:
+    Planner(ServerSession& session) : session_(session), finder_(session), binder_(finder_) {}
+
+    template<class Node>
+    PlanPtr plan(const Node& node) {
+        const bound::Statement bound = binder_.bind(node);
+        PlanPtr plan = std::visit([&](const auto& statement) { return prepare(statement); }, bound);
+        return finish(std::move(plan));
+    }
+
+    PlanPtr planAlone(const Expression& expression, bool condition) {
+        const bound::ExpressionPtr bound = binder_.bindAlone(expression);
+        std::string text = condition ? "SELECT CASE WHEN " : "SELECT ";
+        translate::write(text, *bound);
+        text += condition ? " THEN 1 ELSE 0 END" : "";
+        PlanPtr plan = made(text, Plan::Kind::Select);
+        ResultColumn column;
+        column.type = condition ? DataType{DataType::Kind::Int, 0, 0, 0} : bound->type;
+        plan->columns.push_back(std::move(column));
+        return finish(std::move(plan));
+    }
+
+    template<class Node>
+    void check(const Node& node) {
+        binder_.bind(node);
+    }
+
+private:
+    sqlite::Statement prepared(const std::string& text, const TableInfo* table = nullptr) {
+        Database& database = session_.current();
+        try {
+            return {database.connection(), text};
+        } catch (const sqlite::Failure& failure) {
+            database.raise(failure, table, "");
+        }
+    }
+
+    PlanPtr made(const std::string& text, Plan::Kind kind) {
+        auto plan = std::make_shared<Plan>(prepared(text));
+        plan->kind = kind;
+        return plan;
+    }
+
+    PlanPtr prepare(const bound::Select& select) {
+        PlanPtr plan = made(translate::select(select), Plan::Kind::Select);
+        plan->columns = select.columns;
+        return plan;
+    }
+
+    PlanPtr prepare(const bound::Insert& insert) {
+        PlanPtr plan = made(translate::insert(insert), Plan::Kind::Insert);
+        plan->table = insert.table.info;
+        plan->identity = insert.identity;
+        plan->givesIdentity = insert.identityPlace >= 0;
+        if (insert.select) {
+            plan->source = prepared(translate::select(*insert.select));
+            plan->columns = insert.select->columns;
+            for (std::size_t i = 0; i < plan->columns.size(); ++i) {
+                plan->columns[i].type = insert.columns[i]->type;
+            }
+        }
+        return plan;
+    }
+
+    PlanPtr prepare(const bound::Update& update) {
+        PlanPtr plan = made(translate::update(update), Plan::Kind::Update);
+        plan->table = update.table.info;
+        plan->rowsText = translate::rowsOf(update);
+        return plan;
+    }
+
+    PlanPtr prepare(const bound::Delete& remove) {
+        PlanPtr plan = made(translate::remove(remove), Plan::Kind::Delete);
+        plan->table = remove.table.info;
+        plan->rowsText = translate::rowsOf(remove);
+        return plan;
+    }
+
+    PlanPtr finish(PlanPtr plan) {
+        plan->parameters = binder_.takeParameters();
+        plan->systemTables = finder_.systemTables();
+        plan->reusable = !finder_.foreign();
+        return plan;
+    }
+
+    ServerSession& session_;
+    SessionTables finder_;
+    Binder binder_;
+};
+
+template<class Node>
+inline constexpr bool isPlanned = false;
+template<>
+inline constexpr bool isPlanned<Select> = true;
+template<>
+inline constexpr bool isPlanned<Insert> = true;
+template<>
+inline constexpr bool isPlanned<Update> = true;
+template<>
+inline constexpr bool isPlanned<Delete> = true;
+
+} // namespace
+
+PlanPtr makePlan(ServerSession& session, const Statement& statement) {
+    return std::visit(
+        [&](const auto& node) -> PlanPtr {
+            if constexpr (isPlanned<std::decay_t<decltype(node)>>) {
+                return Planner(session).plan(node);
+            } else {
+                throw InternalError("a statement that has no plan");
+            }
+        },
+        statement.node);
+}
+
+PlanPtr makeConditionPlan(ServerSession& session, const Expression& condition) {
+    return Planner(session).planAlone(condition, true);
+}
+
+PlanPtr makeValuePlan(ServerSession& session, const Expression& value) {
+    return Planner(session).planAlone(value, false);
+}
+
+void checkNames(ServerSession& session, const Statement& statement) {
+    std::visit(
+        [&](const auto& node) {
+            if constexpr (isPlanned<std::decay_t<decltype(node)>>) {
+                try {
+                    Planner(session).check(node);
+                } catch (const Error& error) {
+                    // The table may be made by the time the statement runs; its own errors come then.
+                    if (error.number() != kInvalidObject && error.reach() != Error::Reach::Statement) {
+                        throw;
+                    }
+                }
+            }
+        },
+        statement.node);
+}
+
+void fixLiterals(Plan& plan, const Shape& shape) {
+    std::set<int> free;
+    for (const bound::Parameter& parameter : plan.parameters) {
+        if (parameter.source != bound::Parameter::Source::Literal) {
+            continue;
+        }
+        free.insert(parameter.ordinal);
+        if (parameter.constant.kind == Literal::Kind::Decimal && !parameter.conversion.to.isNumber()) {
+            plan.fixedTypes.emplace_back(parameter.ordinal, typeOf(parameter.constant));
+        }
+    }
+    for (int i = 0; i < static_cast<int>(shape.literals.size()); ++i) {
+        if (free.count(i) == 0) {
+            plan.fixed.emplace_back(i, shape.literals[static_cast<std::size_t>(i)].text);
+        }
+    }
+}
+
+} // namespace engine

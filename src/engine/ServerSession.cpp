@@ -1,0 +1,140 @@
+#include "engine/ServerSession.h"
+
+#include "engine/BatchRun.h"
+#include "engine/BindErrors.h"
+#include "engine/Collation.h"
+#include "engine/Error.h"
+#include "engine/Lexer.h"
+#include "engine/Parser.h"
+
+#include <algorithm>
+
+namespace engine {
+
+namespace {
+
+constexpr std::string_view kMaster = "master";
+
+bool mayBePlanned(const Statement& statement) {
+    return std::holds_alternative<Select>(statement.node) || std::holds_alternative<Insert>(statement.node) ||
+           std::holds_alternative<Update>(statement.node) || std::holds_alternative<Delete>(statement.node);
+}
+
+} // namespace
+
+std::unique_ptr<Session> Session::open(std::shared_ptr<Instance> instance, const Login& login) {
+    if (!login.user.empty() && !instance->authenticates(login.user, login.password)) {
+        throw errors::loginFailed(login.user);
+    }
+    return std::make_unique<ServerSession>(std::move(instance), login);
+}
+
+ServerSession::ServerSession(std::shared_ptr<Instance> instance, Login login)
+    : instance_(std::move(instance)), login_(std::move(login)) {
+    const std::string name = login_.database.empty() ? std::string(kMaster) : login_.database;
+    current_ = open(name);
+    if (current_ == nullptr) {
+        throw errors::cannotOpenDatabase(name);
+    }
+}
+
+ServerSession::~ServerSession() {
+    stopBatch();
+}
+
+void ServerSession::stopBatch() {
+    if (running_ != nullptr) {
+        std::exchange(running_, nullptr)->stop();
+    }
+}
+
+std::shared_ptr<Database> ServerSession::open(std::string_view name) {
+    const std::string key = collationKey(name);
+    const auto entry = instance_->database(name);
+    const auto known = databases_.find(key);
+    if (known != databases_.end()) {
+        if (entry && entry->file == known->second->entry().file && entry->id == known->second->entry().id) {
+            return known->second;
+        }
+        databases_.erase(known); // dropped by another session, and perhaps made again
+    }
+    if (!entry) {
+        return nullptr;
+    }
+    std::shared_ptr<Database> database;
+    try {
+        database = std::make_shared<Database>(*entry);
+    } catch (const sqlite::Failure&) {
+        return nullptr; // registered, but its file can't be opened
+    }
+    database->functions().fact = [this](std::string_view what, const Scalar& argument) { return fact(what, argument); };
+    databases_.emplace(key, database);
+    return database;
+}
+
+void ServerSession::use(std::string_view name) {
+    auto database = open(name);
+    if (database == nullptr) {
+        throw errors::databaseMissing(std::string(name));
+    }
+    current_ = std::move(database);
+}
+
+void ServerSession::forget(std::string_view name) {
+    if (!sameText(name, current_->name())) {
+        databases_.erase(collationKey(name));
+    }
+}
+
+std::unique_ptr<Batch> ServerSession::execute(std::string_view text) {
+    stopBatch();
+    const std::vector<Token> tokens = tokenize(text);
+    Shape shape = shapeOf(tokens);
+    current_->refresh();
+    if (PlanPtr plan = current_->cache().find(shape)) {
+        return std::make_unique<BatchRun>(*this, std::move(plan), std::move(shape));
+    }
+    BatchTree tree = parse(text);
+    const bool single = tree.statements.size() == 1 && mayBePlanned(*tree.statements.front());
+    return std::make_unique<BatchRun>(*this, std::move(tree), single ? std::optional(std::move(shape)) : std::nullopt);
+}
+
+void ServerSession::beginTransaction() {
+    ++transactions_;
+}
+
+void ServerSession::prepareFor(Database& database) {
+    if (transactions_ > 0 && !database.connection().inTransaction()) {
+        database.connection().run("BEGIN");
+    }
+    database.functions().dayFirst = dayFirst;
+    database.functions().now.clear();
+}
+
+void ServerSession::commitTransaction() {
+    if (transactions_ == 0) {
+        throw errors::noTransaction("COMMIT");
+    }
+    if (--transactions_ > 0) {
+        return;
+    }
+    for (const auto& [key, database] : databases_) {
+        if (database->connection().inTransaction()) {
+            database->commit();
+        }
+    }
+}
+
+void ServerSession::rollbackTransaction() {
+    if (transactions_ == 0) {
+        throw errors::noTransaction("ROLLBACK");
+    }
+    transactions_ = 0;
+    for (const auto& [key, database] : databases_) {
+        database->rollback();
+        database->catalog().settleIdentities();
+        database->refresh();
+    }
+}
+
+} // namespace engine

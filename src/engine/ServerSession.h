@@ -1,0 +1,73 @@
+#pragma once
+
+// A session from the inside: the databases it has open, its settings, and what it remembers between statements.
+
+#include "engine/Database.h"
+#include "engine/Session.h"
+
+#include <map>
+#include <memory>
+#include <string>
+#include <vector>
+
+namespace engine {
+
+class BatchRun;
+
+class ServerSession final : public Session {
+public:
+    ServerSession(std::shared_ptr<Instance> instance, Login login);
+    ~ServerSession() override;
+
+    std::unique_ptr<Batch> execute(std::string_view text) override;
+    std::unique_ptr<RowHold> hold(std::string_view select) override;
+    const std::string& database() const override { return current_->name(); }
+    std::int64_t lastIdentity() const override { return lastIdentity_; }
+
+    Instance& instance() { return *instance_; }
+    Database& current() { return *current_; }
+    /// Opens another database of the instance, once; nullptr where there is none of that name.
+    std::shared_ptr<Database> open(std::string_view name);
+    /// Throws 911.
+    void use(std::string_view name);
+    /// Before a database is dropped: this session's own connection to it, unless it is the current one.
+    void forget(std::string_view name);
+
+    /// Settings that SET changes.
+    bool dayFirst = false;
+    std::string identityInsert; ///< the table of SET IDENTITY_INSERT … ON, empty where none
+
+    /// What the session answers to the @@variables.
+    void wrote(std::int64_t rows) { rowCount_ = rows; }
+    void failed(int error) { lastError_ = error; }
+    void gaveIdentity(std::int64_t value) { lastIdentity_ = value; }
+
+    void beginTransaction();
+    /// Throws 3902, 3903.
+    void commitTransaction();
+    void rollbackTransaction();
+    bool inTransaction() const { return transactions_ > 0; }
+    /// Called before a statement runs on a database: joins it to the open transaction, gives it the statement's time.
+    void prepareFor(Database& database);
+
+    /// The one batch that runs; nullptr when it ends.
+    void running(BatchRun* batch) { running_ = batch; }
+    const BatchRun* running() const { return running_; }
+
+private:
+    Scalar fact(std::string_view name, const Scalar& argument);
+    void stopBatch();
+
+    std::shared_ptr<Instance> instance_;
+    Login login_;
+    std::map<std::string, std::shared_ptr<Database>> databases_; ///< by the collation's key of the name
+    std::shared_ptr<Database> current_;
+    BatchRun* running_ = nullptr;
+    std::int64_t lastIdentity_ = 0;
+    bool anyIdentity_ = false;
+    std::int64_t rowCount_ = 0;
+    int lastError_ = 0;
+    int transactions_ = 0;
+};
+
+} // namespace engine

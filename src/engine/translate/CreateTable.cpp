@@ -1,0 +1,72 @@
+#include "engine/Collation.h"
+#include "engine/translate/SqlText.h"
+
+namespace engine::translate {
+
+namespace {
+
+using Kind = DataType::Kind;
+
+const char* storageType(const DataType& type) {
+    if (type.isText()) {
+        return "TEXT COLLATE TSQL";
+    }
+    if (type.isInteger()) {
+        return "INTEGER";
+    }
+    if (type.isNumber()) {
+        return "REAL";
+    }
+    return type.kind == Kind::DateTime ? "TEXT" : "BLOB";
+}
+
+} // namespace
+
+const ColumnInfo* rowNumber(const TableInfo& table) {
+    const ColumnInfo* identity = table.identity();
+    const KeyInfo* key = table.primaryKey();
+    const bool whole = identity != nullptr && identity->type.isInteger() && key != nullptr &&
+                       key->columns.size() == 1 && sameText(key->columns.front(), identity->name);
+    return whole ? identity : nullptr;
+}
+
+std::string indexName(const std::string& table, const std::string& index) {
+    return table + "." + index;
+}
+
+std::string columnDefinition(const TableInfo& table, const ColumnInfo& column) {
+    if (&column == rowNumber(table)) {
+        return quoted(column.name) + " INTEGER PRIMARY KEY";
+    }
+    return quoted(column.name) + ' ' + storageType(column.type) + (column.nullable ? "" : " NOT NULL");
+}
+
+std::string createTable(const TableInfo& table) {
+    std::string text = "CREATE TABLE " + quoted(table.name) + " (";
+    bool first = true;
+    for (const ColumnInfo& column : table.columns) {
+        text += first ? "" : ", ";
+        first = false;
+        text += columnDefinition(table, column);
+    }
+    return text + ")";
+}
+
+std::string createKey(const TableInfo& table, const KeyInfo& key) {
+    std::string text =
+        "CREATE UNIQUE INDEX " + quoted(indexName(table.name, key.name)) + " ON " + quoted(table.name) + " (";
+    bool first = true;
+    for (const std::string& column : key.columns) {
+        text += first ? "" : ", ";
+        first = false;
+        text += quoted(column);
+    }
+    return text + ")";
+}
+
+std::string addColumn(const TableInfo& table, const ColumnInfo& column, const std::string& defaultText) {
+    return "ALTER TABLE " + quoted(table.name) + " ADD COLUMN " + columnDefinition(table, column) +
+           (defaultText.empty() ? "" : " DEFAULT " + defaultText);
+}
+
+} // namespace engine::translate

@@ -1,0 +1,145 @@
+#include "engine/translate/SqlText.h"
+
+namespace engine::translate {
+
+namespace {
+
+void writeList(std::string& text, const std::vector<bound::ExpressionPtr>& list) {
+    bool first = true;
+    for (const bound::ExpressionPtr& one : list) {
+        text += first ? "" : ", ";
+        first = false;
+        write(text, *one);
+    }
+}
+
+void writeNode(std::string& text, const bound::ParameterUse& use) {
+    text += '?';
+    text += std::to_string(use.place + 1);
+}
+
+void writeNode(std::string& text, const bound::Column& column) {
+    text += alias(column.source) + '.' + quoted(column.column);
+}
+
+void writeNode(std::string& text, const bound::Constant& constant) {
+    text += constant.text;
+}
+
+void writeNode(std::string& text, const bound::Operation& operation) {
+    text += '(';
+    if (operation.operands.size() == 2) {
+        write(text, *operation.operands[0]);
+        text += ' ' + operation.op + ' ';
+        write(text, *operation.operands[1]);
+    } else if (operation.postfix) {
+        write(text, *operation.operands[0]);
+        text += ' ' + operation.op;
+    } else {
+        text += operation.op + ' ';
+        write(text, *operation.operands[0]);
+    }
+    text += ')';
+}
+
+void writeNode(std::string& text, const bound::Call& call) {
+    const auto writeCall = [&](const char* function) {
+        text += function;
+        text += call.distinct ? "(DISTINCT " : "(";
+        if (call.star) {
+            text += '*';
+        }
+        writeList(text, call.arguments);
+        text += ')';
+    };
+    if (call.function == "tsql_avg_int") {
+        // Integers divide to an integer; no row at all divides nothing and stays NULL.
+        text += '(';
+        writeCall("sum");
+        text += " / ";
+        writeCall("count");
+        text += ')';
+        return;
+    }
+    writeCall(call.function.c_str());
+}
+
+void writeNode(std::string& text, const bound::Case& choice) {
+    text += "CASE";
+    for (const auto& branch : choice.branches) {
+        text += " WHEN ";
+        write(text, *branch.when);
+        text += " THEN ";
+        write(text, *branch.then);
+    }
+    if (choice.otherwise) {
+        text += " ELSE ";
+        write(text, *choice.otherwise);
+    }
+    text += " END";
+}
+
+void writeNode(std::string& text, const bound::InList& in) {
+    text += '(';
+    write(text, *in.operand);
+    text += " IN (";
+    writeList(text, in.list);
+    text += "))";
+}
+
+void writeNode(std::string& text, const bound::Subselect& subselect) {
+    switch (subselect.kind) {
+    case bound::Subselect::Kind::Exists:
+        text += "EXISTS (";
+        write(text, *subselect.select);
+        text += ')';
+        return;
+    case bound::Subselect::Kind::In:
+        text += '(';
+        write(text, *subselect.operand);
+        text += " IN (";
+        write(text, *subselect.select);
+        text += "))";
+        return;
+    case bound::Subselect::Kind::Scalar:
+        // The storage would take the first of several rows in silence.
+        text += "(SELECT CASE WHEN count(*) > 1 THEN tsql_too_many_rows() ELSE min(c0) END FROM (SELECT * FROM (";
+        write(text, *subselect.select);
+        text += ") LIMIT 2))";
+        return;
+    }
+}
+
+} // namespace
+
+std::string quoted(std::string_view name) {
+    std::string result = "\"";
+    for (const char c : name) {
+        result += c;
+        if (c == '"') {
+            result += c;
+        }
+    }
+    return result + '"';
+}
+
+std::string tableName(const std::string& schema, const std::string& table) {
+    return quoted(schema) + '.' + quoted(table);
+}
+
+std::string alias(int source) {
+    return "t" + std::to_string(source);
+}
+
+void write(std::string& text, const bound::Expression& expression) {
+    std::visit([&](const auto& node) { writeNode(text, node); }, expression.node);
+}
+
+void writeWhere(std::string& text, const bound::ExpressionPtr& condition) {
+    if (condition) {
+        text += " WHERE ";
+        write(text, *condition);
+    }
+}
+
+} // namespace engine::translate

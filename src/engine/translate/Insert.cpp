@@ -1,0 +1,31 @@
+#include "engine/translate/SqlText.h"
+
+namespace engine::translate {
+
+std::string insert(const bound::Insert& insert) {
+    std::string text = "INSERT INTO " + tableName(insert.table.schema, insert.table.info->name);
+    if (insert.columns.empty()) {
+        return text + " DEFAULT VALUES";
+    }
+    text += " (";
+    bool first = true;
+    for (const ColumnInfo* column : insert.columns) {
+        text += first ? "" : ", ";
+        first = false;
+        text += quoted(column->name);
+    }
+    text += ") VALUES ";
+    first = true;
+    for (const auto& row : insert.rows) {
+        text += first ? "(" : ", (";
+        first = false;
+        for (std::size_t i = 0; i < row.size(); ++i) {
+            text += i == 0 ? "" : ", ";
+            write(text, *row[i]);
+        }
+        text += ')';
+    }
+    return text;
+}
+
+} // namespace engine::translate

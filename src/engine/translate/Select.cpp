@@ -1,0 +1,146 @@
+#include "engine/translate/SqlText.h"
+
+namespace engine::translate {
+
+namespace {
+
+void writeNode(std::string& text, const bound::Table& table) {
+    text += tableName(table.schema, table.info->name) + " AS " + alias(table.number);
+}
+
+void writeNode(std::string& text, const bound::Derived& derived) {
+    text += '(';
+    write(text, *derived.select);
+    text += ") AS " + alias(derived.number);
+}
+
+const char* joinText(Join::Kind kind) {
+    switch (kind) {
+    case Join::Kind::Inner:
+        return " JOIN ";
+    case Join::Kind::Left:
+        return " LEFT JOIN ";
+    case Join::Kind::Right:
+        return " RIGHT JOIN ";
+    case Join::Kind::Full:
+        return " FULL JOIN ";
+    case Join::Kind::Cross:
+        return " CROSS JOIN ";
+    }
+    return "";
+}
+
+void writeNode(std::string& text, const bound::Join& join) {
+    write(text, *join.left);
+    text += joinText(join.kind);
+    const bool nested = std::holds_alternative<bound::Join>(join.right->node);
+    text += nested ? "(" : "";
+    write(text, *join.right);
+    text += nested ? ")" : "";
+    if (join.condition) {
+        text += " ON ";
+        write(text, *join.condition);
+    }
+}
+
+void writeItems(std::string& text, const bound::Core& core, bool compares) {
+    int place = 0;
+    for (const bound::ExpressionPtr& item : core.items) {
+        text += place == 0 ? "" : ", ";
+        write(text, *item);
+        if (compares && item->type.isText()) {
+            text += " COLLATE TSQL";
+        }
+        text += " AS c" + std::to_string(place++);
+    }
+}
+
+/// `more` goes behind the items.
+void writeCore(std::string& text, const bound::Core& core, bool compares, const std::string& more = {}) {
+    text += core.distinct ? "SELECT DISTINCT " : "SELECT ";
+    writeItems(text, core, compares || core.distinct);
+    text += more;
+    bool first = true;
+    for (const bound::SourcePtr& source : core.from) {
+        text += first ? " FROM " : " CROSS JOIN ";
+        first = false;
+        write(text, *source);
+    }
+    writeWhere(text, core.where);
+    first = true;
+    for (const bound::ExpressionPtr& group : core.groupBy) {
+        text += first ? " GROUP BY " : ", ";
+        first = false;
+        write(text, *group);
+    }
+    if (core.having) {
+        text += " HAVING ";
+        write(text, *core.having);
+    }
+}
+
+void writeOrder(std::string& text, const std::vector<bound::Order>& orderBy) {
+    bool first = true;
+    for (const bound::Order& order : orderBy) {
+        text += first ? " ORDER BY " : ", ";
+        first = false;
+        if (order.expression) {
+            write(text, *order.expression);
+        } else {
+            text += std::to_string(order.ordinal);
+        }
+        text += order.text ? " COLLATE TSQL" : "";
+        text += order.descending ? " DESC" : "";
+    }
+}
+
+void writeLimit(std::string& text, const bound::Core& core) {
+    if (core.top) {
+        text += " LIMIT " + std::to_string(*core.top);
+    }
+}
+
+} // namespace
+
+void write(std::string& text, const bound::Source& source) {
+    std::visit([&](const auto& node) { writeNode(text, node); }, source.node);
+}
+
+void write(std::string& text, const bound::Select& select) {
+    const bool several = select.cores.size() > 1;
+    for (std::size_t i = 0; i < select.cores.size(); ++i) {
+        const bound::Core& core = select.cores[i];
+        if (i > 0) {
+            text += select.unionAll[i - 1] ? " UNION ALL " : " UNION ";
+        }
+        // TOP belongs to its own part of a UNION, the storage's LIMIT to the whole.
+        const bool limited = several && core.top.has_value();
+        text += limited ? "SELECT * FROM (" : "";
+        writeCore(text, core, several);
+        if (limited) {
+            writeLimit(text, core);
+            text += ')';
+        }
+    }
+    writeOrder(text, select.orderBy);
+    if (!several) {
+        writeLimit(text, select.cores.front());
+    }
+}
+
+std::string select(const bound::Select& select) {
+    std::string text;
+    write(text, select);
+    return text;
+}
+
+std::string rowsOf(const bound::Select& select) {
+    const bound::Core& core = select.cores.front();
+    std::string text;
+    writeCore(text, core, false, ", " + alias(std::get<bound::Table>(core.from.front()->node).number) + ".rowid");
+    writeOrder(text, select.orderBy);
+    writeLimit(text, core);
+    return text;
+}
+
+} // namespace engine::translate

@@ -1,0 +1,45 @@
+#pragma once
+
+// The storage's text of a bound tree. Nothing is decided here: every node has one way to be written.
+
+#include "engine/BoundTree.h"
+#include "engine/Tree.h"
+
+#include <string>
+#include <string_view>
+
+namespace engine::translate {
+
+/// A name in double quotes.
+std::string quoted(std::string_view name);
+std::string tableName(const std::string& schema, const std::string& table);
+/// A table's alias in the text: `t3`.
+std::string alias(int source);
+
+void write(std::string& text, const bound::Expression& expression);
+void write(std::string& text, const bound::Source& source);
+void write(std::string& text, const bound::Select& select);
+/// ` WHERE …`, nothing where there is no condition.
+void writeWhere(std::string& text, const bound::ExpressionPtr& condition);
+
+std::string select(const bound::Select& select);
+std::string insert(const bound::Insert& insert);
+std::string update(const bound::Update& update);
+std::string remove(const bound::Delete& remove);
+/// The numbers of the rows that an UPDATE or DELETE is going to write.
+std::string rowsOf(const bound::Update& update);
+std::string rowsOf(const bound::Delete& remove);
+/// A SELECT on one table with the number of each row as its last column, for holding the rows.
+std::string rowsOf(const bound::Select& select);
+
+/// Definitions, from the catalog's description of a table.
+std::string createTable(const TableInfo& table);
+std::string createKey(const TableInfo& table, const KeyInfo& key);
+std::string addColumn(const TableInfo& table, const ColumnInfo& column, const std::string& defaultText);
+std::string columnDefinition(const TableInfo& table, const ColumnInfo& column);
+/// The storage has one space of names for all indexes of a database.
+std::string indexName(const std::string& table, const std::string& index);
+/// The one column that is the storage's own row number: an identity that is the whole primary key.
+const ColumnInfo* rowNumber(const TableInfo& table);
+
+} // namespace engine::translate

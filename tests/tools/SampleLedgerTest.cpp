@@ -4,7 +4,6 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-using testing::ElementsAre;
 using testing::IsEmpty;
 
 namespace {

@@ -24,6 +24,6 @@ struct CalendarDate {
 };
 
 constexpr std::int64_t ticksOfSecond = 300;
-constexpr std::int64_t ticksOfDay = 24 * 60 * 60 * ticksOfSecond;
+constexpr std::int64_t ticksOfDay = ticksOfSecond * 60 * 60 * 24;
 
 } // namespace engine

@@ -69,6 +69,8 @@ TEST(TestWorkstation, StartsWithTheGlobalsAtZeroAndLeavesNothingBehind) {
 
 TEST(TestWorkstation, NullsAndSeveralRowsAreRead) {
     const TestWorkstation workstation;
-    const std::vector<TestWorkstation::Row> rows{{"1", "a"}, {"2", "NULL"}};
-    EXPECT_EQ(workstation.rows(support::kCompany, "select 1, 'a' union all select 2, NULL"), rows);
+    workstation.run(support::kCompany, "create table Prova (id int, Testo nvarchar(9) null)");
+    workstation.run(support::kCompany, "insert into Prova values (1, N'città'), (2, NULL)");
+    const std::vector<TestWorkstation::Row> rows{{"1", "città"}, {"2", "NULL"}};
+    EXPECT_EQ(workstation.rows(support::kCompany, "select id, Testo from Prova order by id"), rows);
 }

@@ -10,7 +10,9 @@ namespace engine {
 
 /// < 0, 0, > 0. UTF-8; malformed bytes compare as replacement characters.
 int compareTexts(std::string_view left, std::string_view right);
-inline bool sameText(std::string_view left, std::string_view right) { return compareTexts(left, right) == 0; }
+inline bool sameText(std::string_view left, std::string_view right) {
+    return compareTexts(left, right) == 0;
+}
 
 /// Two texts are the same under the collation exactly where their keys are.
 std::string collationKey(std::string_view text);

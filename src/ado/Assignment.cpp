@@ -23,8 +23,15 @@ Integer whole(const Value& value) {
     return static_cast<Integer>(rounded);
 }
 
-float single(const Value& value) {
+double finite(const Value& value) {
     const double number = toDouble(value);
+    if (!std::isfinite(number))
+        throw Error(kOverflow);
+    return number;
+}
+
+float single(const Value& value) {
+    const double number = finite(value);
     if (std::fabs(number) > static_cast<double>(std::numeric_limits<float>::max()))
         throw Error(kOverflow);
     return static_cast<float>(number);
@@ -59,7 +66,7 @@ std::int64_t unscaledOf(const Value& value, int scale) {
         return rescaled(decimal->unscaled, decimal->scale, scale);
     if (const auto* amount = std::get_if<Currency>(&value.variant()))
         return rescaled(amount->tenThousandths, 4, scale);
-    std::string digits = formatFixed(toDouble(value), scale);
+    std::string digits = formatFixed(finite(value), scale);
     std::erase(digits, regionalSettings().decimalSeparator);
     errno = 0;
     const std::int64_t unscaled = std::strtoll(digits.c_str(), nullptr, 10);
@@ -116,7 +123,7 @@ Value converted(const Value& value, const FieldDescription& column) {
     case FieldType::Single:
         return single(value);
     case FieldType::Double:
-        return toDouble(value);
+        return finite(value);
     case FieldType::Currency:
         return Currency{decimal(value, column.precision, 4).unscaled};
     case FieldType::Decimal:

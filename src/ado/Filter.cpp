@@ -235,17 +235,17 @@ private:
 bool holds(Operator op, std::partial_ordering order) {
     switch (op) {
     case Operator::Less:
-        return order < 0;
+        return std::is_lt(order);
     case Operator::Greater:
-        return order > 0;
+        return std::is_gt(order);
     case Operator::LessOrEqual:
-        return order <= 0;
+        return std::is_lteq(order);
     case Operator::GreaterOrEqual:
-        return order >= 0;
+        return std::is_gteq(order);
     case Operator::Different:
-        return order != 0;
+        return std::is_neq(order);
     case Operator::Equal:
-        return order == 0;
+        return std::is_eq(order);
     case Operator::Like:
         break;
     }

@@ -58,7 +58,7 @@ std::optional<std::string> RowStatements::baseTable(const Fields& fields) {
     return table;
 }
 
-RowStatements::RowStatements(const Fields& fields, std::string table, const std::vector<std::string>& primaryKey)
+RowStatements::RowStatements(const Fields& fields, const std::string& table, const std::vector<std::string>& primaryKey)
     : fields_(fields), table_(quotedName(table)) {
     key_ = identityOf(fields);
     if (key_.empty())

@@ -19,7 +19,7 @@ public:
     static std::optional<std::string> baseTable(const std::vector<FieldDescription>& fields);
 
     /// The key is the identity, else `primaryKey` where the fields have all of it, else all values.
-    RowStatements(const std::vector<FieldDescription>& fields, std::string table,
+    RowStatements(const std::vector<FieldDescription>& fields, const std::string& table,
                   const std::vector<std::string>& primaryKey);
 
     /// False where nothing tells one row from another: then there is no statement for it.

@@ -41,17 +41,17 @@ std::optional<std::vector<std::string>> namePieces(std::string_view text) {
     std::vector<std::string> pieces;
     std::size_t at = 0;
     for (;;) {
-        std::size_t end = at;
-        if (at < text.size() && text[at] == '[') {
+        std::size_t end = 0;
+        if (text.substr(at).starts_with('[')) {
             end = text.find(']', at);
             if (end == std::string_view::npos || end == at + 1)
                 return std::nullopt;
             pieces.emplace_back(text.substr(at + 1, end - at - 1));
             ++end;
         } else {
-            end = at < text.size() && isWordStart(text[at]) ? wordEnd(text, at) : at;
-            if (end == at)
+            if (at == text.size() || !isWordStart(text[at]))
                 return std::nullopt;
+            end = wordEnd(text, at);
             pieces.emplace_back(text.substr(at, end - at));
         }
         if (end == text.size())

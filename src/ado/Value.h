@@ -17,7 +17,7 @@ struct Date {
     std::int32_t day = 0;         ///< days since 1970-01-01
     std::int32_t millisecond = 0; ///< since midnight
 
-    auto operator<=>(const Date&) const = default;
+    auto operator<=>(const Date&) const = default; // NOLINT(modernize-use-nullptr)
 
     /// Throws Error 13 for a day that doesn't exist.
     static Date of(int year, int month, int day, int hour = 0, int minute = 0, int second = 0, int millisecond = 0);
@@ -31,7 +31,7 @@ struct Date {
 /// A number with exactly four decimals.
 struct Currency {
     std::int64_t tenThousandths = 0;
-    auto operator<=>(const Currency&) const = default;
+    auto operator<=>(const Currency&) const = default; // NOLINT(modernize-use-nullptr)
 };
 
 /// unscaled / 10^scale

@@ -65,7 +65,10 @@ const Assignment kAssignments[] = {
     {"denaro", 1.23456, Currency{12346}},
     {"denaro", Decimal{150, 2}, Currency{15000}},
     {"doppio", Currency{12500}, 1.25},
-    {"doppio", std::nan(""), std::nullopt},
+    {"doppio", std::nan(""), kRefused},
+    {"singolo", std::nan(""), kRefused},
+    {"intero", std::nan(""), kRefused},
+    {"decimale", std::nan(""), kRefused},
     // Truth is -1 as a number, any other number than 0 as truth.
     {"logico", 2, true},
     {"logico", -1, true},

@@ -68,7 +68,7 @@ struct Refusal {
 
 TEST_P(ConnectionContract, ServerErrorsKeepTheServersWords) {
     const Refusal refusals[] = {
-        {"selec 1", kSyntaxOrColumn, 102, "Incorrect syntax near '1'."},
+        {"select * form Comuni", kSyntaxOrColumn, 102, "Incorrect syntax near 'form'."},
         {"select 'a", kSyntaxOrColumn, 105, "Unclosed quotation mark after the character string 'a'."},
         {"select manca from Comuni", kSyntaxOrColumn, 207, "Invalid column name 'manca'."},
         {"insert into Comuni (nome) values (null)", kConstraint, 515,

@@ -14,11 +14,16 @@
 #include "session/Aziende.h"
 #include "session/variabili.h"
 
+#include <QElapsedTimer>
+#include <QLoggingCategory>
+
 // Failing statements are skipped throughout, and a failing test counts as true.
 
 namespace vabo {
 
 namespace {
+
+Q_LOGGING_CATEGORY(kTempo, "vabo.time", QtInfoMsg)
 
 enum class Esito { Aperta, DaRipiegare, SenzaRiga };
 
@@ -235,6 +240,8 @@ void RipiegaSullaPrima(double& id) {
 } // namespace
 
 void ApriAzienda(double& id) {
+    QElapsedTimer tempo;
+    tempo.start();
     if (!NumeroDiPartenza(id))
         return;
     for (Esito esito = Passata(id); esito != Esito::Aperta; esito = Passata(id)) {
@@ -242,6 +249,7 @@ void ApriAzienda(double& id) {
         if (esito == Esito::SenzaRiga)
             salta([] { DbControllo.Close(); });
     }
+    qCDebug(kTempo, "ApriAzienda %.3f ms", static_cast<double>(tempo.nsecsElapsed()) / 1e6);
 }
 
 } // namespace vabo

@@ -1,0 +1,222 @@
+// The data layer against raw SQLite on the same files, at the same durability. Each iteration runs both sides, so that
+// `ratio` compares two neighbours in time; read its median.
+
+#include "ado/Connection.h"
+#include "ado/Drivers.h"
+#include "ado/Recordset.h"
+#include "engine/Instance.h"
+
+#include <benchmark/benchmark.h>
+#include <sqlite3.h>
+
+#include <chrono>
+#include <filesystem>
+#include <random>
+#include <stdexcept>
+#include <string>
+#include <unistd.h>
+
+namespace {
+
+namespace fs = std::filesystem;
+
+constexpr int kUpdates = 200;
+constexpr int kRows = 100'000;
+constexpr int kColumns = 8;
+
+/// An embedded server in a folder of its own, removed at the end. The folder is on the disk of the build tree, so that
+/// a commit costs what a commit costs.
+class BenchServer {
+public:
+    BenchServer() : folder_(fs::current_path() / ("bench-" + std::to_string(getpid()))) {
+        fs::create_directories(folder_ / "istanze");
+        engine::InstanceOptions options{[this](std::string_view path) { return folder_ / path; }};
+        engine::Instance::create(folder_ / "istanze" / "BANCO", options);
+        ado::setEmbeddedHome({[this] { return folder_ / "istanze"; }, options.mapPath});
+        ado::Connection master;
+        master.Open("Server=BANCO;");
+        master.Execute("CREATE DATABASE prova");
+        connection.Open("Server=BANCO;DATABase=prova");
+    }
+    ~BenchServer() {
+        connection.Close();
+        std::error_code ignored;
+        fs::remove_all(folder_, ignored);
+    }
+    BenchServer(const BenchServer&) = delete;
+    BenchServer& operator=(const BenchServer&) = delete;
+
+    fs::path databaseFile() const {
+        for (const auto& entry : fs::recursive_directory_iterator(folder_)) {
+            if (entry.path().filename() == "prova.mdf")
+                return entry.path();
+        }
+        throw std::runtime_error("the database has no file");
+    }
+    const fs::path& folder() const { return folder_; }
+
+    ado::Connection connection;
+
+private:
+    fs::path folder_;
+};
+
+class RawDatabase {
+public:
+    explicit RawDatabase(const fs::path& file) {
+        if (sqlite3_open(file.c_str(), &handle_) != SQLITE_OK)
+            throw std::runtime_error(sqlite3_errmsg(handle_));
+        run("PRAGMA journal_mode=WAL");
+        run("PRAGMA synchronous=FULL");
+        sqlite3_create_collation(handle_, "TSQL", SQLITE_UTF8, nullptr,
+                                 [](void*, int, const void*, int, const void*) { return 0; });
+    }
+    ~RawDatabase() { sqlite3_close(handle_); }
+    RawDatabase(const RawDatabase&) = delete;
+    RawDatabase& operator=(const RawDatabase&) = delete;
+
+    void run(const char* text) {
+        if (sqlite3_exec(handle_, text, nullptr, nullptr, nullptr) != SQLITE_OK)
+            throw std::runtime_error(sqlite3_errmsg(handle_));
+    }
+    sqlite3_stmt* prepare(const char* text) {
+        sqlite3_stmt* statement = nullptr;
+        if (sqlite3_prepare_v2(handle_, text, -1, &statement, nullptr) != SQLITE_OK)
+            throw std::runtime_error(sqlite3_errmsg(handle_));
+        return statement;
+    }
+
+private:
+    sqlite3* handle_ = nullptr;
+};
+
+template<typename Work>
+double seconds(Work&& work) {
+    const auto begin = std::chrono::steady_clock::now();
+    work();
+    return std::chrono::duration<double>(std::chrono::steady_clock::now() - begin).count();
+}
+
+void report(benchmark::State& state, double ours, double raw) {
+    state.SetIterationTime(ours);
+    state.counters["ratio"] = ours / raw;
+    state.counters["raw_ms"] = raw * 1e3;
+}
+
+void RepeatedUpdateOfOneShape(benchmark::State& state) {
+    BenchServer server;
+    server.connection.Execute("CREATE TABLE conti (id int NOT NULL PRIMARY KEY, saldo int NOT NULL)");
+    RawDatabase raw(server.folder() / "raw.db");
+    raw.run("CREATE TABLE conti (id INTEGER PRIMARY KEY, saldo INTEGER NOT NULL)");
+    for (int id = 1; id <= 100; ++id) {
+        const std::string row = "INSERT INTO conti (id, saldo) VALUES (" + std::to_string(id) + ", 0)";
+        server.connection.Execute(row);
+        raw.run(row.c_str());
+    }
+    sqlite3_stmt* prepared = raw.prepare("UPDATE conti SET saldo = ?1 WHERE id = ?2");
+    int value = 0;
+    for (auto _ : state) {
+        const double ours = seconds([&] {
+            for (int i = 0; i < kUpdates; ++i)
+                server.connection.Execute("update conti set saldo = " + std::to_string(++value) +
+                                          " where id = " + std::to_string(1 + i % 100));
+        });
+        const double theirs = seconds([&] {
+            for (int i = 0; i < kUpdates; ++i) {
+                sqlite3_bind_int(prepared, 1, ++value);
+                sqlite3_bind_int(prepared, 2, 1 + i % 100);
+                sqlite3_step(prepared);
+                sqlite3_reset(prepared);
+            }
+        });
+        report(state, ours, theirs);
+    }
+    sqlite3_finalize(prepared);
+}
+BENCHMARK(RepeatedUpdateOfOneShape)->UseManualTime()->Iterations(1)->Repetitions(21)->ReportAggregatesOnly();
+
+void fillWideTable(ado::Connection& connection) {
+    connection.Execute(
+        "CREATE TABLE righe (id int IDENTITY (1, 1) NOT NULL PRIMARY KEY, codice nvarchar(20) NULL, nome nvarchar(80) NULL,"
+        " importo decimal(18,2) NULL, data datetime NULL, definito int NULL, quota float NULL, nota nvarchar(100) NULL)");
+    std::mt19937 random(7); // the same rows in every run
+    for (int begin = 0; begin < kRows; begin += 500) {
+        std::string text = "INSERT INTO righe (codice, nome, importo, data, definito, quota, nota) VALUES ";
+        for (int i = begin; i < begin + 500; ++i) {
+            const auto r = random();
+            text += std::string(i == begin ? "" : ",") + "('C" + std::to_string(r % 9999) + "', 'Conto di prova " +
+                    std::to_string(i) + "', " + std::to_string(r % 100000) + "." + std::to_string(10 + r % 90) +
+                    ", '2004" + std::to_string(10 + r % 3) + std::to_string(10 + r % 19) + "', " +
+                    std::to_string(r % 2) + ", " + std::to_string(r % 100) + ".5, " +
+                    (r % 3 ? "N'Città di prova'" : "NULL") + ")";
+        }
+        connection.Execute(text);
+    }
+}
+
+struct Checksum {
+    std::size_t bytes = 0;
+    double sum = 0;
+
+    void add(const ado::Value& value) {
+        if (const auto* text = std::get_if<std::string>(&value.variant()))
+            bytes += text->size();
+        else if (const auto* number = std::get_if<std::int32_t>(&value.variant()))
+            sum += *number;
+        else if (const auto* real = std::get_if<double>(&value.variant()))
+            sum += *real;
+        else if (const auto* decimal = std::get_if<ado::Decimal>(&value.variant()))
+            sum += decimal->toDouble();
+    }
+};
+
+void OpenAndReadRecordset(benchmark::State& state) {
+    BenchServer server;
+    fillWideTable(server.connection);
+    RawDatabase raw(server.databaseFile());
+    for (auto _ : state) {
+        Checksum checksum;
+        int rows = 0;
+        const double ours = seconds([&] {
+            ado::Recordset rs;
+            rs.Open("select * from righe", server.connection, ado::CursorType::Keyset, ado::LockType::Pessimistic);
+            for (; !rs.EOF(); rs.MoveNext(), ++rows) {
+                for (int column = 0; column < kColumns; ++column)
+                    checksum.add(rs[column].Value());
+            }
+            rs.Close();
+        });
+        if (rows != kRows)
+            state.SkipWithError("not all rows came");
+        std::size_t bytes = 0;
+        double sum = 0;
+        const double theirs = seconds([&] {
+            sqlite3_stmt* loop = raw.prepare("select * from righe");
+            while (sqlite3_step(loop) == SQLITE_ROW) {
+                for (int column = 0; column < kColumns; ++column) {
+                    switch (sqlite3_column_type(loop, column)) {
+                    case SQLITE_INTEGER:
+                    case SQLITE_FLOAT:
+                        sum += sqlite3_column_double(loop, column);
+                        break;
+                    case SQLITE_TEXT: {
+                        const std::string text(reinterpret_cast<const char*>(sqlite3_column_text(loop, column)));
+                        bytes += text.size();
+                        break;
+                    }
+                    default:
+                        break;
+                    }
+                }
+            }
+            sqlite3_finalize(loop);
+        });
+        benchmark::DoNotOptimize(checksum);
+        benchmark::DoNotOptimize(bytes);
+        benchmark::DoNotOptimize(sum);
+        report(state, ours, theirs);
+    }
+}
+BENCHMARK(OpenAndReadRecordset)->UseManualTime()->Iterations(1)->Repetitions(21)->ReportAggregatesOnly();
+
+} // namespace

@@ -1,0 +1,81 @@
+// The whole process, from the call of its parent to the login on the screen, against an empty window of the same
+// toolkit; and what the three takings up of a company in it cost.
+
+#include "provision/Provision.h"
+
+#include <benchmark/benchmark.h>
+
+#include <array>
+#include <chrono>
+#include <cstdio>
+#include <cstdlib>
+#include <filesystem>
+#include <stdexcept>
+#include <string>
+#include <unistd.h>
+#include <vector>
+
+namespace {
+
+namespace fs = std::filesystem;
+
+struct Start {
+    double shown = 0; ///< seconds
+    std::vector<double> companies;
+};
+
+Start started(const std::string& program) {
+    const auto called =
+        std::chrono::duration_cast<std::chrono::nanoseconds>(std::chrono::steady_clock::now().time_since_epoch())
+            .count();
+    const std::string command = std::string(PROBE_FOLDER) + "/" + program + " " + std::to_string(called);
+    FILE* pipe = popen(command.c_str(), "r"); // NOLINT(bugprone-command-processor,cert-env33-c): our own program
+    if (!pipe)
+        throw std::runtime_error("can't start " + program);
+    Start start;
+    std::array<char, 256> line{};
+    while (std::fgets(line.data(), line.size(), pipe)) {
+        double number = 0;
+        if (std::sscanf(line.data(), "shown %lf", &number) == 1)
+            start.shown = number / 1e9;
+        else if (std::sscanf(line.data(), "ApriAzienda %lf", &number) == 1)
+            start.companies.push_back(number);
+    }
+    if (pclose(pipe) != 0 || start.shown == 0)
+        throw std::runtime_error(program + " didn't show its window");
+    return start;
+}
+
+void StartToLogin(benchmark::State& state) {
+    const fs::path drive = fs::temp_directory_path() / ("vabo-bench-" + std::to_string(getpid()));
+    std::array<char, 256> host{};
+    gethostname(host.data(), host.size() - 1);
+    std::string terminal(host.data());
+    terminal = terminal.substr(0, terminal.find('.'));
+    for (char& c : terminal)
+        c = c == '-' ? '_' : c;
+    provision::layDown({drive, terminal});
+    setenv("VABO_DRIVE_C", drive.c_str(), 1);
+    setenv("QT_QPA_PLATFORM", "offscreen", 1);
+    started("vabo-bench-start-probe"); // warm: the temporary database is made by the first start
+    for (auto _ : state) {
+        const Start ours = started("vabo-bench-start-probe");
+        const Start empty = started("vabo-bench-start-empty");
+        state.SetIterationTime(ours.shown);
+        state.counters["empty_ms"] = empty.shown * 1e3;
+        state.counters["ratio"] = ours.shown / empty.shown;
+        for (std::size_t i = 0; i < ours.companies.size(); ++i)
+            state.counters["company" + std::to_string(i + 1) + "_ms"] = ours.companies[i];
+    }
+    fs::remove_all(drive);
+}
+BENCHMARK(StartToLogin)
+    ->UseManualTime()
+    ->Unit(benchmark::kMillisecond)
+    ->Iterations(1)
+    ->Repetitions(21)
+    ->ReportAggregatesOnly();
+
+} // namespace
+
+BENCHMARK_MAIN();

@@ -1,0 +1,38 @@
+#include "app/Program.h"
+
+#include "app/Forms.h"
+#include "controls/Mark.h"
+#include "controls/QtDialogs.h"
+#include "controls/Style.h"
+#include "platform/Workstation.h"
+
+#include <QLibraryInfo>
+#include <QTimer>
+
+namespace app {
+
+Program::Program(int& argc, char** argv) : application_(argc, argv) {
+    // The hidden start form stands until the end of the process.
+    QApplication::setQuitOnLastWindowClosed(false);
+    if (italian_.load(QStringLiteral("qtbase_it"), QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
+        QApplication::installTranslator(&italian_);
+    controls::style::install(application_);
+    QApplication::setWindowIcon(controls::Mark::icon());
+
+    platform::takeRealWorkstation();
+    QApplication::setApplicationName(QString::fromStdString(platform::workstation().productName));
+    platform::setDialogs(std::make_unique<controls::QtDialogs>());
+    registerForms(forms_);
+    platform::setFormHost(&forms_);
+}
+
+Program::~Program() {
+    platform::setFormHost(nullptr);
+}
+
+int Program::run() {
+    QTimer::singleShot(0, &forms_, [this] { forms_.show("Avvio"); });
+    return QApplication::exec();
+}
+
+} // namespace app

@@ -22,7 +22,7 @@ std::vector<std::string> texts(engine::Session& session, std::string_view select
 /// A text as a literal: N'…'.
 std::string literal(std::string_view text);
 
-/// Writes many rows of one table, a hundred a statement. finish() writes what is left.
+/// Writes many rows of one table, several a statement. finish() writes what is left.
 class RowWriter {
 public:
     /// Columns as they stand between the brackets of an INSERT.

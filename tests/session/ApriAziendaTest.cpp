@@ -239,7 +239,7 @@ TEST_F(ApriAziendaTest, ACompanyWithoutADatabaseKeepsTheOneBeforeOpen) {
     EXPECT_EQ(PercorsoFileLocale, "C:\\Vabo\\Files\\senza.mdb");
     EXPECT_EQ(FileLocale, "tlv_locale_sql.mdb");
     EXPECT_EQ(StringaAzienda, "Provider=SQLOLEDB;Data Source=POSTO_7\\sqlexpress;Integrated "
-                              "Security=SSPIDATABASE=vabodati");
+                              "Security=SSPIDATABase=vabodati");
     EXPECT_EQ(StringaAziendaCopia, server + "DATABase=VaBoDatiAurora;");
     EXPECT_TRUE(DbAzienda.IsOpen());
     EXPECT_EQ(terminals(), (Rows{{"POSTO_7", textOf(expected)}}));

@@ -209,6 +209,6 @@ TEST_P(UselessCompanyText, GivesNoBranchAndNoMessage) {
 INSTANTIATE_TEST_SUITE_P(ApriDbSede, UselessCompanyText,
                          testing::Values("", ";", "garbage", "Server=nessuno;DATABase=x;",
                                          "Provider=SQLOLEDB;Data Source=POSTO_7\\sqlexpress;Integrated "
-                                         "Security=SSPIDATABASE=vabodati"));
+                                         "Security=SSPIDATABase=vabodati"));
 
 } // namespace

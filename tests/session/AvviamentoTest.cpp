@@ -1,5 +1,6 @@
 #include "session/Avviamento.h"
 
+#include "engine/Error.h"
 #include "rights/AbilitazioneUtente.h"
 #include "session/SessionFixture.h"
 
@@ -120,14 +121,15 @@ TEST_F(Avviamento, TheServersOptionsAreOneBatch) {
 }
 
 TEST_F(Avviamento, TheServerIsLeftWithItsMemoryAndWithoutAdvancedOptions) {
+    const std::string memory = "sp_configure 'min memory per query (KB)'";
     PrendiAziendaDelTerminale();
     PreparaServer();
-    EXPECT_EQ(workstation.value("master", "select cast(value_in_use as int) from sys.configurations where name = "
-                                          "'min memory per query (KB)'"),
-              "10240");
-    EXPECT_EQ(workstation.value("master", "select cast(value_in_use as int) from sys.configurations where name = "
-                                          "'show advanced options'"),
-              "0");
+    EXPECT_THROW(workstation.run("master", memory), engine::Error) << "advanced options are out of sight";
+    workstation.run("master", "sp_configure 'show advanced options', 1 RECONFIGURE");
+    const support::TestWorkstation::Row row = workstation.row("master", memory);
+    ASSERT_EQ(row.size(), 5U);
+    EXPECT_EQ(row[3], "10240") << "as configured";
+    EXPECT_EQ(row[4], "10240") << "in use";
 }
 
 TEST_F(Avviamento, TheDataFileAndTheTemporaryDatabaseAreReady) {

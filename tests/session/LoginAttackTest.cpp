@@ -5,7 +5,6 @@
 #include "session/SessionFixture.h"
 #include "support/Attacks.h"
 
-#include <map>
 #include <optional>
 
 namespace {
@@ -81,7 +80,6 @@ TEST_F(LoginAttack, NoneLoadsRights) {
         try {
             CaricaAbilitazione("amministratore", text);
         } catch (const ado::Error& error) {
-            script.shown();
             ADD_FAILURE() << error.description() << " for " << testing::PrintToString(text.substr(0, 80));
         }
     }

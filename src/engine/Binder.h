@@ -2,7 +2,6 @@
 
 #include "engine/BoundTree.h"
 
-#include <set>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -100,6 +99,7 @@ private:
     bound::ExpressionPtr node(const ServerVariable& variable);
     bound::ExpressionPtr literal(const Literal& literal, bool negated);
     bound::ExpressionPtr arithmetic(Binary::Operator op, bound::ExpressionPtr left, bound::ExpressionPtr right);
+    DataType digitsOf(const bound::Expression& number);
     bound::ExpressionPtr compare(const char* op, bound::ExpressionPtr left, bound::ExpressionPtr right);
 
     // BinderCalls.cpp

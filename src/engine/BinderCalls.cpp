@@ -223,9 +223,10 @@ bound::ExpressionPtr Binder::builtIn(const Call& call) {
 }
 
 bound::ExpressionPtr Binder::node(const ServerVariable& variable) {
-    const FunctionEntry* entry = findServerVariable(variable.name);
+    const std::string spelt = variable.name.starts_with("@@") ? variable.name : "@@" + variable.name;
+    const FunctionEntry* entry = findServerVariable(spelt);
     if (entry == nullptr) {
-        throw Error(137, "Must declare the scalar variable \"" + variable.name + "\".", Error::Reach::Batch);
+        throw Error(137, "Must declare the scalar variable \"" + spelt + "\".", Error::Reach::Batch);
     }
     const DataType type = resultType(entry->result, {});
     return bound::call("tsql_fact", type, bound::constant(quotedText(std::string(entry->name)), type));

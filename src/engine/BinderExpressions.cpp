@@ -181,6 +181,20 @@ bound::ExpressionPtr Binder::compare(const char* op, bound::ExpressionPtr left, 
     return bound::infix(op, std::move(left), meet(std::move(right)), DataType{Kind::Bit});
 }
 
+/// Among decimals a whole literal is a decimal of just its digits.
+DataType Binder::digitsOf(const bound::Expression& number) {
+    const auto* use = std::get_if<bound::ParameterUse>(&number.node);
+    if (use == nullptr || !number.type.isInteger()) {
+        return number.type;
+    }
+    bound::Parameter& parameter = parameters_[static_cast<std::size_t>(use->place)];
+    if (parameter.conversion.to.kind != Kind::Unknown) {
+        return number.type;
+    }
+    parameter.fixed = true;
+    return {Kind::Decimal, 0, static_cast<int>(parameter.constant.text.size()), 0};
+}
+
 bound::ExpressionPtr Binder::arithmetic(Binary::Operator op, bound::ExpressionPtr left, bound::ExpressionPtr right) {
     DataType common = commonType(left->type, right->type);
     if (common.isText()) {
@@ -200,8 +214,9 @@ bound::ExpressionPtr Binder::arithmetic(Binary::Operator op, bound::ExpressionPt
                                convertTo(std::move(right), DataType{Kind::Float}, Purpose::Cast));
         return convertTo(std::move(days), common, Purpose::Cast);
     }
-    const DataType leftType = left->type.isNumber() ? left->type : common;
-    const DataType rightType = right->type.isNumber() ? right->type : common;
+    const bool decimal = common.kind == Kind::Decimal;
+    const DataType leftType = left->type.isNumber() ? decimal ? digitsOf(*left) : left->type : common;
+    const DataType rightType = right->type.isNumber() ? decimal ? digitsOf(*right) : right->type : common;
     const auto meet = [&](bound::ExpressionPtr side) {
         return side->type.isNumber() ? std::move(side) : convertTo(std::move(side), common, Purpose::Cast);
     };

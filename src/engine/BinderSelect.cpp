@@ -27,6 +27,10 @@ bool isAllTables(const Name& starOf) {
     return starOf.pieces.empty();
 }
 
+bool isSameColumn(const ResultColumn& left, const ResultColumn& right) {
+    return !left.baseTable.empty() && left.baseTable == right.baseTable && left.baseColumn == right.baseColumn;
+}
+
 } // namespace
 
 bound::Select Binder::select(const Select& select, const Scope* parent) {
@@ -152,10 +156,19 @@ bound::Order Binder::order(const OrderItem& item, const bound::Select& result, b
     const auto* reference = std::get_if<ColumnReference>(&item.expression->node);
     if (reference != nullptr && reference->name.pieces.size() == 1) {
         for (std::size_t i = 0; i < result.columns.size(); ++i) {
-            if (sameText(result.columns[i].name, reference->name.last())) {
-                place(i);
-                return order;
+            if (!sameText(result.columns[i].name, reference->name.last())) {
+                continue;
             }
+            if (order.ordinal > 0 &&
+                !isSameColumn(result.columns[i], result.columns[static_cast<std::size_t>(order.ordinal) - 1])) {
+                throw errors::ambiguousColumn(reference->name.last());
+            }
+            if (order.ordinal == 0) {
+                place(i);
+            }
+        }
+        if (order.ordinal > 0) {
+            return order;
         }
     }
     if (!single) {

@@ -168,13 +168,17 @@ bound::Statement Binder::bind(const Update& update) {
     for (const TableSourcePtr& source : update.from) {
         result.from.push_back(this->source(*source, scope, false));
     }
-    // The target may be named by its alias in FROM.
-    for (const Visible& visible : scope.tables) {
-        if (table.pieces.size() == 1 && visible.table != nullptr && sameText(visible.qualifier, table.last())) {
-            result.targetInFrom = visible.number;
-            table.pieces = {visible.table->name};
+    // Among the sources the target stands under its alias, or else under its own name.
+    const auto standsFor = [&](const auto& isNamed) {
+        for (const Visible& visible : scope.tables) {
+            if (result.targetInFrom < 0 && visible.table != nullptr && isNamed(visible)) {
+                result.targetInFrom = visible.number;
+                table.pieces.back() = visible.table->name;
+            }
         }
-    }
+    };
+    standsFor([&](const Visible& visible) { return sameText(visible.qualifier, update.table.last()); });
+    standsFor([&](const Visible& visible) { return sameText(visible.table->name, update.table.last()); });
     result.table = target(table);
     if (result.targetInFrom < 0) {
         Visible visible;

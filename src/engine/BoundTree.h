@@ -35,6 +35,7 @@ struct Parameter {
     engine::Literal constant; ///< the literal as it stood when the statement was bound
     bool negated = false;
     ConversionRequest conversion;
+    bool fixed = false; ///< its digits gave another expression its type: no other literal may take its place
 };
 
 /// A `?N`, counted from 0.

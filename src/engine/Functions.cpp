@@ -163,7 +163,7 @@ const FunctionEntry* findFunction(std::string_view name) {
 }
 
 const FunctionEntry* findServerVariable(std::string_view name) {
-    return find(kVariables, capitals(name.starts_with("@@") ? name : "@@" + std::string(name)));
+    return find(kVariables, capitals(name));
 }
 
 std::string storageName(const FunctionEntry& entry) {

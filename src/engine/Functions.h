@@ -26,7 +26,7 @@ struct FunctionEntry {
 
 /// nullptr where the dialect has no such function. The name may have any case.
 const FunctionEntry* findFunction(std::string_view name);
-/// @@name without its sign; nullptr where there is none.
+/// `@@NAME`, in any case; nullptr where there is none.
 const FunctionEntry* findServerVariable(std::string_view name);
 /// The name under which the storage knows a function: `LEN` is `tsql_len`.
 std::string storageName(const FunctionEntry& entry);

@@ -160,7 +160,9 @@ void fixLiterals(Plan& plan, const Shape& shape) {
         if (parameter.source != bound::Parameter::Source::Literal) {
             continue;
         }
-        free.insert(parameter.ordinal);
+        if (!parameter.fixed) {
+            free.insert(parameter.ordinal);
+        }
         if (parameter.constant.kind == Literal::Kind::Decimal && !parameter.conversion.to.isNumber()) {
             plan.fixedTypes.emplace_back(parameter.ordinal, typeOf(parameter.constant));
         }

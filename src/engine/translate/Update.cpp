@@ -4,31 +4,47 @@ namespace engine::translate {
 
 namespace {
 
+/// The rows that an UPDATE with sources writes: the target among them, joined to all others.
 void writeSources(std::string& text, const bound::Update& update) {
-    bool first = true;
+    text += " FROM ";
+    if (update.targetInFrom < 0)
+        text += tableName(update.table.schema, update.table.info->name) + " AS " + alias(update.table.number);
+    bool first = update.targetInFrom >= 0;
     for (const bound::SourcePtr& source : update.from) {
-        text += first ? " FROM " : " CROSS JOIN ";
+        text += first ? "" : " CROSS JOIN ";
         first = false;
         write(text, *source);
     }
+    writeWhere(text, update.where);
 }
 
-/// A target that stands among the sources is tied to itself there by its row number.
-void writeCondition(std::string& text, const bound::Update& update) {
-    if (update.targetInFrom < 0) {
-        writeWhere(text, update.where);
-        return;
+std::string targetAlias(const bound::Update& update) {
+    return alias(update.targetInFrom < 0 ? update.table.number : update.targetInFrom);
+}
+
+/// Target and sources are walked by a SELECT of their own, for the storage can't name the row numbers of several
+/// sources in an UPDATE.
+std::string updateFrom(const bound::Update& update) {
+    std::string text = "UPDATE " + tableName(update.table.schema, update.table.info->name) + " AS target SET ";
+    std::string values;
+    int place = 0;
+    for (const auto& assignment : update.assignments) {
+        const std::string value = "v" + std::to_string(place);
+        text += (place++ == 0 ? "" : ", ") + quoted(assignment.column->name) + " = found." + value;
+        values += ", ";
+        write(values, *assignment.value);
+        values += " AS " + value;
     }
-    text += " WHERE " + alias(update.table.number) + ".rowid = " + alias(update.targetInFrom) + ".rowid";
-    if (update.where) {
-        text += " AND ";
-        write(text, *update.where);
-    }
+    text += " FROM (SELECT " + targetAlias(update) + ".rowid AS row" + values;
+    writeSources(text, update);
+    return text + ") AS found WHERE target.rowid = found.row";
 }
 
 } // namespace
 
 std::string update(const bound::Update& update) {
+    if (!update.from.empty())
+        return updateFrom(update);
     std::string text = "UPDATE " + tableName(update.table.schema, update.table.info->name) + " AS " +
                        alias(update.table.number) + " SET ";
     bool first = true;
@@ -38,19 +54,13 @@ std::string update(const bound::Update& update) {
         text += quoted(assignment.column->name) + " = ";
         write(text, *assignment.value);
     }
-    writeSources(text, update);
-    writeCondition(text, update);
+    writeWhere(text, update.where);
     return text;
 }
 
 std::string rowsOf(const bound::Update& update) {
-    std::string text = "SELECT " + alias(update.table.number) + ".rowid FROM " +
-                       tableName(update.table.schema, update.table.info->name) + " AS " + alias(update.table.number);
-    for (const bound::SourcePtr& source : update.from) {
-        text += " CROSS JOIN ";
-        write(text, *source);
-    }
-    writeCondition(text, update);
+    std::string text = "SELECT " + targetAlias(update) + ".rowid";
+    writeSources(text, update);
     return text;
 }
 

@@ -1,0 +1,57 @@
+#include "engine/SessionFixture.h"
+
+namespace engine {
+namespace {
+
+using Procedures = SessionTest;
+
+TEST_F(Procedures, AnUnknownOneIsNamed) {
+    EXPECT_EQ(answer("sp_manca 1"), "!2812 Could not find stored procedure 'sp_manca'.");
+    EXPECT_EQ(answer("exec dbo.sp_manca"), "!2812 Could not find stored procedure 'dbo.sp_manca'.");
+}
+
+TEST_F(Procedures, AnOptionIsConfiguredThenRuns) {
+    EXPECT_EQ(answer("sp_configure 'query timeout',0"),
+              "15457: Configuration option 'remote query timeout (s)' changed from 600 to 0. Run the RECONFIGURE"
+              " statement to install.\n-");
+    EXPECT_EQ(rows("sp_configure 'remote query timeout (s)'"), "remote query timeout (s)|0|2147483647|0|600");
+    EXPECT_EQ(answer("RECONFIGURE"), "-");
+    EXPECT_EQ(rows("sp_configure 'remote query timeout (s)'"), "remote query timeout (s)|0|2147483647|0|0");
+}
+
+TEST_F(Procedures, AdvancedOptionsAreHidden) {
+    EXPECT_EQ(answer("EXEC sys.sp_configure N'min memory per query (KB)', N'10240'"),
+              "!15123 The configuration option 'min memory per query (KB)' does not exist, or it may be an advanced"
+              " option.");
+    run("EXEC sys.sp_configure N'show advanced options', N'1'  RECONFIGURE WITH OVERRIDE");
+    run("EXEC sys.sp_configure N'min memory per query (KB)', N'10240'\r\n RECONFIGURE WITH OVERRIDE");
+    EXPECT_EQ(rows("sp_configure 'min memory'").find("min memory per query (KB)|512|2147483647|10240|10240"), 0U);
+}
+
+TEST_F(Procedures, ADatabaseOptionIsSetAndRead) {
+    EXPECT_EQ(answer(" sp_dboption N'prova', N'autoclose', N'true'"), "-");
+    EXPECT_EQ(rows("sp_dboption 'prova', 'autoclose'"), "autoclose|ON ");
+    EXPECT_EQ(answer(" sp_dboption N'prova', N'autoclose', N'false'"), "-");
+    EXPECT_EQ(rows("exec sp_dboption 'prova', 'autoclose'"), "autoclose|OFF");
+    EXPECT_EQ(answer("sp_dboption 'prova', 'autoclose', 'forse'").substr(0, 7), "!15241 ");
+    EXPECT_EQ(answer("sp_dboption 'manca', 'autoclose', 'true'").substr(0, 7), "!15010 ");
+    EXPECT_NE(rows("sp_dboption").find("autoclose"), std::string::npos);
+}
+
+TEST_F(Procedures, TheListsOfTheServer) {
+    run("create table t (id int identity(1,1) not null primary key, b nvarchar(10) null)");
+    EXPECT_EQ(rows("sp_tables"), "prova|dbo|t|TABLE|NULL");
+    EXPECT_EQ(rows("sp_tables 'x%'"), "");
+    EXPECT_EQ(rows("sp_columns 't'"), "prova|dbo|t|id|int identity|NULL|0|NULL|1\nprova|dbo|t|b|nvarchar|10|1|NULL|2");
+    EXPECT_EQ(answer("sp_columns").substr(0, 5), "!201 ");
+    EXPECT_NE(rows("sp_databases").find("prova|"), std::string::npos);
+    EXPECT_EQ(answer("sp_tables 'a', 'b', 'c', 'd', 'e'").substr(0, 6), "!8144 ");
+    EXPECT_EQ(answer("sp_tables @manca = 'b'").substr(0, 6), "!8145 ");
+}
+
+TEST_F(Procedures, WhatIsPrintedIsAMessage) {
+    EXPECT_EQ(answer("print 'ecco ' + db_name()"), "0: ecco prova\n-");
+}
+
+} // namespace
+} // namespace engine

@@ -46,7 +46,6 @@ bool FormRegistry::show(std::string_view name) {
     if (form->isMinimized())
         form->showNormal();
     form->setVisible(true);
-    form->raise();
     form->activateWindow();
     activate(*form);
     return true;

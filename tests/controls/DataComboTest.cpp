@@ -1,0 +1,211 @@
+#include "controls/DataCombo.h"
+
+#include "DataFixture.h"
+#include "RecordedForm.h"
+#include "support/Gui.h"
+
+#include <QAbstractItemView>
+#include <QApplication>
+#include <QCompleter>
+#include <QLineEdit>
+#include <QTest>
+#include <QVBoxLayout>
+#include <QWheelEvent>
+
+#include <gmock/gmock.h>
+
+namespace {
+
+using support::Gui;
+using testing::ElementsAre;
+
+/// A form with the combo and a field behind it.
+class DataCombo : public DataFixture {
+protected:
+    DataCombo() {
+        gui.forms().add("F", [this] {
+            auto form = std::make_unique<RecordedForm>("F", log);
+            auto* layout = new QVBoxLayout(form.get());
+            auto* list = new controls::DataCombo;
+            auto* field = new QLineEdit;
+            list->setObjectName("combo");
+            field->setObjectName("field");
+            list->ListField = "NOME";
+            list->BoundColumn = "id";
+            list->setRowSource(&source);
+            form->on(list, &controls::DataCombo::Click, [this](int area) { clicks.push_back(area); });
+            layout->addWidget(list);
+            layout->addWidget(field);
+            return form;
+        });
+        source.Refresh();
+        gui.forms().show("F");
+        gui.waitForFront("F");
+        combo().ReFill();
+        combo().setFocus();
+    }
+    controls::DataCombo& combo() { return gui.find<controls::DataCombo>("F", "combo"); }
+
+    std::vector<int> clicks;
+    std::vector<std::string> log;
+    Gui gui;
+};
+
+TEST_F(DataCombo, ShowsTheListFieldOfEveryRow) {
+    ASSERT_EQ(combo().count(), 5);
+    EXPECT_EQ(combo().itemText(0), "Mela");
+    EXPECT_EQ(combo().itemText(3), "") << "a null";
+    EXPECT_EQ(combo().Text(), "") << "nothing is chosen yet";
+}
+
+TEST_F(DataCombo, APickGivesTheBoundColumnAndTellsTheListArea) {
+    gui.pick("F", "combo", "Albicocca");
+    EXPECT_EQ(combo().Text(), "Albicocca");
+    EXPECT_EQ(combo().BoundText(), "3");
+    EXPECT_THAT(clicks, ElementsAre(controls::DataCombo::List));
+}
+
+TEST_F(DataCombo, APickDoesNotMoveTheSource) {
+    source.Recordset().MoveNext();
+    gui.pick("F", "combo", "Albicocca");
+    EXPECT_EQ(source.Recordset().AbsolutePosition(), 2);
+}
+
+TEST_F(DataCombo, OfRowsOfOneTextThePickedOneCounts) {
+    combo().setBoundText("5");
+    EXPECT_EQ(combo().Text(), "Pera");
+    EXPECT_EQ(combo().BoundText(), "5");
+    combo().setText("Pera");
+    EXPECT_EQ(combo().BoundText(), "2") << "the first that the text stands for";
+}
+
+TEST_F(DataCombo, ATextOfNoRowHasNoBoundText) {
+    combo().setText("Seleziona");
+    EXPECT_EQ(combo().Text(), "Seleziona");
+    EXPECT_EQ(combo().BoundText(), "");
+    combo().setText("mela");
+    EXPECT_EQ(combo().BoundText(), "") << "letter for letter";
+    combo().setBoundText("99");
+    EXPECT_EQ(combo().Text(), "");
+}
+
+TEST_F(DataCombo, ReFillKeepsTheTextAndShowsTheRowsOfNow) {
+    combo().setText("Seleziona");
+    workstation.run(support::kCompany, "insert into frutta (nome) values ('Uva')");
+    source.Refresh();
+    combo().ReFill();
+    combo().Refresh();
+    EXPECT_EQ(combo().count(), 6);
+    EXPECT_EQ(combo().Text(), "Seleziona");
+    EXPECT_TRUE(clicks.empty());
+}
+
+TEST_F(DataCombo, FollowsTheFilterOfItsSource) {
+    source.Recordset().setFilter("id > 2");
+    EXPECT_EQ(combo().count(), 3);
+    combo().setText("Albicocca");
+    EXPECT_EQ(combo().BoundText(), "3");
+}
+
+TEST_F(DataCombo, AFailedRefreshEmptiesTheList) {
+    source.RecordSource = "select * from nessuna";
+    EXPECT_THROW(source.Refresh(), ado::Error);
+    EXPECT_EQ(combo().count(), 0);
+}
+
+TEST_F(DataCombo, AnUnknownListFieldRaises) {
+    combo().ListField = "colore";
+    EXPECT_THROW(combo().ReFill(), ado::Error);
+}
+
+TEST_F(DataCombo, TypingATextOfTheListAndLeavingIsNoPick) {
+    gui.type("Pera");
+    combo().completer()->popup()->hide();
+    gui.find("F", "field").setFocus();
+    Gui::handleEvents();
+    EXPECT_EQ(combo().Text(), "Pera");
+    EXPECT_EQ(combo().BoundText(), "2");
+    EXPECT_TRUE(clicks.empty());
+}
+
+TEST_F(DataCombo, EnterInTheTextIsNoPick) {
+    combo().setText("Pera");
+    gui.press(Qt::Key_Return);
+    EXPECT_TRUE(clicks.empty());
+}
+
+TEST_F(DataCombo, ASettingInCodeIsNoPick) {
+    combo().setText("Mela");
+    combo().setBoundText("2");
+    EXPECT_TRUE(clicks.empty());
+}
+
+TEST_F(DataCombo, ArrowsOpenTheListInsteadOfPickingUnseen) {
+    combo().setText("Mela");
+    gui.press(Qt::Key_Down);
+    EXPECT_TRUE(combo().view()->isVisible());
+    combo().hidePopup();
+    EXPECT_EQ(combo().Text(), "Mela");
+    EXPECT_TRUE(clicks.empty());
+}
+
+TEST_F(DataCombo, TheWheelPicksNothing) {
+    combo().setText("Mela");
+    QWheelEvent wheel({5, 5}, combo().mapToGlobal(QPointF(5, 5)), {}, {0, -120}, Qt::NoButton, Qt::NoModifier,
+                      Qt::NoScrollPhase, false);
+    QApplication::sendEvent(&combo(), &wheel);
+    EXPECT_EQ(combo().Text(), "Mela");
+    EXPECT_TRUE(clicks.empty());
+}
+
+TEST_F(DataCombo, AClickOnTheTextTellsTheEditArea) {
+    QTest::mouseClick(combo().lineEdit(), Qt::LeftButton);
+    EXPECT_THAT(clicks, ElementsAre(controls::DataCombo::Edit));
+}
+
+TEST_F(DataCombo, AClickOnTheArrowTellsTheButtonArea) {
+    QTest::mousePress(&combo(), Qt::LeftButton, {}, {combo().width() - 6, combo().height() / 2});
+    EXPECT_THAT(clicks, ElementsAre(controls::DataCombo::Button));
+    combo().hidePopup();
+}
+
+TEST_F(DataCombo, TypingSearchesAnywhereInTheNames) {
+    gui.type("coc");
+    Gui::waitFor("the search", [&] { return combo().completer()->popup()->isVisible(); });
+    EXPECT_EQ(combo().completer()->completionCount(), 1);
+    EXPECT_EQ(combo().completer()->currentCompletion(), "Albicocca");
+    EXPECT_EQ(combo().Text(), "coc") << "nothing is put into the text";
+    combo().completer()->popup()->hide();
+}
+
+TEST_F(DataCombo, ARowOfTheSearchIsAPick) {
+    gui.type("coc");
+    QAbstractItemView* found = combo().completer()->popup();
+    Gui::waitFor("the search", [&] { return found->isVisible(); });
+    QTest::keyClick(found, Qt::Key_Down);
+    QTest::keyClick(found, Qt::Key_Return);
+    EXPECT_EQ(combo().BoundText(), "3");
+    EXPECT_THAT(clicks, ElementsAre(controls::DataCombo::List));
+}
+
+TEST_F(DataCombo, TheFocusSelectsTheWholeText) {
+    combo().setText("Mela");
+    gui.find("F", "field").setFocus();
+    combo().setFocus();
+    EXPECT_EQ(combo().lineEdit()->selectedText(), "Mela");
+}
+
+TEST_F(DataCombo, AListOfThousandsIsWholeAndOpens) {
+    std::string values;
+    for (int i = 0; i < 1000; ++i)
+        values += (i == 0 ? "('Voce " : ", ('Voce ") + std::to_string(i) + "')";
+    for (int i = 0; i < 5; ++i)
+        workstation.run(support::kCompany, "insert into frutta (nome) values " + values);
+    source.Refresh();
+    EXPECT_EQ(combo().count(), 5005);
+    gui.press(Qt::Key_Down);
+    Gui::waitFor("the list", [&] { return combo().view()->isVisible(); });
+    combo().hidePopup();
+}
+
+} // namespace

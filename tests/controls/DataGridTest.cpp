@@ -1,0 +1,153 @@
+#include "controls/DataGrid.h"
+
+#include "DataFixture.h"
+#include "ado/Conversions.h"
+
+#include <QHeaderView>
+#include <QTest>
+
+namespace {
+
+class DataGrid : public DataFixture {
+protected:
+    DataGrid() {
+        grid.setDataSource(&source);
+        source.Refresh();
+        grid.resize(500, 300);
+        grid.show();
+    }
+    std::string cell(int row, int column) const {
+        return grid.model()->index(row, column).data().toString().toStdString();
+    }
+    long position() { return source.Recordset().AbsolutePosition(); }
+
+    controls::DataGrid grid;
+};
+
+TEST_F(DataGrid, ShowsEveryRowAndField) {
+    EXPECT_EQ(grid.model()->rowCount(), 5);
+    ASSERT_EQ(grid.ColumnCount(), 3);
+    EXPECT_EQ(grid.Columns(1).Caption(), "nome");
+    EXPECT_EQ(cell(0, 1), "Mela");
+    EXPECT_EQ(cell(0, 2), "1,5") << "as this machine writes numbers";
+    EXPECT_EQ(cell(3, 1), "") << "a null";
+    EXPECT_EQ(position(), 1) << "drawing moves nothing";
+}
+
+TEST_F(DataGrid, ItsRowAndTheRecordsetsAreOne) {
+    EXPECT_EQ(grid.currentIndex().row(), 0);
+    source.Recordset().MoveFromFirst(2);
+    EXPECT_EQ(grid.currentIndex().row(), 2);
+    QTest::keyClick(&grid, Qt::Key_Down);
+    EXPECT_EQ(position(), 4);
+    EXPECT_EQ(grid.Columns(0).Text(), "4");
+    grid.selectRow(1);
+    EXPECT_EQ(position(), 2);
+    EXPECT_EQ(grid.Columns(1).Text(), "Pera");
+}
+
+TEST_F(DataGrid, WithoutACurrentRowNoneIsMarked) {
+    source.Recordset().MoveLast();
+    source.Recordset().MoveNext();
+    EXPECT_FALSE(grid.currentIndex().isValid());
+    EXPECT_THROW(grid.Columns(0).Text(), ado::Error);
+}
+
+TEST_F(DataGrid, FollowsTheFilter) {
+    source.Recordset().setFilter("nome = 'Pera'");
+    EXPECT_EQ(grid.model()->rowCount(), 2);
+    EXPECT_EQ(cell(1, 0), "5");
+    QTest::keyClick(&grid, Qt::Key_Down);
+    EXPECT_EQ(ado::toText(source.Recordset()["id"]), "5");
+}
+
+TEST_F(DataGrid, ALayoutIsWhatTheColumnsSay) {
+    auto column = grid.Columns(1);
+    column.setWidth(3000);
+    column.setCaption("Nome\r\ndel frutto");
+    column.setAlignment(Qt::AlignRight);
+    column.setLocked(true);
+    grid.Columns(0).setVisible(false);
+    grid.Columns(2).setWidth(0);
+    EXPECT_EQ(grid.columnWidth(1), 200) << "15 twips to a pixel";
+    EXPECT_EQ(column.Width(), 3000);
+    EXPECT_EQ(grid.model()->headerData(1, Qt::Horizontal).toString(), "Nome\r\ndel frutto");
+    EXPECT_EQ(grid.model()->index(0, 1).data(Qt::TextAlignmentRole).toInt() & Qt::AlignHorizontal_Mask, Qt::AlignRight);
+    EXPECT_TRUE(column.Locked());
+    EXPECT_FALSE(grid.Columns(0).Visible());
+    EXPECT_FALSE(grid.Columns(2).Visible()) << "no width is not to be seen";
+}
+
+TEST_F(DataGrid, ARefreshMakesTheColumnsAnew) {
+    grid.Columns(0).setVisible(false);
+    grid.Columns(1).setCaption("Frutto");
+    grid.Columns(1).setLocked(true);
+    source.Refresh();
+    EXPECT_TRUE(grid.Columns(0).Visible());
+    EXPECT_EQ(grid.Columns(1).Caption(), "nome");
+    EXPECT_FALSE(grid.Columns(1).Locked());
+    EXPECT_EQ(grid.currentIndex().row(), 0);
+}
+
+TEST_F(DataGrid, AColumnThatIsNotThereIsRefused) {
+    for (const int index : {-1, 3}) {
+        try {
+            grid.Columns(index);
+            ADD_FAILURE() << index;
+        } catch (const ado::Error& error) {
+            EXPECT_EQ(error.number(), 9);
+        }
+    }
+}
+
+TEST_F(DataGrid, ALockedColumnTakesNoText) {
+    const QModelIndex name = grid.model()->index(0, 1);
+    EXPECT_TRUE(name.flags() & Qt::ItemIsEditable);
+    grid.Columns(1).setLocked(true);
+    EXPECT_FALSE(name.flags() & Qt::ItemIsEditable);
+}
+
+TEST_F(DataGrid, AnOpenColumnIsWrittenToItsRow) {
+    EXPECT_TRUE(grid.model()->setData(grid.model()->index(1, 2), "2,75"));
+    EXPECT_EQ(workstation.value(support::kCompany, "select prezzo from frutta where id = 2"), "2.75");
+}
+
+TEST_F(DataGrid, ATextThatTheColumnRefusesIsTheErrorEvent) {
+    int number = 0;
+    QObject::connect(&source, &controls::DataControl::Error, [&](int n) { number = n; });
+    EXPECT_FALSE(grid.model()->setData(grid.model()->index(1, 2), "abc"));
+    EXPECT_EQ(number, ado::kMultipleStep);
+    EXPECT_EQ(workstation.value(support::kCompany, "select prezzo from frutta where id = 2"), "2");
+}
+
+TEST_F(DataGrid, EnterAndADoubleClickAreOne) {
+    int chosen = 0;
+    QObject::connect(&grid, &controls::DataGrid::DblClick, [&] { ++chosen; });
+    for (int i = 0; i < 3; ++i)
+        grid.Columns(i).setLocked(true);
+    const QPoint second = grid.visualRect(grid.model()->index(1, 1)).center();
+    QTest::mouseClick(grid.viewport(), Qt::LeftButton, {}, second);
+    QTest::mouseDClick(grid.viewport(), Qt::LeftButton, {}, second);
+    EXPECT_EQ(chosen, 1);
+    EXPECT_EQ(position(), 2);
+    QTest::keyClick(&grid, Qt::Key_Return);
+    QTest::keyClick(&grid, Qt::Key_Enter, Qt::KeypadModifier);
+    EXPECT_EQ(chosen, 3);
+}
+
+TEST_F(DataGrid, EnterWithoutARowIsNothing) {
+    source.Recordset().setFilter("id = 99");
+    int chosen = 0;
+    QObject::connect(&grid, &controls::DataGrid::DblClick, [&] { ++chosen; });
+    QTest::keyClick(&grid, Qt::Key_Return);
+    EXPECT_EQ(chosen, 0);
+}
+
+TEST_F(DataGrid, AFailedRefreshLeavesItEmpty) {
+    source.RecordSource = "select * from nessuna";
+    EXPECT_THROW(source.Refresh(), ado::Error);
+    EXPECT_EQ(grid.ColumnCount(), 0);
+    EXPECT_EQ(grid.model()->rowCount(), 0);
+}
+
+} // namespace

@@ -1,0 +1,143 @@
+#include "controls/QtDialogs.h"
+
+#include "support/Gui.h"
+
+#include <QAbstractButton>
+#include <QApplication>
+#include <QDialog>
+#include <QFileDialog>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMessageBox>
+#include <QTest>
+#include <QTimer>
+
+#include <gmock/gmock.h>
+
+namespace {
+
+using testing::ElementsAre;
+
+/// What a user sees of a box.
+struct Seen {
+    std::string title, text;
+    std::vector<std::string> buttons;
+};
+
+/// Runs `ask`, looks at the box that it opens and lets `answer` handle it.
+template<typename Ask>
+auto withBox(Seen& seen, const std::function<void(QDialog&)>& answer, Ask ask) {
+    QTimer::singleShot(0, qApp, [&seen, answer] {
+        auto* box = qobject_cast<QDialog*>(QApplication::activeModalWidget());
+        ASSERT_NE(box, nullptr) << "no box came";
+        seen.title = box->windowTitle().toStdString();
+        if (const auto* message = qobject_cast<QMessageBox*>(box))
+            seen.text = message->text().toStdString();
+        for (const auto* button : box->findChildren<QAbstractButton*>())
+            if (button->isVisible() && !button->text().isEmpty())
+                seen.buttons.push_back(button->text().toStdString());
+        answer(*box);
+    });
+    return ask();
+}
+
+void pressKey(QDialog& box, Qt::Key key) {
+    QTest::keyClick(QApplication::focusWidget() != nullptr ? QApplication::focusWidget() : &box, key);
+}
+
+class QtDialogs : public testing::Test {
+protected:
+    controls::QtDialogs dialogs;
+    Seen seen;
+};
+
+TEST_F(QtDialogs, AMessageHasTheApplicationsTitleAndOneButton) {
+    withBox(
+        seen, [](QDialog& box) { pressKey(box, Qt::Key_Return); },
+        [&] {
+            dialogs.message("User not allowed! ", platform::Icon::None);
+            return 0;
+        });
+    EXPECT_EQ(seen.title, "VaBo");
+    EXPECT_EQ(seen.text, "User not allowed! ");
+    EXPECT_THAT(seen.buttons, ElementsAre("OK"));
+}
+
+TEST_F(QtDialogs, AMessageIsNeverReadAsMarkup) {
+    bool plain = false;
+    withBox(
+        seen,
+        [&](QDialog& box) {
+            plain = dynamic_cast<QMessageBox&>(box).textFormat() == Qt::PlainText;
+            pressKey(box, Qt::Key_Escape);
+        },
+        [&] {
+            dialogs.message("<b>Incorrect syntax</b>\r\nnear 'x'.", platform::Icon::Stop);
+            return 0;
+        });
+    EXPECT_TRUE(plain);
+    EXPECT_EQ(seen.text, "<b>Incorrect syntax</b>\r\nnear 'x'.");
+}
+
+struct Answer {
+    const char* what;
+    bool (controls::QtDialogs::*ask)(const std::string&);
+    Qt::Key key;
+    bool expected;
+};
+
+class QtDialogsAnswer : public testing::TestWithParam<Answer> {};
+
+TEST_P(QtDialogsAnswer, IsTheOneOfTheKeyboard) {
+    controls::QtDialogs dialogs;
+    Seen seen;
+    const Answer& answer = GetParam();
+    const bool got = withBox(
+        seen, [&](QDialog& box) { pressKey(box, answer.key); }, [&] { return (dialogs.*answer.ask)("Testo"); });
+    EXPECT_EQ(got, answer.expected);
+}
+
+INSTANTIATE_TEST_SUITE_P(Keys, QtDialogsAnswer,
+                         testing::Values(Answer{"QuestionEnter", &controls::QtDialogs::question, Qt::Key_Return, true},
+                                         Answer{"QuestionEsc", &controls::QtDialogs::question, Qt::Key_Escape, false},
+                                         Answer{"ConfirmEnter", &controls::QtDialogs::confirm, Qt::Key_Return, true},
+                                         Answer{"ConfirmEsc", &controls::QtDialogs::confirm, Qt::Key_Escape, false}),
+                         [](const auto& info) { return info.param.what; });
+
+TEST_F(QtDialogs, AQuestionHasYesAndNoInItalian) {
+    withBox(
+        seen, [](QDialog& box) { box.reject(); }, [&] { return dialogs.question("Continuare?"); });
+    EXPECT_THAT(seen.buttons, testing::UnorderedElementsAre("Sì", "No"));
+}
+
+TEST_F(QtDialogs, AConfirmationHasOkAndCancelInItalian) {
+    withBox(
+        seen, [](QDialog& box) { box.reject(); }, [&] { return dialogs.confirm("Continuare?"); });
+    EXPECT_THAT(seen.buttons, testing::UnorderedElementsAre("OK", "Annulla"));
+}
+
+TEST_F(QtDialogs, AnInputProposesATextAndGivesBackWhatStandsThere) {
+    std::string prompt;
+    const std::string got = withBox(
+        seen,
+        [&](QDialog& box) {
+            prompt = box.findChild<QLabel*>()->text().toStdString();
+            EXPECT_EQ(box.findChild<QLineEdit*>()->text(), "1");
+            box.findChild<QLineEdit*>()->setText("22");
+            pressKey(box, Qt::Key_Return);
+        },
+        [&] { return dialogs.input("Numero:", "Sezionale", "1"); });
+    EXPECT_EQ(got, "22");
+    EXPECT_EQ(prompt, "Numero:");
+    EXPECT_EQ(seen.title, "Sezionale");
+    EXPECT_THAT(seen.buttons, testing::UnorderedElementsAre("OK", "Annulla"));
+}
+
+TEST_F(QtDialogs, ACancelledInputIsTheEmptyText) {
+    const std::string got = withBox(
+        seen, [](QDialog& box) { pressKey(box, Qt::Key_Escape); }, [&] { return dialogs.input("Numero:", "", "1"); });
+    EXPECT_EQ(got, "");
+    EXPECT_EQ(seen.title, "VaBo") << "the application's own title";
+}
+
+} // namespace

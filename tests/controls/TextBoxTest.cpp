@@ -1,0 +1,105 @@
+#include "controls/TextBox.h"
+
+#include "RecordedForm.h"
+#include "support/Gui.h"
+
+#include <QApplication>
+#include <QDialog>
+#include <QTest>
+#include <QVBoxLayout>
+
+#include <gmock/gmock.h>
+
+namespace {
+
+using support::Gui;
+using testing::ElementsAre;
+
+/// A form with two fields that write their moves of focus down.
+class TextBox : public testing::Test {
+protected:
+    TextBox() {
+        for (const char* form : {"A", "B"})
+            gui.forms().add(form, [this, form] { return make(form); });
+        gui.forms().show("A");
+        gui.waitForFront("A");
+        field("first").setFocus();
+        log.clear();
+    }
+    std::unique_ptr<controls::Form> make(const char* name) {
+        auto form = std::make_unique<RecordedForm>(name, events);
+        auto* layout = new QVBoxLayout(form.get());
+        for (const char* each : {"first", "second"}) {
+            auto* box = new controls::TextBox;
+            box->setObjectName(each);
+            box->setText(std::string("testo"));
+            layout->addWidget(box);
+            const std::string full = std::string(name) + "." + each;
+            QObject::connect(box, &controls::TextBox::GotFocus, [this, full] { log.push_back("+" + full); });
+            QObject::connect(box, &controls::TextBox::LostFocus, [this, full] { log.push_back("-" + full); });
+        }
+        return form;
+    }
+    controls::TextBox& field(const char* name) { return gui.find<controls::TextBox>("A", name); }
+
+    std::vector<std::string> events, log;
+    Gui gui;
+};
+
+TEST_F(TextBox, TheWholeTextIsSelectedWithTheFocus) {
+    field("second").setFocus();
+    EXPECT_EQ(field("second").selectedText(), "testo");
+    gui.type("x");
+    EXPECT_EQ(field("second").Text(), "x");
+}
+
+TEST_F(TextBox, AClickSelectsTheWholeTextToo) {
+    gui.click("A", "second");
+    EXPECT_EQ(field("second").selectedText(), "testo");
+}
+
+TEST_F(TextBox, ASecondClickPlacesTheCaret) {
+    gui.click("A", "second");
+    gui.click("A", "second");
+    EXPECT_EQ(field("second").selectedText(), "");
+}
+
+TEST_F(TextBox, TheFocusIsLostToAnotherFieldOnly) {
+    field("second").setFocus();
+    EXPECT_THAT(log, ElementsAre("-A.first", "+A.second"));
+}
+
+TEST_F(TextBox, AnotherProgramInFrontTakesNoFocus) {
+    field("first").clearFocus();
+    field("first").setFocus();
+    EXPECT_TRUE(log.empty());
+}
+
+TEST_F(TextBox, ABoxTakesNoFocus) {
+    QDialog box(&gui.form("A"));
+    controls::TextBox inside(&box);
+    box.show();
+    Gui::waitFor("the box in front", [&] { return QApplication::activeWindow() == &box; });
+    inside.setFocus();
+    box.close();
+    gui.form("A").activateWindow(); // what a window manager does
+    gui.waitForFront("A");
+    EXPECT_TRUE(log.empty());
+}
+
+TEST_F(TextBox, AnotherFormOfTheProgramTakesTheFocus) {
+    gui.forms().show("B");
+    gui.find("B", "first").setFocus();
+    gui.waitForFront("B");
+    EXPECT_THAT(log, ElementsAre("-A.first", "+B.first"));
+}
+
+TEST_F(TextBox, TextsBeyondTheGreatestLengthAreCut) {
+    field("second").setMaxLength(3);
+    field("second").setText(std::string("abcdef"));
+    EXPECT_EQ(field("second").Text(), "abc");
+    gui.typeInto("A", "second", "12345");
+    EXPECT_EQ(field("second").Text(), "123") << "typing replaces the selection";
+}
+
+} // namespace

@@ -1,0 +1,80 @@
+#include "rights/AbilitazioneUtente.h"
+#include "session/FormFixture.h"
+#include "support/Attacks.h"
+
+#include <QApplication>
+#include <QLineEdit>
+
+namespace {
+
+using namespace vabo;
+
+/// The login form, with boxes that anybody may meet on the way.
+class AboutFormAttack : public FormTest {
+protected:
+    struct Silent : platform::Dialogs {
+        void message(const std::string& /*text*/, platform::Icon /*icon*/) override {}
+        bool question(const std::string& /*text*/) override { return false; }
+        bool confirm(const std::string& /*text*/) override { return false; }
+        std::string input(const std::string& /*prompt*/, const std::string& /*title*/,
+                          const std::string& /*proposed*/) override {
+            return {};
+        }
+        std::string folder(const std::string& /*title*/) override { return {}; }
+    };
+
+    AboutFormAttack() {
+        platform::setDialogs(std::make_unique<Silent>());
+        before = users();
+        show();
+    }
+    void show() {
+        gui.forms().show("About");
+        gui.waitForFront("About");
+    }
+    Rows users() const {
+        return workstation.rows(support::kCompany, "select * from AbilitazioneAccessi order by idautonumber");
+    }
+    /// Typed letter by letter as far as a field holds, the rest pasted at once.
+    void put(const std::string& text) {
+        constexpr std::size_t kTyped = 60;
+        gui.type(text.substr(0, kTyped));
+        if (auto* field = qobject_cast<QLineEdit*>(QApplication::focusWidget()); field != nullptr)
+            field->insert(QString::fromStdString(text.substr(std::min(text.size(), kTyped))));
+        gui.press(Qt::Key_Return);
+    }
+    void attack(const std::string& user, const std::string& password) {
+        TentativiLogin = 0;
+        gui.find<QLineEdit>("About", "txtUserName").setFocus();
+        put(user);
+        if (gui.focus() == "About.txtPassword")
+            put(password);
+        EXPECT_EQ(gui.visibleForms(), "About")
+            << testing::PrintToString(user.substr(0, 60)) << " / " << testing::PrintToString(password.substr(0, 60));
+    }
+
+    Rows before;
+};
+
+TEST_F(AboutFormAttack, NoneGetsInByTheName) {
+    for (const std::string& text : support::attacks())
+        attack(text, "primaver");
+    EXPECT_EQ(users(), before);
+    EXPECT_EQ(DirittiUtente, kDirittiPrimaDelLogin);
+}
+
+TEST_F(AboutFormAttack, NoneGetsInByThePassword) {
+    for (const std::string& text : support::attacks())
+        attack("amministratore", text);
+    EXPECT_EQ(users(), before);
+    EXPECT_EQ(DirittiUtente, kDirittiPrimaDelLogin);
+}
+
+TEST_F(AboutFormAttack, NoneGetsInByBothFields) {
+    for (const std::string& text : support::attacks())
+        attack(text, text);
+    EXPECT_EQ(users(), before);
+    EXPECT_EQ(DirittiUtente, kDirittiPrimaDelLogin);
+}
+
+} // namespace

@@ -1,0 +1,145 @@
+#include "ado/Connection.h"
+#include "controls/ProgressBar.h"
+#include "rights/AbilitazioneUtente.h"
+#include "session/FormFixture.h"
+
+#include <QApplication>
+
+namespace {
+
+using namespace vabo;
+using support::kCompany;
+
+using AvvioForm = FormTest;
+
+TEST_F(AvvioForm, SaysWhatItDoesWithVersionAndDatabase) {
+    gui.forms().show("Avvio");
+    EXPECT_EQ(gui.text("Avvio", "Please"), "Just a moment please, I  restore your connection");
+    EXPECT_EQ(gui.text("Avvio", "lblVersion"), "Ver. 1.2.3");
+    EXPECT_EQ(gui.text("Avvio", "Label1"), "DataBase :   " + companyName());
+}
+
+TEST_F(AvvioForm, HasItsControlsUnderTheirNames) {
+    gui.forms().show("Avvio");
+    for (const char* name :
+         {"lblVersion", "Label1", "Picture1", "ProgressBar1", "Nome", "Please", "lblCompanyProduct", "Label2"})
+        EXPECT_NO_THROW(gui.find("Avvio", name)) << name;
+}
+
+TEST_F(AvvioForm, GivesWayToTheLoginAndStaysLoaded) {
+    gui.forms().show("Avvio");
+    support::Gui::handleEvents();
+    EXPECT_EQ(gui.visibleForms(), "About");
+    EXPECT_TRUE(gui.forms().isLoaded("Avvio"));
+}
+
+TEST_F(AvvioForm, TakesTheCompanyOfTheTerminal) {
+    setTerminal(support::kTerminalName, idOf(support::kOtherCompany));
+    gui.forms().show("Avvio");
+    EXPECT_EQ(NomeTerminale, "POSTO-7") << "the login keeps the raw name";
+    EXPECT_EQ(NomeDatabase, support::kOtherCompany);
+    EXPECT_EQ(gui.text("Avvio", "Label1"), "DataBase :   " + companyName(support::kOtherCompany));
+}
+
+TEST_F(AvvioForm, WithoutUsersTheConsoleComesWithoutALogin) {
+    noUsers();
+    gui.forms().show("Avvio");
+    support::Gui::handleEvents();
+    EXPECT_EQ(gui.visibleForms(), "Avvio_Azienda");
+    EXPECT_FALSE(gui.forms().isLoaded("About"));
+    EXPECT_TRUE(gui.forms().isLoaded("Avvio"));
+    EXPECT_EQ(DirittiUtente, kDirittiAvvioSenzaUtenti);
+    EXPECT_EQ(DirittiUtente.A_Progetta, kFalso);
+    EXPECT_EQ(DirittiUtente.Disabilita, kFalso);
+}
+
+TEST_F(AvvioForm, ATableOfUsersThatCanNotBeReadLeadsToTheConsoleToo) {
+    workstation.run(kCompany, "drop table AbilitazioneAccessi");
+    gui.forms().show("Avvio");
+    support::Gui::handleEvents();
+    EXPECT_EQ(gui.visibleForms(), "Avvio_Azienda");
+    EXPECT_EQ(DirittiUtente, kDirittiAvvioSenzaUtenti);
+}
+
+TEST_F(AvvioForm, TheDatabaseCanBeReadBeforeTheSlowSteps) {
+    bool seen = false;
+    ado::setStatementRecorder([&](const std::string& text) {
+        if (text.find("min memory per query") == std::string::npos)
+            return;
+        seen = gui.isVisible("Avvio") && gui.text("Avvio", "Label1") == "DataBase :   " + companyName();
+    });
+    gui.forms().show("Avvio");
+    ado::setStatementRecorder({});
+    EXPECT_TRUE(seen);
+}
+
+TEST_F(AvvioForm, SetsTheServersOptionsThenReadsTheTemporaryDatabaseThenTheUsers) {
+    const support::StatementRecorder recorder;
+    gui.forms().show("Avvio");
+    const auto options = recorder.holding("min memory per query");
+    ASSERT_EQ(options.size(), 1U);
+    EXPECT_EQ(options[0],
+              "EXEC sys.sp_configure N'show advanced options', N'1'  RECONFIGURE WITH OVERRIDE\r\n"
+              " EXEC sys.sp_configure N'min memory per query (KB)', N'10240'\r\n RECONFIGURE WITH OVERRIDE \r\n"
+              " EXEC sys.sp_configure N'show advanced options', N'0'  RECONFIGURE WITH OVERRIDE");
+    const auto users = recorder.holding("AbilitazioneAccessi");
+    ASSERT_FALSE(users.empty());
+    EXPECT_TRUE(recorder.sentInOrder({options[0], users[0]}));
+}
+
+TEST_F(AvvioForm, TheWordDornavelCountsInSmallLettersOnly) {
+    control("update link_programma set NomeAzienda = 'Gruppo DORNAVEL'");
+    gui.forms().show("Avvio");
+    EXPECT_EQ(ClienteDornavel, kFalso);
+    gui.forms().unload("About");
+    gui.forms().unload("Avvio");
+    control("update link_programma set NomeAzienda = 'Gruppo dornavel srl'");
+    gui.forms().show("Avvio");
+    EXPECT_EQ(ClienteDornavel, kVero);
+}
+
+TEST_F(AvvioForm, WithoutItsPointerFileTheErrorIsToldAndTheProcessEnds) {
+    for (const char* file : {"C:\\vabo\\IndirizzoServer.txt", "C:\\vabo\\NomeServer.txt"}) {
+        const std::string line = *workstation.fileText(file);
+        removeFile(file);
+        script.expectMessage("File not found");
+        EXPECT_TRUE(end.endedBy([&] { gui.forms().show("Avvio"); })) << file;
+        workstation.putFile(file, line);
+        gui.forms().unload("Avvio");
+    }
+    EXPECT_EQ(end.ended(), 2);
+}
+
+TEST_F(AvvioForm, WithoutACompanyTheProcessEnds) {
+    control("delete from link_programma");
+    noCompanyDatabases();
+    script.expectMessage("Nessun database caricato");
+    EXPECT_TRUE(end.endedBy([&] { gui.forms().show("Avvio"); }));
+}
+
+TEST_F(AvvioForm, ATerminalWithoutACompanyToOpenEndsTheProcess) {
+    setTerminal(support::kTerminalName, 1);
+    control("delete from link_programma");
+    noCompanyDatabases();
+    script.expectMessage("Non è possibile caricare il DataBase");
+    EXPECT_TRUE(end.endedBy([&] { gui.forms().show("Avvio"); }));
+}
+
+TEST_F(AvvioForm, WithoutAMachineNameItGoesOnWithoutACompany) {
+    platform::workstation().machineName.clear();
+    script.expectMessage("Carica Nome PC");
+    script.expectMessage("Caricare il nome del PC!");
+    // The console asks again when it is loaded, and then finds no list.
+    script.expectMessage("Caricare il nome del PC!");
+    script.expectMessage("");
+    gui.forms().show("Avvio");
+    EXPECT_EQ(gui.text("Avvio", "Label1"), "DataBase :   ");
+    EXPECT_EQ(gui.visibleForms(), "Avvio_Azienda");
+}
+
+TEST_F(AvvioForm, ItsBarEndsFull) {
+    gui.forms().show("Avvio");
+    EXPECT_EQ(gui.find<controls::ProgressBar>("Avvio", "ProgressBar1").Value(), 100);
+}
+
+} // namespace

@@ -81,8 +81,7 @@ inline std::vector<std::string> attacks() {
                                              "\x7f",
                                              "\xc2\xa0",
                                              "\xe2\x80\x8b",
-                                             "\xe2\x80\xae"
-                                             "nimda",
+                                             std::string("\xe2\x80\xae").append("nimda"),
                                              "\xef\xbb\xbf",
                                              "\xf0\x9f\x94\x91",
                                              "аmministratore",

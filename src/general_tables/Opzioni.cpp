@@ -85,12 +85,13 @@ std::string TestoOpzione(const Opzione& opzione) {
     return "select * from " + tabella + " where id = " + std::to_string(opzione.riga);
 }
 
-void SalvaOpzione(const Opzione& opzione, bool spuntata) {
-    const int valore = spuntata ? opzione.valoreSpuntata : 0;
+void SalvaOpzione(const Opzione& opzione, int casella) {
+    const int valore = casella * opzione.valoreSpuntata;
     if (RigaConNumero(opzione) && opzione.riga == kRigaBudgetOng) {
         SalvaBudgetOng(opzione, valore);
         return;
     }
+    const Restituzione restituzione(kPostoCaselle);
     ado::Recordset proprio;
     ado::Recordset& rs = RecordsetCondiviso(opzione) ? RsCaselle() : proprio;
     if (opzione.ignoraErrori) {

@@ -40,9 +40,9 @@ const Opzione& OpzioneDi(std::string_view casella);
 /// The statement that finds the row of an option.
 std::string TestoOpzione(const Opzione& opzione);
 
-/// Stores what the box shows, creating the row where it is missing. Under the option's own rule: errors raise, or the
-/// failing statement is skipped.
-void SalvaOpzione(const Opzione& opzione, bool spuntata);
+/// Stores what the box shows (1 ticked, 0 not; the 2 of a stored -2 goes back as it came), creating the row where it is
+/// missing. Under the option's own rule: errors raise, or the failing statement is skipped.
+void SalvaOpzione(const Opzione& opzione, int casella);
 
 /// Row 9, created where it is missing. False on the pass that creates it.
 bool UsaBadge();

@@ -64,6 +64,7 @@ void DefinisciPianoDeiConti(int casellaBudget) {
         platform::dialogs().message("Utente non abilitato!\nContattare l'amministratore di sistema");
         return;
     }
+    const Restituzione restituzione(kPostoCaselle);
     const bool standard = platform::dialogs().question("Utilizzi il Piano dei Conti Standard?");
     ScriviEChiudi(1, standard ? 0 : -1, "Standard");
     for (const Livello& livello : kLivelli) {

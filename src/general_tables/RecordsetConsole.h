@@ -6,11 +6,25 @@ namespace vabo {
 
 /// The two shared recordsets of this console. The load reads the option rows through the first while a box that it sets
 /// writes through the second; only the box of the budget items takes the first one over.
+inline constexpr int kPostoOpzioni = 3;
 inline ado::Recordset& RsOpzioni() {
-    return RsCondivisi(3);
+    return RsCondivisi(kPostoOpzioni);
 }
+inline constexpr int kPostoCaselle = 4;
 inline ado::Recordset& RsCaselle() {
-    return RsCondivisi(4);
+    return RsCondivisi(kPostoCaselle);
 }
+
+/// Every opener leaves a shared recordset closed for the next, also where an error stops it.
+class Restituzione {
+public:
+    explicit Restituzione(int posto) : posto_(posto) {}
+    Restituzione(const Restituzione&) = delete;
+    Restituzione& operator=(const Restituzione&) = delete;
+    ~Restituzione() { RsCondivisi.Rilascia(posto_); }
+
+private:
+    int posto_;
+};
 
 } // namespace vabo

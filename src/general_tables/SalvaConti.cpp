@@ -15,6 +15,7 @@ namespace {
 
 template<typename Regola>
 void PuntaAlConto(Regola&& regola, const std::string& testo, double idConto) {
+    const Restituzione restituzione(kPostoCaselle);
     ado::Recordset& rs = RsCaselle();
     regola([&] { ApriScrivibile(rs, testo, DbAzienda); });
     regola([&] { rs.MoveFirst(); });

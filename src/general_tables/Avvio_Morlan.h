@@ -1,0 +1,107 @@
+#pragma once
+
+#include "controls/Form.h"
+#include "general_tables/CaricaOpzioni.h"
+#include "general_tables/SalvaConti.h"
+
+#include <functional>
+#include <memory>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace controls {
+class CheckBox;
+class DataCombo;
+class DataControl;
+class DataGrid;
+} // namespace controls
+namespace Ui {
+class Avvio_Morlan;
+}
+
+namespace vabo {
+
+/// The general tables console: the settings of a company database that the accounting program obeys, on six tabs, and
+/// the ways to the other forms. Every click writes at once; there is nothing to save and nothing to undo.
+class Avvio_Morlan : public controls::Form {
+    Q_OBJECT
+public:
+    Avvio_Morlan();
+    ~Avvio_Morlan() override;
+
+protected:
+    void Load() override;
+    void Unload() override;
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+private:
+    /// One of the four pickers of accounts. A pick in its list and Enter store, Delete takes the account away.
+    struct Selettore {
+        controls::DataCombo* combo;
+        controls::DataControl* elenco;
+        double* conto;
+        std::function<void(OrdineFatture)> salva;
+    };
+
+    // Frame and load
+    void CollegaComandi();
+    void ApriDa(const std::string& nome);
+    static void CaricaElenco(controls::DataControl& elenco, const std::string& testo, controls::DataCombo& combo);
+    void MostraNomeDatabase();
+    void CaricaOpzioni();
+
+    // The boxes
+    void CollegaCaselle();
+    controls::CheckBox& Casella(std::string_view nome) const;
+    void ScriviCasella(const Opzione& opzione);
+    MostraCasella Mostra(std::string_view casella) const;
+    void CaricaTassiEBadge();
+
+    // The grids' layouts
+    void ImpostaGrigliaContiUtili();
+    void ImpostaGrigliaAltriConti();
+    void ImpostaGrigliaContiIva();
+    void ImpostaGrigliaPersonale();
+
+    // The accounts
+    void CollegaConti();
+    static void CaricaDati(controls::DataControl& dati, const std::string& testo);
+    void CaricaContiUtili();
+    void ScegliContoUtile();
+    void SalvaUtile();
+    void CaricaAltriConti();
+    void MostraTabella(const char* etichetta);
+    void GiraTabella();
+    void ScegliAltroConto();
+    void ProvaESalvaAltro();
+    void SalvaAltro();
+    void CaricaContiIva();
+    void ScegliContoFattura();
+    void MostraContoFattura(controls::DataGrid& griglia, controls::DataCombo& combo);
+    void SalvaFattura(OrdineFatture ordine);
+    void CaricaPersonale();
+    void ScegliContoPersonale();
+    void SalvaPersonale();
+
+    // The standard VAT treatment
+    using Regola = std::function<void(const std::function<void()>&)>;
+    void CollegaTrattamento();
+    void MostraTrattamento(const Regola& regola);
+    void CaricaTrattamento();
+    void ScegliTrattamento();
+
+    std::unique_ptr<Ui::Avvio_Morlan> ui_;
+    std::vector<Selettore> selettori_;
+
+    double IdRiga = 0; ///< shared by the tabs 1, 2 and 5
+    double IdContoUtile = 0;
+    double IdContoAltri = 0;
+    double IdContoFattura = 0; ///< shared by the tabs 4 and 5
+    double IdRigaFattura = 0;
+    int TabellaCorrente = 0;   ///< which table tab 2 shows, 0 to 3
+    long PosizioneGriglia = 0; ///< where the chosen row stands in its grid, from 1
+    double IdTrattamentoStandard = 0;
+};
+
+} // namespace vabo

@@ -13,8 +13,10 @@ public:
     explicit TextBox(QWidget* parent = nullptr);
 
     std::string Text() const { return text().toStdString(); }
+    using QLineEdit::setText;
     /// Cut at the field's greatest length.
-    void setText(const std::string& text) { QLineEdit::setText(QString::fromStdString(text)); }
+    void setText(const std::string& text) { setText(QString::fromStdString(text)); }
+    void setText(const char* text) { setText(QString::fromUtf8(text)); }
 
 signals:
     void GotFocus();

@@ -167,7 +167,9 @@ TEST_F(AboutForm, AnUnknownNameAndAnEmptyPasswordAreRefusedAlike) {
     show();
     refuse(2);
     login("nessuno", "primavera");
-    login("amministratore", "");
+    enter("amministratore");
+    gui.press(Qt::Key_Delete); // the former password stands there, selected
+    enter("");
     EXPECT_EQ(TentativiLogin, 2);
     EXPECT_TRUE(gui.isVisible("About"));
 }

@@ -1,5 +1,6 @@
 #include "controls/DataCombo.h"
 #include "controls/RecordedForm.h"
+#include "session/Avvio_Azienda.h"
 #include "session/FormFixture.h"
 #include "session/TreatForms.h"
 
@@ -15,6 +16,7 @@ using support::kOtherCompany;
 
 class AvvioAziendaForm : public FormTest {
 protected:
+    AvvioAziendaForm() { NomeTerminale = support::kTerminalName; }
     void show() {
         gui.forms().show("Avvio_Azienda");
         gui.waitForFront("Avvio_Azienda");
@@ -32,9 +34,6 @@ protected:
         return controlValue(std::string("select ultimo from link_programmaTerminale where Nometerminale = '") +
                             support::kTerminalName + "'");
     }
-
-    std::vector<std::string> log;
-    AvvioAziendaForm() { NomeTerminale = support::kTerminalName; }
 };
 
 TEST_F(AvvioAziendaForm, HasItsTitleAndItsThreeWays) {
@@ -167,11 +166,13 @@ TEST_F(AvvioAziendaForm, TheOtherWaysHideTheConsoleAndBringItBackAsItWas) {
 }
 
 TEST_F(AvvioAziendaForm, AWayThatIsNotBuiltLeavesTheConsoleInPlace) {
+    support::Gui bare;
+    bare.forms().add("Avvio_Azienda", [] { return std::make_unique<Avvio_Azienda>(); });
     DirittiUtente.Administrator = kVero;
-    show();
+    bare.forms().show("Avvio_Azienda");
     for (const char* button : {"Command1", "Command2", "cmdClose"}) {
-        gui.click("Avvio_Azienda", button);
-        EXPECT_EQ(gui.visibleForms(), "Avvio_Azienda") << button;
+        bare.click("Avvio_Azienda", button);
+        EXPECT_EQ(bare.visibleForms(), "Avvio_Azienda") << button;
         EXPECT_EQ(CimaForm, 0) << button;
     }
 }

@@ -5,6 +5,7 @@
 #include "support/Gui.h"
 
 #include <string>
+#include <vector>
 
 /// The program's forms on the sample workstation, as after the start of the process.
 class FormTest : public SessionTest {
@@ -20,5 +21,6 @@ protected:
         return controlValue("select NomeAzienda from link_programma where dbname = '" + database + "'");
     }
 
+    std::vector<std::string> log; ///< of recorded forms, which it outlives
     support::Gui gui;
 };

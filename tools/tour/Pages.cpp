@@ -1,0 +1,72 @@
+#include "ado/Connection.h"
+#include "controls/DataCombo.h"
+#include "platform/Dialogs.h"
+#include "tour/Tour.h"
+
+#include <QAbstractItemView>
+#include <QApplication>
+#include <QTimer>
+
+namespace tour {
+
+namespace {
+
+/// The start form hides itself when its work is done: its picture is taken while a statement is on its way.
+void start(Tour& tour) {
+    bool taken = false;
+    ado::setStatementRecorder([&](const std::string& /*text*/) {
+        const controls::Form* form = tour.forms().loaded("Avvio");
+        if (taken || form == nullptr || !form->isVisible())
+            return;
+        taken = true;
+        tour.take("01-avvio", "Avvio");
+    });
+    tour.show("Avvio");
+    ado::setStatementRecorder({});
+    if (!taken)
+        throw std::runtime_error("The start form never came to the screen");
+}
+
+void login(Tour& tour) {
+    tour.show("About");
+    tour.take("02-login", "About");
+    QWidget& name = tour.control("About", "txtUserName");
+    Tour::type(name, "amministratore");
+    Tour::press(name, Qt::Key_Return);
+    Tour::type(tour.control("About", "txtPassword"), "primavera");
+    tour.take("03-login-password", "About");
+}
+
+void box(Tour& tour) {
+    QTimer::singleShot(0, qApp, [&tour] {
+        if (auto* shown = QApplication::activeModalWidget()) {
+            tour.take("04-messaggio", *shown);
+            shown->close();
+        }
+    });
+    platform::dialogs().message("Utente non abilitato! Contattare l'amministratore di sistema");
+}
+
+void console(Tour& tour) {
+    Tour::press(tour.control("About", "txtPassword"), Qt::Key_Return);
+    tour.take("05-console", "Avvio_Azienda");
+    auto& list = dynamic_cast<controls::DataCombo&>(tour.control("Avvio_Azienda", "DataCombo1"));
+    Tour::press(list, Qt::Key_Down);
+    tour.take("06-console-elenco", *list.view()->window());
+    list.hidePopup();
+}
+
+void links(Tour& tour) {
+    tour.show("FormRefreshLinks");
+    tour.take("07-collegamenti", "FormRefreshLinks");
+    tour.forms().unload("FormRefreshLinks");
+}
+
+} // namespace
+
+void walk(Tour& tour) {
+    for (const auto page : {start, login, box, console, links})
+        page(tour);
+}
+
+} // namespace tour

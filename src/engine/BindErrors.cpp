@@ -48,6 +48,14 @@ Error valuesCountMismatch() {
     return {10709, "The number of columns for each row in a table value constructor must be the same.", Reach::Batch};
 }
 
+Error tooManyRows() {
+    return {
+        10738,
+        "The number of row value expressions in the INSERT statement exceeds the maximum allowed number of 1000 row "
+        "values.",
+        Reach::Batch};
+}
+
 Error unionCountMismatch() {
     return {205,
             "All queries combined using a UNION, INTERSECT or EXCEPT operator must have an equal number of expressions "

@@ -12,6 +12,7 @@ Error moreColumnsThanValues();                                                  
 Error fewerColumnsThanSelected();                                                                         // 121
 Error moreColumnsThanSelected();                                                                          // 120
 Error valuesCountMismatch();                                                                              // 10709
+Error tooManyRows();                                                                                      // 10738
 Error unionCountMismatch();                                                                               // 205
 Error oneColumnOnly();                                                                                    // 116
 Error moreThanOneValue();                                                                                 // 512

@@ -8,6 +8,13 @@
 
 namespace engine {
 
+namespace {
+
+/// Rows that one VALUES may list.
+constexpr std::size_t kMostRows = 1000;
+
+} // namespace
+
 bound::Table Binder::target(const Name& name) {
     const TableFinder::Found found = finder_.find(name);
     if (found.system) {
@@ -135,6 +142,9 @@ bound::Statement Binder::bind(const Insert& insert) {
         completeRow(result, given, row);
         result.rows.push_back(std::move(row));
         return result;
+    }
+    if (insert.rows.size() > kMostRows) {
+        throw errors::tooManyRows();
     }
     for (const auto& values : insert.rows) {
         if (values.size() != insert.rows.front().size()) {

@@ -43,8 +43,10 @@ public:
 
     bool given(std::size_t place) const { return !isNull(values_[place]); }
 
+    /// Nothing where the argument was left out or is NULL.
     std::string text(std::size_t place) const {
-        return std::get<std::string>(convert(values_[place], {typeOf(place), DataType{Kind::NVarChar, -1, 0, 0}, {}}));
+        const Scalar value = convert(values_[place], {typeOf(place), DataType{Kind::NVarChar, -1, 0, 0}, {}});
+        return isNull(value) ? std::string() : std::get<std::string>(value);
     }
 
     long long integer(std::size_t place) const {

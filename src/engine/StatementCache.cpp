@@ -34,6 +34,9 @@ PlanPtr StatementCache::find(const Shape& shape) {
 }
 
 void StatementCache::add(const Shape& shape, PlanPtr plan) {
+    if (shape.key.size() > kLongestKey) {
+        return;
+    }
     entries_.push_front({shape.key, std::move(plan)});
     byKey_.emplace(entries_.front().key, entries_.begin());
     if (entries_.size() <= kMostPlans) {

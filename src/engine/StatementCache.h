@@ -13,6 +13,8 @@ namespace engine {
 class StatementCache {
 public:
     static constexpr std::size_t kMostPlans = 256;
+    /// Longer statements are not worth their place.
+    static constexpr std::size_t kLongestKey = 65536;
 
     /// nullptr where no plan of this shape fits these literals.
     PlanPtr find(const Shape& shape);

@@ -35,6 +35,7 @@ TEST_F(Procedures, ADatabaseOptionIsSetAndRead) {
     EXPECT_EQ(rows("exec sp_dboption 'prova', 'autoclose'"), "autoclose|OFF");
     EXPECT_EQ(answer("sp_dboption 'prova', 'autoclose', 'forse'").substr(0, 7), "!15241 ");
     EXPECT_EQ(answer("sp_dboption 'manca', 'autoclose', 'true'").substr(0, 7), "!15010 ");
+    EXPECT_EQ(answer("sp_dboption 'prova', null, 'true'").substr(0, 7), "!15011 ");
     EXPECT_NE(rows("sp_dboption").find("autoclose"), std::string::npos);
 }
 

@@ -54,5 +54,81 @@ TEST_F(Select, Answers) {
         EXPECT_EQ(rows(one.text), one.rows) << one.text;
 }
 
+TEST_F(Select, NamesThatFitNothingAreRefused) {
+    constexpr Case cases[] = {
+        {"select manca from stati", "!207 Invalid column name 'manca'."},
+        {"select S.manca from stati as S", "!207 Invalid column name 'manca'."},
+        {"select X.idstato from stati as S", "!4104 The multi-part identifier \"X.idstato\" could not be bound."},
+        {"select stati.idstato from stati as S",
+         "!4104 The multi-part identifier \"stati.idstato\" could not be bound."},
+        {"select idstato from elencosedi, stati", "!209 Ambiguous column name 'idstato'."},
+        {"select E.idstato, S.idstato from elencosedi E, stati S order by idstato",
+         "!209 Ambiguous column name 'idstato'."},
+        {"select * from manca", "!208 Invalid object name 'manca'."},
+        {"select * from sys.stati", "!208 Invalid object name 'sys.stati'."},
+        {"select * from sysdatabases", "!208 Invalid object name 'sysdatabases'."},
+        {"select * from stati, STATI",
+         "!1011 The objects \"stati\" and \"STATI\" in the FROM clause have the same exposed names. Use correlation"
+         " names to distinguish them."},
+        {"select *", "!263 Must specify table to select from."},
+        {"select X.* from stati",
+         "!107 The column prefix 'X' does not match with a table name or alias name used in the query."},
+        {"select descstato, count(*) from stati",
+         "!8120 Column 'stati.descstato' is invalid in the select list because it is not contained in either an"
+         " aggregate function or the GROUP BY clause."},
+        {"select 1 from stati where count(*) > 1",
+         "!147 An aggregate may not appear in the WHERE clause unless it is in a subquery contained in a HAVING clause"
+         " or a select list, and the column being aggregated is an outer reference."},
+        {"select sum(descstato) from stati", "!8117 Operand data type nvarchar is invalid for sum operator."},
+        {"select 1 union select 1, 2",
+         "!205 All queries combined using a UNION, INTERSECT or EXCEPT operator must have an equal number of expressions"
+         " in their target lists."},
+        {"select 1 where 1 in (select 1, 2)",
+         "!116 Only one expression can be specified in the select list when the subquery is not introduced with"
+         " EXISTS."},
+        {"select idstato from stati order by 2",
+         "!108 The ORDER BY position number 2 is out of range of the number of items in the select list."},
+    };
+    for (const Case& one : cases)
+        EXPECT_EQ(answer(one.text), one.rows) << one.text;
+}
+
+TEST_F(Select, GroupsAndJoinsOfManyKinds) {
+    constexpr Case cases[] = {
+        {"select left(descstato, 1), count(*) from stati group by left(descstato, 1) order by 1", "NULL|1\nF|1\nI|1"},
+        {"select upper(Città), count(*) from elencosedi group by upper(Città) having upper(Città) is not null order by 2",
+         "PARIGI|1\nROMA|2"},
+        {"select count(distinct Città) from elencosedi", "2"},
+        {"select S.idstato from elencosedi E right join stati S on E.idstato = S.idstato where E.idsede is null", "3"},
+        {"select count(*) from elencosedi E full join stati S on E.idstato = S.idstato", "5"},
+        {"select count(*) from elencosedi cross join stati", "12"},
+        {"select d.n from (select idstato, count(*) as n from elencosedi group by idstato) as d where d.idstato = 1",
+         "2"},
+        {"select T.idsede from ((elencosedi as T left join stati as S on T.idstato = S.idstato) left join stati as Z on"
+         " Z.idstato = S.idstato) where Z.descstato = 'Francia'",
+         "2"},
+        {"select (select descstato from stati S where S.idstato = E.idstato) from elencosedi E where idsede = 2",
+         "Francia"},
+        {"select sum(idsede) from elencosedi where idsede > 99", "NULL"},
+        {"select count(*) from elencosedi where idsede > 99", "0"},
+        {"select top 1 idsede from elencosedi union all select top 1 idstato from stati", "1\n1"},
+        {"select count(*) from (select Città from elencosedi where idsede = 1 union select 'ROMA') as d", "1"},
+        {"select 1 union all select 2.5 order by 1 desc", "2.5\n1.0"},
+    };
+    for (const Case& one : cases)
+        EXPECT_EQ(rows(one.text), one.rows) << one.text;
+}
+
+TEST_F(Select, LongChainsRunOrAreRefused) {
+    std::string conditions = "select count(*) from elencosedi where idsede = 1";
+    std::string sum = "select 1";
+    for (int i = 0; i < 600; ++i) {
+        conditions += " or idsede = " + std::to_string(i);
+        sum += " + 1";
+    }
+    EXPECT_EQ(rows(conditions), "4");
+    EXPECT_EQ(answer(sum).substr(0, 5), "!191 ");
+}
+
 } // namespace
 } // namespace engine

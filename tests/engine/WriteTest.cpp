@@ -98,6 +98,14 @@ TEST_F(Write, AFailingUpdateOfManyRowsChangesNothing) {
     EXPECT_EQ(rows("select codice from voci order by id"), "a\nb\nc");
 }
 
+TEST_F(Write, AThousandRowsAreTheMostOfOneStatement) {
+    std::string text = "insert into righe values (1, 1)";
+    for (int i = 1; i < 1000; ++i)
+        text += ",(1, 1)";
+    EXPECT_EQ(answer(text), "(1000)");
+    EXPECT_EQ(answer(text + ",(1, 1)").substr(0, 7), "!10738 ");
+}
+
 TEST_F(Write, AnUpdateTellsItsRows) {
     run("insert into voci (codice, quante) values ('a', 1), ('b', 2), ('c', 3)");
     EXPECT_EQ(answer("update voci set quante = quante + 10 where quante > 1"), "(2)");

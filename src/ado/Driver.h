@@ -69,6 +69,10 @@ class DriverConnection {
 public:
     virtual ~DriverConnection() = default;
     virtual std::unique_ptr<DriverResult> run(std::string_view text) = 0;
+    /// What stands behind the table in a SELECT given to `hold`; empty where it needs no word for it.
+    virtual std::string holdingHint() const { return {}; }
+    /// Names the table and the columns that the fields of a selection come from, where its result didn't.
+    virtual void nameSources(const std::string& /*statement*/, std::vector<FieldDescription>& /*fields*/) {}
     /// Holds the rows that a SELECT on one table finds; throws at once when somebody else holds one (native 1222).
     virtual std::unique_ptr<DriverHold> hold(std::string_view select) = 0;
     /// The identity given by this connection's last INSERT, 0 where none.

@@ -2,6 +2,7 @@
 
 #include "ado/Names.h"
 #include "ado/drivers/embedded/EmbeddedDriver.h"
+#include "ado/drivers/odbc/OdbcDriver.h"
 
 #include <algorithm>
 #include <initializer_list>
@@ -64,22 +65,13 @@ void checkSecurity(const ConnectionString& text) {
         throw Error(kMultipleStep);
 }
 
-/// The road to servers of the network, until a driver for it stands here: every one of them is out of reach.
-class UnreachableServer : public Driver {
-public:
-    const char* name() const override { return "unreachable"; }
-    std::unique_ptr<DriverConnection> connect(const ConnectionString&) override {
-        throw Error(kUnspecified, "Server does not exist or access denied.", "08001", 0, {});
-    }
-};
-
 Driver& embeddedDriver() {
     static EmbeddedDriver driver;
     return driver;
 }
 
 Driver& networkDriver() {
-    static UnreachableServer driver;
+    static OdbcDriver driver;
     return driver;
 }
 

@@ -14,8 +14,11 @@ void Recordset::State::demandEditable() {
 const RowStatements& Recordset::State::edits() {
     if (statements)
         return *statements;
+    if (!selectsPlainRows(statement))
+        throw Error(kNotUpdatable);
+    road->nameSources(statement, fields);
     const auto table = RowStatements::baseTable(fields);
-    if (!table || !selectsPlainRows(statement))
+    if (!table)
         throw Error(kNotUpdatable);
     statements.emplace(fields, *table, road->primaryKey(*table));
     return *statements;
@@ -48,7 +51,7 @@ void Recordset::State::assign(int column, const Value& value) {
 
 /// What another program wrote since the row was read is seen before it can be written over.
 void Recordset::State::holdRow() {
-    const std::string select = edits().select(rows, cursor.row());
+    const std::string select = edits().select(rows, cursor.row(), road->holdingHint());
     try {
         recordStatement(select);
         hold = road->hold(select);

@@ -19,7 +19,6 @@ void Recordset::State::demandBackwards() const {
 
 void Recordset::State::openOn(std::shared_ptr<DriverConnection> newRoad) {
     road = std::move(newRoad);
-    statements.reset();
     filter.clear();
     filterExpression.reset();
     open = fetch();
@@ -38,6 +37,7 @@ bool Recordset::State::fetch() {
                 continue;
             selected = true;
             fields = result->fields();
+            statements.reset();
             rows = RowStore(fields);
             rows.fetch(*result);
         }

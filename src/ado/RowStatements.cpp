@@ -96,11 +96,11 @@ std::string RowStatements::update(const Assignments& values, const RowStore& row
     return "UPDATE " + table_ + " SET " + assignments + where(rows, row);
 }
 
-std::string RowStatements::select(const RowStore& rows, std::size_t row) const {
+std::string RowStatements::select(const RowStore& rows, std::size_t row, const std::string& hint) const {
     std::string columns;
     for (const int place : readColumns_)
         columns += (columns.empty() ? "" : ", ") + quotedName(fields_[static_cast<std::size_t>(place)].baseColumn);
-    return "SELECT " + columns + " FROM " + table_ + where(rows, row);
+    return "SELECT " + columns + " FROM " + table_ + hint + where(rows, row);
 }
 
 std::string RowStatements::where(const RowStore& rows, std::size_t row) const {

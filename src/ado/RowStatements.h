@@ -28,7 +28,8 @@ public:
     std::string insert(const Assignments& values) const;
     std::string update(const Assignments& values, const RowStore& rows, std::size_t row) const;
     /// All columns of the one row, in the order of the fields that `readColumns` gives.
-    std::string select(const RowStore& rows, std::size_t row) const;
+    /// `hint` stands behind the table.
+    std::string select(const RowStore& rows, std::size_t row, const std::string& hint) const;
     const std::vector<int>& readColumns() const { return readColumns_; }
 
 private:

@@ -11,7 +11,8 @@ namespace ado {
 
 namespace {
 
-constexpr int kDigitsOfADouble = 15;
+constexpr double kLargestSureWhole = 1e15; // up to here a double tells every whole number
+constexpr int kLargestPower = 15;
 
 int digitsAt(std::string_view text, std::size_t from, std::size_t count) {
     int number = 0;
@@ -54,8 +55,8 @@ std::int64_t readUnscaled(std::string_view text, int scale) {
 }
 
 double powerOfTen(int exponent) {
-    static constexpr std::array<double, kDigitsOfADouble + 1> kPowers = {1e0, 1e1, 1e2,  1e3,  1e4,  1e5,  1e6,  1e7,
-                                                                         1e8, 1e9, 1e10, 1e11, 1e12, 1e13, 1e14, 1e15};
+    static constexpr std::array<double, kLargestPower + 1> kPowers = {1e0, 1e1, 1e2,  1e3,  1e4,  1e5,  1e6,  1e7,
+                                                                      1e8, 1e9, 1e10, 1e11, 1e12, 1e13, 1e14, 1e15};
     return kPowers[static_cast<std::size_t>(exponent)];
 }
 
@@ -63,19 +64,21 @@ int scaleOf(const FieldDescription& field) {
     return field.type == FieldType::Currency ? 4 : field.type == FieldType::Decimal ? field.scale : 0;
 }
 
-bool isDecimal(FieldType type) {
-    return type == FieldType::Decimal || type == FieldType::Currency;
+/// A decimal without its point: by its digits where they are more than a double keeps.
+std::int64_t unscaled(const DriverResult& result, int field, int scale) {
+    if (scale <= kLargestPower) {
+        const double number = result.real(field) * powerOfTen(scale);
+        if (std::fabs(number) < kLargestSureWhole)
+            return std::llround(number);
+    }
+    return readUnscaled(result.text(field), scale);
 }
 
 } // namespace
 
 RowStore::RowStore(const std::vector<FieldDescription>& fields) {
-    for (const FieldDescription& field : fields) {
-        const int scale = scaleOf(field);
-        const bool fits = isDecimal(field.type) && field.precision > 0 && field.precision <= kDigitsOfADouble &&
-                          scale >= 0 && scale <= kDigitsOfADouble;
-        columns_.push_back({field.type, scale, fits});
-    }
+    for (const FieldDescription& field : fields)
+        columns_.push_back({field.type, scaleOf(field)});
 }
 
 void RowStore::fetch(DriverResult& result) {
@@ -126,8 +129,7 @@ RowStore::Cell RowStore::read(const DriverResult& result, int field) {
     case FieldType::Currency:
     case FieldType::Decimal:
         cell.kind = Kind::Integer;
-        cell.integer = column.fitsDouble ? std::llround(result.real(field) * powerOfTen(column.scale))
-                                         : readUnscaled(result.text(field), column.scale);
+        cell.integer = unscaled(result, field, column.scale);
         return cell;
     case FieldType::DateTime: {
         const Date date = readDate(result.text(field));

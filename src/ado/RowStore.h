@@ -50,7 +50,6 @@ private:
     struct Column {
         FieldType type;
         int scale;
-        bool fitsDouble; ///< a decimal whose digits a double keeps
     };
 
     const Cell& cell(std::size_t row, int column) const {

@@ -8,20 +8,24 @@
 
 namespace ado::odbc {
 
-/// Seconds that a login may take.
-inline constexpr int kLoginTimeout = 15;
+/// Seconds that a login or an answer may take where the connection text has no "Connect Timeout".
+inline constexpr int kTimeout = 15;
 
 /// The text that goes to the driver: its resolved name, server, database, user, password and what it needs beside.
 std::string driverText(const ConnectionString& text, const std::string& resolvedDriver);
 
+/// One connection of the data source interface. A hold on rows is a transaction on it, so there is no other.
 class OdbcConnection : public DriverConnection, public std::enable_shared_from_this<OdbcConnection> {
 public:
+    /// Throws Error: the registry's words, the driver's or the server's.
     explicit OdbcConnection(const ConnectionString& text);
-    ~OdbcConnection() override;
 
     std::unique_ptr<DriverResult> run(std::string_view text) override;
+    std::string holdingHint() const override;
+    void nameSources(const std::string& statement, std::vector<FieldDescription>& fields) override;
     std::unique_ptr<DriverHold> hold(std::string_view select) override;
     std::int64_t lastIdentity() override;
+    std::vector<std::string> primaryKey(const std::string& table) override;
     bool alive() const override;
 
 private:
@@ -29,7 +33,8 @@ private:
     void beginHold();
     void endHold() noexcept;
 
-    Handle connection_;
+    std::shared_ptr<const Handle> connection_;
+    int timeout_;
     int holds_ = 0;
 };
 

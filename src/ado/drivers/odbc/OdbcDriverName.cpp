@@ -9,7 +9,6 @@ namespace ado::odbc {
 
 namespace {
 
-constexpr const char* kTextName = "SQL Server";
 constexpr const char* kVendorPrefix = "ODBC Driver ";
 constexpr const char* kFreeTds = "FreeTDS";
 
@@ -36,7 +35,7 @@ std::string resolveDriver(const std::string& name, const std::vector<std::string
     const auto known = [&](const std::string& candidate) {
         return std::ranges::find(registered, candidate) != registered.end();
     };
-    if (name != kTextName || known(name))
+    if (name != kServerDriver || known(name))
         return name;
     std::string newest;
     for (const auto& candidate : registered) {

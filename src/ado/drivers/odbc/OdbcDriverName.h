@@ -5,6 +5,9 @@
 
 namespace ado::odbc {
 
+/// The name that connection texts carry.
+inline constexpr const char* kServerDriver = "SQL Server";
+
 /// The drivers that this machine's registry of drivers knows.
 std::vector<std::string> registeredDrivers();
 

@@ -2,26 +2,35 @@
 
 #include "ado/ServerErrors.h"
 
-#include <QLoggingCategory>
 #include <QString>
 
+#include <algorithm>
 #include <array>
 #include <utility>
+#include <vector>
 
 namespace ado::odbc {
 
-namespace {
-
 Q_LOGGING_CATEGORY(odbcLog, "vabo.odbc", QtInfoMsg)
 
+namespace {
+
 static_assert(sizeof(SQLWCHAR) == sizeof(char16_t));
+
+/// Numbers of FreeTDS itself.
+constexpr int kFirstOfDriver = 20000, kLastOfDriver = 20999;
 
 struct Diagnostic {
     std::string state;
     int native = 0;
     std::string text;
 
-    bool isInformation() const { return state.rfind("01", 0) == 0; }
+    bool isInformation() const { return state.starts_with("01"); }
+    /// Not of the road there: the driver has numbers of its own for that.
+    bool isServers() const {
+        return native > 0 && !isInformation() && (native < kFirstOfDriver || native > kLastOfDriver) &&
+               !state.starts_with("08");
+    }
 };
 
 Diagnostic diagnosticAt(const Handle& handle, SQLSMALLINT number, bool& found) {
@@ -49,27 +58,42 @@ std::string withoutLayers(std::string text) {
     return text;
 }
 
-Error errorFrom(const Handle& handle, const char* call) {
-    Diagnostic chosen;
-    std::string others;
+std::vector<Diagnostic> diagnosticsOf(const Handle& handle) {
+    std::vector<Diagnostic> all;
     bool found = true;
     for (SQLSMALLINT number = 1; found; ++number) {
-        const Diagnostic record = diagnosticAt(handle, number, found);
-        if (!found)
-            break;
-        if (chosen.text.empty() && !record.isInformation())
-            chosen = record;
-        else
-            others += (others.empty() ? "" : "; ") + record.state + " " + record.text;
+        Diagnostic record = diagnosticAt(handle, number, found);
+        if (found)
+            all.push_back(std::move(record));
     }
-    const std::string text = withoutLayers(chosen.text);
-    const bool fromServer = chosen.native > 0 && chosen.state.rfind("08", 0) != 0;
-    Error error = fromServer
-                      ? serverError(chosen.native, text)
-                      : Error(chosen.state == "28000" ? kLogin : kUnspecified, text, chosen.state, chosen.native, {});
+    return all;
+}
+
+/// Of all records the one that tells what happened: the server's own before the driver's, the rest where there is no
+/// error among them.
+std::size_t tellingOf(const std::vector<Diagnostic>& all) {
+    const auto first = [&](auto test) { return std::ranges::find_if(all, test); };
+    auto found = first(&Diagnostic::isServers);
+    if (found == all.end())
+        found = first([](const Diagnostic& record) { return !record.isInformation(); });
+    return found == all.end() ? 0 : static_cast<std::size_t>(found - all.begin());
+}
+
+Error errorFrom(const Handle& handle, const char* call) {
+    const std::vector<Diagnostic> all = diagnosticsOf(handle);
+    if (all.empty())
+        return Error(kUnspecified, "Unspecified error").in(call);
+    const std::size_t telling = tellingOf(all);
+    const Diagnostic& record = all[telling];
+    const std::string text = withoutLayers(record.text);
+    Error error = record.isServers()
+                      ? serverError(record.native, text)
+                      : Error(record.state == "28000" ? kLogin : kUnspecified, text, record.state, record.native, {});
     error.in(call);
-    if (!others.empty())
-        error.in(others);
+    for (std::size_t i = 0; i < all.size(); ++i) {
+        if (i != telling)
+            error.in(all[i].state + " " + all[i].text);
+    }
     return error;
 }
 
@@ -81,8 +105,11 @@ Handle::Handle(SQLSMALLINT kind, SQLHANDLE parent) : kind_(kind) {
 }
 
 Handle::~Handle() {
-    if (handle_)
-        SQLFreeHandle(kind_, handle_);
+    if (!handle_)
+        return;
+    if (kind_ == SQL_HANDLE_DBC)
+        SQLDisconnect(handle_);
+    SQLFreeHandle(kind_, handle_);
 }
 
 Handle::Handle(Handle&& other) noexcept : kind_(other.kind_), handle_(std::exchange(other.handle_, nullptr)) {}
@@ -95,11 +122,9 @@ Handle& Handle::operator=(Handle&& other) noexcept {
 
 SQLHANDLE environment() {
     static const Handle shared = [] {
-        SQLSetEnvAttr(SQL_NULL_HANDLE, SQL_ATTR_CONNECTION_POOLING, reinterpret_cast<SQLPOINTER>(SQL_CP_ONE_PER_DRIVER),
-                      0);
+        SQLSetEnvAttr(SQL_NULL_HANDLE, SQL_ATTR_CONNECTION_POOLING, asPointer(SQL_CP_ONE_PER_DRIVER), 0);
         Handle handle(SQL_HANDLE_ENV, SQL_NULL_HANDLE);
-        check(SQLSetEnvAttr(handle.get(), SQL_ATTR_ODBC_VERSION, reinterpret_cast<SQLPOINTER>(SQL_OV_ODBC3), 0), handle,
-              "SQLSetEnvAttr");
+        check(SQLSetEnvAttr(handle.get(), SQL_ATTR_ODBC_VERSION, asPointer(SQL_OV_ODBC3), 0), handle, "SQLSetEnvAttr");
         return handle;
     }();
     return shared.get();

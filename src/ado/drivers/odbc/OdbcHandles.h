@@ -4,6 +4,8 @@
 
 #include "ado/Error.h"
 
+#include <QLoggingCategory>
+
 #include <sql.h>
 #include <sqlext.h>
 
@@ -12,7 +14,10 @@
 
 namespace ado::odbc {
 
-/// Owns one handle of its kind.
+/// Every call and every text, off by default: "vabo.odbc".
+Q_DECLARE_LOGGING_CATEGORY(odbcLog)
+
+/// Owns one handle of its kind; a connection is closed with it.
 class Handle {
 public:
     Handle() = default;
@@ -37,6 +42,11 @@ SQLHANDLE environment();
 /// True for success with or without information, false for "no data" and "need data". Throws Error with all diagnostic
 /// records of the handle: the first one that is an error gives number and text, the others follow as context.
 bool check(SQLRETURN code, const Handle& handle, const char* call);
+
+/// A number as the attribute functions take it.
+inline SQLPOINTER asPointer(unsigned long number) {
+    return reinterpret_cast<SQLPOINTER>(number); // NOLINT(performance-no-int-to-ptr)
+}
 
 std::u16string toUtf16(std::string_view text);
 std::string toUtf8(const SQLWCHAR* text, std::size_t characters);

@@ -1,5 +1,7 @@
 #include "ado/drivers/odbc/OdbcResult.h"
 
+#include <QString>
+
 #include <array>
 #include <cstdio>
 
@@ -48,8 +50,11 @@ FieldType fieldType(SQLSMALLINT type) {
 
 } // namespace
 
-OdbcResult::OdbcResult(SQLHANDLE connection, std::string_view text)
-    : statement_(SQL_HANDLE_STMT, connection), buffer_(kTextPiece) {
+OdbcResult::OdbcResult(std::shared_ptr<const Handle> connection, std::string_view text, int timeout)
+    : connection_(std::move(connection)), statement_(SQL_HANDLE_STMT, connection_->get()), buffer_(kTextPiece) {
+    check(SQLSetStmtAttrW(statement_.get(), SQL_ATTR_QUERY_TIMEOUT, asPointer(timeout), 0), statement_,
+          "SQLSetStmtAttr");
+    qCDebug(odbcLog).noquote() << QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
     std::u16string wide = toUtf16(text);
     executed_ = SQLExecDirectW(statement_.get(), reinterpret_cast<SQLWCHAR*>(wide.data()),
                                static_cast<SQLINTEGER>(wide.size()));

@@ -3,6 +3,7 @@
 #include "ado/Driver.h"
 #include "ado/drivers/odbc/OdbcHandles.h"
 
+#include <memory>
 #include <string>
 #include <vector>
 
@@ -11,7 +12,8 @@ namespace ado::odbc {
 /// The results of one text on a statement of its own, fetched row by row without a cursor of the driver's.
 class OdbcResult : public DriverResult {
 public:
-    OdbcResult(SQLHANDLE connection, std::string_view text);
+    /// `timeout`: seconds until a server that doesn't answer is given up.
+    OdbcResult(std::shared_ptr<const Handle> connection, std::string_view text, int timeout);
 
     bool nextResult() override;
     bool hasRows() const override { return !fields_.empty(); }
@@ -37,8 +39,9 @@ private:
     void read(SQLUSMALLINT number);
     void readText(SQLUSMALLINT number, Cell& cell);
 
+    std::shared_ptr<const Handle> connection_; // outlives the statement
     Handle statement_;
-    SQLRETURN executed_;
+    SQLRETURN executed_ = SQL_ERROR;
     bool started_ = false;
     std::vector<FieldDescription> fields_;
     std::vector<Cell> cells_;

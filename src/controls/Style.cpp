@@ -1,9 +1,9 @@
 #include "controls/Style.h"
 
+#include "controls/RoomyStyle.h"
+
 #include <QApplication>
 #include <QPalette>
-#include <QProxyStyle>
-#include <QStyleFactory>
 
 namespace controls::style {
 
@@ -40,44 +40,10 @@ QPalette palette(const Colours& colours) {
         palette.setColor(role, QColor(colour));
     for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText})
         palette.setColor(QPalette::Disabled, role, QColor(colours.disabled));
+    for (const auto role : {QPalette::Base, QPalette::Button})
+        palette.setColor(QPalette::Disabled, role, QColor(colours.window));
     return palette;
 }
-
-constexpr int kMargin = 12;
-constexpr int kSpacing = 12;
-
-/// More room than the style below gives, the same for every field and button.
-class RoomyStyle : public QProxyStyle {
-public:
-    RoomyStyle() : QProxyStyle(QStyleFactory::create(QStringLiteral("Fusion"))) {}
-
-    int pixelMetric(PixelMetric metric, const QStyleOption* option, const QWidget* widget) const override {
-        switch (metric) {
-        case PM_LayoutLeftMargin:
-        case PM_LayoutRightMargin:
-        case PM_LayoutTopMargin:
-        case PM_LayoutBottomMargin:
-            return kMargin;
-        case PM_LayoutHorizontalSpacing:
-        case PM_LayoutVerticalSpacing:
-            return kSpacing;
-        default:
-            return QProxyStyle::pixelMetric(metric, option, widget);
-        }
-    }
-
-    QSize sizeFromContents(ContentsType type, const QStyleOption* option, const QSize& contents,
-                           const QWidget* widget) const override {
-        constexpr int kControlHeight = 32;
-        constexpr int kButtonPadding = 20;
-        QSize size = QProxyStyle::sizeFromContents(type, option, contents, widget);
-        if (type == CT_LineEdit || type == CT_ComboBox || type == CT_PushButton)
-            size.setHeight(std::max(size.height(), kControlHeight));
-        if (type == CT_PushButton)
-            size.rwidth() += kButtonPadding;
-        return size;
-    }
-};
 
 const char* const kSheet = R"(
 *[role="header"] { background-color: #1b4f72; border: none; }
@@ -86,7 +52,7 @@ const char* const kSheet = R"(
 *[role="header"] QLabel[role="subtitle"] { color: #ffffff; font-size: 11pt; }
 *[role="heading"] { font-size: 17pt; font-weight: 600; }
 *[role="section"] { font-size: 11pt; font-weight: 600; }
-*[role="muted"] { color: palette(placeholder-text); }
+*[role="muted"] { color: %1; }
 *[role="panel"] { background-color: palette(base); border: 1px solid palette(mid); border-radius: 6px; }
 )";
 
@@ -98,8 +64,9 @@ void install(QApplication& application, Scheme scheme) {
         scheme == Scheme::Dark ||
         (scheme == Scheme::System && application.palette().color(QPalette::Window).lightness() < kMiddleLightness);
     QApplication::setStyle(new RoomyStyle);
-    QApplication::setPalette(palette(dark ? kDark : kLight));
-    application.setStyleSheet(QString::fromLatin1(kSheet));
+    const Colours& colours = dark ? kDark : kLight;
+    QApplication::setPalette(palette(colours));
+    application.setStyleSheet(QString::fromLatin1(kSheet).arg(QLatin1String(colours.muted)));
 }
 
 } // namespace controls::style

@@ -1,0 +1,137 @@
+#include "controls/RoomyStyle.h"
+
+#include <QPainter>
+#include <QStyleFactory>
+#include <QStyleOption>
+#include <QWidget>
+
+namespace controls {
+
+namespace {
+
+constexpr int kSpacing = 12;
+constexpr int kControlHeight = 32;
+constexpr int kRowHeight = 26;
+constexpr int kButtonPadding = 20;
+constexpr int kTextPadding = 6;
+constexpr int kArrowWidth = 28;
+constexpr double kCorner = 4;
+
+bool has(const QStyleOption& option, QStyle::StateFlag state) {
+    return option.state.testFlag(state);
+}
+
+void drawFrame(QPainter& painter, const QStyleOption& option, const QColor& fill, bool marked) {
+    const QPalette::ColorRole border = marked ? QPalette::Highlight : QPalette::Mid;
+    painter.save();
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(QPen(option.palette.color(border), marked ? 2 : 1));
+    painter.setBrush(fill);
+    const double inset = marked ? 1 : 0.5;
+    painter.drawRoundedRect(QRectF(option.rect).adjusted(inset, inset, -inset, -inset), kCorner, kCorner);
+    painter.restore();
+}
+
+QColor buttonFill(const QStyleOption& option) {
+    constexpr int kHover = 104;
+    constexpr int kPressed = 112;
+    const QColor plain = option.palette.color(QPalette::Button);
+    if (has(option, QStyle::State_Sunken) || has(option, QStyle::State_On))
+        return plain.darker(kPressed);
+    return has(option, QStyle::State_MouseOver) && has(option, QStyle::State_Enabled) ? plain.darker(kHover) : plain;
+}
+
+/// The arrow of a list, pointing down in the middle of its place.
+void drawArrow(QPainter& painter, const QStyleOption& option, const QRect& place) {
+    constexpr double kHalfWidth = 4.5;
+    constexpr double kHalfHeight = 2.5;
+    const QPointF centre = QRectF(place).center();
+    painter.save();
+    painter.setRenderHint(QPainter::Antialiasing);
+    QPen pen(option.palette.color(QPalette::ButtonText), 1.6);
+    pen.setCapStyle(Qt::RoundCap);
+    painter.setPen(pen);
+    painter.drawPolyline(QPolygonF{centre + QPointF(-kHalfWidth, -kHalfHeight), centre + QPointF(0, kHalfHeight),
+                                   centre + QPointF(kHalfWidth, -kHalfHeight)});
+    painter.restore();
+}
+
+bool isFlat(const QStyleOption& option) {
+    const auto* button = qstyleoption_cast<const QStyleOptionButton*>(&option);
+    return button != nullptr && button->features.testFlag(QStyleOptionButton::Flat);
+}
+
+} // namespace
+
+RoomyStyle::RoomyStyle() : QProxyStyle(QStyleFactory::create(QStringLiteral("Fusion"))) {}
+
+int RoomyStyle::pixelMetric(PixelMetric metric, const QStyleOption* option, const QWidget* widget) const {
+    switch (metric) {
+    case PM_LayoutLeftMargin:
+    case PM_LayoutRightMargin:
+    case PM_LayoutTopMargin:
+    case PM_LayoutBottomMargin:
+    case PM_LayoutHorizontalSpacing:
+    case PM_LayoutVerticalSpacing:
+        return kSpacing;
+    default:
+        return QProxyStyle::pixelMetric(metric, option, widget);
+    }
+}
+
+QSize RoomyStyle::sizeFromContents(ContentsType type, const QStyleOption* option, const QSize& contents,
+                                   const QWidget* widget) const {
+    QSize size = QProxyStyle::sizeFromContents(type, option, contents, widget);
+    if (type == CT_LineEdit || type == CT_ComboBox || type == CT_PushButton)
+        size.setHeight(std::max(size.height(), kControlHeight));
+    if (type == CT_PushButton)
+        size.rwidth() += kButtonPadding;
+    if (type == CT_ItemViewItem)
+        size.setHeight(std::max(size.height(), kRowHeight));
+    return size;
+}
+
+QRect RoomyStyle::subElementRect(SubElement element, const QStyleOption* option, const QWidget* widget) const {
+    const QRect place = QProxyStyle::subElementRect(element, option, widget);
+    return element == SE_LineEditContents ? place.adjusted(kTextPadding, 0, -kTextPadding, 0) : place;
+}
+
+QRect RoomyStyle::subControlRect(ComplexControl control, const QStyleOptionComplex* option, SubControl part,
+                                 const QWidget* widget) const {
+    if (control == CC_ComboBox && (part == SC_ComboBoxArrow || part == SC_ComboBoxEditField)) {
+        QRect arrow = option->rect;
+        arrow.setLeft(arrow.right() - kArrowWidth);
+        const QRect field = option->rect.adjusted(2, 2, -kArrowWidth, -2);
+        return visualRect(option->direction, option->rect, part == SC_ComboBoxArrow ? arrow : field);
+    }
+    return QProxyStyle::subControlRect(control, option, part, widget);
+}
+
+void RoomyStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
+                               const QWidget* widget) const {
+    const bool focused = has(*option, State_HasFocus);
+    if (element == PE_PanelLineEdit) {
+        const auto* field = qstyleoption_cast<const QStyleOptionFrame*>(option);
+        if (field != nullptr && field->lineWidth > 0)
+            drawFrame(*painter, *option, option->palette.color(QPalette::Base), focused);
+    } else if (element == PE_PanelButtonCommand && !isFlat(*option)) {
+        drawFrame(*painter, *option, buttonFill(*option), focused);
+    } else {
+        QProxyStyle::drawPrimitive(element, option, painter, widget);
+    }
+}
+
+void RoomyStyle::drawComplexControl(ComplexControl control, const QStyleOptionComplex* option, QPainter* painter,
+                                    const QWidget* widget) const {
+    if (control != CC_ComboBox) {
+        QProxyStyle::drawComplexControl(control, option, painter, widget);
+        return;
+    }
+    const auto* combo = qstyleoption_cast<const QStyleOptionComboBox*>(option);
+    const bool editable = combo != nullptr && combo->editable;
+    const QColor fill = editable ? option->palette.color(QPalette::Base) : buttonFill(*option);
+    drawFrame(*painter, *option, fill, has(*option, State_HasFocus));
+    drawArrow(*painter, *option, proxy()->subControlRect(CC_ComboBox, option, SC_ComboBoxArrow, widget));
+}
+
+} // namespace controls

@@ -1,0 +1,25 @@
+#pragma once
+
+#include <QProxyStyle>
+
+namespace controls {
+
+/// The drawing of fields, buttons and lists: more room than the base style gives, one kind of frame for all, and all
+/// colours from the palette, so that it is right in light and dark.
+class RoomyStyle : public QProxyStyle {
+public:
+    RoomyStyle();
+
+    int pixelMetric(PixelMetric metric, const QStyleOption* option, const QWidget* widget) const override;
+    QSize sizeFromContents(ContentsType type, const QStyleOption* option, const QSize& contents,
+                           const QWidget* widget) const override;
+    QRect subElementRect(SubElement element, const QStyleOption* option, const QWidget* widget) const override;
+    QRect subControlRect(ComplexControl control, const QStyleOptionComplex* option, SubControl part,
+                         const QWidget* widget) const override;
+    void drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
+                       const QWidget* widget) const override;
+    void drawComplexControl(ComplexControl control, const QStyleOptionComplex* option, QPainter* painter,
+                            const QWidget* widget) const override;
+};
+
+} // namespace controls

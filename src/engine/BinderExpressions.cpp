@@ -60,6 +60,13 @@ std::vector<const Expression*> chainOf(const Binary& top) {
     return {chain.rbegin(), chain.rend()};
 }
 
+bound::ExpressionPtr negatedIf(bool negated, bound::ExpressionPtr condition) {
+    if (negated) {
+        return bound::prefix("NOT", std::move(condition), DataType{Kind::Bit});
+    }
+    return condition;
+}
+
 /// A tree as low as can be over a chain of conditions, so that a long one isn't a deep one.
 bound::ExpressionPtr balanced(const char* op, std::vector<bound::ExpressionPtr>& conditions, std::size_t begin,
                               std::size_t end) {
@@ -255,7 +262,7 @@ bound::ExpressionPtr Binder::node(const Like& like) {
     auto result = like.escape ? bound::call("tsql_like", DataType{Kind::Bit}, std::move(operand), std::move(pattern),
                                             asText(*like.escape))
                               : bound::call("tsql_like", DataType{Kind::Bit}, std::move(operand), std::move(pattern));
-    return like.negated ? bound::prefix("NOT", std::move(result), DataType{Kind::Bit}) : std::move(result);
+    return negatedIf(like.negated, std::move(result));
 }
 
 bound::ExpressionPtr Binder::node(const Between& between) {
@@ -263,7 +270,7 @@ bound::ExpressionPtr Binder::node(const Between& between) {
     auto from = compare(">=", expression(*between.operand), expression(*between.low));
     auto to = compare("<=", expression(*between.operand), expression(*between.high));
     auto result = bound::infix("AND", std::move(from), std::move(to), DataType{Kind::Bit});
-    return between.negated ? bound::prefix("NOT", std::move(result), DataType{Kind::Bit}) : std::move(result);
+    return negatedIf(between.negated, std::move(result));
 }
 
 bound::ExpressionPtr Binder::node(const In& in) {
@@ -295,7 +302,7 @@ bound::ExpressionPtr Binder::node(const In& in) {
         operand = collated(convertTo(std::move(operand), common, Purpose::Cast));
         result->node = bound::InList{std::move(operand), std::move(list)};
     }
-    return in.negated ? bound::prefix("NOT", std::move(result), DataType{Kind::Bit}) : std::move(result);
+    return negatedIf(in.negated, std::move(result));
 }
 
 bound::ExpressionPtr Binder::node(const Exists& exists) {

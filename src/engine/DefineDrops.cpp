@@ -44,18 +44,13 @@ void dropDatabase(ServerSession& session, const Name& name, bool ifExists) {
 void dropIndex(ServerSession& session, const Name& name, bool ifExists) {
     const std::string table = name.pieces.size() > 1 ? name.pieces[name.pieces.size() - 2] : std::string();
     const TableInfo* info = session.current().catalog().table(table);
-    const std::string wanted = translate::indexName(info == nullptr ? table : info->name, name.last());
-    sqlite::Statement there(session.current().connection(),
-                            "SELECT name FROM sqlite_schema WHERE type = 'index' AND name = ?1 COLLATE TSQL");
-    there.bind(1, std::string_view(wanted));
-    if (!there.step()) {
+    const std::string index = info == nullptr ? std::string() : storedIndex(session.current(), *info, name.last());
+    if (index.empty()) {
         if (ifExists) {
             return;
         }
         throw errors::cannotDrop("index", table + "." + name.last());
     }
-    const std::string index(there.text(0));
-    there.reset();
     for (const KeyInfo& key : info->keys) {
         if (sameText(key.name, name.last())) {
             throw Error(3723, "An explicit DROP INDEX is not allowed on index '" + table + "." + name.last() +

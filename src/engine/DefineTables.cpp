@@ -183,13 +183,9 @@ void define(ServerSession& session, const CreateIndex& create) {
     }
     Database& database = session.current();
     const std::string name = translate::indexName(table->name, create.name);
-    sqlite::Statement there(database.connection(),
-                            "SELECT 1 FROM sqlite_schema WHERE type = 'index' AND name = ?1 COLLATE TSQL");
-    there.bind(1, std::string_view(name));
-    if (there.step()) {
+    if (!storedIndex(database, *table, create.name).empty()) {
         throw errors::indexExists(table->name, create.name);
     }
-    there.reset();
     std::string text = std::string(create.unique ? "CREATE UNIQUE INDEX " : "CREATE INDEX ") + translate::quoted(name) +
                        " ON " + translate::quoted(table->name) + " (";
     bool first = true;

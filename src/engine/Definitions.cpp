@@ -2,6 +2,7 @@
 
 #include "engine/BindErrors.h"
 #include "engine/Collation.h"
+#include "engine/translate/SqlText.h"
 
 namespace engine {
 
@@ -35,6 +36,14 @@ const TableInfo* definedTable(ServerSession& session, const Name& name) {
     const bool otherSchema =
         pieces > 1 && !name.pieces[pieces - 2].empty() && !sameText(name.pieces[pieces - 2], "dbo");
     return elsewhere || otherSchema ? nullptr : session.current().catalog().table(name.last());
+}
+
+std::string storedIndex(Database& database, const TableInfo& table, const std::string& index) {
+    const std::string wanted = translate::indexName(table.name, index);
+    sqlite::Statement there(database.connection(),
+                            "SELECT name FROM sqlite_schema WHERE type = 'index' AND name = ?1 COLLATE TSQL");
+    there.bind(1, std::string_view(wanted));
+    return there.step() ? std::string(there.text(0)) : std::string();
 }
 
 } // namespace engine

@@ -44,4 +44,7 @@ void changeSchema(ServerSession& session, const TableInfo* table, const Change& 
 /// The table of this session's database that a definition is about; nullptr where there is none.
 const TableInfo* definedTable(ServerSession& session, const Name& name);
 
+/// The storage's name of an index of a table, empty where there is none.
+std::string storedIndex(Database& database, const TableInfo& table, const std::string& index);
+
 } // namespace engine

@@ -31,6 +31,18 @@ TEST_F(Definition, RefusalsHaveTheServersWords) {
          "!3701 Cannot drop the database 'manca', because it does not exist or you do not have permission."},
         {"create database prova", "!1801 Database 'prova' already exists. Choose a different database name."},
         {"use manca", "!911 Database 'manca' does not exist. Make sure that the name is entered correctly."},
+        {"drop index manca.i",
+         "!3701 Cannot drop the index 'manca.i', because it does not exist or you do not have permission."},
+        {"drop index t.i",
+         "!3701 Cannot drop the index 't.i', because it does not exist or you do not have permission."},
+        {"create table v (a int primary key, b int, constraint PK_b primary key (b))",
+         "!1779 Table 'v' already has a primary key defined on it."},
+        {"create table v (a int identity(1,1), b int identity(1,1))",
+         "!2744 Multiple identity columns specified for table 'v'. Only one identity column per table is allowed."},
+        {"truncate table manca",
+         "!4701 Cannot find the object \"manca\" because it does not exist or you do not have permissions."},
+        {"set identity_insert t on",
+         "!8106 Table 't' does not have the identity property. Cannot perform SET operation."},
         {"create index i on t (manca)", "!1911 Column name 'manca' does not exist in the target table or view."},
     };
     for (const Case& one : cases)

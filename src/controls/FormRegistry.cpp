@@ -9,8 +9,8 @@ namespace controls {
 namespace {
 
 void centre(Form& form) {
-    form.adjustSize();
     const QRect place = form.screen()->availableGeometry();
+    form.resize(form.sizeHint().boundedTo(place.size()));
     form.move(place.center() - form.rect().center());
 }
 

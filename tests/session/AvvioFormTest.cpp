@@ -126,15 +126,29 @@ TEST_F(AvvioForm, ATerminalWithoutACompanyToOpenEndsTheProcess) {
 }
 
 TEST_F(AvvioForm, WithoutAMachineNameItGoesOnWithoutACompany) {
+    struct Heard : platform::Dialogs {
+        explicit Heard(std::vector<std::string>& texts) : texts(texts) {}
+        void message(const std::string& text, platform::Icon /*icon*/) override { texts.push_back(text); }
+        bool question(const std::string& /*text*/) override { return false; }
+        bool confirm(const std::string& /*text*/) override { return false; }
+        std::string input(const std::string& /*prompt*/, const std::string& /*title*/,
+                          const std::string& /*proposed*/) override {
+            return {};
+        }
+        std::string folder(const std::string& /*title*/) override { return {}; }
+        std::vector<std::string>& texts;
+    };
+    std::vector<std::string> texts;
+    platform::setDialogs(std::make_unique<Heard>(texts));
     platform::workstation().machineName.clear();
-    script.expectMessage("Carica Nome PC");
-    script.expectMessage("Caricare il nome del PC!");
-    // The console asks again when it is loaded, and then finds no list.
-    script.expectMessage("Caricare il nome del PC!");
-    script.expectMessage("Server does not exist or access denied.");
     gui.forms().show("Avvio");
     EXPECT_EQ(gui.text("Avvio", "Label1"), "DataBase :   ");
     EXPECT_EQ(gui.visibleForms(), "Avvio_Azienda");
+    ASSERT_EQ(texts.size(), 4U);
+    EXPECT_EQ(texts[0], "Carica Nome PC");
+    EXPECT_EQ(texts[1], "Caricare il nome del PC!");
+    EXPECT_EQ(texts[2], "Caricare il nome del PC!") << "the console asks again";
+    EXPECT_NE(texts[3], "") << "it has no server to read its list from, in the driver's own words";
 }
 
 TEST_F(AvvioForm, ItsBarEndsFull) {

@@ -10,6 +10,7 @@
 #include <QLibraryInfo>
 #include <QProcess>
 #include <QProcessEnvironment>
+#include <QTemporaryFile>
 #include <QTranslator>
 
 #include <array>
@@ -47,15 +48,26 @@ int walkOnce(int argc, char** argv, const Walk& walk) {
     return 0;
 }
 
+/// A screen that has room for every form at every scale; the platform's own is one of 800 by 600.
+QByteArray largeScreen() {
+    return R"({"screens": [{"name": "tour", "x": 0, "y": 0, "width": 3840, "height": 2160,
+               "logicalDpi": 96, "logicalBaseDpi": 96, "dpr": 1}]})";
+}
+
 /// The scale is fixed when a process starts: each walk is a process of its own.
 int walkAll(const QString& program, const QString& driveC, const QString& folder) {
     std::filesystem::create_directories(folder.toStdString());
+    QTemporaryFile screen;
+    if (!screen.open() || screen.write(largeScreen()) < 0 || !screen.flush()) {
+        std::fprintf(stderr, "No temporary file can be written.\n");
+        return 1;
+    }
     for (const Walk& walk : kWalks) {
         QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
         environment.insert(QStringLiteral("QT_SCALE_FACTOR"), QString::fromLatin1(walk.scale));
         environment.insert(QStringLiteral("VABO_DRIVE_C"), driveC);
-        if (!environment.contains(QStringLiteral("QT_QPA_PLATFORM")))
-            environment.insert(QStringLiteral("QT_QPA_PLATFORM"), QStringLiteral("offscreen"));
+        environment.insert(QStringLiteral("QT_QPA_PLATFORM"),
+                           QStringLiteral("offscreen:configfile=") + screen.fileName());
         QProcess process;
         process.setProcessEnvironment(environment);
         process.setProcessChannelMode(QProcess::ForwardedChannels);

@@ -1,0 +1,48 @@
+#include "support/Processes.h"
+#include "support/TestWorkstation.h"
+
+#include <QImage>
+
+#include <gtest/gtest.h>
+
+#include <filesystem>
+
+namespace {
+
+using support::HelperProcess;
+
+QImage picture(const std::filesystem::path& folder, const std::string& name) {
+    return QImage(QString::fromStdString((folder / (name + ".png")).string()));
+}
+
+TEST(Tour, LeavesAPictureOfEveryFormInThreeKinds) {
+    const support::TestWorkstation workstation;
+    const support::TemporaryFolder folder;
+    HelperProcess tour("vabo-tour", {workstation.driveC().root().string(), folder.path().string()});
+    ASSERT_EQ(tour.finish(), 0);
+    for (const char* name : {"01-avvio", "02-login", "03-login-password", "04-messaggio", "05-console",
+                             "06-console-elenco", "07-collegamenti"}) {
+        const QImage plain = picture(folder.path(), name);
+        ASSERT_FALSE(plain.isNull()) << name;
+        const QImage large = picture(folder.path(), std::string(name) + "-200");
+        EXPECT_GE(large.height(), 2 * plain.height() - 2) << name;
+        const QImage dark = picture(folder.path(), std::string(name) + "-scuro");
+        EXPECT_EQ(dark.size(), plain.size()) << name;
+        EXPECT_NE(dark, plain) << name;
+    }
+}
+
+TEST(Tour, FailsWhereAFormCanNotBeShown) {
+    const support::TestWorkstation workstation;
+    workstation.run(support::kCompany, "delete from AbilitazioneAccessi");
+    const support::TemporaryFolder folder;
+    HelperProcess tour("vabo-tour", {workstation.driveC().root().string(), folder.path().string()});
+    EXPECT_NE(tour.finish(), 0) << "without users there is no login to be seen";
+}
+
+TEST(Tour, SaysHowItIsUsed) {
+    HelperProcess tour("vabo-tour");
+    EXPECT_EQ(tour.finish(), 2);
+}
+
+} // namespace

@@ -20,6 +20,7 @@ void DataGrid::Column::setLocked(bool locked) {
 
 void DataGrid::Column::setVisible(bool visible) {
     grid_->setColumnHidden(index_, !visible);
+    grid_->leaveHiddenColumn();
 }
 
 void DataGrid::Column::setWidth(int twips) {
@@ -112,12 +113,23 @@ void DataGrid::followRecordset() {
         return;
     }
     const int row = static_cast<int>(position) - 1;
-    if (currentIndex().row() == row)
-        return;
+    if (currentIndex().row() != row)
+        setCurrentIndex(model_->index(row, visibleColumn()));
+}
+
+int DataGrid::visibleColumn() const {
     int column = std::max(0, currentIndex().column());
-    while (column < ColumnCount() - 1 && isColumnHidden(column))
+    while (column < model_->columnCount() - 1 && isColumnHidden(column))
         ++column;
-    setCurrentIndex(model_->index(row, column));
+    return column;
+}
+
+// From a column that isn't seen the arrows lead nowhere.
+void DataGrid::leaveHiddenColumn() {
+    const QScopedValueRollback following(following_, true);
+    const QModelIndex current = currentIndex();
+    if (current.isValid() && isColumnHidden(current.column()))
+        setCurrentIndex(model_->index(current.row(), visibleColumn()));
 }
 
 void DataGrid::currentChanged(const QModelIndex& current, const QModelIndex& previous) {
@@ -135,6 +147,12 @@ void DataGrid::keyPressEvent(QKeyEvent* event) {
         emit DblClick();
     else
         QTableView::keyPressEvent(event);
+}
+
+void DataGrid::mouseDoubleClickEvent(QMouseEvent* event) {
+    QTableView::mouseDoubleClickEvent(event);
+    if (model_->rowCount() == 0)
+        emit DblClick();
 }
 
 void DataGrid::focusInEvent(QFocusEvent* event) {

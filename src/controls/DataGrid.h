@@ -43,15 +43,18 @@ public:
     Column Columns(int index);
 
 signals:
-    void DblClick(); ///< or Enter, on a row
+    void DblClick(); ///< or Enter, on a row; a double click on a grid without rows as well
 
 protected:
     void keyPressEvent(QKeyEvent* event) override;
+    void mouseDoubleClickEvent(QMouseEvent* event) override;
     void currentChanged(const QModelIndex& current, const QModelIndex& previous) override;
     void focusInEvent(QFocusEvent* event) override;
 
 private:
     void followRecordset();
+    int visibleColumn() const;
+    void leaveHiddenColumn();
     void showAllColumns();
 
     RecordsetModel* model_;

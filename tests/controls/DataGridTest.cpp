@@ -135,6 +135,23 @@ TEST_F(DataGrid, EnterAndADoubleClickAreOne) {
     EXPECT_EQ(chosen, 3);
 }
 
+TEST_F(DataGrid, TheArrowsLeadOnFromAColumnThatIsHidden) {
+    grid.Columns(0).setVisible(false);
+    QTest::keyClick(&grid, Qt::Key_Down);
+    EXPECT_EQ(position(), 2);
+}
+
+TEST_F(DataGrid, ADoubleClickOnAGridWithoutRowsIsToldAndOneBesideTheRowsIsNot) {
+    int chosen = 0;
+    QObject::connect(&grid, &controls::DataGrid::DblClick, [&] { ++chosen; });
+    const QPoint below(10, grid.viewport()->height() - 5);
+    QTest::mouseDClick(grid.viewport(), Qt::LeftButton, {}, below);
+    EXPECT_EQ(chosen, 0);
+    source.Recordset().setFilter("id = 99");
+    QTest::mouseDClick(grid.viewport(), Qt::LeftButton, {}, below);
+    EXPECT_EQ(chosen, 1);
+}
+
 TEST_F(DataGrid, EnterWithoutARowIsNothing) {
     source.Recordset().setFilter("id = 99");
     int chosen = 0;

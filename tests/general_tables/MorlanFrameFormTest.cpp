@@ -1,0 +1,277 @@
+#include "MorlanFixture.h"
+#include "controls/RecordedForm.h"
+#include "general_tables/Avvio_Morlan.h"
+#include "general_tables/TabelleConti.h"
+#include "platform/Automation.h"
+
+#include <QComboBox>
+#include <QGroupBox>
+
+namespace vabo {
+namespace {
+
+class MorlanFrame : public MorlanForm {
+protected:
+    /// A form of that name that pops the stack when it goes, as every tracked form does.
+    void costruisci(const char* nome) {
+        gui.forms().add(nome, [this, nome] {
+            return std::make_unique<RecordedForm>(nome, eventi,
+                                                  FormEvents{.unload = [](RecordedForm& /*form*/) { ChiudiForm(); }});
+        });
+    }
+    void premi(const char* bottone, int numero) {
+        scheda(numero);
+        gui.click("Avvio_Morlan", bottone);
+    }
+
+    std::vector<std::string> eventi;
+};
+
+struct Comando {
+    const char* bottone;
+    int scheda;
+    const char* form;
+    const char* didascalia;
+};
+constexpr Comando kComandi[] = {
+    {"Command1", 4, "I_Iva_sezionali", "Sezionali Iva"},
+    {"Command2", 3, "caricasedecentrale", "Carica Sede Centrale"},
+    {"Command3", 3, "IndirizzoVaboSuServer", "Carica Indirizzo Server"},
+    {"Command4", 3, "Scegli_progetto_4", "Modifica Data Definitiva Progetto"},
+    {"Command5", 5, "TabelleBustePaga", "Tabelle Buste Paga"},
+    {"Command6", 3, "Scegli_sede_Pd", "Modifica Data Definitiva Sede"},
+};
+
+TEST_F(MorlanFrame, SixTabsUnderTheTitle) {
+    apri();
+    auto& schede = controllo<QTabWidget>("SSTab1");
+    const char* const didascalie[] = {"Piano dei Conti",
+                                      "Tabella generale conti",
+                                      "Altri conti",
+                                      "Impostazioni Generali e Dati Generali",
+                                      "Tabella Gestione Iva e Fatturazione",
+                                      "Personale"};
+    ASSERT_EQ(schede.count(), 6);
+    for (int i = 0; i < schede.count(); ++i)
+        EXPECT_EQ(schede.tabText(i), didascalie[i]);
+    EXPECT_EQ(testo("Label21"), "Morlan");
+    EXPECT_EQ(testo("Command39"), "Tabelle Morlan");
+    EXPECT_EQ(controllo<QComboBox>("Combo8").currentText().toStdString(), support::kCompany);
+}
+
+TEST_F(MorlanFrame, EveryCaptionIsAsItsUsersKnowIt) {
+    apri();
+    const std::pair<const char*, const char*> gruppi[] = {
+        {"Frame1", "Gestione Piano dei Conti"},
+        {"Frame15", "Gestione Caselle Budget Items"},
+        {"Frame5", "Tabella Generale Conti per le registrazioni di Fatture"},
+    };
+    for (const auto& [nome, titolo] : gruppi)
+        EXPECT_EQ(controllo<QGroupBox>(nome).title(), titolo);
+    // box, its caption, the title of the group around it
+    const char* const caselle[][3] = {
+        {"Check1", "Gestisci Note Di Debito", "Gestione Note di Debito"},
+        {"Check2", "Usa Mastro Conto S/conto", "Gestione Caselle Budget Items"},
+        {"Check3", "Inserimento Automatico da Prima Nota", "Gestione Scadenziari"},
+        {"Check4", "Gestisci Previsionale", "Gestione Previsionale"},
+        {"Check5", "Riaprire gli Oneri dei progetti a fine Es.", "Gestione Chiusure e Riaperture"},
+        {"Check6", "Usa Sede Amministrativa in Contabilità", "Gestione Sede Amministrativa"},
+        {"Check13", "Usa C/Transitorio Economico", "Gestione Conto Transitorio"},
+        {"Check7", "Aggiornamento Automatico B.Items ONG", "Gestione Caselle Budget Items"},
+        {"Check9", "Esporta solo registrazioni di loco", "Gestione Sincronismo"},
+        {"Check10", "Usa InforEuro", "Tassi di Cambio ONG"},
+        {"Check11", "Usa Banca d'Italia", "Tassi di Cambio ONG"},
+        {"Check12", "Richiedi Badge in contabilità", "Gestione Badge"},
+    };
+    for (const auto& [nome, didascalia, titolo] : caselle) {
+        EXPECT_EQ(testo(nome), didascalia);
+        const auto* gruppo = dynamic_cast<QGroupBox*>(controllo<controls::CheckBox>(nome).parentWidget());
+        ASSERT_NE(gruppo, nullptr) << nome;
+        EXPECT_EQ(gruppo->title(), titolo);
+    }
+    EXPECT_EQ(testo("Command31"), "Definizione del Piano dei Conti utilizzato");
+    for (const Comando& comando : kComandi)
+        EXPECT_EQ(testo(comando.bottone), comando.didascalia);
+}
+
+TEST_F(MorlanFrame, EveryPickerHasItsLabel) {
+    apri();
+    const std::pair<const char*, const char*> etichette[] = {{"DCBItem1", "Budget Item"},
+                                                             {"DCBitem2", "Budget Item"},
+                                                             {"DCBItems3", "Budget Item"},
+                                                             {"DCBitems4", "Budget Item"},
+                                                             {"DCBitem5", "Trattamento Iva Standard"},
+                                                             {"Descrizione", "Descrizione"},
+                                                             {"tipoanagrafe", "Tipo conto"}};
+    for (const auto& [nome, didascalia] : etichette)
+        EXPECT_EQ(gui.find("Avvio_Morlan", nome).accessibleName(), didascalia) << nome;
+    for (const char* nome : {"DCBItem1", "DCBitem2", "DCBItems3", "DCBitems4"})
+        EXPECT_EQ(combo(nome).Text(), "Seleziona");
+}
+
+TEST_F(MorlanFrame, TheEditFramesShowOnlyWhileARowIsChanged) {
+    apri();
+    EXPECT_FALSE(visibile("Frame6"));
+    EXPECT_FALSE(visibile("Frame2"));
+    EXPECT_FALSE(gui.find("Avvio_Morlan", "Command14").isEnabled());
+}
+
+TEST_F(MorlanFrame, TheListsAndGridsAreReadOnceInTheirOrder) {
+    const support::StatementRecorder recorder;
+    apri();
+    const std::vector<std::string> testi = {ElencoContiUtili(),   ElencoAltriConti(),    ElencoContiPersonale(),
+                                            ElencoContiFatture(), TestoContiPersonale(), TestoAltriConti(0),
+                                            TestoContiUtili(),    TestoContiIva()};
+    EXPECT_TRUE(recorder.sentInOrder(testi));
+    for (const std::string& testo : testi)
+        EXPECT_EQ(recorder.count(testo), 1) << testo;
+}
+
+TEST_F(MorlanFrame, TheOptionsAreReadInTheirOrder) {
+    const support::StatementRecorder recorder;
+    apri();
+    EXPECT_TRUE(recorder.sentInOrder(
+        {"select * from TabellaUilityConti where id = 8", "select * from TabellaUilityConti where id = 9",
+         "select * from datiGenerali where descrizione ='Sede Amministrativa'",
+         "select * from TabellaUilityConti where id = 7", "select * from TabellaUilityConti where id = 5",
+         "select * from datiGenerali where id = 6", "select * from datiGenerali where id = 7",
+         "select * from datiGenerali where id = 8", "select * from datiGenerali where id = 9",
+         "select * from datiGenerali where id = 10", "select * from datiGenerali where id = 15"}));
+}
+
+TEST_F(MorlanFrame, AListThatCannotBeReadIsToldAndLeavesTheSwitchesUnread) {
+    esegui("drop table tipoanagrafica");
+    script.expectMessage("Invalid object name 'tipoanagrafica'.");
+    const support::StatementRecorder recorder;
+    apri();
+    EXPECT_TRUE(gui.isVisible("Avvio_Morlan"));
+    EXPECT_EQ(spuntate(), "Check10") << "only what stands ahead of the lists";
+    EXPECT_EQ(righe("DataGrid2"), 0);
+    EXPECT_TRUE(recorder.holding("datiGenerali").empty());
+}
+
+TEST_F(MorlanFrame, AfterTheFirstTwoListsFailuresAreSilent) {
+    esegui("drop table TabellaContiUtiliTransfersHq");
+    esegui("drop table IvaTrattamento");
+    apri();
+    EXPECT_EQ(combo("DCBitems4").count(), 0) << "its list leaves out what stands in the table";
+    EXPECT_EQ(combo("DCBitem5").count(), 0);
+    EXPECT_GT(combo("DCBItems3").count(), 0);
+    EXPECT_EQ(righe("DataGrid11"), 10);
+    EXPECT_EQ(testo("Aliquota"), "20,00");
+}
+
+TEST_F(MorlanFrame, EachCommandOpensItsFormAndTheConsoleComesBack) {
+    for (const Comando& comando : kComandi)
+        costruisci(comando.form);
+    apri();
+    for (const Comando& comando : kComandi) {
+        SCOPED_TRACE(comando.bottone);
+        premi(comando.bottone, comando.scheda);
+        EXPECT_EQ(gui.visibleForms(), comando.form);
+        EXPECT_EQ(PilaForm, (std::vector<std::string>{"Avvio_Azienda", "Avvio_Morlan", comando.form}));
+        EXPECT_EQ(QGuiApplication::overrideCursor(), nullptr);
+        const support::StatementRecorder recorder;
+        gui.form(comando.form).close();
+        support::Gui::handleEvents();
+        EXPECT_EQ(gui.visibleForms(), "Avvio_Morlan");
+        EXPECT_TRUE(recorder.texts().empty()) << "it hid, it wasn't unloaded";
+    }
+}
+
+/// A program that has no form but the console.
+class MorlanAlone : public AziendaAperta {
+protected:
+    MorlanAlone() {
+        gui.forms().add("Avvio_Morlan", [] { return std::make_unique<Avvio_Morlan>(); });
+        PilaForm = {"Avvio_Azienda", "Avvio_Morlan"};
+        CimaForm = 1;
+    }
+    support::DialogScript script;
+    support::Gui gui;
+};
+
+TEST_F(MorlanAlone, AFormThatIsNotThereLeavesTheConsoleInPlace) {
+    gui.forms().show("Avvio_Morlan");
+    for (const Comando& comando : kComandi) {
+        SCOPED_TRACE(comando.bottone);
+        gui.find<QTabWidget>("Avvio_Morlan", "SSTab1").setCurrentIndex(comando.scheda);
+        gui.click("Avvio_Morlan", comando.bottone);
+        EXPECT_EQ(gui.visibleForms(), "Avvio_Morlan");
+        EXPECT_EQ(PilaForm, (std::vector<std::string>{"Avvio_Azienda", "Avvio_Morlan"}));
+        EXPECT_EQ(QGuiApplication::overrideCursor(), nullptr);
+    }
+}
+
+TEST_F(MorlanFrame, ClosingGivesTheCompanyConsoleBack) {
+    apri();
+    gui.click("Avvio_Morlan", "Command13");
+    EXPECT_EQ(gui.visibleForms(), "Avvio_Azienda");
+    EXPECT_FALSE(gui.forms().isLoaded("Avvio_Morlan"));
+    EXPECT_EQ(CimaForm, 0);
+}
+
+class Stampante : public platform::Automation {
+public:
+    explicit Stampante(std::vector<std::string>& chiamate) : chiamate_(chiamate) {}
+    std::unique_ptr<platform::ReportApplication> createObject(const std::string& /*progId*/) override {
+        return std::make_unique<Programma>(chiamate_);
+    }
+
+private:
+    class Programma : public platform::ReportApplication {
+    public:
+        explicit Programma(std::vector<std::string>& chiamate) : chiamate_(chiamate) {}
+        void OpenCurrentDatabase(const std::string& path) override { chiamate_.push_back(path); }
+        void OpenReport(const std::string& report, int view) override {
+            chiamate_.push_back(report + " " + std::to_string(view));
+        }
+        void Maximize() override {}
+        void ShowActiveReport() override {}
+        void ShowApplication() override {}
+        void Close() override {}
+
+    private:
+        std::vector<std::string>& chiamate_;
+    };
+    std::vector<std::string>& chiamate_;
+};
+
+TEST_F(MorlanFrame, TheReportIsShownInPrintPreview) {
+    std::vector<std::string> chiamate;
+    platform::setAutomation(std::make_unique<Stampante>(chiamate));
+    PercorsoFileLocale = "C:\\Vabo\\Files\\aurora.mdb";
+    apri();
+    gui.click("Avvio_Morlan", "Command39");
+    platform::setAutomation(nullptr);
+    EXPECT_EQ(chiamate, (std::vector<std::string>{"C:\\Vabo\\Files\\aurora.mdb", "AccessoMorlan 2"}));
+}
+
+struct Layout {
+    const char* griglia;
+    std::vector<std::pair<std::string, int>> colonne; ///< caption and width in pixels of those that are seen
+};
+
+TEST_F(MorlanFrame, TheGridsShowTheirColumnsAndTakeNoText) {
+    apri();
+    const Layout layouts[] = {
+        {"DataGrid2", {{"Descrizione", 266}, {"Conto", 200}, {"Progetto", 46}, {"Piano dei conti", 266}}},
+        {"DataGrid4", {{"TipoAnagrafe", 266}, {"NomeConto", 266}, {"dettagli", 266}}},
+        {"DataGrid11", {{"Descrizione", 66}, {"Conto", 153}, {"Progetto", 53}, {"M.C.S/C", 153}}},
+        {"DataGridPersonale", {{"Descrizione", 233}, {"Conto", 300}, {"dettagli", 300}}},
+    };
+    for (const auto& [nome, colonne] : layouts) {
+        SCOPED_TRACE(nome);
+        std::vector<std::pair<std::string, int>> viste;
+        for (int i = 0; i < griglia(nome).ColumnCount(); ++i) {
+            const auto colonna = griglia(nome).Columns(i);
+            EXPECT_TRUE(colonna.Locked()) << i;
+            if (colonna.Visible())
+                viste.emplace_back(colonna.Caption(), griglia(nome).columnWidth(i));
+        }
+        EXPECT_EQ(viste, colonne);
+    }
+}
+
+} // namespace
+} // namespace vabo

@@ -19,6 +19,22 @@ namespace {
 /// Errors that end the open transaction together with the batch.
 constexpr std::array kConversionErrors = {241, 242, 245, 248, 8114, 8115, 517, 537};
 
+bool writes(const Statement& statement) {
+    const auto& node = statement.node;
+    return std::holds_alternative<Insert>(node) || std::holds_alternative<Update>(node) ||
+           std::holds_alternative<Delete>(node) || std::holds_alternative<Truncate>(node) ||
+           std::holds_alternative<CreateTable>(node) || std::holds_alternative<AlterTable>(node) ||
+           std::holds_alternative<CreateIndex>(node) || std::holds_alternative<Drop>(node);
+}
+
+/// UPDLOCK behind the one table of a SELECT: its rows are the transaction's alone until it ends.
+bool asksForHold(const Select& select) {
+    const auto& from = select.cores.front().from;
+    const auto* table = from.size() == 1 ? std::get_if<NamedTable>(&from.front()->node) : nullptr;
+    return table != nullptr && std::any_of(table->hints.begin(), table->hints.end(),
+                                           [](const std::string& hint) { return sameText(hint, "UPDLOCK"); });
+}
+
 } // namespace
 
 BatchRun::BatchRun(ServerSession& session, PlanPtr plan, Shape shape)
@@ -87,7 +103,7 @@ bool BatchRun::runNext() {
     }
     if (ready_) {
         const PlanPtr plan = std::exchange(ready_, nullptr);
-        session_->prepareFor(session_->current());
+        session_->prepareFor(session_->current(), plan->kind != Plan::Kind::Select);
         show(runPlanned(plan, {&shape_->literals, session_->dayFirst}));
         return true;
     }
@@ -103,7 +119,7 @@ bool BatchRun::runNext() {
         return runNext();
     }
     session_->current().refresh();
-    session_->prepareFor(session_->current());
+    session_->prepareFor(session_->current(), writes(statement));
     if (const auto* branch = std::get_if<If>(&statement.node)) {
         const StatementPtr& taken = holds(*branch->condition) ? branch->then : branch->otherwise;
         if (taken) {
@@ -152,8 +168,13 @@ Outcome BatchRun::run(const Statement& statement) {
 }
 
 Outcome BatchRun::runPlannedOf(const Statement& statement) {
+    const auto* select = std::get_if<Select>(&statement.node);
+    const bool holding = select != nullptr && asksForHold(*select);
+    if (holding && session_->inTransaction()) {
+        session_->holdUntilTransactionEnds(*select);
+    }
     const PlanPtr plan = makePlan(*session_, statement);
-    if (shape_ && plan->reusable) {
+    if (shape_ && plan->reusable && !holding) {
         fixLiterals(*plan, *shape_);
         session_->current().cache().add(*shape_, plan);
     }
@@ -253,6 +274,7 @@ void BatchRun::failed(const Error& error) {
     }
     session_->failed(error.number());
     session_->wrote(0);
+    session_->giveUpFirstWrite();
     if (error.reach() == Error::Reach::Statement) {
         return;
     }

@@ -64,14 +64,22 @@ const bound::Table& heldTable(const bound::Select& select) {
 std::unique_ptr<RowHold> ServerSession::hold(std::string_view select) {
     stopBatch();
     current_->refresh();
-    prepareFor(*current_);
+    prepareFor(*current_, false);
     const BatchTree tree = parse(select);
     if (tree.statements.size() != 1 || !std::holds_alternative<Select>(tree.statements.front()->node)) {
         throw readOnlyCursor();
     }
+    return holdRows(std::get<Select>(tree.statements.front()->node));
+}
+
+void ServerSession::holdUntilTransactionEnds(const Select& select) {
+    transactionHolds_.push_back(holdRows(select));
+}
+
+std::unique_ptr<RowHold> ServerSession::holdRows(const Select& select) {
     SessionTables finder(*this);
     Binder binder(finder);
-    const auto bound = std::get<bound::Select>(binder.bind(std::get<Select>(tree.statements.front()->node)));
+    const auto bound = std::get<bound::Select>(binder.bind(select));
     const bound::Table& table = heldTable(bound);
     auto hold = std::make_unique<HeldRows>(current_, table.info->name);
     try {

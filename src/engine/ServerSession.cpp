@@ -103,9 +103,28 @@ void ServerSession::beginTransaction() {
     ++transactions_;
 }
 
-void ServerSession::prepareFor(Database& database) {
-    if (transactions_ > 0 && !database.connection().inTransaction()) {
-        database.connection().run("BEGIN");
+void ServerSession::takeBack(Database& database) {
+    database.rollback();
+    database.catalog().settleIdentities();
+    database.refresh();
+}
+
+void ServerSession::giveUpFirstWrite() {
+    if (firstWrite_ != nullptr && firstWrite_->connection().inTransaction()) {
+        takeBack(*firstWrite_);
+    }
+    firstWrite_ = nullptr;
+}
+
+void ServerSession::prepareFor(Database& database, bool writes) {
+    firstWrite_ = nullptr;
+    if (writes && transactions_ > 0 && !database.connection().inTransaction()) {
+        try {
+            database.connection().run("BEGIN IMMEDIATE");
+            firstWrite_ = &database;
+        } catch (const sqlite::Failure& failure) {
+            database.raise(failure, nullptr, "");
+        }
     }
     database.functions().dayFirst = dayFirst;
     database.functions().now.clear();
@@ -123,6 +142,7 @@ void ServerSession::commitTransaction() {
             database->commit();
         }
     }
+    transactionHolds_.clear();
 }
 
 void ServerSession::rollbackTransaction() {
@@ -131,10 +151,9 @@ void ServerSession::rollbackTransaction() {
     }
     transactions_ = 0;
     for (const auto& [key, database] : databases_) {
-        database->rollback();
-        database->catalog().settleIdentities();
-        database->refresh();
+        takeBack(*database);
     }
+    transactionHolds_.clear();
 }
 
 } // namespace engine

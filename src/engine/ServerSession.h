@@ -4,6 +4,7 @@
 
 #include "engine/Database.h"
 #include "engine/Session.h"
+#include "engine/Tree.h"
 
 #include <map>
 #include <memory>
@@ -47,8 +48,13 @@ public:
     void commitTransaction();
     void rollbackTransaction();
     bool inTransaction() const { return transactions_ > 0; }
-    /// Called before a statement runs on a database: joins it to the open transaction, gives it the statement's time.
-    void prepareFor(Database& database);
+    /// Holds the rows of a SELECT until the open transaction ends. Throws as `hold` does.
+    void holdUntilTransactionEnds(const Select& select);
+    /// Called before a statement runs on a database: gives it the statement's time, and joins a statement that writes
+    /// to the open transaction. Reads before the first write see what others have committed meanwhile.
+    void prepareFor(Database& database, bool writes);
+    /// After a statement failed: where it was the transaction's first to write, nothing is left to keep others waiting.
+    void giveUpFirstWrite();
 
     /// The one batch that runs; nullptr when it ends.
     void running(BatchRun* batch) { running_ = batch; }
@@ -57,6 +63,8 @@ public:
 private:
     Scalar fact(std::string_view name, const Scalar& argument);
     void stopBatch();
+    std::unique_ptr<RowHold> holdRows(const Select& select);
+    static void takeBack(Database& database);
 
     std::shared_ptr<Instance> instance_;
     Login login_;
@@ -68,6 +76,8 @@ private:
     std::int64_t rowCount_ = 0;
     int lastError_ = 0;
     int transactions_ = 0;
+    Database* firstWrite_ = nullptr; ///< the database that the present statement joined to the transaction
+    std::vector<std::unique_ptr<RowHold>> transactionHolds_;
 };
 
 } // namespace engine

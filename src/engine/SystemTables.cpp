@@ -101,6 +101,35 @@ Rows columns(Database& database, const Instance& /*instance*/) {
     return rows;
 }
 
+/// One row a key, or one row a column of it.
+Rows keys(Database& database, const std::function<void(Rows&, const TableInfo&, const KeyInfo&)>& add) {
+    Rows rows;
+    for (const std::string& name : database.catalog().tableNames()) {
+        const TableInfo& table = *database.catalog().table(name);
+        for (const KeyInfo& key : table.keys) {
+            add(rows, table, key);
+        }
+    }
+    return rows;
+}
+
+Rows tableConstraints(Database& database, const Instance& /*instance*/) {
+    return keys(database, [&](Rows& rows, const TableInfo& table, const KeyInfo& key) {
+        rows.push_back({database.name(), std::string("dbo"), key.name, database.name(), std::string("dbo"), table.name,
+                        std::string(key.primary ? "PRIMARY KEY" : "UNIQUE")});
+    });
+}
+
+Rows keyColumns(Database& database, const Instance& /*instance*/) {
+    return keys(database, [&](Rows& rows, const TableInfo& table, const KeyInfo& key) {
+        std::int64_t place = 0;
+        for (const std::string& column : key.columns) {
+            rows.push_back({database.name(), std::string("dbo"), key.name, database.name(), std::string("dbo"),
+                            table.name, column, ++place});
+        }
+    });
+}
+
 SystemTable make(const char* schema, const char* name, std::vector<ColumnInfo> columns,
                  std::function<Rows(Database&, const Instance&)> rows) {
     SystemTable table{schema, name, {}, std::move(rows)};
@@ -137,6 +166,18 @@ const std::vector<SystemTable>& systemTables() {
                   column("IS_NULLABLE", kShort), column("DATA_TYPE", kName), column("CHARACTER_MAXIMUM_LENGTH", kInt),
                   column("NUMERIC_PRECISION", kInt), column("NUMERIC_SCALE", kInt)},
                  columns));
+        made.push_back(
+            make("INFORMATION_SCHEMA", "TABLE_CONSTRAINTS",
+                 {column("CONSTRAINT_CATALOG", kName), column("CONSTRAINT_SCHEMA", kName),
+                  column("CONSTRAINT_NAME", kName), column("TABLE_CATALOG", kName), column("TABLE_SCHEMA", kName),
+                  column("TABLE_NAME", kName), column("CONSTRAINT_TYPE", kShort)},
+                 tableConstraints));
+        made.push_back(
+            make("INFORMATION_SCHEMA", "KEY_COLUMN_USAGE",
+                 {column("CONSTRAINT_CATALOG", kName), column("CONSTRAINT_SCHEMA", kName),
+                  column("CONSTRAINT_NAME", kName), column("TABLE_CATALOG", kName), column("TABLE_SCHEMA", kName),
+                  column("TABLE_NAME", kName), column("COLUMN_NAME", kName), column("ORDINAL_POSITION", kInt)},
+                 keyColumns));
         return made;
     }();
     return all;

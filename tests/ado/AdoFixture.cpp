@@ -2,6 +2,7 @@
 
 #include "ado/Conversions.h"
 #include "ado/Drivers.h"
+#include "ado/Peer.h"
 #include "engine/Instance.h"
 #include "support/TemporaryFolder.h"
 
@@ -39,10 +40,28 @@ private:
     std::shared_ptr<engine::Instance> instance_;
 };
 
+/// A server behind the wire, in a process of its own.
+class WireServer : public TestServer {
+public:
+    std::string connectionString() const override { return connectionString("Vabodati"); }
+    std::string connectionString(const std::string& database) const override {
+        return peer_.connectionString() + "DATABase=" + database;
+    }
+    std::vector<std::string> helperArguments() const override { return {peer_.folder().string(), connectionString()}; }
+
+private:
+    Peer peer_;
+};
+
+template<typename Server>
+std::unique_ptr<TestServer> make() {
+    return std::make_unique<Server>();
+}
+
 } // namespace
 
 std::vector<ServerUnderTest> serversUnderTest() {
-    return {{"embedded", [] { return std::unique_ptr<TestServer>(std::make_unique<EmbeddedServer>()); }}};
+    return {{"embedded", &make<EmbeddedServer>, {}}, {"wire", &make<WireServer>, kWireCapabilities}};
 }
 
 void Contract::SetUp() {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "ado/Capabilities.h"
 #include "ado/Connection.h"
 #include "ado/ExpectError.h"
 #include "ado/Recordset.h"
@@ -26,6 +27,7 @@ public:
 struct ServerUnderTest {
     const char* name;
     std::unique_ptr<TestServer> (*make)();
+    Capabilities capabilities;
 };
 
 /// All roads. A new one joins here.

@@ -81,7 +81,7 @@ TEST_F(Drivers, AnUnknownKindOfSecurityIsRefused) {
 
 TEST_F(Drivers, WithoutAHomeThereIsNoEmbeddedServer) {
     setEmbeddedHome({});
-    EXPECT_EQ(driverOf("Server=SEDE\\sqlexpress"), "unreachable");
+    EXPECT_EQ(driverOf("Server=SEDE\\sqlexpress"), "odbc");
 }
 
 } // namespace

@@ -6,17 +6,12 @@
 #include "ado/drivers/odbc/OdbcResult.h"
 #include "ado/drivers/odbc/OdbcSources.h"
 
+#include <algorithm>
 #include <charconv>
 
 namespace ado::odbc {
 
 namespace {
-
-void runToEnd(OdbcConnection& connection, std::string_view text) {
-    const auto result = connection.run(text);
-    while (result->nextResult()) {
-    }
-}
 
 /// A value that holds what the text uses itself stands in braces.
 std::string braced(const std::string& value) {
@@ -39,6 +34,26 @@ int timeoutOf(const ConnectionString& text) {
     return kTimeout;
 }
 
+/// No server answered: what each driver says to that differs, and is for whoever searches.
+bool isOutOfReach(const Error& error) {
+    static constexpr std::string_view kStates[] = {"08001", "08S01", "HYT00", "HYT01", "IM007"};
+    return std::ranges::find(kStates, error.sqlState()) != std::end(kStates);
+}
+
+void connect(const Handle& connection, std::u16string text) {
+    try {
+        check(SQLDriverConnectW(connection.get(), nullptr, reinterpret_cast<SQLWCHAR*>(text.data()),
+                                static_cast<SQLSMALLINT>(text.size()), nullptr, 0, nullptr, SQL_DRIVER_NOPROMPT),
+              connection, "SQLDriverConnect");
+    } catch (const Error& error) {
+        if (!isOutOfReach(error))
+            throw;
+        throw Error(kUnspecified, "Server does not exist or access denied.", "08001", error.nativeError(), {})
+            .in(error.description())
+            .in(error.context());
+    }
+}
+
 } // namespace
 
 std::string driverText(const ConnectionString& text, const std::string& resolvedDriver) {
@@ -54,33 +69,80 @@ std::string driverText(const ConnectionString& text, const std::string& resolved
     return out + driverSettings(resolvedDriver);
 }
 
-/// A hold is a row lock of an open transaction on this very connection, so that its own writes pass as they would in a
-/// recordset of the server's. The transaction is committed, never rolled back: what was confirmed meanwhile stays.
-class OdbcHold : public DriverHold {
+/// The connection itself, as long as anybody walks on it.
+class Road : public std::enable_shared_from_this<Road> {
 public:
-    explicit OdbcHold(std::shared_ptr<OdbcConnection> connection) : connection_(std::move(connection)) {}
-    ~OdbcHold() override { connection_->endHold(); }
-    std::unique_ptr<DriverResult> run(std::string_view text) override { return connection_->run(text); }
+    explicit Road(const ConnectionString& text) : handle_(SQL_HANDLE_DBC, environment()), timeout_(timeoutOf(text)) {
+        const std::string driver = resolveDriver(text.value("Driver").value_or(kServerDriver), registeredDrivers());
+        check(SQLSetConnectAttrW(handle_.get(), SQL_ATTR_LOGIN_TIMEOUT, asPointer(static_cast<unsigned long>(timeout_)),
+                                 0),
+              handle_, "SQLSetConnectAttr");
+        connect(handle_, toUtf16(driverText(text, driver)));
+    }
+
+    std::unique_ptr<DriverResult> run(std::string_view text) {
+        return std::make_unique<OdbcResult>(std::shared_ptr<const Handle>(shared_from_this(), &handle_), text,
+                                            timeout_);
+    }
+    void runToEnd(std::string_view text) {
+        const auto result = run(text);
+        while (result->nextResult()) {
+        }
+    }
+
+    void beginHold() {
+        if (holds_ == 0)
+            runToEnd("BEGIN TRANSACTION");
+        ++holds_;
+    }
+    /// Committed, never rolled back: what was confirmed meanwhile stays. The rows are free when the last hold ends.
+    void endHold() noexcept {
+        if (--holds_ > 0 || !alive())
+            return;
+        try {
+            runToEnd("IF @@TRANCOUNT > 0 COMMIT TRANSACTION");
+        } catch (const std::exception&) { // NOLINT(bugprone-empty-catch)
+            // The connection is gone, and the lock with it.
+        }
+    }
+
+    bool alive() const {
+        SQLINTEGER dead = SQL_CD_TRUE;
+        SQLGetConnectAttrW(handle_.get(), SQL_ATTR_CONNECTION_DEAD, &dead, 0, nullptr);
+        return dead == SQL_CD_FALSE;
+    }
 
 private:
-    std::shared_ptr<OdbcConnection> connection_;
+    Handle handle_;
+    int timeout_;
+    int holds_ = 0;
 };
 
-OdbcConnection::OdbcConnection(const ConnectionString& text)
-    : connection_(std::make_shared<const Handle>(SQL_HANDLE_DBC, environment())), timeout_(timeoutOf(text)) {
-    const std::string driver = resolveDriver(text.value("Driver").value_or(kServerDriver), registeredDrivers());
-    check(SQLSetConnectAttrW(connection_->get(), SQL_ATTR_LOGIN_TIMEOUT, asPointer(timeout_), 0), *connection_,
-          "SQLSetConnectAttr");
-    std::u16string wide = toUtf16(driverText(text, driver));
-    check(SQLDriverConnectW(connection_->get(), nullptr, reinterpret_cast<SQLWCHAR*>(wide.data()),
-                            static_cast<SQLSMALLINT>(wide.size()), nullptr, 0, nullptr, SQL_DRIVER_NOPROMPT),
-          *connection_, "SQLDriverConnect");
+namespace {
+
+/// A row lock of an open transaction.
+class OdbcHold : public DriverHold {
+public:
+    explicit OdbcHold(std::shared_ptr<Road> road) : road_(std::move(road)) { road_->beginHold(); }
+    ~OdbcHold() override { road_->endHold(); }
+    OdbcHold(const OdbcHold&) = delete;
+    OdbcHold& operator=(const OdbcHold&) = delete;
+
+    std::unique_ptr<DriverResult> run(std::string_view text) override { return road_->run(text); }
+
+private:
+    std::shared_ptr<Road> road_;
+};
+
+} // namespace
+
+OdbcConnection::OdbcConnection(const ConnectionString& text) : road_(std::make_shared<Road>(text)) {
     // A row that somebody else holds is refused at once.
-    runToEnd(*this, "SET LOCK_TIMEOUT 0");
+    road_->runToEnd("SET LOCK_TIMEOUT 0");
 }
 
 std::unique_ptr<DriverResult> OdbcConnection::run(std::string_view text) {
-    return std::make_unique<OdbcResult>(connection_, text, timeout_);
+    return road_->run(text);
 }
 
 std::string OdbcConnection::holdingHint() const {
@@ -92,26 +154,9 @@ void OdbcConnection::nameSources(const std::string& statement, std::vector<Field
 }
 
 std::unique_ptr<DriverHold> OdbcConnection::hold(std::string_view select) {
-    beginHold();
-    auto hold = std::make_unique<OdbcHold>(shared_from_this());
-    runToEnd(*this, select);
+    auto hold = std::make_unique<OdbcHold>(road_);
+    road_->runToEnd(select);
     return hold;
-}
-
-void OdbcConnection::beginHold() {
-    if (holds_ == 0)
-        runToEnd(*this, "BEGIN TRANSACTION");
-    ++holds_;
-}
-
-void OdbcConnection::endHold() noexcept {
-    if (--holds_ > 0 || !alive())
-        return;
-    try {
-        runToEnd(*this, "IF @@TRANCOUNT > 0 COMMIT TRANSACTION");
-    } catch (const std::exception&) {
-        // The connection is gone, and the lock with it.
-    }
 }
 
 std::int64_t OdbcConnection::lastIdentity() {
@@ -135,9 +180,7 @@ std::vector<std::string> OdbcConnection::primaryKey(const std::string& table) {
 }
 
 bool OdbcConnection::alive() const {
-    SQLINTEGER dead = SQL_CD_TRUE;
-    SQLGetConnectAttrW(connection_->get(), SQL_ATTR_CONNECTION_DEAD, &dead, 0, nullptr);
-    return dead == SQL_CD_FALSE;
+    return road_->alive();
 }
 
 } // namespace ado::odbc

@@ -14,8 +14,11 @@ inline constexpr int kTimeout = 15;
 /// The text that goes to the driver: its resolved name, server, database, user, password and what it needs beside.
 std::string driverText(const ConnectionString& text, const std::string& resolvedDriver);
 
-/// One connection of the data source interface. A hold on rows is a transaction on it, so there is no other.
-class OdbcConnection : public DriverConnection, public std::enable_shared_from_this<OdbcConnection> {
+class Road;
+
+/// One connection of the data source interface. A hold on rows is a transaction on this very connection, so that its
+/// own writes pass as they would in a recordset of the server's.
+class OdbcConnection : public DriverConnection {
 public:
     /// Throws Error: the registry's words, the driver's or the server's.
     explicit OdbcConnection(const ConnectionString& text);
@@ -29,13 +32,7 @@ public:
     bool alive() const override;
 
 private:
-    friend class OdbcHold;
-    void beginHold();
-    void endHold() noexcept;
-
-    std::shared_ptr<const Handle> connection_;
-    int timeout_;
-    int holds_ = 0;
+    std::shared_ptr<Road> road_; ///< kept by holds, too
 };
 
 } // namespace ado::odbc

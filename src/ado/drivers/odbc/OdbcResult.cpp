@@ -3,6 +3,7 @@
 #include <QString>
 
 #include <array>
+#include <charconv>
 #include <cstdio>
 
 namespace ado::odbc {
@@ -12,8 +13,12 @@ namespace {
 constexpr std::size_t kTextPiece = 4096;
 constexpr SQLULEN kLongestText = 4000;
 
-FieldType fieldType(SQLSMALLINT type) {
+FieldType fieldType(SQLSMALLINT type, SQLULEN size, SQLSMALLINT digits) {
     switch (type) {
+    case SQL_DECIMAL:
+    case SQL_NUMERIC:
+        // Money and smallmoney come as the decimals that they are.
+        return digits == 4 && (size == 19 || size == 10) ? FieldType::Currency : FieldType::Decimal;
     case SQL_BIT:
         return FieldType::Boolean;
     case SQL_TINYINT:
@@ -29,9 +34,6 @@ FieldType fieldType(SQLSMALLINT type) {
     case SQL_FLOAT:
     case SQL_DOUBLE:
         return FieldType::Double;
-    case SQL_DECIMAL:
-    case SQL_NUMERIC:
-        return FieldType::Decimal;
     case SQL_TYPE_DATE:
     case SQL_TYPE_TIMESTAMP:
         return FieldType::DateTime;
@@ -52,8 +54,8 @@ FieldType fieldType(SQLSMALLINT type) {
 
 OdbcResult::OdbcResult(std::shared_ptr<const Handle> connection, std::string_view text, int timeout)
     : connection_(std::move(connection)), statement_(SQL_HANDLE_STMT, connection_->get()), buffer_(kTextPiece) {
-    check(SQLSetStmtAttrW(statement_.get(), SQL_ATTR_QUERY_TIMEOUT, asPointer(timeout), 0), statement_,
-          "SQLSetStmtAttr");
+    check(SQLSetStmtAttrW(statement_.get(), SQL_ATTR_QUERY_TIMEOUT, asPointer(static_cast<unsigned long>(timeout)), 0),
+          statement_, "SQLSetStmtAttr");
     qCDebug(odbcLog).noquote() << QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
     std::u16string wide = toUtf16(text);
     executed_ = SQLExecDirectW(statement_.get(), reinterpret_cast<SQLWCHAR*>(wide.data()),
@@ -98,7 +100,7 @@ FieldDescription OdbcResult::describeField(SQLUSMALLINT number) {
 
     FieldDescription field;
     field.name = toUtf8(name.data(), static_cast<std::size_t>(length));
-    field.type = fieldType(type);
+    field.type = fieldType(type, size, digits);
     field.length = size == 0 || size > kLongestText ? -1 : static_cast<int>(size);
     field.precision = static_cast<int>(size);
     field.scale = digits;
@@ -143,6 +145,12 @@ void OdbcResult::read(SQLUSMALLINT number) {
         cell.text = written.data();
         return;
     }
+    case FieldType::Currency:
+    case FieldType::Decimal:
+        readText(number, cell);
+        cell.real = 0;
+        std::from_chars(cell.text.data(), cell.text.data() + cell.text.size(), cell.real);
+        return;
     default:
         readText(number, cell);
         return;

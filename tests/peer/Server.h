@@ -1,0 +1,27 @@
+#pragma once
+
+#include <cstdint>
+#include <filesystem>
+#include <memory>
+
+namespace peer {
+
+/// Listens on a port of 127.0.0.1 and serves each client on a thread of its own, over one instance folder.
+class Server {
+public:
+    /// `port` 0: a free one.
+    Server(std::filesystem::path instanceFolder, std::filesystem::path driveC, int port = 0);
+    ~Server();
+    Server(const Server&) = delete;
+    Server& operator=(const Server&) = delete;
+
+    std::uint16_t port() const;
+    /// Serves until the process is ended.
+    void serve();
+
+private:
+    struct State;
+    std::unique_ptr<State> state_;
+};
+
+} // namespace peer

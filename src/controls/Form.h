@@ -33,11 +33,11 @@ protected:
     virtual void Unload() {}
 
     /// The handler of one event of a control: errors end the event with a box, and an unloaded form gets none.
-    template<typename Sender, typename Signal, typename Handler>
-    void on(Sender* sender, Signal signal, Handler handler) {
-        connect(sender, signal, this, [this, handler](auto&&... values) {
+    template<typename Sender, typename Owner, typename... Values, typename Handler>
+    void on(Sender* sender, void (Owner::*signal)(Values...), Handler handler) {
+        connect(sender, signal, this, [this, handler](Values... values) {
             run([&] {
-                if constexpr (std::is_invocable_v<Handler, decltype(values)...>)
+                if constexpr (std::is_invocable_v<Handler, Values...>)
                     handler(values...);
                 else
                     handler();

@@ -10,7 +10,8 @@ namespace {
 
 void centre(Form& form) {
     const QRect place = form.screen()->availableGeometry();
-    form.resize(form.sizeHint().boundedTo(place.size()));
+    form.adjustSize(); // which stops short of a small screen's edges
+    form.resize(form.size().expandedTo(form.sizeHint()).boundedTo(place.size()));
     form.move(place.center() - form.rect().center());
 }
 

@@ -14,6 +14,7 @@ constexpr int kControlHeight = 32;
 constexpr int kRowHeight = 26;
 constexpr int kButtonPadding = 20;
 constexpr int kTextPadding = 6;
+constexpr int kCellPadding = 7;
 constexpr int kArrowWidth = 28;
 constexpr double kCorner = 4;
 
@@ -65,6 +66,10 @@ bool isFlat(const QStyleOption& option) {
 
 RoomyStyle::RoomyStyle() : QProxyStyle(QStyleFactory::create(QStringLiteral("Fusion"))) {}
 
+QStyle* RoomyStyle::create() {
+    return new RoomyStyle;
+}
+
 int RoomyStyle::pixelMetric(PixelMetric metric, const QStyleOption* option, const QWidget* widget) const {
     switch (metric) {
     case PM_LayoutLeftMargin:
@@ -74,6 +79,10 @@ int RoomyStyle::pixelMetric(PixelMetric metric, const QStyleOption* option, cons
     case PM_LayoutHorizontalSpacing:
     case PM_LayoutVerticalSpacing:
         return kSpacing;
+    case PM_HeaderMargin:
+        return kCellPadding;
+    case PM_FocusFrameHMargin:
+        return kCellPadding - 1; // one more is the base style's own
     default:
         return QProxyStyle::pixelMetric(metric, option, widget);
     }

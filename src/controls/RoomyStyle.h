@@ -9,6 +9,8 @@ namespace controls {
 class RoomyStyle : public QProxyStyle {
 public:
     RoomyStyle();
+    /// For QApplication::setStyle, which owns it from then on.
+    static QStyle* create();
 
     int pixelMetric(PixelMetric metric, const QStyleOption* option, const QWidget* widget) const override;
     QSize sizeFromContents(ContentsType type, const QStyleOption* option, const QSize& contents,

@@ -63,7 +63,7 @@ void install(QApplication& application, Scheme scheme) {
     const bool dark =
         scheme == Scheme::Dark ||
         (scheme == Scheme::System && application.palette().color(QPalette::Window).lightness() < kMiddleLightness);
-    QApplication::setStyle(new RoomyStyle);
+    QApplication::setStyle(RoomyStyle::create());
     const Colours& colours = dark ? kDark : kLight;
     QApplication::setPalette(palette(colours));
     application.setStyleSheet(QString::fromLatin1(kSheet).arg(QLatin1String(colours.muted)));

@@ -1,20 +1,25 @@
 #include "ado/Peer.h"
 
-#include "engine/Instance.h"
-#include "engine/Session.h"
-
 #include <gtest/gtest.h>
 
 #include <csignal>
+#include <sys/wait.h>
 
 namespace ado::test {
 
 Peer::Peer() {
-    const auto instance = engine::Instance::create(folder_.path() / "server",
-                                                   {[this](std::string_view path) { return folder_.path() / path; }});
+    const auto instance = engine::Instance::create(folder_.path() / "server", options());
     instance->addLogin("sa", "segreta");
     instance->createDatabase("Vabodati", "", "");
     start(0);
+}
+
+engine::InstanceOptions Peer::options() const {
+    return {[folder = folder_.path()](std::string_view path) { return folder / path; }};
+}
+
+void Peer::addLogin(const std::string& user, const std::string& password) const {
+    engine::Instance::open(folder_.path() / "server", options())->addLogin(user, password);
 }
 
 void Peer::start(int port) {
@@ -32,6 +37,8 @@ std::string Peer::connectionString() const {
 
 void Peer::freeze() const {
     ::kill(static_cast<pid_t>(process_->pid()), SIGSTOP);
+    siginfo_t stopped{};
+    ::waitid(P_PID, static_cast<id_t>(process_->pid()), &stopped, WSTOPPED | WNOWAIT);
 }
 
 void Peer::thaw() const {

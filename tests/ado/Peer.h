@@ -1,5 +1,6 @@
 #pragma once
 
+#include "engine/Instance.h"
 #include "support/Processes.h"
 #include "support/TemporaryFolder.h"
 
@@ -19,6 +20,8 @@ public:
     int port() const { return port_; }
     const std::filesystem::path& folder() const { return folder_.path(); }
 
+    void addLogin(const std::string& user, const std::string& password) const;
+
     void kill() { process_->kill(); }
     /// Holds the process still, and lets it go on.
     void freeze() const;
@@ -27,6 +30,7 @@ public:
     void restart();
 
 private:
+    engine::InstanceOptions options() const;
     void start(int port);
 
     support::TemporaryFolder folder_;

@@ -135,5 +135,16 @@ TEST_F(Definition, TheSchemaCanBeRead) {
     EXPECT_EQ(answer("delete from sysobjects").substr(0, 5), "!259 ");
 }
 
+TEST_F(Definition, KeysTellTheirTableAndColumns) {
+    run("create table due (b int not null, a int not null, c int null, constraint pk_due primary key (a, b), "
+        "constraint uq_due unique (c))");
+    EXPECT_EQ(rows("select CONSTRAINT_NAME, TABLE_NAME, CONSTRAINT_TYPE from INFORMATION_SCHEMA.TABLE_CONSTRAINTS "
+                   "where TABLE_NAME = 'DUE' order by 1"),
+              "pk_due|due|PRIMARY KEY\nuq_due|due|UNIQUE");
+    EXPECT_EQ(rows("select CONSTRAINT_NAME, COLUMN_NAME, ORDINAL_POSITION from INFORMATION_SCHEMA.KEY_COLUMN_USAGE "
+                   "where TABLE_NAME = 'due' order by CONSTRAINT_NAME, ORDINAL_POSITION"),
+              "pk_due|a|1\npk_due|b|2\nuq_due|c|1");
+}
+
 } // namespace
 } // namespace engine

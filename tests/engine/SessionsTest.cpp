@@ -44,6 +44,57 @@ TEST_F(Sessions, ARowHasOneHolder) {
     EXPECT_EQ(others("update t set a = 9 where id = 2"), kTimeout);
 }
 
+TEST_F(Sessions, AnUpdateLockHoldsRowsUntilTheTransactionEnds) {
+    for (const char* end : {"commit", "rollback"}) {
+        run("begin transaction");
+        EXPECT_EQ(rows("select a from t with (updlock, rowlock) where id = 2"), "2");
+        EXPECT_EQ(others("update t set a = 9 where id = 2"), kTimeout);
+        EXPECT_EQ(others("begin transaction"), "-");
+        EXPECT_EQ(others("select a from t with (UpdLock) where id = 2"), kTimeout);
+        EXPECT_EQ(others("commit"), "-");
+        EXPECT_EQ(others("update t set a = 1 where id = 1"), "(1)");
+        EXPECT_EQ(engine::rowsOf(*other, "select a from t where id = 2"), "2");
+        run(end);
+        EXPECT_EQ(others("update t set a = 2 where id = 2"), "(1)");
+    }
+}
+
+TEST_F(Sessions, AnUpdateLockOutsideATransactionHoldsNothing) {
+    EXPECT_EQ(rows("select a from t with (updlock) where id = 2"), "2");
+    EXPECT_EQ(others("update t set a = 9 where id = 2"), "(1)");
+    run("begin transaction");
+    EXPECT_EQ(rows("select a from t with (updlock) where id = 2"), "9") << "the same text holds now";
+    EXPECT_EQ(others("update t set a = 8 where id = 2"), kTimeout);
+}
+
+TEST_F(Sessions, AHoldEndsWithItsSession) {
+    run("begin transaction");
+    EXPECT_EQ(rows("select a from t with (updlock) where id = 2"), "2");
+    session.reset();
+    EXPECT_EQ(others("update t set a = 9 where id = 2"), "(1)");
+}
+
+TEST_F(Sessions, ATransactionReadsWhatOthersCommittedUntilItWrites) {
+    run("begin transaction");
+    EXPECT_EQ(rows("select a from t where id = 2"), "2");
+    EXPECT_EQ(others("update t set a = 9 where id = 2"), "(1)");
+    EXPECT_EQ(rows("select a from t where id = 2"), "9");
+    EXPECT_EQ(answer("update t set a = a + 1 where id = 2"), "(1)");
+    run("commit");
+    EXPECT_EQ(engine::rowsOf(*other, "select a from t where id = 2"), "10");
+}
+
+TEST_F(Sessions, ARefusedFirstWriteOfATransactionKeepsNobodyWaiting) {
+    const auto hold = other->hold("select * from t where id = 2");
+    run("begin transaction");
+    EXPECT_EQ(answer("update t set a = 9 where id = 2"), kTimeout);
+    EXPECT_EQ(others("update t set a = 9 where id = 1"), "(1)");
+    EXPECT_EQ(rows("select @@trancount"), "1");
+    EXPECT_EQ(answer("update t set a = 7 where id = 3"), "(1)");
+    run("rollback");
+    EXPECT_EQ(rows("select a from t order by id"), "9\n2\n3");
+}
+
 TEST_F(Sessions, OnlyRowsOfOneTableCanBeHeld) {
     for (const char* text : {"select count(*) from t", "select distinct a from t", "select t.a from t, t as u",
                              "update t set a = 1", "select 1"}) {

@@ -13,9 +13,9 @@ namespace ado::odbc {
 
 namespace {
 
-/// A value that holds what the text uses itself stands in braces.
+/// Braces only where the text would be read wrong without: FreeTDS knows no "}" inside of them.
 std::string braced(const std::string& value) {
-    const bool plain = value.find_first_of(";{}[]()?*=!@\"'") == std::string::npos;
+    const bool plain = value.find(';') == std::string::npos && !value.starts_with('{');
     if (plain && !value.starts_with(' ') && !value.ends_with(' '))
         return value;
     std::string out = "{";

@@ -37,9 +37,13 @@ std::string resolveDriver(const std::string& name, const std::vector<std::string
     };
     if (name != kServerDriver || known(name))
         return name;
+    // A number of more digits is the greater one.
+    const auto isNewer = [](const std::string& a, const std::string& b) {
+        return a.size() != b.size() ? a.size() > b.size() : a > b;
+    };
     std::string newest;
     for (const auto& candidate : registered) {
-        if (isVendors(candidate) && (newest.size() < candidate.size() || newest < candidate))
+        if (isVendors(candidate) && isNewer(candidate, newest))
             newest = candidate;
     }
     if (!newest.empty())

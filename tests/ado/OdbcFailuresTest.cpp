@@ -1,0 +1,156 @@
+// What a program meets when the server behind the wire isn't there, goes away or falls silent.
+
+#include "ado/Connection.h"
+#include "ado/Drivers.h"
+#include "ado/ExpectError.h"
+#include "ado/Peer.h"
+
+#include <gtest/gtest.h>
+
+#include <cstdio>
+#include <cstdlib>
+#include <memory>
+
+namespace ado {
+namespace {
+
+using test::errorOf;
+
+constexpr const char* kOutOfReach = "Server does not exist or access denied.";
+
+class OdbcFailures : public ::testing::Test {
+protected:
+    std::string text() const { return peer.connectionString() + "DATABase=Vabodati;Connect Timeout=1"; }
+
+    static void expectOutOfReach(const std::string& connectionString) {
+        Connection refused;
+        const auto error = errorOf([&] { refused.Open(connectionString); });
+        ASSERT_TRUE(error);
+        EXPECT_EQ(error->number(), kUnspecified);
+        EXPECT_EQ(error->sqlState(), "08001");
+        EXPECT_EQ(error->description(), kOutOfReach);
+        EXPECT_NE(error->context(), "") << "the driver's own words are kept";
+        EXPECT_FALSE(refused.IsOpen());
+    }
+
+    void expectWorks(Connection& connection) {
+        connection.setConnectionString(text());
+        connection.Open();
+        EXPECT_EQ(connection.Execute("update Prova set n = n where n = 1"), 1);
+    }
+
+    void fill(Connection& connection) {
+        connection.Open(text());
+        connection.Execute("create table Prova (n int not null primary key, t nvarchar(200) null)");
+        connection.Execute("insert into Prova (n) values (1)");
+    }
+
+    test::Peer peer;
+    Connection connection;
+};
+
+TEST_F(OdbcFailures, APortNobodyListensOnIsOutOfReach) {
+    fill(connection);
+    connection.Close();
+    peer.kill();
+    expectOutOfReach(text());
+    peer.restart();
+    expectWorks(connection);
+}
+
+TEST_F(OdbcFailures, AServerThatDoesNotAnswerTheLoginIsGivenUp) {
+    fill(connection);
+    connection.Close();
+    peer.freeze();
+    expectOutOfReach(text());
+    peer.thaw();
+    expectWorks(connection);
+}
+
+TEST_F(OdbcFailures, AServerThatFallsSilentGivesAnErrorAndIsReachedAgainOnceItIsBack) {
+    fill(connection);
+    peer.freeze();
+    const auto error = errorOf([&] { connection.Execute("update Prova set n = 1"); });
+    ASSERT_TRUE(error);
+    EXPECT_EQ(error->number(), kUnspecified);
+    EXPECT_NE(error->description(), "");
+    EXPECT_EQ(error->statement(), "update Prova set n = 1");
+    peer.thaw();
+    connection.Close();
+    expectWorks(connection);
+}
+
+TEST_F(OdbcFailures, AServerThatEndsBetweenTwoStatementsGivesAnError) {
+    fill(connection);
+    peer.kill();
+    for (int i = 0; i < 2; ++i) {
+        const auto error = errorOf([&] { connection.Execute("update Prova set n = 1"); });
+        ASSERT_TRUE(error);
+        EXPECT_EQ(error->number(), kUnspecified);
+    }
+    peer.restart();
+    connection.Close();
+    expectWorks(connection);
+}
+
+TEST_F(OdbcFailures, AServerThatEndsInTheMiddleOfAResultGivesAnError) {
+    fill(connection);
+    for (int n = 2; n <= 128; n *= 2) {
+        const std::string many = std::to_string(n / 2);
+        connection.Execute("insert into Prova (n, t) select n + " + many + ", replicate('x', 200) from Prova");
+    }
+    auto road = connection.road();
+    const auto result = road->run("select a.t, b.t, c.n from Prova a, Prova b, Prova c");
+    ASSERT_TRUE(result->nextResult());
+    ASSERT_TRUE(result->nextRow());
+    peer.kill();
+    const auto error = errorOf([&] {
+        while (result->nextRow()) {
+        }
+    });
+    EXPECT_TRUE(error);
+    EXPECT_FALSE(road->alive());
+    road.reset();
+    peer.restart();
+    connection.Close();
+    expectWorks(connection);
+}
+
+TEST_F(OdbcFailures, AHoldWhoseServerEndedIsGivenUpWithoutWaiting) {
+    fill(connection);
+    auto hold = connection.road()->hold("SELECT n FROM Prova WITH (UPDLOCK, ROWLOCK) WHERE n = 1");
+    peer.kill();
+    EXPECT_TRUE(errorOf([&] { hold->run("update Prova set n = 1")->nextResult(); }));
+    hold.reset();
+    peer.restart();
+    connection.Close();
+    expectWorks(connection);
+}
+
+TEST_F(OdbcFailures, NamesAndPasswordsOfAnyCharactersArriveAsTheyAre) {
+    for (const std::string password : {"a;b", "{a", "a}b", " a ", "a=b", "è'\"€", "PWD=x;UID=y"}) {
+        peer.addLogin("giulia rossi", password);
+        std::string quoted;
+        for (const char c : password)
+            quoted += c == '}' ? "}}" : std::string(1, c);
+        std::string other = peer.connectionString();
+        other.replace(other.find("UID=sa;PWD=segreta"), 18, "UID=giulia rossi;PWD={" + quoted + "}");
+        EXPECT_FALSE(errorOf([&] { Connection().Open(other); })) << password;
+    }
+}
+
+TEST(OdbcDrivers, WithoutARegisteredDriverTheRegistrySpeaks) {
+    GTEST_FLAG_SET(death_test_style, "threadsafe");
+    const auto open = [] {
+        ::setenv("ODBCSYSINI", "/nonexistent", 1);
+        ::setenv("ODBCINI", "/nonexistent/odbc.ini", 1);
+        const auto error = errorOf([] { Connection().Open("Driver=SQL Server;Server=127.0.0.1;UID=sa;PWD=x"); });
+        if (error)
+            std::fprintf(stderr, "%d %s\n", error->number(), error->description().c_str());
+        std::exit(error ? 0 : 1);
+    };
+    EXPECT_EXIT(open(), ::testing::ExitedWithCode(0), "-2147467259 .*SQL Server");
+}
+
+} // namespace
+} // namespace ado

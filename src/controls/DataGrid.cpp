@@ -6,6 +6,8 @@
 #include <QKeyEvent>
 #include <QScopedValueRollback>
 
+#include <algorithm>
+
 namespace controls {
 
 namespace {
@@ -24,9 +26,11 @@ void DataGrid::Column::setVisible(bool visible) {
 }
 
 void DataGrid::Column::setWidth(int twips) {
+    grid_->model_->column(index_).twips = twips;
     setVisible(twips > 0);
     if (twips > 0)
         grid_->setColumnWidth(index_, twips / kTwipsInAPixel);
+    grid_->shareWidth();
 }
 
 void DataGrid::Column::setCaption(const std::string& caption) {
@@ -48,7 +52,8 @@ bool DataGrid::Column::Visible() const {
 }
 
 int DataGrid::Column::Width() const {
-    return grid_->columnWidth(index_) * kTwipsInAPixel;
+    const int set = grid_->model_->column(index_).twips;
+    return set > 0 ? set : grid_->columnWidth(index_) * kTwipsInAPixel;
 }
 
 std::string DataGrid::Column::Caption() const {
@@ -153,6 +158,28 @@ void DataGrid::mouseDoubleClickEvent(QMouseEvent* event) {
     QTableView::mouseDoubleClickEvent(event);
     if (model_->rowCount() == 0)
         emit DblClick();
+}
+
+void DataGrid::fillWidth() {
+    fillsWidth_ = true;
+    shareWidth();
+}
+
+void DataGrid::shareWidth() {
+    int twips = 0;
+    for (int i = 0; i < ColumnCount(); ++i)
+        twips += isColumnHidden(i) ? 0 : model_->column(i).twips;
+    if (!fillsWidth_ || twips == 0)
+        return;
+    const double growth = std::max(1.0, viewport()->width() * kTwipsInAPixel / static_cast<double>(twips));
+    for (int i = 0; i < ColumnCount(); ++i)
+        if (model_->column(i).twips > 0)
+            setColumnWidth(i, static_cast<int>(model_->column(i).twips * growth / kTwipsInAPixel));
+}
+
+void DataGrid::resizeEvent(QResizeEvent* event) {
+    QTableView::resizeEvent(event);
+    shareWidth();
 }
 
 void DataGrid::focusInEvent(QFocusEvent* event) {

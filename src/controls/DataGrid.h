@@ -41,6 +41,8 @@ public:
     int ColumnCount() const { return model_->columnCount(); }
     /// Error 9 for a column that isn't there.
     Column Columns(int index);
+    /// Columns of a layout grow in proportion where the grid is wider than they are together.
+    void fillWidth();
 
 signals:
     void DblClick(); ///< or Enter, on a row; a double click on a grid without rows as well
@@ -50,15 +52,18 @@ protected:
     void mouseDoubleClickEvent(QMouseEvent* event) override;
     void currentChanged(const QModelIndex& current, const QModelIndex& previous) override;
     void focusInEvent(QFocusEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
 
 private:
     void followRecordset();
     int visibleColumn() const;
     void leaveHiddenColumn();
     void showAllColumns();
+    void shareWidth();
 
     RecordsetModel* model_;
     bool following_ = false;
+    bool fillsWidth_ = false;
 };
 
 } // namespace controls

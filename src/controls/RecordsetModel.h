@@ -16,6 +16,7 @@ public:
         QString caption;
         Qt::Alignment alignment = Qt::AlignLeft;
         bool locked = false;
+        int twips = 0; ///< as a layout has set it; 0 where none has
     };
 
     explicit RecordsetModel(QObject* parent);

@@ -19,6 +19,7 @@ Avvio_Morlan::Avvio_Morlan() : Form("Avvio_Morlan"), ui_(std::make_unique<Ui::Av
     CollegaCaselle();
     CollegaConti();
     CollegaTrattamento();
+    ui_->SSTab1->setFocus();
 }
 
 Avvio_Morlan::~Avvio_Morlan() = default;

@@ -94,6 +94,9 @@ void Avvio_Morlan::CollegaConti() {
     ui_->DataGrid4->setDataSource(ui_->tipo_anagrafica);
     ui_->DataGrid11->setDataSource(ui_->ContiIva);
     ui_->DataGridPersonale->setDataSource(ui_->elencoP);
+    for (controls::DataGrid* griglia : {ui_->DataGrid2, ui_->DataGrid4, ui_->DataGrid11, ui_->DataGridPersonale}) {
+        griglia->fillWidth();
+    }
     on(ui_->DataGrid2, &controls::DataGrid::DblClick, [this] { ScegliContoUtile(); });
     on(ui_->DataGrid4, &controls::DataGrid::DblClick, [this] { ScegliAltroConto(); });
     on(ui_->DataGrid11, &controls::DataGrid::DblClick, [this] { ScegliContoFattura(); });

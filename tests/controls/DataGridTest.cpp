@@ -78,6 +78,20 @@ TEST_F(DataGrid, ALayoutIsWhatTheColumnsSay) {
     EXPECT_FALSE(grid.Columns(2).Visible()) << "no width is not to be seen";
 }
 
+TEST_F(DataGrid, ColumnsThatFillTheWidthKeepTheirProportion) {
+    grid.fillWidth();
+    grid.Columns(0).setWidth(0);
+    grid.Columns(1).setWidth(1000);
+    grid.Columns(2).setWidth(3000);
+    const int width = grid.viewport()->width();
+    EXPECT_EQ(grid.columnWidth(1), width / 4);
+    EXPECT_EQ(grid.columnWidth(2), width * 3 / 4);
+    EXPECT_EQ(grid.Columns(1).Width(), 1000) << "as it was set";
+    grid.Columns(2).setWidth(30000);
+    grid.resize(300, 300);
+    EXPECT_EQ(grid.columnWidth(2), 2000) << "never narrower than set";
+}
+
 TEST_F(DataGrid, ARefreshMakesTheColumnsAnew) {
     grid.Columns(0).setVisible(false);
     grid.Columns(1).setCaption("Frutto");

@@ -249,16 +249,16 @@ TEST_F(MorlanFrame, TheReportIsShownInPrintPreview) {
 
 struct Layout {
     const char* griglia;
-    std::vector<std::pair<std::string, int>> colonne; ///< caption and width in pixels of those that are seen
+    std::vector<std::pair<std::string, int>> colonne; ///< caption and width in twips of those that are seen
 };
 
 TEST_F(MorlanFrame, TheGridsShowTheirColumnsAndTakeNoText) {
     apri();
     const Layout layouts[] = {
-        {"DataGrid2", {{"Descrizione", 266}, {"Conto", 200}, {"Progetto", 46}, {"Piano dei conti", 266}}},
-        {"DataGrid4", {{"TipoAnagrafe", 266}, {"NomeConto", 266}, {"dettagli", 266}}},
-        {"DataGrid11", {{"Descrizione", 66}, {"Conto", 153}, {"Progetto", 53}, {"M.C.S/C", 153}}},
-        {"DataGridPersonale", {{"Descrizione", 233}, {"Conto", 300}, {"dettagli", 300}}},
+        {"DataGrid2", {{"Descrizione", 4000}, {"Conto", 3000}, {"Progetto", 700}, {"Piano dei conti", 4000}}},
+        {"DataGrid4", {{"TipoAnagrafe", 4000}, {"NomeConto", 4000}, {"dettagli", 4000}}},
+        {"DataGrid11", {{"Descrizione", 1000}, {"Conto", 2300}, {"Progetto", 800}, {"M.C.S/C", 2300}}},
+        {"DataGridPersonale", {{"Descrizione", 3500}, {"Conto", 4500}, {"dettagli", 4500}}},
     };
     for (const auto& [nome, colonne] : layouts) {
         SCOPED_TRACE(nome);
@@ -267,7 +267,7 @@ TEST_F(MorlanFrame, TheGridsShowTheirColumnsAndTakeNoText) {
             const auto colonna = griglia(nome).Columns(i);
             EXPECT_TRUE(colonna.Locked()) << i;
             if (colonna.Visible())
-                viste.emplace_back(colonna.Caption(), griglia(nome).columnWidth(i));
+                viste.emplace_back(colonna.Caption(), colonna.Width());
         }
         EXPECT_EQ(viste, colonne);
     }

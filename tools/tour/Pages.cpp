@@ -5,7 +5,6 @@
 
 #include <QAbstractItemView>
 #include <QApplication>
-#include <QTimer>
 
 namespace tour {
 
@@ -38,12 +37,13 @@ void login(Tour& tour) {
 }
 
 void box(Tour& tour) {
-    QTimer::singleShot(0, qApp, [&tour] {
+    const auto takeBox = [&tour] {
         if (auto* shown = QApplication::activeModalWidget()) {
             tour.take("04-messaggio", *shown);
             shown->close();
         }
-    });
+    };
+    QMetaObject::invokeMethod(qApp, takeBox, Qt::QueuedConnection);
     platform::dialogs().message("Utente non abilitato! Contattare l'amministratore di sistema");
 }
 
@@ -65,7 +65,7 @@ void links(Tour& tour) {
 } // namespace
 
 void walk(Tour& tour) {
-    for (const auto page : {start, login, box, console, links})
+    for (const auto page : {start, login, box, console, links, generalTables})
         page(tour);
 }
 

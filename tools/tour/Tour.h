@@ -36,6 +36,9 @@ private:
     controls::FormRegistry forms_;
 };
 
+/// The tabs of the general tables console, opened from the company console.
+void generalTables(Tour& tour);
+
 /// Every form of the program, in the order in which a user meets them. A new form adds its page here.
 void walk(Tour& tour);
 

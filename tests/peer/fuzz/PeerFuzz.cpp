@@ -1,0 +1,38 @@
+// Any bytes from the network are messages, logins and calls that can be read, or garbage that is named so.
+
+#include "peer/Login.h"
+#include "peer/Packets.h"
+#include "peer/Procedures.h"
+
+#include <map>
+
+namespace {
+
+void read(const peer::Message& message) {
+    peer::ByteReader in(message.body);
+    if (message.type == peer::PacketType::Login)
+        peer::readLogin(message.body);
+    if (message.type == peer::PacketType::PreLogin)
+        peer::answerPreLogin(message.body);
+    if (message.type == peer::PacketType::Batch)
+        in.ucs2(in.left() / 2);
+    if (message.type == peer::PacketType::Rpc) {
+        std::map<std::int32_t, std::string> prepared;
+        std::int32_t last = 0;
+        peer::procedureText(peer::readProcedureCall(in), prepared, last);
+    }
+}
+
+} // namespace
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+    try {
+        peer::PacketReader reader;
+        reader.feed({data, size});
+        while (const auto message = reader.next())
+            read(*message);
+    } catch (const peer::ProtocolError&) {
+        return 0;
+    }
+    return 0;
+}

@@ -19,7 +19,8 @@ protected:
     Form() {
         gui.forms().add("A", [this] {
             auto form = std::make_unique<RecordedForm>("A", log);
-            auto* layout = new QVBoxLayout(form.get());
+            auto* layout = new QVBoxLayout;
+            form->setLayout(layout);
             auto* label = new QLabel("&Nome utente :");
             auto* field = new QLineEdit;
             auto* button = new QPushButton("&Salva");

@@ -10,7 +10,6 @@
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QTest>
-#include <QTimer>
 
 #include <gmock/gmock.h>
 
@@ -27,7 +26,7 @@ struct Seen {
 /// Runs `ask`, looks at the box that it opens and lets `answer` handle it.
 template<typename Ask>
 auto withBox(Seen& seen, const std::function<void(QDialog&)>& answer, Ask ask) {
-    QTimer::singleShot(0, qApp, [&seen, answer] {
+    const auto look = [&seen, answer] {
         auto* box = qobject_cast<QDialog*>(QApplication::activeModalWidget());
         ASSERT_NE(box, nullptr) << "no box came";
         seen.title = box->windowTitle().toStdString();
@@ -37,7 +36,8 @@ auto withBox(Seen& seen, const std::function<void(QDialog&)>& answer, Ask ask) {
             if (button->isVisible() && !button->text().isEmpty())
                 seen.buttons.push_back(button->text().toStdString());
         answer(*box);
-    });
+    };
+    QMetaObject::invokeMethod(qApp, look, Qt::QueuedConnection);
     return ask();
 }
 

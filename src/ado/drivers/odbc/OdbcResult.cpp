@@ -112,8 +112,8 @@ FieldDescription OdbcResult::describeField(SQLUSMALLINT number) {
 bool OdbcResult::nextRow() {
     if (!check(SQLFetch(statement_.get()), statement_, "SQLFetch"))
         return false;
-    for (SQLUSMALLINT number = 1; number <= fields_.size(); ++number)
-        read(number);
+    for (std::size_t number = 1; number <= fields_.size(); ++number)
+        read(static_cast<SQLUSMALLINT>(number));
     return true;
 }
 

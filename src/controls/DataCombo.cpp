@@ -1,7 +1,7 @@
 #include "controls/DataCombo.h"
 
-#include "ado/Conversions.h"
 #include "controls/FocusTracker.h"
+#include "controls/ListModel.h"
 
 #include <QApplication>
 #include <QCompleter>
@@ -11,7 +11,6 @@
 #include <QScopedValueRollback>
 #include <QScreen>
 #include <QScrollBar>
-#include <QStringListModel>
 #include <QStyleOptionComboBox>
 #include <QWheelEvent>
 
@@ -24,21 +23,9 @@ namespace {
 constexpr int kVisibleRows = 16;
 constexpr int kPopupPadding = 24;
 
-std::string shown(const ado::Value& value) {
-    return value.isNull() ? std::string() : ado::toText(value);
-}
-
-int fieldIndex(ado::Recordset& rows, const std::string& name) {
-    const QString wanted = QString::fromStdString(name);
-    for (int i = 0; i < rows.FieldCount(); ++i)
-        if (QString::fromStdString(rows[i].Name()).compare(wanted, Qt::CaseInsensitive) == 0)
-            return i;
-    throw ado::Error(ado::kItemNotFound);
-}
-
 } // namespace
 
-DataCombo::DataCombo(QWidget* parent) : QComboBox(parent), list_(new QStringListModel(this)) {
+DataCombo::DataCombo(QWidget* parent) : QComboBox(parent), list_(new ListModel(this)) {
     auto* view = new QListView(this);
     view->setUniformItemSizes(true);
     setView(view);
@@ -65,27 +52,17 @@ void DataCombo::setRowSource(DataControl* source) {
         const auto refill = [this] { source_->byUser([this] { ReFill(); }); };
         connect(source_, &DataControl::refreshed, this, refill);
         connect(source_, &DataControl::rowsChanged, this, refill);
-        connect(source_, &QObject::destroyed, this, [this] { source_ = nullptr; });
+        connect(source_, &QObject::destroyed, this, [this] {
+            source_ = nullptr;
+            ReFill();
+        });
     }
 }
 
 void DataCombo::ReFill() {
-    QStringList texts;
-    std::vector<std::string> keys;
-    if (source_ != nullptr && source_->hasRecordset() && source_->Recordset().IsOpen() && !ListField.empty()) {
-        ado::Recordset& rows = source_->Recordset();
-        const int text = fieldIndex(rows, ListField);
-        const int key = fieldIndex(rows, BoundColumn.empty() ? ListField : BoundColumn);
-        const long count = rows.RecordCount();
-        for (long row = 1; row <= count; ++row) {
-            texts.append(QString::fromStdString(shown(rows.ValueAt(row, text))));
-            keys.push_back(shown(rows.ValueAt(row, key)));
-        }
-    }
     const QString text = currentText();
     pickedRow_ = -1;
-    keys_ = std::move(keys);
-    list_->setStringList(texts);
+    list_->fill(ListField.empty() ? nullptr : source_, ListField, BoundColumn.empty() ? ListField : BoundColumn);
     setCurrentIndex(-1);
     setEditText(text);
 }
@@ -97,21 +74,19 @@ void DataCombo::setText(const std::string& text) {
 }
 
 std::string DataCombo::BoundText() const {
-    const QStringList texts = list_->stringList();
-    qsizetype row = pickedRow_;
-    if (row < 0 || row >= texts.size() || texts[row] != currentText())
-        row = texts.indexOf(currentText());
-    return row < 0 ? std::string() : keys_[static_cast<std::size_t>(row)];
+    const bool picked = pickedRow_ >= 0 && pickedRow_ < list_->rowCount() && list_->textAt(pickedRow_) == currentText();
+    const int row = picked ? pickedRow_ : list_->rowOfText(currentText());
+    return row < 0 ? std::string() : list_->keyAt(row);
 }
 
 void DataCombo::setBoundText(const std::string& key) {
-    const auto found = std::find(keys_.begin(), keys_.end(), key);
-    if (found == keys_.end()) {
+    const int row = list_->rowOfKey(key);
+    if (row < 0) {
         setText({});
         return;
     }
-    pickedRow_ = static_cast<int>(found - keys_.begin());
-    setCurrentIndex(pickedRow_);
+    pickedRow_ = row;
+    setCurrentIndex(row);
 }
 
 void DataCombo::picked(int row) {
@@ -161,12 +136,11 @@ void DataCombo::showPopup() {
     QComboBox::showPopup();
 }
 
+// As wide as the longest text by its letters: to measure thousands of texts would take too long.
 void DataCombo::widenPopup() {
-    const QFontMetrics metrics(view()->font());
-    int widest = 0;
-    for (const QString& text : list_->stringList())
-        widest = std::max(widest, metrics.horizontalAdvance(text));
-    const int wanted = widest + kPopupPadding + view()->verticalScrollBar()->sizeHint().width();
+    const int letters = static_cast<int>(list_->longest());
+    const int wanted = letters * QFontMetrics(view()->font()).averageCharWidth() + kPopupPadding +
+                       view()->verticalScrollBar()->sizeHint().width();
     view()->setMinimumWidth(std::min(wanted, screen()->availableGeometry().width() / 2));
 }
 

@@ -5,11 +5,10 @@
 #include <QComboBox>
 
 #include <string>
-#include <vector>
-
-class QStringListModel;
 
 namespace controls {
+
+class ListModel;
 
 /// A field with a list over the rows of a data control: it shows ListField and gives BoundColumn. A pick doesn't move
 /// the source's current row. Typing searches the list.
@@ -56,9 +55,8 @@ private:
     void widenPopup();
 
     DataControl* source_ = nullptr;
-    QStringListModel* list_;
-    std::vector<std::string> keys_; ///< by row of the list
-    int pickedRow_ = -1;            ///< tells rows of one text apart
+    ListModel* list_;
+    int pickedRow_ = -1; ///< tells rows of one text apart
     bool leaving_ = false;
     bool selectAtRelease_ = false;
 };

@@ -15,6 +15,7 @@ constexpr int kRowHeight = 26;
 constexpr int kButtonPadding = 20;
 constexpr int kTextPadding = 6;
 constexpr int kCellPadding = 7;
+constexpr int kIndicator = 16;
 constexpr int kArrowWidth = 28;
 constexpr double kCorner = 4;
 
@@ -57,6 +58,27 @@ void drawArrow(QPainter& painter, const QStyleOption& option, const QRect& place
     painter.restore();
 }
 
+/// A box of a check box: empty, ticked or greyed.
+void drawCheckBox(QPainter& painter, const QStyleOption& option) {
+    const bool on = has(option, QStyle::State_On);
+    const bool greyed = has(option, QStyle::State_NoChange);
+    drawFrame(painter, option, option.palette.color(QPalette::Base), has(option, QStyle::State_HasFocus));
+    if (!on && !greyed)
+        return;
+    const QRectF box(option.rect);
+    const auto at = [&](double x, double y) { return box.topLeft() + QPointF(x * box.width(), y * box.height()); };
+    painter.save();
+    painter.setRenderHint(QPainter::Antialiasing);
+    QPen pen(option.palette.color(on ? QPalette::Text : QPalette::PlaceholderText), 2);
+    pen.setCapStyle(Qt::RoundCap);
+    painter.setPen(pen);
+    if (on)
+        painter.drawPolyline(QPolygonF{at(0.25, 0.5), at(0.43, 0.7), at(0.75, 0.3)});
+    else
+        painter.drawLine(at(0.28, 0.5), at(0.72, 0.5));
+    painter.restore();
+}
+
 bool isFlat(const QStyleOption& option) {
     const auto* button = qstyleoption_cast<const QStyleOptionButton*>(&option);
     return button != nullptr && button->features.testFlag(QStyleOptionButton::Flat);
@@ -79,6 +101,9 @@ int RoomyStyle::pixelMetric(PixelMetric metric, const QStyleOption* option, cons
     case PM_LayoutHorizontalSpacing:
     case PM_LayoutVerticalSpacing:
         return kSpacing;
+    case PM_IndicatorWidth:
+    case PM_IndicatorHeight:
+        return kIndicator;
     case PM_HeaderMargin:
         return kCellPadding;
     case PM_FocusFrameHMargin:
@@ -125,6 +150,8 @@ void RoomyStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* opt
             drawFrame(*painter, *option, option->palette.color(QPalette::Base), focused);
     } else if (element == PE_PanelButtonCommand && !isFlat(*option)) {
         drawFrame(*painter, *option, buttonFill(*option), focused);
+    } else if (element == PE_IndicatorCheckBox) {
+        drawCheckBox(*painter, *option);
     } else {
         QProxyStyle::drawPrimitive(element, option, painter, widget);
     }

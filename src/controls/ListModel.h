@@ -1,0 +1,41 @@
+#pragma once
+
+#include "controls/DataControl.h"
+
+#include <QAbstractListModel>
+
+#include <string>
+
+namespace controls {
+
+/// The list of a combo: one text and one key per row of a data control, read where they are. Nothing is copied, so that
+/// a list of many thousand rows costs nothing until it is seen.
+class ListModel : public QAbstractListModel {
+    Q_OBJECT
+public:
+    explicit ListModel(QObject* parent);
+
+    /// Shows the rows that the source has now. Error 3265 for a field that isn't there. Null is an empty list.
+    void fill(DataControl* source, const std::string& textField, const std::string& keyField);
+
+    QString textAt(int row) const;
+    std::string keyAt(int row) const;
+    /// The first row of that text or key, -1 where there is none.
+    int rowOfText(const QString& text) const;
+    int rowOfKey(const std::string& key) const;
+    /// The length of the longest text, in bytes.
+    qsizetype longest() const;
+
+    int rowCount(const QModelIndex& parent = {}) const override;
+    QVariant data(const QModelIndex& index, int role) const override;
+
+private:
+    ado::Recordset* rows() const;
+    std::string read(int row, int field) const;
+
+    DataControl* source_ = nullptr;
+    int text_ = 0;
+    int key_ = 0;
+};
+
+} // namespace controls

@@ -150,7 +150,7 @@ TEST_F(CreaVaBoAzienda, AMissingFolderIsSilentAndTheRestIsMade) {
 }
 
 TEST_F(CreaVaBoAzienda, WithoutALocalServerNothingIsSentAndNothingIsSaid) {
-    workstation.putFile("C:\\vabo\\Leggi_ServerLocal.txt", "Server=lontano;\r\n");
+    workstation.putFile("C:\\vabo\\Leggi_ServerLocal.txt", "Server=127.0.0.1,9;\r\n");
     const support::StatementRecorder recorder;
     CreaDatabaseControllo();
     EXPECT_TRUE(recorder.texts().empty());

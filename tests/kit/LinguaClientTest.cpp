@@ -86,7 +86,7 @@ TEST_F(LinguaClient, AnEmptyColumnReadsAsItalianAndStaysEmpty) {
 }
 
 TEST_F(LinguaClient, WithoutALocalInstanceTheAnswerIsItalian) {
-    workstation.putFile("C:\\vabo\\Leggi_ServerLocal.txt", "Driver=SQL Server;Server=nessuno;\r\n");
+    workstation.putFile("C:\\vabo\\Leggi_ServerLocal.txt", "Driver=SQL Server;Server=127.0.0.1,9;\r\n");
     LinguaCorrente = "EN";
     EXPECT_EQ(LeggiLinguaClient(""), "IT");
     EXPECT_EQ(LinguaCorrente, "IT");

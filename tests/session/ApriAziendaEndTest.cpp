@@ -111,12 +111,12 @@ TEST_F(ApriAziendaEnd, WithoutTheControlDatabaseNothingCanBeReadAndTheStateStays
 
 TEST_F(ApriAziendaEnd, WithoutAServerANumberPassedInCannotLoad) {
     const double id = idOf(kOtherCompany);
-    workstation.putFile("C:\\vabo\\IndirizzoServer.txt", "Server=lontano;\r\n");
+    workstation.putFile("C:\\vabo\\IndirizzoServer.txt", "Server=127.0.0.1,9;\r\n");
     expectEnd(id, kCannotLoad);
 }
 
 TEST_F(ApriAziendaEnd, WithoutAServerAndANumberTheTerminalsLookupEndsItWithTheErrorsOwnText) {
-    workstation.putFile("C:\\vabo\\IndirizzoServer.txt", "Server=lontano;\r\n");
+    workstation.putFile("C:\\vabo\\IndirizzoServer.txt", "Server=127.0.0.1,9;\r\n");
     expectEnd(0, "Server does not exist or access denied.");
 }
 

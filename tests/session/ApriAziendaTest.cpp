@@ -205,7 +205,7 @@ TEST_F(ApriAziendaTest, TheLocalTextsFallbackFileIsWrittenOnTheWay) {
 }
 
 TEST_F(ApriAziendaTest, WithoutALocalInstanceTheCompanyIsTakenUpAllTheSame) {
-    workstation.putFile("C:\\vabo\\Leggi_ServerLocal.txt", "Server=lontano;\r\n");
+    workstation.putFile("C:\\vabo\\Leggi_ServerLocal.txt", "Server=127.0.0.1,9;\r\n");
     open(kOtherCompany);
     EXPECT_EQ(LinguaCorrente, "IT");
     EXPECT_TRUE(DbAzienda.IsOpen());

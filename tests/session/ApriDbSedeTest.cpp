@@ -165,7 +165,7 @@ TEST_F(ApriDbSede, WithoutTheFolderOfItsFilesTheTemporaryDatabaseIsTriedOnceMore
 }
 
 TEST_F(ApriDbSede, ALocalInstanceThatDoesNotAnswerGivesNoMessageAndCreatesNothing) {
-    workstation.putFile("C:\\vabo\\Leggi_ServerLocal.txt", "Driver=SQL Server;Server=nessuno;\r\n");
+    workstation.putFile("C:\\vabo\\Leggi_ServerLocal.txt", "Driver=SQL Server;Server=127.0.0.1,9;\r\n");
     const support::StatementRecorder recorder;
     EXPECT_FALSE(ApriDbTemp());
     EXPECT_TRUE(recorder.texts().empty());
@@ -207,7 +207,7 @@ TEST_P(UselessCompanyText, GivesNoBranchAndNoMessage) {
 }
 
 INSTANTIATE_TEST_SUITE_P(ApriDbSede, UselessCompanyText,
-                         testing::Values("", ";", "garbage", "Server=nessuno;DATABase=x;",
+                         testing::Values("", ";", "garbage", "Server=127.0.0.1,9;DATABase=x;",
                                          "Provider=SQLOLEDB;Data Source=POSTO_7\\sqlexpress;Integrated "
                                          "Security=SSPIDATABase=vabodati"));
 

@@ -141,7 +141,7 @@ TEST_F(Avviamento, TheDataFileAndTheTemporaryDatabaseAreReady) {
 
 TEST_F(Avviamento, WithoutServersTheServersPreparationIsSilent) {
     removeFile("C:\\vabo\\IndirizzoServer.txt");
-    workstation.putFile("C:\\vabo\\Leggi_ServerLocal.txt", "Server=lontano;\r\n");
+    workstation.putFile("C:\\vabo\\Leggi_ServerLocal.txt", "Server=127.0.0.1,9;\r\n");
     PreparaServer();
     EXPECT_FALSE(DbTemp.IsOpen());
 }

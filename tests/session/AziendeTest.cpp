@@ -95,7 +95,7 @@ TEST_P(EmptyMachineName, IsToldAndGivesZeroWithoutAskingTheServer) {
 INSTANTIATE_TEST_SUITE_P(AziendaTerminaleTest, EmptyMachineName, testing::Values("", " ", "0", "000"));
 
 TEST_F(AziendaTerminaleTest, AServerOutOfReachIsShownAndEndsTheProcess) {
-    workstation.putFile("C:\\vabo\\IndirizzoServer.txt", "Driver=SQL Server;Server=lontano;UID=sa;PWD=x;\r\n");
+    workstation.putFile("C:\\vabo\\IndirizzoServer.txt", "Driver=SQL Server;Server=127.0.0.1,9;UID=sa;PWD=x;\r\n");
     script.expectMessage("Server does not exist or access denied.");
     EXPECT_TRUE(end.endedBy([] { AziendaTerminale(); }));
 }
@@ -251,7 +251,7 @@ TEST_F(SessionTest, EsisteDatabaseAsksTheServer) {
 }
 
 TEST_F(SessionTest, EsisteDatabaseRaisesWhatFails) {
-    workstation.putFile("C:\\vabo\\IndirizzoServer.txt", "Server=lontano;\r\n");
+    workstation.putFile("C:\\vabo\\IndirizzoServer.txt", "Server=127.0.0.1,9;\r\n");
     EXPECT_THROW(EsisteDatabase(), ado::Error);
     removeFile("C:\\vabo\\IndirizzoServer.txt");
     EXPECT_THROW(EsisteDatabase(), platform::FileError);

@@ -108,7 +108,7 @@ TEST_P(GarbagePointer, OfTheLocalInstanceGivesNoTemporaryDatabase) {
 
 INSTANTIATE_TEST_SUITE_P(PointerFile, GarbagePointer,
                          testing::Values(std::string("garbage"), std::string("\xff\xfe\x80\x81 ;;=;\r\n"),
-                                         std::string("\0\0\0Server", 9), std::string("\r\nServer=x;\r\n"),
+                                         std::string("\0\0\0Server", 9), std::string("\r\nServer=127.0.0.1,9;\r\n"),
                                          std::string(1'000'000, 'x'), std::string("Server={never closed")),
                          [](const auto& test) { return "Text" + std::to_string(test.index); });
 

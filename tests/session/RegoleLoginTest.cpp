@@ -194,7 +194,7 @@ TEST_F(RegoleLogin, TheCompanysTextTellsWhetherTheServerIsThere) {
     EXPECT_TRUE(ServerRisponde());
     EXPECT_EQ(ServerMancante, kFalso);
     for (const char* text :
-         {"", "garbage", "Server=lontano;", "Driver=SQL Server;Server=POSTO_7\\sqlexpress;DATABase=x;"}) {
+         {"", "garbage", "Server=127.0.0.1,9;", "Driver=SQL Server;Server=POSTO_7\\sqlexpress;DATABase=x;"}) {
         StringaAzienda = text;
         ServerMancante = kFalso;
         EXPECT_FALSE(ServerRisponde()) << text;

@@ -139,7 +139,7 @@ void OdbcResult::read(SQLUSMALLINT number) {
     case FieldType::DateTime: {
         SQL_TIMESTAMP_STRUCT at{};
         get(SQL_C_TYPE_TIMESTAMP, &at, sizeof at);
-        std::array<char, 32> written{};
+        std::array<char, 48> written{}; // room for any parts of a broken driver
         std::snprintf(written.data(), written.size(), "%04d-%02u-%02u %02u:%02u:%02u.%03u", at.year, at.month, at.day,
                       at.hour, at.minute, at.second, static_cast<unsigned>(at.fraction / 1'000'000));
         cell.text = written.data();

@@ -1,0 +1,175 @@
+// Opening the general tables console on a company with 20 000 accounts, against the bare statements that it sends, each
+// opened once on a connection that is there already. And one letter typed into a picker of that many accounts.
+
+#include "ado/Connection.h"
+#include "ado/Recordset.h"
+#include "app/Program.h"
+#include "controls/DataCombo.h"
+#include "provision/Provision.h"
+#include "session/TreatForms.h"
+#include "session/variabili.h"
+
+#include <QAbstractItemView>
+#include <QCompleter>
+#include <QKeyEvent>
+
+#include <benchmark/benchmark.h>
+
+#include <array>
+#include <chrono>
+#include <cstdlib>
+#include <filesystem>
+#include <stdexcept>
+#include <string>
+#include <unistd.h>
+#include <vector>
+
+namespace {
+
+namespace fs = std::filesystem;
+
+constexpr long kAccounts = 20'000;
+constexpr const char* kForm = "Avvio_Morlan";
+
+template<typename Work>
+double seconds(Work&& work) {
+    const auto begin = std::chrono::steady_clock::now();
+    work();
+    return std::chrono::duration<double>(std::chrono::steady_clock::now() - begin).count();
+}
+
+std::string terminalName() {
+    std::array<char, 256> host{};
+    gethostname(host.data(), host.size() - 1);
+    std::string terminal(host.data());
+    terminal = terminal.substr(0, terminal.find('.'));
+    for (char& c : terminal)
+        c = c == '-' ? '_' : c;
+    return terminal;
+}
+
+/// The program with its company taken up, on a drive C of its own.
+class Console {
+public:
+    Console() : drive_(fs::temp_directory_path() / ("vabo-bench-" + std::to_string(getpid()))) {
+        provision::layDown({drive_, terminalName(), 200, kAccounts});
+        setenv("VABO_DRIVE_C", drive_.c_str(), 1);
+        setenv("QT_QPA_PLATFORM", "offscreen", 1);
+        program_ = std::make_unique<app::Program>(argc_, argv_.data());
+        program_->forms().show("Avvio");
+        vabo::ApriForm("Avvio_Azienda", true);
+        QCoreApplication::processEvents();
+    }
+    ~Console() {
+        program_.reset();
+        vabo::AzzeraVariabili();
+        std::error_code ignored;
+        fs::remove_all(drive_, ignored);
+    }
+    Console(const Console&) = delete;
+    Console& operator=(const Console&) = delete;
+
+    controls::Form& open() {
+        if (!vabo::ApriForm(kForm, true))
+            throw std::runtime_error("the console isn't there");
+        QCoreApplication::processEvents();
+        return *program_->forms().loaded(kForm);
+    }
+    void close() {
+        program_->forms().unload(kForm);
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+        QCoreApplication::processEvents();
+    }
+
+private:
+    fs::path drive_;
+    int argc_ = 1;
+    std::string name_ = "vabo-bench-console";
+    std::array<char*, 2> argv_{name_.data(), nullptr};
+    std::unique_ptr<app::Program> program_;
+};
+
+Console& console() {
+    static Console console;
+    return console;
+}
+
+void sendBare(const std::vector<std::string>& texts) {
+    for (const std::string& text : texts) {
+        if (text.find_first_of("sS") != text.find_first_not_of(' ')) {
+            vabo::DbAzienda.Execute(text);
+            continue;
+        }
+        ado::Recordset rs;
+        rs.Open(text, vabo::DbAzienda, ado::CursorType::Static);
+        benchmark::DoNotOptimize(rs.RecordCount());
+    }
+}
+
+void OpenTheConsole(benchmark::State& state) {
+    Console& running = console();
+    std::vector<std::string> texts;
+    ado::setStatementRecorder([&](const std::string& text) { texts.push_back(text); });
+    running.open();
+    ado::setStatementRecorder({});
+    running.close();
+    for (auto _ : state) {
+        const double ours = seconds([&] { running.open(); });
+        running.close();
+        const double bare = seconds([&] { sendBare(texts); });
+        state.SetIterationTime(ours);
+        state.counters["bare_ms"] = bare * 1e3;
+        state.counters["ratio"] = ours / bare;
+    }
+}
+BENCHMARK(OpenTheConsole)
+    ->UseManualTime()
+    ->Unit(benchmark::kMillisecond)
+    ->Iterations(1)
+    ->Repetitions(21)
+    ->ReportAggregatesOnly();
+
+void TypeALetterIntoAPicker(benchmark::State& state) {
+    auto* picker = console().open().findChild<controls::DataCombo*>(QStringLiteral("DCBItems3"));
+    for (auto _ : state) {
+        picker->setText("");
+        state.SetIterationTime(seconds([&] {
+            QKeyEvent letter(QEvent::KeyPress, Qt::Key_7, Qt::NoModifier, QStringLiteral("7"));
+            QApplication::sendEvent(picker, &letter);
+            benchmark::DoNotOptimize(picker->completer()->completionCount());
+        }));
+        picker->completer()->popup()->hide();
+    }
+    console().close();
+}
+BENCHMARK(TypeALetterIntoAPicker)
+    ->UseManualTime()
+    ->Unit(benchmark::kMillisecond)
+    ->Iterations(1)
+    ->Repetitions(21)
+    ->ReportAggregatesOnly();
+
+void OpenTheListOfAPicker(benchmark::State& state) {
+    auto* tabs = console().open().findChild<QWidget*>(QStringLiteral("SSTab1"));
+    tabs->setProperty("currentIndex", 4);
+    auto* picker = dynamic_cast<controls::DataCombo*>(tabs->findChild<QWidget*>(QStringLiteral("DCBItems3")));
+    for (auto _ : state) {
+        state.SetIterationTime(seconds([&] {
+            QKeyEvent arrow(QEvent::KeyPress, Qt::Key_Down, Qt::NoModifier);
+            QApplication::sendEvent(picker, &arrow);
+            QCoreApplication::processEvents();
+        }));
+        picker->hidePopup();
+    }
+    console().close();
+}
+BENCHMARK(OpenTheListOfAPicker)
+    ->UseManualTime()
+    ->Unit(benchmark::kMillisecond)
+    ->Iterations(1)
+    ->Repetitions(21)
+    ->ReportAggregatesOnly();
+
+} // namespace
+
+BENCHMARK_MAIN();

@@ -113,6 +113,26 @@ TEST_F(DataCombo, AFailedRefreshEmptiesTheList) {
     EXPECT_EQ(combo().count(), 0);
 }
 
+TEST_F(DataCombo, AListWhoseRowsAreClosedIsEmpty) {
+    combo().setText("Pera");
+    source.Recordset().Close();
+    EXPECT_EQ(combo().count(), 0);
+    EXPECT_EQ(combo().BoundText(), "");
+    EXPECT_EQ(combo().Text(), "Pera");
+}
+
+TEST_F(DataCombo, AListOutlivesItsSource) {
+    auto other = std::make_unique<controls::DataControl>();
+    other->ConnectionString = source.ConnectionString;
+    other->RecordSource = source.RecordSource;
+    combo().setRowSource(other.get());
+    other->Refresh();
+    ASSERT_EQ(combo().count(), 5);
+    other.reset();
+    EXPECT_EQ(combo().count(), 0);
+    combo().setRowSource(nullptr);
+}
+
 TEST_F(DataCombo, AnUnknownListFieldRaises) {
     combo().ListField = "colore";
     EXPECT_THROW(combo().ReFill(), ado::Error);

@@ -89,6 +89,19 @@ TEST_F(MorlanContiUtili, DeleteAndEnterTakeTheAccountAway) {
     EXPECT_EQ(conto(4), (Riga{"0", "0"}));
 }
 
+TEST_F(MorlanContiUtili, DeleteIsHeardInTheSearchToo) {
+    scegli("DataGrid2", "4");
+    gui.type("banca");
+    QAbstractItemView* trovati = combo("DCBItem1").completer()->popup();
+    support::Gui::waitFor("the search", [&] { return trovati->isVisible(); });
+    QTest::keyRelease(trovati, Qt::Key_Delete);
+    trovati->hide();
+    tornaDavanti();
+    EXPECT_EQ(combo("DCBItem1").Text(), "");
+    gui.press(Qt::Key_Return);
+    EXPECT_EQ(conto(4), (Riga{"0", "0"}));
+}
+
 TEST_F(MorlanContiUtili, DeleteWithShiftTakesNothingAway) {
     scegli("DataGrid2", "4");
     QTest::keyClick(&combo("DCBItem1"), Qt::Key_Delete, Qt::ShiftModifier);

@@ -17,4 +17,4 @@ else
     mapfile -t files < <(sed -n 's/^ *"file": "\(.*\)",\{0,1\}$/\1/p' "$database" | grep -v "^$PWD/build/" | sort -u)
 fi
 echo "clang-tidy: ${#files[@]} sources"
-printf '%s\n' "${files[@]}" | xargs -P "$(nproc)" -n 3 clang-tidy --quiet -p "build/$preset" 2> >(grep -v 'warnings generated\|^Suppressed\|^Use -header-filter' >&2)
+printf '%s\n' "${files[@]}" | xargs -P "$(nproc)" -n 3 clang-tidy --quiet --extra-arg=-Wno-unknown-warning-option -p "build/$preset" 2> >(grep -v 'warnings generated\|^Suppressed\|^Use -header-filter' >&2)

@@ -172,9 +172,21 @@ void DataGrid::shareWidth() {
     if (!fillsWidth_ || twips == 0)
         return;
     const double growth = std::max(1.0, viewport()->width() * kTwipsInAPixel / static_cast<double>(twips));
-    for (int i = 0; i < ColumnCount(); ++i)
-        if (model_->column(i).twips > 0)
-            setColumnWidth(i, static_cast<int>(model_->column(i).twips * growth / kTwipsInAPixel));
+    int widest = -1;
+    int owed = 0; // what captions took beyond their column's share
+    for (int i = 0; i < ColumnCount(); ++i) {
+        if (isColumnHidden(i) || model_->column(i).twips == 0)
+            continue;
+        const int share = static_cast<int>(model_->column(i).twips * growth / kTwipsInAPixel);
+        const int caption = horizontalHeader()->sectionSizeHint(i);
+        setColumnWidth(i, std::max(share, caption));
+        owed += std::max(0, caption - share);
+        if (widest < 0 || columnWidth(i) > columnWidth(widest))
+            widest = i;
+    }
+    if (widest >= 0)
+        setColumnWidth(widest, std::max({columnWidth(widest) - owed, horizontalHeader()->sectionSizeHint(widest),
+                                         model_->column(widest).twips / kTwipsInAPixel}));
 }
 
 void DataGrid::resizeEvent(QResizeEvent* event) {

@@ -41,7 +41,8 @@ public:
     int ColumnCount() const { return model_->columnCount(); }
     /// Error 9 for a column that isn't there.
     Column Columns(int index);
-    /// Columns of a layout grow in proportion where the grid is wider than they are together.
+    /// Columns of a layout grow in proportion where the grid is wider than they are together, and none is narrower than
+    /// its caption.
     void fillWidth();
 
 signals:

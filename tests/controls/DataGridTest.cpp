@@ -92,6 +92,17 @@ TEST_F(DataGrid, ColumnsThatFillTheWidthKeepTheirProportion) {
     EXPECT_EQ(grid.columnWidth(2), 2000) << "never narrower than set";
 }
 
+TEST_F(DataGrid, AColumnThatFillsItsGridShowsItsWholeCaption) {
+    grid.fillWidth();
+    grid.Columns(0).setWidth(0);
+    grid.Columns(1).setCaption("Didascalia lunga");
+    grid.Columns(1).setWidth(150);
+    grid.Columns(2).setWidth(3000);
+    grid.resize(500, 300);
+    EXPECT_GE(grid.columnWidth(1), grid.horizontalHeader()->sectionSizeHint(1));
+    EXPECT_EQ(grid.columnWidth(1) + grid.columnWidth(2), grid.viewport()->width()) << "the widest gives what it took";
+}
+
 TEST_F(DataGrid, ARefreshMakesTheColumnsAnew) {
     grid.Columns(0).setVisible(false);
     grid.Columns(1).setCaption("Frutto");

@@ -45,8 +45,21 @@ struct Unary {
 };
 
 struct Binary {
-    enum class Operator { Add, Subtract, Multiply, Divide, Modulo, Equal, NotEqual, Less, LessEqual, Greater,
-                          GreaterEqual, And, Or };
+    enum class Operator {
+        Add,
+        Subtract,
+        Multiply,
+        Divide,
+        Modulo,
+        Equal,
+        NotEqual,
+        Less,
+        LessEqual,
+        Greater,
+        GreaterEqual,
+        And,
+        Or
+    };
     Operator op;
     ExpressionPtr left, right;
 };
@@ -107,8 +120,8 @@ struct ServerVariable {
 };
 
 struct Expression {
-    using Node = std::variant<Literal, ColumnReference, Unary, Binary, Like, Between, In, Exists, ScalarSelect, Case, Call,
-                              Conversion, ServerVariable>;
+    using Node = std::variant<Literal, ColumnReference, Unary, Binary, Like, Between, In, Exists, ScalarSelect, Case,
+                              Call, Conversion, ServerVariable>;
     Node node;
     int position = -1; ///< byte offset in the batch
 };
@@ -140,8 +153,8 @@ struct TableSource {
 };
 
 struct SelectItem {
-    ExpressionPtr expression; ///< empty for a star
-    std::string alias;        ///< empty where none
+    ExpressionPtr expression;   ///< empty for a star
+    std::string alias;          ///< empty where none
     std::optional<Name> starOf; ///< `*` with no pieces, `T.*` with one
 };
 
@@ -298,8 +311,8 @@ struct Print {
 };
 
 struct Statement {
-    std::variant<Select, Insert, Update, Delete, CreateTable, AlterTable, CreateIndex, Drop, Truncate, CreateDatabase, Use,
-                 SetOption, Execute, Reconfigure, Transaction, If, Block, Print>
+    std::variant<Select, Insert, Update, Delete, CreateTable, AlterTable, CreateIndex, Drop, Truncate, CreateDatabase,
+                 Use, SetOption, Execute, Reconfigure, Transaction, If, Block, Print>
         node;
     int begin = 0, end = 0; ///< byte range in the batch
 };

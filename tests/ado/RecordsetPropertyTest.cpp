@@ -50,7 +50,7 @@ std::vector<Town> readTowns(Recordset& rs) {
     return towns;
 }
 
-void assign(Recordset& rs, Model& model, const std::string& name, Value people) {
+void assign(Recordset& rs, Model& model, const std::string& name, const Value& people) {
     if (!model.adding && !model.editing) {
         model.pending = model.rows[model.at];
         model.editing = true;

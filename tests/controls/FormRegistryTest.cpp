@@ -16,7 +16,7 @@ using testing::ElementsAre;
 
 class FormRegistry : public testing::Test {
 protected:
-    void add(const char* name, RecordedForm::Events events = {}) {
+    void add(const char* name, const RecordedForm::Events& events = {}) {
         gui.forms().add(name, [this, name, events] { return std::make_unique<RecordedForm>(name, log, events); });
     }
 

@@ -1,0 +1,54 @@
+#include "dblife/modODBC.h"
+
+#include "kit/Regole.h"
+#include "platform/DataSources.h"
+
+#include <QString>
+
+namespace vabo {
+
+namespace {
+
+constexpr const char* kDriverAccess = "Microsoft Access Driver (*.mdb)";
+constexpr const char* kDriverSqlServer = "SQL Server";
+constexpr qsizetype kLunghezzaNome = 30;
+
+std::string Driver(std::int32_t tipo) {
+    if (tipo == kTipoAccess)
+        return kDriverAccess;
+    return tipo == kTipoSqlServer ? kDriverSqlServer : "";
+}
+
+std::string NomeTagliato(const std::string& nome) {
+    return QString::fromStdString(nome).left(kLunghezzaNome).toStdString();
+}
+
+std::string Chiuso(const std::string& attributo) {
+    return attributo + '\0';
+}
+
+} // namespace
+
+// The registry keeps the values of both calls: the first writes what the second doesn't name.
+std::int32_t RegistraOdbc(std::int16_t richiesta, std::int32_t tipo, const std::string& NomeDsn,
+                          const std::string& Database, const std::string& Descrizione, const std::string& Server,
+                          const std::string& /*Utente*/, const std::string& /*Password*/) {
+    const std::string nome = NomeTagliato(NomeDsn);
+    const std::string perOdbc = Chiuso("DSN=" + nome) + Chiuso("Description=" + Descrizione) +
+                                Chiuso("SERVER=" + Server) + Chiuso("DBQ=" + Database);
+    const std::string perDao =
+        "Description=" + Descrizione + "\rOemToAnsi=No\rSERVER=" + Server + "\rDatabase=" + Database;
+    if (!riesce([&] { platform::dataSources().registerDatabase(nome, kDriverSqlServer, true, perDao); }))
+        return 0;
+    return platform::dataSources().configure(richiesta, Driver(tipo), perOdbc);
+}
+
+void RegistraDueVolte(const std::string& NomeDsn, const std::string& Database, const std::string& Descrizione,
+                      const std::string& Server, const std::string& Utente, const std::string& Password) {
+    for (const std::int16_t richiesta : {kAggiungi, kConfigura}) {
+        salta(
+            [&] { RegistraOdbc(richiesta, kTipoSqlServer, NomeDsn, Database, Descrizione, Server, Utente, Password); });
+    }
+}
+
+} // namespace vabo

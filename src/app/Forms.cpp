@@ -1,5 +1,6 @@
 #include "app/Forms.h"
 
+#include "dblife/FormRegistraAziendeNeiDns.h"
 #include "general_tables/Avvio_Morlan.h"
 #include "session/About.h"
 #include "session/Avvio.h"
@@ -22,6 +23,7 @@ void registerForms(controls::FormRegistry& registry) {
     registry.add("FormRefreshLinks", make<vabo::FormRefreshLinks>);
     registry.add("About", make<vabo::About>);
     registry.add("Avvio_Azienda", make<vabo::Avvio_Azienda>);
+    registry.add("FormRegistraAziendeNeiDns", make<vabo::FormRegistraAziendeNeiDns>);
     registry.add("Avvio_Morlan", make<vabo::Avvio_Morlan>);
 }
 

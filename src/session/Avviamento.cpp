@@ -48,8 +48,7 @@ void PrendiAziendaDelTerminale() {
 }
 
 void RiconosciDornavel() {
-    if (ado::matches(NomeAzienda, "*dornavel*"))
-        ClienteDornavel = kVero;
+    ClienteDornavel = ado::matches(NomeAzienda, "*dornavel*") ? kVero : kFalso;
 }
 
 void ApriSedeDiAvvio() {

@@ -1,0 +1,96 @@
+#include "dblife/RegistraAziende.h"
+
+#include "dblife/modODBC.h"
+#include "kit/IsEmptyValue.h"
+#include "kit/Regole.h"
+#include "session/ApriAzienda.h"
+#include "session/ApriDbSede.h"
+#include "session/Avviamento.h"
+#include "session/variabili.h"
+
+#include <array>
+#include <utility>
+
+namespace vabo {
+
+namespace {
+
+constexpr int kPostoRegistro = 1;
+
+std::string Oppure(const std::string& testo, const char* altrimenti) {
+    return IsEmptyValue(testo) ? altrimenti : testo;
+}
+
+} // namespace
+
+// A copy of the number: the choice of the console stays what it is.
+void PrendiAziendaScelta() {
+    double id = IdAziendaScelta;
+    salta([&] { ApriAzienda(id); });
+    RiconosciDornavel();
+}
+
+CampiAzienda CampiIniziali() {
+    return {.Driver = "SQL Server",
+            .Server = Oppure(NomeServer, ""),
+            .Database = Oppure(NomeDatabase, "VaboDati"),
+            .Utente = Oppure(UtenteDb, ""),
+            .Password = Oppure(PasswordDb, ""),
+            .Fonte = "Tlv_Server",
+            .Azienda = Oppure(NomeAzienda, "Azienda")};
+}
+
+std::string StringaServer(const CampiAzienda& campi) {
+    return "Driver=" + campi.Driver + ";" + "Server=" + campi.Server + ";" + "UID=" + campi.Utente + ";" +
+           "PWD=" + campi.Password + ";";
+}
+
+std::string PezzoDatabase(const CampiAzienda& campi) {
+    return "Database=" + campi.Database + ";";
+}
+
+bool ConnessioneValida(const std::string& stringa) {
+    return riesce([&] {
+        ado::Connection prova;
+        prova.Open(stringa);
+        prova.Close();
+    });
+}
+
+void ScriviIndirizzoServer(const std::string& stringa) {
+    ScriviFileTesto("C:\\vabo\\IndirizzoServer.txt", stringa);
+}
+
+void ScriviNomeServer(const std::string& server) {
+    ScriviFileTesto("C:\\vabo\\NomeServer.txt", server);
+}
+
+// The registry lies in the control database: a company's own has no such table, and then there is nothing to write.
+void ScriviPrimaRiga(const CampiAzienda& campi, ado::Connection& connessione) {
+    ado::Recordset& rs = RsCondivisi(kPostoRegistro);
+    salta([&] {
+        rs.Open("Select * from link_programma ORDER BY ID", connessione, ado::CursorType::Keyset,
+                ado::LockType::Optimistic);
+    });
+    salta([&] { rs.MoveFirst(); });
+    const std::array<std::pair<const char*, std::string>, 6> valori = {{
+        {"Stringa_connessione_sql", "VaBoDati"}, // the word, not a connection
+        {"Nserver", campi.Server},
+        {"DBname", campi.Database},
+        {"NomeAzienda", campi.Azienda},
+        {"nRoot", Oppure(campi.Utente, "")},
+        {"nPassw", Oppure(campi.Password, "")},
+    }};
+    for (const auto& [colonna, valore] : valori)
+        salta([&, colonna = colonna, &valore = valore] { rs[colonna] = valore; });
+    salta([&] { rs.Update(); });
+}
+
+void RegistraFonti(const CampiAzienda& campi) {
+    const std::string descrizione = "Dati " + campi.Azienda;
+    RegistraDueVolte(NomeDsn, campi.Database, descrizione, campi.Server, campi.Utente, campi.Password);
+    RegistraDueVolte("Tlv_Temp", "VaBoDatiTemp", descrizione, LeggiNomeServerLocal(), campi.Utente, campi.Password);
+    RegistraDueVolte("Tlv_Azienda", "VaBoDatiAzienda", "Dati " + NomeAzienda, LeggiNomeServerLocal(), "", "");
+}
+
+} // namespace vabo

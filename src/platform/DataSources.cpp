@@ -1,25 +1,12 @@
 #include "platform/DataSources.h"
 
-#include <stdexcept>
+#include "platform/OdbcDataSources.h"
+
 #include <utility>
 
 namespace platform {
 
 namespace {
-
-/// A machine without a registry.
-class NoDataSources : public DataSources {
-public:
-    std::vector<std::string> names() override { return {}; }
-    void registerDatabase(const std::string& /*name*/, const std::string& /*driver*/, bool /*silent*/,
-                          const std::string& /*attributes*/) override {
-        throw std::runtime_error("There is no registry of data sources.");
-    }
-    std::int32_t configure(std::int16_t /*request*/, const std::string& /*driver*/,
-                           const std::string& /*attributes*/) override {
-        return 0;
-    }
-};
 
 std::unique_ptr<DataSources> present;
 
@@ -27,7 +14,7 @@ std::unique_ptr<DataSources> present;
 
 DataSources& dataSources() {
     if (!present)
-        present = std::make_unique<NoDataSources>();
+        present = std::make_unique<OdbcDataSources>();
     return *present;
 }
 

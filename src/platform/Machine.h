@@ -14,9 +14,11 @@ std::filesystem::path programFile();
 /// The folder that stands for drive C: $VABO_DRIVE_C, or else `vabo/c` in the user's data folder.
 std::filesystem::path driveC();
 
-/// Replaces a file by these bytes, for the owner alone, and returns when they are on the disk. Whoever looks, even
-/// after a kill or a power cut, finds the old file or the new one. Throws std::system_error.
-void replaceFile(const std::filesystem::path& file, std::string_view bytes);
+/// Replaces a file by these bytes, by default for the owner alone, and returns when they are on the disk. Whoever
+/// looks, even after a kill or a power cut, finds the old file or the new one. Throws std::system_error.
+void replaceFile(const std::filesystem::path& file, std::string_view bytes,
+                 std::filesystem::perms permissions = std::filesystem::perms::owner_read |
+                                                      std::filesystem::perms::owner_write);
 /// Throws std::system_error.
 void makePrivateFolder(const std::filesystem::path& folder);
 

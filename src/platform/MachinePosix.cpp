@@ -46,6 +46,11 @@ public:
             ::unlink(name_.c_str());
     }
 
+    void permit(fs::perms permissions) const {
+        if (::fchmod(descriptor_.number(), static_cast<mode_t>(permissions & fs::perms::mask)) != 0)
+            fail("permit");
+    }
+
     void write(std::string_view bytes) const {
         while (!bytes.empty()) {
             const ssize_t written = ::write(descriptor_.number(), bytes.data(), bytes.size());
@@ -66,7 +71,7 @@ public:
 
 private:
     std::string name_;
-    Descriptor descriptor_; // mkostemp makes it 0600
+    Descriptor descriptor_;
     bool kept_ = false;
 };
 
@@ -109,11 +114,12 @@ fs::path driveC() {
     return (data.is_absolute() ? data : home() / ".local" / "share") / "vabo" / "c";
 }
 
-void replaceFile(const fs::path& file, std::string_view bytes) {
+void replaceFile(const fs::path& file, std::string_view bytes, fs::perms permissions) {
     // A rename would pass over a file that its owner has closed to writing.
     if (::access(file.c_str(), W_OK) != 0 && errno != ENOENT)
         fail("access");
     TemporarySibling sibling(file.parent_path());
+    sibling.permit(permissions);
     sibling.write(bytes);
     sibling.takeThePlaceOf(file);
     syncFolder(file.parent_path());

@@ -1,0 +1,123 @@
+#include "platform/DataSourceFile.h"
+#include "platform/Machine.h"
+
+#include <QTemporaryDir>
+
+#include <algorithm>
+#include <array>
+#include <atomic>
+#include <cstdlib>
+#include <filesystem>
+#include <fstream>
+#include <iterator>
+#include <odbcinst.h>
+#include <optional>
+#include <pwd.h>
+#include <stdexcept>
+#include <string_view>
+#include <unistd.h>
+
+namespace platform::machine {
+
+namespace fs = std::filesystem;
+
+namespace {
+
+/// The library reads lines of that many bytes, line feed included; a rest would be read as a line of its own.
+constexpr std::size_t kLongestLine = 999;
+
+/// The library takes any path with that piece for its file of drivers.
+constexpr std::array kDriversPieces{"odbcinst", "ODBCINST"};
+
+bool isControl(char c) {
+    return static_cast<unsigned char>(c) < ' ' || c == '\x7f';
+}
+
+/// A value as the file gives it back.
+std::string storable(std::string value) {
+    std::ranges::replace_if(value, isControl, ' ');
+    const auto first = value.find_first_not_of(' ');
+    if (first == std::string::npos)
+        return {};
+    return value.substr(first, value.find_last_not_of(' ') - first + 1);
+}
+
+/// Where the driver manager looks for it: it asks the user's record for the home, not the environment.
+fs::path userFile() {
+    fs::path file;
+    if (const char* chosen = std::getenv("ODBCINI"); chosen != nullptr && *chosen != '\0') {
+        file = chosen;
+    } else if (const passwd* user = ::getpwuid(::getuid()); user != nullptr) {
+        file = fs::path(user->pw_dir) / ".odbc.ini";
+    }
+    const bool isDrivers = std::ranges::any_of(
+        kDriversPieces, [&](const char* piece) { return file.string().find(piece) != std::string::npos; });
+    if (!file.is_absolute() || isDrivers)
+        throw std::runtime_error("The file of data sources can't be kept in \"" + file.string() + "\".");
+    return fs::weakly_canonical(file);
+}
+
+/// Nothing where there is no such value. The library keeps its answers for some seconds, whatever happens to the file
+/// meanwhile, by all that was asked, the default included: a default that is new is answered by the file.
+std::optional<std::string> valueIn(const fs::path& file, const std::string& name, const std::string& key) {
+    static std::atomic<unsigned long> questions = 0;
+    const std::string none = "\x01" + std::to_string(++questions);
+    std::array<char, kLongestLine + 1> value{};
+    const int length = SQLGetPrivateProfileString(name.c_str(), key.c_str(), none.c_str(), value.data(),
+                                                  static_cast<int>(value.size()), file.c_str());
+    if (length < 0 || value.data() == none)
+        return std::nullopt;
+    return value.data();
+}
+
+/// What the file doesn't hold yet.
+DataSourceValues missingIn(const fs::path& file, const std::string& name, const DataSourceValues& values) {
+    DataSourceValues missing;
+    // Asking makes the file where there is none.
+    const bool exists = fs::exists(file);
+    for (const auto& [key, value] : values) {
+        const std::string stored = storable(value);
+        if (key.size() + stored.size() + std::string_view("=\n").size() > kLongestLine)
+            throw std::runtime_error("The value of " + key + " is too long for a data source.");
+        if (!exists || valueIn(file, name, key) != stored)
+            missing.emplace_back(key, stored);
+    }
+    return missing;
+}
+
+std::string bytesOf(const fs::path& file) {
+    std::ifstream in(file, std::ios::binary);
+    return {std::istreambuf_iterator<char>(in), {}};
+}
+
+} // namespace
+
+bool isDataSourceName(const std::string& name) {
+    const auto isBlank = [](char c) { return c == ' '; };
+    return !name.empty() && !isBlank(name.front()) && !isBlank(name.back()) && std::ranges::none_of(name, isControl) &&
+           SQLValidDSN(name.c_str());
+}
+
+bool hasDataSource(const std::string& name) {
+    const fs::path file = userFile();
+    return fs::exists(file) && valueIn(file, name, "Driver").has_value();
+}
+
+// The library writes the whole file anew for every value: it writes to a copy, which then takes the file's place.
+void writeDataSource(const std::string& name, const DataSourceValues& values) {
+    const fs::path file = userFile();
+    const DataSourceValues missing = missingIn(file, name, values);
+    if (missing.empty())
+        return;
+    const QTemporaryDir folder;
+    const fs::path copy = fs::path(folder.path().toStdString()) / "odbc.ini";
+    if (fs::exists(file))
+        fs::copy_file(file, copy);
+    for (const auto& [key, value] : missing) {
+        if (!SQLWritePrivateProfileString(name.c_str(), key.c_str(), value.c_str(), copy.c_str()))
+            throw std::runtime_error("The data source " + name + " can't be written.");
+    }
+    replaceFile(file, bytesOf(copy), fs::status(copy).permissions());
+}
+
+} // namespace platform::machine

@@ -89,8 +89,8 @@ void ScriviPrimaRiga(const CampiAzienda& campi, ado::Connection& connessione) {
 void RegistraFonti(const CampiAzienda& campi) {
     const std::string descrizione = "Dati " + campi.Azienda;
     RegistraDueVolte(NomeDsn, campi.Database, descrizione, campi.Server, campi.Utente, campi.Password);
-    RegistraDueVolte("Tlv_Temp", "VaBoDatiTemp", descrizione, LeggiNomeServerLocal(), campi.Utente, campi.Password);
-    RegistraDueVolte("Tlv_Azienda", "VaBoDatiAzienda", "Dati " + NomeAzienda, LeggiNomeServerLocal(), "", "");
+    RegistraDueVolte("Tlv_Temp", "VaBoDatiTemp", descrizione, LeggiNomeServerLocal, campi.Utente, campi.Password);
+    RegistraDueVolte("Tlv_Azienda", "VaBoDatiAzienda", "Dati " + NomeAzienda, LeggiNomeServerLocal, "", "");
 }
 
 } // namespace vabo

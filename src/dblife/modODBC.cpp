@@ -44,11 +44,19 @@ std::int32_t RegistraOdbc(std::int16_t richiesta, std::int32_t tipo, const std::
 }
 
 void RegistraDueVolte(const std::string& NomeDsn, const std::string& Database, const std::string& Descrizione,
-                      const std::string& Server, const std::string& Utente, const std::string& Password) {
+                      const std::function<std::string()>& Server, const std::string& Utente,
+                      const std::string& Password) {
     for (const std::int16_t richiesta : {kAggiungi, kConfigura}) {
-        salta(
-            [&] { RegistraOdbc(richiesta, kTipoSqlServer, NomeDsn, Database, Descrizione, Server, Utente, Password); });
+        salta([&] {
+            RegistraOdbc(richiesta, kTipoSqlServer, NomeDsn, Database, Descrizione, Server(), Utente, Password);
+        });
     }
+}
+
+void RegistraDueVolte(const std::string& NomeDsn, const std::string& Database, const std::string& Descrizione,
+                      const std::string& Server, const std::string& Utente, const std::string& Password) {
+    RegistraDueVolte(
+        NomeDsn, Database, Descrizione, [&] { return Server; }, Utente, Password);
 }
 
 } // namespace vabo

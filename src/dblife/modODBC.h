@@ -3,6 +3,7 @@
 // The registration of a data source. Other programs reach the databases by the fixed names of their data sources.
 
 #include <cstdint>
+#include <functional>
 #include <string>
 
 namespace vabo {
@@ -21,7 +22,10 @@ std::int32_t RegistraOdbc(std::int16_t richiesta, std::int32_t tipo, const std::
                           const std::string& Utente, const std::string& Password);
 
 /// First the request to add, then the one to configure, of a SQL Server's database: so that an existing data source
-/// gets the new values. A failure is skipped.
+/// gets the new values. The server's name is asked for each time. Failures are skipped.
+void RegistraDueVolte(const std::string& NomeDsn, const std::string& Database, const std::string& Descrizione,
+                      const std::function<std::string()>& Server, const std::string& Utente,
+                      const std::string& Password);
 void RegistraDueVolte(const std::string& NomeDsn, const std::string& Database, const std::string& Descrizione,
                       const std::string& Server, const std::string& Utente, const std::string& Password);
 

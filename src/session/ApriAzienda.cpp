@@ -1,6 +1,7 @@
 #include "session/ApriAzienda.h"
 
 #include "ado/Conversions.h"
+#include "dblife/modODBC.h"
 #include "kit/ApriScrivibile.h"
 #include "kit/ErrorHandling.h"
 #include "kit/IsEmptyValue.h"
@@ -175,6 +176,14 @@ void RiapriDbAzienda() {
     salta([] { DbAzienda.Open(ConnessioneAzienda()); });
 }
 
+/// The local server's name is read anew for each use: on a new workstation the first answer isn't the one that stays.
+void RegistraFonti() {
+    const std::string descrizione = "Dati " + NomeAzienda;
+    RegistraDueVolte(NomeDsn, NomeDatabase, descrizione, NomeServer, UtenteDb, PasswordDb);
+    RegistraDueVolte("Tlv_Temp", "VaBoDatiTemp", descrizione, LeggiNomeServerLocal, UtenteDb, PasswordDb);
+    RegistraDueVolte("Tlv_Azienda", "VaBoDatiAzienda", descrizione, LeggiNomeServerLocal, "", "");
+}
+
 Esito Concludi(ado::Recordset& rs) {
     ChiudiRecordset();
     salta([&] { rs.Close(); });
@@ -185,6 +194,7 @@ Esito Concludi(ado::Recordset& rs) {
     if (IsEmptyValue(NomeDatabase) || !DatabasePresente())
         return Esito::DaRipiegare;
     NomeDsn = "Tlv_server";
+    RegistraFonti();
     salta([] { DbControllo.Open(ConnessioneControllo()); });
     CancellaTerminaliVuoti();
     salta([] { DbControllo.Close(); });

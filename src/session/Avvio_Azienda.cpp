@@ -1,6 +1,7 @@
 #include "session/Avvio_Azienda.h"
 
 #include "ado/Conversions.h"
+#include "dblife/modODBC.h"
 #include "kit/IsEmptyValue.h"
 #include "kit/Regole.h"
 #include "platform/Dialogs.h"
@@ -26,6 +27,13 @@ void RiapriDbLocale() {
     salta([] { DbLocale->Open(StringaLocale); });
 }
 
+void ConfiguraFonte() {
+    salta([] {
+        RegistraOdbc(kConfigura, kTipoSqlServer, "Tlv_Server", NomeDatabase, "Dati " + NomeAzienda, NomeServer,
+                     UtenteDb, PasswordDb);
+    });
+}
+
 } // namespace
 
 Avvio_Azienda::Avvio_Azienda() : Form("Avvio_Azienda"), ui_(std::make_unique<Ui::Avvio_Azienda>()) {
@@ -36,7 +44,10 @@ Avvio_Azienda::Avvio_Azienda() : Form("Avvio_Azienda"), ui_(std::make_unique<Ui:
     on(ui_->DataCombo1, &controls::DataCombo::Click, [this](int area) { ScegliAzienda(area); });
     on(ui_->Command1, &QPushButton::clicked, [this] { ApriDa("frmDatiAzienda"); });
     on(ui_->Command2, &QPushButton::clicked, [this] { ApriUtenti(); });
-    on(ui_->cmdClose, &QPushButton::clicked, [this] { ApriDa("Avvio_Morlan"); });
+    on(ui_->cmdClose, &QPushButton::clicked, [this] {
+        ConfiguraFonte();
+        ApriDa("Avvio_Morlan");
+    });
     on(ui_->datPrimaryRS, &controls::DataControl::Error, [](int /*numero*/, const QString& descrizione) {
         platform::dialogs().message("Data error event hit err:" + descrizione.toStdString());
     });
@@ -77,6 +88,7 @@ void Avvio_Azienda::ScegliAzienda(int area) {
     LeggiSede();
     RiapriDbLocale();
     StringaAziendaCopia = StringaAzienda;
+    ConfiguraFonte();
     MostraAziendaAperta();
 }
 

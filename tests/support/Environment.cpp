@@ -2,6 +2,7 @@
 
 #include "ado/Conversions.h"
 #include "platform/Automation.h"
+#include "platform/DataSources.h"
 #include "platform/Dialogs.h"
 #include "platform/Forms.h"
 #include "platform/RegionalSettings.h"
@@ -20,6 +21,8 @@ class FreshStart : public testing::EmptyTestEventListener {
         platform::setDialogs(nullptr);
         platform::setFormHost(nullptr);
         platform::setAutomation(nullptr);
+        platform::setDataSources(nullptr);
+        useDataSourceFile(nowhere() / "odbc.ini");
         platform::setWorkstation(workstationOn(nowhere()));
         platform::connectDataLayer();
     }
@@ -30,6 +33,7 @@ class FreshStart : public testing::EmptyTestEventListener {
 void prepareProcess() {
     qputenv("TZ", "UTC");
     qputenv("QT_QPA_PLATFORM", "offscreen");
+    useDataSourceFile(nowhere() / "odbc.ini");
 }
 
 void prepareTests() {
@@ -50,6 +54,10 @@ platform::Workstation workstationOn(const std::filesystem::path& driveC) {
 
 std::filesystem::path nowhere() {
     return "/nonexistent/drive-c";
+}
+
+void useDataSourceFile(const std::filesystem::path& file) {
+    qputenv("ODBCINI", file.c_str());
 }
 
 } // namespace support

@@ -1,6 +1,7 @@
 // Opening the general tables console on a company with 20 000 accounts, against the bare statements that it sends, each
 // opened once on a connection that is there already. And one letter typed into a picker of that many accounts.
 
+#include "Pairs.h"
 #include "ado/Connection.h"
 #include "ado/Recordset.h"
 #include "app/Program.h"
@@ -13,10 +14,7 @@
 #include <QCompleter>
 #include <QKeyEvent>
 
-#include <benchmark/benchmark.h>
-
 #include <array>
-#include <chrono>
 #include <cstdlib>
 #include <filesystem>
 #include <stdexcept>
@@ -30,13 +28,6 @@ namespace fs = std::filesystem;
 
 constexpr long kAccounts = 20'000;
 constexpr const char* kForm = "Avvio_Morlan";
-
-template<typename Work>
-double seconds(Work&& work) {
-    const auto begin = std::chrono::steady_clock::now();
-    work();
-    return std::chrono::duration<double>(std::chrono::steady_clock::now() - begin).count();
-}
 
 std::string terminalName() {
     std::array<char, 256> host{};
@@ -114,26 +105,21 @@ void OpenTheConsole(benchmark::State& state) {
     ado::setStatementRecorder({});
     running.close();
     for (auto _ : state) {
-        const double ours = seconds([&] { running.open(); });
+        const double ours = bench::seconds([&] { running.open(); });
         running.close();
-        const double bare = seconds([&] { sendBare(texts); });
+        const double bare = bench::seconds([&] { sendBare(texts); });
         state.SetIterationTime(ours);
         state.counters["bare_ms"] = bare * 1e3;
         state.counters["ratio"] = ours / bare;
     }
 }
-BENCHMARK(OpenTheConsole)
-    ->UseManualTime()
-    ->Unit(benchmark::kMillisecond)
-    ->Iterations(1)
-    ->Repetitions(21)
-    ->ReportAggregatesOnly();
+BENCHMARK(OpenTheConsole)->Apply(bench::inPairs);
 
 void TypeALetterIntoAPicker(benchmark::State& state) {
     auto* picker = console().open().findChild<controls::DataCombo*>(QStringLiteral("DCBItems3"));
     for (auto _ : state) {
         picker->setText("");
-        state.SetIterationTime(seconds([&] {
+        state.SetIterationTime(bench::seconds([&] {
             QKeyEvent letter(QEvent::KeyPress, Qt::Key_7, Qt::NoModifier, QStringLiteral("7"));
             QApplication::sendEvent(picker, &letter);
             benchmark::DoNotOptimize(picker->completer()->completionCount());
@@ -142,19 +128,14 @@ void TypeALetterIntoAPicker(benchmark::State& state) {
     }
     console().close();
 }
-BENCHMARK(TypeALetterIntoAPicker)
-    ->UseManualTime()
-    ->Unit(benchmark::kMillisecond)
-    ->Iterations(1)
-    ->Repetitions(21)
-    ->ReportAggregatesOnly();
+BENCHMARK(TypeALetterIntoAPicker)->Apply(bench::inPairs);
 
 void OpenTheListOfAPicker(benchmark::State& state) {
     auto* tabs = console().open().findChild<QWidget*>(QStringLiteral("SSTab1"));
     tabs->setProperty("currentIndex", 4);
     auto* picker = dynamic_cast<controls::DataCombo*>(tabs->findChild<QWidget*>(QStringLiteral("DCBItems3")));
     for (auto _ : state) {
-        state.SetIterationTime(seconds([&] {
+        state.SetIterationTime(bench::seconds([&] {
             QKeyEvent arrow(QEvent::KeyPress, Qt::Key_Down, Qt::NoModifier);
             QApplication::sendEvent(picker, &arrow);
             QCoreApplication::processEvents();
@@ -163,12 +144,7 @@ void OpenTheListOfAPicker(benchmark::State& state) {
     }
     console().close();
 }
-BENCHMARK(OpenTheListOfAPicker)
-    ->UseManualTime()
-    ->Unit(benchmark::kMillisecond)
-    ->Iterations(1)
-    ->Repetitions(21)
-    ->ReportAggregatesOnly();
+BENCHMARK(OpenTheListOfAPicker)->Apply(bench::inPairs);
 
 } // namespace
 

@@ -1,15 +1,14 @@
 // The data layer against raw SQLite on the same files, at the same durability. Each iteration runs both sides, so that
 // `ratio` compares two neighbours in time; read its median.
 
+#include "Pairs.h"
 #include "ado/Connection.h"
 #include "ado/Drivers.h"
 #include "ado/Recordset.h"
 #include "engine/Instance.h"
 
-#include <benchmark/benchmark.h>
 #include <sqlite3.h>
 
-#include <chrono>
 #include <filesystem>
 #include <random>
 #include <stdexcept>
@@ -90,19 +89,6 @@ private:
     sqlite3* handle_ = nullptr;
 };
 
-template<typename Work>
-double seconds(Work&& work) {
-    const auto begin = std::chrono::steady_clock::now();
-    work();
-    return std::chrono::duration<double>(std::chrono::steady_clock::now() - begin).count();
-}
-
-void report(benchmark::State& state, double ours, double raw) {
-    state.SetIterationTime(ours);
-    state.counters["ratio"] = ours / raw;
-    state.counters["raw_ms"] = raw * 1e3;
-}
-
 void RepeatedUpdateOfOneShape(benchmark::State& state) {
     BenchServer server;
     server.connection.Execute("CREATE TABLE conti (id int NOT NULL PRIMARY KEY, saldo int NOT NULL)");
@@ -116,12 +102,12 @@ void RepeatedUpdateOfOneShape(benchmark::State& state) {
     sqlite3_stmt* prepared = raw.prepare("UPDATE conti SET saldo = ?1 WHERE id = ?2");
     int value = 0;
     for (auto _ : state) {
-        const double ours = seconds([&] {
+        const double ours = bench::seconds([&] {
             for (int i = 0; i < kUpdates; ++i)
                 server.connection.Execute("update conti set saldo = " + std::to_string(++value) +
                                           " where id = " + std::to_string(1 + i % 100));
         });
-        const double theirs = seconds([&] {
+        const double theirs = bench::seconds([&] {
             for (int i = 0; i < kUpdates; ++i) {
                 sqlite3_bind_int(prepared, 1, ++value);
                 sqlite3_bind_int(prepared, 2, 1 + i % 100);
@@ -129,11 +115,11 @@ void RepeatedUpdateOfOneShape(benchmark::State& state) {
                 sqlite3_reset(prepared);
             }
         });
-        report(state, ours, theirs);
+        bench::report(state, ours, theirs);
     }
     sqlite3_finalize(prepared);
 }
-BENCHMARK(RepeatedUpdateOfOneShape)->UseManualTime()->Iterations(1)->Repetitions(21)->ReportAggregatesOnly();
+BENCHMARK(RepeatedUpdateOfOneShape)->Apply(bench::inPairs);
 
 void fillWideTable(ado::Connection& connection) {
     connection.Execute(
@@ -177,7 +163,7 @@ void OpenAndReadRecordset(benchmark::State& state) {
     for (auto _ : state) {
         Checksum checksum;
         int rows = 0;
-        const double ours = seconds([&] {
+        const double ours = bench::seconds([&] {
             ado::Recordset rs;
             rs.Open("select * from righe", server.connection, ado::CursorType::Keyset, ado::LockType::Pessimistic);
             for (; !rs.EOF(); rs.MoveNext(), ++rows) {
@@ -190,7 +176,7 @@ void OpenAndReadRecordset(benchmark::State& state) {
             state.SkipWithError("not all rows came");
         std::size_t bytes = 0;
         double sum = 0;
-        const double theirs = seconds([&] {
+        const double theirs = bench::seconds([&] {
             sqlite3_stmt* loop = raw.prepare("select * from righe");
             while (sqlite3_step(loop) == SQLITE_ROW) {
                 for (int column = 0; column < kColumns; ++column) {
@@ -214,9 +200,9 @@ void OpenAndReadRecordset(benchmark::State& state) {
         benchmark::DoNotOptimize(checksum);
         benchmark::DoNotOptimize(bytes);
         benchmark::DoNotOptimize(sum);
-        report(state, ours, theirs);
+        bench::report(state, ours, theirs);
     }
 }
-BENCHMARK(OpenAndReadRecordset)->UseManualTime()->Iterations(1)->Repetitions(21)->ReportAggregatesOnly();
+BENCHMARK(OpenAndReadRecordset)->Apply(bench::inPairs);
 
 } // namespace

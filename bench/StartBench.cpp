@@ -1,9 +1,8 @@
 // The whole process, from the call of its parent to the login on the screen, against an empty window of the same
 // toolkit; and what the three takings up of a company in it cost.
 
+#include "Pairs.h"
 #include "provision/Provision.h"
-
-#include <benchmark/benchmark.h>
 
 #include <array>
 #include <chrono>
@@ -69,12 +68,7 @@ void StartToLogin(benchmark::State& state) {
     }
     fs::remove_all(drive);
 }
-BENCHMARK(StartToLogin)
-    ->UseManualTime()
-    ->Unit(benchmark::kMillisecond)
-    ->Iterations(1)
-    ->Repetitions(21)
-    ->ReportAggregatesOnly();
+BENCHMARK(StartToLogin)->Apply(bench::inPairs);
 
 } // namespace
 

@@ -3,6 +3,7 @@
 #include "engine/Instance.h"
 #include "peer/Client.h"
 #include "peer/Procedures.h"
+#include "peer/Wire.h"
 #include "support/TemporaryFolder.h"
 
 #include <gtest/gtest.h>
@@ -12,40 +13,9 @@
 namespace peer {
 namespace {
 
-Bytes packet(std::uint8_t type, std::uint8_t status, const Bytes& body) {
-    ByteWriter out;
-    out.u8(type).u8(status).u16BigEndian(static_cast<std::uint16_t>(body.size() + kHeaderBytes)).u32(0).raw(body);
-    return std::move(out.bytes);
-}
-
-Bytes batch(const std::string& text) {
-    return packet(1, 1, ByteWriter().ucs2(text).bytes);
-}
-
-/// A login record of version 7.1, which has no headers before its requests.
-Bytes login(const std::string& user, const std::string& password, const std::string& database) {
-    constexpr std::size_t kFixed = 86;
-    ByteWriter texts;
-    ByteWriter places;
-    const std::string fields[] = {"host", user, password, "app", "server", "", "", "", database};
-    for (const std::string& text : fields) {
-        places.u16(static_cast<std::uint16_t>(kFixed + texts.bytes.size()));
-        places.u16(static_cast<std::uint16_t>(toUtf16(text).size()));
-        const std::size_t begin = texts.bytes.size();
-        texts.ucs2(text);
-        if (&text == &fields[2]) {
-            for (std::size_t i = begin; i < texts.bytes.size(); ++i) {
-                const std::uint8_t byte = texts.bytes[i];
-                texts.bytes[i] = static_cast<std::uint8_t>((byte << 4 | byte >> 4) ^ 0xA5);
-            }
-        }
-    }
-    ByteWriter out;
-    out.u32(static_cast<std::uint32_t>(kFixed + texts.bytes.size())).u32(0x71000001).u32(4096);
-    out.raw(Bytes(24, 0)).raw(places.bytes);
-    out.raw(Bytes(kFixed - out.bytes.size(), 0)).raw(texts.bytes);
-    return std::move(out.bytes);
-}
+using wire::batch;
+using wire::login;
+using wire::packet;
 
 TEST(Packets, AreJoinedToMessagesWhateverPiecesCome) {
     Bytes wire = packet(1, 0, {1, 2});
@@ -203,6 +173,17 @@ TEST_F(Conversation, AnythingCutShortIsWaitedForAndEndsWithTheClient) {
     for (std::size_t length = 0; length < whole.size(); ++length) {
         const Bytes cut(whole.begin(), whole.begin() + static_cast<std::ptrdiff_t>(length));
         EXPECT_NO_THROW(served({hello, cut})) << length;
+    }
+}
+
+TEST_F(Conversation, ABatchInWhichNothingRunsHasAnEndAllTheSame) {
+    const Bytes end = {0xFD, 0, 0, 0xC1, 0, 0, 0, 0, 0};
+    const std::size_t greeted = served({hello}).got.size();
+    for (const char* text : {"", "-- nothing", "if 1 = 2 print 'detto'"}) {
+        const Script script = served({hello, batch(text)});
+        const auto answer = std::span(script.got).subspan(greeted);
+        ASSERT_EQ(answer.size(), kHeaderBytes + end.size()) << text;
+        EXPECT_TRUE(std::ranges::equal(answer.subspan(kHeaderBytes), end)) << text;
     }
 }
 

@@ -1,0 +1,154 @@
+// The data layer over the wire against the shortest program of the data source interface, in one process, with the same
+// connection text, on the same server. `--pooled` lets the driver manager keep connections; without it the machine's
+// registry of drivers decides.
+
+#include "Pairs.h"
+#include "PeerProcess.h"
+#include "ado/Connection.h"
+#include "ado/drivers/odbc/OdbcConnection.h"
+
+#include <cstdlib>
+#include <cstring>
+#include <fstream>
+#include <stdexcept>
+#include <string>
+#include <vector>
+
+namespace {
+
+constexpr int kUpdates = 200;
+constexpr int kConnections = 100;
+
+bench::PeerProcess& server() {
+    static bench::PeerProcess process(PEER_PROGRAM);
+    return process;
+}
+
+/// What the data layer gives to the driver for its own connection text.
+std::string driverText() {
+    return ado::odbc::driverText(ado::ConnectionString(server().connectionString()), "FreeTDS");
+}
+
+void needed(SQLRETURN code, const char* call) {
+    if (!SQL_SUCCEEDED(code))
+        throw std::runtime_error(std::string(call) + " failed");
+}
+
+SQLCHAR* narrow(std::string& text) {
+    return reinterpret_cast<SQLCHAR*>(text.data());
+}
+
+/// Calls without a word more than the interface asks for.
+class RawConnection {
+public:
+    RawConnection() { needed(SQLAllocHandle(SQL_HANDLE_DBC, ado::odbc::environment(), &handle_), "SQLAllocHandle"); }
+    ~RawConnection() { SQLFreeHandle(SQL_HANDLE_DBC, handle_); }
+    RawConnection(const RawConnection&) = delete;
+    RawConnection& operator=(const RawConnection&) = delete;
+
+    void open(std::string text) {
+        needed(SQLDriverConnect(handle_, nullptr, narrow(text), SQL_NTS, nullptr, 0, nullptr, SQL_DRIVER_NOPROMPT),
+               "SQLDriverConnect");
+    }
+    void close() { SQLDisconnect(handle_); }
+    SQLHANDLE get() const { return handle_; }
+
+private:
+    SQLHANDLE handle_ = nullptr;
+};
+
+class RawStatement {
+public:
+    explicit RawStatement(const RawConnection& connection) {
+        needed(SQLAllocHandle(SQL_HANDLE_STMT, connection.get(), &handle_), "SQLAllocHandle");
+    }
+    ~RawStatement() { SQLFreeHandle(SQL_HANDLE_STMT, handle_); }
+    RawStatement(const RawStatement&) = delete;
+    RawStatement& operator=(const RawStatement&) = delete;
+
+    void run(std::string text) {
+        needed(SQLExecDirect(handle_, narrow(text), static_cast<SQLINTEGER>(text.size())), "SQLExecDirect");
+        SQLFreeStmt(handle_, SQL_CLOSE);
+    }
+
+private:
+    SQLHANDLE handle_ = nullptr;
+};
+
+std::string update(int value) {
+    return "update conti set saldo = " + std::to_string(value) + " where id = " + std::to_string(1 + value % 100);
+}
+
+void fill(ado::Connection& connection) {
+    connection.Execute("IF OBJECT_ID('conti') IS NOT NULL DROP TABLE conti");
+    connection.Execute("CREATE TABLE conti (id int NOT NULL PRIMARY KEY, saldo int NOT NULL)");
+    for (int id = 1; id <= 100; ++id)
+        connection.Execute("INSERT INTO conti (id, saldo) VALUES (" + std::to_string(id) + ", 0)");
+}
+
+void RepeatedUpdate(benchmark::State& state) {
+    ado::Connection connection;
+    connection.Open(server().connectionString());
+    fill(connection);
+    RawConnection raw;
+    raw.open(driverText());
+    RawStatement statement(raw);
+    int value = 0;
+    for (auto _ : state) {
+        const double ours = bench::seconds([&] {
+            for (int i = 0; i < kUpdates; ++i)
+                connection.Execute(update(++value));
+        });
+        const double theirs = bench::seconds([&] {
+            for (int i = 0; i < kUpdates; ++i)
+                statement.run(update(++value));
+        });
+        bench::report(state, ours, theirs);
+    }
+}
+BENCHMARK(RepeatedUpdate)->Apply(bench::inPairs);
+
+void ConnectAndDisconnect(benchmark::State& state) {
+    const std::string text = driverText();
+    for (auto _ : state) {
+        const double ours = bench::seconds([&] {
+            for (int i = 0; i < kConnections; ++i) {
+                ado::Connection connection;
+                connection.Open(server().connectionString());
+                connection.Close();
+            }
+        });
+        const double theirs = bench::seconds([&] {
+            for (int i = 0; i < kConnections; ++i) {
+                RawConnection raw;
+                raw.open(text);
+                raw.close();
+            }
+        });
+        bench::report(state, ours, theirs);
+    }
+}
+BENCHMARK(ConnectAndDisconnect)->Apply(bench::inPairs);
+
+/// A registry of drivers in which connections are kept for a minute, in place of the machine's.
+void keepConnections() {
+    std::ofstream(server().folder() / "odbcinst.ini")
+        << "[ODBC]\nPooling=Yes\n[FreeTDS]\nDriver=libtdsodbc.so\nCPTimeout=60\n";
+    setenv("ODBCSYSINI", server().folder().c_str(), 1);
+}
+
+} // namespace
+
+int main(int argc, char** argv) {
+    if (argc > 1 && std::strcmp(argv[1], "--pooled") == 0) {
+        keepConnections();
+        argv[1] = argv[0];
+        --argc;
+        ++argv;
+    }
+    benchmark::Initialize(&argc, argv);
+    if (benchmark::ReportUnrecognizedArguments(argc, argv))
+        return 1;
+    benchmark::RunSpecifiedBenchmarks();
+    return 0;
+}

@@ -1,0 +1,215 @@
+// A whole conversation of a client with the server: whatever it sends is named garbage or answered in whole packets,
+// and to the end. The first byte chooses what goes before (nothing, or a login of 7.1 or of 7.4), the second how the
+// rest is cut into pieces. An empty corpus folder is given real requests as its seeds.
+
+#include "engine/Instance.h"
+#include "peer/Client.h"
+#include "peer/Wire.h"
+
+#include <algorithm>
+#include <cstdio>
+#include <cstdlib>
+#include <filesystem>
+#include <fstream>
+#include <string_view>
+#include <unistd.h>
+
+namespace {
+
+namespace fs = std::filesystem;
+
+constexpr std::uint32_t kVersions[] = {0x71000001, 0x74000004};
+constexpr const char* kSchema =
+    "CREATE TABLE tipi (id int IDENTITY (1, 1) NOT NULL PRIMARY KEY, b bit, t tinyint, s smallint, g bigint, r real,"
+    " f float, d decimal(18, 2), q datetime, c char(5), v varchar(20), n nvarchar(20), m nvarchar(4000), x ntext)";
+constexpr const char* kRow =
+    "INSERT INTO tipi (b, t, s, g, r, f, d, q, c, v, n, m, x) VALUES (1, 2, 3, 4, 0.5, 2.5, -1.25, '20040307', 'abc',"
+    " 'perché', N'Città', N'lungo', N'più lungo')";
+
+/// An instance that the conversations share until it has seen many: a login of its own and one table of all types.
+class Instance {
+public:
+    std::shared_ptr<engine::Instance> get() {
+        if (instance_ && ++runs_ < kRunsOfOne)
+            return instance_;
+        remove();
+        runs_ = 0;
+        folder_ = fs::temp_directory_path() / ("peer-fuzz-" + std::to_string(getpid()));
+        fs::create_directories(folder_ / "drive");
+        instance_ =
+            engine::Instance::create(folder_ / "server", {[this](std::string_view path) { return onDrive(path); }});
+        instance_->addLogin("sa", "segreta");
+        instance_->createDatabase("prova", "", "");
+        const auto session = engine::Session::open(instance_, {"", "", "prova"});
+        for (const char* text : {kSchema, kRow, "INSERT INTO tipi (b) VALUES (NULL)"})
+            session->execute(text)->nextResult();
+        return instance_;
+    }
+    ~Instance() { remove(); }
+
+private:
+    static constexpr int kRunsOfOne = 2000;
+
+    /// No path of a client leads out of the folder.
+    fs::path onDrive(std::string_view path) const {
+        std::string name(path);
+        std::replace_if(
+            name.begin(), name.end(), [](char c) { return c == '/' || c == '\\' || c == '\0'; }, '_');
+        return folder_ / "drive" / ("f" + name);
+    }
+    void remove() {
+        instance_.reset();
+        std::error_code ignored;
+        if (!folder_.empty())
+            fs::remove_all(folder_, ignored);
+    }
+
+    fs::path folder_;
+    std::shared_ptr<engine::Instance> instance_;
+    int runs_ = 0;
+};
+
+/// Sends its bytes in pieces and looks at the packets that come back.
+class Wire : public peer::Channel {
+public:
+    Wire(peer::Bytes sent, std::size_t piece) : sent_(std::move(sent)), piece_(piece) {}
+
+    peer::Bytes read() override {
+        const std::size_t count = std::min(piece_, sent_.size() - place_);
+        const auto begin = sent_.begin() + static_cast<std::ptrdiff_t>(place_);
+        place_ += count;
+        return {begin, begin + static_cast<std::ptrdiff_t>(count)};
+    }
+    void write(std::span<const std::uint8_t> bytes) override {
+        while (!bytes.empty()) {
+            needed(bytes.size() >= peer::kHeaderBytes && bytes[0] == static_cast<int>(peer::PacketType::Response));
+            const std::size_t length = static_cast<std::size_t>(bytes[2]) << 8 | bytes[3];
+            needed(length >= peer::kHeaderBytes && length <= bytes.size());
+            const auto body = bytes.subspan(peer::kHeaderBytes, length - peer::kHeaderBytes);
+            answer_.insert(answer_.end(), body.begin(), body.end());
+            if (bytes[1] & peer::wire::kWhole) {
+                needed(isGreeting() || endsWithDone(9) || endsWithDone(13));
+                answer_.clear();
+            }
+            bytes = bytes.subspan(length);
+        }
+    }
+    bool waiting() override { return place_ < sent_.size(); }
+
+private:
+    static void needed(bool promise) {
+        if (!promise)
+            std::abort();
+    }
+    bool isGreeting() const { return !answer_.empty() && answer_[0] == 0; }
+    /// The last token tells that nothing follows; its length depends on the version.
+    bool endsWithDone(std::size_t length) const {
+        if (answer_.size() < length)
+            return false;
+        const auto token = std::span(answer_).last(length);
+        return (token[0] == 0xFD || token[0] == 0xFE) && !(token[1] & peer::done::kMore);
+    }
+
+    peer::Bytes sent_;
+    std::size_t piece_;
+    std::size_t place_ = 0;
+    peer::Bytes answer_; ///< as far as it came
+};
+
+peer::Bytes joined(std::initializer_list<peer::Bytes> parts) {
+    peer::Bytes all;
+    for (const peer::Bytes& part : parts)
+        all.insert(all.end(), part.begin(), part.end());
+    return all;
+}
+
+peer::Bytes loginPacket(std::uint32_t version) {
+    return peer::wire::packet(16, peer::wire::kWhole, peer::wire::login("sa", "segreta", "prova", version));
+}
+
+/// The headers of a request of 7.2 and later: the transaction that it runs in.
+peer::Bytes headed(const peer::Bytes& request) {
+    return joined({peer::ByteWriter().u32(22).u32(18).u16(2).u64(0).u32(1).bytes, request});
+}
+
+peer::ByteWriter& wideArgument(peer::ByteWriter& out, std::string_view name, std::string_view text) {
+    const auto bytes = static_cast<std::uint16_t>(peer::toUtf16(text).size() * 2);
+    return out.shortText(name).u8(0).u8(0xE7).u16(8000).raw(peer::Bytes(5, 0)).u16(bytes).ucs2(text);
+}
+
+peer::Bytes call(std::uint16_t procedure, bool handle) {
+    peer::ByteWriter out;
+    out.u16(0xFFFF).u16(procedure).u16(0);
+    if (handle)
+        out.shortText("").u8(1).u8(0x26).u8(4).u8(4).u32(1);
+    if (procedure == 13 || procedure == 11)
+        wideArgument(out, "", "@a nvarchar(20), @b int");
+    if (procedure != 12 && procedure != 15)
+        wideArgument(out, "", "select * from tipi where n = @a or id = @b");
+    if (procedure == 10)
+        wideArgument(out, "", "@a nvarchar(20), @b int");
+    wideArgument(out, "@a", "Città");
+    out.shortText("@b").u8(0).u8(0x26).u8(4).u8(4).u32(1);
+    out.shortText("@c").u8(0).u8(0x6D).u8(8).u8(8).u64(0x3FF8000000000000);
+    out.shortText("@d").u8(0).u8(0xA7).u16(10).raw(peer::Bytes(5, 0)).u16(2).u8('x').u8('y');
+    return std::move(out.bytes);
+}
+
+void writeSeeds(const fs::path& folder) {
+    std::vector<peer::Bytes> requests; // a packet each, without headers
+    for (const char* text :
+         {"select * from tipi", "select 1; select N'x'; print 'detto'", "update tipi set d = d + 1 where id = 1",
+          "insert into tipi (n) values (N'nuovo')", "select * from manca", "begin transaction; rollback transaction",
+          "if @@trancount > 0 commit transaction", "use master", "create database altra", "exec sp_configure"})
+        requests.push_back(joined({{1}, peer::ByteWriter().ucs2(text).bytes}));
+    for (const std::uint16_t procedure : {2, 10, 11, 12, 13, 15})
+        requests.push_back(joined({{3}, call(procedure, procedure != 10)}));
+    for (const std::uint16_t request : {5, 7, 8})
+        requests.push_back(joined({{14}, peer::ByteWriter().u16(request).u16(0).bytes}));
+
+    int number = 0;
+    const auto write = [&](const peer::Bytes& bytes) {
+        std::ofstream file(folder / ("seed" + std::to_string(number++)), std::ios::binary);
+        file.write(reinterpret_cast<const char*>(bytes.data()), static_cast<std::streamsize>(bytes.size()));
+    };
+    for (const peer::Bytes& request : requests) {
+        const peer::Bytes body(request.begin() + 1, request.end());
+        write(joined({{0, 255}, peer::wire::packet(request[0], peer::wire::kWhole, body)}));
+        write(joined({{1, 255}, peer::wire::packet(request[0], peer::wire::kWhole, headed(body))}));
+    }
+    const peer::Bytes greeting =
+        peer::wire::packet(18, peer::wire::kWhole, {0, 0, 11, 0, 6, 1, 0, 17, 0, 1, 0xFF, 9, 0, 0, 0, 0, 0, 0});
+    write(joined({{2, 20}, greeting, loginPacket(kVersions[0]), peer::wire::batch("select * from tipi")}));
+    write(joined({{0, 200}, peer::wire::batch("select * from tipi"), peer::wire::packet(6, peer::wire::kWhole, {})}));
+}
+
+} // namespace
+
+extern "C" int LLVMFuzzerInitialize(int* argc, char*** argv) {
+    for (int i = 1; i < *argc; ++i) {
+        const fs::path folder((*argv)[i]);
+        if (fs::is_directory(folder) && fs::is_empty(folder)) {
+            writeSeeds(folder);
+            break;
+        }
+    }
+    return 0;
+}
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+    static Instance instance;
+    if (size < 2)
+        return 0;
+    peer::Bytes sent;
+    if (data[0] < std::size(kVersions))
+        sent = loginPacket(kVersions[data[0]]);
+    const std::size_t piece = data[1] == 255 ? 16384 : data[1] + 1U;
+    sent.insert(sent.end(), data + 2, data + size);
+    Wire wire(std::move(sent), piece);
+    try {
+        peer::Client(wire, instance.get()).serve();
+    } catch (const peer::ProtocolError&) {
+        return 0;
+    }
+    return 0;
+}

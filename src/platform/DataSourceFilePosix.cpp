@@ -46,13 +46,13 @@ std::string storable(std::string value) {
 fs::path userFile() {
     fs::path file;
     if (const char* chosen = std::getenv("ODBCINI"); chosen != nullptr && *chosen != '\0') {
-        file = chosen;
+        file = fs::absolute(chosen);
     } else if (const passwd* user = ::getpwuid(::getuid()); user != nullptr) {
         file = fs::path(user->pw_dir) / ".odbc.ini";
     }
     const bool isDrivers = std::ranges::any_of(
         kDriversPieces, [&](const char* piece) { return file.string().find(piece) != std::string::npos; });
-    if (!file.is_absolute() || isDrivers)
+    if (file.empty() || isDrivers)
         throw std::runtime_error("The file of data sources can't be kept in \"" + file.string() + "\".");
     return fs::weakly_canonical(file);
 }

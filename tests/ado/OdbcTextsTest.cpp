@@ -1,3 +1,5 @@
+#include "ado/Connection.h"
+#include "ado/Error.h"
 #include "ado/drivers/odbc/OdbcConnection.h"
 #include "ado/drivers/odbc/OdbcDriverName.h"
 #include "ado/drivers/odbc/OdbcSources.h"
@@ -23,12 +25,27 @@ TEST(OdbcDriverName, TakesTheNameAsItStandsElseMicrosoftsNewestElseFreeTds) {
          "ODBC Driver 18 for SQL Server"},
         {"SQL Server", {"SQLite3", "FreeTDS"}, "FreeTDS"},
         {"SQL Server", {"SQLite3"}, "SQL Server"},
+        {"sql server", {"SQLite3", "FreeTDS"}, "FreeTDS"},
+        {"sql server", {"SQLite3"}, "sql server"},
         {"SQL Server", {}, "SQL Server"},
         {"SQLite3", {"FreeTDS", "SQLite3"}, "SQLite3"},
         {"Altro", {"FreeTDS"}, "Altro"},
     };
     for (const Resolution& one : resolutions)
         EXPECT_EQ(resolveDriver(one.name, one.registered), one.resolved);
+}
+
+TEST(OdbcDriverName, OneThatNoManagerCouldHoldIsRefused) {
+    for (const std::size_t length : {900U, 1000U, 1001U, 5000U, 200'000U}) {
+        const std::string name(length, 'x');
+        try {
+            Connection().Open("Driver=" + name + ";Server=127.0.0.1,9;UID=sa;PWD=x;");
+            FAIL() << length;
+        } catch (const Error& error) {
+            EXPECT_EQ(error.number(), kUnspecified);
+            EXPECT_EQ(error.sqlState() == "IM011", length > 1000) << length << " " << error.description();
+        }
+    }
 }
 
 struct Text {

@@ -24,6 +24,13 @@ std::string braced(const std::string& value) {
     return out + "}";
 }
 
+/// unixODBC copies the name to a place of this size on its stack.
+void checkLength(const std::string& driver) {
+    constexpr std::size_t kLongest = 1000;
+    if (driver.size() > kLongest)
+        throw Error(kUnspecified, "Driver name too long", "IM011", 0, {});
+}
+
 int timeoutOf(const ConnectionString& text) {
     for (const char* key : {"Connect Timeout", "Connection Timeout", "Timeout"}) {
         int seconds = 0;
@@ -74,10 +81,11 @@ class Road : public std::enable_shared_from_this<Road> {
 public:
     explicit Road(const ConnectionString& text) : handle_(SQL_HANDLE_DBC, environment()), timeout_(timeoutOf(text)) {
         const std::string driver = resolveDriver(text.value("Driver").value_or(kServerDriver), registeredDrivers());
+        checkLength(driver);
         check(SQLSetConnectAttrW(handle_.get(), SQL_ATTR_LOGIN_TIMEOUT, asPointer(static_cast<unsigned long>(timeout_)),
                                  0),
               handle_, "SQLSetConnectAttr");
-        connect(handle_, toUtf16(driverText(text, driver)));
+    connect(handle_, toUtf16(driverText(text, driver)));
     }
 
     std::unique_ptr<DriverResult> run(std::string_view text) {
@@ -90,10 +98,13 @@ public:
         }
     }
 
-    void beginHold() {
-        if (holds_ == 0)
-            runToEnd("BEGIN TRANSACTION");
-        ++holds_;
+    void beginHold() { ++holds_; }
+    /// The first of several holds begins their transaction, on the way of its own selection.
+    std::unique_ptr<DriverResult> held(std::string_view select) {
+        auto result = run(holds_ == 1 ? "BEGIN TRANSACTION " + std::string(select) : std::string(select));
+        while (result->nextResult() && !result->hasRows()) {
+        }
+        return result;
     }
     /// Committed, never rolled back: what was confirmed meanwhile stays. The rows are free when the last hold ends.
     void endHold() noexcept {
@@ -124,14 +135,23 @@ namespace {
 class OdbcHold : public DriverHold {
 public:
     explicit OdbcHold(std::shared_ptr<Road> road) : road_(std::move(road)) { road_->beginHold(); }
-    ~OdbcHold() override { road_->endHold(); }
+    ~OdbcHold() override {
+        rows_.reset();
+        road_->endHold();
+    }
     OdbcHold(const OdbcHold&) = delete;
     OdbcHold& operator=(const OdbcHold&) = delete;
 
-    std::unique_ptr<DriverResult> run(std::string_view text) override { return road_->run(text); }
+    void select(std::string_view text) { rows_ = road_->held(text); }
+    std::unique_ptr<DriverResult> rows() override { return std::move(rows_); }
+    std::unique_ptr<DriverResult> run(std::string_view text) override {
+        rows_.reset(); // unread ones would keep the connection busy
+        return road_->run(text);
+    }
 
 private:
     std::shared_ptr<Road> road_;
+    std::unique_ptr<DriverResult> rows_;
 };
 
 } // namespace
@@ -155,7 +175,7 @@ void OdbcConnection::nameSources(const std::string& statement, std::vector<Field
 
 std::unique_ptr<DriverHold> OdbcConnection::hold(std::string_view select) {
     auto hold = std::make_unique<OdbcHold>(road_);
-    road_->runToEnd(select);
+    hold->select(select);
     return hold;
 }
 

@@ -1,5 +1,6 @@
 #include "ado/drivers/odbc/OdbcDriverName.h"
 
+#include "ado/Names.h"
 #include "ado/drivers/odbc/OdbcHandles.h"
 
 #include <algorithm>
@@ -35,7 +36,7 @@ std::string resolveDriver(const std::string& name, const std::vector<std::string
     const auto known = [&](const std::string& candidate) {
         return std::ranges::find(registered, candidate) != registered.end();
     };
-    if (name != kServerDriver || known(name))
+    if (!sameName(name, kServerDriver) || known(name))
         return name;
     // A number of more digits is the greater one.
     const auto isNewer = [](const std::string& a, const std::string& b) {

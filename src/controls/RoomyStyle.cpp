@@ -135,7 +135,10 @@ QRect RoomyStyle::subControlRect(ComplexControl control, const QStyleOptionCompl
     if (control == CC_ComboBox && (part == SC_ComboBoxArrow || part == SC_ComboBoxEditField)) {
         QRect arrow = option->rect;
         arrow.setLeft(arrow.right() - kArrowWidth);
-        const QRect field = option->rect.adjusted(2, 2, -kArrowWidth, -2);
+        // The field of an editable one brings its own padding.
+        const auto* combo = qstyleoption_cast<const QStyleOptionComboBox*>(option);
+        const int padding = combo != nullptr && combo->editable ? 0 : kTextPadding;
+        const QRect field = option->rect.adjusted(2 + padding, 2, -kArrowWidth, -2);
         return visualRect(option->direction, option->rect, part == SC_ComboBoxArrow ? arrow : field);
     }
     return QProxyStyle::subControlRect(control, option, part, widget);

@@ -20,8 +20,9 @@ TEST(Tour, LeavesAPictureOfEveryFormInThreeKinds) {
     const support::TemporaryFolder folder;
     HelperProcess tour("vabo-tour", {workstation.driveC().root().string(), folder.path().string()});
     ASSERT_EQ(tour.finish(), 0);
-    for (const char* name : {"01-avvio", "02-login", "03-login-password", "04-messaggio", "05-console",
-                             "06-console-elenco", "07-collegamenti"}) {
+    for (const char* name :
+         {"01-avvio", "02-login", "03-login-password", "04-messaggio", "05-console", "06-console-elenco",
+          "07-collegamenti", "17-registra-aziende", "18-registra-aziende-fonte"}) {
         const QImage plain = picture(folder.path(), name);
         ASSERT_FALSE(plain.isNull()) << name;
         const QImage large = picture(folder.path(), std::string(name) + "-200");

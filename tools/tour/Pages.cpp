@@ -62,10 +62,20 @@ void links(Tour& tour) {
     tour.forms().unload("FormRefreshLinks");
 }
 
+void dataSources(Tour& tour) {
+    const char* const form = "FormRegistraAziendeNeiDns";
+    tour.show(form);
+    tour.take("17-registra-aziende", form);
+    Tour::press(tour.control(form, "cboDSNList"), Qt::Key_Down);
+    tour.take("18-registra-aziende-fonte", form);
+    tour.forms().unload(form);
+    Tour::settle();
+}
+
 } // namespace
 
 void walk(Tour& tour) {
-    for (const auto page : {start, login, box, console, links, generalTables})
+    for (const auto page : {start, login, box, console, links, generalTables, dataSources})
         page(tour);
 }
 

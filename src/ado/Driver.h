@@ -62,6 +62,8 @@ public:
 class DriverHold {
 public:
     virtual ~DriverHold() = default;
+    /// The held rows as they are now, at their result: asked for once, read before anything else is run.
+    virtual std::unique_ptr<DriverResult> rows() = 0;
     virtual std::unique_ptr<DriverResult> run(std::string_view text) = 0;
 };
 
@@ -73,7 +75,8 @@ public:
     virtual std::string holdingHint() const { return {}; }
     /// Names the table and the columns that the fields of a selection come from, where its result didn't.
     virtual void nameSources(const std::string& /*statement*/, std::vector<FieldDescription>& /*fields*/) {}
-    /// Holds the rows that a SELECT on one table finds; throws at once when somebody else holds one (native 1222).
+    /// Holds the rows that a SELECT on one table finds; throws at once when somebody else holds one (native 1222), a
+    /// server that tells it late when the rows are read.
     virtual std::unique_ptr<DriverHold> hold(std::string_view select) = 0;
     /// The identity given by this connection's last INSERT, 0 where none.
     virtual std::int64_t lastIdentity() = 0;

@@ -2,6 +2,7 @@
 #include "ado/RecordsetState.h"
 #include "ado/Source.h"
 
+#include <algorithm>
 #include <utility>
 
 namespace ado {
@@ -20,7 +21,8 @@ const RowStatements& Recordset::State::edits() {
     const auto table = RowStatements::baseTable(fields);
     if (!table)
         throw Error(kNotUpdatable);
-    statements.emplace(fields, *table, road->primaryKey(*table));
+    const bool byIdentity = std::ranges::any_of(fields, &FieldDescription::identity);
+    statements.emplace(fields, *table, byIdentity ? std::vector<std::string>() : road->primaryKey(*table));
     return *statements;
 }
 
@@ -55,7 +57,7 @@ void Recordset::State::holdRow() {
     try {
         recordStatement(select);
         hold = road->hold(select);
-        readAgain(select);
+        readHeldRow();
     } catch (Error& error) {
         hold.reset();
         error.during(select);
@@ -63,14 +65,12 @@ void Recordset::State::holdRow() {
     }
 }
 
-void Recordset::State::readAgain(const std::string& select) {
-    const auto result = send(select);
+void Recordset::State::readHeldRow() {
     std::vector<FieldDescription> columns;
     for (const int column : edits().readColumns())
         columns.push_back(fields[static_cast<std::size_t>(column)]);
     RowStore found(columns);
-    if (result->nextResult())
-        found.fetch(*result);
+    found.fetch(*hold->rows());
     if (found.rows() == 0)
         throw Error(kRowChanged);
     for (int i = 0; i < static_cast<int>(columns.size()); ++i)

@@ -64,7 +64,7 @@ private:
     const RowStatements& edits();
     std::unique_ptr<DriverResult> send(const std::string& text);
     void holdRow();
-    void readAgain(const std::string& select);
+    void readHeldRow();
     void storeChanges();
     void storeNewRow();
     void endEdit();

@@ -116,6 +116,20 @@ TEST_F(OdbcFailures, AServerThatEndsInTheMiddleOfAResultGivesAnError) {
     expectWorks(connection);
 }
 
+TEST_F(OdbcFailures, ConnectionsKeptForLaterAreNotTrustedWhenTheirServerWasAnother) {
+    fill(connection);
+    Connection more[3];
+    for (Connection& one : more)
+        one.Open(text());
+    for (Connection& one : more)
+        one.Close();
+    connection.Close();
+    peer.kill();
+    peer.restart();
+    for (Connection& one : more)
+        expectWorks(one);
+}
+
 TEST_F(OdbcFailures, AHoldWhoseServerEndedIsGivenUpWithoutWaiting) {
     fill(connection);
     auto hold = connection.road()->hold("SELECT n FROM Prova WITH (UPDLOCK, ROWLOCK) WHERE n = 1");

@@ -114,8 +114,6 @@ void Client::skipHeaders(ByteReader& in) const {
 
 void Client::batchMessage(ByteReader in) {
     run(in.ucs2(in.left() / 2));
-    if (!held_ && !stopped_) // nothing to do is an answer, too
-        statementDone({done::kFinal, 0});
     if (!held_) // nothing ran, and the client waits for an end all the same
         statementDone({done::kFinal, 0});
 }

@@ -111,14 +111,20 @@ std::unique_ptr<DriverResult> runOn(const SessionPtr& session, std::string_view 
 /// This session's own writes pass its holds, so a text may go the usual road.
 class EmbeddedHold : public DriverHold {
 public:
-    EmbeddedHold(SessionPtr session, std::unique_ptr<engine::RowHold> rows)
-        : session_(std::move(session)), rows_(std::move(rows)) {}
+    EmbeddedHold(SessionPtr session, std::unique_ptr<engine::RowHold> rows, std::string_view select)
+        : session_(std::move(session)), rows_(std::move(rows)), select_(select) {}
 
+    std::unique_ptr<DriverResult> rows() override {
+        auto result = runOn(session_, select_);
+        result->nextResult();
+        return result;
+    }
     std::unique_ptr<DriverResult> run(std::string_view text) override { return runOn(session_, text); }
 
 private:
     SessionPtr session_;
     std::unique_ptr<engine::RowHold> rows_;
+    std::string select_;
 };
 
 class EmbeddedConnection : public DriverConnection {
@@ -128,7 +134,7 @@ public:
     std::unique_ptr<DriverResult> run(std::string_view text) override { return runOn(session_, text); }
 
     std::unique_ptr<DriverHold> hold(std::string_view select) override {
-        return std::make_unique<EmbeddedHold>(session_, translated([&] { return session_->hold(select); }));
+        return std::make_unique<EmbeddedHold>(session_, translated([&] { return session_->hold(select); }), select);
     }
 
     std::int64_t lastIdentity() override { return session_->lastIdentity(); }

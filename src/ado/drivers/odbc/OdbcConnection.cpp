@@ -47,6 +47,11 @@ bool isOutOfReach(const Error& error) {
     return std::ranges::find(kStates, error.sqlState()) != std::end(kStates);
 }
 
+Error outOfReach(const Error& error) {
+    Error told(kUnspecified, "Server does not exist or access denied.", "08001", error.nativeError(), {});
+    return told.in(error.description()).in(error.context());
+}
+
 void connect(const Handle& connection, std::u16string text) {
     try {
         check(SQLDriverConnectW(connection.get(), nullptr, reinterpret_cast<SQLWCHAR*>(text.data()),
@@ -55,9 +60,7 @@ void connect(const Handle& connection, std::u16string text) {
     } catch (const Error& error) {
         if (!isOutOfReach(error))
             throw;
-        throw Error(kUnspecified, "Server does not exist or access denied.", "08001", error.nativeError(), {})
-            .in(error.description())
-            .in(error.context());
+        throw outOfReach(error);
     }
 }
 
@@ -85,7 +88,7 @@ public:
         check(SQLSetConnectAttrW(handle_.get(), SQL_ATTR_LOGIN_TIMEOUT, asPointer(static_cast<unsigned long>(timeout_)),
                                  0),
               handle_, "SQLSetConnectAttr");
-    connect(handle_, toUtf16(driverText(text, driver)));
+        connect(handle_, toUtf16(driverText(text, driver)));
     }
 
     std::unique_ptr<DriverResult> run(std::string_view text) {
@@ -131,6 +134,25 @@ private:
 
 namespace {
 
+/// A connection on which a row that somebody else holds is refused at once. One that the driver manager kept may have
+/// lost its server meanwhile, which this first statement tells: then the next one is taken, at last a new one.
+std::shared_ptr<Road> preparedRoad(const ConnectionString& text) {
+    constexpr int kMostKept = 100;
+    for (int kept = 0;; ++kept) {
+        auto road = std::make_shared<Road>(text);
+        try {
+            road->runToEnd("SET LOCK_TIMEOUT 0");
+            return road;
+        } catch (const Error& error) {
+            const bool silent = error.sqlState() == "HYT00";
+            if (road->alive() && !silent)
+                throw;
+            if (silent || kept == kMostKept)
+                throw outOfReach(error);
+        }
+    }
+}
+
 /// A row lock of an open transaction.
 class OdbcHold : public DriverHold {
 public:
@@ -156,10 +178,7 @@ private:
 
 } // namespace
 
-OdbcConnection::OdbcConnection(const ConnectionString& text) : road_(std::make_shared<Road>(text)) {
-    // A row that somebody else holds is refused at once.
-    road_->runToEnd("SET LOCK_TIMEOUT 0");
-}
+OdbcConnection::OdbcConnection(const ConnectionString& text) : road_(preparedRoad(text)) {}
 
 std::unique_ptr<DriverResult> OdbcConnection::run(std::string_view text) {
     return road_->run(text);

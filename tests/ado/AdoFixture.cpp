@@ -1,72 +1,11 @@
 #include "ado/AdoFixture.h"
 
 #include "ado/Conversions.h"
-#include "ado/Drivers.h"
-#include "ado/Peer.h"
-#include "engine/Instance.h"
-#include "support/TemporaryFolder.h"
-
-#include <filesystem>
 
 namespace ado::test {
 
-namespace {
-
-/// The embedded server in a temporary folder.
-class EmbeddedServer : public TestServer {
-public:
-    EmbeddedServer() {
-        std::filesystem::create_directories(instances());
-        const auto mapPath = [this](std::string_view path) { return folder_.path() / path; };
-        instance_ = engine::Instance::create(instances() / "PROVA$sqlexpress", {mapPath});
-        instance_->addLogin("sa", "segreta");
-        setEmbeddedHome({[this] { return instances(); }, mapPath});
-        Connection master;
-        master.Open(connectionString("master"));
-        master.Execute("CREATE DATABASE Vabodati");
-    }
-    ~EmbeddedServer() override { setEmbeddedHome({}); }
-
-    std::string connectionString() const override { return connectionString("Vabodati"); }
-    std::string connectionString(const std::string& database) const override {
-        return "Driver=SQL Server;Server=PROVA\\sqlexpress;UID=sa;PWD=segreta;DATABase=" + database;
-    }
-    std::vector<std::string> helperArguments() const override { return {instances().string(), connectionString()}; }
-
-private:
-    std::filesystem::path instances() const { return folder_.path() / "istanze"; }
-
-    support::TemporaryFolder folder_;
-    std::shared_ptr<engine::Instance> instance_;
-};
-
-/// A server behind the wire, in a process of its own.
-class WireServer : public TestServer {
-public:
-    std::string connectionString() const override { return connectionString("Vabodati"); }
-    std::string connectionString(const std::string& database) const override {
-        return peer_.connectionString() + "DATABase=" + database;
-    }
-    std::vector<std::string> helperArguments() const override { return {peer_.folder().string(), connectionString()}; }
-
-private:
-    Peer peer_;
-};
-
-template<typename Server>
-std::unique_ptr<TestServer> make() {
-    return std::make_unique<Server>();
-}
-
-} // namespace
-
-std::vector<ServerUnderTest> serversUnderTest() {
-    return {{"embedded", &make<EmbeddedServer>, {}}, {"wire", &make<WireServer>, kWireCapabilities}};
-}
-
 void Contract::SetUp() {
-    server = GetParam().make();
-    connection.Open(server->connectionString());
+    connection.Open(server.connectionString());
     connection.Execute("CREATE TABLE Comuni (id int IDENTITY (1, 1) NOT NULL PRIMARY KEY, nome nvarchar(20) NOT NULL, "
                        "cap nvarchar(5) NULL DEFAULT '00000', abitanti int NULL, sede bit NOT NULL DEFAULT 0)");
     connection.Execute("INSERT INTO Comuni (nome, cap, abitanti, sede) VALUES ('Roma', '00118', 2800000, 1), "

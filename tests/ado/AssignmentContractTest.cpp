@@ -12,7 +12,6 @@ using test::errorOf;
 using test::raises;
 
 class Assigning : public Contract {};
-FOR_EVERY_SERVER(Assigning);
 
 struct Assignment {
     const char* column;
@@ -103,7 +102,7 @@ const Assignment kAssignments[] = {
     {"data", Value(), Null{}},
 };
 
-TEST_P(Assigning, KeepsWhatFitsAndRefusesTheRestAtOnce) {
+TEST_F(Assigning, KeepsWhatFitsAndRefusesTheRestAtOnce) {
     connection.Execute("update Tipi set intero = 5, doppio = 5, testo = 'prima', data = '20040101'");
     for (const Assignment& assignment : kAssignments) {
         const std::string label =
@@ -126,7 +125,7 @@ TEST_P(Assigning, KeepsWhatFitsAndRefusesTheRestAtOnce) {
     }
 }
 
-TEST_P(Assigning, ATextWithoutLimitTakesAnyLength) {
+TEST_F(Assigning, ATextWithoutLimitTakesAnyLength) {
     Recordset rs;
     open(rs, "Tipi");
     const std::string text(20'000, 'x');
@@ -136,7 +135,7 @@ TEST_P(Assigning, ATextWithoutLimitTakesAnyLength) {
     EXPECT_EQ(rs["lungo"].Value(), Value(text));
 }
 
-TEST_P(Assigning, ARefusedValueTellsItsColumnAndLeavesNoEdit) {
+TEST_F(Assigning, ARefusedValueTellsItsColumnAndLeavesNoEdit) {
     Recordset rs;
     open(rs, "Tipi");
     const auto error = errorOf([&] { rs["intero"] = "abc"; });
@@ -146,7 +145,7 @@ TEST_P(Assigning, ARefusedValueTellsItsColumnAndLeavesNoEdit) {
     rs.Close();
 }
 
-TEST_P(Assigning, ARefusedValueLeavesTheOthersOfTheEdit) {
+TEST_F(Assigning, ARefusedValueLeavesTheOthersOfTheEdit) {
     Recordset rs;
     open(rs, "Tipi");
     rs["testo"] = "uno";

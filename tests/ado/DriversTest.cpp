@@ -1,7 +1,8 @@
 #include "ado/Drivers.h"
 
-#include "ado/AdoFixture.h"
+#include "ado/Connection.h"
 #include "ado/ConnectionString.h"
+#include "ado/ExpectError.h"
 #include "engine/Instance.h"
 #include "support/TemporaryFolder.h"
 

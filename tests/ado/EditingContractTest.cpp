@@ -13,9 +13,8 @@ using test::Recorder;
 using Texts = std::vector<std::string>;
 
 class Editing : public Contract {};
-FOR_EVERY_SERVER(Editing);
 
-TEST_P(Editing, AnUpdateSendsTheTouchedColumnsByTheIdentity) {
+TEST_F(Editing, AnUpdateSendsTheTouchedColumnsByTheIdentity) {
     Recordset rs;
     open(rs);
     rs.MoveNext();
@@ -30,7 +29,7 @@ TEST_P(Editing, AnUpdateSendsTheTouchedColumnsByTheIdentity) {
     EXPECT_EQ(cell("select cap, sede, nome from Comuni where id = 2"), "20100|Vero|Milano");
 }
 
-TEST_P(Editing, UpdateWithNothingPendingSendsNothing) {
+TEST_F(Editing, UpdateWithNothingPendingSendsNothing) {
     Recordset rs;
     open(rs);
     const Recorder recorder;
@@ -38,7 +37,7 @@ TEST_P(Editing, UpdateWithNothingPendingSendsNothing) {
     EXPECT_TRUE(recorder.texts.empty());
 }
 
-TEST_P(Editing, APrimaryKeyServesWhereThereIsNoIdentity) {
+TEST_F(Editing, APrimaryKeyServesWhereThereIsNoIdentity) {
     Recordset rs;
     open(rs, "select testo, id from Tipi");
     const Recorder recorder;
@@ -48,7 +47,7 @@ TEST_P(Editing, APrimaryKeyServesWhereThereIsNoIdentity) {
     EXPECT_EQ(cell("select testo from Tipi"), "l'ora");
 }
 
-TEST_P(Editing, TheKeyItselfCanBeChanged) {
+TEST_F(Editing, TheKeyItselfCanBeChanged) {
     Recordset rs;
     open(rs, "Tipi");
     rs["id"] = 5;
@@ -60,7 +59,7 @@ TEST_P(Editing, TheKeyItselfCanBeChanged) {
     EXPECT_EQ(cell("select id, intero from Tipi"), "5|9");
 }
 
-TEST_P(Editing, AllValuesServeWhereTheKeyIsNotWhole) {
+TEST_F(Editing, AllValuesServeWhereTheKeyIsNotWhole) {
     connection.Execute("CREATE TABLE Coppie (a int NOT NULL, b int NOT NULL, c nvarchar(5) NULL, PRIMARY KEY (a, b))");
     connection.Execute("INSERT INTO Coppie (a, b, c) VALUES (1, 1, 'x'), (1, 2, NULL)");
     Recordset rs;
@@ -76,7 +75,7 @@ TEST_P(Editing, AllValuesServeWhereTheKeyIsNotWhole) {
     EXPECT_EQ(rowsOf("select a, b, c from Coppie order by b"), (Texts{"1|1|z", "1|2|w"}));
 }
 
-TEST_P(Editing, AWholeKeyOfTwoColumnsServes) {
+TEST_F(Editing, AWholeKeyOfTwoColumnsServes) {
     connection.Execute("CREATE TABLE Coppie (a int NOT NULL, b int NOT NULL, c int NULL, PRIMARY KEY (a, b))");
     connection.Execute("INSERT INTO Coppie (a, b) VALUES (1, 2)");
     Recordset rs;
@@ -87,7 +86,7 @@ TEST_P(Editing, AWholeKeyOfTwoColumnsServes) {
     EXPECT_EQ(recorder.texts, Texts{"UPDATE [Coppie] SET [c] = 3 WHERE [a] = 1 AND [b] = 2"});
 }
 
-TEST_P(Editing, EveryTypeIsWrittenSoThatItReadsBack) {
+TEST_F(Editing, EveryTypeIsWrittenSoThatItReadsBack) {
     connection.Execute("CREATE TABLE Senza (logico bit, ottetto tinyint, corto smallint, grande bigint, doppio float, "
                        "decimale decimal(10,2), denaro money, data datetime, stretto varchar(20), testo nvarchar(20))");
     Recordset rs;
@@ -119,7 +118,7 @@ TEST_P(Editing, EveryTypeIsWrittenSoThatItReadsBack) {
               "Falso|7|-32768|-9000000000|0,1|-0,05|-0,0005|07/03/2004 08:05:09|a'b|perché 'sì'");
 }
 
-TEST_P(Editing, ANewRowBecomesCurrentWithItsIdentityAndStaysAtTheEnd) {
+TEST_F(Editing, ANewRowBecomesCurrentWithItsIdentityAndStaysAtTheEnd) {
     Recordset rs;
     open(rs, "select * from Comuni order by nome");
     const Recorder recorder;
@@ -145,7 +144,7 @@ TEST_P(Editing, ANewRowBecomesCurrentWithItsIdentityAndStaysAtTheEnd) {
     EXPECT_EQ(display(rs["id"]), "5");
 }
 
-TEST_P(Editing, DefaultsOfUntouchedColumnsShowAfterARequery) {
+TEST_F(Editing, DefaultsOfUntouchedColumnsShowAfterARequery) {
     Recordset rs;
     open(rs);
     rs.AddNew();
@@ -157,7 +156,7 @@ TEST_P(Editing, DefaultsOfUntouchedColumnsShowAfterARequery) {
     EXPECT_EQ(rs["sede"].Value(), Value(false));
 }
 
-TEST_P(Editing, ANewRowWithNothingTouchedIsAllDefaults) {
+TEST_F(Editing, ANewRowWithNothingTouchedIsAllDefaults) {
     connection.Execute("CREATE TABLE Contatori (id int IDENTITY (10, 5) NOT NULL PRIMARY KEY, n int NULL DEFAULT 7)");
     Recordset rs;
     open(rs, "Contatori");
@@ -169,7 +168,7 @@ TEST_P(Editing, ANewRowWithNothingTouchedIsAllDefaults) {
     EXPECT_EQ(cell("select id, n from Contatori"), "10|7");
 }
 
-TEST_P(Editing, AddNewInAPendingEditUpdatesFirst) {
+TEST_F(Editing, AddNewInAPendingEditUpdatesFirst) {
     Recordset rs;
     open(rs);
     rs["cap"] = "1";
@@ -182,7 +181,7 @@ TEST_P(Editing, AddNewInAPendingEditUpdatesFirst) {
     EXPECT_EQ(rowsOf("select nome from Comuni where id > 4 order by id"), (Texts{"Pisa", "Lucca"}));
 }
 
-TEST_P(Editing, CancelUpdateGivesTheOldValuesAndTheOldRowBack) {
+TEST_F(Editing, CancelUpdateGivesTheOldValuesAndTheOldRowBack) {
     Recordset rs;
     open(rs);
     rs.MoveNext();
@@ -199,7 +198,7 @@ TEST_P(Editing, CancelUpdateGivesTheOldValuesAndTheOldRowBack) {
     EXPECT_EQ(cell("select count(*) from Comuni where nome in ('Altro', 'Pisa')"), "0");
 }
 
-TEST_P(Editing, MovingAwayUpdates) {
+TEST_F(Editing, MovingAwayUpdates) {
     Recordset rs;
     open(rs);
     rs["cap"] = "1";
@@ -211,7 +210,7 @@ TEST_P(Editing, MovingAwayUpdates) {
     EXPECT_EQ(rowsOf("select cap from Comuni where id < 3 order by id"), (Texts{"1", "2"}));
 }
 
-TEST_P(Editing, WhereTheUpdateFailsTheMoveRaisesAndAllStays) {
+TEST_F(Editing, WhereTheUpdateFailsTheMoveRaisesAndAllStays) {
     Recordset rs;
     open(rs);
     rs["nome"] = Null{};
@@ -226,7 +225,7 @@ TEST_P(Editing, WhereTheUpdateFailsTheMoveRaisesAndAllStays) {
     EXPECT_EQ(cell("select cap from Comuni where id = 1"), "9");
 }
 
-TEST_P(Editing, ANullWhereNoneMayStandIsRefusedAtUpdateInTheServersWords) {
+TEST_F(Editing, ANullWhereNoneMayStandIsRefusedAtUpdateInTheServersWords) {
     Recordset rs;
     open(rs);
     rs["nome"] = Null{};
@@ -247,7 +246,7 @@ TEST_P(Editing, ANullWhereNoneMayStandIsRefusedAtUpdateInTheServersWords) {
     EXPECT_EQ(cell("select count(*) from Comuni"), "5");
 }
 
-TEST_P(Editing, ADuplicateKeyIsRefusedAtUpdate) {
+TEST_F(Editing, ADuplicateKeyIsRefusedAtUpdate) {
     Recordset rs;
     open(rs, "Tipi");
     rs.AddNew();
@@ -260,7 +259,7 @@ TEST_P(Editing, ADuplicateKeyIsRefusedAtUpdate) {
     EXPECT_EQ(rowsOf("select id from Tipi order by id"), (Texts{"1", "2"}));
 }
 
-TEST_P(Editing, AClosingWithAPendingEditIsNotAllowed) {
+TEST_F(Editing, AClosingWithAPendingEditIsNotAllowed) {
     Recordset rs;
     open(rs);
     rs["cap"] = "1";
@@ -272,7 +271,7 @@ TEST_P(Editing, AClosingWithAPendingEditIsNotAllowed) {
     EXPECT_EQ(cell("select cap from Comuni where id = 1"), "00118");
 }
 
-TEST_P(Editing, ARecordsetGivenUpDropsItsEdit) {
+TEST_F(Editing, ARecordsetGivenUpDropsItsEdit) {
     {
         Recordset rs;
         open(rs, "Comuni", CursorType::Keyset, LockType::Pessimistic);
@@ -281,7 +280,7 @@ TEST_P(Editing, ARecordsetGivenUpDropsItsEdit) {
     EXPECT_EQ(cell("select cap from Comuni where id = 1"), "00118");
 }
 
-TEST_P(Editing, ARowThatIsGoneCannotBeLocated) {
+TEST_F(Editing, ARowThatIsGoneCannotBeLocated) {
     Recordset rs;
     open(rs);
     connection.Execute("delete from Comuni where id = 1");
@@ -295,7 +294,7 @@ TEST_P(Editing, ARowThatIsGoneCannotBeLocated) {
     EXPECT_EQ(display(rs["cap"]), "00118");
 }
 
-TEST_P(Editing, WhatCannotBeUpdatedSaysSo) {
+TEST_F(Editing, WhatCannotBeUpdatedSaysSo) {
     struct ReadOnly {
         const char* source;
         LockType lock;
@@ -321,7 +320,7 @@ TEST_P(Editing, WhatCannotBeUpdatedSaysSo) {
     EXPECT_EQ(cell("select count(*) from Comuni where nome = 'x'"), "0");
 }
 
-TEST_P(Editing, AComputedColumnAndAnIdentityTakeNoValue) {
+TEST_F(Editing, AComputedColumnAndAnIdentityTakeNoValue) {
     Recordset rs;
     open(rs, "select id, nome, abitanti + 1 as dopo from Comuni order by id");
     EXPECT_TRUE(raises(kMultipleStep, [&] { rs["dopo"] = 1; }));
@@ -331,7 +330,7 @@ TEST_P(Editing, AComputedColumnAndAnIdentityTakeNoValue) {
     EXPECT_EQ(cell("select nome from Comuni where id = 1"), "ROMA");
 }
 
-TEST_P(Editing, ANewRowStandsAlsoWhereTheFilterWouldNotAdmitIt) {
+TEST_F(Editing, ANewRowStandsAlsoWhereTheFilterWouldNotAdmitIt) {
     Recordset rs;
     open(rs);
     rs.setFilter("id < 3");
@@ -342,7 +341,7 @@ TEST_P(Editing, ANewRowStandsAlsoWhereTheFilterWouldNotAdmitIt) {
     EXPECT_EQ(rs.AbsolutePosition(), 3);
 }
 
-TEST_P(Editing, AFieldTakesTheValueOfAnother) {
+TEST_F(Editing, AFieldTakesTheValueOfAnother) {
     Recordset rs;
     open(rs);
     rs["cap"] = rs["nome"];

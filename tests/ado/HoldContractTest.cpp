@@ -16,7 +16,7 @@ class Holding : public Contract {
 protected:
     void SetUp() override {
         Contract::SetUp();
-        other.Open(server->connectionString());
+        other.Open(server.connectionString());
     }
 
     void openHolding(Recordset& rs, Connection& on, const std::string& source = "select * from Comuni order by id") {
@@ -33,9 +33,8 @@ protected:
 
     Connection other;
 };
-FOR_EVERY_SERVER(Holding);
 
-TEST_P(Holding, FromTheFirstAssignmentNobodyElseWritesTheRow) {
+TEST_F(Holding, FromTheFirstAssignmentNobodyElseWritesTheRow) {
     Recordset mine;
     openHolding(mine, connection);
     other.Execute("update Comuni set cap = '1' where id = 1");
@@ -48,7 +47,7 @@ TEST_P(Holding, FromTheFirstAssignmentNobodyElseWritesTheRow) {
     EXPECT_EQ(cell("select cap, abitanti from Comuni where id = 1"), "3|3");
 }
 
-TEST_P(Holding, ASecondHolderIsRefusedAtOnceAndItsFieldUnchanged) {
+TEST_F(Holding, ASecondHolderIsRefusedAtOnceAndItsFieldUnchanged) {
     Recordset mine, theirs;
     openHolding(mine, connection);
     openHolding(theirs, other);
@@ -66,7 +65,7 @@ TEST_P(Holding, ASecondHolderIsRefusedAtOnceAndItsFieldUnchanged) {
     EXPECT_EQ(cell("select cap, abitanti from Comuni where id = 1"), "1|1");
 }
 
-TEST_P(Holding, EndsWithCancelWithCloseAndWithTheRecordset) {
+TEST_F(Holding, EndsWithCancelWithCloseAndWithTheRecordset) {
     const auto write = [&] { other.Execute("update Comuni set cap = '7' where id = 1"); };
     auto mine = std::make_unique<Recordset>();
     openHolding(*mine, connection);
@@ -81,7 +80,7 @@ TEST_P(Holding, EndsWithCancelWithCloseAndWithTheRecordset) {
     EXPECT_EQ(cell("select cap from Comuni where id = 1"), "7");
 }
 
-TEST_P(Holding, AHeldRowCanStillBeRead) {
+TEST_F(Holding, AHeldRowCanStillBeRead) {
     Recordset mine, theirs;
     openHolding(mine, connection);
     mine["cap"] = "1";
@@ -89,7 +88,7 @@ TEST_P(Holding, AHeldRowCanStillBeRead) {
     EXPECT_EQ(display(theirs["cap"]), "00118");
 }
 
-TEST_P(Holding, SendsTheRowsSelectionAndReadsTheRowFromIt) {
+TEST_F(Holding, SendsTheRowsSelectionAndReadsTheRowFromIt) {
     Recordset mine;
     openHolding(mine, connection, "select id, cap from Comuni order by id");
     const Recorder recorder;
@@ -97,11 +96,11 @@ TEST_P(Holding, SendsTheRowsSelectionAndReadsTheRowFromIt) {
     mine["cap"] = "2";
     mine.Update();
     const std::string select =
-        std::string("SELECT [id], [cap] FROM [Comuni]") + GetParam().capabilities.holdingHint + " WHERE [id] = 1";
+        std::string("SELECT [id], [cap] FROM [Comuni]") + support::capabilities().holdingHint + " WHERE [id] = 1";
     EXPECT_EQ(recorder.texts, (Texts{select, "UPDATE [Comuni] SET [cap] = N'2' WHERE [id] = 1"}));
 }
 
-TEST_P(Holding, ARowThatIsGoneCannotBeHeld) {
+TEST_F(Holding, ARowThatIsGoneCannotBeHeld) {
     Recordset mine;
     openHolding(mine, connection);
     other.Execute("delete from Comuni where id = 1");
@@ -111,7 +110,7 @@ TEST_P(Holding, ARowThatIsGoneCannotBeHeld) {
     mine.Update();
 }
 
-TEST_P(Holding, AnOptimisticEditHoldsNothing) {
+TEST_F(Holding, AnOptimisticEditHoldsNothing) {
     Recordset mine;
     open(mine);
     mine["cap"] = "1";
@@ -120,8 +119,8 @@ TEST_P(Holding, AnOptimisticEditHoldsNothing) {
     EXPECT_EQ(cell("select cap, abitanti from Comuni where id = 1"), "1|9");
 }
 
-TEST_P(Holding, BindsOtherProcessesAndEndsWithTheirs) {
-    support::HelperProcess helper("ado_hold_helper", server->helperArguments());
+TEST_F(Holding, BindsOtherProcessesAndEndsWithTheirs) {
+    support::HelperProcess helper("ado_hold_helper", server.helperArguments());
     ASSERT_EQ(helper.readLine(), "ready");
     helper.writeLine("hold 1");
     ASSERT_EQ(helper.readLine(), "held");
@@ -149,7 +148,7 @@ TEST_P(Holding, BindsOtherProcessesAndEndsWithTheirs) {
     expectRefused([&] { connection.Execute("update Comuni set abitanti = 6 where id = 1"); });
     helper.kill();
     const auto write = [&] { connection.Execute("update Comuni set abitanti = 7 where id = 1"); };
-    for (int tries = 0; !GetParam().capabilities.holdEndsAtOnceWithItsProcess && tries < 10000 && errorOf(write);)
+    for (int tries = 0; !support::capabilities().holdEndsAtOnceWithItsProcess && tries < 10000 && errorOf(write);)
         ++tries;
     write();
     EXPECT_EQ(cell("select cap, abitanti from Comuni where id = 1"), "11111|7");

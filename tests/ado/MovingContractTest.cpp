@@ -8,7 +8,6 @@ using test::display;
 using test::raises;
 
 class Moving : public Contract {};
-FOR_EVERY_SERVER(Moving);
 
 enum class At { First, Bof, Eof, Empty };
 
@@ -55,7 +54,7 @@ const MoveCase kMoves[] = {
     {"row, to 3", At::First, [](Recordset& rs) { rs.setAbsolutePosition(3); }, false, 3},
 };
 
-TEST_P(Moving, FollowsTheTableOfStates) {
+TEST_F(Moving, FollowsTheTableOfStates) {
     for (const MoveCase& step : kMoves) {
         Recordset rs;
         open(rs, step.state == At::Empty ? "select * from Comuni where id = 0" : "select * from Comuni order by id");
@@ -73,7 +72,7 @@ TEST_P(Moving, FollowsTheTableOfStates) {
     }
 }
 
-TEST_P(Moving, PastTheLastRowIsTheEndAndOnceMoreRaises) {
+TEST_F(Moving, PastTheLastRowIsTheEndAndOnceMoreRaises) {
     Recordset rs;
     open(rs);
     int rows = 0;
@@ -85,7 +84,7 @@ TEST_P(Moving, PastTheLastRowIsTheEndAndOnceMoreRaises) {
     EXPECT_TRUE(rs.EOF());
 }
 
-TEST_P(Moving, TheNthRecordFromTheFirstStandsOneBehindItsNumber) {
+TEST_F(Moving, TheNthRecordFromTheFirstStandsOneBehindItsNumber) {
     Recordset rs;
     open(rs);
     const long position = rs.AbsolutePosition();
@@ -93,7 +92,7 @@ TEST_P(Moving, TheNthRecordFromTheFirstStandsOneBehindItsNumber) {
     EXPECT_EQ(display(rs["nome"]), "Milano");
 }
 
-TEST_P(Moving, CountsAndPositionsAreKnownToTheCursorsThatKnowThem) {
+TEST_F(Moving, CountsAndPositionsAreKnownToTheCursorsThatKnowThem) {
     for (const CursorType type : {CursorType::Keyset, CursorType::Static}) {
         Recordset rs;
         open(rs, "select * from Comuni order by id", type);
@@ -110,7 +109,7 @@ TEST_P(Moving, CountsAndPositionsAreKnownToTheCursorsThatKnowThem) {
     }
 }
 
-TEST_P(Moving, AForwardOnlyCursorGoesForwardAndToTheFirst) {
+TEST_F(Moving, AForwardOnlyCursorGoesForwardAndToTheFirst) {
     Recordset rs;
     open(rs, "select * from Comuni order by id", CursorType::ForwardOnly);
     rs.MoveNext();
@@ -126,7 +125,7 @@ TEST_P(Moving, AForwardOnlyCursorGoesForwardAndToTheFirst) {
     EXPECT_EQ(display(rs["id"]), "1");
 }
 
-TEST_P(Moving, APositionThatIsNotThereIsAWrongArgument) {
+TEST_F(Moving, APositionThatIsNotThereIsAWrongArgument) {
     Recordset rs;
     open(rs);
     EXPECT_TRUE(raises(kWrongArguments, [&] { rs.setAbsolutePosition(0); }));
@@ -134,7 +133,7 @@ TEST_P(Moving, APositionThatIsNotThereIsAWrongArgument) {
     EXPECT_EQ(rs.AbsolutePosition(), 1);
 }
 
-TEST_P(Moving, AFilterLeavesItsRowsAndItsPositions) {
+TEST_F(Moving, AFilterLeavesItsRowsAndItsPositions) {
     Recordset rs;
     open(rs);
     rs.MoveLast();
@@ -153,7 +152,7 @@ TEST_P(Moving, AFilterLeavesItsRowsAndItsPositions) {
     EXPECT_EQ(display(rs["nome"]), "Roma");
 }
 
-TEST_P(Moving, AFilterThatNothingMeetsIsEmptyWithoutError) {
+TEST_F(Moving, AFilterThatNothingMeetsIsEmptyWithoutError) {
     Recordset rs;
     open(rs);
     rs.setFilter("id = 99");
@@ -163,7 +162,7 @@ TEST_P(Moving, AFilterThatNothingMeetsIsEmptyWithoutError) {
     EXPECT_TRUE(raises(kNoCurrentRecord, [&] { rs["nome"].Value(); }));
 }
 
-TEST_P(Moving, ARefusedFilterChangesNothing) {
+TEST_F(Moving, ARefusedFilterChangesNothing) {
     Recordset rs;
     open(rs);
     rs.setFilter("id > 1");
@@ -174,7 +173,7 @@ TEST_P(Moving, ARefusedFilterChangesNothing) {
     EXPECT_EQ(display(rs["id"]), "3");
 }
 
-TEST_P(Moving, ARequeryKeepsTheFilterAndANewOpenHasNone) {
+TEST_F(Moving, ARequeryKeepsTheFilterAndANewOpenHasNone) {
     Recordset rs;
     open(rs);
     rs.setFilter("id > 2");
@@ -186,7 +185,7 @@ TEST_P(Moving, ARequeryKeepsTheFilterAndANewOpenHasNone) {
     EXPECT_EQ(rs.RecordCount(), 4);
 }
 
-TEST_P(Moving, RowsAreReadByTheirPlaceWithoutMoving) {
+TEST_F(Moving, RowsAreReadByTheirPlaceWithoutMoving) {
     Recordset rs;
     open(rs);
     rs.setFilter("id > 2");

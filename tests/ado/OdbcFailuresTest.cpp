@@ -3,7 +3,7 @@
 #include "ado/Connection.h"
 #include "ado/Drivers.h"
 #include "ado/ExpectError.h"
-#include "ado/Peer.h"
+#include "ado/TestServer.h"
 
 #include <gtest/gtest.h>
 
@@ -20,7 +20,7 @@ constexpr const char* kOutOfReach = "Server does not exist or access denied.";
 
 class OdbcFailures : public ::testing::Test {
 protected:
-    std::string text() const { return peer.connectionString() + "DATABase=Vabodati;Connect Timeout=1"; }
+    std::string text() const { return server.connectionString() + ";Connect Timeout=1"; }
 
     static void expectOutOfReach(const std::string& connectionString) {
         Connection refused;
@@ -45,7 +45,8 @@ protected:
         connection.Execute("insert into Prova (n) values (1)");
     }
 
-    test::Peer peer;
+    test::TestServer server{support::Road::Wire};
+    support::Peer& peer = server.peer();
     Connection connection;
 };
 
@@ -143,11 +144,11 @@ TEST_F(OdbcFailures, AHoldWhoseServerEndedIsGivenUpWithoutWaiting) {
 
 TEST_F(OdbcFailures, NamesAndPasswordsOfAnyCharactersArriveAsTheyAre) {
     for (const std::string password : {"a;b", "{a", "a}b", " a ", "a=b", "è'\"€", "PWD=x;UID=y"}) {
-        peer.addLogin("giulia rossi", password);
+        server.addLogin("giulia rossi", password);
         std::string quoted;
         for (const char c : password)
             quoted += c == '}' ? "}}" : std::string(1, c);
-        std::string other = peer.connectionString();
+        std::string other = server.connectionString();
         other.replace(other.find("UID=sa;PWD=segreta"), 18, "UID=giulia rossi;PWD={" + quoted + "}");
         EXPECT_FALSE(errorOf([&] { Connection().Open(other); })) << password;
     }

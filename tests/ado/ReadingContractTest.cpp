@@ -11,9 +11,8 @@ using test::raises;
 using test::Recorder;
 
 class Reading : public Contract {};
-FOR_EVERY_SERVER(Reading);
 
-TEST_P(Reading, ATableIsOpenedByItsNameAlone) {
+TEST_F(Reading, ATableIsOpenedByItsNameAlone) {
     const Recorder recorder;
     for (const char* source : {"Comuni", "[Comuni]", "dbo.Comuni"}) {
         Recordset rs;
@@ -28,7 +27,7 @@ TEST_P(Reading, ATableIsOpenedByItsNameAlone) {
                                                         "select * from [dbo].[Comuni]", "select * from [Comuni]"}));
 }
 
-TEST_P(Reading, FieldsAreFoundByNameInAnyCaseAndByPlace) {
+TEST_F(Reading, FieldsAreFoundByNameInAnyCaseAndByPlace) {
     Recordset rs;
     open(rs);
     EXPECT_EQ(rs.FieldCount(), 5);
@@ -40,13 +39,13 @@ TEST_P(Reading, FieldsAreFoundByNameInAnyCaseAndByPlace) {
     EXPECT_TRUE(raises(kItemNotFound, [&] { rs[-1]; }));
 }
 
-TEST_P(Reading, ANameThatStandsTwiceIsTheFirst) {
+TEST_F(Reading, ANameThatStandsTwiceIsTheFirst) {
     Recordset rs;
     rs.Open("select id as a, nome as a from Comuni order by id", connection);
     EXPECT_EQ(rs["a"].Value(), Value(1));
 }
 
-TEST_P(Reading, AnUnknownNameIsToldFromAMissingRow) {
+TEST_F(Reading, AnUnknownNameIsToldFromAMissingRow) {
     Recordset rs;
     open(rs, "select * from Comuni where id = 0");
     EXPECT_TRUE(rs.EOF());
@@ -58,7 +57,7 @@ TEST_P(Reading, AnUnknownNameIsToldFromAMissingRow) {
     EXPECT_EQ(rs["nome"].description().name, "nome");
 }
 
-TEST_P(Reading, AClosedRecordsetSaysSo) {
+TEST_F(Reading, AClosedRecordsetSaysSo) {
     Recordset rs;
     const auto closed = [&](const auto& work) { return raises(kObjectClosed, work); };
     for (int round = 0; round < 2; ++round) {
@@ -88,14 +87,14 @@ TEST_P(Reading, AClosedRecordsetSaysSo) {
     }
 }
 
-TEST_P(Reading, AStatementWithoutRowsLeavesTheRecordsetClosed) {
+TEST_F(Reading, AStatementWithoutRowsLeavesTheRecordsetClosed) {
     Recordset rs;
     rs.Open("update Comuni set cap = '5' where id = 1", connection);
     EXPECT_FALSE(rs.IsOpen());
     EXPECT_EQ(cell("select cap from Comuni where id = 1"), "5");
 }
 
-TEST_P(Reading, AFailedOpenLeavesTheRecordsetClosedAndUsable) {
+TEST_F(Reading, AFailedOpenLeavesTheRecordsetClosedAndUsable) {
     Recordset rs;
     const auto error = errorOf([&] { open(rs, "select * from Assente"); });
     ASSERT_TRUE(error);
@@ -106,7 +105,7 @@ TEST_P(Reading, AFailedOpenLeavesTheRecordsetClosedAndUsable) {
     EXPECT_EQ(rs.RecordCount(), 4);
 }
 
-TEST_P(Reading, EveryTypeOfTheServerHasItsOwn) {
+TEST_F(Reading, EveryTypeOfTheServerHasItsOwn) {
     connection.Execute("update Tipi set logico = 1, ottetto = 200, corto = -5, intero = 70000, grande = 5000000000, "
                        "singolo = 0.5, doppio = 0.1, decimale = -12.30, denaro = 1.2345, data = '20040307', "
                        "testo = N'perché', stretto = 'abc', fisso = 'xyz', lungo = 'lunghissimo'");
@@ -128,14 +127,14 @@ TEST_P(Reading, EveryTypeOfTheServerHasItsOwn) {
     EXPECT_EQ(rs["lungo"].Value(), Value("lunghissimo"));
 }
 
-TEST_P(Reading, ANullIsNullInEveryType) {
+TEST_F(Reading, ANullIsNullInEveryType) {
     Recordset rs;
     open(rs, "Tipi");
     for (int i = 1; i < rs.FieldCount(); ++i)
         EXPECT_TRUE(rs[i].Value().isNull()) << rs[i].Name();
 }
 
-TEST_P(Reading, ColumnsDescribeThemselves) {
+TEST_F(Reading, ColumnsDescribeThemselves) {
     Recordset rs;
     open(rs);
     const FieldDescription& id = rs["id"].description();
@@ -147,14 +146,14 @@ TEST_P(Reading, ColumnsDescribeThemselves) {
     EXPECT_EQ(nome.length, 20);
     EXPECT_FALSE(nome.nullable);
     EXPECT_TRUE(rs["cap"].description().nullable);
-    if (GetParam().capabilities.fieldsTellTheirSource) {
+    if (support::capabilities().fieldsTellTheirSource) {
         EXPECT_TRUE(id.key);
         EXPECT_EQ(nome.baseTable, "Comuni");
         EXPECT_EQ(nome.baseColumn, "nome");
     }
 }
 
-TEST_P(Reading, TheFirstSelectionOfSeveralStatementsIsTheRecordset) {
+TEST_F(Reading, TheFirstSelectionOfSeveralStatementsIsTheRecordset) {
     Recordset rs;
     open(rs, "update Comuni set cap = '7' where id = 1 select nome from Comuni where cap = '7' select 5 as n");
     ASSERT_TRUE(rs.IsOpen());
@@ -162,18 +161,18 @@ TEST_P(Reading, TheFirstSelectionOfSeveralStatementsIsTheRecordset) {
     EXPECT_EQ(display(rs[0]), "Roma");
 }
 
-TEST_P(Reading, AnOwnConnectionLivesAsLongAsTheRecordset) {
+TEST_F(Reading, AnOwnConnectionLivesAsLongAsTheRecordset) {
     Recordset rs;
-    rs.Open("Comuni", server->connectionString(), CursorType::Keyset, LockType::Optimistic);
+    rs.Open("Comuni", server.connectionString(), CursorType::Keyset, LockType::Optimistic);
     rs["cap"] = "33333";
     rs.Update();
     EXPECT_EQ(cell("select cap from Comuni where id = 1"), "33333");
     rs.Close();
-    EXPECT_TRUE(raises(kLogin, [&] { rs.Open("Comuni", server->connectionString("Assente")); }));
+    EXPECT_TRUE(raises(kLogin, [&] { rs.Open("Comuni", server.connectionString("Assente")); }));
     EXPECT_FALSE(rs.IsOpen());
 }
 
-TEST_P(Reading, RequeryReadsAnewAndGoesToTheFirstRow) {
+TEST_F(Reading, RequeryReadsAnewAndGoesToTheFirstRow) {
     Recordset rs;
     open(rs);
     rs.MoveLast();
@@ -185,7 +184,7 @@ TEST_P(Reading, RequeryReadsAnewAndGoesToTheFirstRow) {
     EXPECT_EQ(display(rs["nome"]), "ROMA");
 }
 
-TEST_P(Reading, AListenerHearsOfEveryChangeOfRow) {
+TEST_F(Reading, AListenerHearsOfEveryChangeOfRow) {
     Recordset rs;
     int heard = 0;
     rs.onChange([&] { ++heard; });

@@ -15,7 +15,7 @@ protected:
                                            "nome nvarchar(50) null, prezzo float null)");
         workstation.run(support::kCompany, "insert into frutta (nome, prezzo) values ('Mela', 1.5), ('Pera', 2), "
                                            "('Albicocca', null), (null, 4), ('Pera', 9)");
-        source.ConnectionString = std::string("Driver=SQL Server;Server=") + support::kServerName +
+        source.ConnectionString = "Driver=SQL Server;Server=" + workstation.serverName() +
                                   ";UID=sa;PWD=Campione-2024;DATABase=" + support::kCompany;
         source.RecordSource = "select id, nome, prezzo from frutta order by id";
     }

@@ -315,7 +315,7 @@ TEST_F(AboutForm, WritesTheLocalPointerFileWhereItIsMissing) {
     removeFile("C:\\vabo\\IndirizzoServerLocal.txt");
     show();
     EXPECT_EQ(workstation.fileText("C:\\vabo\\IndirizzoServerLocal.txt"),
-              "Driver=SQL Server;Server=POSTO_7\\sqlexpress;ID utente=;Password=;\r\n");
+              "Driver=SQL Server;Server=" + workstation.serverName() + ";ID utente=;Password=;\r\n");
 }
 
 TEST_F(AboutForm, ACompanyOutOfReachGivesWayToTheFormOfTheDataSources) {

@@ -37,7 +37,7 @@ TEST_F(ApriAziendaTest, FillsTheGlobalStateFromTheCompanysRow) {
     EXPECT_EQ(NomeDatabase, "VaBoDatiPonte");
     EXPECT_EQ(UtenteDb, controlValue("select nRoot from link_programma where dbname = 'VaBoDatiPonte'"));
     EXPECT_EQ(PasswordDb, controlValue("select Npassw from link_programma where dbname = 'VaBoDatiPonte'"));
-    EXPECT_EQ(NomeServer, support::kServerName);
+    EXPECT_EQ(NomeServer, workstation.serverName());
     EXPECT_EQ(StringaAzienda, server + "DATABase=VaBoDatiPonte;");
     EXPECT_EQ(StringaAziendaCopia, StringaAzienda);
     EXPECT_EQ(CartellaFile, "C:\\Vabo\\Files");
@@ -238,8 +238,8 @@ TEST_F(ApriAziendaTest, ACompanyWithoutADatabaseKeepsTheOneBeforeOpen) {
     EXPECT_EQ(NomeDatabase, "VaBoDatiAurora");
     EXPECT_EQ(PercorsoFileLocale, "C:\\Vabo\\Files\\senza.mdb");
     EXPECT_EQ(FileLocale, "tlv_locale_sql.mdb");
-    EXPECT_EQ(StringaAzienda, "Provider=SQLOLEDB;Data Source=POSTO_7\\sqlexpress;Integrated "
-                              "Security=SSPIDATABase=vabodati");
+    EXPECT_EQ(StringaAzienda, "Provider=SQLOLEDB;Data Source=" + workstation.serverName() +
+                                  ";Integrated Security=SSPIDATABase=vabodati");
     EXPECT_EQ(StringaAziendaCopia, server + "DATABase=VaBoDatiAurora;");
     EXPECT_TRUE(DbAzienda.IsOpen());
     EXPECT_EQ(terminals(), (Rows{{"POSTO_7", textOf(expected)}}));

@@ -193,8 +193,8 @@ TEST_F(RegoleLogin, ATableOfUsersThatCannotBeReadCountsAsEmpty) {
 TEST_F(RegoleLogin, TheCompanysTextTellsWhetherTheServerIsThere) {
     EXPECT_TRUE(ServerRisponde());
     EXPECT_EQ(ServerMancante, kFalso);
-    for (const char* text :
-         {"", "garbage", "Server=127.0.0.1,9;", "Driver=SQL Server;Server=POSTO_7\\sqlexpress;DATABase=x;"}) {
+    for (const std::string& text :
+         {std::string(), std::string("garbage"), std::string("Server=127.0.0.1,9;"), server + "DATABase=x;"}) {
         StringaAzienda = text;
         ServerMancante = kFalso;
         EXPECT_FALSE(ServerRisponde()) << text;
@@ -221,7 +221,7 @@ TEST_F(RegoleLogin, AMissingLocalPointerFileIsWrittenUnderTheInstancesName) {
     removeFile("C:\\vabo\\IndirizzoServerLocal.txt");
     PreparaLogin();
     EXPECT_EQ(workstation.fileText("C:\\vabo\\IndirizzoServerLocal.txt"),
-              "Driver=SQL Server;Server=POSTO_7\\sqlexpress;ID utente=;Password=;\r\n");
+              "Driver=SQL Server;Server=" + workstation.serverName() + ";ID utente=;Password=;\r\n");
 }
 
 TEST_F(RegoleLogin, AMissingLocalPointerFileIsWrittenUnderTheMachinesNameOnACleanWorkstation) {

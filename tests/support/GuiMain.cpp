@@ -2,6 +2,7 @@
 
 #include "controls/Style.h"
 #include "support/Environment.h"
+#include "support/Road.h"
 
 #include <QApplication>
 
@@ -20,6 +21,7 @@ void passOver(QtMsgType type, const QMessageLogContext& context, const QString& 
 } // namespace
 
 int main(int argc, char** argv) {
+    support::chooseRoad(argc, argv);
     support::prepareProcess();
     testing::InitGoogleTest(&argc, argv);
     QApplication application(argc, argv);

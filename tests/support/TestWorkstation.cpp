@@ -4,6 +4,9 @@
 #include "engine/Instance.h"
 #include "session/variabili.h"
 #include "support/Environment.h"
+#include "support/Road.h"
+
+#include <QString>
 
 #include <gtest/gtest.h>
 
@@ -15,6 +18,8 @@ namespace support {
 namespace fs = std::filesystem;
 
 namespace {
+
+constexpr const char* kServerLogin = "UID=sa;PWD=Campione-2024;";
 
 void makePresent(const platform::Workstation& workstation) {
     platform::setWorkstation(workstation);
@@ -28,10 +33,39 @@ TestWorkstation::TestWorkstation(DriveC content) {
     if (content == DriveC::Sample)
         fs::copy(VABO_TEST_TEMPLATE, folder_.path(), fs::copy_options::recursive);
     makePresent(workstationOn(folder_.path()));
+    useDataSourceFile(dataSourceFile());
+    instance_ = ado::instanceFolder(kLocalServerName);
+    if (content == DriveC::Sample && road() == Road::Wire)
+        moveServerBehindTheWire();
+}
+
+void TestWorkstation::moveServerBehindTheWire() {
+    const fs::path moved = server_.path() / "instance";
+    fs::rename(instance_, moved);
+    instance_ = moved;
+    peer_ = std::make_unique<Peer>(instance_, folder_.path());
+    for (const fs::directory_entry& file : fs::directory_iterator(driveC().real("C:\\vabo"))) {
+        if (!file.is_regular_file())
+            continue;
+        const std::string path = "C:\\vabo\\" + file.path().filename().string();
+        QString text = QString::fromStdString(fileText(path).value());
+        text.replace(kLocalServerName, QString::fromStdString(peer_->server()));
+        text.replace("ID utente=;Password=;", kServerLogin); // see Capabilities::integratedSecurity
+        putFile(path, text.toStdString());
+    }
+}
+
+std::string TestWorkstation::serverName() const {
+    return peer_ ? peer_->server() : kLocalServerName;
 }
 
 TestWorkstation::~TestWorkstation() {
     makePresent(workstationOn(nowhere()));
+    useDataSourceFile(nowhere() / "odbc.ini");
+}
+
+std::filesystem::path TestWorkstation::dataSourceFile() const {
+    return folder_.path() / "odbc.ini";
 }
 
 const platform::DriveC& TestWorkstation::driveC() const {
@@ -54,7 +88,7 @@ void TestWorkstation::putFile(std::string_view path, std::string_view bytes) con
 std::unique_ptr<engine::Session> TestWorkstation::engineSession(const std::string& database) const {
     const engine::InstanceOptions options{
         .mapPath = [drive = driveC()](std::string_view path) { return drive.real(path); }};
-    return engine::Session::open(engine::Instance::open(ado::instanceFolder(kServerName), options),
+    return engine::Session::open(engine::Instance::open(instance_, options),
                                  {.user = {}, .password = {}, .database = database});
 }
 

@@ -2,6 +2,7 @@
 
 #include "engine/Session.h"
 #include "platform/Workstation.h"
+#include "support/Peer.h"
 #include "support/TemporaryFolder.h"
 
 #include <memory>
@@ -14,7 +15,8 @@ namespace support {
 
 /// The workstation of one test, in a temporary folder: the sample workstation (two companies with a small ledger, one
 /// instance that is server and local instance) or an empty drive C. It is the present one of the program while it
-/// lives, with the globals at zero; the machine is called "POSTO-7", the terminal therefore "POSTO_7".
+/// lives, with the globals at zero; the machine is called "POSTO-7", the terminal therefore "POSTO_7". On the road over
+/// the wire the instance lies elsewhere, served by a Peer, which all pointer files of the sample name.
 ///
 ///     TestWorkstation workstation;
 ///     EXPECT_EQ(workstation.value(kCompany, "select count(*) from stati"), "249");
@@ -28,6 +30,10 @@ public:
     ~TestWorkstation();
 
     const platform::DriveC& driveC() const;
+    /// The user's file of data sources; not there before the first one is registered.
+    std::filesystem::path dataSourceFile() const;
+    /// The server's name as the sample's pointer files have it.
+    std::string serverName() const;
 
     /// The bytes of a file of drive C; nothing where it is missing.
     std::optional<std::string> fileText(std::string_view path) const;
@@ -47,11 +53,17 @@ public:
     void run(const std::string& database, const std::string& sql) const;
 
 private:
+    void moveServerBehindTheWire();
+
     TemporaryFolder folder_;
+    TemporaryFolder server_; ///< empty on the embedded road
+    std::filesystem::path instance_;
+    std::unique_ptr<Peer> peer_;
 };
 
 inline constexpr const char* kTerminalName = "POSTO_7";
-inline constexpr const char* kServerName = "POSTO_7\\sqlexpress";
+/// The instance that the sample is laid down with; also the name that the program itself composes for a local one.
+inline constexpr const char* kLocalServerName = "POSTO_7\\sqlexpress";
 inline constexpr const char* kControlDatabase = "vabodatiazienda";
 inline constexpr const char* kTemporaryDatabase = "VaBoDatiTemp";
 /// The first company of the sample, the one that a new terminal takes up.

@@ -1,0 +1,39 @@
+#pragma once
+
+#include <gtest/gtest.h>
+
+namespace support {
+
+/// Something that a road offers, or the reason why it doesn't.
+struct Capability {
+    const char* missing = nullptr;
+    explicit operator bool() const { return missing == nullptr; }
+};
+
+/// Where a road may differ from the embedded one, and why.
+struct Capabilities {
+    /// Behind the table in the SELECT that holds a row: a server of the network holds rows by hints alone.
+    const char* holdingHint = "";
+    Capability fieldsTellTheirSource;
+    Capability holdEndsAtOnceWithItsProcess;
+    Capability noughtsInTexts;
+    Capability composedLocalName;
+    Capability integratedSecurity;
+};
+
+inline constexpr Capabilities kEmbeddedCapabilities{};
+inline constexpr Capabilities kWireCapabilities{
+    .holdingHint = " WITH (UPDLOCK, ROWLOCK)",
+    .fieldsTellTheirSource = {"The wire carries neither table nor key; they are found out when a row is edited."},
+    .holdEndsAtOnceWithItsProcess = {"A server notices the end of a client when its network tells it."},
+    .noughtsInTexts = {"A statement ends at its first character of no value; the driver refuses it whole."},
+    .composedLocalName = {"The local instance's name that the program composes is no name of the loopback's."},
+    .integratedSecurity = {"Nobody vouches for a user on the loopback: a login has a name and a password."},
+};
+
+} // namespace support
+
+/// Skips the running test, in the reason's words, on a road that doesn't offer what the test is about.
+#define VABO_NEEDS(capability)                                                                                         \
+    if (!(capability))                                                                                                 \
+    GTEST_SKIP() << (capability).missing

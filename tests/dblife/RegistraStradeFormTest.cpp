@@ -2,6 +2,9 @@
 #include "rights/AbilitazioneUtente.h"
 #include "support/Attacks.h"
 
+#include <filesystem>
+#include <utility>
+
 namespace vabo {
 namespace {
 
@@ -14,14 +17,15 @@ protected:
         AzzeraVariabili();
         app::registerForms(gui.forms());
     }
-    /// The server knows the database, its file can't be opened.
+    /// The server knows the database, its file can't be opened any more.
     void guasta() {
-        file_ = workstation.value("master", std::string("select filename from master.dbo.sysdatabases where name = '") +
-                                                kCompany + "'");
-        byte_ = *workstation.fileText(file_);
-        workstation.putFile(file_, "no database");
+        const std::string file = workstation.value(
+            "master", std::string("select filename from master.dbo.sysdatabases where name = '") + kCompany + "'");
+        posto_ = workstation.driveC().real(file);
+        std::filesystem::rename(posto_, salvato());
+        workstation.putFile(file, "no database");
     }
-    void ripara() { workstation.putFile(file_, byte_); }
+    void ripara() const { std::filesystem::rename(salvato(), posto_); }
     void scrivi(const std::string& nome, const std::string& testo) {
         ASSERT_EQ(fuoco(), nome);
         gui.type(testo);
@@ -29,19 +33,36 @@ protected:
     }
 
 private:
-    std::string file_, byte_;
+    std::filesystem::path salvato() const { return posto_.string() + ".salvato"; }
+
+    std::filesystem::path posto_;
 };
 
-TEST_F(RegistraStrade, TheStartLeadsToTheFormWhereTheCompanyCanNotBeReached) {
-    guasta();
+TEST_F(RegistraStrade, ACompanyLostBetweenStartAndLoginLeadsToTheForm) {
+    bool chiesto = false; // whether anybody has to log in, the last thing that the start asks
+    bool guasto = false;
+    ado::setStatementRecorder([&](const std::string& testo) {
+        if (chiesto && !std::exchange(guasto, true))
+            guasta();
+        chiesto = chiesto || testo.find("AbilitazioneAccessi") != std::string::npos;
+    });
     gui.forms().show("Avvio");
-    gui.forms().show("About");
+    ado::setStatementRecorder({});
     gui.waitForFront(kForm);
     EXPECT_EQ(ServerMancante, kVero);
     EXPECT_FALSE(gui.forms().isLoaded("About"));
-    EXPECT_TRUE(gui.isVisible(kForm));
+    EXPECT_EQ(gui.visibleForms(), kForm);
     EXPECT_EQ(PilaForm.back(), kForm);
     EXPECT_EQ(fuoco(), "cboDSNList");
+}
+
+TEST_F(RegistraStrade, ACompanyOutOfReachFromTheBeginningLeadsToTheConsoleInstead) {
+    guasta();
+    gui.forms().show("Avvio");
+    gui.waitForFront("Avvio_Azienda");
+    EXPECT_EQ(gui.visibleForms(), "Avvio_Azienda");
+    EXPECT_FALSE(gui.forms().isLoaded(kForm));
+    EXPECT_EQ(DirittiUtente, kDirittiAvvioSenzaUtenti);
 }
 
 TEST_F(RegistraStrade, TheCompanyPutRightIsRegisteredByTheKeyboardAndTheConsoleComes) {

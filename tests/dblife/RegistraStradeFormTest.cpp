@@ -1,6 +1,7 @@
 #include "RegistraFormFixture.h"
 #include "rights/AbilitazioneUtente.h"
 #include "support/Attacks.h"
+#include "support/HeardBoxes.h"
 
 #include <filesystem>
 #include <utility>
@@ -117,20 +118,7 @@ TEST_F(RegistraStrade, ClosingItLeadsToTheConsoleToo) {
 /// Whatever is typed, the form stands or has done its work; boxes may come.
 class RegistraAttacco : public RegistraForm {
 protected:
-    struct Muto : platform::Dialogs {
-        explicit Muto(std::vector<std::string>& testi) : testi(testi) {}
-        void message(const std::string& text, platform::Icon /*icon*/) override { testi.push_back(text); }
-        bool question(const std::string& /*text*/) override { return false; }
-        bool confirm(const std::string& /*text*/) override { return false; }
-        std::string input(const std::string& /*prompt*/, const std::string& /*title*/,
-                          const std::string& /*proposed*/) override {
-            return {};
-        }
-        std::string folder(const std::string& /*title*/) override { return {}; }
-        std::vector<std::string>& testi;
-    };
     RegistraAttacco() {
-        platform::setDialogs(std::make_unique<Muto>(messaggi));
         prima = utenti();
         apri();
     }
@@ -161,7 +149,8 @@ protected:
         apri();
     }
 
-    std::vector<std::string> messaggi;
+    support::HeardBoxes scatole;
+    std::vector<std::string>& messaggi = scatole.texts;
     Rows prima;
 };
 

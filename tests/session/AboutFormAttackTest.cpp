@@ -1,6 +1,7 @@
 #include "rights/AbilitazioneUtente.h"
 #include "session/FormFixture.h"
 #include "support/Attacks.h"
+#include "support/HeardBoxes.h"
 
 #include <QApplication>
 #include <QLineEdit>
@@ -12,19 +13,7 @@ using namespace vabo;
 /// The login form, with boxes that anybody may meet on the way.
 class AboutFormAttack : public FormTest {
 protected:
-    struct Silent : platform::Dialogs {
-        void message(const std::string& /*text*/, platform::Icon /*icon*/) override {}
-        bool question(const std::string& /*text*/) override { return false; }
-        bool confirm(const std::string& /*text*/) override { return false; }
-        std::string input(const std::string& /*prompt*/, const std::string& /*title*/,
-                          const std::string& /*proposed*/) override {
-            return {};
-        }
-        std::string folder(const std::string& /*title*/) override { return {}; }
-    };
-
     AboutFormAttack() {
-        platform::setDialogs(std::make_unique<Silent>());
         before = users();
         show();
     }
@@ -53,6 +42,7 @@ protected:
             << testing::PrintToString(user.substr(0, 60)) << " / " << testing::PrintToString(password.substr(0, 60));
     }
 
+    support::HeardBoxes boxes;
     Rows before;
 };
 

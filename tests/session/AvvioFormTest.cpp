@@ -2,6 +2,7 @@
 #include "controls/ProgressBar.h"
 #include "rights/AbilitazioneUtente.h"
 #include "session/FormFixture.h"
+#include "support/HeardBoxes.h"
 
 #include <QApplication>
 
@@ -126,20 +127,8 @@ TEST_F(AvvioForm, ATerminalWithoutACompanyToOpenEndsTheProcess) {
 }
 
 TEST_F(AvvioForm, WithoutAMachineNameItGoesOnWithoutACompany) {
-    struct Heard : platform::Dialogs {
-        explicit Heard(std::vector<std::string>& texts) : texts(texts) {}
-        void message(const std::string& text, platform::Icon /*icon*/) override { texts.push_back(text); }
-        bool question(const std::string& /*text*/) override { return false; }
-        bool confirm(const std::string& /*text*/) override { return false; }
-        std::string input(const std::string& /*prompt*/, const std::string& /*title*/,
-                          const std::string& /*proposed*/) override {
-            return {};
-        }
-        std::string folder(const std::string& /*title*/) override { return {}; }
-        std::vector<std::string>& texts;
-    };
-    std::vector<std::string> texts;
-    platform::setDialogs(std::make_unique<Heard>(texts));
+    const support::HeardBoxes boxes;
+    const std::vector<std::string>& texts = boxes.texts;
     platform::workstation().machineName.clear();
     gui.forms().show("Avvio");
     EXPECT_EQ(gui.text("Avvio", "Label1"), "DataBase :   ");

@@ -53,7 +53,7 @@ FieldType fieldType(SQLSMALLINT type, SQLULEN size, SQLSMALLINT digits) {
 } // namespace
 
 OdbcResult::OdbcResult(std::shared_ptr<const Handle> connection, std::string_view text, int timeout)
-    : connection_(std::move(connection)), statement_(SQL_HANDLE_STMT, connection_->get()), buffer_(kTextPiece) {
+    : connection_(std::move(connection)), statement_(SQL_HANDLE_STMT, connection_->get()) {
     check(SQLSetStmtAttrW(statement_.get(), SQL_ATTR_QUERY_TIMEOUT, asPointer(static_cast<unsigned long>(timeout)), 0),
           statement_, "SQLSetStmtAttr");
     if (text.find('\0') != std::string_view::npos) // the interface would send what stands ahead of it, and run that
@@ -162,6 +162,7 @@ void OdbcResult::read(SQLUSMALLINT number) {
 void OdbcResult::readText(SQLUSMALLINT number, Cell& cell) {
     cell.text.clear();
     cell.null = false;
+    buffer_.resize(kTextPiece); // most statements read no text
     while (true) {
         SQLLEN length = 0;
         const SQLRETURN code = SQLGetData(statement_.get(), number, SQL_C_WCHAR, buffer_.data(),

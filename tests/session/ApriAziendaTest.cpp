@@ -5,6 +5,7 @@
 #include "kit/LinguaClient.h"
 #include "session/ApriDbSede.h"
 #include "session/SessionFixture.h"
+#include "support/Road.h"
 
 #include <filesystem>
 
@@ -197,6 +198,7 @@ TEST_F(ApriAziendaTest, TheFolderOfTheLocalFilesIsMade) {
 }
 
 TEST_F(ApriAziendaTest, TheLocalTextsFallbackFileIsWrittenOnTheWay) {
+    VABO_NEEDS(support::capabilities().composedLocalName);
     removeFile("C:\\vabo\\Leggi_ServerLocal.txt");
     removeFile("C:\\vabo\\IndirizzoServerLocal.txt");
     open(kCompany);

@@ -50,7 +50,8 @@ void TestWorkstation::moveServerBehindTheWire() {
         const std::string path = "C:\\vabo\\" + file.path().filename().string();
         QString text = QString::fromStdString(fileText(path).value());
         text.replace(kLocalServerName, QString::fromStdString(peer_->server()));
-        text.replace("ID utente=;Password=;", kServerLogin); // see Capabilities::integratedSecurity
+        if (!capabilities().integratedSecurity)
+            text.replace("ID utente=;Password=;", kServerLogin);
         putFile(path, text.toStdString());
     }
 }

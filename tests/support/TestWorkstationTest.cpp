@@ -1,9 +1,11 @@
 #include "support/TestWorkstation.h"
 
 #include "ado/Conversions.h"
+#include "ado/Drivers.h"
 #include "ado/Recordset.h"
 #include "session/variabili.h"
 #include "support/Environment.h"
+#include "support/Road.h"
 
 #include <gtest/gtest.h>
 
@@ -31,6 +33,32 @@ TEST(TestWorkstation, IsTheProgramsOwn) {
     rows.Open("select count(*) as n from stati", connection);
     EXPECT_EQ(std::to_string(ado::toLong(rows["n"])),
               workstation.value(support::kCompany, "select count(*) from stati"));
+}
+
+TEST(TestWorkstation, ReachesItsServerOnTheRoadOfTheRun) {
+    const TestWorkstation workstation;
+    const char* expected = support::road() == support::Road::Wire ? "odbc" : "embedded";
+    for (const char* file : {"C:\\vabo\\IndirizzoServer.txt", "C:\\vabo\\Leggi_ServerLocal.txt"}) {
+        const std::string text = workstation.driveC().firstLine(file);
+        EXPECT_STREQ(ado::driverFor(ado::ConnectionString(text)).name(), expected) << file;
+        EXPECT_NO_THROW(ado::Connection().Open(text)) << file;
+    }
+    EXPECT_EQ(workstation.driveC().firstLine("C:\\vabo\\NomeServer.txt"), workstation.serverName());
+    EXPECT_EQ(workstation.driveC().firstLine("C:\\vabo\\NomeServerLocal.txt"), workstation.serverName());
+}
+
+TEST(TestWorkstation, OverTheWireNoFileNamesTheEmbeddedServer) {
+    const TestWorkstation workstation;
+    const bool embedded = support::road() == support::Road::Embedded;
+    EXPECT_EQ(fs::is_directory(ado::instanceFolder(support::kLocalServerName)), embedded);
+    int naming = 0;
+    for (const fs::directory_entry& entry : fs::directory_iterator(workstation.driveC().real("C:\\vabo"))) {
+        if (!entry.is_regular_file())
+            continue;
+        const auto text = workstation.fileText("C:\\vabo\\" + entry.path().filename().string());
+        naming += text->find(support::kLocalServerName) != std::string::npos ? 1 : 0;
+    }
+    EXPECT_EQ(naming > 0, embedded);
 }
 
 TEST(TestWorkstation, IsNewForEveryTest) {

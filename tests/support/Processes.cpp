@@ -4,6 +4,9 @@
 
 #include <gtest/gtest.h>
 
+#include <csignal>
+#include <sys/prctl.h>
+
 namespace support {
 
 namespace {
@@ -31,6 +34,7 @@ HelperProcess::HelperProcess(const std::string& program, const std::vector<std::
         list << QString::fromStdString(argument);
     process_.setProcessEnvironment(all);
     process_.setProcessChannelMode(QProcess::ForwardedErrorChannel);
+    process_.setChildProcessModifier([] { ::prctl(PR_SET_PDEATHSIG, SIGKILL); }); // whatever way the test ends
     process_.start(pathOf(program), list);
     if (!process_.waitForStarted(kPatience))
         ADD_FAILURE() << program << " doesn't start: " << process_.errorString().toStdString();

@@ -2,6 +2,12 @@
 
 #include <gtest/gtest.h>
 
+#include <array>
+#include <csignal>
+#include <poll.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
 using support::HelperProcess;
 
 TEST(Processes, AHelperAnswersLineByLine) {
@@ -33,4 +39,21 @@ TEST(Processes, AKilledHelperIsGoneAndSaysNothingMore) {
 TEST(Processes, AllOutputCanBeReadAtOnce) {
     HelperProcess helper("support_echo", {"one", "two"});
     EXPECT_EQ(helper.readAll(), "one\ntwo\n");
+}
+
+TEST(Processes, AHelperDiesWithATestThatCrashes) {
+    std::array<int, 2> ends{}; // at its end once nobody has it open any more
+    ASSERT_EQ(::pipe(ends.data()), 0);
+    const pid_t test = ::fork();
+    if (test == 0) {
+        const HelperProcess helper("/bin/sleep", {"60"});
+        ::raise(SIGKILL);
+    }
+    ::close(ends[1]);
+    int status = 0;
+    ASSERT_EQ(::waitpid(test, &status, 0), test);
+    EXPECT_TRUE(WIFSIGNALED(status));
+    pollfd end{ends[0], POLLIN, 0};
+    EXPECT_EQ(::poll(&end, 1, 30'000), 1) << "the helper lives on";
+    ::close(ends[0]);
 }

@@ -45,6 +45,7 @@ public:
     Console() : drive_(fs::temp_directory_path() / ("vabo-bench-" + std::to_string(getpid()))) {
         provision::layDown({drive_, terminalName(), 200, kAccounts});
         setenv("VABO_DRIVE_C", drive_.c_str(), 1);
+        setenv("ODBCINI", (drive_ / "odbc.ini").c_str(), 1);
         setenv("QT_QPA_PLATFORM", "offscreen", 1);
         program_ = std::make_unique<app::Program>(argc_, argv_.data());
         program_->forms().show("Avvio");

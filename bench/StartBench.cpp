@@ -55,6 +55,7 @@ void StartToLogin(benchmark::State& state) {
         c = c == '-' ? '_' : c;
     provision::layDown({drive, terminal});
     setenv("VABO_DRIVE_C", drive.c_str(), 1);
+    setenv("ODBCINI", (drive / "odbc.ini").c_str(), 1);
     setenv("QT_QPA_PLATFORM", "offscreen", 1);
     started("vabo-bench-start-probe"); // warm: the temporary database is made by the first start
     for (auto _ : state) {

@@ -135,9 +135,9 @@ TEST_F(DataSourcesTest, ConfiguringNeedsAnEntry) {
     EXPECT_EQ(entry("Tlv_Temp"), withDriver({{"SERVER", "due"}}));
 }
 
-TEST_F(DataSourcesTest, AnyOtherRequestAUnknownDriverAndAMissingNameDoNothing) {
+TEST_F(DataSourcesTest, AnyOtherRequestAnUnknownDriverAndAMissingNameDoNothing) {
     put(kForOthers);
-    for (const std::int16_t request : {0, 3, 4})
+    for (const std::int16_t request : std::initializer_list<std::int16_t>{0, 3, 4})
         EXPECT_EQ(configure(request, "DSN=Magazzino|SERVER=uno|"), 0) << request;
     EXPECT_EQ(configure(DataSources::kAdd, "DSN=Tlv_Temp|", "Microsoft Access Driver (*.mdb)"), 0);
     EXPECT_EQ(configure(DataSources::kAdd, "DSN=Tlv_Temp|", ""), 0);
@@ -213,6 +213,7 @@ TEST_F(DataSourcesTest, WhatStandsAlreadyIsNotWritten) {
 
 TEST_F(DataSourcesTest, WhatOtherProgramsDoToTheFileIsSeenAtOnce) {
     enter("Tlv_server", "Server=uno");
+    enter("Tlv_server", "Server=uno"); // which only looks
     std::string changed = text();
     changed.replace(changed.find("uno"), 3, "due");
     put(changed);

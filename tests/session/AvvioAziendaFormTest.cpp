@@ -1,8 +1,10 @@
 #include "controls/DataCombo.h"
 #include "controls/RecordedForm.h"
+#include "dblife/RegistraFixture.h"
 #include "session/Avvio_Azienda.h"
 #include "session/FormFixture.h"
 #include "session/TreatForms.h"
+#include "support/RecordedDataSources.h"
 
 #include <QApplication>
 #include <QLineEdit>
@@ -30,6 +32,11 @@ protected:
         });
     }
     void pick(const std::string& database) { gui.pick("Avvio_Azienda", "DataCombo1", companyName(database)); }
+    /// What the registry is asked when that company's main data source is configured.
+    std::vector<std::string> configurationOf(const std::string& database) const {
+        const auto both = registrazione("Tlv_Server", database, "Dati " + companyName(database), NomeServer);
+        return {both[2], both[3]};
+    }
     std::string lastCompany() const {
         return controlValue(std::string("select ultimo from link_programmaTerminale where Nometerminale = '") +
                             support::kTerminalName + "'");
@@ -99,6 +106,48 @@ TEST_F(AvvioAziendaForm, APickedCompanyIsTheTerminalsAtTheNextStart) {
     AzzeraVariabili();
     gui.forms().show("Avvio");
     EXPECT_EQ(NomeDatabase, kOtherCompany);
+}
+
+TEST_F(AvvioAziendaForm, APickedCompanyIsConfiguredOnceMoreAsTheMainDataSource) {
+    show();
+    const support::RecordedDataSources registry;
+    pick(kOtherCompany);
+    ASSERT_EQ(registry.calls().size(), 14U) << "after the three of the taking up";
+    EXPECT_EQ(std::vector(registry.calls().end() - 2, registry.calls().end()), configurationOf(kOtherCompany));
+}
+
+TEST_F(AvvioAziendaForm, TheMainDataSourceIsConfiguredAheadOfTheGeneralTables) {
+    const support::RecordedDataSources registry;
+    std::size_t callsAtLoad = 0;
+    gui.forms().add("Avvio_Morlan", [&] {
+        return std::make_unique<RecordedForm>("Avvio_Morlan", log, RecordedForm::Events{.load = [&](RecordedForm&) {
+                                                  callsAtLoad = registry.calls().size();
+                                              }});
+    });
+    show();
+    ASSERT_EQ(registry.calls().size(), 12U);
+    gui.click("Avvio_Azienda", "cmdClose");
+    ASSERT_EQ(registry.calls().size(), 14U);
+    EXPECT_EQ(callsAtLoad, 14U);
+    EXPECT_EQ(std::vector(registry.calls().end() - 2, registry.calls().end()), configurationOf(kCompany));
+}
+
+TEST_F(AvvioAziendaForm, ARegistryThatRefusesKeepsNobodyFromTheGeneralTables) {
+    build("Avvio_Morlan");
+    support::RecordedDataSources registry;
+    registry.refusesRegistration = true;
+    show();
+    gui.click("Avvio_Azienda", "cmdClose");
+    EXPECT_EQ(gui.visibleForms(), "Avvio_Morlan");
+}
+
+TEST_F(AvvioAziendaForm, TheOtherWaysRegisterNothing) {
+    build("frmDatiAzienda");
+    show();
+    const support::RecordedDataSources registry;
+    gui.click("Avvio_Azienda", "Command1");
+    EXPECT_EQ(gui.visibleForms(), "frmDatiAzienda");
+    EXPECT_TRUE(registry.calls().empty());
 }
 
 TEST_F(AvvioAziendaForm, AClickOnTheTextOpensNothing) {

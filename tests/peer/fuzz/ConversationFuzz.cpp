@@ -41,14 +41,18 @@ public:
         instance_->addLogin("sa", "segreta");
         instance_->createDatabase("prova", "", "");
         const auto session = engine::Session::open(instance_, {"", "", "prova"});
-        for (const char* text : {kSchema, kRow, "INSERT INTO tipi (b) VALUES (NULL)"})
+        for (const char* text : {kSchema, kRow, "INSERT INTO tipi (b) VALUES (NULL)", "CREATE TABLE molte (n int)",
+                                 "INSERT INTO molte VALUES (1)"})
             session->execute(text)->nextResult();
+        for (int rows = 1; rows < kManyRows; rows *= 2)
+            session->execute("INSERT INTO molte SELECT n FROM molte")->nextResult();
         return instance_;
     }
     ~Instance() { remove(); }
 
 private:
     static constexpr int kRunsOfOne = 2000;
+    static constexpr int kManyRows = 256; ///< enough for the server to look whether it is asked to stop
 
     /// No path of a client leads out of the folder.
     fs::path onDrive(std::string_view path) const {
@@ -180,7 +184,11 @@ void writeSeeds(const fs::path& folder) {
     const peer::Bytes greeting =
         peer::wire::packet(18, peer::wire::kWhole, {0, 0, 11, 0, 6, 1, 0, 17, 0, 1, 0xFF, 9, 0, 0, 0, 0, 0, 0});
     write(joined({{2, 20}, greeting, loginPacket(kVersions[0]), peer::wire::batch("select * from tipi")}));
-    write(joined({{0, 200}, peer::wire::batch("select * from tipi"), peer::wire::packet(6, peer::wire::kWhole, {})}));
+    const peer::Bytes attention = peer::wire::packet(6, peer::wire::kWhole, {});
+    const peer::Bytes many = peer::wire::batch("select * from molte");
+    write(joined({{0, 200}, peer::wire::batch("select * from tipi"), attention}));
+    write(joined({{0, 7}, many, attention}));
+    write(joined({{0, 7}, many, many}));
 }
 
 } // namespace

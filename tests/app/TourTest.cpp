@@ -1,3 +1,4 @@
+#include "support/Environment.h"
 #include "support/Processes.h"
 #include "support/TestWorkstation.h"
 
@@ -18,8 +19,12 @@ QImage picture(const std::filesystem::path& folder, const std::string& name) {
 TEST(Tour, LeavesAPictureOfEveryFormInThreeKinds) {
     const support::TestWorkstation workstation;
     const support::TemporaryFolder folder;
+    const auto users = folder.path() / "odbc.ini";
+    support::useDataSourceFile(users);
     HelperProcess tour("vabo-tour", {workstation.driveC().root().string(), folder.path().string()});
     ASSERT_EQ(tour.finish(), 0);
+    EXPECT_FALSE(std::filesystem::exists(users)) << "the user's own data sources";
+    EXPECT_TRUE(std::filesystem::exists(workstation.dataSourceFile()));
     for (const char* name :
          {"01-avvio", "02-login", "03-login-password", "04-messaggio", "05-console", "06-console-elenco",
           "07-collegamenti", "17-registra-aziende", "18-registra-aziende-fonte"}) {

@@ -66,6 +66,8 @@ int walkAll(const QString& program, const QString& driveC, const QString& folder
         QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
         environment.insert(QStringLiteral("QT_SCALE_FACTOR"), QString::fromLatin1(walk.scale));
         environment.insert(QStringLiteral("VABO_DRIVE_C"), driveC);
+        // A walk to look at forms leaves the user's own data sources alone.
+        environment.insert(QStringLiteral("ODBCINI"), driveC + QStringLiteral("/odbc.ini"));
         environment.insert(QStringLiteral("QT_QPA_PLATFORM"),
                            QStringLiteral("offscreen:configfile=") + screen.fileName());
         QProcess process;

@@ -102,9 +102,14 @@ public:
     }
 
     void beginHold() { ++holds_; }
-    /// The first of several holds begins their transaction, on the way of its own selection.
+    /// What another program writes at this moment is waited for, or a busy day would lose writes; the server tells that
+    /// it took too long before the statement's own time is over.
+    std::string lockWait() const { return "SET LOCK_TIMEOUT " + std::to_string(timeout_ * 1000 * 2 / 3); }
+    /// A row that somebody else holds is refused at once. The first of several holds begins their transaction, on the
+    /// way of its own selection.
     std::unique_ptr<DriverResult> held(std::string_view select) {
-        auto result = run(holds_ == 1 ? "BEGIN TRANSACTION " + std::string(select) : std::string(select));
+        const std::string begin = holds_ == 1 ? "SET LOCK_TIMEOUT 0; BEGIN TRANSACTION; " : "";
+        auto result = run(begin + std::string(select));
         while (result->nextResult() && !result->hasRows()) {
         }
         return result;
@@ -114,7 +119,7 @@ public:
         if (--holds_ > 0 || !alive())
             return;
         try {
-            runToEnd("IF @@TRANCOUNT > 0 COMMIT TRANSACTION");
+            runToEnd("IF @@TRANCOUNT > 0 COMMIT TRANSACTION; " + lockWait());
         } catch (const std::exception&) { // NOLINT(bugprone-empty-catch)
             // The connection is gone, and the lock with it.
         }
@@ -134,14 +139,14 @@ private:
 
 namespace {
 
-/// A connection on which a row that somebody else holds is refused at once. One that the driver manager kept may have
-/// lost its server meanwhile, which this first statement tells: then the next one is taken, at last a new one.
+/// A connection that the driver manager kept may have lost its server meanwhile, which the first statement tells: then
+/// the next one is taken, at last a new one.
 std::shared_ptr<Road> preparedRoad(const ConnectionString& text) {
     constexpr int kMostKept = 100;
     for (int kept = 0;; ++kept) {
         auto road = std::make_shared<Road>(text);
         try {
-            road->runToEnd("SET LOCK_TIMEOUT 0");
+            road->runToEnd(road->lockWait());
             return road;
         } catch (const Error& error) {
             const bool silent = error.sqlState() == "HYT00";

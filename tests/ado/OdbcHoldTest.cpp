@@ -1,0 +1,100 @@
+// How long a connection waits for what somebody else holds: told by what it sends, since no test waits for it.
+
+#include "ado/Recordset.h"
+#include "ado/TestServer.h"
+
+#include <QLoggingCategory>
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <string>
+#include <vector>
+
+namespace ado {
+namespace {
+
+std::vector<std::string>* heard = nullptr;
+QtMessageHandler others = nullptr;
+
+/// What goes over the wire while it lives, from the log of the driver.
+class SentTexts {
+public:
+    SentTexts() {
+        QLoggingCategory::setFilterRules(QStringLiteral("vabo.odbc.debug=true"));
+        heard = &texts_;
+        others = qInstallMessageHandler([](QtMsgType type, const QMessageLogContext& context, const QString& message) {
+            if (QLatin1String(context.category) == QLatin1String("vabo.odbc"))
+                heard->push_back(message.toStdString());
+            else
+                others(type, context, message);
+        });
+    }
+    ~SentTexts() {
+        qInstallMessageHandler(others);
+        QLoggingCategory::setFilterRules({});
+    }
+    SentTexts(const SentTexts&) = delete;
+    SentTexts& operator=(const SentTexts&) = delete;
+
+    long count(const std::string& text) const { return std::count(texts_.begin(), texts_.end(), text); }
+
+private:
+    std::vector<std::string> texts_;
+};
+
+constexpr const char* kWait = "SET LOCK_TIMEOUT 10000";
+constexpr const char* kBegin =
+    "SET LOCK_TIMEOUT 0; BEGIN TRANSACTION; SELECT [n] FROM [Prova] WITH (UPDLOCK, ROWLOCK) WHERE [n] = 1";
+constexpr const char* kEnd = "IF @@TRANCOUNT > 0 COMMIT TRANSACTION; SET LOCK_TIMEOUT 10000";
+
+class OdbcHolds : public ::testing::Test {
+protected:
+    OdbcHolds() {
+        connection.Open(server.connectionString());
+        connection.Execute("create table Prova (n int not null primary key)");
+        connection.Execute("insert into Prova (n) values (1), (2)");
+    }
+
+    test::TestServer server{support::Road::Wire};
+    Connection connection;
+};
+
+TEST_F(OdbcHolds, AConnectionWaitsForOthersLessThanItsStatementsMayTake) {
+    const SentTexts sent;
+    Connection usual;
+    usual.Open(server.connectionString());
+    EXPECT_EQ(sent.count(kWait), 1);
+    Connection hasty;
+    hasty.Open(server.connectionString() + ";Connect Timeout=3");
+    EXPECT_EQ(sent.count("SET LOCK_TIMEOUT 2000"), 1);
+}
+
+TEST_F(OdbcHolds, OnlyAHeldRowIsRefusedAtOnce) {
+    Recordset rs;
+    rs.Open("select * from Prova order by n", connection, CursorType::Keyset, LockType::Pessimistic);
+    const SentTexts sent;
+    rs["n"] = 7;
+    EXPECT_EQ(sent.count(kBegin), 1);
+    EXPECT_EQ(sent.count(kEnd), 0);
+    rs.Update();
+    EXPECT_EQ(sent.count(kEnd), 1);
+}
+
+TEST_F(OdbcHolds, TheLastOfSeveralHoldsEndsTheirTransaction) {
+    Recordset first, second;
+    for (Recordset* rs : {&first, &second})
+        rs->Open("select * from Prova order by n", connection, CursorType::Keyset, LockType::Pessimistic);
+    second.MoveNext();
+    const SentTexts sent;
+    first["n"] = 7;
+    second["n"] = 8;
+    EXPECT_EQ(sent.count("SELECT [n] FROM [Prova] WITH (UPDLOCK, ROWLOCK) WHERE [n] = 2"), 1);
+    first.Update();
+    EXPECT_EQ(sent.count(kEnd), 0);
+    second.Update();
+    EXPECT_EQ(sent.count(kEnd), 1);
+}
+
+} // namespace
+} // namespace ado

@@ -36,7 +36,7 @@ private:
     SQLHANDLE handle_ = nullptr;
 };
 
-/// The process's environment, with connection pooling on.
+/// The process's environment. Connections are kept for the next one where the registry of drivers says so, too.
 SQLHANDLE environment();
 
 /// True for success with or without information, false for "no data" and "need data". Throws Error with all diagnostic

@@ -56,7 +56,7 @@ TEST_F(ConnectionContract, NoStatementIsCutAtACharacterOfNoValue) {
     using namespace std::string_literals;
     EXPECT_TRUE(raises(kSyntaxOrColumn, [&] { connection.Execute("update Comuni set cap = '9'\0 where id = 1"s); }));
     const auto write = [&] { connection.Execute("update Comuni set cap = '8' where nome <> 'a\0b'"s); };
-    if (support::capabilities().noughtsInTexts)
+    if (support::capabilities().nulInTexts)
         EXPECT_NO_THROW(write());
     else
         EXPECT_TRUE(raises(kSyntaxOrColumn, write));

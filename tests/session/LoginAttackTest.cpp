@@ -76,7 +76,7 @@ TEST_F(LoginAttack, NoneGetsInByBothFields) {
 TEST_F(LoginAttack, NoneLoadsRights) {
     for (const std::string& attack : support::attacks()) {
         const std::string text = Normalizzato(attack);
-        if (!support::capabilities().noughtsInTexts && text.find('\0') != std::string::npos) {
+        if (!support::capabilities().nulInTexts && text.find('\0') != std::string::npos) {
             EXPECT_THROW(CaricaAbilitazione("amministratore", text), ado::Error);
             continue;
         }

@@ -16,7 +16,7 @@ struct Capabilities {
     const char* holdingHint = "";
     Capability fieldsTellTheirSource;
     Capability holdEndsAtOnceWithItsProcess;
-    Capability noughtsInTexts;
+    Capability nulInTexts;
     Capability composedLocalName;
     Capability integratedSecurity;
 };
@@ -26,7 +26,7 @@ inline constexpr Capabilities kWireCapabilities{
     .holdingHint = " WITH (UPDLOCK, ROWLOCK)",
     .fieldsTellTheirSource = {"The wire carries neither table nor key; they are found out when a row is edited."},
     .holdEndsAtOnceWithItsProcess = {"A server notices the end of a client when its network tells it."},
-    .noughtsInTexts = {"A statement ends at its first character of no value; the driver refuses it whole."},
+    .nulInTexts = {"The interface ends a statement at its first NUL character; the driver refuses it whole."},
     .composedLocalName = {"The local instance's name that the program composes is no name of the loopback's."},
     .integratedSecurity = {"Nobody vouches for a user on the loopback: a login has a name and a password."},
 };

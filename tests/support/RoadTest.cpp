@@ -35,7 +35,7 @@ TEST_F(Roads, AnUnknownOneEndsTheProcess) {
 TEST_F(Roads, TheEmbeddedOneOffersEverything) {
     const support::Capabilities& all = support::capabilities();
     for (const support::Capability& capability : {all.fieldsTellTheirSource, all.holdEndsAtOnceWithItsProcess,
-                                                  all.noughtsInTexts, all.composedLocalName, all.integratedSecurity})
+                                                  all.nulInTexts, all.composedLocalName, all.integratedSecurity})
         EXPECT_TRUE(capability) << capability.missing;
 }
 

@@ -57,7 +57,7 @@ OdbcResult::OdbcResult(std::shared_ptr<const Handle> connection, std::string_vie
     check(SQLSetStmtAttrW(statement_.get(), SQL_ATTR_QUERY_TIMEOUT, asPointer(static_cast<unsigned long>(timeout)), 0),
           statement_, "SQLSetStmtAttr");
     if (text.find('\0') != std::string_view::npos) // the interface would send what stands ahead of it, and run that
-        throw Error(kSyntaxOrColumn, "A statement can't hold a character of no value.");
+        throw Error(kSyntaxOrColumn, "A statement can't hold a NUL character.");
     qCDebug(odbcLog).noquote() << QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
     std::u16string wide = toUtf16(text);
     executed_ = SQLExecDirectW(statement_.get(), reinterpret_cast<SQLWCHAR*>(wide.data()),

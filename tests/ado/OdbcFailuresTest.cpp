@@ -17,6 +17,7 @@ namespace {
 using test::errorOf;
 
 constexpr const char* kOutOfReach = "Server does not exist or access denied.";
+constexpr const char* kLinkFailure = "Communication link failure";
 
 class OdbcFailures : public ::testing::Test {
 protected:
@@ -74,7 +75,7 @@ TEST_F(OdbcFailures, AServerThatFallsSilentGivesAnErrorAndIsReachedAgainOnceItIs
     const auto error = errorOf([&] { connection.Execute("update Prova set n = 1"); });
     ASSERT_TRUE(error);
     EXPECT_EQ(error->number(), kUnspecified);
-    EXPECT_NE(error->description(), "");
+    EXPECT_EQ(error->description(), "Timeout expired");
     EXPECT_EQ(error->statement(), "update Prova set n = 1");
     peer.thaw();
     connection.Close();
@@ -88,6 +89,8 @@ TEST_F(OdbcFailures, AServerThatEndsBetweenTwoStatementsGivesAnError) {
         const auto error = errorOf([&] { connection.Execute("update Prova set n = 1"); });
         ASSERT_TRUE(error);
         EXPECT_EQ(error->number(), kUnspecified);
+        EXPECT_EQ(error->sqlState(), "08S01");
+        EXPECT_EQ(error->description(), kLinkFailure);
     }
     peer.restart();
     connection.Close();
@@ -109,7 +112,8 @@ TEST_F(OdbcFailures, AServerThatEndsInTheMiddleOfAResultGivesAnError) {
         while (result->nextRow()) {
         }
     });
-    EXPECT_TRUE(error);
+    ASSERT_TRUE(error);
+    EXPECT_EQ(error->description(), kLinkFailure);
     EXPECT_FALSE(road->alive());
     road.reset();
     peer.restart();

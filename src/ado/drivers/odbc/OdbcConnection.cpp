@@ -125,11 +125,7 @@ public:
         }
     }
 
-    bool alive() const {
-        SQLINTEGER dead = SQL_CD_TRUE;
-        SQLGetConnectAttrW(handle_.get(), SQL_ATTR_CONNECTION_DEAD, &dead, 0, nullptr);
-        return dead == SQL_CD_FALSE;
-    }
+    bool alive() const { return !isDead(handle_); }
 
 private:
     Handle handle_;

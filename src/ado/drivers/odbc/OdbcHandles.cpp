@@ -26,11 +26,7 @@ struct Diagnostic {
     std::string text;
 
     bool isInformation() const { return state.starts_with("01"); }
-    /// Not of the road there: the driver has numbers of its own for that.
-    bool isServers() const {
-        return native > 0 && !isInformation() && (native < kFirstOfDriver || native > kLastOfDriver) &&
-               !state.starts_with("08");
-    }
+    bool isServers() const { return odbc::isServers(native) && !isInformation() && !state.starts_with("08"); }
 };
 
 Diagnostic diagnosticAt(const Handle& handle, SQLSMALLINT number, bool& found) {
@@ -128,6 +124,16 @@ SQLHANDLE environment() {
         return handle;
     }();
     return shared.get();
+}
+
+bool isServers(int nativeError) {
+    return nativeError > 0 && (nativeError < kFirstOfDriver || nativeError > kLastOfDriver);
+}
+
+bool isDead(const Handle& connection) {
+    SQLINTEGER dead = SQL_CD_TRUE;
+    SQLGetConnectAttrW(connection.get(), SQL_ATTR_CONNECTION_DEAD, &dead, 0, nullptr);
+    return dead == SQL_CD_TRUE;
 }
 
 bool check(SQLRETURN code, const Handle& handle, const char* call) {

@@ -43,6 +43,12 @@ SQLHANDLE environment();
 /// records of the handle: the first one that is an error gives number and text, the others follow as context.
 bool check(SQLRETURN code, const Handle& handle, const char* call);
 
+/// Whether a number is the server's own: drivers have numbers for what happens on the road there.
+bool isServers(int nativeError);
+
+/// Whether the driver knows that the connection's server has gone.
+bool isDead(const Handle& connection);
+
 /// A number as the attribute functions take it.
 inline SQLPOINTER asPointer(unsigned long number) {
     return reinterpret_cast<SQLPOINTER>(number); // NOLINT(performance-no-int-to-ptr)

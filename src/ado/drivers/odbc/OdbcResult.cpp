@@ -64,6 +64,18 @@ OdbcResult::OdbcResult(std::shared_ptr<const Handle> connection, std::string_vie
                                static_cast<SQLINTEGER>(wide.size()));
 }
 
+/// Drivers have no words of their own for a server that has gone.
+bool OdbcResult::answered(SQLRETURN code, const char* call) {
+    try {
+        return check(code, statement_, call);
+    } catch (const Error& error) {
+        if (isServers(error.nativeError()) || error.sqlState() == "HYT00" || !isDead(*connection_))
+            throw;
+        Error gone(kUnspecified, "Communication link failure", "08S01", error.nativeError(), {});
+        throw gone.in(error.description()).in(error.context());
+    }
+}
+
 bool OdbcResult::nextResult() {
     const SQLRETURN code = started_ ? SQLMoreResults(statement_.get()) : executed_;
     const bool first = !started_;
@@ -71,7 +83,7 @@ bool OdbcResult::nextResult() {
     fields_.clear();
     affected_ = -1;
     // A searched UPDATE or DELETE that met no row is "no data", and a result all the same.
-    if (!check(code, statement_, first ? "SQLExecDirect" : "SQLMoreResults") && !first)
+    if (!answered(code, first ? "SQLExecDirect" : "SQLMoreResults") && !first)
         return false;
     describe();
     return true;
@@ -112,7 +124,7 @@ FieldDescription OdbcResult::describeField(SQLUSMALLINT number) {
 }
 
 bool OdbcResult::nextRow() {
-    if (!check(SQLFetch(statement_.get()), statement_, "SQLFetch"))
+    if (!answered(SQLFetch(statement_.get()), "SQLFetch"))
         return false;
     for (std::size_t number = 1; number <= fields_.size(); ++number)
         read(static_cast<SQLUSMALLINT>(number));

@@ -34,6 +34,7 @@ private:
         std::string text;
     };
 
+    bool answered(SQLRETURN code, const char* call);
     void describe();
     FieldDescription describeField(SQLUSMALLINT number);
     void read(SQLUSMALLINT number);

@@ -36,9 +36,9 @@ function(vabo_library name)
 endfunction()
 
 # vabo_test(name SOURCES … LINKS …): one test executable and its ctest entry. With ROADS it has two entries, "embedded" and
-# "wire": one for each road to the server. What was tested is counted from the results by tools/count-tests.sh.
+# "wire": one for each road to the server; with WIRE the second alone. What was tested is counted from the results by tools/count-tests.sh.
 function(vabo_test name)
-    cmake_parse_arguments(ARG "QT;ROADS" "" "SOURCES;LINKS;LABELS" ${ARGN})
+    cmake_parse_arguments(ARG "QT;ROADS;WIRE" "" "SOURCES;LINKS;LABELS" ${ARGN})
     add_executable(${name} ${ARG_SOURCES})
     target_link_libraries(${name} PRIVATE vabo_options ${ARG_LINKS} GTest::gtest GTest::gmock)
     target_include_directories(${name} PRIVATE ${CMAKE_SOURCE_DIR}/tests)
@@ -49,6 +49,8 @@ function(vabo_test name)
         vabo_test_entry(${name} ${name} embedded --road=embedded)
         string(REGEX REPLACE "_test$" "_wire_test" wire ${name})
         vabo_test_entry(${wire} ${name} wire --road=wire)
+    elseif(ARG_WIRE)
+        vabo_test_entry(${name} ${name} wire --road=wire)
     elseif(ARG_LABELS)
         vabo_test_entry(${name} ${name} ${ARG_LABELS})
     else()

@@ -12,6 +12,7 @@
 
 #include <fstream>
 #include <iterator>
+#include <stdexcept>
 
 namespace support {
 
@@ -58,6 +59,12 @@ void TestWorkstation::moveServerBehindTheWire() {
 
 std::string TestWorkstation::serverName() const {
     return peer_ ? peer_->server() : kLocalServerName;
+}
+
+Peer& TestWorkstation::peer() const {
+    if (!peer_)
+        throw std::logic_error("No server process on this road.");
+    return *peer_;
 }
 
 TestWorkstation::~TestWorkstation() {

@@ -34,6 +34,8 @@ public:
     std::filesystem::path dataSourceFile() const;
     /// The server's name as the sample's pointer files have it.
     std::string serverName() const;
+    /// The process behind the wire. Throws std::logic_error on the embedded road.
+    Peer& peer() const;
 
     /// The bytes of a file of drive C; nothing where it is missing.
     std::optional<std::string> fileText(std::string_view path) const;

@@ -1,0 +1,51 @@
+#pragma once
+
+#include "ado/Connection.h"
+#include "session/FormFixture.h"
+#include "session/GuastoFixture.h"
+
+#include <functional>
+#include <string>
+
+namespace vabo {
+
+/// What a connection says whose server has gone meanwhile.
+inline constexpr const char* kCaduto = "Communication link failure";
+inline constexpr const char* kNonCaricabile = "Non è possibile caricare il DataBase";
+
+/// The program's forms over a server that will fail.
+class GuastoForm : public FormTest {
+protected:
+    /// The process anew: what stands on the disk is all that is left.
+    void ricomincia() {
+        // The form of the data sources gives way to the console.
+        for (const char* form : {"FormRegistraAziendeNeiDns", "Avvio_Morlan", "Avvio_Azienda", "About", "Avvio"})
+            if (gui.forms().isLoaded(form))
+                gui.forms().unload(form);
+        support::Gui::handleEvents();
+        AzzeraVariabili();
+    }
+    /// How many statements `lavoro` sends.
+    static int inviateDurante(const std::function<void()>& lavoro) {
+        int inviate = 0;
+        ado::setStatementRecorder([&](const std::string& /*testo*/) { ++inviate; });
+        lavoro();
+        ado::setStatementRecorder({});
+        return inviate;
+    }
+    /// The server ends as statement number `fatale` goes out, counting from 1.
+    void spegniAllIstruzione(int fatale, const std::function<void()>& lavoro) {
+        int inviate = 0;
+        ado::setStatementRecorder([&](const std::string& /*testo*/) {
+            if (++inviate == fatale)
+                guasto.avviene(Guasto::Spento);
+        });
+        lavoro();
+        ado::setStatementRecorder({});
+        ASSERT_GE(inviate, fatale);
+    }
+
+    ServerGuasto guasto{workstation};
+};
+
+} // namespace vabo

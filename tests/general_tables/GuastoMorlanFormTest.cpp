@@ -1,0 +1,194 @@
+// The general tables console while its server fails: some stores skip what fails, the others tell it.
+
+#include "MorlanFixture.h"
+#include "general_tables/Opzioni.h"
+#include "session/GuastoFixture.h"
+#include "support/HeardBoxes.h"
+
+#include <gmock/gmock.h>
+
+#include <ostream>
+
+namespace vabo {
+namespace {
+
+constexpr const char* kCaduto = "Communication link failure";
+constexpr const char* kIrraggiungibile = "Server does not exist or access denied.";
+constexpr const char* kTabelle[] = {"datiGenerali",           "TabellaUilityConti",   "TabellaContiUtili",
+                                    "BusteTabellaContiUtili", "ivaTabellaContiUtili", "IvaAliquotaStandard",
+                                    "tipoanagrafica"};
+
+class GuastoMorlan : public MorlanForm {
+protected:
+    GuastoMorlan() {
+        DbAzienda.Close();
+        StringaAzienda = ConnessioneAzienda() + ";";
+        DbAzienda.Open(StringaAzienda);
+    }
+    /// All that the console writes.
+    std::vector<Riga> tutto() const {
+        std::vector<Riga> righe;
+        for (const std::string tabella : kTabelle)
+            for (const Riga& riga : posto.rows(support::kCompany, "select * from " + tabella + " order by 1"))
+                righe.push_back(riga);
+        return righe;
+    }
+    void premi(const char* bottone) { gui.click("Avvio_Morlan", bottone); }
+    /// The boxes that come meanwhile; the console stands and takes input when they have gone.
+    std::vector<std::string> scatoleDurante(const std::function<void()>& lavoro) const {
+        std::vector<std::string> testi;
+        {
+            const support::HeardBoxes scatole;
+            lavoro();
+            testi = scatole.texts;
+        }
+        EXPECT_TRUE(gui.isVisible("Avvio_Morlan"));
+        EXPECT_TRUE(gui.form("Avvio_Morlan").isEnabled());
+        EXPECT_EQ(QGuiApplication::overrideCursor(), nullptr);
+        return testi;
+    }
+    /// What a pick in the company's list does, as far as this console goes.
+    void riprendiAzienda() {
+        DbAzienda.Close();
+        DbAzienda.Open(StringaAzienda);
+    }
+
+    ServerGuasto guasto{posto};
+};
+
+using Testi = std::vector<std::string>;
+
+class GuastoAlCaricamento : public GuastoMorlan, public testing::WithParamInterface<Guasto> {};
+
+TEST_P(GuastoAlCaricamento, IsToldOnceAndTheConsoleComesUpEmpty) {
+    guasto.avviene(GetParam());
+    EXPECT_EQ(scatoleDurante([this] { apri(); }), Testi{GetParam() == Guasto::Gelato ? "Timeout expired" : kCaduto});
+    EXPECT_EQ(spuntate(), "");
+    EXPECT_EQ(combo("DCBItem1").count(), 0);
+    for (const char* nome : {"DataGrid2", "DataGrid4", "DataGrid11", "DataGridPersonale"})
+        EXPECT_EQ(righe(nome), 0) << nome;
+    guasto.ripara();
+    riprendiAzienda();
+    riapri();
+    EXPECT_GT(righe("DataGrid2"), 0);
+}
+
+INSTANTIATE_TEST_SUITE_P(Di, GuastoAlCaricamento, testing::Values(Guasto::Spento, Guasto::Gelato), kNomeDelGuasto);
+
+// A box that the load sets has an event of its own, which tells its own failure.
+TEST_F(GuastoMorlan, AtWhateverStatementOfTheLoadTheServerEndsTheLoadAndOneBoxAtMostTellIt) {
+    int tutte = 0;
+    ado::setStatementRecorder([&](const std::string& /*testo*/) { ++tutte; });
+    apri();
+    ado::setStatementRecorder({});
+    ASSERT_GT(tutte, 20);
+    const auto prima = tutto();
+    for (int fatale = 1; fatale <= tutte; ++fatale) {
+        SCOPED_TRACE(fatale);
+        int inviate = 0;
+        ado::setStatementRecorder([&](const std::string& /*testo*/) {
+            if (++inviate == fatale)
+                guasto.avviene(Guasto::Spento);
+        });
+        const Testi dette = scatoleDurante([this] { riapri(); });
+        ado::setStatementRecorder({});
+        ASSERT_GE(inviate, fatale);
+        EXPECT_THAT(dette, testing::AnyOf(Testi{}, Testi{kCaduto}, Testi{kCaduto, kCaduto}));
+        guasto.ripara();
+        riprendiAzienda();
+    }
+    EXPECT_EQ(tutto(), prima);
+    riapri();
+    EXPECT_GT(righe("DataGrid2"), 0);
+}
+
+TEST_F(GuastoMorlan, ABoxTellsThatItsRowWasNotWrittenOrKeepsSilentByItsOwnRule) {
+    apri();
+    const auto prima = tutto();
+    guasto.avviene(Guasto::Spento);
+    for (const Opzione& opzione : kOpzioni) {
+        const std::string nome(opzione.casella);
+        const Testi dette = scatoleDurante([&] { controllo<controls::CheckBox>(nome).setValue(1 - casella(nome)); });
+        EXPECT_EQ(dette, opzione.ignoraErrori ? Testi{} : Testi{kCaduto}) << nome;
+    }
+    guasto.ripara();
+    EXPECT_EQ(tutto(), prima);
+}
+
+TEST_F(GuastoMorlan, TheChartsDefinitionTellsIt) {
+    apri();
+    guasto.avviene(Guasto::Spento);
+    EXPECT_EQ(scatoleDurante([&] { premi("Command31"); }), (Testi{"Utilizzi il Piano dei Conti Standard?", kCaduto}));
+}
+
+struct Salvataggio {
+    std::string nome;
+    int scheda;
+    const char* griglia;
+    const char* riga;
+    const char* selettore;
+    Testi scatole; ///< that tell of it
+};
+std::ostream& operator<<(std::ostream& out, const Salvataggio& uno) {
+    return out << uno.nome;
+}
+
+class GuastoNelSalvataggio : public GuastoMorlan, public testing::WithParamInterface<Salvataggio> {};
+
+TEST_P(GuastoNelSalvataggio, LeavesTheRowsAsTheyAreAndTheConsoleUsable) {
+    apri();
+    const auto prima = tutto();
+    scheda(GetParam().scheda);
+    scegli(GetParam().griglia, GetParam().riga);
+    ASSERT_EQ(fuoco(), GetParam().selettore);
+    guasto.avviene(Guasto::Spento);
+    EXPECT_EQ(scatoleDurante([&] { gui.press(Qt::Key_Return); }), GetParam().scatole);
+    guasto.ripara();
+    EXPECT_EQ(tutto(), prima);
+    riprendiAzienda();
+    riapri();
+    scheda(GetParam().scheda);
+    scegli(GetParam().griglia, GetParam().riga);
+    EXPECT_EQ(scatoleDurante([&] { gui.press(Qt::Key_Return); }), Testi{});
+}
+
+INSTANTIATE_TEST_SUITE_P(Di, GuastoNelSalvataggio,
+                         testing::Values(Salvataggio{"ContiUtili", 1, "DataGrid2", "4", "DCBItem1", {}},
+                                         Salvataggio{"AltriConti", 2, "DataGrid4", "2", "DCBitem2", {kCaduto}},
+                                         Salvataggio{"Fatture", 4, "DataGrid11", "3", "DCBItems3", {kCaduto}},
+                                         Salvataggio{"Personale", 5, "DataGridPersonale", "3", "DCBitems4", {}}),
+                         [](const auto& info) { return info.param.nome; });
+
+// Lists and grids have connections of their own: they are back as soon as their server is.
+TEST_F(GuastoMorlan, TheTurnOfTheOtherAccountsTellsItAndTheNextOneShowsItsTableAgain) {
+    apri();
+    scheda(2);
+    guasto.avviene(Guasto::Spento);
+    EXPECT_EQ(scatoleDurante([&] { premi("Command18"); }), Testi{kIrraggiungibile});
+    EXPECT_EQ(righe("DataGrid4"), 0);
+    guasto.ripara();
+    EXPECT_EQ(scatoleDurante([&] { premi("Command18"); }), Testi{});
+    EXPECT_GT(righe("DataGrid4"), 0);
+}
+
+TEST_F(GuastoMorlan, ATreatmentPickedIsToldAndNotStored) {
+    apri();
+    scheda(4);
+    const auto prima = tutto();
+    const std::string altra = valore("select Descrizione from IvaTrattamento where idautonumber = 3");
+    guasto.avviene(Guasto::Spento);
+    EXPECT_EQ(scatoleDurante([&] { prendi("DCBitem5", altra); }), Testi{"Type mismatch"}) << "of a rate not read";
+    guasto.ripara();
+    EXPECT_EQ(tutto(), prima);
+}
+
+TEST_F(GuastoMorlan, ItClosesWithoutItsServer) {
+    apri();
+    guasto.avviene(Guasto::Gelato);
+    premi("Command13");
+    EXPECT_EQ(gui.visibleForms(), "Avvio_Azienda");
+    EXPECT_FALSE(gui.forms().isLoaded("Avvio_Morlan"));
+}
+
+} // namespace
+} // namespace vabo

@@ -1,0 +1,50 @@
+// A workstation on which no driver is registered that could reach the server.
+
+#include "session/ApriDbSede.h"
+#include "session/FormFixture.h"
+#include "support/TemporaryFolder.h"
+
+#include <filesystem>
+#include <memory>
+
+namespace vabo {
+namespace {
+
+// The driver manager's own words.
+constexpr const char* kSenzaDriver = "Can't open lib 'SQL Server' : file not found";
+
+/// The driver manager reads an empty folder. Of this whole process: it looks for its registry once.
+class SenzaDriver : public FormTest {
+protected:
+    static void SetUpTestSuite() {
+        registro_ = std::make_unique<support::TemporaryFolder>();
+        qputenv("ODBCSYSINI", registro_->path().c_str());
+    }
+    static void TearDownTestSuite() { registro_.reset(); }
+
+private:
+    static inline std::unique_ptr<support::TemporaryFolder> registro_;
+};
+
+TEST_F(SenzaDriver, TheStartSaysSoAndEnds) {
+    const std::string indirizzo = *workstation.fileText("C:\\vabo\\IndirizzoServer.txt");
+    script.expectMessage(kSenzaDriver);
+    EXPECT_TRUE(end.endedBy([&] { gui.forms().show("Avvio"); }));
+    EXPECT_EQ(gui.visibleForms(), "");
+    EXPECT_EQ(*workstation.fileText("C:\\vabo\\IndirizzoServer.txt"), indirizzo);
+    EXPECT_FALSE(std::filesystem::exists(workstation.dataSourceFile()));
+}
+
+TEST_F(SenzaDriver, TheTemporaryDatabaseStaysShutWithoutAWord) {
+    EXPECT_FALSE(ApriDbTemp());
+}
+
+TEST_F(SenzaDriver, ACompanyAskedForByItsNumberCanNotBeLoaded) {
+    NomeTerminale = support::kTerminalName;
+    IdAziendaScelta = idOf(support::kCompany);
+    script.expectMessage("Non è possibile caricare il DataBase");
+    EXPECT_TRUE(end.endedBy([&] { gui.forms().show("Avvio_Azienda"); }));
+}
+
+} // namespace
+} // namespace vabo

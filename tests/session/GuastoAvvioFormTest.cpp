@@ -3,6 +3,7 @@
 #include "session/ApriDbSede.h"
 #include "session/GuastoFormFixture.h"
 #include "support/HeardBoxes.h"
+#include "support/OneEvent.h"
 
 #include <gmock/gmock.h>
 
@@ -39,13 +40,14 @@ TEST_P(GuastoAllAvvio, IsToldInItsOwnWordsThenTheProcessEndsAndTheNextStartGoesW
 
 class GuastoLocale : public GuastoAvvio, public testing::WithParamInterface<Guasto> {};
 
-TEST_P(GuastoLocale, OfTheLocalInstanceAloneIsSilentAndTheLoginComes) {
+TEST_P(GuastoLocale, OfTheLocalInstanceAloneIsNotToldAndTheLoginComesAfterOneWaitAtMost) {
     const std::string server = *workstation.fileText("C:\\vabo\\IndirizzoServer.txt");
     guasto.avviene(GetParam());
     workstation.putFile("C:\\vabo\\IndirizzoServer.txt", server);
     const auto puntatori = guasto.puntatori();
-    gui.forms().show("Avvio");
+    support::inOneEvent([&] { gui.forms().show("Avvio"); });
     gui.waitForFront("About");
+    EXPECT_EQ(guasto.muto.callers(), GetParam() == Guasto::Muto ? 1 : 0);
     EXPECT_TRUE(DbAzienda.IsOpen());
     EXPECT_FALSE(DbTemp.IsOpen());
     EXPECT_EQ(LinguaCorrente, "IT");

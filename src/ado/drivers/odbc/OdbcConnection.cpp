@@ -5,6 +5,7 @@
 #include "ado/drivers/odbc/OdbcDriverName.h"
 #include "ado/drivers/odbc/OdbcResult.h"
 #include "ado/drivers/odbc/OdbcSources.h"
+#include "ado/drivers/odbc/SilentServers.h"
 
 #include <algorithm>
 #include <charconv>
@@ -47,20 +48,33 @@ bool isOutOfReach(const Error& error) {
     return std::ranges::find(kStates, error.sqlState()) != std::end(kStates);
 }
 
-Error outOfReach(const Error& error) {
-    Error told(kUnspecified, "Server does not exist or access denied.", "08001", error.nativeError(), {});
-    return told.in(error.description()).in(error.context());
+/// It was there, or seemed to be, and didn't say a word for as long as it is waited for.
+bool isSilence(const Error& error) {
+    return error.sqlState() == "HYT00" || error.sqlState() == "HYT01";
 }
 
-void connect(const Handle& connection, std::u16string text) {
+std::string placeOf(const ConnectionString& text) {
+    return text.server() + ";" + text.value("Port").value_or("");
+}
+
+Error outOfReach(const Error& error, const ConnectionString& text) {
+    Error told(kUnspecified, "Server does not exist or access denied.", "08001", error.nativeError(), {});
+    told.in(error.description()).in(error.context());
+    if (isSilence(error))
+        rememberSilent(placeOf(text), told);
+    return told;
+}
+
+void connect(const Handle& connection, const ConnectionString& text, const std::string& driver) {
+    std::u16string wide = toUtf16(driverText(text, driver));
     try {
-        check(SQLDriverConnectW(connection.get(), nullptr, reinterpret_cast<SQLWCHAR*>(text.data()),
-                                static_cast<SQLSMALLINT>(text.size()), nullptr, 0, nullptr, SQL_DRIVER_NOPROMPT),
+        check(SQLDriverConnectW(connection.get(), nullptr, reinterpret_cast<SQLWCHAR*>(wide.data()),
+                                static_cast<SQLSMALLINT>(wide.size()), nullptr, 0, nullptr, SQL_DRIVER_NOPROMPT),
               connection, "SQLDriverConnect");
     } catch (const Error& error) {
         if (!isOutOfReach(error))
             throw;
-        throw outOfReach(error);
+        throw outOfReach(error, text);
     }
 }
 
@@ -88,7 +102,7 @@ public:
         check(SQLSetConnectAttrW(handle_.get(), SQL_ATTR_LOGIN_TIMEOUT, asPointer(static_cast<unsigned long>(timeout_)),
                                  0),
               handle_, "SQLSetConnectAttr");
-        connect(handle_, toUtf16(driverText(text, driver)));
+        connect(handle_, text, driver);
     }
 
     std::unique_ptr<DriverResult> run(std::string_view text) {
@@ -139,17 +153,18 @@ namespace {
 /// the next one is taken, at last a new one.
 std::shared_ptr<Road> preparedRoad(const ConnectionString& text) {
     constexpr int kMostKept = 100;
+    refuseSilent(placeOf(text));
     for (int kept = 0;; ++kept) {
         auto road = std::make_shared<Road>(text);
         try {
             road->runToEnd(road->lockWait());
             return road;
         } catch (const Error& error) {
-            const bool silent = error.sqlState() == "HYT00";
+            const bool silent = isSilence(error);
             if (road->alive() && !silent)
                 throw;
             if (silent || kept == kMostKept)
-                throw outOfReach(error);
+                throw outOfReach(error, text);
         }
     }
 }

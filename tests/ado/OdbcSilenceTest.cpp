@@ -1,0 +1,83 @@
+// How often a server that doesn't answer is waited for.
+
+#include "ado/Connection.h"
+#include "ado/ExpectError.h"
+#include "ado/TestServer.h"
+#include "support/OneEvent.h"
+#include "support/SilentServer.h"
+
+namespace ado {
+namespace {
+
+using support::inOneEvent;
+using test::errorOf;
+
+class OdbcSilence : public ::testing::Test {
+protected:
+    std::string text() const { return "Driver=SQL Server;Server=" + silent.server() + kRest; }
+    std::string textOfTheOther() { return server.connectionString() + ";Connect Timeout=1"; }
+    void expectSilence() const {
+        Connection connection;
+        const auto error = errorOf([&] { connection.Open(text()); });
+        ASSERT_TRUE(error);
+        EXPECT_EQ(error->number(), kUnspecified);
+        EXPECT_EQ(error->description(), "Server does not exist or access denied.");
+        EXPECT_NE(error->context(), "");
+        EXPECT_FALSE(connection.IsOpen());
+    }
+
+    static constexpr const char* kRest = ";UID=sa;PWD=x;Connect Timeout=1";
+    support::SilentServer silent;
+    test::TestServer server{support::Road::Wire};
+};
+
+TEST_F(OdbcSilence, WithinOneEventIsWaitedForOnce) {
+    inOneEvent([&] {
+        for (int i = 0; i < 3; ++i)
+            expectSilence();
+    });
+    EXPECT_EQ(silent.callers(), 1);
+}
+
+TEST_F(OdbcSilence, IsForgottenWithTheEvent) {
+    for (int i = 0; i < 2; ++i) {
+        inOneEvent([&] { expectSilence(); });
+        EXPECT_EQ(silent.callers(), 1);
+    }
+}
+
+TEST_F(OdbcSilence, IsForgottenWhileABoxIsRead) {
+    inOneEvent([&] {
+        expectSilence();
+        inOneEvent([] {});
+        expectSilence();
+    });
+    EXPECT_EQ(silent.callers(), 2);
+}
+
+TEST_F(OdbcSilence, OfOneServerIsNoneOfAnother) {
+    inOneEvent([&] {
+        expectSilence();
+        Connection other;
+        EXPECT_FALSE(errorOf([&] { other.Open(textOfTheOther()); }));
+    });
+}
+
+TEST_F(OdbcSilence, ARefusalIsNoSilenceAndTheNextLoginTriesAgain) {
+    inOneEvent([&] {
+        Connection connection;
+        server.peer().kill();
+        EXPECT_TRUE(errorOf([&] { connection.Open(textOfTheOther()); }));
+        server.peer().restart();
+        EXPECT_FALSE(errorOf([&] { connection.Open(textOfTheOther()); }));
+    });
+}
+
+TEST_F(OdbcSilence, OutsideOfAnyEventLoopIsWaitedForEachTime) {
+    for (int i = 0; i < 2; ++i)
+        expectSilence();
+    EXPECT_EQ(silent.callers(), 2);
+}
+
+} // namespace
+} // namespace ado

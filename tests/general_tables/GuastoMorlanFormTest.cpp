@@ -7,24 +7,21 @@
 
 #include <gmock/gmock.h>
 
+#include <map>
 #include <ostream>
 
 namespace vabo {
 namespace {
 
-constexpr const char* kCaduto = "Communication link failure";
-constexpr const char* kIrraggiungibile = "Server does not exist or access denied.";
 constexpr const char* kTabelle[] = {"datiGenerali",           "TabellaUilityConti",   "TabellaContiUtili",
                                     "BusteTabellaContiUtili", "ivaTabellaContiUtili", "IvaAliquotaStandard",
                                     "tipoanagrafica"};
 
+constexpr const char* kGriglie[] = {"DataGrid2", "DataGrid4", "DataGrid11", "DataGridPersonale"};
+
 class GuastoMorlan : public MorlanForm {
 protected:
-    GuastoMorlan() {
-        DbAzienda.Close();
-        StringaAzienda = ConnessioneAzienda() + ";";
-        DbAzienda.Open(StringaAzienda);
-    }
+    GuastoMorlan() { riprendiAzienda(); }
     /// All that the console writes.
     std::vector<Riga> tutto() const {
         std::vector<Riga> righe;
@@ -47,9 +44,19 @@ protected:
         EXPECT_EQ(QGuiApplication::overrideCursor(), nullptr);
         return testi;
     }
+    /// How many rows each list and grid shows.
+    std::map<std::string, int> liste() const {
+        std::map<std::string, int> quante;
+        for (const char* nome : {"DCBItem1", "DCBitem2", "DCBItems3", "DCBitems4", "DCBitem5"})
+            quante[nome] = combo(nome).count();
+        for (const char* nome : kGriglie)
+            quante[nome] = righe(nome);
+        return quante;
+    }
     /// What a pick in the company's list does, as far as this console goes.
     void riprendiAzienda() {
         DbAzienda.Close();
+        StringaAzienda = ConnessioneAzienda() + ";";
         DbAzienda.Open(StringaAzienda);
     }
 
@@ -62,10 +69,10 @@ class GuastoAlCaricamento : public GuastoMorlan, public testing::WithParamInterf
 
 TEST_P(GuastoAlCaricamento, IsToldOnceAndTheConsoleComesUpEmpty) {
     guasto.avviene(GetParam());
-    EXPECT_EQ(scatoleDurante([this] { apri(); }), Testi{GetParam() == Guasto::Gelato ? "Timeout expired" : kCaduto});
+    EXPECT_EQ(scatoleDurante([this] { apri(); }), Testi{GetParam() == Guasto::Gelato ? kMuto : kCaduto});
     EXPECT_EQ(spuntate(), "");
     EXPECT_EQ(combo("DCBItem1").count(), 0);
-    for (const char* nome : {"DataGrid2", "DataGrid4", "DataGrid11", "DataGridPersonale"})
+    for (const char* nome : kGriglie)
         EXPECT_EQ(righe(nome), 0) << nome;
     guasto.ripara();
     riprendiAzienda();
@@ -100,6 +107,30 @@ TEST_F(GuastoMorlan, AtWhateverStatementOfTheLoadTheServerEndsTheLoadAndOneBoxAt
     EXPECT_EQ(tutto(), prima);
     riapri();
     EXPECT_GT(righe("DataGrid2"), 0);
+}
+
+TEST_F(GuastoMorlan, InTheMiddleOfWhateverAnswerOfTheLoadTheWireIsCutAListIsWholeOrEmpty) {
+    constexpr long kProve = 60;
+    const auto filo = guasto.filo();
+    riprendiAzienda();
+    filo->mend();
+    apri();
+    const long tutti = filo->passed();
+    const std::map<std::string, int> intere = liste();
+    EXPECT_GT(intere.at("DCBItem1"), 0);
+    const auto prima = tutto();
+    for (long prova = 0; prova < kProve; ++prova) {
+        SCOPED_TRACE(prova);
+        filo->cutAfter(tutti * prova / kProve);
+        EXPECT_LE(scatoleDurante([this] { riapri(); }).size(), 2U);
+        for (const auto& [nome, quante] : liste())
+            EXPECT_THAT(quante, testing::AnyOf(0, intere.at(nome))) << nome;
+        filo->mend();
+        riprendiAzienda();
+    }
+    EXPECT_EQ(tutto(), prima);
+    riapri();
+    EXPECT_EQ(liste(), intere);
 }
 
 TEST_F(GuastoMorlan, ABoxTellsThatItsRowWasNotWrittenOrKeepsSilentByItsOwnRule) {

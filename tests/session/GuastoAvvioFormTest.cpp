@@ -101,5 +101,30 @@ TEST_F(GuastoAvvio, AtWhateverStatementTheServerEndsOneBoxTellsItTheProcessEndsA
     aspettaLogin();
 }
 
+TEST_F(GuastoAvvio, InTheMiddleOfWhateverAnswerTheWireIsCutOneBoxTellsItTheProcessEndsAndTheNextStartGoesWell) {
+    constexpr long kProve = 60;
+    const auto filo = guasto.filo();
+    aspettaLogin(); // makes the temporary database
+    ricomincia();
+    filo->mend();
+    aspettaLogin();
+    const long tutti = filo->passed();
+    const auto puntatori = guasto.puntatori();
+    const support::HeardBoxes scatole;
+    for (long prova = 0; prova < kProve; ++prova) {
+        SCOPED_TRACE(prova);
+        ricomincia();
+        const std::size_t prima = scatole.texts.size();
+        filo->cutAfter(tutti * prova / kProve);
+        EXPECT_TRUE(end.endedBy([&] { gui.forms().show("Avvio"); }));
+        ASSERT_EQ(scatole.texts.size(), prima + 1);
+        EXPECT_THAT(scatole.texts.back(), testing::AnyOf(kIrraggiungibile, kCaduto, kNonCaricabile));
+        EXPECT_EQ(guasto.puntatori(), puntatori);
+        filo->mend();
+    }
+    ricomincia();
+    aspettaLogin();
+}
+
 } // namespace
 } // namespace vabo

@@ -75,7 +75,7 @@ TEST_P(ServerTornato, IsReachedAgainByAPickInTheList) {
 
 TEST_P(ServerTornato, LeavesTheGeneralTablesWithoutTheirDataUntilACompanyIsPicked) {
     guasto.avviene(GetParam());
-    script.expectMessage(GetParam() == Guasto::Gelato ? "Timeout expired" : kCaduto);
+    script.expectMessage(GetParam() == Guasto::Gelato ? kMuto : kCaduto);
     apriTabelle();
     EXPECT_EQ(gui.find<controls::DataCombo>("Avvio_Morlan", "DCBItem1").count(), 0);
     guasto.ripara();
@@ -119,7 +119,7 @@ TEST_F(GuastoConsole, TheConsoleLoadedWithoutItsServerEndsTheProcess) {
     ricomincia();
     NomeTerminale = support::kTerminalName;
     guasto.avviene(Guasto::Spento);
-    script.expectMessage("Server does not exist or access denied.");
+    script.expectMessage(kIrraggiungibile);
     EXPECT_TRUE(end.endedBy([&] { gui.forms().show("Avvio_Azienda"); }));
 }
 

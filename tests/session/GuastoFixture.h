@@ -1,6 +1,7 @@
 #pragma once
 
 #include "session/variabili.h"
+#include "support/CutWire.h"
 #include "support/SilentServer.h"
 #include "support/TestWorkstation.h"
 
@@ -8,6 +9,7 @@
 
 #include <filesystem>
 #include <map>
+#include <memory>
 #include <ostream>
 #include <string>
 
@@ -28,10 +30,14 @@ inline std::ostream& operator<<(std::ostream& out, Guasto guasto) {
     return out << Nome(guasto);
 }
 
+inline constexpr const char* kIrraggiungibile = "Server does not exist or access denied.";
+/// What a connection says whose server has gone meanwhile, and what one that waited in vain for an answer.
+inline constexpr const char* kCaduto = "Communication link failure";
+inline constexpr const char* kMuto = "Timeout expired";
+
 /// What the user is told of it where the error's own description is shown.
 inline const char* Descrizione(Guasto guasto) {
-    return guasto == Guasto::PasswordSbagliata ? "Login failed for user 'sa'."
-                                               : "Server does not exist or access denied.";
+    return guasto == Guasto::PasswordSbagliata ? "Login failed for user 'sa'." : kIrraggiungibile;
 }
 
 /// The server behind the wire of a test's workstation, to be broken and put right. Whoever waits for it gives up after
@@ -84,6 +90,13 @@ public:
                 tutti[nome] = *posto_.fileText("C:\\vabo\\" + nome);
         }
         return tutti;
+    }
+
+    /// Between the program and its server from here on, for as long as it lives.
+    std::unique_ptr<support::CutWire> filo() {
+        auto filo = std::make_unique<support::CutWire>(posto_.peer().port());
+        cambia(QString::fromStdString(posto_.serverName()), QString::fromStdString(filo->server()));
+        return filo;
     }
 
     support::SilentServer muto;

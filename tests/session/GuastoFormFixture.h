@@ -9,8 +9,6 @@
 
 namespace vabo {
 
-/// What a connection says whose server has gone meanwhile.
-inline constexpr const char* kCaduto = "Communication link failure";
 inline constexpr const char* kNonCaricabile = "Non è possibile caricare il DataBase";
 
 /// The program's forms over a server that will fail.

@@ -22,6 +22,12 @@ protected:
         gui.waitForFront("Avvio_Azienda");
     }
     void scegli(const char* database) { gui.pick("Avvio_Azienda", "DataCombo1", companyName(database)); }
+    /// What a pick runs, without the toolkit around it: what stands for the end of the process can't pass through that.
+    bool finisceScegliendo(const std::string& nome) {
+        auto& elenco = gui.find<controls::DataCombo>("Avvio_Azienda", "DataCombo1");
+        elenco.setText(nome);
+        return end.endedBy([&] { emit elenco.Click(controls::DataCombo::List); });
+    }
     void aspettaAperta(const char* database) {
         EXPECT_EQ(gui.visibleForms(), "Avvio_Azienda");
         EXPECT_EQ(gui.text("Avvio_Azienda", "aziendaAperta"), companyName(database));
@@ -49,7 +55,7 @@ TEST_P(GuastoNellElenco, ACompanyPickedCanNotBeLoadedAndTheProcessEndsAfterOneWa
     const auto puntatori = guasto.puntatori();
     script.expectMessage(kNonCaricabile);
     bool finito = false;
-    support::inOneEvent([&] { finito = end.endedBy([&] { gui.pick("Avvio_Azienda", "DataCombo1", nome); }); });
+    support::inOneEvent([&] { finito = finisceScegliendo(nome); });
     EXPECT_TRUE(finito);
     EXPECT_EQ(guasto.muto.callers(), GetParam() == Guasto::Muto ? 1 : 0);
     EXPECT_EQ(guasto.puntatori(), puntatori);
@@ -93,15 +99,14 @@ INSTANTIATE_TEST_SUITE_P(Dopo, ServerTornato, testing::Values(Guasto::Spento, Gu
 
 TEST_F(GuastoConsole, AtWhateverStatementOfAPickTheServerEndsTheProcessEndsOrTheNextPickWorks) {
     const std::string nome = companyName(kOtherCompany);
-    const auto prende = [&] { gui.pick("Avvio_Azienda", "DataCombo1", nome); };
-    const int tutte = inviateDurante(prende);
+    const int tutte = inviateDurante([&] { EXPECT_FALSE(finisceScegliendo(nome)); });
     ASSERT_GT(tutte, 8);
     const support::HeardBoxes scatole;
     for (int fatale = 1; fatale <= tutte; ++fatale) {
         SCOPED_TRACE(fatale);
         const std::size_t prima = scatole.texts.size();
         bool finito = false;
-        spegniAllIstruzione(fatale, [&] { finito = end.endedBy(prende); });
+        spegniAllIstruzione(fatale, [&] { finito = finisceScegliendo(nome); });
         guasto.ripara();
         const std::vector<std::string> dette(scatole.texts.begin() + static_cast<long>(prima), scatole.texts.end());
         EXPECT_EQ(dette, finito ? std::vector<std::string>{kNonCaricabile} : std::vector<std::string>{});

@@ -49,8 +49,18 @@ void Connection::setConnectionString(const std::string& text) {
 void Connection::Open() {
     if (IsOpen())
         throw Error(kObjectOpen);
+    connect();
+}
+
+void Connection::connect() {
     const ado::ConnectionString text(connectionString_);
     driver_ = driverFor(text).connect(text);
+}
+
+/// What was begun on the lost one, a recordset or a row held, stays with it and fails.
+void Connection::reconnect() {
+    if (!driver_->alive())
+        connect();
 }
 
 void Connection::Open(const std::string& text) {
@@ -69,6 +79,7 @@ std::int64_t Connection::Execute(const std::string& text) {
         throw Error(kObjectClosed);
     recordStatement(text);
     try {
+        reconnect();
         return runToTheEnd(*driver_, text);
     } catch (Error& error) {
         error.during(text);
@@ -79,6 +90,7 @@ std::int64_t Connection::Execute(const std::string& text) {
 std::shared_ptr<DriverConnection> Connection::road() {
     if (!IsOpen())
         throw Error(kConnectionUnusable);
+    reconnect();
     return driver_;
 }
 

@@ -30,6 +30,8 @@ public:
     void Close();
     bool IsOpen() const { return driver_ != nullptr; }
 
+    // A connection that has lost its server says so once; its next use reaches the server that is back.
+
     /// Runs a text to its end and gives the rows written; the first error raises. Error 3704 when closed.
     std::int64_t Execute(const std::string& text);
 
@@ -37,6 +39,9 @@ public:
     std::shared_ptr<DriverConnection> road();
 
 private:
+    void connect();
+    void reconnect();
+
     std::string connectionString_;
     std::shared_ptr<DriverConnection> driver_;
 };

@@ -3,6 +3,7 @@
 #include "ado/Connection.h"
 #include "ado/Drivers.h"
 #include "ado/ExpectError.h"
+#include "ado/Recordset.h"
 #include "ado/TestServer.h"
 
 #include <gtest/gtest.h>
@@ -85,16 +86,45 @@ TEST_F(OdbcFailures, AServerThatFallsSilentGivesAnErrorAndIsReachedAgainOnceItIs
 TEST_F(OdbcFailures, AServerThatEndsBetweenTwoStatementsGivesAnError) {
     fill(connection);
     peer.kill();
-    for (int i = 0; i < 2; ++i) {
-        const auto error = errorOf([&] { connection.Execute("update Prova set n = 1"); });
-        ASSERT_TRUE(error);
-        EXPECT_EQ(error->number(), kUnspecified);
-        EXPECT_EQ(error->sqlState(), "08S01");
-        EXPECT_EQ(error->description(), kLinkFailure);
-    }
+    const auto error = errorOf([&] { connection.Execute("update Prova set n = 1"); });
+    ASSERT_TRUE(error);
+    EXPECT_EQ(error->number(), kUnspecified);
+    EXPECT_EQ(error->sqlState(), "08S01");
+    EXPECT_EQ(error->description(), kLinkFailure);
     peer.restart();
     connection.Close();
     expectWorks(connection);
+}
+
+TEST_F(OdbcFailures, AnOpenConnectionReachesItsServerAgainOnceItIsBack) {
+    fill(connection);
+    peer.kill();
+    EXPECT_TRUE(errorOf([&] { connection.Execute("update Prova set n = 1"); }));
+    const auto error = errorOf([&] { connection.Execute("update Prova set n = 1"); });
+    ASSERT_TRUE(error);
+    EXPECT_EQ(error->description(), kOutOfReach);
+    EXPECT_EQ(error->statement(), "update Prova set n = 1");
+    EXPECT_TRUE(connection.IsOpen());
+    peer.restart();
+    EXPECT_EQ(connection.Execute("update Prova set n = 1"), 1);
+}
+
+TEST_F(OdbcFailures, ARecordsetIsReadAnewOnAnOpenConnectionOnceItsServerIsBack) {
+    fill(connection);
+    Recordset rs;
+    rs.Open("select * from Prova", connection, CursorType::Keyset, LockType::Pessimistic);
+    rs["t"] = "perso";
+    peer.kill();
+    EXPECT_TRUE(errorOf([&] { rs.Update(); }));
+    peer.restart();
+    EXPECT_TRUE(errorOf([&] { rs.Update(); })) << "what was begun on the lost connection is lost with it";
+    rs.CancelUpdate();
+    rs.Close();
+    rs.Open("select * from Prova", connection, CursorType::Keyset, LockType::Pessimistic);
+    EXPECT_TRUE(Value(rs["t"]).isNull());
+    rs["t"] = "scritto";
+    rs.Update();
+    EXPECT_EQ(connection.Execute("update Prova set n = n where t = 'scritto'"), 1);
 }
 
 TEST_F(OdbcFailures, AServerThatEndsInTheMiddleOfAResultGivesAnError) {

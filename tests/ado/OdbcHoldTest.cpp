@@ -43,10 +43,10 @@ private:
     std::vector<std::string> texts_;
 };
 
-constexpr const char* kWait = "SET LOCK_TIMEOUT 10000";
+constexpr const char* kWait = "SET LOCK_TIMEOUT 5000";
 constexpr const char* kBegin =
     "SET LOCK_TIMEOUT 0; BEGIN TRANSACTION; SELECT [n] FROM [Prova] WITH (UPDLOCK, ROWLOCK) WHERE [n] = 1";
-constexpr const char* kEnd = "IF @@TRANCOUNT > 0 COMMIT TRANSACTION; SET LOCK_TIMEOUT 10000";
+constexpr const char* kEnd = "IF @@TRANCOUNT > 0 COMMIT TRANSACTION; SET LOCK_TIMEOUT 5000";
 
 class OdbcHolds : public ::testing::Test {
 protected:
@@ -67,7 +67,7 @@ TEST_F(OdbcHolds, AConnectionWaitsForOthersLessThanItsStatementsMayTake) {
     EXPECT_EQ(sent.count(kWait), 1);
     Connection hasty;
     hasty.Open(server.connectionString() + ";Connect Timeout=3");
-    EXPECT_EQ(sent.count("SET LOCK_TIMEOUT 2000"), 1);
+    EXPECT_EQ(sent.count("SET LOCK_TIMEOUT 1000"), 1);
 }
 
 TEST_F(OdbcHolds, OnlyAHeldRowIsRefusedAtOnce) {

@@ -73,6 +73,22 @@ TEST_F(OdbcSilence, ARefusalIsNoSilenceAndTheNextLoginTriesAgain) {
     });
 }
 
+TEST_F(OdbcSilence, OfAStatementIsRememberedToo) {
+    Connection connection;
+    connection.Open(textOfTheOther());
+    inOneEvent([&] {
+        server.peer().freeze();
+        const auto silence = errorOf([&] { connection.Execute("select 1"); });
+        server.peer().thaw();
+        ASSERT_TRUE(silence);
+        EXPECT_EQ(silence->description(), "Timeout expired");
+        const auto remembered = errorOf([&] { connection.Execute("select 1"); });
+        ASSERT_TRUE(remembered);
+        EXPECT_EQ(remembered->description(), "Server does not exist or access denied.");
+    });
+    inOneEvent([&] { EXPECT_FALSE(errorOf([&] { connection.Execute("select 1"); })); });
+}
+
 TEST_F(OdbcSilence, OutsideOfAnyEventLoopIsWaitedForEachTime) {
     for (int i = 0; i < 2; ++i)
         expectSilence();

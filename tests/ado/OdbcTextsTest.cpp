@@ -70,6 +70,15 @@ TEST(OdbcText, CarriesServerDatabaseUserAndWhatTheDriverNeeds) {
         EXPECT_EQ(driverText(ConnectionString(text.given), text.driver), text.sent);
 }
 
+TEST(OdbcPatience, IsHalfForWhatOnlyReads) {
+    EXPECT_EQ(patience("SELECT * FROM Comuni", 15), 7);
+    EXPECT_EQ(patience(" \r\n\tselect 1", 15), 7);
+    EXPECT_EQ(patience("select 1", 1), 1);
+    for (const char* writing : {"update Comuni set cap = '' where id in (select 1)", "CREATE DATABASE Vabodati", "",
+                                "sel", "IF NOT EXISTS (SELECT 1) CREATE DATABASE x"})
+        EXPECT_EQ(patience(writing, 15), 15) << writing;
+}
+
 struct Sources {
     const char* statement;
     Names fields;

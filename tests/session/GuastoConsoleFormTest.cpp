@@ -79,18 +79,13 @@ TEST_P(ServerTornato, IsReachedAgainByAPickInTheList) {
     }
 }
 
-TEST_P(ServerTornato, LeavesTheGeneralTablesWithoutTheirDataUntilACompanyIsPicked) {
+TEST_P(ServerTornato, OpensTheGeneralTablesWithTheirDataAgain) {
     guasto.avviene(GetParam());
     script.expectMessage(GetParam() == Guasto::Gelato ? kMuto : kCaduto);
     apriTabelle();
     EXPECT_EQ(gui.find<controls::DataCombo>("Avvio_Morlan", "DCBItem1").count(), 0);
     guasto.ripara();
     chiudiTabelle();
-    script.expectMessage(kCaduto); // the company's connection is the one of before
-    apriTabelle();
-    chiudiTabelle();
-    scegli(kCompany);
-    aspettaAperta(kCompany);
     apriTabelle();
     EXPECT_GT(gui.find<controls::DataCombo>("Avvio_Morlan", "DCBItem1").count(), 0);
 }

@@ -2,6 +2,7 @@
 
 #include "ado/ConnectionString.h"
 #include "ado/Literals.h"
+#include "ado/Names.h"
 #include "ado/drivers/odbc/OdbcDriverName.h"
 #include "ado/drivers/odbc/OdbcResult.h"
 #include "ado/drivers/odbc/OdbcSources.h"
@@ -48,21 +49,14 @@ bool isOutOfReach(const Error& error) {
     return std::ranges::find(kStates, error.sqlState()) != std::end(kStates);
 }
 
-/// It was there, or seemed to be, and didn't say a word for as long as it is waited for.
-bool isSilence(const Error& error) {
-    return error.sqlState() == "HYT00" || error.sqlState() == "HYT01";
-}
-
 std::string placeOf(const ConnectionString& text) {
     return text.server() + ";" + text.value("Port").value_or("");
 }
 
-Error outOfReach(const Error& error, const ConnectionString& text) {
-    Error told(kUnspecified, "Server does not exist or access denied.", "08001", error.nativeError(), {});
-    told.in(error.description()).in(error.context());
+Error notReached(const Error& error, const ConnectionString& text) {
     if (isSilence(error))
-        rememberSilent(placeOf(text), told);
-    return told;
+        rememberSilent(placeOf(text), error);
+    return outOfReach(error);
 }
 
 void connect(const Handle& connection, const ConnectionString& text, const std::string& driver) {
@@ -74,7 +68,7 @@ void connect(const Handle& connection, const ConnectionString& text, const std::
     } catch (const Error& error) {
         if (!isOutOfReach(error))
             throw;
-        throw outOfReach(error, text);
+        throw notReached(error, text);
     }
 }
 
@@ -93,10 +87,18 @@ std::string driverText(const ConnectionString& text, const std::string& resolved
     return out + driverSettings(resolvedDriver);
 }
 
+int patience(std::string_view text, int loginSeconds) {
+    constexpr std::string_view kReading = "SELECT";
+    const std::size_t begin = std::min(text.find_first_not_of(" \t\r\n"), text.size());
+    const bool reads = sameName(text.substr(begin, kReading.size()), kReading);
+    return reads ? std::max(loginSeconds / 2, 1) : loginSeconds;
+}
+
 /// The connection itself, as long as anybody walks on it.
 class Road : public std::enable_shared_from_this<Road> {
 public:
-    explicit Road(const ConnectionString& text) : handle_(SQL_HANDLE_DBC, environment()), timeout_(timeoutOf(text)) {
+    explicit Road(const ConnectionString& text)
+        : handle_(SQL_HANDLE_DBC, environment()), place_(placeOf(text)), timeout_(timeoutOf(text)) {
         const std::string driver = resolveDriver(text.value("Driver").value_or(kServerDriver), registeredDrivers());
         checkLength(driver);
         check(SQLSetConnectAttrW(handle_.get(), SQL_ATTR_LOGIN_TIMEOUT, asPointer(static_cast<unsigned long>(timeout_)),
@@ -105,25 +107,27 @@ public:
         connect(handle_, text, driver);
     }
 
-    std::unique_ptr<DriverResult> run(std::string_view text) {
-        return std::make_unique<OdbcResult>(std::shared_ptr<const Handle>(shared_from_this(), &handle_), text,
-                                            timeout_);
-    }
+    std::unique_ptr<DriverResult> run(std::string_view text) { return run(text, patience(text, timeout_)); }
     void runToEnd(std::string_view text) {
         const auto result = run(text);
         while (result->nextResult()) {
         }
     }
 
+    std::unique_ptr<DriverResult> run(std::string_view text, int seconds) {
+        return std::make_unique<OdbcResult>(std::shared_ptr<const Handle>(shared_from_this(), &handle_), place_, text,
+                                            seconds);
+    }
+
     void beginHold() { ++holds_; }
     /// What another program writes at this moment is waited for, or a busy day would lose writes; the server tells that
-    /// it took too long before the statement's own time is over.
-    std::string lockWait() const { return "SET LOCK_TIMEOUT " + std::to_string(timeout_ * 1000 * 2 / 3); }
+    /// it took too long before the statement's own time is over, whatever its kind.
+    std::string lockWait() const { return "SET LOCK_TIMEOUT " + std::to_string(timeout_ * 1000 / 3); }
     /// A row that somebody else holds is refused at once. The first of several holds begins their transaction, on the
     /// way of its own selection.
     std::unique_ptr<DriverResult> held(std::string_view select) {
         const std::string begin = holds_ == 1 ? "SET LOCK_TIMEOUT 0; BEGIN TRANSACTION; " : "";
-        auto result = run(begin + std::string(select));
+        auto result = run(begin + std::string(select), patience(select, timeout_));
         while (result->nextResult() && !result->hasRows()) {
         }
         return result;
@@ -143,6 +147,7 @@ public:
 
 private:
     Handle handle_;
+    std::string place_;
     int timeout_;
     int holds_ = 0;
 };
@@ -164,7 +169,7 @@ std::shared_ptr<Road> preparedRoad(const ConnectionString& text) {
             if (road->alive() && !silent)
                 throw;
             if (silent || kept == kMostKept)
-                throw outOfReach(error, text);
+                throw notReached(error, text);
         }
     }
 }

@@ -14,6 +14,11 @@ inline constexpr int kTimeout = 15;
 /// The text that goes to the driver: its resolved name, server, database, user, password and what it needs beside.
 std::string driverText(const ConnectionString& text, const std::string& resolvedDriver);
 
+/// Seconds of silence after which a text is given up, of those that a login may take. FreeTDS asks to cancel then, and
+/// waits as long again: what only reads is given up within the time of a login. What writes has the whole time, since a
+/// write that is given up too early may be lost without a word.
+int patience(std::string_view text, int loginSeconds);
+
 class Road;
 
 /// One connection of the data source interface. A hold on rows is a transaction on this very connection, so that its

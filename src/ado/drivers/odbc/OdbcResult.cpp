@@ -1,5 +1,7 @@
 #include "ado/drivers/odbc/OdbcResult.h"
 
+#include "ado/drivers/odbc/SilentServers.h"
+
 #include <QString>
 
 #include <array>
@@ -52,8 +54,8 @@ FieldType fieldType(SQLSMALLINT type, SQLULEN size, SQLSMALLINT digits) {
 
 } // namespace
 
-OdbcResult::OdbcResult(std::shared_ptr<const Handle> connection, std::string_view text, int timeout)
-    : connection_(std::move(connection)), statement_(SQL_HANDLE_STMT, connection_->get()) {
+OdbcResult::OdbcResult(std::shared_ptr<const Handle> connection, std::string server, std::string_view text, int timeout)
+    : connection_(std::move(connection)), server_(std::move(server)), statement_(SQL_HANDLE_STMT, connection_->get()) {
     check(SQLSetStmtAttrW(statement_.get(), SQL_ATTR_QUERY_TIMEOUT, asPointer(static_cast<unsigned long>(timeout)), 0),
           statement_, "SQLSetStmtAttr");
     if (text.find('\0') != std::string_view::npos) // the interface would send what stands ahead of it, and run that
@@ -69,8 +71,12 @@ bool OdbcResult::answered(SQLRETURN code, const char* call) {
     try {
         return check(code, statement_, call);
     } catch (const Error& error) {
-        if (isServers(error.nativeError()) || error.sqlState() == "HYT00" || !isDead(*connection_))
+        if (isServers(error.nativeError()) || !isDead(*connection_))
             throw;
+        if (isSilence(error)) {
+            rememberSilent(server_, error);
+            throw;
+        }
         Error gone(kUnspecified, "Communication link failure", "08S01", error.nativeError(), {});
         throw gone.in(error.description()).in(error.context());
     }

@@ -12,8 +12,8 @@ namespace ado::odbc {
 /// The results of one text on a statement of its own, fetched row by row without a cursor of the driver's.
 class OdbcResult : public DriverResult {
 public:
-    /// `timeout`: seconds until a server that doesn't answer is given up.
-    OdbcResult(std::shared_ptr<const Handle> connection, std::string_view text, int timeout);
+    /// `timeout`: seconds until a server that doesn't answer is given up, and remembered as silent.
+    OdbcResult(std::shared_ptr<const Handle> connection, std::string server, std::string_view text, int timeout);
 
     bool nextResult() override;
     bool hasRows() const override { return !fields_.empty(); }
@@ -41,6 +41,7 @@ private:
     void readText(SQLUSMALLINT number, Cell& cell);
 
     std::shared_ptr<const Handle> connection_; // outlives the statement
+    std::string server_;
     Handle statement_;
     SQLRETURN executed_ = SQL_ERROR;
     bool started_ = false;

@@ -1,0 +1,59 @@
+#pragma once
+
+#include "ado/ConnectionString.h"
+#include "support/Processes.h"
+#include "support/Road.h"
+#include "support/TestWorkstation.h"
+
+#include <QStandardPaths>
+
+#include <gtest/gtest.h>
+
+#include <array>
+#include <string>
+
+namespace vabo {
+
+/// Where the server is another process: an embedded one is nobody else's.
+struct OverTheWire {
+    OverTheWire() {
+        constexpr std::array kArguments{"", "--road=wire"};
+        support::chooseRoad(static_cast<int>(kArguments.size()), kArguments.data());
+    }
+};
+
+inline std::string isqlProgram() {
+    return QStandardPaths::findExecutable("isql").toStdString();
+}
+
+/// What the driver manager's own client answers to a statement, logged in as the server's connection text tells.
+inline std::string answer(const std::string& server, const std::string& dataSource, const std::string& statement) {
+    const ado::ConnectionString login(server);
+    support::HelperProcess isql(isqlProgram(), {dataSource, login.user(), login.password(), "-b", "-d|"});
+    isql.writeLine(statement);
+    EXPECT_EQ(isql.finish(), 0) << dataSource;
+    return isql.readAll();
+}
+
+/// Each of the three data sources leads to its database.
+inline void expectEachDatabase(const support::TestWorkstation& workstation, const std::string& server) {
+    const struct {
+        const char* dataSource;
+        const char* statement;
+        const char* database;
+    } cases[] = {
+        {"Tlv_server", "select idautonumber, NomeUtente from AbilitazioneAccessi order by idautonumber",
+         support::kCompany},
+        {"Tlv_Temp", "select id, Lingua from LinguaClient order by id", support::kTemporaryDatabase},
+        {"Tlv_Azienda", "select id, NomeAzienda from link_programma order by id", support::kControlDatabase},
+    };
+    for (const auto& one : cases) {
+        std::string expected;
+        for (const auto& row : workstation.rows(one.database, one.statement))
+            expected += row[0] + "|" + row[1] + "\n";
+        ASSERT_FALSE(expected.empty()) << one.dataSource;
+        EXPECT_EQ(answer(server, one.dataSource, one.statement), expected) << one.dataSource;
+    }
+}
+
+} // namespace vabo

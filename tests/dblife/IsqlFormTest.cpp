@@ -1,0 +1,26 @@
+// After a registration in the form another program reaches the databases.
+
+#include "dblife/Isql.h"
+#include "dblife/RegistraFormFixture.h"
+#include "kit/LinguaClient.h"
+#include "platform/DataSources.h"
+
+#include <gmock/gmock.h>
+
+namespace {
+
+using namespace vabo;
+
+class IsqlRegistra : private OverTheWire, public RegistraForm {};
+
+TEST_F(IsqlRegistra, ReadsEachDatabaseOnceTheFormHasRegisteredIt) {
+    LeggiLinguaClient("");
+    apri();
+    platform::setDataSources(nullptr); // the machine's own, which knows none of them yet
+    ASSERT_THAT(platform::dataSources().names(), testing::Each(testing::Not(testing::StartsWith("Tlv_"))));
+    gui.click(kForm, "cmdCancel");
+    aspettaConsole();
+    expectEachDatabase(workstation, server);
+}
+
+} // namespace

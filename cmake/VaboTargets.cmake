@@ -35,8 +35,9 @@ function(vabo_library name)
     endif()
 endfunction()
 
-# vabo_test(name SOURCES … LINKS …): one test executable and its ctest entry. With ROADS it has two entries, "embedded" and
-# "wire": one for each road to the server; with WIRE the second alone. What was tested is counted from the results by tools/count-tests.sh.
+# vabo_test(name SOURCES … LINKS …): one test executable and its ctest entry. With ROADS it has two entries, "embedded"
+# and "wire": one for each road to the server; with WIRE the second alone. What was tested is counted from the results
+# by tools/count-tests.sh.
 function(vabo_test name)
     cmake_parse_arguments(ARG "QT;ROADS;WIRE" "" "SOURCES;LINKS;LABELS" ${ARGN})
     add_executable(${name} ${ARG_SOURCES})

@@ -2,11 +2,11 @@
 // opened once on a connection that is there already. And one letter typed into a picker of that many accounts.
 
 #include "Pairs.h"
+#include "SampleDrive.h"
 #include "ado/Connection.h"
 #include "ado/Recordset.h"
 #include "app/Program.h"
 #include "controls/DataCombo.h"
-#include "provision/Provision.h"
 #include "session/TreatForms.h"
 #include "session/variabili.h"
 
@@ -15,39 +15,20 @@
 #include <QKeyEvent>
 
 #include <array>
-#include <cstdlib>
-#include <filesystem>
 #include <memory>
 #include <stdexcept>
 #include <string>
-#include <unistd.h>
 #include <vector>
 
 namespace {
 
-namespace fs = std::filesystem;
-
 constexpr long kAccounts = 20'000;
 constexpr const char* kForm = "Avvio_Morlan";
-
-std::string terminalName() {
-    std::array<char, 256> host{};
-    gethostname(host.data(), host.size() - 1);
-    std::string terminal(host.data());
-    terminal = terminal.substr(0, terminal.find('.'));
-    for (char& c : terminal)
-        c = c == '-' ? '_' : c;
-    return terminal;
-}
 
 /// The program with its company taken up, on a drive C of its own.
 class Console {
 public:
-    Console() : drive_(fs::temp_directory_path() / ("vabo-bench-" + std::to_string(getpid()))) {
-        provision::layDown({drive_, terminalName(), 200, kAccounts});
-        setenv("VABO_DRIVE_C", drive_.c_str(), 1);
-        setenv("ODBCINI", (drive_ / "odbc.ini").c_str(), 1);
-        setenv("QT_QPA_PLATFORM", "offscreen", 1);
+    Console() {
         program_ = std::make_unique<app::Program>(argc_, argv_.data());
         program_->forms().show("Avvio");
         vabo::ApriForm("Avvio_Azienda", true);
@@ -56,8 +37,6 @@ public:
     ~Console() {
         program_.reset();
         vabo::AzzeraVariabili();
-        std::error_code ignored;
-        fs::remove_all(drive_, ignored);
     }
     Console(const Console&) = delete;
     Console& operator=(const Console&) = delete;
@@ -75,7 +54,7 @@ public:
     }
 
 private:
-    fs::path drive_;
+    bench::SampleDrive drive_{{.driveC = {}, .terminal = {}, .ledgerRows = 200, .accounts = kAccounts}};
     int argc_ = 1;
     std::string name_ = "vabo-bench-console";
     std::array<char*, 2> argv_{name_.data(), nullptr};

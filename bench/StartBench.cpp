@@ -2,21 +2,16 @@
 // toolkit; and what the three takings up of a company in it cost.
 
 #include "Pairs.h"
-#include "provision/Provision.h"
+#include "SampleDrive.h"
 
 #include <array>
 #include <chrono>
 #include <cstdio>
-#include <cstdlib>
-#include <filesystem>
 #include <stdexcept>
 #include <string>
-#include <unistd.h>
 #include <vector>
 
 namespace {
-
-namespace fs = std::filesystem;
 
 struct Start {
     double shown = 0; ///< seconds
@@ -46,17 +41,7 @@ Start started(const std::string& program) {
 }
 
 void StartToLogin(benchmark::State& state) {
-    const fs::path drive = fs::temp_directory_path() / ("vabo-bench-" + std::to_string(getpid()));
-    std::array<char, 256> host{};
-    gethostname(host.data(), host.size() - 1);
-    std::string terminal(host.data());
-    terminal = terminal.substr(0, terminal.find('.'));
-    for (char& c : terminal)
-        c = c == '-' ? '_' : c;
-    provision::layDown({drive, terminal});
-    setenv("VABO_DRIVE_C", drive.c_str(), 1);
-    setenv("ODBCINI", (drive / "odbc.ini").c_str(), 1);
-    setenv("QT_QPA_PLATFORM", "offscreen", 1);
+    const bench::SampleDrive drive;
     started("vabo-bench-start-probe"); // warm: the temporary database is made by the first start
     for (auto _ : state) {
         const Start ours = started("vabo-bench-start-probe");
@@ -67,7 +52,6 @@ void StartToLogin(benchmark::State& state) {
         for (std::size_t i = 0; i < ours.companies.size(); ++i)
             state.counters["company" + std::to_string(i + 1) + "_ms"] = ours.companies[i];
     }
-    fs::remove_all(drive);
 }
 BENCHMARK(StartToLogin)->Apply(bench::inPairs);
 

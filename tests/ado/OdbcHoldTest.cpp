@@ -68,6 +68,9 @@ TEST_F(OdbcHolds, AConnectionWaitsForOthersLessThanItsStatementsMayTake) {
     Connection hasty;
     hasty.Open(server.connectionString() + ";Connect Timeout=3");
     EXPECT_EQ(sent.count("SET LOCK_TIMEOUT 1000"), 1);
+    Connection patient;
+    patient.Open(server.connectionString() + ";Connect Timeout=2147483647");
+    EXPECT_EQ(sent.count("SET LOCK_TIMEOUT 28800000"), 1) << "a day at the longest";
 }
 
 TEST_F(OdbcHolds, OnlyAHeldRowIsRefusedAtOnce) {

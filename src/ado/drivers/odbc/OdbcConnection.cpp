@@ -33,12 +33,15 @@ void checkLength(const std::string& driver) {
         throw Error(kUnspecified, "Driver name too long", "IM011", 0, {});
 }
 
+/// A day is as good as for ever, and its milliseconds are a number that every interface takes.
+constexpr int kLongestTimeout = 86'400;
+
 int timeoutOf(const ConnectionString& text) {
     for (const char* key : {"Connect Timeout", "Connection Timeout", "Timeout"}) {
         int seconds = 0;
         const std::string value = text.value(key).value_or("");
         if (std::from_chars(value.data(), value.data() + value.size(), seconds).ec == std::errc() && seconds > 0)
-            return seconds;
+            return std::min(seconds, kLongestTimeout);
     }
     return kTimeout;
 }

@@ -35,7 +35,8 @@ struct Parameter {
     engine::Literal constant; ///< the literal as it stood when the statement was bound
     bool negated = false;
     ConversionRequest conversion;
-    bool fixed = false; ///< its digits gave another expression its type: no other literal may take its place
+    /// The number of its digits is in the type of what is around it: a literal with others needs a plan of its own.
+    bool digitsMatter = false;
 };
 
 /// A `?N`, counted from 0.

@@ -10,23 +10,27 @@ namespace {
 
 using Source = bound::Parameter::Source;
 
-Scalar writtenValue(const bound::Parameter& parameter, const Bindings& bindings) {
+Literal writtenLiteral(const bound::Parameter& parameter, const Bindings& bindings) {
     if (parameter.source == Source::Constant || bindings.literals == nullptr) {
-        return scalarOf(parameter.constant, parameter.negated);
+        return parameter.constant;
     }
     const LiteralToken& token = bindings.literals->at(static_cast<std::size_t>(parameter.ordinal));
-    return scalarOf({token.kind, token.text, parameter.ordinal}, parameter.negated);
+    return {token.kind, token.text, parameter.ordinal};
 }
 
 } // namespace
 
 Scalar valueOf(const bound::Parameter& parameter, const Bindings& bindings) {
-    Scalar value = writtenValue(parameter, bindings);
+    const Literal literal = writtenLiteral(parameter, bindings);
+    Scalar value = scalarOf(literal, parameter.negated);
     if (parameter.conversion.to.kind == DataType::Kind::Unknown) {
         return value;
     }
     ConversionRequest request = parameter.conversion;
     request.dayFirst = bindings.dayFirst;
+    if (request.from.kind == DataType::Kind::Decimal) {
+        request.from = decimalOf(literal); // the plan was made for one with other digits perhaps
+    }
     return convert(std::move(value), request);
 }
 

@@ -36,8 +36,8 @@ struct Plan {
     bool reusable = true;
     /// Literals that shaped the plan, by ordinal: another run must have the same.
     std::vector<std::pair<int, std::string>> fixed;
-    /// Literals with a point whose digits give an expression its type.
-    std::vector<std::pair<int, DataType>> fixedTypes;
+    /// Numbers whose digits give an expression its type: another run must have as many.
+    std::vector<std::pair<int, DataType>> fixedDigits;
 
     explicit Plan(sqlite::Statement prepared) : statement(std::move(prepared)) {}
 };

@@ -5,7 +5,7 @@
 #include "engine/SessionTables.h"
 #include "engine/translate/SqlText.h"
 
-#include <set>
+#include <vector>
 
 namespace engine {
 
@@ -155,21 +155,19 @@ void checkNames(ServerSession& session, const Statement& statement) {
 }
 
 void fixLiterals(Plan& plan, const Shape& shape) {
-    std::set<int> free;
+    std::vector<bool> free(shape.literals.size());
     for (const bound::Parameter& parameter : plan.parameters) {
         if (parameter.source != bound::Parameter::Source::Literal) {
             continue;
         }
-        if (!parameter.fixed) {
-            free.insert(parameter.ordinal);
-        }
-        if (parameter.constant.kind == Literal::Kind::Decimal && !parameter.conversion.to.isNumber()) {
-            plan.fixedTypes.emplace_back(parameter.ordinal, typeOf(parameter.constant));
+        free[static_cast<std::size_t>(parameter.ordinal)] = true;
+        if (parameter.digitsMatter) {
+            plan.fixedDigits.emplace_back(parameter.ordinal, decimalOf(parameter.constant));
         }
     }
-    for (int i = 0; i < static_cast<int>(shape.literals.size()); ++i) {
-        if (free.count(i) == 0) {
-            plan.fixed.emplace_back(i, shape.literals[static_cast<std::size_t>(i)].text);
+    for (std::size_t i = 0; i < free.size(); ++i) {
+        if (!free[i]) {
+            plan.fixed.emplace_back(static_cast<int>(i), shape.literals[i].text);
         }
     }
 }

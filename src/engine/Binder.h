@@ -38,8 +38,8 @@ public:
     /// The default of a column on its way into it; NULL where there is none.
     bound::ExpressionPtr bindDefault(const ColumnInfo& column);
 
-    /// What is bound to the `?N` of the statement, in their order.
-    std::vector<bound::Parameter> takeParameters() { return std::move(parameters_); }
+    /// What the uses of parameters in the bound tree stand for, by their places.
+    const std::vector<bound::Parameter>& parameters() const { return parameters_; }
 
 private:
     /// One table as the names of a statement see it.

@@ -22,7 +22,7 @@ struct Select;
 using ExpressionPtr = std::unique_ptr<Expression>;
 using SelectPtr = std::unique_ptr<Select>;
 
-/// What is bound to one `?N` before a run.
+/// What is bound to one `?` before a run.
 struct Parameter {
     enum class Source {
         Literal,  ///< a literal of the statement, by its ordinal
@@ -39,7 +39,7 @@ struct Parameter {
     bool digitsMatter = false;
 };
 
-/// A `?N`, counted from 0.
+/// A parameter by its place in the binder's list, counted from 0.
 struct ParameterUse {
     int place;
 };

@@ -1,9 +1,5 @@
 #include "engine/Plan.h"
 
-#include <sqlite3.h>
-
-#include <algorithm>
-
 namespace engine {
 
 namespace {
@@ -48,9 +44,7 @@ void bindValue(sqlite::Statement& statement, int place, const Scalar& value) {
 
 void bindLiterals(sqlite::Statement& statement, const std::vector<bound::Parameter>& parameters,
                   const Bindings& bindings) {
-    const auto places =
-        std::min(parameters.size(), static_cast<std::size_t>(sqlite3_bind_parameter_count(statement.handle())));
-    for (std::size_t i = 0; i < places; ++i) {
+    for (std::size_t i = 0; i < parameters.size(); ++i) {
         if (parameters[i].source == Source::Literal || parameters[i].source == Source::Constant) {
             bindValue(statement, static_cast<int>(i) + 1, valueOf(parameters[i], bindings));
         }

@@ -4,7 +4,9 @@ namespace engine::translate {
 
 namespace {
 
-void writeList(std::string& text, const std::vector<bound::ExpressionPtr>& list) {
+constexpr std::size_t kManyBranches = 100;
+
+void writeList(Text& text, const std::vector<bound::ExpressionPtr>& list) {
     bool first = true;
     for (const bound::ExpressionPtr& one : list) {
         text += first ? "" : ", ";
@@ -13,20 +15,19 @@ void writeList(std::string& text, const std::vector<bound::ExpressionPtr>& list)
     }
 }
 
-void writeNode(std::string& text, const bound::ParameterUse& use) {
-    text += '?';
-    text += std::to_string(use.place + 1);
+void writeNode(Text& text, const bound::ParameterUse& use) {
+    text.parameter(use.place);
 }
 
-void writeNode(std::string& text, const bound::Column& column) {
+void writeNode(Text& text, const bound::Column& column) {
     text += alias(column.source) + '.' + quoted(column.column);
 }
 
-void writeNode(std::string& text, const bound::Constant& constant) {
+void writeNode(Text& text, const bound::Constant& constant) {
     text += constant.text;
 }
 
-void writeNode(std::string& text, const bound::Operation& operation) {
+void writeNode(Text& text, const bound::Operation& operation) {
     text += '(';
     if (operation.operands.size() == 2) {
         write(text, *operation.operands[0]);
@@ -42,7 +43,7 @@ void writeNode(std::string& text, const bound::Operation& operation) {
     text += ')';
 }
 
-void writeNode(std::string& text, const bound::Call& call) {
+void writeNode(Text& text, const bound::Call& call) {
     const auto writeCall = [&](const char* function) {
         text += function;
         text += call.distinct ? "(DISTINCT " : "(";
@@ -64,7 +65,8 @@ void writeNode(std::string& text, const bound::Call& call) {
     writeCall(call.function.c_str());
 }
 
-void writeNode(std::string& text, const bound::Case& choice) {
+void writeNode(Text& text, const bound::Case& choice) {
+    const Text::Many many(text, choice.branches.size() > kManyBranches);
     text += "CASE";
     for (const auto& branch : choice.branches) {
         text += " WHEN ";
@@ -79,7 +81,7 @@ void writeNode(std::string& text, const bound::Case& choice) {
     text += " END";
 }
 
-void writeNode(std::string& text, const bound::InList& in) {
+void writeNode(Text& text, const bound::InList& in) {
     text += '(';
     write(text, *in.operand);
     text += " IN (";
@@ -87,7 +89,7 @@ void writeNode(std::string& text, const bound::InList& in) {
     text += "))";
 }
 
-void writeNode(std::string& text, const bound::Subselect& subselect) {
+void writeNode(Text& text, const bound::Subselect& subselect) {
     switch (subselect.kind) {
     case bound::Subselect::Kind::Exists:
         text += "EXISTS (";
@@ -131,11 +133,11 @@ std::string alias(int source) {
     return "t" + std::to_string(source);
 }
 
-void write(std::string& text, const bound::Expression& expression) {
+void write(Text& text, const bound::Expression& expression) {
     std::visit([&](const auto& node) { writeNode(text, node); }, expression.node);
 }
 
-void writeWhere(std::string& text, const bound::ExpressionPtr& condition) {
+void writeWhere(Text& text, const bound::ExpressionPtr& condition) {
     if (condition) {
         text += " WHERE ";
         write(text, *condition);

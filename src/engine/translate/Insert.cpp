@@ -2,10 +2,11 @@
 
 namespace engine::translate {
 
-std::string insert(const bound::Insert& insert) {
-    std::string text = "INSERT INTO " + tableName(insert.table.schema, insert.table.info->name);
+Text insert(const bound::Insert& insert) {
+    Text text("INSERT INTO " + tableName(insert.table.schema, insert.table.info->name));
     if (insert.columns.empty()) {
-        return text + " DEFAULT VALUES";
+        text += " DEFAULT VALUES";
+        return text;
     }
     text += " (";
     bool first = true;

@@ -4,13 +4,12 @@ namespace engine::translate {
 
 namespace {
 
-constexpr std::size_t kManyBranches = 100;
-
 void writeList(Text& text, const std::vector<bound::ExpressionPtr>& list) {
     bool first = true;
     for (const bound::ExpressionPtr& one : list) {
         text += first ? "" : ", ";
         first = false;
+        const Text::Many many(text, list.size() >= Text::Many::kLeast && !isBare(*one));
         write(text, *one);
     }
 }
@@ -66,7 +65,7 @@ void writeNode(Text& text, const bound::Call& call) {
 }
 
 void writeNode(Text& text, const bound::Case& choice) {
-    const Text::Many many(text, choice.branches.size() > kManyBranches);
+    const Text::Many many(text, choice.branches.size() >= Text::Many::kLeast);
     text += "CASE";
     for (const auto& branch : choice.branches) {
         text += " WHEN ";
@@ -113,6 +112,10 @@ void writeNode(Text& text, const bound::Subselect& subselect) {
 }
 
 } // namespace
+
+bool isBare(const bound::Expression& expression) {
+    return std::holds_alternative<bound::ParameterUse>(expression.node);
+}
 
 std::string quoted(std::string_view name) {
     std::string result = "\"";

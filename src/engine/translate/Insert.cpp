@@ -16,12 +16,14 @@ Text insert(const bound::Insert& insert) {
         text += quoted(column->name);
     }
     text += ") VALUES ";
+    const std::size_t expressions = insert.rows.size() * insert.columns.size();
     first = true;
     for (const auto& row : insert.rows) {
         text += first ? "(" : ", (";
         first = false;
         for (std::size_t i = 0; i < row.size(); ++i) {
             text += i == 0 ? "" : ", ";
+            const Text::Many many(text, expressions >= Text::Many::kLeast && !isBare(*row[i]));
             write(text, *row[i]);
         }
         text += ')';

@@ -17,6 +17,8 @@ std::string tableName(const std::string& schema, const std::string& table);
 /// A table's alias in the text: `t3`.
 std::string alias(int source);
 
+/// A literal that stands by itself, which costs nothing however many there are.
+bool isBare(const bound::Expression& expression);
 void write(Text& text, const bound::Expression& expression);
 void write(Text& text, const bound::Source& source);
 void write(Text& text, const bound::Select& select);

@@ -34,6 +34,8 @@ public:
     /// parameters aren't constants to it.
     class Many {
     public:
+        static constexpr std::size_t kLeast = 100;
+
         Many(Text& text, bool many) : text_(text), outer_(text.many_) { text.many_ = outer_ || many; }
         ~Many() { text_.many_ = outer_; }
         Many(const Many&) = delete;

@@ -9,6 +9,7 @@
 
 #include <sqlite3.h>
 
+#include <ctime>
 #include <filesystem>
 #include <random>
 #include <stdexcept>
@@ -22,6 +23,7 @@ namespace fs = std::filesystem;
 constexpr int kUpdates = 200;
 constexpr int kRows = 100'000;
 constexpr int kColumns = 8;
+constexpr int kLongRow = 64; ///< a thousand rows of it, the most in one INSERT, are 64,000 values
 
 /// An embedded server in a folder of its own, removed at the end. The folder is on the disk of the build tree, so that
 /// a commit costs what a commit costs.
@@ -204,5 +206,75 @@ void OpenAndReadRecordset(benchmark::State& state) {
     }
 }
 BENCHMARK(OpenAndReadRecordset)->Apply(bench::inPairs);
+
+/// Long statements of one kind: `ratio` is what an element costs in one of many against what it costs among the first
+/// thousand. Each statement has a shape of its own, so that no plan is there. The processor's time, for a statement of
+/// some milliseconds is interrupted where one of less isn't.
+template<class Statement>
+void perElement(benchmark::State& state, const Statement& statement) {
+    constexpr int kFew = 1000;
+    BenchServer server;
+    server.connection.Execute("CREATE TABLE conti (id int NOT NULL PRIMARY KEY, saldo int NULL)");
+    server.connection.Execute("INSERT INTO conti (id) VALUES (1), (2), (3)");
+    std::string columns;
+    for (int i = 1; i < kLongRow; ++i)
+        columns += ", c" + std::to_string(i) + " int NULL";
+    server.connection.Execute("CREATE TABLE larga (c0 int NULL" + columns + ")");
+    int runs = 0;
+    const auto run = [&](int elements) {
+        const std::string text = statement(elements, ++runs);
+        server.connection.Execute("BEGIN TRANSACTION");
+        const std::clock_t begin = std::clock();
+        server.connection.Execute(text);
+        const std::clock_t end = std::clock();
+        server.connection.Execute("ROLLBACK");
+        return static_cast<double>(end - begin) / CLOCKS_PER_SEC;
+    };
+    const auto elements = static_cast<int>(state.range(0));
+    for (auto _ : state) {
+        const double many = run(elements);
+        bench::report(state, many, run(kFew) * elements / kFew);
+    }
+}
+
+void InList(benchmark::State& state) {
+    perElement(state, [](int elements, int run) {
+        std::string text = "update conti set saldo = 1 where id in (0";
+        for (int i = run; i < elements; ++i)
+            text += "," + std::to_string(i);
+        return text + ")";
+    });
+}
+
+void CaseBranches(benchmark::State& state) {
+    perElement(state, [](int elements, int run) {
+        std::string text = "update conti set saldo = case id";
+        for (int i = run; i < elements; ++i)
+            text += " when " + std::to_string(i) + " then " + std::to_string(i);
+        return text + " end";
+    });
+}
+
+void InsertedValues(benchmark::State& state) {
+    perElement(state, [](int elements, unsigned run) {
+        std::string text = "insert into larga values ";
+        for (int i = 0; i < elements; ++i) {
+            text += i % kLongRow > 0 ? "," : i > 0 ? "),(" : "(";
+            text += i < 8 && (run >> i & 1U) != 0 ? "null" : std::to_string(i);
+        }
+        for (int i = elements; i % kLongRow > 0; ++i)
+            text += ",0";
+        return text + ")";
+    });
+}
+
+void fewToMany(benchmark::internal::Benchmark* benchmark) {
+    for (const int elements : {1000, 4000, 16'000, 64'000})
+        benchmark->Arg(elements);
+    bench::inPairs(benchmark);
+}
+BENCHMARK(InList)->Apply(fewToMany);
+BENCHMARK(CaseBranches)->Apply(fewToMany);
+BENCHMARK(InsertedValues)->Apply(fewToMany);
 
 } // namespace

@@ -38,8 +38,8 @@ public:
     /// The default of a column on its way into it; NULL where there is none.
     bound::ExpressionPtr bindDefault(const ColumnInfo& column);
 
-    /// What is bound to the `?N` of the statement, in their order.
-    std::vector<bound::Parameter> takeParameters() { return std::move(parameters_); }
+    /// What the uses of parameters in the bound tree stand for, by their places.
+    const std::vector<bound::Parameter>& parameters() const { return parameters_; }
 
 private:
     /// One table as the names of a statement see it.
@@ -100,6 +100,8 @@ private:
     bound::ExpressionPtr literal(const Literal& literal, bool negated);
     bound::ExpressionPtr arithmetic(Binary::Operator op, bound::ExpressionPtr left, bound::ExpressionPtr right);
     DataType digitsOf(const bound::Expression& number);
+    bound::Parameter* bareLiteral(const bound::Expression& value);
+    void freeDigits(const bound::Expression& value);
     bound::ExpressionPtr compare(const char* op, bound::ExpressionPtr left, bound::ExpressionPtr right);
 
     // BinderCalls.cpp
@@ -110,6 +112,8 @@ private:
     // BinderConversions.cpp
     bound::ExpressionPtr convertTo(bound::ExpressionPtr value, const DataType& type, Purpose purpose,
                                    std::optional<int> style = std::nullopt);
+    bound::ExpressionPtr convertWritten(bound::ExpressionPtr value, const DataType& type, Purpose purpose,
+                                        std::optional<int> style = std::nullopt);
     bound::ExpressionPtr collated(bound::ExpressionPtr value) const;
 
     // BinderWrites.cpp

@@ -103,6 +103,34 @@ bound::ExpressionPtr Binder::convertTo(bound::ExpressionPtr value, const DataTyp
     return result;
 }
 
+/// The literal that an expression is, nullptr where it is anything else or a literal on its way to another type.
+bound::Parameter* Binder::bareLiteral(const bound::Expression& value) {
+    const auto* use = std::get_if<bound::ParameterUse>(&value.node);
+    bound::Parameter* parameter = use == nullptr ? nullptr : &parameters_[static_cast<std::size_t>(use->place)];
+    return parameter != nullptr && parameter->conversion.to.kind == Kind::Unknown ? parameter : nullptr;
+}
+
+/// Nothing around a value takes the number of its digits from it.
+void Binder::freeDigits(const bound::Expression& value) {
+    if (bound::Parameter* literal = bareLiteral(value)) {
+        literal->digitsMatter = false;
+    }
+}
+
+/// A conversion to a type that stands in the statement or the table. A decimal is converted even from the same type,
+/// for the next one that comes to this plan may have another.
+bound::ExpressionPtr Binder::convertWritten(bound::ExpressionPtr value, const DataType& type, Purpose purpose,
+                                            std::optional<int> style) {
+    bound::Parameter* literal = bareLiteral(*value);
+    if (literal == nullptr || value->type.kind != Kind::Decimal) {
+        return convertTo(std::move(value), type, purpose, style);
+    }
+    literal->digitsMatter = false;
+    literal->conversion = {value->type, type, style, purpose, false};
+    value->type = type;
+    return value;
+}
+
 bound::ExpressionPtr Binder::collated(bound::ExpressionPtr value) const {
     if (!value->type.isText()) {
         return value;

@@ -114,6 +114,8 @@ bound::ExpressionPtr Binder::literal(const Literal& literal, bool negated) {
     result->node = bound::ParameterUse{static_cast<int>(parameters_.size())};
     result->type = typeOf(literal);
     result->nullable = false;
+    // Until it is known that the type goes no further than to the literal itself.
+    parameter.digitsMatter = result->type.kind == Kind::Decimal;
     parameters_.push_back(std::move(parameter));
     return result;
 }
@@ -179,6 +181,8 @@ bound::ExpressionPtr Binder::node(const Binary& binary) {
 
 bound::ExpressionPtr Binder::compare(const char* op, bound::ExpressionPtr left, bound::ExpressionPtr right) {
     const DataType common = commonType(left->type, right->type);
+    freeDigits(*left);
+    freeDigits(*right);
     const auto meet = [&](bound::ExpressionPtr side) {
         // Numbers compare among each other as they are, and so do texts of any length.
         const bool alike = (side->type.isNumber() && common.isNumber()) || (side->type.isText() && common.isText());
@@ -190,16 +194,12 @@ bound::ExpressionPtr Binder::compare(const char* op, bound::ExpressionPtr left, 
 
 /// Among decimals a whole literal is a decimal of just its digits.
 DataType Binder::digitsOf(const bound::Expression& number) {
-    const auto* use = std::get_if<bound::ParameterUse>(&number.node);
-    if (use == nullptr || !number.type.isInteger()) {
+    bound::Parameter* literal = number.type.isInteger() ? bareLiteral(number) : nullptr;
+    if (literal == nullptr) {
         return number.type;
     }
-    bound::Parameter& parameter = parameters_[static_cast<std::size_t>(use->place)];
-    if (parameter.conversion.to.kind != Kind::Unknown) {
-        return number.type;
-    }
-    parameter.fixed = true;
-    return {Kind::Decimal, 0, static_cast<int>(parameter.constant.text.size()), 0};
+    literal->digitsMatter = true;
+    return decimalOf(literal->constant);
 }
 
 bound::ExpressionPtr Binder::arithmetic(Binary::Operator op, bound::ExpressionPtr left, bound::ExpressionPtr right) {
@@ -296,7 +296,9 @@ bound::ExpressionPtr Binder::node(const In& in) {
             common = commonType(common, list.back()->type);
         }
         common = comparable(common);
+        freeDigits(*operand);
         for (bound::ExpressionPtr& one : list) {
+            freeDigits(*one);
             one = convertTo(std::move(one), common, Purpose::Cast);
         }
         operand = collated(convertTo(std::move(operand), common, Purpose::Cast));
@@ -349,7 +351,7 @@ bound::ExpressionPtr Binder::node(const Case& choice) {
 }
 
 bound::ExpressionPtr Binder::node(const Conversion& conversion) {
-    return convertTo(expression(*conversion.operand), conversion.type, Purpose::Cast, conversion.style);
+    return convertWritten(expression(*conversion.operand), conversion.type, Purpose::Cast, conversion.style);
 }
 
 } // namespace engine

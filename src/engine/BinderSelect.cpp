@@ -23,6 +23,9 @@ private:
     Scope* before_;
 };
 
+/// Selects that the storage takes in one UNION.
+constexpr std::size_t kMostCores = 500;
+
 bool isAllTables(const Name& starOf) {
     return starOf.pieces.empty();
 }
@@ -36,6 +39,9 @@ bool isSameColumn(const ResultColumn& left, const ResultColumn& right) {
 bound::Select Binder::select(const Select& select, const Scope* parent) {
     bound::Select result;
     const bool single = select.cores.size() == 1;
+    if (select.cores.size() > kMostCores) {
+        throw errors::nestedTooDeep();
+    }
     // The scopes of all cores stay until ORDER BY is bound, in the last of them.
     Scope scope;
     for (const SelectCore& one : select.cores) {

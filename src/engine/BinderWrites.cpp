@@ -39,7 +39,7 @@ bound::ExpressionPtr Binder::assigned(const Expression* value, const ColumnInfo&
     if (value == nullptr) {
         return bindDefault(column);
     }
-    return convertTo(expression(*value), column.type, Purpose::Assignment);
+    return convertWritten(expression(*value), column.type, Purpose::Assignment);
 }
 
 std::vector<const ColumnInfo*> Binder::insertColumns(const Insert& insert, const bound::Table& table,

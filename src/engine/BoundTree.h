@@ -22,7 +22,7 @@ struct Select;
 using ExpressionPtr = std::unique_ptr<Expression>;
 using SelectPtr = std::unique_ptr<Select>;
 
-/// What is bound to one `?N` before a run.
+/// What is bound to one `?` before a run.
 struct Parameter {
     enum class Source {
         Literal,  ///< a literal of the statement, by its ordinal
@@ -35,10 +35,11 @@ struct Parameter {
     engine::Literal constant; ///< the literal as it stood when the statement was bound
     bool negated = false;
     ConversionRequest conversion;
-    bool fixed = false; ///< its digits gave another expression its type: no other literal may take its place
+    /// The number of its digits is in the type of what is around it: a literal with others needs a plan of its own.
+    bool digitsMatter = false;
 };
 
-/// A `?N`, counted from 0.
+/// A parameter by its place in the binder's list, counted from 0.
 struct ParameterUse {
     int place;
 };

@@ -75,10 +75,11 @@ std::string defaultLiteral(ServerSession& session, const ColumnDefinition& defin
     SessionTables finder(session);
     Binder binder(finder);
     const bound::ExpressionPtr value = binder.bindDefault(columnOf(definition));
-    std::string text = "SELECT quote(";
+    translate::Text text("SELECT quote(");
     translate::write(text, *value);
-    sqlite::Statement statement(session.current().connection(), text + ")");
-    bindLiterals(statement, binder.takeParameters(), {nullptr, session.dayFirst});
+    text += ')';
+    sqlite::Statement statement(session.current().connection(), text.sql());
+    bindLiterals(statement, text.parameters(binder.parameters()), {nullptr, session.dayFirst});
     statement.step();
     return std::string(statement.text(0));
 }

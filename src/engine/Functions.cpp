@@ -148,6 +148,11 @@ void callLike(sqlite3_context* context, int count, sqlite3_value** values) {
     sqlite3_result_int(context, like(text(0), text(1), count > 2 ? text(2) : std::string_view()) ? 1 : 0);
 }
 
+/// Gives what it is given: to the storage the result of a call is no constant.
+void callLiteral(sqlite3_context* context, int /*count*/, sqlite3_value** values) {
+    sqlite3_result_value(context, values[0]);
+}
+
 } // namespace
 
 double numberAt(Arguments arguments, std::size_t place) {
@@ -187,6 +192,8 @@ void registerFunctions(sqlite::Connection& connection, FunctionContext& context)
                 nullptr, nullptr, [](void* registration) { delete static_cast<Registration*>(registration); }));
         }
     }
+    check(sqlite3_create_function_v2(connection.handle(), "tsql_literal", 1, SQLITE_UTF8, nullptr, callLiteral, nullptr,
+                                     nullptr, nullptr));
     for (const int arguments : {2, 3}) {
         check(sqlite3_create_function_v2(connection.handle(), "tsql_like", arguments,
                                          SQLITE_UTF8 | SQLITE_DETERMINISTIC, nullptr, callLike, nullptr, nullptr,

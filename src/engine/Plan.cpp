@@ -1,32 +1,32 @@
 #include "engine/Plan.h"
 
-#include <sqlite3.h>
-
-#include <algorithm>
-
 namespace engine {
 
 namespace {
 
 using Source = bound::Parameter::Source;
 
-Scalar writtenValue(const bound::Parameter& parameter, const Bindings& bindings) {
+Literal writtenLiteral(const bound::Parameter& parameter, const Bindings& bindings) {
     if (parameter.source == Source::Constant || bindings.literals == nullptr) {
-        return scalarOf(parameter.constant, parameter.negated);
+        return parameter.constant;
     }
     const LiteralToken& token = bindings.literals->at(static_cast<std::size_t>(parameter.ordinal));
-    return scalarOf({token.kind, token.text, parameter.ordinal}, parameter.negated);
+    return {token.kind, token.text, parameter.ordinal};
 }
 
 } // namespace
 
 Scalar valueOf(const bound::Parameter& parameter, const Bindings& bindings) {
-    Scalar value = writtenValue(parameter, bindings);
+    const Literal literal = writtenLiteral(parameter, bindings);
+    Scalar value = scalarOf(literal, parameter.negated);
     if (parameter.conversion.to.kind == DataType::Kind::Unknown) {
         return value;
     }
     ConversionRequest request = parameter.conversion;
     request.dayFirst = bindings.dayFirst;
+    if (request.from.kind == DataType::Kind::Decimal) {
+        request.from = decimalOf(literal); // the plan was made for one with other digits perhaps
+    }
     return convert(std::move(value), request);
 }
 
@@ -44,9 +44,7 @@ void bindValue(sqlite::Statement& statement, int place, const Scalar& value) {
 
 void bindLiterals(sqlite::Statement& statement, const std::vector<bound::Parameter>& parameters,
                   const Bindings& bindings) {
-    const auto places =
-        std::min(parameters.size(), static_cast<std::size_t>(sqlite3_bind_parameter_count(statement.handle())));
-    for (std::size_t i = 0; i < places; ++i) {
+    for (std::size_t i = 0; i < parameters.size(); ++i) {
         if (parameters[i].source == Source::Literal || parameters[i].source == Source::Constant) {
             bindValue(statement, static_cast<int>(i) + 1, valueOf(parameters[i], bindings));
         }

@@ -18,7 +18,7 @@ struct Plan {
     enum class Kind { Select, Insert, Update, Delete };
     Kind kind = Kind::Select;
     sqlite::Statement statement;
-    std::vector<bound::Parameter> parameters;
+    std::vector<bound::Parameter> parameters; ///< of `statement`, in the order of its text
     std::vector<ResultColumn> columns;
 
     /// Of a statement that writes.
@@ -26,9 +26,11 @@ struct Plan {
     const ColumnInfo* identity = nullptr;    ///< of INSERT, where the table has one
     bool givesIdentity = false;              ///< the statement itself, under IDENTITY_INSERT
     std::optional<sqlite::Statement> source; ///< the SELECT of INSERT … SELECT
+    std::vector<bound::Parameter> sourceParameters;
     /// Finds the rows to be written, prepared when a hold of another session makes it needed.
     std::string rowsText;
     std::optional<sqlite::Statement> rows;
+    std::vector<bound::Parameter> rowsParameters;
 
     /// The server's own tables that have to be filled before a run.
     std::vector<std::string> systemTables;
@@ -36,8 +38,8 @@ struct Plan {
     bool reusable = true;
     /// Literals that shaped the plan, by ordinal: another run must have the same.
     std::vector<std::pair<int, std::string>> fixed;
-    /// Literals with a point whose digits give an expression its type.
-    std::vector<std::pair<int, DataType>> fixedTypes;
+    /// Numbers whose digits give an expression its type: another run must have as many.
+    std::vector<std::pair<int, DataType>> fixedDigits;
 
     explicit Plan(sqlite::Statement prepared) : statement(std::move(prepared)) {}
 };
@@ -52,8 +54,7 @@ struct Bindings {
 
 Scalar valueOf(const bound::Parameter& parameter, const Bindings& bindings);
 void bindValue(sqlite::Statement& statement, int place, const Scalar& value);
-/// Throws the errors of the literals' conversions. All parameters that come from literals and constants, as far as the
-/// statement has places for them.
+/// Binds the parameters that come from literals and constants. Throws the errors of the literals' conversions.
 void bindLiterals(sqlite::Statement& statement, const std::vector<bound::Parameter>& parameters,
                   const Bindings& bindings);
 

@@ -5,7 +5,7 @@
 #include "engine/SessionTables.h"
 #include "engine/translate/SqlText.h"
 
-#include <set>
+#include <vector>
 
 namespace engine {
 
@@ -26,7 +26,7 @@ public:
 
     PlanPtr planAlone(const Expression& expression, bool condition) {
         const bound::ExpressionPtr bound = binder_.bindAlone(expression);
-        std::string text = condition ? "SELECT CASE WHEN " : "SELECT ";
+        translate::Text text(condition ? "SELECT CASE WHEN " : "SELECT ");
         translate::write(text, *bound);
         text += condition ? " THEN 1 ELSE 0 END" : "";
         PlanPtr plan = made(text, Plan::Kind::Select);
@@ -42,19 +42,25 @@ public:
     }
 
 private:
-    sqlite::Statement prepared(const std::string& text, const TableInfo* table = nullptr) {
+    sqlite::Statement prepared(const translate::Text& text) {
         Database& database = session_.current();
         try {
-            return {database.connection(), text};
+            return {database.connection(), text.sql()};
         } catch (const sqlite::Failure& failure) {
-            database.raise(failure, table, "");
+            database.raise(failure, nullptr, "");
         }
     }
 
-    PlanPtr made(const std::string& text, Plan::Kind kind) {
+    PlanPtr made(const translate::Text& text, Plan::Kind kind) {
         auto plan = std::make_shared<Plan>(prepared(text));
+        plan->parameters = text.parameters(binder_.parameters());
         plan->kind = kind;
         return plan;
+    }
+
+    void addRows(Plan& plan, const translate::Text& text) {
+        plan.rowsText = text.sql();
+        plan.rowsParameters = text.parameters(binder_.parameters());
     }
 
     PlanPtr prepare(const bound::Select& select) {
@@ -69,7 +75,9 @@ private:
         plan->identity = insert.identity;
         plan->givesIdentity = insert.identityPlace >= 0;
         if (insert.select) {
-            plan->source = prepared(translate::select(*insert.select));
+            const translate::Text text = translate::select(*insert.select);
+            plan->source = prepared(text);
+            plan->sourceParameters = text.parameters(binder_.parameters());
             plan->columns = insert.select->columns;
             for (std::size_t i = 0; i < plan->columns.size(); ++i) {
                 plan->columns[i].type = insert.columns[i]->type;
@@ -81,19 +89,18 @@ private:
     PlanPtr prepare(const bound::Update& update) {
         PlanPtr plan = made(translate::update(update), Plan::Kind::Update);
         plan->table = update.table.info;
-        plan->rowsText = translate::rowsOf(update);
+        addRows(*plan, translate::rowsOf(update));
         return plan;
     }
 
     PlanPtr prepare(const bound::Delete& remove) {
         PlanPtr plan = made(translate::remove(remove), Plan::Kind::Delete);
         plan->table = remove.table.info;
-        plan->rowsText = translate::rowsOf(remove);
+        addRows(*plan, translate::rowsOf(remove));
         return plan;
     }
 
     PlanPtr finish(PlanPtr plan) {
-        plan->parameters = binder_.takeParameters();
         plan->systemTables = finder_.systemTables();
         plan->reusable = !finder_.foreign();
         return plan;
@@ -155,21 +162,21 @@ void checkNames(ServerSession& session, const Statement& statement) {
 }
 
 void fixLiterals(Plan& plan, const Shape& shape) {
-    std::set<int> free;
-    for (const bound::Parameter& parameter : plan.parameters) {
-        if (parameter.source != bound::Parameter::Source::Literal) {
-            continue;
-        }
-        if (!parameter.fixed) {
-            free.insert(parameter.ordinal);
-        }
-        if (parameter.constant.kind == Literal::Kind::Decimal && !parameter.conversion.to.isNumber()) {
-            plan.fixedTypes.emplace_back(parameter.ordinal, typeOf(parameter.constant));
+    std::vector<bool> free(shape.literals.size());
+    for (const auto* parameters : {&plan.parameters, &plan.sourceParameters}) {
+        for (const bound::Parameter& parameter : *parameters) {
+            if (parameter.source != bound::Parameter::Source::Literal) {
+                continue;
+            }
+            free[static_cast<std::size_t>(parameter.ordinal)] = true;
+            if (parameter.digitsMatter) {
+                plan.fixedDigits.emplace_back(parameter.ordinal, decimalOf(parameter.constant));
+            }
         }
     }
-    for (int i = 0; i < static_cast<int>(shape.literals.size()); ++i) {
-        if (free.count(i) == 0) {
-            plan.fixed.emplace_back(i, shape.literals[static_cast<std::size_t>(i)].text);
+    for (std::size_t i = 0; i < free.size(); ++i) {
+        if (!free[i]) {
+            plan.fixed.emplace_back(static_cast<int>(i), shape.literals[i].text);
         }
     }
 }

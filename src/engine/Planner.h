@@ -16,7 +16,7 @@ PlanPtr makeValuePlan(ServerSession& session, const Expression& value);
 void checkNames(ServerSession& session, const Statement& statement);
 
 /// Which literals a plan for statements of this shape has fixed: those that are no parameter of it, and those whose
-/// type is in their digits.
+/// digits matter.
 void fixLiterals(Plan& plan, const Shape& shape);
 
 } // namespace engine

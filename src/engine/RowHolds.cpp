@@ -85,8 +85,9 @@ std::unique_ptr<RowHold> ServerSession::holdRows(const Select& select) {
     try {
         // Under the write lock no other session is between finding the rows and taking them.
         WriteTransaction transaction(*current_);
-        sqlite::Statement rows(current_->connection(), translate::rowsOf(bound));
-        bindLiterals(rows, binder.takeParameters(), {nullptr, dayFirst});
+        const translate::Text text = translate::rowsOf(bound);
+        sqlite::Statement rows(current_->connection(), text.sql());
+        bindLiterals(rows, text.parameters(binder.parameters()), {nullptr, dayFirst});
         const int rowNumber = rows.columns() - 1;
         while (rows.step()) {
             hold->take(rows.integer(rowNumber));

@@ -186,6 +186,13 @@ Scalar scalarOf(const Literal& literal, bool negated) {
     return {};
 }
 
+DataType decimalOf(const Literal& literal) {
+    const std::size_t point = literal.text.find('.');
+    const int scale = point == std::string::npos ? 0 : static_cast<int>(literal.text.size() - point - 1);
+    const int digits = static_cast<int>(literal.text.size()) - (point == std::string::npos ? 0 : 1);
+    return {Kind::Decimal, 0, std::clamp(digits, 1, kLongestDecimal), std::min(scale, kLongestDecimal)};
+}
+
 DataType typeOf(const Literal& literal) {
     DataType type;
     switch (literal.kind) {
@@ -198,10 +205,7 @@ DataType typeOf(const Literal& literal) {
             type.kind = *number <= std::numeric_limits<std::int32_t>::max() ? Kind::Int : Kind::BigInt;
             break;
         }
-        const std::size_t point = literal.text.find('.');
-        const int scale = point == std::string::npos ? 0 : static_cast<int>(literal.text.size() - point - 1);
-        const int digits = static_cast<int>(literal.text.size()) - (point == std::string::npos ? 0 : 1);
-        type = {Kind::Decimal, 0, std::clamp(digits, 1, kLongestDecimal), std::min(scale, kLongestDecimal)};
+        type = decimalOf(literal);
         break;
     }
     case Literal::Kind::Float:

@@ -39,6 +39,8 @@ bool needsConversion(const DataType& from, const DataType& to, Purpose purpose);
 /// The value of a literal; `negated` for the minus before it.
 Scalar scalarOf(const Literal& literal, bool negated);
 DataType typeOf(const Literal& literal);
+/// The decimal of just the digits that a number is written with.
+DataType decimalOf(const Literal& literal);
 
 /// A type in one number, so that it can travel as an argument of a function of the storage.
 std::int64_t encodeType(const DataType& type);

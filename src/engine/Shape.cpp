@@ -1,19 +1,20 @@
 #include "engine/Shape.h"
 
 #include "engine/Lexer.h"
+#include "engine/Scalar.h"
 
 namespace engine {
 
 namespace {
 
-std::string_view markerOf(Literal::Kind kind) {
-    switch (kind) {
+std::string_view markerOf(const LiteralToken& literal) {
+    switch (literal.kind) {
     case Literal::Kind::Null:
         return "";
     case Literal::Kind::Integer:
         return "?i";
     case Literal::Kind::Decimal:
-        return "?d";
+        return typeOf({literal.kind, literal.text}).kind == DataType::Kind::BigInt ? "?b" : "?d";
     case Literal::Kind::Float:
         return "?f";
     case Literal::Kind::Text:
@@ -54,7 +55,7 @@ Shape shapeOf(std::span<const Token> tokens) {
             shape.key += ' ';
         if (token.isLiteral()) {
             shape.literals.push_back({literalKind(token), valueOf(token)});
-            shape.key += markerOf(shape.literals.back().kind);
+            shape.key += markerOf(shape.literals.back());
         } else {
             shape.key += token.keyword == Keyword::None ? token.text : textOf(token.keyword);
         }

@@ -18,7 +18,9 @@ struct LiteralToken {
 /// correspond one to one; `Literal::index` in the tree is the place in `literals`. A literal that no tree node carries
 /// an index for shapes the statement: two statements are interchangeable only where those are equal too.
 struct Shape {
-    std::string key; ///< tokens joined by blanks, keywords in capitals, a literal as ?i ?d ?f ?t ?n
+    /// Tokens joined by blanks, keywords in capitals, a literal as ?i ?b ?d ?f ?t ?n: the kind of its type, where ?b is
+    /// a whole number that only a bigint holds.
+    std::string key;
     std::vector<LiteralToken> literals;
 };
 

@@ -11,12 +11,12 @@ bool fits(const Plan& plan, const Shape& shape) {
         return shape.literals[static_cast<std::size_t>(ordinal)];
     };
     const auto sameValue = [&](const auto& fixed) { return literal(fixed.first).text == fixed.second; };
-    const auto sameType = [&](const auto& fixed) {
+    const auto sameDigits = [&](const auto& fixed) {
         const LiteralToken& token = literal(fixed.first);
-        return typeOf(Literal{token.kind, token.text, fixed.first}) == fixed.second;
+        return decimalOf({token.kind, token.text}) == fixed.second;
     };
     return std::all_of(plan.fixed.begin(), plan.fixed.end(), sameValue) &&
-           std::all_of(plan.fixedTypes.begin(), plan.fixedTypes.end(), sameType);
+           std::all_of(plan.fixedDigits.begin(), plan.fixedDigits.end(), sameDigits);
 }
 
 } // namespace

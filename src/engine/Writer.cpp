@@ -70,7 +70,7 @@ private:
 
     std::int64_t insertSelected() {
         sqlite::Statement& source = *plan_.source;
-        bindLiterals(source, plan_.parameters, bindings_);
+        bindLiterals(source, plan_.sourceParameters, bindings_);
         bindLiterals(plan_.statement, plan_.parameters, bindings_);
         // All rows are read before the first is written: the table may be its own source.
         std::vector<Row> rows;
@@ -106,7 +106,7 @@ private:
             if (!plan_.rows) {
                 plan_.rows.emplace(database_.connection(), plan_.rowsText);
             }
-            bindLiterals(*plan_.rows, plan_.parameters, bindings_);
+            bindLiterals(*plan_.rows, plan_.rowsParameters, bindings_);
             refuseHeldRows(database_, plan_.table->name, *plan_.rows);
         }
         run();

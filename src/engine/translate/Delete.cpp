@@ -4,20 +4,20 @@ namespace engine::translate {
 
 namespace {
 
-std::string onTarget(const char* verb, const bound::Delete& remove) {
-    std::string text =
-        verb + tableName(remove.table.schema, remove.table.info->name) + " AS " + alias(remove.table.number);
+Text onTarget(const char* verb, const bound::Delete& remove) {
+    Text text(verb);
+    text += tableName(remove.table.schema, remove.table.info->name) + " AS " + alias(remove.table.number);
     writeWhere(text, remove.where);
     return text;
 }
 
 } // namespace
 
-std::string remove(const bound::Delete& remove) {
+Text remove(const bound::Delete& remove) {
     return onTarget("DELETE FROM ", remove);
 }
 
-std::string rowsOf(const bound::Delete& remove) {
+Text rowsOf(const bound::Delete& remove) {
     return onTarget("SELECT rowid FROM ", remove);
 }
 

@@ -4,29 +4,29 @@ namespace engine::translate {
 
 namespace {
 
-void writeList(std::string& text, const std::vector<bound::ExpressionPtr>& list) {
+void writeList(Text& text, const std::vector<bound::ExpressionPtr>& list) {
     bool first = true;
     for (const bound::ExpressionPtr& one : list) {
         text += first ? "" : ", ";
         first = false;
+        const Text::Many many(text, list.size() >= Text::Many::kLeast && !isBare(*one));
         write(text, *one);
     }
 }
 
-void writeNode(std::string& text, const bound::ParameterUse& use) {
-    text += '?';
-    text += std::to_string(use.place + 1);
+void writeNode(Text& text, const bound::ParameterUse& use) {
+    text.parameter(use.place);
 }
 
-void writeNode(std::string& text, const bound::Column& column) {
+void writeNode(Text& text, const bound::Column& column) {
     text += alias(column.source) + '.' + quoted(column.column);
 }
 
-void writeNode(std::string& text, const bound::Constant& constant) {
+void writeNode(Text& text, const bound::Constant& constant) {
     text += constant.text;
 }
 
-void writeNode(std::string& text, const bound::Operation& operation) {
+void writeNode(Text& text, const bound::Operation& operation) {
     text += '(';
     if (operation.operands.size() == 2) {
         write(text, *operation.operands[0]);
@@ -42,7 +42,7 @@ void writeNode(std::string& text, const bound::Operation& operation) {
     text += ')';
 }
 
-void writeNode(std::string& text, const bound::Call& call) {
+void writeNode(Text& text, const bound::Call& call) {
     const auto writeCall = [&](const char* function) {
         text += function;
         text += call.distinct ? "(DISTINCT " : "(";
@@ -64,7 +64,8 @@ void writeNode(std::string& text, const bound::Call& call) {
     writeCall(call.function.c_str());
 }
 
-void writeNode(std::string& text, const bound::Case& choice) {
+void writeNode(Text& text, const bound::Case& choice) {
+    const Text::Many many(text, choice.branches.size() >= Text::Many::kLeast);
     text += "CASE";
     for (const auto& branch : choice.branches) {
         text += " WHEN ";
@@ -79,7 +80,7 @@ void writeNode(std::string& text, const bound::Case& choice) {
     text += " END";
 }
 
-void writeNode(std::string& text, const bound::InList& in) {
+void writeNode(Text& text, const bound::InList& in) {
     text += '(';
     write(text, *in.operand);
     text += " IN (";
@@ -87,7 +88,7 @@ void writeNode(std::string& text, const bound::InList& in) {
     text += "))";
 }
 
-void writeNode(std::string& text, const bound::Subselect& subselect) {
+void writeNode(Text& text, const bound::Subselect& subselect) {
     switch (subselect.kind) {
     case bound::Subselect::Kind::Exists:
         text += "EXISTS (";
@@ -112,6 +113,10 @@ void writeNode(std::string& text, const bound::Subselect& subselect) {
 
 } // namespace
 
+bool isBare(const bound::Expression& expression) {
+    return std::holds_alternative<bound::ParameterUse>(expression.node);
+}
+
 std::string quoted(std::string_view name) {
     std::string result = "\"";
     for (const char c : name) {
@@ -131,11 +136,11 @@ std::string alias(int source) {
     return "t" + std::to_string(source);
 }
 
-void write(std::string& text, const bound::Expression& expression) {
+void write(Text& text, const bound::Expression& expression) {
     std::visit([&](const auto& node) { writeNode(text, node); }, expression.node);
 }
 
-void writeWhere(std::string& text, const bound::ExpressionPtr& condition) {
+void writeWhere(Text& text, const bound::ExpressionPtr& condition) {
     if (condition) {
         text += " WHERE ";
         write(text, *condition);

@@ -2,10 +2,11 @@
 
 namespace engine::translate {
 
-std::string insert(const bound::Insert& insert) {
-    std::string text = "INSERT INTO " + tableName(insert.table.schema, insert.table.info->name);
+Text insert(const bound::Insert& insert) {
+    Text text("INSERT INTO " + tableName(insert.table.schema, insert.table.info->name));
     if (insert.columns.empty()) {
-        return text + " DEFAULT VALUES";
+        text += " DEFAULT VALUES";
+        return text;
     }
     text += " (";
     bool first = true;
@@ -15,12 +16,14 @@ std::string insert(const bound::Insert& insert) {
         text += quoted(column->name);
     }
     text += ") VALUES ";
+    const std::size_t expressions = insert.rows.size() * insert.columns.size();
     first = true;
     for (const auto& row : insert.rows) {
         text += first ? "(" : ", (";
         first = false;
         for (std::size_t i = 0; i < row.size(); ++i) {
             text += i == 0 ? "" : ", ";
+            const Text::Many many(text, expressions >= Text::Many::kLeast && !isBare(*row[i]));
             write(text, *row[i]);
         }
         text += ')';

@@ -4,11 +4,11 @@ namespace engine::translate {
 
 namespace {
 
-void writeNode(std::string& text, const bound::Table& table) {
+void writeNode(Text& text, const bound::Table& table) {
     text += tableName(table.schema, table.info->name) + " AS " + alias(table.number);
 }
 
-void writeNode(std::string& text, const bound::Derived& derived) {
+void writeNode(Text& text, const bound::Derived& derived) {
     text += '(';
     write(text, *derived.select);
     text += ") AS " + alias(derived.number);
@@ -30,7 +30,7 @@ const char* joinText(Join::Kind kind) {
     return "";
 }
 
-void writeNode(std::string& text, const bound::Join& join) {
+void writeNode(Text& text, const bound::Join& join) {
     write(text, *join.left);
     text += joinText(join.kind);
     const bool nested = std::holds_alternative<bound::Join>(join.right->node);
@@ -43,7 +43,7 @@ void writeNode(std::string& text, const bound::Join& join) {
     }
 }
 
-void writeItems(std::string& text, const bound::Core& core, bool compares) {
+void writeItems(Text& text, const bound::Core& core, bool compares) {
     int place = 0;
     for (const bound::ExpressionPtr& item : core.items) {
         text += place == 0 ? "" : ", ";
@@ -56,7 +56,7 @@ void writeItems(std::string& text, const bound::Core& core, bool compares) {
 }
 
 /// `more` goes behind the items.
-void writeCore(std::string& text, const bound::Core& core, bool compares, const std::string& more = {}) {
+void writeCore(Text& text, const bound::Core& core, bool compares, const std::string& more = {}) {
     text += core.distinct ? "SELECT DISTINCT " : "SELECT ";
     writeItems(text, core, compares || core.distinct);
     text += more;
@@ -79,7 +79,7 @@ void writeCore(std::string& text, const bound::Core& core, bool compares, const 
     }
 }
 
-void writeOrder(std::string& text, const std::vector<bound::Order>& orderBy) {
+void writeOrder(Text& text, const std::vector<bound::Order>& orderBy) {
     bool first = true;
     for (const bound::Order& order : orderBy) {
         text += first ? " ORDER BY " : ", ";
@@ -94,7 +94,7 @@ void writeOrder(std::string& text, const std::vector<bound::Order>& orderBy) {
     }
 }
 
-void writeLimit(std::string& text, const bound::Core& core) {
+void writeLimit(Text& text, const bound::Core& core) {
     if (core.top) {
         text += " LIMIT " + std::to_string(*core.top);
     }
@@ -102,11 +102,11 @@ void writeLimit(std::string& text, const bound::Core& core) {
 
 } // namespace
 
-void write(std::string& text, const bound::Source& source) {
+void write(Text& text, const bound::Source& source) {
     std::visit([&](const auto& node) { writeNode(text, node); }, source.node);
 }
 
-void write(std::string& text, const bound::Select& select) {
+void write(Text& text, const bound::Select& select) {
     const bool several = select.cores.size() > 1;
     for (std::size_t i = 0; i < select.cores.size(); ++i) {
         const bound::Core& core = select.cores[i];
@@ -128,15 +128,15 @@ void write(std::string& text, const bound::Select& select) {
     }
 }
 
-std::string select(const bound::Select& select) {
-    std::string text;
+Text select(const bound::Select& select) {
+    Text text;
     write(text, select);
     return text;
 }
 
-std::string rowsOf(const bound::Select& select) {
+Text rowsOf(const bound::Select& select) {
     const bound::Core& core = select.cores.front();
-    std::string text;
+    Text text;
     writeCore(text, core, false, ", " + alias(std::get<bound::Table>(core.from.front()->node).number) + ".rowid");
     writeOrder(text, select.orderBy);
     writeLimit(text, core);

@@ -4,6 +4,7 @@
 
 #include "engine/BoundTree.h"
 #include "engine/Tree.h"
+#include "engine/translate/Text.h"
 
 #include <string>
 #include <string_view>
@@ -16,21 +17,23 @@ std::string tableName(const std::string& schema, const std::string& table);
 /// A table's alias in the text: `t3`.
 std::string alias(int source);
 
-void write(std::string& text, const bound::Expression& expression);
-void write(std::string& text, const bound::Source& source);
-void write(std::string& text, const bound::Select& select);
+/// A literal that stands by itself, which costs nothing however many there are.
+bool isBare(const bound::Expression& expression);
+void write(Text& text, const bound::Expression& expression);
+void write(Text& text, const bound::Source& source);
+void write(Text& text, const bound::Select& select);
 /// ` WHERE …`, nothing where there is no condition.
-void writeWhere(std::string& text, const bound::ExpressionPtr& condition);
+void writeWhere(Text& text, const bound::ExpressionPtr& condition);
 
-std::string select(const bound::Select& select);
-std::string insert(const bound::Insert& insert);
-std::string update(const bound::Update& update);
-std::string remove(const bound::Delete& remove);
+Text select(const bound::Select& select);
+Text insert(const bound::Insert& insert);
+Text update(const bound::Update& update);
+Text remove(const bound::Delete& remove);
 /// The numbers of the rows that an UPDATE or DELETE is going to write.
-std::string rowsOf(const bound::Update& update);
-std::string rowsOf(const bound::Delete& remove);
+Text rowsOf(const bound::Update& update);
+Text rowsOf(const bound::Delete& remove);
 /// A SELECT on one table with the number of each row as its last column, for holding the rows.
-std::string rowsOf(const bound::Select& select);
+Text rowsOf(const bound::Select& select);
 
 /// Definitions, from the catalog's description of a table.
 std::string createTable(const TableInfo& table);

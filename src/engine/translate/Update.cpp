@@ -5,7 +5,7 @@ namespace engine::translate {
 namespace {
 
 /// The rows that an UPDATE with sources writes: the target among them, joined to all others.
-void writeSources(std::string& text, const bound::Update& update) {
+void writeSources(Text& text, const bound::Update& update) {
     text += " FROM ";
     if (update.targetInFrom < 0)
         text += tableName(update.table.schema, update.table.info->name) + " AS " + alias(update.table.number);
@@ -24,29 +24,29 @@ std::string targetAlias(const bound::Update& update) {
 
 /// Target and sources are walked by a SELECT of their own, for the storage can't name the row numbers of several
 /// sources in an UPDATE.
-std::string updateFrom(const bound::Update& update) {
-    std::string text = "UPDATE " + tableName(update.table.schema, update.table.info->name) + " AS target SET ";
-    std::string values;
-    int place = 0;
-    for (const auto& assignment : update.assignments) {
-        const std::string value = "v" + std::to_string(place);
-        text += (place++ == 0 ? "" : ", ") + quoted(assignment.column->name) + " = found." + value;
-        values += ", ";
-        write(values, *assignment.value);
-        values += " AS " + value;
+Text updateFrom(const bound::Update& update) {
+    Text text("UPDATE " + tableName(update.table.schema, update.table.info->name) + " AS target SET ");
+    for (std::size_t i = 0; i < update.assignments.size(); ++i) {
+        text += (i == 0 ? "" : ", ") + quoted(update.assignments[i].column->name) + " = found.v" + std::to_string(i);
     }
-    text += " FROM (SELECT " + targetAlias(update) + ".rowid AS row" + values;
+    text += " FROM (SELECT " + targetAlias(update) + ".rowid AS row";
+    for (std::size_t i = 0; i < update.assignments.size(); ++i) {
+        text += ", ";
+        write(text, *update.assignments[i].value);
+        text += " AS v" + std::to_string(i);
+    }
     writeSources(text, update);
-    return text + ") AS found WHERE target.rowid = found.row";
+    text += ") AS found WHERE target.rowid = found.row";
+    return text;
 }
 
 } // namespace
 
-std::string update(const bound::Update& update) {
+Text update(const bound::Update& update) {
     if (!update.from.empty())
         return updateFrom(update);
-    std::string text = "UPDATE " + tableName(update.table.schema, update.table.info->name) + " AS " +
-                       alias(update.table.number) + " SET ";
+    Text text("UPDATE " + tableName(update.table.schema, update.table.info->name) + " AS " +
+              alias(update.table.number) + " SET ");
     bool first = true;
     for (const auto& assignment : update.assignments) {
         text += first ? "" : ", ";
@@ -58,8 +58,8 @@ std::string update(const bound::Update& update) {
     return text;
 }
 
-std::string rowsOf(const bound::Update& update) {
-    std::string text = "SELECT " + targetAlias(update) + ".rowid";
+Text rowsOf(const bound::Update& update) {
+    Text text("SELECT " + targetAlias(update) + ".rowid");
     writeSources(text, update);
     return text;
 }

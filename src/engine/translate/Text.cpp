@@ -1,0 +1,19 @@
+#include "engine/translate/Text.h"
+
+namespace engine::translate {
+
+void Text::parameter(int place) {
+    places_.push_back(place);
+    sql_ += many_ ? "tsql_literal(?)" : "?";
+}
+
+std::vector<bound::Parameter> Text::parameters(const std::vector<bound::Parameter>& all) const {
+    std::vector<bound::Parameter> result;
+    result.reserve(places_.size());
+    for (const int place : places_) {
+        result.push_back(all[static_cast<std::size_t>(place)]);
+    }
+    return result;
+}
+
+} // namespace engine::translate

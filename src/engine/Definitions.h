@@ -27,8 +27,10 @@ template<class Change>
 void changeSchema(ServerSession& session, const TableInfo* table, const Change& change) {
     Database& database = session.current();
     try {
-        sqlite::Transaction transaction(database.connection());
+        WriteTransaction transaction(database);
+        sqlite::Transaction whole(database.connection());
         change();
+        whole.commit();
         transaction.commit();
     } catch (const sqlite::Failure& failure) {
         database.refresh();

@@ -23,10 +23,12 @@ bool mayBePlanned(const Statement& statement) {
 } // namespace
 
 std::unique_ptr<Session> Session::open(std::shared_ptr<Instance> instance, const Login& login) {
-    if (!login.user.empty() && !instance->authenticates(login.user, login.password)) {
-        throw errors::loginFailed(login.user);
-    }
-    return std::make_unique<ServerSession>(std::move(instance), login);
+    return answered([&]() -> std::unique_ptr<Session> {
+        if (!login.user.empty() && !instance->authenticates(login.user, login.password)) {
+            throw errors::loginFailed(login.user);
+        }
+        return std::make_unique<ServerSession>(std::move(instance), login);
+    });
 }
 
 ServerSession::ServerSession(std::shared_ptr<Instance> instance, Login login)
@@ -86,7 +88,7 @@ void ServerSession::forget(std::string_view name) {
     }
 }
 
-std::unique_ptr<Batch> ServerSession::execute(std::string_view text) {
+std::unique_ptr<Batch> ServerSession::begin(std::string_view text) {
     stopBatch();
     const std::vector<Token> tokens = tokenize(text);
     Shape shape = shapeOf(tokens);
@@ -120,7 +122,7 @@ void ServerSession::prepareFor(Database& database, bool writes) {
     firstWrite_ = nullptr;
     if (writes && transactions_ > 0 && !database.connection().inTransaction()) {
         try {
-            database.connection().run("BEGIN IMMEDIATE");
+            database.begin();
             firstWrite_ = &database;
         } catch (const sqlite::Failure& failure) {
             database.raise(failure, nullptr, "");

@@ -3,6 +3,7 @@
 // A session from the inside: the databases it has open, its settings, and what it remembers between statements.
 
 #include "engine/Database.h"
+#include "engine/InternalErrors.h"
 #include "engine/Session.h"
 #include "engine/Tree.h"
 
@@ -20,8 +21,12 @@ public:
     ServerSession(std::shared_ptr<Instance> instance, Login login);
     ~ServerSession() override;
 
-    std::unique_ptr<Batch> execute(std::string_view text) override;
-    std::unique_ptr<RowHold> hold(std::string_view select) override;
+    std::unique_ptr<Batch> execute(std::string_view text) override {
+        return answered([&] { return begin(text); });
+    }
+    std::unique_ptr<RowHold> hold(std::string_view select) override {
+        return answered([&] { return takeRows(select); });
+    }
     const std::string& database() const override { return current_->name(); }
     std::int64_t lastIdentity() const override { return lastIdentity_; }
 
@@ -61,6 +66,8 @@ public:
     const BatchRun* running() const { return running_; }
 
 private:
+    std::unique_ptr<Batch> begin(std::string_view text);
+    std::unique_ptr<RowHold> takeRows(std::string_view select);
     Scalar fact(std::string_view name, const Scalar& argument);
     void stopBatch();
     std::unique_ptr<RowHold> holdRows(const Select& select);

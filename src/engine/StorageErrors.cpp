@@ -1,7 +1,8 @@
+#include "engine/StorageErrors.h"
+
 #include "engine/BindErrors.h"
 #include "engine/Collation.h"
 #include "engine/Database.h"
-#include "engine/Error.h"
 #include "engine/translate/SqlText.h"
 
 #include <sqlite3.h>
@@ -22,7 +23,7 @@ std::vector<std::string> columnsOf(std::string_view message, const std::string& 
         return columns;
     }
     std::string_view rest = message.substr(colon + 2);
-    const std::string before = table + ".";
+    const std::string before = translate::storedTable(table) + ".";
     while (rest.starts_with(before)) {
         rest.remove_prefix(before.size());
         const std::size_t next = rest.find(", " + before);
@@ -44,15 +45,15 @@ Error duplicate(sqlite::Connection& connection, std::string_view message, const 
     sqlite::Statement indexes(connection, "SELECT l.name, (SELECT group_concat(i.name, char(0)) FROM (SELECT name FROM "
                                           "pragma_index_info(l.name) ORDER BY seqno) i) FROM pragma_index_list(?1) l "
                                           "WHERE l.\"unique\"");
-    indexes.bind(1, std::string_view(table.name));
+    indexes.bind(1, std::string_view(translate::storedTable(table.name)));
     std::string joined;
     for (const std::string& column : columns) {
         joined += (joined.empty() ? std::string() : std::string(1, '\0')) + column;
     }
     while (indexes.step()) {
         if (indexes.text(1) == joined) {
-            return errors::duplicateIndexKey("dbo." + table.name,
-                                             std::string(indexes.text(0).substr(table.name.size() + 1)));
+            return errors::duplicateIndexKey(
+                "dbo." + table.name, std::string(indexes.text(0).substr(translate::indexName(table.name, "").size())));
         }
     }
     throw InternalError("a key that nobody knows: " + std::string(message));
@@ -60,55 +61,62 @@ Error duplicate(sqlite::Connection& connection, std::string_view message, const 
 
 } // namespace
 
+bool isDuplicate(const sqlite::Failure& failure) {
+    return failure.code() == SQLITE_CONSTRAINT_UNIQUE || failure.code() == SQLITE_CONSTRAINT_PRIMARYKEY ||
+           failure.code() == SQLITE_CONSTRAINT_ROWID;
+}
+
+std::optional<Error> storageError(const sqlite::Failure& failure, const std::string& database) {
+    const std::string_view message = failure.what();
+    switch (failure.code() & kPrimaryCode) {
+    case SQLITE_BUSY:
+    case SQLITE_LOCKED:
+        return errors::lockTimeout();
+    case SQLITE_FULL:
+        return errors::storageFull(database);
+    case SQLITE_READONLY:
+    case SQLITE_PERM:
+        return errors::readOnlyDatabase(database);
+    case SQLITE_IOERR:
+    case SQLITE_CORRUPT:
+    case SQLITE_NOTADB:
+    case SQLITE_CANTOPEN:
+        return errors::storageBroken(failure.what());
+    case SQLITE_NOMEM:
+        return errors::outOfMemory();
+    case SQLITE_TOOBIG:
+        return errors::nestedTooDeep();
+    default:
+        break;
+    }
+    if (message == "integer overflow") {
+        return errors::overflow("bigint");
+    }
+    if (message.starts_with("misuse of aggregate")) {
+        return errors::aggregateMisplaced();
+    }
+    for (const char* limit : {"Expression tree is too large", "parser stack overflow", "too many ", "at most "}) {
+        if (message.starts_with(limit)) {
+            return errors::nestedTooDeep();
+        }
+    }
+    return std::nullopt;
+}
+
 void Database::raise(const sqlite::Failure& failure, const TableInfo* table, const char* verb) {
     if (functions_.refusal) {
         std::rethrow_exception(std::exchange(functions_.refusal, nullptr));
     }
     const std::string_view message = failure.what();
-    switch (failure.code()) {
-    case SQLITE_CONSTRAINT_NOTNULL:
-        if (table != nullptr) {
-            const auto columns = columnsOf(message, table->name);
-            throw errors::nullIntoColumn(columns.empty() ? "" : columns.front(), name() + ".dbo." + table->name, verb);
-        }
-        break;
-    case SQLITE_CONSTRAINT_UNIQUE:
-    case SQLITE_CONSTRAINT_PRIMARYKEY:
-    case SQLITE_CONSTRAINT_ROWID:
-        if (table != nullptr) {
-            throw duplicate(connection_, message, *table);
-        }
-        break;
-    default:
-        break;
+    if (failure.code() == SQLITE_CONSTRAINT_NOTNULL && table != nullptr) {
+        const auto columns = columnsOf(message, table->name);
+        throw errors::nullIntoColumn(columns.empty() ? "" : columns.front(), name() + ".dbo." + table->name, verb);
     }
-    switch (failure.code() & kPrimaryCode) {
-    case SQLITE_BUSY:
-    case SQLITE_LOCKED:
-        throw errors::lockTimeout();
-    case SQLITE_FULL:
-        throw errors::storageFull(name());
-    case SQLITE_READONLY:
-    case SQLITE_PERM:
-        throw errors::readOnlyDatabase(name());
-    case SQLITE_IOERR:
-    case SQLITE_CORRUPT:
-    case SQLITE_NOTADB:
-    case SQLITE_CANTOPEN:
-        throw errors::storageBroken(failure.what());
-    case SQLITE_TOOBIG:
-    case SQLITE_NOMEM:
-        throw errors::nestedTooDeep();
-    default:
-        break;
+    if (isDuplicate(failure) && table != nullptr) {
+        throw duplicate(connection_, message, *table);
     }
-    if (message == "integer overflow") {
-        throw errors::overflow("bigint");
-    }
-    for (const char* limit : {"Expression tree is too large", "parser stack overflow", "too many ", "at most "}) {
-        if (message.starts_with(limit)) {
-            throw errors::nestedTooDeep();
-        }
+    if (const auto answer = storageError(failure, name())) {
+        throw Error(*answer);
     }
     throw InternalError("the storage refused a statement of ours: " + std::string(message));
 }

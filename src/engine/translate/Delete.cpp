@@ -4,7 +4,7 @@ namespace engine::translate {
 
 namespace {
 
-std::string onTarget(const char* verb, const bound::Delete& remove) {
+std::string onTarget(const std::string& verb, const bound::Delete& remove) {
     std::string text =
         verb + tableName(remove.table.schema, remove.table.info->name) + " AS " + alias(remove.table.number);
     writeWhere(text, remove.where);
@@ -18,7 +18,7 @@ std::string remove(const bound::Delete& remove) {
 }
 
 std::string rowsOf(const bound::Delete& remove) {
-    return onTarget("SELECT rowid FROM ", remove);
+    return onTarget("SELECT " + rowidOf(*remove.table.info) + " FROM ", remove);
 }
 
 } // namespace engine::translate

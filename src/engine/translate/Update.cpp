@@ -35,9 +35,10 @@ std::string updateFrom(const bound::Update& update) {
         write(values, *assignment.value);
         values += " AS " + value;
     }
-    text += " FROM (SELECT " + targetAlias(update) + ".rowid AS row" + values;
+    const std::string rowid = rowidOf(*update.table.info);
+    text += " FROM (SELECT " + targetAlias(update) + "." + rowid + " AS row" + values;
     writeSources(text, update);
-    return text + ") AS found WHERE target.rowid = found.row";
+    return text + ") AS found WHERE target." + rowid + " = found.row";
 }
 
 } // namespace
@@ -59,7 +60,7 @@ std::string update(const bound::Update& update) {
 }
 
 std::string rowsOf(const bound::Update& update) {
-    std::string text = "SELECT " + targetAlias(update) + ".rowid";
+    std::string text = "SELECT " + targetAlias(update) + "." + rowidOf(*update.table.info);
     writeSources(text, update);
     return text;
 }

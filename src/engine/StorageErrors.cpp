@@ -7,51 +7,46 @@
 
 #include <sqlite3.h>
 
-#include <algorithm>
-
 namespace engine {
 
 namespace {
 
 constexpr int kPrimaryCode = 0xff;
 
-/// The columns in `UNIQUE constraint failed: t.a, t.b`, behind the table's name.
-std::vector<std::string> columnsOf(std::string_view message, const std::string& table) {
-    std::vector<std::string> columns;
+/// What the storage names behind `UNIQUE constraint failed: `.
+std::string_view namedIn(std::string_view message) {
     const std::size_t colon = message.find(": ");
-    if (colon == std::string_view::npos) {
-        return columns;
+    return colon == std::string_view::npos ? std::string_view() : message.substr(colon + 2);
+}
+
+/// Columns of a table as the storage names them: `t.a, t.b`. Names may hold anything, so that its text can be compared
+/// with the keys there are, but not be taken apart.
+std::string asNamed(const std::string& table, const std::vector<std::string>& columns) {
+    std::string all;
+    for (const std::string& column : columns) {
+        all += (all.empty() ? "" : ", ") + translate::storedTable(table) + "." + column;
     }
-    std::string_view rest = message.substr(colon + 2);
-    const std::string before = translate::storedTable(table) + ".";
-    while (rest.starts_with(before)) {
-        rest.remove_prefix(before.size());
-        const std::size_t next = rest.find(", " + before);
-        columns.emplace_back(rest.substr(0, next));
-        rest.remove_prefix(next == std::string_view::npos ? rest.size() : next + 2);
-    }
-    return columns;
+    return all;
 }
 
 Error duplicate(sqlite::Connection& connection, std::string_view message, const TableInfo& table) {
-    const std::vector<std::string> columns = columnsOf(message, table.name);
-    const auto key = std::find_if(table.keys.begin(), table.keys.end(), [&](const KeyInfo& one) {
-        return std::equal(one.columns.begin(), one.columns.end(), columns.begin(), columns.end(),
-                          [](const std::string& left, const std::string& right) { return sameText(left, right); });
-    });
-    if (key != table.keys.end()) {
-        return errors::duplicateKey(key->primary ? "PRIMARY KEY" : "UNIQUE KEY", key->name, "dbo." + table.name);
+    const std::string_view named = namedIn(message);
+    for (const KeyInfo& key : table.keys) {
+        if (sameText(asNamed(table.name, key.columns), named)) {
+            return errors::duplicateKey(key.primary ? "PRIMARY KEY" : "UNIQUE KEY", key.name, "dbo." + table.name);
+        }
     }
-    sqlite::Statement indexes(connection, "SELECT l.name, (SELECT group_concat(i.name, char(0)) FROM (SELECT name FROM "
-                                          "pragma_index_info(l.name) ORDER BY seqno) i) FROM pragma_index_list(?1) l "
-                                          "WHERE l.\"unique\"");
+    sqlite::Statement indexes(connection, "SELECT name FROM pragma_index_list(?1) WHERE \"unique\"");
+    sqlite::Statement columns(connection, "SELECT name FROM pragma_index_info(?1) ORDER BY seqno");
     indexes.bind(1, std::string_view(translate::storedTable(table.name)));
-    std::string joined;
-    for (const std::string& column : columns) {
-        joined += (joined.empty() ? std::string() : std::string(1, '\0')) + column;
-    }
     while (indexes.step()) {
-        if (indexes.text(1) == joined) {
+        std::vector<std::string> names;
+        columns.bind(1, indexes.text(0));
+        while (columns.step()) {
+            names.emplace_back(columns.text(0));
+        }
+        columns.reset();
+        if (asNamed(table.name, names) == named) {
             return errors::duplicateIndexKey(
                 "dbo." + table.name, std::string(indexes.text(0).substr(translate::indexName(table.name, "").size())));
         }
@@ -109,8 +104,9 @@ void Database::raise(const sqlite::Failure& failure, const TableInfo* table, con
     }
     const std::string_view message = failure.what();
     if (failure.code() == SQLITE_CONSTRAINT_NOTNULL && table != nullptr) {
-        const auto columns = columnsOf(message, table->name);
-        throw errors::nullIntoColumn(columns.empty() ? "" : columns.front(), name() + ".dbo." + table->name, verb);
+        const std::string before = asNamed(table->name, {""});
+        throw errors::nullIntoColumn(std::string(namedIn(message).substr(before.size())),
+                                     name() + ".dbo." + table->name, verb);
     }
     if (isDuplicate(failure) && table != nullptr) {
         throw duplicate(connection_, message, *table);

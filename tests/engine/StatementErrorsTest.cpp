@@ -1,6 +1,7 @@
 // No statement ends a session: each has rows or an error of the server's own, and the next one is answered.
 
 #include "engine/InternalErrors.h"
+#include "engine/NastyStatements.h"
 #include "engine/SessionFixture.h"
 
 namespace engine {
@@ -221,6 +222,43 @@ TEST_F(StatementErrors, AKnownStatementRefusesTheSameNumbers) {
     EXPECT_EQ(rows("select 2e0 * 3e0"), "6");
     EXPECT_EQ(rows("select 1e200 * 1e200").substr(0, 6), "!8115 ");
     EXPECT_EQ(rows("select 1e200 * 1e2"), "1e+202");
+}
+
+TEST_F(StatementErrors, WhatNobodyShouldWriteHasRowsOrAServersError) {
+    std::vector<std::string> texts(std::begin(samples::kNasty), std::end(samples::kNasty));
+    const auto repeated = [](const std::string& part, int times) {
+        std::string all;
+        while (times-- > 0)
+            all += part;
+        return all;
+    };
+    constexpr int kDeep = 3000;
+    for (const char* part : {"(", "-(", "not (", "(select ", "case when 1 = 1 then ", "isnull(1, ", "cast(", "upper("})
+        texts.push_back("select " + repeated(part, kDeep) + "1" + repeated(")", kDeep));
+    texts.push_back("select 1" + repeated(" + 1", kDeep));
+    texts.push_back("select 1" + repeated(" union select 1", kDeep));
+    texts.push_back("select 1 where 1 = 1" + repeated(" and 1 = 1", kDeep));
+    texts.push_back("select 1 where " + repeated("not ", kDeep) + "1 = 1");
+    texts.push_back("select 1" + repeated(", 1", kDeep));
+    texts.push_back("select * from g" + repeated(", g", kDeep));
+    texts.push_back(repeated("if 1 = 1 ", kDeep) + "select 1");
+    texts.push_back(repeated("begin ", kDeep) + "select 1" + repeated(" end", kDeep));
+    texts.push_back("create table wide (a int null" + repeated(", b int null", kDeep) + ")");
+    texts.push_back("print '" + repeated("x", 100000) + "'");
+    texts.push_back("select '" + repeated("x", 100000) + "' + '" + repeated("y", 100000) + "'");
+    texts.push_back("select " + std::string(1, '\0') + "1");
+    texts.push_back("select [a" + std::string(1, '\0') + "b] from g");
+    texts.push_back("create table [a" + std::string(1, '\0') + "b] (a int)");
+    texts.push_back("select 'a" + std::string(1, '\0') + "b', len('a" + std::string(1, '\0') + "b')");
+    for (const std::string& text : texts) {
+        for (int run = 0; run < 2; ++run) // planned, then from the cache
+            EXPECT_EQ(answer(text).find("!8630"), std::string::npos) << text.substr(0, 200);
+        while (rows("select @@trancount") != "0")
+            this->run("rollback");
+        ASSERT_EQ(rows("select 1"), "1") << "after " << text.substr(0, 200);
+    }
+    EXPECT_EQ(session->database(), "prova");
+    EXPECT_EQ(rows("select count(*) from [t,u]"), "0") << "the tables were there for all of them";
 }
 
 std::string heard;

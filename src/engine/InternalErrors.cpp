@@ -26,8 +26,8 @@ std::atomic<InternalErrorListener> currentListener{nullptr};
 
 } // namespace
 
-void onInternalError(InternalErrorListener listener) {
-    currentListener.store(listener);
+InternalErrorListener onInternalError(InternalErrorListener listener) {
+    return currentListener.exchange(listener);
 }
 
 void rethrowAsAnswer() {

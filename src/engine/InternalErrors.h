@@ -9,8 +9,8 @@ namespace engine {
 /// Told what a bug of ours was, before it becomes an error of the statement; called from any thread.
 using InternalErrorListener = void (*)(const char* what);
 
-/// Sets who is told, instead of the standard error stream; nullptr sets that again.
-void onInternalError(InternalErrorListener listener);
+/// Sets who is told, instead of the standard error stream; nullptr sets that again. Gives the one before.
+InternalErrorListener onInternalError(InternalErrorListener listener);
 
 /// Rethrows the exception in flight as an answer of the server: Error stays as it is, failures of the storage and of
 /// the machine become the server's own errors, and what is left is told as a bug and becomes 8630.

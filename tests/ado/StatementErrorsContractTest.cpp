@@ -1,6 +1,8 @@
 // Whatever a statement is, it has its rows or its error, and the connection answers the next one.
 
 #include "ado/AdoFixture.h"
+#include "engine/InternalErrors.h"
+#include "engine/Sqlite.h"
 
 #include <sys/resource.h>
 
@@ -77,6 +79,18 @@ TEST_F(StatementErrorsContract, ASessionNeverWaitsForItself) {
         EXPECT_EQ(refusalOf(statement), 0) << statement;
     EXPECT_EQ(cell("select a from t"), "2");
     EXPECT_EQ(cell("select count(*) from master.dbo.m"), "2");
+}
+
+/// A table that the server's catalog knows and its storage has lost.
+TEST_F(StatementErrorsContract, AnInternalErrorOfTheServerIsTheStatementsOwn) {
+    constexpr int kInternal = 8630;
+    connection.Execute("create table g (a int null)");
+    engine::sqlite::Connection(server.databaseFile(), false).run("DROP TABLE g");
+    const auto before = engine::onInternalError([](const char* /*what*/) {});
+    EXPECT_EQ(refusalOf("select a from g"), kInternal);
+    EXPECT_EQ(refusalOf("update g set a = 1"), kInternal);
+    engine::onInternalError(before);
+    EXPECT_EQ(cell("select 1"), "1");
 }
 
 /// No file of a process grows beyond so many bytes while it lives. Process 0 is the test's own.

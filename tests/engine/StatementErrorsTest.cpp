@@ -3,6 +3,9 @@
 #include "engine/InternalErrors.h"
 #include "engine/NastyStatements.h"
 #include "engine/SessionFixture.h"
+#include "engine/Sqlite.h"
+
+#include <sqlite3.h>
 
 namespace engine {
 namespace {
@@ -263,20 +266,37 @@ TEST_F(StatementErrors, WhatNobodyShouldWriteHasRowsOrAServersError) {
 
 std::string heard;
 
+/// A table that the catalog knows and the storage has lost.
 TEST_F(StatementErrors, AnInternalErrorIsToldAndIsTheStatementsOwn) {
-    onInternalError([](const char* what) { heard = what; });
-    int answer = 0;
-    try {
-        answered([]() -> bool { throw InternalError("a promise that was not kept"); });
-    } catch (const Error& error) {
-        answer = error.number();
-        EXPECT_EQ(error.reach(), Error::Reach::Statement);
-        EXPECT_STREQ(error.what(), "Internal Query Processor Error: The query processor encountered an unexpected "
-                                   "error during execution.");
-    }
-    onInternalError(nullptr);
-    EXPECT_EQ(answer, 8630);
-    EXPECT_EQ(heard, "a promise that was not kept");
+    sqlite::Connection(instance->database("prova")->file, false).run("DROP TABLE g");
+    const auto before = onInternalError([](const char* what) { heard = what; });
+    const char* internal = "!8630 Internal Query Processor Error: The query processor encountered an unexpected error "
+                           "during execution.";
+    EXPECT_EQ(answer("select a from g"), internal);
+    EXPECT_EQ(heard, "the storage refused a statement of ours: no such table: main.g");
+    EXPECT_EQ(answer("select @@error"), "\n8630");
+    EXPECT_EQ(answer("update g set a = 1 select 2"), std::string(internal) + "\n\n2");
+    EXPECT_EQ(answer("begin transaction insert into g (a) values (1) rollback"), "-\n" + std::string(internal) + "\n-");
+    EXPECT_THROW(session->hold("select a from g"), Error);
+    EXPECT_EQ(rows("select 1"), "1");
+    onInternalError(before);
+}
+
+TEST_F(StatementErrors, WhatTheMachineRefusesIsNoInternalError) {
+    const auto answerOf = [](const auto& problem) {
+        try {
+            answered([&]() -> bool { throw problem; });
+        } catch (const Error& error) {
+            return error.number();
+        }
+        return 0;
+    };
+    EXPECT_EQ(answerOf(std::bad_alloc()), 701);
+    EXPECT_EQ(answerOf(std::filesystem::filesystem_error("x", std::error_code())), 823);
+    EXPECT_EQ(answerOf(sqlite::Failure(SQLITE_IOERR, "disk I/O error")), 823);
+    EXPECT_EQ(answerOf(sqlite::Failure(SQLITE_FULL, "database or disk is full")), 1105);
+    EXPECT_EQ(answerOf(sqlite::Failure(SQLITE_BUSY, "database is locked")), 1222);
+    EXPECT_EQ(answerOf(Error(208, "x")), 208);
 }
 
 } // namespace

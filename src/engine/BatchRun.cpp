@@ -281,6 +281,9 @@ void BatchRun::failed(const Error& error) {
     session_->failed(error.number());
     session_->wrote(0);
     session_->giveUpFirstWrite();
+    if (session_->endLostTransaction()) {
+        pending_.clear();
+    }
     if (error.reach() == Error::Reach::Statement) {
         return;
     }

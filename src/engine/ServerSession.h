@@ -9,6 +9,7 @@
 
 #include <map>
 #include <memory>
+#include <set>
 #include <string>
 #include <vector>
 
@@ -60,6 +61,9 @@ public:
     void prepareFor(Database& database, bool writes);
     /// After a statement failed: where it was the transaction's first to write, nothing is left to keep others waiting.
     void giveUpFirstWrite();
+    /// After a statement failed: a full disk and the like make the storage take back all that the open transaction
+    /// wrote to a database; then nothing of it may be committed. True where it was so.
+    bool endLostTransaction();
 
     /// The one batch that runs; nullptr when it ends.
     void running(BatchRun* batch) { running_ = batch; }
@@ -71,7 +75,7 @@ private:
     Scalar fact(std::string_view name, const Scalar& argument);
     void stopBatch();
     std::unique_ptr<RowHold> holdRows(const Select& select);
-    static void takeBack(Database& database);
+    void takeBack(Database& database);
 
     std::shared_ptr<Instance> instance_;
     Login login_;
@@ -83,7 +87,8 @@ private:
     std::int64_t rowCount_ = 0;
     int lastError_ = 0;
     int transactions_ = 0;
-    Database* firstWrite_ = nullptr; ///< the database that the present statement joined to the transaction
+    std::set<const Database*> joined_; ///< databases that the open transaction has written to
+    Database* firstWrite_ = nullptr;   ///< the database that the present statement joined to the transaction
     std::vector<std::unique_ptr<RowHold>> transactionHolds_;
 };
 

@@ -135,5 +135,48 @@ TEST_F(StatementErrorsContract, AFileAtItsLargestSizeIsAFullDisk) {
     EXPECT_EQ(cell("select count(*) from t"), std::to_string(written + 1));
 }
 
+TEST_F(StatementErrorsContract, AFullDiskAtTheCommitTakesTheTransactionBack) {
+    constexpr int kDiskFull = 1105;
+    connection.Execute("create table t (a nvarchar(4000) null)");
+    const long long process = support::road() == support::Road::Wire ? server.peer().pid() : 0;
+    connection.Execute("begin transaction");
+    for (int i = 0; i < 50; ++i)
+        connection.Execute("insert into t (a) values ('" + std::string(4000, 'x') + "')");
+    {
+        constexpr rlim_t kLimit = 150'000;
+        const LargestFile limit(process, kLimit);
+        EXPECT_EQ(refusalOf("commit"), kDiskFull);
+    }
+    EXPECT_EQ(cell("select @@trancount"), "0");
+    EXPECT_EQ(cell("select count(*) from t"), "0");
+    Connection other;
+    other.Open(server.connectionString());
+    EXPECT_EQ(other.Execute("insert into t (a) values ('y')"), 1) << "nothing keeps others waiting";
+}
+
+TEST_F(StatementErrorsContract, AFullDiskLeavesNoHalfOfATransaction) {
+    constexpr int kDiskFull = 1105;
+    constexpr int kNoTransaction = 3902;
+    connection.Execute("create table t (a nvarchar(4000) null)");
+    const std::string insert = "insert into t (a) values ('" + std::string(4000, 'x') + "')";
+    const long long process = support::road() == support::Road::Wire ? server.peer().pid() : 0;
+    connection.Execute("begin transaction");
+    connection.Execute(insert);
+    int refusal = 0;
+    {
+        constexpr rlim_t kLimit = 300'000;
+        const LargestFile limit(process, kLimit);
+        // More than the cache of the storage holds, so that it has to write before the commit.
+        connection.Execute("create table n (i int null)");
+        connection.Execute("insert into n (i) values (1), (2), (3), (4), (5), (6), (7), (8), (9), (10)");
+        refusal = refusalOf("insert into t (a) select replicate('y', 4000) from n as p, n as q, n as r");
+        EXPECT_EQ(refusal, kDiskFull);
+    }
+    const bool goesOn = cell("select @@trancount") == "1";
+    EXPECT_EQ(refusalOf("commit"), goesOn ? 0 : kNoTransaction);
+    EXPECT_EQ(cell("select count(*) from t"), goesOn ? "1" : "0");
+    EXPECT_EQ(refusalOf(insert), 0);
+}
+
 } // namespace
 } // namespace ado

@@ -4,6 +4,7 @@
 #include "controls/Mark.h"
 #include "controls/QtDialogs.h"
 #include "controls/Style.h"
+#include "engine/Host.h"
 #include "platform/Workstation.h"
 
 #include <QLibraryInfo>
@@ -12,6 +13,7 @@
 namespace app {
 
 Program::Program(int& argc, char** argv) : application_(argc, argv) {
+    engine::refuseTooLargeFiles();
     // The hidden start form stands until the end of the process.
     QApplication::setQuitOnLastWindowClosed(false);
     if (italian_.load(QStringLiteral("qtbase_it"), QLibraryInfo::path(QLibraryInfo::TranslationsPath)))

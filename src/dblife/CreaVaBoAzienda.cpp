@@ -12,26 +12,34 @@ namespace vabo {
 
 namespace {
 
-constexpr std::array<std::pair<const char*, const char*>, 18> kOpzioni = {{
-    {"autoclose", "true"},
-    {"bulkcopy", "true"},
-    {"trunc. log", "true"},
-    {"torn page detection", "true"},
-    {"read only", "false"},
-    {"dbo use", "false"},
-    {"single", "false"},
-    {"autoshrink", "true"},
-    {"ANSI null default", "false"},
-    {"recursive triggers", "false"},
-    {"ANSI nulls", "false"},
-    {"concat null yields null", "false"},
-    {"cursor close on commit", "false"},
-    {"default to local cursor", "false"},
-    {"quoted identifier", "false"},
-    {"ANSI warnings", "false"},
-    {"auto create statistics", "true"},
-    {"auto update statistics", "true"},
+struct Opzione {
+    const char* nome;
+    const char* valore;
+    const char* istruzione; ///< the same behaviour behind ALTER DATABASE … SET
+};
+
+constexpr std::array<Opzione, 18> kOpzioni = {{
+    {"autoclose", "true", "AUTO_CLOSE ON"},
+    {"bulkcopy", "true", "RECOVERY BULK_LOGGED"},
+    {"trunc. log", "true", "RECOVERY SIMPLE"},
+    {"torn page detection", "true", "TORN_PAGE_DETECTION ON"},
+    {"read only", "false", "READ_WRITE"},
+    {"dbo use", "false", "MULTI_USER"},
+    {"single", "false", "MULTI_USER"},
+    {"autoshrink", "true", "AUTO_SHRINK ON"},
+    {"ANSI null default", "false", "ANSI_NULL_DEFAULT OFF"},
+    {"recursive triggers", "false", "RECURSIVE_TRIGGERS OFF"},
+    {"ANSI nulls", "false", "ANSI_NULLS OFF"},
+    {"concat null yields null", "false", "CONCAT_NULL_YIELDS_NULL OFF"},
+    {"cursor close on commit", "false", "CURSOR_CLOSE_ON_COMMIT OFF"},
+    {"default to local cursor", "false", "CURSOR_DEFAULT GLOBAL"},
+    {"quoted identifier", "false", "QUOTED_IDENTIFIER OFF"},
+    {"ANSI warnings", "false", "ANSI_WARNINGS OFF"},
+    {"auto create statistics", "true", "AUTO_CREATE_STATISTICS ON"},
+    {"auto update statistics", "true", "AUTO_UPDATE_STATISTICS ON"},
 }};
+
+constexpr int kProceduraMancante = 2812;
 
 void Esegui(const std::string& testo) {
     salta([&] { DbTemp.Execute(testo); });
@@ -44,10 +52,29 @@ void CreaDatabase(const std::string& nome, const std::string& fileDati, const st
            " , SIZE = 2, FILEGROWTH = 10%) COLLATE Latin1_General_CI_AS");
 }
 
+/// False where the server answers that it has no such procedure.
+bool EseguiProcedura(const std::string& testo) {
+    bool manca = false;
+    salta([&] {
+        try {
+            DbTemp.Execute(testo);
+        } catch (const ado::Error& errore) {
+            manca = errore.nativeError() == kProceduraMancante;
+            throw;
+        }
+    });
+    return !manca;
+}
+
+/// A server that has lost the procedure is told by statements instead, all options in the same order.
 void ImpostaOpzioni(const std::string& nome, const std::string& inizioDellaPrima) {
     std::string inizio = inizioDellaPrima;
-    for (const auto& [opzione, valore] : kOpzioni) {
-        Esegui(inizio + "sp_dboption N'" + nome + "', N'" + opzione + "', N'" + valore + "'");
+    bool conProcedura = true;
+    for (const Opzione& opzione : kOpzioni) {
+        conProcedura = conProcedura && EseguiProcedura(inizio + "sp_dboption N'" + nome + "', N'" + opzione.nome +
+                                                       "', N'" + opzione.valore + "'");
+        if (!conProcedura)
+            Esegui("ALTER DATABASE [" + nome + "] SET " + opzione.istruzione);
         inizio = " ";
     }
 }

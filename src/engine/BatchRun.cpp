@@ -5,6 +5,7 @@
 #include "engine/Conversions.h"
 #include "engine/Definitions.h"
 #include "engine/Error.h"
+#include "engine/InternalErrors.h"
 #include "engine/Procedures.h"
 #include "engine/SystemTables.h"
 #include "engine/Writer.h"
@@ -79,18 +80,25 @@ void BatchRun::endRows() {
     columns_ = nullptr;
 }
 
+/// A step that fails ends the walk of its rows; the session goes on.
+template<class Step>
+bool BatchRun::guarded(Step step) {
+    try {
+        return answered(step);
+    } catch (const Error& error) {
+        endRows();
+        answered([&] { failed(error); });
+        throw;
+    }
+}
+
 bool BatchRun::nextResult() {
     endRows();
     messages_.clear();
     if (session_ == nullptr) {
         return false;
     }
-    try {
-        return runNext();
-    } catch (const Error& error) {
-        failed(error);
-        throw;
-    }
+    return guarded([this] { return runNext(); });
 }
 
 bool BatchRun::runNext() {
@@ -203,7 +211,7 @@ Outcome BatchRun::runPlanned(const PlanPtr& plan, const Bindings& bindings) {
 bool BatchRun::holds(const Expression& condition) {
     const PlanPtr plan = makeConditionPlan(*session_, condition);
     show(runPlanned(plan, {nullptr, session_->dayFirst}));
-    const bool result = nextRow() && integer(0) != 0;
+    const bool result = stepRows() && integer(0) != 0;
     endRows();
     return result;
 }
@@ -211,7 +219,7 @@ bool BatchRun::holds(const Expression& condition) {
 void BatchRun::print(const Expression& text) {
     const PlanPtr plan = makeValuePlan(*session_, text);
     show(runPlanned(plan, {nullptr, session_->dayFirst}));
-    const std::string line = nextRow() && !isNull(0) ? std::string(this->text(0)) : std::string();
+    const std::string line = stepRows() && !isNull(0) ? std::string(this->text(0)) : std::string();
     endRows();
     messages_.push_back({0, line});
 }
@@ -240,6 +248,10 @@ const std::vector<ResultColumn>& BatchRun::columns() const {
 }
 
 bool BatchRun::nextRow() {
+    return guarded([this] { return stepRows(); });
+}
+
+bool BatchRun::stepRows() {
     if (outcome_.memory) {
         return memoryRow_ < outcome_.memory->rows.size() && ++memoryRow_ > 0;
     }
@@ -252,13 +264,7 @@ bool BatchRun::nextRow() {
             return true;
         }
     } catch (const sqlite::Failure& failure) {
-        try {
-            database_->raise(failure, nullptr, "");
-        } catch (const Error& error) {
-            endRows();
-            failed(error);
-            throw;
-        }
+        database_->raise(failure, nullptr, "");
     }
     session_->wrote(walked_);
     session_->failed(0);
@@ -275,6 +281,9 @@ void BatchRun::failed(const Error& error) {
     session_->failed(error.number());
     session_->wrote(0);
     session_->giveUpFirstWrite();
+    if (session_->endLostTransaction()) {
+        pending_.clear();
+    }
     if (error.reach() == Error::Reach::Statement) {
         return;
     }

@@ -51,6 +51,9 @@ private:
     enum class Format { AsStored, Decimal, Real };
 
     bool runNext();
+    bool stepRows();
+    template<class Step>
+    bool guarded(Step step);
     Outcome run(const Statement& statement);
     Outcome runPlanned(const PlanPtr& plan, const Bindings& bindings);
     Outcome runPlannedOf(const Statement& statement);

@@ -106,6 +106,53 @@ Error notGrouped(const std::string& column) {
             Reach::Batch};
 }
 
+Error notGroupedInHaving(const std::string& column) {
+    return {8121,
+            "Column " + inQuotes(column) +
+                " is invalid in the HAVING clause because it is not contained in either an aggregate function or the "
+                "GROUP BY clause.",
+            Reach::Batch};
+}
+
+Error notGroupedInOrder(const std::string& column) {
+    return {8127,
+            "Column \"" + column +
+                "\" is invalid in the ORDER BY clause because it is not contained in either an aggregate function or "
+                "the GROUP BY clause.",
+            Reach::Batch};
+}
+
+Error groupedByConstant() {
+    return {164, "Each GROUP BY expression must contain at least one column that is not an outer reference.",
+            Reach::Batch};
+}
+
+Error aggregateOfAggregate() {
+    return {130, "Cannot perform an aggregate function on an expression containing an aggregate or a subquery.",
+            Reach::Batch};
+}
+
+Error severalColumnsAggregated() {
+    return {8124,
+            "Multiple columns are specified in an aggregated expression containing an outer reference. If an "
+            "expression being aggregated contains an outer reference, then that outer reference must be the only "
+            "column referenced in the expression.",
+            Reach::Batch};
+}
+
+Error argumentType(const std::string& type, int place, const std::string& function) {
+    return {8116,
+            "Argument data type " + type + " is invalid for argument " + std::to_string(place) + " of " + function +
+                " function.",
+            Reach::Batch};
+}
+
+Error duplicateInNewKey(const std::string& table, const std::string& key) {
+    return {1505, "The CREATE UNIQUE INDEX statement terminated because a duplicate key was found for the object name "
+                  "'dbo." +
+                      table + "' and the index name " + inQuotes(key) + "."};
+}
+
 Error aggregateOfText(const std::string& type, const std::string& function) {
     return {8117, "Operand data type " + type + " is invalid for " + function + " operator.", Reach::Batch};
 }
@@ -186,6 +233,15 @@ Error indexExists(const std::string& table, const std::string& index) {
 Error identityInsertBusy(const std::string& holder, const std::string& table) {
     return {8107, "IDENTITY_INSERT is already ON for table " + inQuotes(holder) +
                       ". Cannot perform SET operation for table " + inQuotes(table) + "."};
+}
+
+Error outOfMemory() {
+    return {701, "There is insufficient system memory to run this query."};
+}
+
+Error internal() {
+    return {8630,
+            "Internal Query Processor Error: The query processor encountered an unexpected error during execution."};
 }
 
 Error systemTable(const std::string& table) {

@@ -22,6 +22,13 @@ Error unknownDatePart(const std::string& part, const std::string& function);    
 Error incompatibleTypes(const std::string& left, const std::string& right, const std::string& operation); // 402
 Error aggregateMisplaced();                                                                               // 147
 Error notGrouped(const std::string& column);                                                              // 8120
+Error notGroupedInHaving(const std::string& column);                                                      // 8121
+Error notGroupedInOrder(const std::string& column);                                                       // 8127
+Error groupedByConstant();                                                                                // 164
+Error aggregateOfAggregate();                                                                             // 130
+Error severalColumnsAggregated();                                                                         // 8124
+Error argumentType(const std::string& type, int place, const std::string& function);                      // 8116
+Error duplicateInNewKey(const std::string& table, const std::string& key);                                // 1505
 Error aggregateOfText(const std::string& type, const std::string& function);                              // 8117
 Error orderOutOfRange(int ordinal);                                                                       // 108
 Error columnTwice(const std::string& column);                                                             // 264
@@ -38,6 +45,8 @@ Error keyColumnMissing(const std::string& column);                              
 Error severalIdentities(const std::string& table);                                                        // 2744
 Error indexExists(const std::string& table, const std::string& index);                                    // 1913
 Error identityInsertBusy(const std::string& holder, const std::string& table);                            // 8107
+Error outOfMemory();                                                                                      // 701
+Error internal();                                                                                         // 8630
 Error systemTable(const std::string& table);                                                              // 259
 
 } // namespace engine::errors

@@ -52,7 +52,7 @@ private:
     };
     struct Scope {
         std::vector<Visible> tables;
-        const Scope* parent = nullptr;
+        Scope* parent = nullptr;
         bool aggregates = false; ///< aggregates may stand here
         bool sawAggregate = false;
     };
@@ -74,13 +74,17 @@ private:
     bound::SourcePtr join(const Join& join, Scope& scope, bool outer);
 
     // BinderSelect.cpp
-    bound::Select select(const Select& select, const Scope* parent);
+    bound::Select select(const Select& select, Scope* parent);
     bound::Core core(const SelectCore& core, Scope& scope, std::vector<ResultColumn>& columns);
     void items(const SelectCore& core, Scope& scope, bound::Core& result, std::vector<ResultColumn>& columns);
     void starItems(const Name& starOf, Scope& scope, bound::Core& result, std::vector<ResultColumn>& columns);
     bound::Order order(const OrderItem& item, const bound::Select& result, bool single);
     void unify(bound::Select& result, bound::Core& core, const std::vector<ResultColumn>& columns);
-    void checkGrouping(const bound::Core& core) const;
+
+    // BinderGrouping.cpp
+    void checkGrouping(const bound::Core& core, const std::vector<bound::Order>& orderBy) const;
+    bool refersTo(const Scope& scope, const bound::Expression& expression) const;
+    Scope& ownerOf(const bound::Call& aggregate) const;
 
     // BinderExpressions.cpp
     bound::ExpressionPtr expression(const Expression& expression);
@@ -98,6 +102,7 @@ private:
     bound::ExpressionPtr node(const Conversion& conversion);
     bound::ExpressionPtr node(const ServerVariable& variable);
     bound::ExpressionPtr literal(const Literal& literal, bool negated);
+    bound::ExpressionPtr negated(bound::ExpressionPtr operand);
     bound::ExpressionPtr arithmetic(Binary::Operator op, bound::ExpressionPtr left, bound::ExpressionPtr right);
     DataType digitsOf(const bound::Expression& number);
     bound::Parameter* bareLiteral(const bound::Expression& value);
@@ -129,6 +134,7 @@ private:
     Mode mode_ = Mode::Statement;
     int tables_ = 0;
     int depth_ = 0;
+    bool insideAggregate_ = false;
 };
 
 /// The type of the result where two types meet, by the server's precedence.

@@ -120,10 +120,12 @@ bound::ExpressionPtr Binder::node(const Call& call) {
 }
 
 bound::ExpressionPtr Binder::aggregate(const Call& call, const std::string& name) {
-    if (scope_ == nullptr || !scope_->aggregates) {
+    if (insideAggregate_) {
+        throw errors::aggregateOfAggregate();
+    }
+    if (scope_ == nullptr) {
         throw errors::aggregateMisplaced();
     }
-    scope_->sawAggregate = true;
     bound::Call made;
     made.aggregate = true;
     made.distinct = call.distinct;
@@ -137,10 +139,15 @@ bound::ExpressionPtr Binder::aggregate(const Call& call, const std::string& name
         if (call.arguments.size() != 1) {
             throw errors::argumentCount(call.function, 1);
         }
-        scope_->aggregates = false; // none inside of another
+        insideAggregate_ = true;
         made.arguments.push_back(collated(expression(*call.arguments.front())));
-        scope_->aggregates = true;
+        insideAggregate_ = false;
     }
+    Scope& owner = ownerOf(made);
+    if (!owner.aggregates) {
+        throw errors::aggregateMisplaced();
+    }
+    owner.sawAggregate = true;
     const DataType type = call.star ? DataType{} : made.arguments.front()->type;
     if (counts) {
         made.function = "count";
@@ -164,7 +171,8 @@ bound::ExpressionPtr Binder::aggregate(const Call& call, const std::string& name
     result->node = std::move(made);
     result->type =
         wanted.kind == Kind::Float ? wanted : DataType{wanted.isInteger() ? Kind::BigInt : Kind::Float, 0, 0, 0};
-    return convertTo(std::move(result), wanted, Purpose::Cast);
+    return wanted.kind == Kind::Float ? bound::call("tsql_float", wanted, std::move(result))
+                                      : convertTo(std::move(result), wanted, Purpose::Cast);
 }
 
 bound::ExpressionPtr Binder::argument(const Call& call, std::size_t place, char kind) {
@@ -179,6 +187,10 @@ bound::ExpressionPtr Binder::argument(const Call& call, std::size_t place, char 
         return bound::constant(quotedText(part->name.last()), DataType{Kind::VarChar, kSystemNameLength, 0, 0});
     }
     auto value = expression(written);
+    const bool needsNumber = kind == 'f' || kind == 'n';
+    if (needsNumber && (value->type.kind == Kind::DateTime || value->type.kind == Kind::VarBinary)) {
+        throw errors::argumentType(typeName(value->type), static_cast<int>(place) + 1, call.function);
+    }
     switch (kind) {
     case 't':
         return value->type.isText() ? std::move(value)
@@ -219,7 +231,13 @@ bound::ExpressionPtr Binder::builtIn(const Call& call) {
         arguments.insert(arguments.begin(), bound::constant(quotedText(std::string(entry->name)), type));
         return bound::callOf("tsql_fact", type, std::move(arguments));
     }
-    return bound::callOf(storageName(*entry), type, std::move(arguments));
+    auto result = bound::callOf(storageName(*entry), type, std::move(arguments));
+    if ((entry->name == "ABS" || entry->name == "ROUND") && type.kind != Kind::Float) {
+        // What comes out may lie outside of the type that went in.
+        result->type = DataType{type.isInteger() ? Kind::BigInt : Kind::Float, 0, 0, 0};
+        return convertTo(std::move(result), type, Purpose::Cast);
+    }
+    return result;
 }
 
 bound::ExpressionPtr Binder::node(const ServerVariable& variable) {

@@ -137,11 +137,7 @@ bound::ExpressionPtr Binder::node(const Unary& unary) {
             return literal(*number, true);
         } else {
             auto operand = expression(*unary.operand);
-            if (operand->type.isText()) {
-                throw errors::aggregateOfText(typeName(operand->type), "minus");
-            }
-            const DataType type = operand->type.kind == Kind::Bit ? DataType{Kind::Int} : operand->type;
-            return bound::prefix("-", std::move(operand), type);
+            return negated(std::move(operand));
         }
     case Unary::Operator::Plus:
         return expression(*unary.operand);
@@ -153,6 +149,25 @@ bound::ExpressionPtr Binder::node(const Unary& unary) {
         return bound::postfix("IS NOT NULL", expression(*unary.operand), DataType{Kind::Bit});
     }
     throw InternalError("an operator without a meaning");
+}
+
+bound::ExpressionPtr Binder::negated(bound::ExpressionPtr operand) {
+    DataType type = operand->type;
+    if (!type.isNumber() && type.kind != Kind::Unknown) {
+        throw errors::aggregateOfText(typeName(type), "minus");
+    }
+    if (type.kind == Kind::Bit) {
+        type = DataType{Kind::Int};
+    } else if (type.kind == Kind::TinyInt) {
+        type = DataType{Kind::SmallInt};
+    }
+    auto result = bound::prefix("-", std::move(operand), type);
+    if (!type.isInteger()) {
+        return result;
+    }
+    // The smallest integer has no opposite.
+    result = bound::call("tsql_bigint", DataType{Kind::BigInt}, std::move(result));
+    return convertTo(std::move(result), type, Purpose::Cast);
 }
 
 bound::ExpressionPtr Binder::node(const Binary& binary) {
@@ -239,16 +254,14 @@ bound::ExpressionPtr Binder::arithmetic(Binary::Operator op, bound::ExpressionPt
     } else {
         result = bound::infix(operatorText(op), std::move(left), std::move(right), wide);
     }
-    if (common.kind == Kind::Float || common.kind == Kind::Real) {
-        result->type = common;
-        return result;
+    if (common.kind == Kind::Float) {
+        return bound::call("tsql_float", common, std::move(result));
     }
     if (common.kind == Kind::BigInt) {
         result->type = DataType{Kind::Unknown};
         return bound::call("tsql_bigint", common, std::move(result));
     }
-    return convertTo(std::move(result), common.kind == Kind::Decimal ? decimalResult(op, leftType, rightType) : common,
-                     Purpose::Cast);
+    return convertTo(std::move(result), decimal ? decimalResult(op, leftType, rightType) : common, Purpose::Cast);
 }
 
 bound::ExpressionPtr Binder::node(const Like& like) {

@@ -115,22 +115,58 @@ private:
     const std::vector<int>& tables_;
 };
 
+template<class Tables>
+std::vector<int> numbersOf(const Tables& tables) {
+    std::vector<int> numbers;
+    for (const auto& table : tables) {
+        numbers.push_back(table.number);
+    }
+    return numbers;
+}
+
 } // namespace
 
-void Binder::checkGrouping(const bound::Core& core) const {
-    std::vector<int> tables;
-    for (const Visible& table : scope_->tables) {
-        tables.push_back(table.number);
-    }
+void Binder::checkGrouping(const bound::Core& core, const std::vector<bound::Order>& orderBy) const {
+    const std::vector<int> tables = numbersOf(scope_->tables);
     const LooseColumn loose(core, tables);
-    for (const bound::ExpressionPtr& item : core.items) {
-        if (const bound::Expression* found = loose.in(*item)) {
-            const auto& column = std::get<bound::Column>(found->node);
-            const auto table = std::find_if(scope_->tables.begin(), scope_->tables.end(),
-                                            [&](const Visible& one) { return one.number == column.source; });
-            throw errors::notGrouped(table->qualifier + "." + found->name);
+    const auto check = [&](const bound::ExpressionPtr& expression, const auto& refused) {
+        const bound::Expression* found = expression ? loose.in(*expression) : nullptr;
+        if (found == nullptr) {
+            return;
         }
+        const auto& column = std::get<bound::Column>(found->node);
+        const auto table = std::find_if(scope_->tables.begin(), scope_->tables.end(),
+                                        [&](const Visible& one) { return one.number == column.source; });
+        throw refused(table->qualifier + "." + found->name);
+    };
+    for (const bound::ExpressionPtr& item : core.items) {
+        check(item, errors::notGrouped);
     }
+    check(core.having, errors::notGroupedInHaving);
+    for (const bound::Order& order : orderBy) {
+        check(order.expression, errors::notGroupedInOrder);
+    }
+}
+
+bool Binder::refersTo(const Scope& scope, const bound::Expression& expression) const {
+    const std::vector<int> tables = numbersOf(scope.tables);
+    const bound::Core none;
+    return LooseColumn(none, tables).in(expression) != nullptr;
+}
+
+/// An aggregate over columns of an outer SELECT is that SELECT's own; one without columns belongs where it stands.
+Binder::Scope& Binder::ownerOf(const bound::Call& aggregate) const {
+    Scope* owner = nullptr;
+    for (Scope* scope = scope_; scope != nullptr && !aggregate.star; scope = scope->parent) {
+        if (!refersTo(*scope, *aggregate.arguments.front())) {
+            continue;
+        }
+        if (owner != nullptr) {
+            throw errors::severalColumnsAggregated();
+        }
+        owner = scope;
+    }
+    return owner == nullptr ? *scope_ : *owner;
 }
 
 } // namespace engine

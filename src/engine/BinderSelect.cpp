@@ -36,7 +36,10 @@ bool isSameColumn(const ResultColumn& left, const ResultColumn& right) {
 
 } // namespace
 
-bound::Select Binder::select(const Select& select, const Scope* parent) {
+bound::Select Binder::select(const Select& select, Scope* parent) {
+    if (insideAggregate_) {
+        throw errors::aggregateOfAggregate();
+    }
     bound::Select result;
     const bool single = select.cores.size() == 1;
     if (select.cores.size() > kMostCores) {
@@ -63,6 +66,13 @@ bound::Select Binder::select(const Select& select, const Scope* parent) {
     for (const OrderItem& item : select.orderBy) {
         result.orderBy.push_back(order(item, result, single));
     }
+    bound::Core& last = result.cores.back();
+    if (single && scope.sawAggregate && !last.aggregated) {
+        last.aggregated = last.hiddenAggregate = true;
+    }
+    if (last.aggregated) {
+        checkGrouping(last, result.orderBy);
+    }
     return result;
 }
 
@@ -78,14 +88,20 @@ bound::Core Binder::core(const SelectCore& core, Scope& scope, std::vector<Resul
     }
     for (const ExpressionPtr& group : core.groupBy) {
         result.groupBy.push_back(collated(expression(*group)));
+        if (!refersTo(scope, *result.groupBy.back())) {
+            throw errors::groupedByConstant();
+        }
     }
     scope.aggregates = true;
     items(core, scope, result, columns);
+    const bool shown = scope.sawAggregate;
     if (core.having) {
         result.having = expression(*core.having);
     }
-    if (!result.groupBy.empty() || scope.sawAggregate) {
-        checkGrouping(result);
+    result.aggregated = !result.groupBy.empty() || result.having || scope.sawAggregate;
+    result.hiddenAggregate = result.aggregated && result.groupBy.empty() && !shown;
+    if (result.aggregated) {
+        checkGrouping(result, {});
     }
     return result;
 }

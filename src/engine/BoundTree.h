@@ -131,7 +131,14 @@ struct Core {
     ExpressionPtr where;
     std::vector<ExpressionPtr> groupBy;
     ExpressionPtr having;
+    bool aggregated = false;      ///< its rows are groups; without GROUP BY all of it is one
+    bool hiddenAggregate = false; ///< nothing in its items tells that it is aggregated
 };
+
+/// Whether a part of a SELECT gives one row at most.
+inline bool isOneRow(const Core& core) {
+    return core.from.empty() || (core.aggregated && core.groupBy.empty());
+}
 
 struct Order {
     int ordinal = 0; ///< from 1; 0 where an expression stands

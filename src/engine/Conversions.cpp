@@ -175,11 +175,21 @@ double toFloat(std::string_view text) {
     return value;
 }
 
+double finiteNumber(double number, const DataType& type) {
+    if (!std::isfinite(number)) {
+        throw errors::conversionOverflow("expression", type.kind == Kind::Real ? "real" : "float");
+    }
+    return number;
+}
+
 std::string integerText(std::int64_t number) {
     return std::to_string(number);
 }
 
 std::string decimalText(double number, const DataType& type) {
+    if (!std::isfinite(number)) {
+        throw errors::conversionOverflow("float", "numeric");
+    }
     DecimalDigits digits = DecimalDigits::of(number, type.scale);
     digits.roundTo(type.scale);
     return digits.text();

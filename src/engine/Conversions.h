@@ -24,6 +24,8 @@ double toDecimal(std::string_view text, const DataType& target);
 double toDecimal(double number, const DataType& target);
 /// Throws 8114.
 double toFloat(std::string_view text);
+/// Throws 8115 for what left the range of float and real, which know no infinity.
+double finiteNumber(double number, const DataType& type);
 /// '' is 1900-01-01. Without a style the order is day first where `dayFirst`, else month first; `yyyymmdd` always.
 /// Style 102 reads year, month, day with any separator; 103 day, month, year; 101 month, day, year; 112 yyyymmdd;
 /// 120 and 121 with time. Throws 241, 242.

@@ -9,7 +9,8 @@ Database::Database(DatabaseEntry entry)
       connection_(entry_.file, false),
       catalog_(connection_),
       locks_(entry_.file),
-      begin_(connection_, "BEGIN IMMEDIATE"),
+      begin_(connection_, "BEGIN"),
+      lock_(connection_, "UPDATE main._vabo_identity SET next = next WHERE 0"),
       commit_(connection_, "COMMIT") {
     registerFunctions(connection_, functions_);
 }
@@ -23,6 +24,13 @@ void Database::refresh() {
 void Database::begin() {
     begin_.step();
     begin_.reset();
+    try {
+        lock_.step();
+        lock_.reset();
+    } catch (...) {
+        rollback();
+        throw;
+    }
 }
 
 void Database::commit() {

@@ -26,6 +26,8 @@ public:
     /// Before each statement: forgets the plans that a change of the schema made wrong.
     void refresh();
 
+    /// A transaction that writes this database alone. Databases that are read beside it stay free: another one of the
+    /// same session's transactions may be writing them.
     void begin();
     void commit();
     /// Never throws: the storage may have ended the transaction by itself.
@@ -43,7 +45,7 @@ private:
     Catalog catalog_;
     RowLocks locks_;
     StatementCache cache_;
-    sqlite::Statement begin_, commit_;
+    sqlite::Statement begin_, lock_, commit_;
 };
 
 /// BEGIN now and ROLLBACK at the end unless committed; nothing at all inside of an open transaction of the user's,

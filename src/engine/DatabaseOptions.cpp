@@ -37,7 +37,74 @@ constexpr std::array options{
     DatabaseOption{"trunc. log on chkpt.", false},
 };
 
+/// A setting that is ON or OFF.
+struct Toggle {
+    const char* setting;
+    const char* option;
+};
+
+constexpr std::array toggles{
+    Toggle{"ANSI_NULL_DEFAULT", "ANSI null default"},
+    Toggle{"ANSI_NULLS", "ANSI nulls"},
+    Toggle{"ANSI_PADDING", "ANSI padding"},
+    Toggle{"ANSI_WARNINGS", "ANSI warnings"},
+    Toggle{"ARITHABORT", "arithabort"},
+    Toggle{"AUTO_CLOSE", "autoclose"},
+    Toggle{"AUTO_CREATE_STATISTICS", "auto create statistics"},
+    Toggle{"AUTO_SHRINK", "autoshrink"},
+    Toggle{"AUTO_UPDATE_STATISTICS", "auto update statistics"},
+    Toggle{"CONCAT_NULL_YIELDS_NULL", "concat null yields null"},
+    Toggle{"CURSOR_CLOSE_ON_COMMIT", "cursor close on commit"},
+    Toggle{"DB_CHAINING", "db chaining"},
+    Toggle{"NUMERIC_ROUNDABORT", "numeric roundabort"},
+    Toggle{"QUOTED_IDENTIFIER", "quoted identifier"},
+    Toggle{"RECURSIVE_TRIGGERS", "recursive triggers"},
+    Toggle{"TORN_PAGE_DETECTION", "torn page detection"},
+};
+
+/// A setting of any other words, an option a line.
+struct Choice {
+    const char* setting;
+    const char* value;
+    const char* option;
+    bool becomes;
+};
+
+constexpr std::array choices{
+    Choice{"CURSOR_DEFAULT", "GLOBAL", "default to local cursor", false},
+    Choice{"CURSOR_DEFAULT", "LOCAL", "default to local cursor", true},
+    Choice{"MULTI_USER", "", "dbo use only", false},
+    Choice{"MULTI_USER", "", "single user", false},
+    Choice{"OFFLINE", "", "offline", true},
+    Choice{"ONLINE", "", "offline", false},
+    Choice{"READ_ONLY", "", "read only", true},
+    Choice{"READ_WRITE", "", "read only", false},
+    Choice{"RECOVERY", "BULK_LOGGED", "select into/bulkcopy", true},
+    Choice{"RECOVERY", "BULK_LOGGED", "trunc. log on chkpt.", false},
+    Choice{"RECOVERY", "FULL", "select into/bulkcopy", false},
+    Choice{"RECOVERY", "FULL", "trunc. log on chkpt.", false},
+    Choice{"RECOVERY", "SIMPLE", "trunc. log on chkpt.", true},
+    Choice{"RESTRICTED_USER", "", "dbo use only", true},
+    Choice{"SINGLE_USER", "", "single user", true},
+};
+
 } // namespace
+
+std::vector<std::pair<const char*, bool>> databaseSetting(std::string_view option, std::string_view value) {
+    const bool on = sameText(value, "ON");
+    std::vector<std::pair<const char*, bool>> effects;
+    for (const Toggle& toggle : toggles) {
+        if (sameText(toggle.setting, option) && (on || sameText(value, "OFF"))) {
+            effects.emplace_back(toggle.option, on);
+        }
+    }
+    for (const Choice& choice : choices) {
+        if (sameText(choice.setting, option) && sameText(choice.value, value)) {
+            effects.emplace_back(choice.option, choice.becomes);
+        }
+    }
+    return effects;
+}
 
 std::span<const DatabaseOption> databaseOptions() {
     return options;

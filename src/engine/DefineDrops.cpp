@@ -12,7 +12,8 @@ void refuseHeld(Database& database, const TableInfo& table) {
     if (!database.locks().anyHeldByOthers()) {
         return;
     }
-    sqlite::Statement rows(database.connection(), "SELECT rowid FROM " + translate::tableName("main", table.name));
+    sqlite::Statement rows(database.connection(),
+                           "SELECT " + translate::rowidOf(table) + " FROM " + translate::tableName("main", table.name));
     refuseHeldRows(database, table.name, rows);
 }
 
@@ -59,7 +60,7 @@ void dropIndex(ServerSession& session, const Name& name, bool ifExists) {
         }
     }
     changeSchema(session, nullptr,
-                 [&] { session.current().connection().run("DROP INDEX " + translate::tableName("main", index)); });
+                 [&] { session.current().connection().run("DROP INDEX main." + translate::quoted(index)); });
 }
 
 } // namespace

@@ -1,5 +1,6 @@
 #include "engine/BindErrors.h"
 #include "engine/Collation.h"
+#include "engine/DatabaseOptions.h"
 #include "engine/Definitions.h"
 
 #include <algorithm>
@@ -50,6 +51,19 @@ void define(ServerSession& session, const CreateDatabase& create) {
         }
     }
     session.instance().createDatabase(create.name, file, log);
+}
+
+void define(ServerSession& session, const AlterDatabase& alter) {
+    if (!session.instance().database(alter.name)) {
+        throw Error(5011, "User does not have permission to alter database '" + alter.name +
+                              "', the database does not exist, or the database is not in a state that allows access "
+                              "checks.");
+    }
+    for (const AlterDatabase::Setting& setting : alter.settings) {
+        for (const auto& [option, value] : databaseSetting(setting.option, setting.value)) {
+            session.instance().setDatabaseOption(alter.name, option, value);
+        }
+    }
 }
 
 void define(ServerSession& session, const Use& use) {

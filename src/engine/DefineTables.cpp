@@ -3,6 +3,7 @@
 #include "engine/Collation.h"
 #include "engine/Definitions.h"
 #include "engine/SessionTables.h"
+#include "engine/StorageErrors.h"
 #include "engine/translate/SqlText.h"
 
 #include <algorithm>
@@ -12,11 +13,22 @@ namespace engine {
 
 namespace {
 
+/// A key's name belongs to its database, as a table's does.
+bool isObject(Catalog& catalog, const TableInfo& table, const std::string& name) {
+    const auto hasKey = [&](const TableInfo& one) {
+        return std::any_of(one.keys.begin(), one.keys.end(),
+                           [&](const KeyInfo& key) { return sameText(key.name, name); });
+    };
+    if (sameText(table.name, name) || hasKey(table) || catalog.table(name) != nullptr) {
+        return true;
+    }
+    const std::vector<std::string> tables = catalog.tableNames();
+    return std::any_of(tables.begin(), tables.end(),
+                       [&](const std::string& other) { return hasKey(*catalog.table(other)); });
+}
+
 /// As the server names what a script leaves without a name.
 std::string keyName(const std::string& table, const KeyDefinition& key) {
-    if (!key.name.empty()) {
-        return key.name;
-    }
     std::size_t hash = std::hash<std::string>()(table);
     for (const std::string& column : key.columns) {
         hash = hash * 31 + std::hash<std::string>()(column);
@@ -51,9 +63,15 @@ void addColumn(TableInfo& table, const ColumnDefinition& definition) {
     table.columns.push_back(columnOf(definition));
 }
 
-KeyInfo keyOf(TableInfo& table, const KeyDefinition& definition) {
+KeyInfo keyOf(Catalog& catalog, TableInfo& table, const KeyDefinition& definition) {
     KeyInfo key;
-    key.name = keyName(table.name, definition);
+    key.name = definition.name.empty() ? keyName(table.name, definition) : definition.name;
+    while (isObject(catalog, table, key.name)) {
+        if (!definition.name.empty()) {
+            throw errors::objectExists(key.name);
+        }
+        key.name += '_';
+    }
     key.primary = definition.kind == KeyDefinition::Kind::Primary;
     if (key.primary && table.primaryKey() != nullptr) {
         throw errors::twoPrimaryKeys(table.name);
@@ -90,8 +108,23 @@ bool hasRows(Database& database, const TableInfo& table) {
     return any.step();
 }
 
+/// A unique index over rows that are there already; `name` as the server has it.
+void makeUnique(ServerSession& session, const std::string& table, const std::string& name, const std::string& text) {
+    try {
+        session.current().connection().run(text);
+    } catch (const sqlite::Failure& failure) {
+        if (isDuplicate(failure)) {
+            throw errors::duplicateInNewKey(table, name);
+        }
+        throw;
+    }
+}
+
 void addKey(ServerSession& session, const TableInfo& table, const KeyInfo& key) {
-    session.current().connection().run(translate::createKey(table, key));
+    if (!storedIndex(session.current(), table, key.name).empty()) {
+        throw errors::indexExists(table.name, key.name);
+    }
+    makeUnique(session, table.name, key.name, translate::createKey(table, key));
     session.current().catalog().addKey(table.name, key);
 }
 
@@ -116,10 +149,12 @@ void addColumn(ServerSession& session, const AlterTable& alter, const ColumnDefi
     database.catalog().addColumn(table.name, column);
     if (column.identity && filled) {
         const TableInfo& present = *database.catalog().table(table.name);
+        const std::string rowid = translate::rowidOf(present);
         sqlite::Statement rows(database.connection(),
-                               "SELECT rowid FROM " + translate::tableName("main", table.name) + " ORDER BY rowid");
+                               "SELECT " + rowid + " FROM " + translate::tableName("main", table.name) + " ORDER BY 1");
         sqlite::Statement number(database.connection(), "UPDATE " + translate::tableName("main", table.name) + " SET " +
-                                                            translate::quoted(column.name) + " = ?1 WHERE rowid = ?2");
+                                                            translate::quoted(column.name) + " = ?1 WHERE " + rowid +
+                                                            " = ?2");
         std::vector<std::int64_t> numbers;
         while (rows.step()) {
             numbers.push_back(rows.integer(0));
@@ -146,7 +181,7 @@ void define(ServerSession& session, const CreateTable& create) {
         addColumn(table, definition);
     }
     for (const KeyDefinition& definition : create.keys) {
-        table.keys.push_back(keyOf(table, definition));
+        table.keys.push_back(keyOf(database.catalog(), table, definition));
     }
     changeSchema(session, &table, [&] {
         database.connection().run(translate::createTable(table));
@@ -170,8 +205,9 @@ void define(ServerSession& session, const AlterTable& alter) {
             addColumn(session, alter, definition);
         }
         for (const KeyDefinition& definition : alter.keys) {
-            TableInfo table = *session.current().catalog().table(before.name);
-            addKey(session, table, keyOf(table, definition));
+            Catalog& catalog = session.current().catalog();
+            TableInfo table = *catalog.table(before.name);
+            addKey(session, table, keyOf(catalog, table, definition));
         }
     });
 }
@@ -188,7 +224,7 @@ void define(ServerSession& session, const CreateIndex& create) {
         throw errors::indexExists(table->name, create.name);
     }
     std::string text = std::string(create.unique ? "CREATE UNIQUE INDEX " : "CREATE INDEX ") + translate::quoted(name) +
-                       " ON " + translate::quoted(table->name) + " (";
+                       " ON " + translate::quoted(translate::storedTable(table->name)) + " (";
     bool first = true;
     for (const OrderItem& item : create.columns) {
         const auto& reference = std::get<ColumnReference>(item.expression->node);
@@ -200,18 +236,8 @@ void define(ServerSession& session, const CreateIndex& create) {
                 (item.descending ? " DESC" : "");
         first = false;
     }
-    changeSchema(session, table, [&] {
-        try {
-            database.connection().run(text + ")");
-        } catch (const sqlite::Failure& failure) {
-            if (std::string_view(failure.what()).starts_with("UNIQUE constraint")) {
-                throw Error(1505, "The CREATE UNIQUE INDEX statement terminated because a duplicate key was found for "
-                                  "the object name 'dbo." +
-                                      table->name + "' and the index name '" + create.name + "'.");
-            }
-            throw;
-        }
-    });
+    const TableInfo indexed = *table;
+    changeSchema(session, &indexed, [&] { makeUnique(session, indexed.name, create.name, text + ")"); });
 }
 
 } // namespace engine

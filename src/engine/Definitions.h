@@ -16,6 +16,7 @@ void define(ServerSession& session, const CreateIndex& create);    // 1088, 1911
 void define(ServerSession& session, const Drop& drop);             // 3701, 1222
 void define(ServerSession& session, const Truncate& truncate);     // 4701, 1222
 void define(ServerSession& session, const CreateDatabase& create); // 1801, 5133
+void define(ServerSession& session, const AlterDatabase& alter);   // 5011
 void define(ServerSession& session, const Use& use);               // 911
 void define(ServerSession& session, const SetOption& option);      // 1088, 8107, 2743
 void define(ServerSession& session, const Reconfigure& reconfigure);
@@ -27,8 +28,10 @@ template<class Change>
 void changeSchema(ServerSession& session, const TableInfo* table, const Change& change) {
     Database& database = session.current();
     try {
-        sqlite::Transaction transaction(database.connection());
+        WriteTransaction transaction(database);
+        sqlite::Transaction whole(database.connection());
         change();
+        whole.commit();
         transaction.commit();
     } catch (const sqlite::Failure& failure) {
         database.refresh();

@@ -25,7 +25,8 @@ private:
     int position_;
 };
 
-/// Our own bug, never the user's: a promise between two stages that was not kept.
+/// Our own bug, never the user's: a promise between two stages that was not kept. It never leaves a session: see
+/// InternalErrors.h.
 class InternalError : public std::logic_error {
 public:
     using std::logic_error::logic_error;
@@ -34,12 +35,14 @@ public:
 /// The texts of the server's errors, one function a number, so that each text stands once.
 /// Source of numbers and texts: the public list of database engine events and errors.
 namespace errors {
-Error syntaxNear(const std::string& token, int position);                                                         // 102
-Error identifierTooLong(const std::string& start, int position);                                                  // 103
-Error unclosedQuote(const std::string& rest, int position);                                                       // 105
-Error unclosedComment(int position);                                                                              // 113
-Error tooManyPrefixes(const std::string& name, int position);                                                     // 117
-Error undeclaredVariable(const std::string& variable, int position);                                              // 137
+Error syntaxNear(const std::string& token, int position);            // 102
+Error identifierTooLong(const std::string& start, int position);     // 103
+Error unclosedQuote(const std::string& rest, int position);          // 105
+Error unclosedComment(int position);                                 // 113
+Error tooManyPrefixes(const std::string& name, int position);        // 117
+Error undeclaredVariable(const std::string& variable, int position); // 137
+Error floatOutOfRange(const std::string& number, int position);      // 168
+Error numberTooLong(int position);                                   // 8115, of more digits than any decimal has
 Error sizeBeyondAnyType(const std::string& kind, const std::string& name, const std::string& size, int position); // 131
 Error syntaxNearKeyword(const std::string& keyword, int position);                                                // 156
 Error scaleOutOfRange(const std::string& scale, const std::string& name, int maximum, int position);              // 183

@@ -46,6 +46,16 @@ Error sizeBeyondAnyType(const std::string& kind, const std::string& name, const 
             Reach::Batch, position};
 }
 
+Error floatOutOfRange(const std::string& number, int position) {
+    return {168,
+            "The floating point value " + quoted(number) + " is out of the range of computer representation (8 bytes).",
+            Reach::Batch, position};
+}
+
+Error numberTooLong(int position) {
+    return {8115, "Arithmetic overflow error converting expression to data type numeric.", Reach::Batch, position};
+}
+
 Error syntaxNearKeyword(const std::string& keyword, int position) {
     return {156, "Incorrect syntax near the keyword " + quoted(keyword) + ".", Reach::Batch, position};
 }

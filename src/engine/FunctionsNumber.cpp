@@ -11,6 +11,8 @@ namespace engine {
 
 namespace {
 
+constexpr DataType kFloat{DataType::Kind::Float, 0, 0, 0};
+
 Scalar absolute(FunctionContext& /*context*/, Arguments arguments) {
     if (const auto* integer = std::get_if<std::int64_t>(&arguments[0])) {
         if (*integer == std::numeric_limits<std::int64_t>::min()) {
@@ -31,8 +33,27 @@ Scalar ceilingOf(FunctionContext& /*context*/, Arguments arguments) {
                                                               : Scalar(std::ceil(numberAt(arguments, 0)));
 }
 
+/// To a whole number of 10, 100, …, half away from zero.
+std::int64_t roundedInteger(std::int64_t number, std::int64_t zeros) {
+    constexpr int kTen = 10;
+    std::int64_t unit = 1;
+    for (; zeros > 0; --zeros) {
+        unit *= kTen;
+    }
+    const std::int64_t rest = number % unit;
+    std::int64_t rounded = number - rest;
+    const bool up = rest >= unit - rest;
+    const bool down = -rest >= unit + rest;
+    if ((up && __builtin_add_overflow(rounded, unit, &rounded)) ||
+        (down && __builtin_sub_overflow(rounded, unit, &rounded))) {
+        throw errors::overflow("bigint");
+    }
+    return rounded;
+}
+
 Scalar roundOf(FunctionContext& /*context*/, Arguments arguments) {
     constexpr std::int64_t kMostDigits = 18;
+    constexpr double kWholeFrom = 0x1p53; ///< no double from here on has digits behind the point
     const std::int64_t places = integerAt(arguments, 1);
     if (places > kMostDigits) {
         return arguments[0];
@@ -44,15 +65,18 @@ Scalar roundOf(FunctionContext& /*context*/, Arguments arguments) {
         if (places >= 0) {
             return *integer;
         }
-        const double unit = std::pow(10.0, static_cast<double>(-places));
-        return static_cast<std::int64_t>(std::round(static_cast<double>(*integer) / unit) * unit);
+        return roundedInteger(*integer, -places);
     }
+    const double number = numberAt(arguments, 0);
     if (places < 0) {
         const double unit = std::pow(10.0, static_cast<double>(-places));
-        return std::round(numberAt(arguments, 0) / unit) * unit;
+        return finiteNumber(std::round(number / unit) * unit, kFloat);
+    }
+    if (std::fabs(number) >= kWholeFrom) {
+        return number;
     }
     constexpr int kWidest = 38;
-    return toDecimal(numberAt(arguments, 0), DataType{DataType::Kind::Decimal, 0, kWidest, static_cast<int>(places)});
+    return toDecimal(number, DataType{DataType::Kind::Decimal, 0, kWidest, static_cast<int>(places)});
 }
 
 Scalar isNumeric(FunctionContext& /*context*/, Arguments arguments) {
@@ -77,9 +101,12 @@ Scalar divide(FunctionContext& /*context*/, Arguments arguments) {
     const auto* right = std::get_if<std::int64_t>(&arguments[1]);
     const bool integers = left != nullptr && right != nullptr && integerAt(arguments, 2) != 0;
     if (!integers) {
-        return numberAt(arguments, 0) / numberAt(arguments, 1);
+        return finiteNumber(numberAt(arguments, 0) / numberAt(arguments, 1), kFloat);
     }
-    return *right == -1 ? Scalar(-*left) : Scalar(*left / *right);
+    if (*right == -1 && *left == std::numeric_limits<std::int64_t>::min()) {
+        throw errors::overflow("bigint");
+    }
+    return *left / *right;
 }
 
 Scalar modulo(FunctionContext& /*context*/, Arguments arguments) {
@@ -107,6 +134,11 @@ Scalar convertValue(FunctionContext& context, Arguments arguments) {
     return convert(arguments[0], request);
 }
 
+/// A sum or product of floats: the storage lets it become infinite.
+Scalar floatNumber(FunctionContext& /*context*/, Arguments arguments) {
+    return finiteNumber(numberAt(arguments, 0), kFloat);
+}
+
 /// A sum or product of bigints: the storage goes over to floating numbers where it leaves their range.
 Scalar bigInteger(FunctionContext& /*context*/, Arguments arguments) {
     if (!std::holds_alternative<std::int64_t>(arguments[0])) {
@@ -126,17 +158,10 @@ Scalar tooManyRows(FunctionContext& /*context*/, Arguments /*arguments*/) {
 }
 
 constexpr RoutineEntry kRoutines[] = {
-    {"tsql_bigint", 1, bigInteger},
-    {"tsql_abs", 1, absolute},
-    {"tsql_ceiling", 1, ceilingOf},
-    {"tsql_convert", 5, convertValue},
-    {"tsql_divide", 3, divide},
-    {"tsql_fact", -1, fact, false},
-    {"tsql_floor", 1, floorOf},
-    {"tsql_isnumeric", 1, isNumeric, false},
-    {"tsql_modulo", 2, modulo},
-    {"tsql_round", 2, roundOf},
-    {"tsql_too_many_rows", 0, tooManyRows},
+    {"tsql_bigint", 1, bigInteger},    {"tsql_abs", 1, absolute},  {"tsql_ceiling", 1, ceilingOf},
+    {"tsql_convert", 5, convertValue}, {"tsql_divide", 3, divide}, {"tsql_fact", -1, fact, false},
+    {"tsql_float", 1, floatNumber},    {"tsql_floor", 1, floorOf}, {"tsql_isnumeric", 1, isNumeric, false},
+    {"tsql_modulo", 2, modulo},        {"tsql_round", 2, roundOf}, {"tsql_too_many_rows", 0, tooManyRows},
 };
 
 } // namespace

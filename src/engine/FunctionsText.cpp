@@ -169,10 +169,12 @@ Scalar str(FunctionContext& /*context*/, Arguments arguments) {
         return {};
     }
     const int shown = static_cast<int>(std::min(decimals, kMostDecimals));
+    const double number = numberAt(arguments, 0);
     const double scale = std::pow(10.0, shown);
+    const double scaled = std::round(number * scale);
     std::string text(512, '\0');
     const int size =
-        std::snprintf(text.data(), text.size(), "%.*f", shown, std::round(numberAt(arguments, 0) * scale) / scale);
+        std::snprintf(text.data(), text.size(), "%.*f", shown, std::isfinite(scaled) ? scaled / scale : number);
     text.resize(static_cast<std::size_t>(std::max(size, 0)));
     const std::size_t whole = std::min(text.find('.'), text.size());
     const auto wide = static_cast<std::size_t>(width);

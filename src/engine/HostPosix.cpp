@@ -1,6 +1,7 @@
 #include "engine/Host.h"
 
 #include <array>
+#include <csignal>
 #include <unistd.h>
 
 namespace engine {
@@ -14,6 +15,10 @@ std::string hostName() {
 
 std::int64_t processNumber() {
     return getpid();
+}
+
+void refuseTooLargeFiles() {
+    std::signal(SIGXFSZ, SIG_IGN);
 }
 
 std::tm localTime(std::time_t time) {

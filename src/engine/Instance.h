@@ -56,6 +56,13 @@ public:
     /// What was configured runs from now on.
     virtual void reconfigure() = 0;
 
+    /// The first number of the version that the server plays. It is kept with the instance, whoever serves it.
+    virtual int version() const = 0;
+    virtual void setVersion(int version) = 0;
+    static constexpr int standardVersion = 8;
+    /// From here on there is no sp_dboption any more.
+    static constexpr int firstVersionWithoutDatabaseOptions = 11;
+
     /// Options of one database, as sp_dboption sets them; see DatabaseOptions.h. Throws 15010 for an unknown database,
     /// 15011 and 15242 for an option.
     virtual std::vector<std::pair<std::string, bool>> databaseOptions(const std::string& database) const = 0;

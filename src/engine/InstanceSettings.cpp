@@ -8,6 +8,12 @@
 
 namespace engine {
 
+namespace {
+
+constexpr std::string_view versionOption = "server version"; ///< none that a statement can reach
+
+} // namespace
+
 std::vector<Instance::Option> InstanceStore::readOptions() const {
     std::vector<Option> all;
     for (const ServerOption& option : serverOptions()) {
@@ -51,6 +57,21 @@ void InstanceStore::configure(const std::string& name, long long value) {
 void InstanceStore::reconfigure() {
     const std::scoped_lock guard(mutex_);
     registry_.run("UPDATE options SET running = configured WHERE running <> configured");
+}
+
+int InstanceStore::version() const {
+    const std::scoped_lock guard(mutex_);
+    sqlite::Statement row(registry_, "SELECT running FROM options WHERE name = ?1");
+    row.bind(1, versionOption);
+    return row.step() ? static_cast<int>(row.integer(0)) : standardVersion;
+}
+
+void InstanceStore::setVersion(int version) {
+    const std::scoped_lock guard(mutex_);
+    sqlite::Statement store(registry_, "INSERT OR REPLACE INTO options VALUES (?1, ?2, ?2)");
+    store.bind(1, versionOption);
+    store.bind(2, std::int64_t{version});
+    store.step();
 }
 
 std::vector<std::pair<std::string, bool>> InstanceStore::databaseOptions(const std::string& database) const {

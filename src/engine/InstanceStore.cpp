@@ -3,6 +3,7 @@
 #include "engine/Collation.h"
 #include "engine/Conversions.h"
 #include "engine/Error.h"
+#include "engine/Host.h"
 #include "engine/RowLocks.h"
 
 #include <algorithm>
@@ -85,6 +86,7 @@ std::filesystem::path InstanceStore::registryFile(const std::filesystem::path& f
 
 InstanceStore::InstanceStore(std::filesystem::path folder, InstanceOptions options, bool create)
     : folder_(std::move(folder)), options_(std::move(options)), registry_(registryFile(folder_), create) {
+    refuseTooLargeFiles();
     if (create) {
         makeRegistry();
     }

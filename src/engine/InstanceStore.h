@@ -28,6 +28,9 @@ public:
     void configure(const std::string& name, long long value) override;
     void reconfigure() override;
 
+    int version() const override;
+    void setVersion(int version) override;
+
     std::vector<std::pair<std::string, bool>> databaseOptions(const std::string& database) const override;
     void setDatabaseOption(const std::string& database, const std::string& option, bool value) override;
 

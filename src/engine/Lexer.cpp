@@ -4,6 +4,8 @@
 
 #include <algorithm>
 #include <array>
+#include <cmath>
+#include <cstdlib>
 
 namespace engine {
 
@@ -50,6 +52,17 @@ bool fitsInt(std::string_view digits) {
     constexpr std::string_view kLargest = "2147483647";
     digits.remove_prefix(std::min(digits.find_first_not_of('0'), digits.size()));
     return digits.size() != kLargest.size() ? digits.size() < kLargest.size() : digits <= kLargest;
+}
+
+/// The widest decimal has 38 digits, zeros before them left out.
+bool fitsDecimal(std::string_view number) {
+    constexpr std::ptrdiff_t kMostDigits = 38;
+    number.remove_prefix(std::min(number.find_first_not_of('0'), number.size()));
+    return std::count_if(number.begin(), number.end(), isDigit) <= kMostDigits;
+}
+
+bool fitsFloat(const std::string_view number) {
+    return std::isfinite(std::strtod(std::string(number).c_str(), nullptr));
 }
 
 constexpr std::array<std::string_view, 6> kLongSymbols = {"<>", "!=", "<=", ">=", "!<", "!>"};
@@ -145,6 +158,8 @@ private:
         const std::string name = valueOf(tokens_.back());
         if (name.empty())
             throw errors::emptyName(static_cast<int>(begin));
+        if (name.find('\0') != std::string::npos)
+            throw errors::syntaxNear(name.c_str(), static_cast<int>(begin));
         refuseLongName(name, begin);
     }
 
@@ -175,7 +190,11 @@ private:
                 ++at_;
             digits();
         }
-        if (kind == Token::Kind::Integer && !fitsInt(batch_.substr(begin, at_ - begin)))
+        const std::string_view written = batch_.substr(begin, at_ - begin);
+        if (kind == Token::Kind::Float ? !fitsFloat(written) : !fitsDecimal(written))
+            throw kind == Token::Kind::Float ? errors::floatOutOfRange(std::string(written), static_cast<int>(begin))
+                                             : errors::numberTooLong(static_cast<int>(begin));
+        if (kind == Token::Kind::Integer && !fitsInt(written))
             kind = Token::Kind::Decimal;
         add(kind, begin);
     }

@@ -1,3 +1,4 @@
+#include "engine/DatabaseOptions.h"
 #include "engine/ParserGrammar.h"
 
 #include <algorithm>
@@ -22,6 +23,43 @@ Grammar::Node Grammar::createDatabase() {
     if (consumeIf(Keyword::Collate))
         node.collation = expectName();
     return node;
+}
+
+Grammar::Node Grammar::alterDatabase() {
+    AlterDatabase node;
+    expect(Keyword::Database);
+    node.name = expectName();
+    expect(Keyword::Set);
+    do
+        node.settings.push_back(databaseSetting());
+    while (consumeIf(","));
+    if (consumeIf(Keyword::With))
+        termination();
+    return node;
+}
+
+AlterDatabase::Setting Grammar::databaseSetting() {
+    const Token& token = now();
+    AlterDatabase::Setting setting;
+    setting.option = expectName();
+    if (isDatabaseSetting(setting.option, ""))
+        return setting;
+    setting.value = at(Keyword::On) || at(Keyword::Off) || at(Keyword::Full) ? valueOf(consume()) : expectName();
+    if (!isDatabaseSetting(setting.option, setting.value))
+        refuse(token);
+    return setting;
+}
+
+/// What becomes of the sessions that are in the way; none ever is.
+void Grammar::termination() {
+    if (consumeIfWord("NO_WAIT"))
+        return;
+    expect(Keyword::Rollback);
+    if (consumeIfWord("IMMEDIATE"))
+        return;
+    expectWord("AFTER");
+    expectInteger();
+    consumeIfWord("SECONDS");
 }
 
 std::vector<DatabaseFile> Grammar::databaseFiles(bool log) {

@@ -217,6 +217,8 @@ Grammar::Node Grammar::alter() {
     TableElements elements;
     structural_ = true;
     expect(Keyword::Alter);
+    if (at(Keyword::Database))
+        return alterDatabase();
     expect(Keyword::Table);
     node.table = name();
     if (consumeIf(Keyword::With) && !consumeIf(Keyword::Check))

@@ -100,6 +100,9 @@ private:
 
     // Databases.
     Node createDatabase();
+    Node alterDatabase();
+    AlterDatabase::Setting databaseSetting();
+    void termination();
     std::vector<DatabaseFile> databaseFiles(bool log);
     DatabaseFile databaseFile(bool log);
     void fileSize();

@@ -128,6 +128,14 @@ struct Printer {
         return list.addIf(!create.collation.empty(), create.collation).text();
     }
 
+    std::string operator()(const AlterDatabase& alter) const {
+        ListText list("alter-database");
+        list.add(alter.name);
+        for (const auto& setting : alter.settings)
+            list.add(ListText(setting.option).addIf(!setting.value.empty(), setting.value).text());
+        return list.text();
+    }
+
     std::string operator()(const Use& use) const { return ListText("use").add(use.database).text(); }
 
     std::string operator()(const SetOption& option) const {

@@ -130,6 +130,14 @@ Outcome configure(ServerSession& session, const Execute& call, Messages& message
     return listed(std::move(rows));
 }
 
+std::string joined(const Name& name) {
+    std::string result;
+    for (std::size_t i = 0; i < name.pieces.size(); ++i) {
+        result += (i == 0 ? "" : ".") + name.pieces[i];
+    }
+    return result;
+}
+
 bool isOn(const std::string& value) {
     for (const char* word : {"true", "on"}) {
         if (sameText(value, word)) {
@@ -145,6 +153,9 @@ bool isOn(const std::string& value) {
 }
 
 Outcome databaseOption(ServerSession& session, const Execute& call, Messages& /*messages*/) {
+    if (session.instance().version() >= Instance::firstVersionWithoutDatabaseOptions) {
+        throw errors::procedureMissing(joined(call.procedure));
+    }
     const Values values(call, {"@dbname", "@optname", "@optvalue"});
     MemoryRows rows;
     if (!values.given(0)) {
@@ -241,14 +252,6 @@ constexpr std::array kProcedures = std::to_array<Procedure>({
     {"sp_tables", tables},
     {"sp_columns", columns},
 });
-
-std::string joined(const Name& name) {
-    std::string result;
-    for (std::size_t i = 0; i < name.pieces.size(); ++i) {
-        result += (i == 0 ? "" : ".") + name.pieces[i];
-    }
-    return result;
-}
 
 } // namespace
 

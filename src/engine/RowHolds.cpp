@@ -45,23 +45,17 @@ Error readOnlyCursor() {
 /// The one table of a SELECT whose rows are rows of a table; joins, groups and the like have none to hold.
 const bound::Table& heldTable(const bound::Select& select) {
     const bound::Core& core = select.cores.front();
-    const bool plain = select.cores.size() == 1 && !core.distinct && core.groupBy.empty() && core.from.size() == 1;
+    const bool plain = select.cores.size() == 1 && !core.distinct && !core.aggregated && core.from.size() == 1;
     const auto* table = plain ? std::get_if<bound::Table>(&core.from.front()->node) : nullptr;
     if (table == nullptr || table->schema != "main") {
         throw readOnlyCursor();
-    }
-    for (const bound::ExpressionPtr& item : core.items) {
-        const auto* call = std::get_if<bound::Call>(&item->node);
-        if (call != nullptr && call->aggregate) {
-            throw readOnlyCursor();
-        }
     }
     return *table;
 }
 
 } // namespace
 
-std::unique_ptr<RowHold> ServerSession::hold(std::string_view select) {
+std::unique_ptr<RowHold> ServerSession::takeRows(std::string_view select) {
     stopBatch();
     current_->refresh();
     prepareFor(*current_, false);

@@ -51,6 +51,15 @@ Scalar toBitValue(const Scalar& value) {
     return std::int64_t{numberOf(value) != 0.0};
 }
 
+/// Out of the range of a float it is infinite.
+double realOf(double number) {
+    constexpr double kLargest = std::numeric_limits<float>::max();
+    if (std::fabs(number) > kLargest) {
+        return std::numeric_limits<double>::infinity();
+    }
+    return static_cast<double>(static_cast<float>(number));
+}
+
 Scalar toRealValue(const Scalar& value, const ConversionRequest& request) {
     const bool decimal = request.to.kind == Kind::Decimal;
     if (const auto* text = std::get_if<std::string>(&value)) {
@@ -58,13 +67,16 @@ Scalar toRealValue(const Scalar& value, const ConversionRequest& request) {
             const double days = daysOf(*text);
             return decimal ? toDecimal(days, request.to) : days;
         }
-        return decimal ? toDecimal(*text, request.to) : toFloat(*text);
+        if (decimal) {
+            return toDecimal(*text, request.to);
+        }
+        return finiteNumber(request.to.kind == Kind::Real ? realOf(toFloat(*text)) : toFloat(*text), request.to);
     }
     const double number = numberOf(value);
     if (decimal) {
         return toDecimal(number, request.to);
     }
-    return request.to.kind == Kind::Real ? static_cast<double>(static_cast<float>(number)) : number;
+    return finiteNumber(request.to.kind == Kind::Real ? realOf(number) : number, request.to);
 }
 
 Scalar toDateValue(const Scalar& value, const ConversionRequest& request) {

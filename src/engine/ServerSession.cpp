@@ -23,10 +23,12 @@ bool mayBePlanned(const Statement& statement) {
 } // namespace
 
 std::unique_ptr<Session> Session::open(std::shared_ptr<Instance> instance, const Login& login) {
-    if (!login.user.empty() && !instance->authenticates(login.user, login.password)) {
-        throw errors::loginFailed(login.user);
-    }
-    return std::make_unique<ServerSession>(std::move(instance), login);
+    return answered([&]() -> std::unique_ptr<Session> {
+        if (!login.user.empty() && !instance->authenticates(login.user, login.password)) {
+            throw errors::loginFailed(login.user);
+        }
+        return std::make_unique<ServerSession>(std::move(instance), login);
+    });
 }
 
 ServerSession::ServerSession(std::shared_ptr<Instance> instance, Login login)
@@ -86,7 +88,7 @@ void ServerSession::forget(std::string_view name) {
     }
 }
 
-std::unique_ptr<Batch> ServerSession::execute(std::string_view text) {
+std::unique_ptr<Batch> ServerSession::begin(std::string_view text) {
     stopBatch();
     const std::vector<Token> tokens = tokenize(text);
     Shape shape = shapeOf(tokens);
@@ -104,6 +106,7 @@ void ServerSession::beginTransaction() {
 }
 
 void ServerSession::takeBack(Database& database) {
+    joined_.erase(&database);
     database.rollback();
     database.catalog().settleIdentities();
     database.refresh();
@@ -116,12 +119,23 @@ void ServerSession::giveUpFirstWrite() {
     firstWrite_ = nullptr;
 }
 
+bool ServerSession::endLostTransaction() {
+    const bool lost = std::any_of(databases_.begin(), databases_.end(), [this](const auto& one) {
+        return joined_.count(one.second.get()) > 0 && !one.second->connection().inTransaction();
+    });
+    if (lost) {
+        rollbackTransaction();
+    }
+    return lost;
+}
+
 void ServerSession::prepareFor(Database& database, bool writes) {
     firstWrite_ = nullptr;
     if (writes && transactions_ > 0 && !database.connection().inTransaction()) {
         try {
-            database.connection().run("BEGIN IMMEDIATE");
+            database.begin();
             firstWrite_ = &database;
+            joined_.insert(&database);
         } catch (const sqlite::Failure& failure) {
             database.raise(failure, nullptr, "");
         }
@@ -134,14 +148,22 @@ void ServerSession::commitTransaction() {
     if (transactions_ == 0) {
         throw errors::noTransaction("COMMIT");
     }
-    if (--transactions_ > 0) {
+    if (transactions_ > 1) {
+        --transactions_;
         return;
     }
     for (const auto& [key, database] : databases_) {
-        if (database->connection().inTransaction()) {
-            database->commit();
+        try {
+            if (database->connection().inTransaction()) {
+                database->commit();
+            }
+        } catch (const sqlite::Failure& failure) {
+            rollbackTransaction();
+            database->raise(failure, nullptr, "");
         }
     }
+    transactions_ = 0;
+    joined_.clear();
     transactionHolds_.clear();
 }
 

@@ -3,11 +3,13 @@
 // A session from the inside: the databases it has open, its settings, and what it remembers between statements.
 
 #include "engine/Database.h"
+#include "engine/InternalErrors.h"
 #include "engine/Session.h"
 #include "engine/Tree.h"
 
 #include <map>
 #include <memory>
+#include <set>
 #include <string>
 #include <vector>
 
@@ -20,8 +22,12 @@ public:
     ServerSession(std::shared_ptr<Instance> instance, Login login);
     ~ServerSession() override;
 
-    std::unique_ptr<Batch> execute(std::string_view text) override;
-    std::unique_ptr<RowHold> hold(std::string_view select) override;
+    std::unique_ptr<Batch> execute(std::string_view text) override {
+        return answered([&] { return begin(text); });
+    }
+    std::unique_ptr<RowHold> hold(std::string_view select) override {
+        return answered([&] { return takeRows(select); });
+    }
     const std::string& database() const override { return current_->name(); }
     std::int64_t lastIdentity() const override { return lastIdentity_; }
 
@@ -55,16 +61,21 @@ public:
     void prepareFor(Database& database, bool writes);
     /// After a statement failed: where it was the transaction's first to write, nothing is left to keep others waiting.
     void giveUpFirstWrite();
+    /// After a statement failed: a full disk and the like make the storage take back all that the open transaction
+    /// wrote to a database; then nothing of it may be committed. True where it was so.
+    bool endLostTransaction();
 
     /// The one batch that runs; nullptr when it ends.
     void running(BatchRun* batch) { running_ = batch; }
     const BatchRun* running() const { return running_; }
 
 private:
+    std::unique_ptr<Batch> begin(std::string_view text);
+    std::unique_ptr<RowHold> takeRows(std::string_view select);
     Scalar fact(std::string_view name, const Scalar& argument);
     void stopBatch();
     std::unique_ptr<RowHold> holdRows(const Select& select);
-    static void takeBack(Database& database);
+    void takeBack(Database& database);
 
     std::shared_ptr<Instance> instance_;
     Login login_;
@@ -76,7 +87,8 @@ private:
     std::int64_t rowCount_ = 0;
     int lastError_ = 0;
     int transactions_ = 0;
-    Database* firstWrite_ = nullptr; ///< the database that the present statement joined to the transaction
+    std::set<const Database*> joined_; ///< databases that the open transaction has written to
+    Database* firstWrite_ = nullptr;   ///< the database that the present statement joined to the transaction
     std::vector<std::unique_ptr<RowHold>> transactionHolds_;
 };
 

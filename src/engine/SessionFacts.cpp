@@ -11,11 +11,14 @@ namespace engine {
 
 namespace {
 
-constexpr std::int64_t kVersionNumber = 0x08000000; ///< of a server that still has sp_dboption
-constexpr const char* kVersion = "8.00";
+constexpr int kBitsBehindVersion = 24;
 constexpr const char* kLanguage = "us_english";
 constexpr std::int64_t kQuotedIdentifierAndNulls = 5496; ///< the usual settings of a connection, as bits
 constexpr std::int64_t kWidestDecimal = 38;
+
+std::string versionText(const Instance& instance) {
+    return std::to_string(instance.version()) + ".00";
+}
 
 std::string serverName(const Instance& instance) {
     std::string name = instance.folder().filename().string();
@@ -27,7 +30,7 @@ std::string serverName(const Instance& instance) {
 
 Scalar serverProperty(const std::string& property, const Instance& instance) {
     const std::pair<const char*, Scalar> properties[] = {
-        {"ServerName", serverName(instance)},           {"ProductVersion", std::string(kVersion)},
+        {"ServerName", serverName(instance)},           {"ProductVersion", versionText(instance)},
         {"Edition", std::string("Embedded")},           {"Collation", std::string("Latin1_General_CI_AS")},
         {"IsIntegratedSecurityOnly", std::string("0")},
     };
@@ -93,8 +96,8 @@ Scalar ServerSession::fact(std::string_view name, const Scalar& argument) {
         {"@@TRANCOUNT", std::int64_t{transactions_}},
         {"@@SPID", processNumber()},
         {"@@SERVERNAME", serverName(*instance_)},
-        {"@@VERSION", std::string("Embedded server ") + kVersion},
-        {"@@MICROSOFTVERSION", kVersionNumber},
+        {"@@VERSION", "Embedded server " + versionText(*instance_)},
+        {"@@MICROSOFTVERSION", std::int64_t{instance_->version()} << kBitsBehindVersion},
         {"@@LANGUAGE", std::string(kLanguage)},
         {"@@MAX_PRECISION", kWidestDecimal},
         {"@@OPTIONS", kQuotedIdentifierAndNulls},

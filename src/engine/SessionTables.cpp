@@ -69,7 +69,7 @@ TableFinder::Found SessionTables::find(const Name& name) {
 
 TableFinder::Found SessionTables::inOtherDatabase(const Name& name) {
     const std::shared_ptr<Database> other = session_.open(piece(name, 2));
-    if (other == nullptr || session_.current().connection().inTransaction()) {
+    if (other == nullptr) {
         throw errors::invalidObject(joined(name));
     }
     other->refresh();

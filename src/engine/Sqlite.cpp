@@ -4,6 +4,7 @@
 
 #include <sqlite3.h>
 
+#include <cerrno>
 #include <chrono>
 #include <fstream>
 #include <utility>
@@ -14,8 +15,32 @@ namespace {
 constexpr std::chrono::milliseconds busyTimeout{10'000};
 constexpr std::chrono::milliseconds walRetryPause{5};
 
+/// What the system said when one of the files was last refused, 0 for nothing.
+int refusalOf(sqlite3_file* file) {
+    int number = 0;
+    if (file != nullptr && file->pMethods != nullptr) {
+        file->pMethods->xFileControl(file, SQLITE_FCNTL_LAST_ERRNO, &number);
+    }
+    return number;
+}
+
+bool isTooLarge(sqlite3* handle) {
+    sqlite3_file* file = nullptr;
+    sqlite3_file* log = nullptr;
+    sqlite3_file_control(handle, "main", SQLITE_FCNTL_FILE_POINTER, static_cast<void*>(&file));
+    sqlite3_file_control(handle, "main", SQLITE_FCNTL_JOURNAL_POINTER, static_cast<void*>(&log));
+    return refusalOf(file) == EFBIG || refusalOf(log) == EFBIG;
+}
+
+/// The storage knows a full disk by itself; a file that has reached its largest size is one as well.
+Failure failureOf(sqlite3* handle) {
+    const int code = sqlite3_extended_errcode(handle);
+    const std::string text = sqlite3_errmsg(handle);
+    return {code == SQLITE_IOERR_WRITE && isTooLarge(handle) ? SQLITE_FULL : code, text};
+}
+
 [[noreturn]] void fail(sqlite3* handle) {
-    throw Failure(sqlite3_extended_errcode(handle), sqlite3_errmsg(handle));
+    throw failureOf(handle);
 }
 
 void check(sqlite3* handle, int code) {
@@ -152,8 +177,7 @@ bool Statement::step() {
     }
     if (code != SQLITE_DONE) {
         // The error is taken before the reset, which frees the locks that the failed statement kept.
-        Failure failure(sqlite3_extended_errcode(sqlite3_db_handle(handle_)),
-                        sqlite3_errmsg(sqlite3_db_handle(handle_)));
+        const Failure failure = failureOf(sqlite3_db_handle(handle_));
         sqlite3_reset(handle_);
         throw failure;
     }

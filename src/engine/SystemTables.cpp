@@ -205,15 +205,16 @@ void fillSystemTable(const std::string& name, Database& database, const Instance
         throw InternalError("no table of the server's own: " + name);
     }
     sqlite::Connection& connection = database.connection();
-    std::string text = "CREATE TABLE IF NOT EXISTS temp." + translate::quoted(name) + " (";
+    std::string text = "CREATE TABLE IF NOT EXISTS " + translate::tableName("temp", name) + " (";
     std::string places;
     for (const ColumnInfo& column : table->info.columns) {
         text += (places.empty() ? "" : ", ") + translate::columnDefinition(table->info, column);
         places += places.empty() ? "?" : ", ?";
     }
     connection.run(text + ")");
-    connection.run("DELETE FROM temp." + translate::quoted(name));
-    sqlite::Statement insert(connection, "INSERT INTO temp." + translate::quoted(name) + " VALUES (" + places + ")");
+    connection.run("DELETE FROM " + translate::tableName("temp", name));
+    sqlite::Statement insert(connection,
+                             "INSERT INTO " + translate::tableName("temp", name) + " VALUES (" + places + ")");
     for (const Row& row : table->rows(database, instance)) {
         int place = 0;
         for (const Scalar& value : row) {

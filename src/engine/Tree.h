@@ -265,6 +265,16 @@ struct CreateDatabase {
     std::string collation;
 };
 
+/// ALTER DATABASE name SET: `AUTO_CLOSE ON`, `RECOVERY SIMPLE`, `READ_WRITE`.
+struct AlterDatabase {
+    std::string name;
+    struct Setting {
+        std::string option;
+        std::string value; ///< empty where the option is a word alone
+    };
+    std::vector<Setting> settings;
+};
+
 struct Use {
     std::string database;
 };
@@ -312,7 +322,7 @@ struct Print {
 
 struct Statement {
     std::variant<Select, Insert, Update, Delete, CreateTable, AlterTable, CreateIndex, Drop, Truncate, CreateDatabase,
-                 Use, SetOption, Execute, Reconfigure, Transaction, If, Block, Print>
+                 AlterDatabase, Use, SetOption, Execute, Reconfigure, Transaction, If, Block, Print>
         node;
     int begin = 0, end = 0; ///< byte range in the batch
 };

@@ -2,6 +2,7 @@
 
 #include "engine/BindErrors.h"
 #include "engine/Error.h"
+#include "engine/translate/SqlText.h"
 
 namespace engine {
 
@@ -133,8 +134,9 @@ private:
     }
 
     void identityGiven(std::int64_t row) {
-        sqlite::Statement value(database_.connection(), "SELECT \"" + plan_.identity->name + "\" FROM \"" +
-                                                            plan_.table->name + "\" WHERE rowid = ?1");
+        sqlite::Statement value(database_.connection(), "SELECT " + translate::quoted(plan_.identity->name) + " FROM " +
+                                                            translate::tableName("main", plan_.table->name) +
+                                                            " WHERE " + translate::rowidOf(*plan_.table) + " = ?1");
         value.bind(1, row);
         if (value.step()) {
             database_.catalog().raiseIdentity(*plan_.table, value.integer(0));

@@ -24,6 +24,7 @@ public:
     std::vector<std::string> helperArguments() const { return {instances().string(), connectionString()}; }
 
     void addLogin(const std::string& user, const std::string& password) const;
+    std::filesystem::path databaseFile() const { return instance() / "Vabodati.mdf"; }
     /// The process behind the wire. On no other road.
     support::Peer& peer() { return *peer_; }
 

@@ -141,6 +141,111 @@ TEST_F(CreaVaBoAzienda, TheOptionsAreSetOnEveryRun) {
     EXPECT_EQ(recorder.holding("sp_dboption").size(), 2 * kOptions.size());
 }
 
+/// What such a server is told, letter for letter: one question a database, then its options by statements.
+const std::vector<std::string> kWithoutProcedure = {
+    "sp_configure 'query timeout',0 RECONFIGURE",
+    kCreateTemporary,
+    " sp_dboption N'VaBoDatiTemp', N'autoclose', N'true'",
+    "ALTER DATABASE [VaBoDatiTemp] SET AUTO_CLOSE ON",
+    "ALTER DATABASE [VaBoDatiTemp] SET RECOVERY BULK_LOGGED",
+    "ALTER DATABASE [VaBoDatiTemp] SET RECOVERY SIMPLE",
+    "ALTER DATABASE [VaBoDatiTemp] SET TORN_PAGE_DETECTION ON",
+    "ALTER DATABASE [VaBoDatiTemp] SET READ_WRITE",
+    "ALTER DATABASE [VaBoDatiTemp] SET MULTI_USER",
+    "ALTER DATABASE [VaBoDatiTemp] SET MULTI_USER",
+    "ALTER DATABASE [VaBoDatiTemp] SET AUTO_SHRINK ON",
+    "ALTER DATABASE [VaBoDatiTemp] SET ANSI_NULL_DEFAULT OFF",
+    "ALTER DATABASE [VaBoDatiTemp] SET RECURSIVE_TRIGGERS OFF",
+    "ALTER DATABASE [VaBoDatiTemp] SET ANSI_NULLS OFF",
+    "ALTER DATABASE [VaBoDatiTemp] SET CONCAT_NULL_YIELDS_NULL OFF",
+    "ALTER DATABASE [VaBoDatiTemp] SET CURSOR_CLOSE_ON_COMMIT OFF",
+    "ALTER DATABASE [VaBoDatiTemp] SET CURSOR_DEFAULT GLOBAL",
+    "ALTER DATABASE [VaBoDatiTemp] SET QUOTED_IDENTIFIER OFF",
+    "ALTER DATABASE [VaBoDatiTemp] SET ANSI_WARNINGS OFF",
+    "ALTER DATABASE [VaBoDatiTemp] SET AUTO_CREATE_STATISTICS ON",
+    "ALTER DATABASE [VaBoDatiTemp] SET AUTO_UPDATE_STATISTICS ON",
+    kCreateControl,
+    "  sp_dboption N'VaBoDatiAzienda', N'autoclose', N'true'",
+    "ALTER DATABASE [VaBoDatiAzienda] SET AUTO_CLOSE ON",
+    "ALTER DATABASE [VaBoDatiAzienda] SET RECOVERY BULK_LOGGED",
+    "ALTER DATABASE [VaBoDatiAzienda] SET RECOVERY SIMPLE",
+    "ALTER DATABASE [VaBoDatiAzienda] SET TORN_PAGE_DETECTION ON",
+    "ALTER DATABASE [VaBoDatiAzienda] SET READ_WRITE",
+    "ALTER DATABASE [VaBoDatiAzienda] SET MULTI_USER",
+    "ALTER DATABASE [VaBoDatiAzienda] SET MULTI_USER",
+    "ALTER DATABASE [VaBoDatiAzienda] SET AUTO_SHRINK ON",
+    "ALTER DATABASE [VaBoDatiAzienda] SET ANSI_NULL_DEFAULT OFF",
+    "ALTER DATABASE [VaBoDatiAzienda] SET RECURSIVE_TRIGGERS OFF",
+    "ALTER DATABASE [VaBoDatiAzienda] SET ANSI_NULLS OFF",
+    "ALTER DATABASE [VaBoDatiAzienda] SET CONCAT_NULL_YIELDS_NULL OFF",
+    "ALTER DATABASE [VaBoDatiAzienda] SET CURSOR_CLOSE_ON_COMMIT OFF",
+    "ALTER DATABASE [VaBoDatiAzienda] SET CURSOR_DEFAULT GLOBAL",
+    "ALTER DATABASE [VaBoDatiAzienda] SET QUOTED_IDENTIFIER OFF",
+    "ALTER DATABASE [VaBoDatiAzienda] SET ANSI_WARNINGS OFF",
+    "ALTER DATABASE [VaBoDatiAzienda] SET AUTO_CREATE_STATISTICS ON",
+    "ALTER DATABASE [VaBoDatiAzienda] SET AUTO_UPDATE_STATISTICS ON",
+    kCompanies,
+    kTerminals,
+};
+
+TEST_F(CreaVaBoAzienda, AServerWithoutTheProcedureIsToldByStatements) {
+    workstation.playServerVersion(11);
+    const support::StatementRecorder recorder;
+    CreaDatabaseControllo();
+    EXPECT_EQ(recorder.texts(), kWithoutProcedure);
+}
+
+TEST_F(CreaVaBoAzienda, TheOptionsBecomeTheSameEitherWay) {
+    using Options = std::vector<std::pair<std::string, bool>>;
+    const Options expected = {
+        {"ANSI null default", false},
+        {"ANSI nulls", false},
+        {"ANSI padding", false},
+        {"ANSI warnings", false},
+        {"arithabort", false},
+        {"auto create statistics", true},
+        {"auto update statistics", true},
+        {"autoclose", true},
+        {"autoshrink", true},
+        {"concat null yields null", false},
+        {"cursor close on commit", false},
+        {"db chaining", false},
+        {"dbo use only", false},
+        {"default to local cursor", false},
+        {"merge publish", false},
+        {"numeric roundabort", false},
+        {"offline", false},
+        {"published", false},
+        {"quoted identifier", false},
+        {"read only", false},
+        {"recursive triggers", false},
+        {"select into/bulkcopy", true},
+        {"single user", false},
+        {"subscribed", false},
+        {"torn page detection", true},
+        {"trunc. log on chkpt.", true},
+    };
+    for (const int version : {8, 11}) {
+        workstation.playServerVersion(version);
+        workstation.run("master", "IF EXISTS (SELECT name FROM sysdatabases WHERE name = 'VaBoDatiTemp')"
+                                  " DROP DATABASE VaBoDatiTemp");
+        workstation.run("master", "DROP DATABASE vabodatiazienda");
+        CreaDatabaseControllo();
+        for (const char* database : {"VaBoDatiTemp", "VaBoDatiAzienda"})
+            EXPECT_EQ(workstation.databaseOptions(database), expected) << version << " " << database;
+    }
+}
+
+TEST_F(CreaVaBoAzienda, AnotherRefusalLeavesTheProcedureInPlace) {
+    workstation.run("master", "IF EXISTS (SELECT name FROM sysdatabases WHERE name = 'VaBoDatiTemp')"
+                              " DROP DATABASE VaBoDatiTemp");
+    std::filesystem::remove_all(workstation.driveC().real("C:\\vabo\\sedi"));
+    const support::StatementRecorder recorder;
+    CreaDatabaseControllo();
+    EXPECT_EQ(recorder.holding("sp_dboption N'VaBoDatiTemp'").size(), kOptions.size());
+    EXPECT_TRUE(recorder.holding("ALTER DATABASE").empty());
+}
+
 TEST_F(CreaVaBoAzienda, AMissingFolderIsSilentAndTheRestIsMade) {
     std::filesystem::remove_all(workstation.driveC().real("C:\\vabo\\sedi"));
     workstation.run("master", "DROP DATABASE vabodatiazienda");

@@ -81,5 +81,27 @@ TEST_F(Killing, AWriterLosesNoStatementThatReturnedAndLeavesNoHalfTransaction) {
     EXPECT_GT(reported.size(), static_cast<std::size_t>(kKills)) << "the writers hardly wrote";
 }
 
+/// The index of the storage's log is mapped memory: shortening its file may end whoever uses it, and no more.
+TEST_F(Killing, AnEmptiedIndexOfTheLogLosesNoStatementThatReturned) {
+    session.reset(); // this process must not have it mapped
+    support::HelperProcess writer("engine_session_helper", {instance->folder().string(), "prova"});
+    writer.writeLine("insert into t (note) values ('prima')");
+    ASSERT_EQ(writer.readLine(), "0");
+    std::filesystem::path index = instance->database("prova")->file;
+    index += "-shm";
+    ASSERT_GT(std::filesystem::file_size(index), 0U);
+    std::filesystem::resize_file(index, 0);
+    writer.writeLine("insert into t (note) values ('seconda')");
+    const bool returned = writer.readLine() == "0";
+    writer.kill();
+    session = connect();
+    EXPECT_EQ(rows("select count(*) from t where note = 'prima'"), "1");
+    if (returned) {
+        EXPECT_EQ(rows("select count(*) from t where note = 'seconda'"), "1");
+    }
+    EXPECT_EQ(answer("insert into t (note) values ('terza')"), "(1)");
+    EXPECT_EQ(integrity(), "ok");
+}
+
 } // namespace
 } // namespace engine

@@ -39,6 +39,67 @@ TEST_F(Procedures, ADatabaseOptionIsSetAndRead) {
     EXPECT_NE(rows("sp_dboption").find("autoclose"), std::string::npos);
 }
 
+TEST_F(Procedures, ALaterServerHasNoProcedureForDatabaseOptions) {
+    EXPECT_EQ(rows("select serverproperty('ProductVersion'), @@version, @@microsoftversion"),
+              "8.00|Embedded server 8.00|134217728");
+    instance->setVersion(11);
+    const char* missing = "!2812 Could not find stored procedure 'sp_dboption'.";
+    EXPECT_EQ(answer(" sp_dboption N'prova', N'autoclose', N'true'"), missing);
+    EXPECT_EQ(answer("sp_dboption"), missing);
+    EXPECT_EQ(rows("select serverproperty('ProductVersion'), @@version, @@microsoftversion"),
+              "11.00|Embedded server 11.00|184549376");
+    EXPECT_EQ(rows("sp_configure 'server version'").substr(0, 7), "!15123 ") << "no option of the server's own";
+    instance->setVersion(8);
+    EXPECT_EQ(answer(" sp_dboption N'prova', N'autoclose', N'true'"), "-");
+}
+
+TEST_F(Procedures, ADatabaseIsAltered) {
+    const auto option = [&](const std::string& name) {
+        for (const auto& [known, value] : instance->databaseOptions("prova")) {
+            if (known == name)
+                return std::string(value ? "ON" : "OFF");
+        }
+        return std::string();
+    };
+    struct Case {
+        const char* setting;
+        const char* option;
+        const char* value;
+    };
+    constexpr Case cases[] = {
+        {"AUTO_CLOSE ON", "autoclose", "ON"},
+        {"auto_close off", "autoclose", "OFF"},
+        {"RECOVERY BULK_LOGGED", "select into/bulkcopy", "ON"},
+        {"RECOVERY SIMPLE", "trunc. log on chkpt.", "ON"},
+        {"ANSI_NULLS ON", "select into/bulkcopy", "ON"},
+        {"RECOVERY BULK_LOGGED", "trunc. log on chkpt.", "OFF"},
+        {"RECOVERY FULL", "select into/bulkcopy", "OFF"},
+        {"TORN_PAGE_DETECTION OFF", "torn page detection", "OFF"},
+        {"READ_ONLY", "read only", "ON"},
+        {"READ_WRITE WITH NO_WAIT", "read only", "OFF"},
+        {"SINGLE_USER WITH ROLLBACK IMMEDIATE", "single user", "ON"},
+        {"RESTRICTED_USER WITH ROLLBACK AFTER 5 SECONDS", "dbo use only", "ON"},
+        {"MULTI_USER", "dbo use only", "OFF"},
+        {"AUTO_SHRINK ON, CURSOR_DEFAULT LOCAL", "default to local cursor", "ON"},
+        {"CURSOR_DEFAULT GLOBAL", "default to local cursor", "OFF"},
+        {"QUOTED_IDENTIFIER ON", "quoted identifier", "ON"},
+    };
+    for (const Case& one : cases) {
+        EXPECT_EQ(answer(std::string("ALTER DATABASE [Prova] SET ") + one.setting), "-") << one.setting;
+        EXPECT_EQ(option(one.option), one.value) << one.setting;
+    }
+    EXPECT_EQ(option("single user"), "OFF");
+    EXPECT_EQ(option("autoshrink"), "ON");
+    EXPECT_EQ(answer("ALTER DATABASE manca SET AUTO_CLOSE ON"),
+              "!5011 User does not have permission to alter database 'manca', the database does not exist, or the"
+              " database is not in a state that allows access checks.");
+    EXPECT_EQ(answer("ALTER DATABASE prova SET AUTO_CLOSE"), "!102 Incorrect syntax near 'AUTO_CLOSE'.");
+    EXPECT_EQ(answer("ALTER DATABASE prova SET AUTO_CLOSE FORSE"), "!102 Incorrect syntax near 'AUTO_CLOSE'.");
+    EXPECT_EQ(answer("ALTER DATABASE prova SET RECOVERY MAI"), "!102 Incorrect syntax near 'RECOVERY'.");
+    EXPECT_EQ(answer("ALTER DATABASE prova SET MANCA ON"), "!102 Incorrect syntax near 'MANCA'.");
+    EXPECT_EQ(answer("ALTER DATABASE prova"), "!102 Incorrect syntax near 'prova'.");
+}
+
 TEST_F(Procedures, TheListsOfTheServer) {
     run("create table t (id int identity(1,1) not null primary key, b nvarchar(10) null)");
     EXPECT_EQ(rows("sp_tables"), "prova|dbo|t|TABLE|NULL");

@@ -141,6 +141,35 @@ TEST_F(Sessions, LoginsAndDatabasesAreAskedFor) {
     EXPECT_EQ(connect("")->database(), "master");
 }
 
+TEST_F(Sessions, NoSessionWaitsForItself) {
+    run("use master create table m (a int null)");
+    EXPECT_EQ(rows("select a from prova.dbo.t order by a"), "1\n2\n3");
+    run("begin transaction");
+    EXPECT_EQ(answer("insert into m (a) values (1)"), "(1)");
+    run("use prova");
+    EXPECT_EQ(answer("update t set a = 9 where id = 1"), "(1)");
+    run("use master");
+    EXPECT_EQ(answer("insert into m (a) values (2)"), "(1)");
+    EXPECT_EQ(answer("insert into m (a) select id from prova.dbo.t"), "(3)");
+    run("use prova");
+    EXPECT_EQ(rows("select count(*) from master.dbo.m"), "0") << "another connection's view, without a wait";
+    run("create table n (a int null)");
+    run("commit");
+    EXPECT_EQ(rows("select count(*) from master.dbo.m"), "5");
+    EXPECT_EQ(rows("select a from t where id = 1"), "9");
+    EXPECT_EQ(others("update t set a = 1 where id = 1"), "(1)");
+}
+
+TEST_F(Sessions, ReadingAnotherDatabaseKeepsNobodyFromWritingIt) {
+    run("use master create table m (a int null)");
+    EXPECT_EQ(rows("select a from prova.dbo.t where id = 1"), "1");
+    run("begin transaction insert into m (a) values (1)");
+    EXPECT_EQ(others("update t set a = 9 where id = 1"), "(1)");
+    run("create table k (a int null)");
+    EXPECT_EQ(others("update t set a = 8 where id = 1"), "(1)");
+    run("commit");
+}
+
 TEST_F(Sessions, OtherDatabasesCanBeRead) {
     run("create database altra");
     run("use altra create table u (a int null) insert into u values (5)");

@@ -18,6 +18,7 @@ public:
     std::string server() const { return "127.0.0.1," + std::to_string(port_); }
     int port() const { return port_; }
 
+    long long pid() const { return process_->pid(); }
     void kill() { process_->kill(); }
     /// Holds the process still, and lets it go on.
     void freeze() const;

@@ -126,6 +126,14 @@ std::string TestWorkstation::value(const std::string& database, const std::strin
     return first.empty() ? std::string() : first.front();
 }
 
+void TestWorkstation::playServerVersion(int version) const {
+    engine::Instance::open(instance_, {})->setVersion(version);
+}
+
+std::vector<std::pair<std::string, bool>> TestWorkstation::databaseOptions(const std::string& database) const {
+    return engine::Instance::open(instance_, {})->databaseOptions(database);
+}
+
 void TestWorkstation::run(const std::string& database, const std::string& sql) const {
     rows(database, sql);
 }

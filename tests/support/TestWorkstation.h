@@ -9,6 +9,7 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 namespace support {
@@ -51,6 +52,9 @@ public:
     Row row(const std::string& database, const std::string& sql) const;
     /// The first value of the one row.
     std::string value(const std::string& database, const std::string& sql) const;
+    /// The server plays another version from now on; see engine::Instance.
+    void playServerVersion(int version) const;
+    std::vector<std::pair<std::string, bool>> databaseOptions(const std::string& database) const;
     /// Runs a text to its end.
     void run(const std::string& database, const std::string& sql) const;
 

@@ -31,7 +31,8 @@ const ColumnInfo* rowNumber(const TableInfo& table) {
 }
 
 std::string indexName(const std::string& table, const std::string& index) {
-    return table + "." + index;
+    const std::string stored = storedTable(table);
+    return stored == table ? table + "." + index : "_vabo_i" + std::to_string(table.size()) + ":" + table + "." + index;
 }
 
 std::string columnDefinition(const TableInfo& table, const ColumnInfo& column) {
@@ -42,7 +43,7 @@ std::string columnDefinition(const TableInfo& table, const ColumnInfo& column) {
 }
 
 std::string createTable(const TableInfo& table) {
-    std::string text = "CREATE TABLE " + quoted(table.name) + " (";
+    std::string text = "CREATE TABLE " + quoted(storedTable(table.name)) + " (";
     bool first = true;
     for (const ColumnInfo& column : table.columns) {
         text += first ? "" : ", ";
@@ -53,8 +54,8 @@ std::string createTable(const TableInfo& table) {
 }
 
 std::string createKey(const TableInfo& table, const KeyInfo& key) {
-    std::string text =
-        "CREATE UNIQUE INDEX " + quoted(indexName(table.name, key.name)) + " ON " + quoted(table.name) + " (";
+    std::string text = "CREATE UNIQUE INDEX " + quoted(indexName(table.name, key.name)) + " ON " +
+                       quoted(storedTable(table.name)) + " (";
     bool first = true;
     for (const std::string& column : key.columns) {
         text += first ? "" : ", ";
@@ -65,7 +66,7 @@ std::string createKey(const TableInfo& table, const KeyInfo& key) {
 }
 
 std::string addColumn(const TableInfo& table, const ColumnInfo& column, const std::string& defaultText) {
-    return "ALTER TABLE " + quoted(table.name) + " ADD COLUMN " + columnDefinition(table, column) +
+    return "ALTER TABLE " + quoted(storedTable(table.name)) + " ADD COLUMN " + columnDefinition(table, column) +
            (defaultText.empty() ? "" : " DEFAULT " + defaultText);
 }
 

@@ -4,7 +4,7 @@ namespace engine::translate {
 
 namespace {
 
-Text onTarget(const char* verb, const bound::Delete& remove) {
+Text onTarget(const std::string& verb, const bound::Delete& remove) {
     Text text(verb);
     text += tableName(remove.table.schema, remove.table.info->name) + " AS " + alias(remove.table.number);
     writeWhere(text, remove.where);
@@ -18,7 +18,7 @@ Text remove(const bound::Delete& remove) {
 }
 
 Text rowsOf(const bound::Delete& remove) {
-    return onTarget("SELECT rowid FROM ", remove);
+    return onTarget("SELECT " + rowidOf(*remove.table.info) + " FROM ", remove);
 }
 
 } // namespace engine::translate

@@ -1,4 +1,8 @@
+#include "engine/Collation.h"
 #include "engine/translate/SqlText.h"
+
+#include <algorithm>
+#include <iterator>
 
 namespace engine::translate {
 
@@ -103,6 +107,12 @@ void writeNode(Text& text, const bound::Subselect& subselect) {
         text += "))";
         return;
     case bound::Subselect::Kind::Scalar:
+        if (subselect.select->cores.size() == 1 && bound::isOneRow(subselect.select->cores.front())) {
+            text += '(';
+            write(text, *subselect.select);
+            text += ')';
+            return;
+        }
         // The storage would take the first of several rows in silence.
         text += "(SELECT CASE WHEN count(*) > 1 THEN tsql_too_many_rows() ELSE min(c0) END FROM (SELECT * FROM (";
         write(text, *subselect.select);
@@ -128,8 +138,25 @@ std::string quoted(std::string_view name) {
     return result + '"';
 }
 
+std::string storedTable(const std::string& table) {
+    constexpr std::string_view kReserved[] = {"sqlite_", "_vabo_"};
+    const std::string small = lower(table);
+    const bool reserved = std::any_of(std::begin(kReserved), std::end(kReserved),
+                                      [&](std::string_view start) { return small.starts_with(start); });
+    return reserved || table.find('.') != std::string::npos ? "_vabo_t:" + table : table;
+}
+
 std::string tableName(const std::string& schema, const std::string& table) {
-    return quoted(schema) + '.' + quoted(table);
+    return quoted(schema) + '.' + quoted(storedTable(table));
+}
+
+std::string rowidOf(const TableInfo& table) {
+    for (const char* name : {"rowid", "_rowid_"}) {
+        if (table.find(name) < 0) {
+            return name;
+        }
+    }
+    return "oid";
 }
 
 std::string alias(int source) {

@@ -43,11 +43,15 @@ void writeNode(Text& text, const bound::Join& join) {
     }
 }
 
+/// The storage takes a SELECT for aggregated by its items alone: where none of them aggregates, the first one seems to.
 void writeItems(Text& text, const bound::Core& core, bool compares) {
     int place = 0;
     for (const bound::ExpressionPtr& item : core.items) {
         text += place == 0 ? "" : ", ";
+        const bool hidden = core.hiddenAggregate && place == 0;
+        text += hidden ? "CASE count(*) WHEN -1 THEN NULL ELSE " : "";
         write(text, *item);
+        text += hidden ? " END" : "";
         if (compares && item->type.isText()) {
             text += " COLLATE TSQL";
         }
@@ -137,7 +141,8 @@ Text select(const bound::Select& select) {
 Text rowsOf(const bound::Select& select) {
     const bound::Core& core = select.cores.front();
     Text text;
-    writeCore(text, core, false, ", " + alias(std::get<bound::Table>(core.from.front()->node).number) + ".rowid");
+    const auto& table = std::get<bound::Table>(core.from.front()->node);
+    writeCore(text, core, false, ", " + alias(table.number) + "." + rowidOf(*table.info));
     writeOrder(text, select.orderBy);
     writeLimit(text, core);
     return text;

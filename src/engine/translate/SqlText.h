@@ -13,7 +13,12 @@ namespace engine::translate {
 
 /// A name in double quotes.
 std::string quoted(std::string_view name);
+/// The storage keeps some names for itself, and tables and indexes share its names: such tables are stored under
+/// another.
+std::string storedTable(const std::string& table);
 std::string tableName(const std::string& schema, const std::string& table);
+/// The storage's number of a row, under a name that no column of the table has.
+std::string rowidOf(const TableInfo& table);
 /// A table's alias in the text: `t3`.
 std::string alias(int source);
 

@@ -29,14 +29,15 @@ Text updateFrom(const bound::Update& update) {
     for (std::size_t i = 0; i < update.assignments.size(); ++i) {
         text += (i == 0 ? "" : ", ") + quoted(update.assignments[i].column->name) + " = found.v" + std::to_string(i);
     }
-    text += " FROM (SELECT " + targetAlias(update) + ".rowid AS row";
+    const std::string rowid = rowidOf(*update.table.info);
+    text += " FROM (SELECT " + targetAlias(update) + "." + rowid + " AS row";
     for (std::size_t i = 0; i < update.assignments.size(); ++i) {
         text += ", ";
         write(text, *update.assignments[i].value);
         text += " AS v" + std::to_string(i);
     }
     writeSources(text, update);
-    text += ") AS found WHERE target.rowid = found.row";
+    text += ") AS found WHERE target." + rowid + " = found.row";
     return text;
 }
 
@@ -59,7 +60,7 @@ Text update(const bound::Update& update) {
 }
 
 Text rowsOf(const bound::Update& update) {
-    Text text("SELECT " + targetAlias(update) + ".rowid");
+    Text text("SELECT " + targetAlias(update) + "." + rowidOf(*update.table.info));
     writeSources(text, update);
     return text;
 }

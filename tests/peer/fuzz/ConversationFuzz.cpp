@@ -2,7 +2,7 @@
 // and to the end. The first byte chooses what goes before (nothing, or a login of 7.1 or of 7.4), the second how the
 // rest is cut into pieces. An empty corpus folder is given real requests as its seeds.
 
-#include "engine/Instance.h"
+#include "engine/fuzz/FuzzInstance.h"
 #include "peer/Client.h"
 #include "peer/Wire.h"
 
@@ -11,67 +11,12 @@
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>
-#include <string_view>
-#include <unistd.h>
 
 namespace {
 
 namespace fs = std::filesystem;
 
 constexpr std::uint32_t kVersions[] = {0x71000001, 0x74000004};
-constexpr const char* kSchema =
-    "CREATE TABLE tipi (id int IDENTITY (1, 1) NOT NULL PRIMARY KEY, b bit, t tinyint, s smallint, g bigint, r real,"
-    " f float, d decimal(18, 2), q datetime, c char(5), v varchar(20), n nvarchar(20), m nvarchar(4000), x ntext)";
-constexpr const char* kRow =
-    "INSERT INTO tipi (b, t, s, g, r, f, d, q, c, v, n, m, x) VALUES (1, 2, 3, 4, 0.5, 2.5, -1.25, '20040307', 'abc',"
-    " 'perché', N'Città', N'lungo', N'più lungo')";
-
-/// An instance that the conversations share until it has seen many: a login of its own and one table of all types.
-class Instance {
-public:
-    std::shared_ptr<engine::Instance> get() {
-        if (instance_ && ++runs_ < kRunsOfOne)
-            return instance_;
-        remove();
-        runs_ = 0;
-        folder_ = fs::temp_directory_path() / ("peer-fuzz-" + std::to_string(getpid()));
-        fs::create_directories(folder_ / "drive");
-        instance_ =
-            engine::Instance::create(folder_ / "server", {[this](std::string_view path) { return onDrive(path); }});
-        instance_->addLogin("sa", "segreta");
-        instance_->createDatabase("prova", "", "");
-        const auto session = engine::Session::open(instance_, {"", "", "prova"});
-        for (const char* text : {kSchema, kRow, "INSERT INTO tipi (b) VALUES (NULL)", "CREATE TABLE molte (n int)",
-                                 "INSERT INTO molte VALUES (1)"})
-            session->execute(text)->nextResult();
-        for (int rows = 1; rows < kManyRows; rows *= 2)
-            session->execute("INSERT INTO molte SELECT n FROM molte")->nextResult();
-        return instance_;
-    }
-    ~Instance() { remove(); }
-
-private:
-    static constexpr int kRunsOfOne = 2000;
-    static constexpr int kManyRows = 256; ///< enough for the server to look whether it is asked to stop
-
-    /// No path of a client leads out of the folder.
-    fs::path onDrive(std::string_view path) const {
-        std::string name(path);
-        std::replace_if(
-            name.begin(), name.end(), [](char c) { return c == '/' || c == '\\' || c == '\0'; }, '_');
-        return folder_ / "drive" / ("f" + name);
-    }
-    void remove() {
-        instance_.reset();
-        std::error_code ignored;
-        if (!folder_.empty())
-            fs::remove_all(folder_, ignored);
-    }
-
-    fs::path folder_;
-    std::shared_ptr<engine::Instance> instance_;
-    int runs_ = 0;
-};
 
 /// Sends its bytes in pieces and looks at the packets that come back.
 class Wire : public peer::Channel {
@@ -205,7 +150,7 @@ extern "C" int LLVMFuzzerInitialize(int* argc, char*** argv) {
 }
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-    static Instance instance;
+    static engine::fuzz::FuzzInstance instance;
     if (size < 2)
         return 0;
     peer::Bytes sent;

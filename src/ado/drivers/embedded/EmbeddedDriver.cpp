@@ -2,7 +2,10 @@
 
 #include "ado/Drivers.h"
 #include "ado/ServerErrors.h"
+#include "engine/InternalErrors.h"
 #include "engine/Session.h"
+
+#include <QLoggingCategory>
 
 #include <array>
 #include <utility>
@@ -10,6 +13,9 @@
 namespace ado {
 
 namespace {
+
+// On by default: what comes here is a bug.
+Q_LOGGING_CATEGORY(engineLog, "vabo.engine", QtWarningMsg)
 
 using SessionPtr = std::shared_ptr<engine::Session>;
 
@@ -158,6 +164,10 @@ private:
 };
 
 } // namespace
+
+EmbeddedDriver::EmbeddedDriver() {
+    engine::onInternalError([](const char* what) { qCWarning(engineLog) << "internal error:" << what; });
+}
 
 std::shared_ptr<engine::Instance> EmbeddedDriver::instance(const std::filesystem::path& folder) {
     std::weak_ptr<engine::Instance>& known = instances_[folder];

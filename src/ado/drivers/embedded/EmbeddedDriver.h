@@ -12,6 +12,8 @@ namespace ado {
 /// The road to the embedded server. One instance object a folder, shared by all connections of the process.
 class EmbeddedDriver : public Driver {
 public:
+    EmbeddedDriver();
+
     const char* name() const override { return "embedded"; }
     std::unique_ptr<DriverConnection> connect(const ConnectionString& text) override;
 

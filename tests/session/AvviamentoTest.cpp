@@ -134,9 +134,12 @@ TEST_F(Avviamento, TheServerIsLeftWithItsMemoryAndWithoutAdvancedOptions) {
 
 TEST_F(Avviamento, TheDataFileAndTheTemporaryDatabaseAreReady) {
     PrendiAziendaDelTerminale();
+    DbTemp.Close();
+    RsCondivisi(4).Open("select * from Sede", DbAzienda);
     PreparaServer();
-    EXPECT_NE(IndirizzoMdf, "");
+    EXPECT_EQ(IndirizzoMdf, controlValue("select IndirizzoMdf from link_programma where dbname = 'VaBoDatiAurora'"));
     EXPECT_TRUE(DbTemp.IsOpen());
+    EXPECT_FALSE(RsCondivisi(4).IsOpen());
 }
 
 TEST_F(Avviamento, WithoutServersTheServersPreparationIsSilent) {

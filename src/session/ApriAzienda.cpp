@@ -258,9 +258,9 @@ void ApriAzienda(double& id) {
     tempo.start();
     if (!NumeroDiPartenza(id))
         return;
-    std::set<double> provati = {id};
+    std::set<double> provati;
     for (Esito esito = Passata(id); esito != Esito::Aperta; esito = Passata(id)) {
-        provati.insert(IdAziendaLavoro); // the terminal's row may have led to another one
+        provati.insert(IdAziendaLavoro); // the one looked up: the terminal's row may have led away from `id`
         RipiegaSullaPrima(id, provati);
         provati.insert(id);
         if (esito == Esito::SenzaRiga)

@@ -20,6 +20,8 @@ constexpr const char* kClearTerminal =
     "update link_programmaTerminale set ultimo = 0 where   nometerminale = 'POSTO_7'";
 constexpr const char* kDeleteBlank =
     "delete from link_programmaTerminale where nometerminale = N'' or nometerminale is null";
+constexpr const char* kLastOfTerminal =
+    "Select * from link_programmaterminale where not nometerminale = N'' and   nometerminale = 'POSTO_7'";
 constexpr const char* kFirstDatabase =
     "SELECT * FROM master.dbo.sysdatabases where name like 'vabodati%' and not name like '%azienda%'";
 
@@ -44,10 +46,7 @@ TEST_F(ApriAziendaTerminale, ATerminalAndAServerWithoutACompanySendTheirStatemen
                      "Select * from link_programmaTerminale where   Nometerminale like 'POSTO_7'",
                      "Select * from link_programma  order by dbname  ",
                      // which it was the last time
-                     kDeleteBlank,
-                     "Select * from link_programmaterminale where not nometerminale = N'' and   nometerminale = "
-                     "'POSTO_7'",
-                     kFirstDatabase, "Select * from link_programma where  dbname=''",
+                     kDeleteBlank, kLastOfTerminal, kFirstDatabase, "Select * from link_programma where  dbname=''",
                      "Select * from link_programma  where   id = 0", kDeleteBlank,
                      // the number from the terminal's row
                      "delete from link_programmaTerminale where nometerminale is null", kReadTerminal,

@@ -142,6 +142,17 @@ TEST_F(Avviamento, TheDataFileAndTheTemporaryDatabaseAreReady) {
     EXPECT_FALSE(RsCondivisi(4).IsOpen());
 }
 
+TEST_F(Avviamento, TheTemporaryDatabaseIsMadeBehindTheOptionsAndTheDataFile) {
+    NomeDatabase = kCompany;
+    DbAzienda.Open(server + "DATABase=VaBoDatiAurora");
+    const support::StatementRecorder recorder;
+    PreparaServer();
+    ASSERT_GT(recorder.texts().size(), 2U);
+    EXPECT_TRUE(recorder.texts()[0].starts_with("EXEC sys.sp_configure N'show advanced options', N'1'"));
+    EXPECT_EQ(recorder.texts()[1], "Select * from link_programma where dbname like 'VaBoDatiAurora'");
+    EXPECT_EQ(recorder.texts()[2], "sp_configure 'query timeout',0 RECONFIGURE");
+}
+
 TEST_F(Avviamento, WithoutServersTheServersPreparationIsSilent) {
     removeFile("C:\\vabo\\IndirizzoServer.txt");
     workstation.putFile("C:\\vabo\\Leggi_ServerLocal.txt", "Server=127.0.0.1,9;\r\n");

@@ -99,6 +99,10 @@ TEST_F(AvvioForm, SendsItsStatementsLetterForLetter) {
     const std::string exists = "SELECT name FROM master.dbo.sysdatabases WHERE name = N'VaBoDatiAurora'";
     const std::string makeLanguage = "Create table LinguaClient (id int null, Lingua Nvarchar(2) Null )";
     const std::string readLanguage = "select * from LinguaClient where id = 1";
+    const std::string options = "EXEC sys.sp_configure N'show advanced options', N'1'  RECONFIGURE WITH OVERRIDE\r\n"
+                                " EXEC sys.sp_configure N'min memory per query (KB)', N'10240'\r\n"
+                                " RECONFIGURE WITH OVERRIDE \r\n"
+                                " EXEC sys.sp_configure N'show advanced options', N'0'  RECONFIGURE WITH OVERRIDE";
     const std::vector<std::string> takingUp = {
         "delete from link_programmaTerminale where Nometerminale = N'' or Nometerminale is null",
         "Select * from link_programmaTerminale where   Nometerminale like 'POSTO_7'",
@@ -113,17 +117,13 @@ TEST_F(AvvioForm, SendsItsStatementsLetterForLetter) {
         exists,
         "delete from link_programmaTerminale where nometerminale = N'' or nometerminale is null",
         "Select * from Sede"};
-    const std::vector<std::string> preparation = {
-        makeLanguage,
-        readLanguage,
-        "EXEC sys.sp_configure N'show advanced options', N'1'  RECONFIGURE WITH OVERRIDE\r\n"
-        " EXEC sys.sp_configure N'min memory per query (KB)', N'10240'\r\n"
-        " RECONFIGURE WITH OVERRIDE \r\n"
-        " EXEC sys.sp_configure N'show advanced options', N'0'  RECONFIGURE WITH OVERRIDE",
-        "Select * from link_programma where dbname like 'VaBoDatiAurora'",
-        makeLanguage,
-        readLanguage,
-        "select * from [AbilitazioneAccessi]"};
+    const std::vector<std::string> preparation = {makeLanguage,
+                                                  readLanguage,
+                                                  options,
+                                                  "Select * from link_programma where dbname like 'VaBoDatiAurora'",
+                                                  makeLanguage,
+                                                  readLanguage,
+                                                  "select * from [AbilitazioneAccessi]"};
     ASSERT_EQ(idOf(kCompany), 1);
     const support::StatementRecorder recorder;
     gui.forms().show("Avvio");

@@ -7,6 +7,7 @@
 #include "ado/Recordset.h"
 #include "app/Program.h"
 #include "controls/DataCombo.h"
+#include "kit/ErrorHandling.h"
 #include "session/TreatForms.h"
 #include "session/variabili.h"
 
@@ -36,7 +37,10 @@ public:
     }
     ~Console() {
         program_.reset();
-        vabo::AzzeraVariabili();
+        vabo::ChiudiRecordset();
+        for (ado::Connection* connection : {&vabo::DbAzienda, &vabo::DbControllo, &vabo::DbTemp})
+            if (connection->IsOpen())
+                connection->Close();
     }
     Console(const Console&) = delete;
     Console& operator=(const Console&) = delete;

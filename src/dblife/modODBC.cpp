@@ -5,6 +5,8 @@
 
 #include <QString>
 
+#include <algorithm>
+
 namespace vabo {
 
 namespace {
@@ -23,6 +25,13 @@ std::string NomeTagliato(const std::string& nome) {
     return QString::fromStdString(nome).left(kLunghezzaNome).toStdString();
 }
 
+/// The attributes are divided by control characters: a value that holds one would bring keys of its own.
+std::string Valore(std::string testo) {
+    const auto controllo = [](char c) { return static_cast<unsigned char>(c) < ' ' || c == '\x7f'; };
+    std::ranges::replace_if(testo, controllo, ' ');
+    return testo;
+}
+
 std::string Chiuso(const std::string& attributo) {
     return attributo + '\0';
 }
@@ -33,11 +42,12 @@ std::string Chiuso(const std::string& attributo) {
 std::int32_t RegistraOdbc(std::int16_t richiesta, std::int32_t tipo, const std::string& NomeDsn,
                           const std::string& Database, const std::string& Descrizione, const std::string& Server,
                           const std::string& /*Utente*/, const std::string& /*Password*/) {
-    const std::string nome = NomeTagliato(NomeDsn);
-    const std::string perOdbc = Chiuso("DSN=" + nome) + Chiuso("Description=" + Descrizione) +
-                                Chiuso("SERVER=" + Server) + Chiuso("DBQ=" + Database);
-    const std::string perDao =
-        "Description=" + Descrizione + "\rOemToAnsi=No\rSERVER=" + Server + "\rDatabase=" + Database;
+    const std::string nome = Valore(NomeTagliato(NomeDsn));
+    const std::string descrizione = "Description=" + Valore(Descrizione);
+    const std::string server = "SERVER=" + Valore(Server);
+    const std::string database = Valore(Database);
+    const std::string perOdbc = Chiuso("DSN=" + nome) + Chiuso(descrizione) + Chiuso(server) + Chiuso("DBQ=" + database);
+    const std::string perDao = descrizione + "\rOemToAnsi=No\r" + server + "\rDatabase=" + database;
     if (!riesce([&] { platform::dataSources().registerDatabase(nome, kDriverSqlServer, true, perDao); }))
         return 0;
     return platform::dataSources().configure(richiesta, Driver(tipo), perOdbc);

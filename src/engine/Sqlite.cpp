@@ -66,6 +66,17 @@ void makeFileOfOwner(const std::filesystem::path& file) {
     }
 }
 
+/// A database in use has its log beside it and is never empty. The change to the write-ahead log would wait in vain for
+/// those who use what was there before.
+bool wasEmptied(const std::filesystem::path& file) {
+    std::error_code missing;
+    const auto beside = [&](const char* ending) {
+        std::filesystem::path part = file;
+        return std::filesystem::exists(part += ending, missing);
+    };
+    return std::filesystem::file_size(file, missing) == 0 && (beside("-wal") || beside("-shm"));
+}
+
 /// The change to the write-ahead log needs the file for itself for an instant, and the busy timeout doesn't cover it
 /// when two processes make the same database.
 void useWriteAheadLog(sqlite3* handle) {
@@ -98,6 +109,9 @@ void configure(sqlite3* handle) {
 Connection::Connection(const std::filesystem::path& file, bool create) {
     if (create) {
         makeFileOfOwner(file);
+    }
+    if (wasEmptied(file)) {
+        throw Failure(SQLITE_NOTADB, sqlite3_errstr(SQLITE_NOTADB));
     }
     const int flags = SQLITE_OPEN_READWRITE | SQLITE_OPEN_NOMUTEX;
     const int code = sqlite3_open_v2(file.string().c_str(), &handle_, flags, nullptr);

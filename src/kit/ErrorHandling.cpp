@@ -14,10 +14,9 @@ void AggiornaRecord(ado::Recordset& rs) {
 std::string ChiudiRecordset() {
     for (int posto = 1; posto <= RecordsetCondivisi::kNumero; ++posto)
         RsCondivisi.Rilascia(posto);
-    if (DbLocale) {
+    if (DbLocale && DbLocale->IsOpen())
         salta([] { DbLocale->Close(); });
-        DbLocale.reset();
-    }
+    DbLocale.reset();
     return {};
 }
 

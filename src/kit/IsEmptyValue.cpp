@@ -25,14 +25,6 @@ bool Contiene(const std::array<std::string_view, N>& elenco, std::string_view te
     return std::find(elenco.begin(), elenco.end(), testo) != elenco.end();
 }
 
-// A date value without a day, 30 December 1899, is written as its time alone.
-std::string TestoData(const ado::Date& data) {
-    static const ado::Date giornoZero = ado::Date::of(1899, 12, 30);
-    if (data == giornoZero)
-        return "00:00:00";
-    return ado::formatDate(data);
-}
-
 struct Prova {
     bool operator()(std::monostate) const { return true; }
     bool operator()(ado::Null) const { return true; }
@@ -40,7 +32,7 @@ struct Prova {
     bool operator()(ado::Currency valore) const { return valore.tenThousandths == 0; }
     bool operator()(const ado::Decimal& valore) const { return valore.unscaled == 0; }
     bool operator()(const ado::Date& valore) const {
-        const std::string testo = TestoData(valore);
+        const std::string testo = ado::formatDate(valore);
         return Contiene(kDateVuote, testo) || DataDiZeri(testo);
     }
     bool operator()(const std::string& valore) const { return IsEmptyValue(valore); }

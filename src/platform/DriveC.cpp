@@ -108,11 +108,16 @@ std::error_code lastError() {
     return {errno, std::generic_category()};
 }
 
-/// Up to the first line break or the end of the file; nothing when there is no byte at all.
+/// Up to the first line break or the end of the file; nothing when there is no byte at all. What goes on behind the
+/// most that a line can hold is garbage, which stays unread however much it is.
 std::optional<std::string> readLine(std::istream& file) {
-    std::string line;
-    if (!std::getline(file, line) && line.empty())
+    constexpr std::size_t kLongestLine = 65'536;
+    std::string line(kLongestLine, '\0');
+    file.read(line.data(), static_cast<std::streamsize>(line.size()));
+    line.resize(static_cast<std::size_t>(file.gcount()));
+    if (line.empty())
         return std::nullopt;
+    line.resize(std::min(line.find('\n'), line.size()));
     if (!line.empty() && line.back() == '\r')
         line.pop_back();
     return line;

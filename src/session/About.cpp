@@ -109,7 +109,7 @@ void About::ControllaPassword() {
     const std::string prima = ui_->txtPassword1->Text();
     if (!IsEmptyValue(ripetuta) && !IsEmptyValue(prima)) {
         if (ripetuta == prima) {
-            EntraConPrimaPassword(IdUtenteNuovo, ui_->txtUserName->Text(), ripetuta);
+            EntraConPrimaPassword(IdUtenteNuovo, NomeUtenteNuovo, ripetuta);
             Entra();
             return;
         }
@@ -124,6 +124,7 @@ void About::ControllaPassword() {
         ContaFallimento();
         break;
     case EsitoLogin::PrimaPassword:
+        NomeUtenteNuovo = utente;
         ChiediPrimaPassword();
         break;
     case EsitoLogin::Disabilitato:

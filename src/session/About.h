@@ -39,7 +39,8 @@ private:
     void Entra();
 
     std::unique_ptr<Ui::About> ui_;
-    double IdUtenteNuovo = 0; ///< who is setting a first password
+    double IdUtenteNuovo = 0; ///< who is setting a first password, whoever stands in the field meanwhile
+    std::string NomeUtenteNuovo;
 };
 
 } // namespace vabo

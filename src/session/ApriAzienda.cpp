@@ -18,6 +18,8 @@
 #include <QElapsedTimer>
 #include <QLoggingCategory>
 
+#include <set>
+
 // Failing statements are skipped throughout, and a failing test counts as true.
 
 namespace vabo {
@@ -228,7 +230,7 @@ Esito Passata(double& id) {
                            " id = " + ado::plainNumber(IdAziendaLavoro),
                        DbControllo);
     });
-    if (vera([&] { return rs.EOF(); })) {
+    if (!vera([&] { return !rs.EOF(); })) {
         salta([&] { rs.Close(); });
         return Esito::SenzaRiga;
     }
@@ -238,9 +240,11 @@ Esito Passata(double& id) {
     return AziendaConDatabase(rs);
 }
 
-/// The one search on the server: it runs anew for each use of its answer.
-void RipiegaSullaPrima(double& id) {
-    if (IsEmptyValue(PrimaAziendaSuServer()))
+/// The one search on the server: it runs anew for each use of its answer. It finds the same company each time, so a
+/// number that was tried is the end.
+void RipiegaSullaPrima(double& id, const std::set<double>& provati) {
+    const double prima = PrimaAziendaSuServer();
+    if (IsEmptyValue(prima) || provati.contains(prima))
         FineConMessaggio("Non è possibile caricare il DataBase");
     IdAzienda = PrimaAziendaSuServer();
     IdAziendaLavoro = PrimaAziendaSuServer();
@@ -254,8 +258,11 @@ void ApriAzienda(double& id) {
     tempo.start();
     if (!NumeroDiPartenza(id))
         return;
+    std::set<double> provati;
     for (Esito esito = Passata(id); esito != Esito::Aperta; esito = Passata(id)) {
-        RipiegaSullaPrima(id);
+        provati.insert(IdAziendaLavoro); // the one looked up: the terminal's row may have led away from `id`
+        RipiegaSullaPrima(id, provati);
+        provati.insert(id);
         if (esito == Esito::SenzaRiga)
             salta([] { DbControllo.Close(); });
     }

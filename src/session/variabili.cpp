@@ -29,40 +29,9 @@ ado::Recordset& RecordsetCondivisi::operator()(int posto) {
 
 void RecordsetCondivisi::Rilascia(int posto) {
     std::unique_ptr<ado::Recordset>& rs = elenco_.at(static_cast<std::size_t>(posto - 1));
-    if (rs) {
+    if (rs && rs->IsOpen())
         salta([&] { rs->Close(); });
-        rs.reset();
-    }
-}
-
-void AzzeraVariabili() {
-    for (int posto = 1; posto <= RecordsetCondivisi::kNumero; ++posto)
-        RsCondivisi.Rilascia(posto);
-    DbLocale.reset();
-    for (ado::Connection* connessione : {&DbAzienda, &DbControllo, &DbTemp}) {
-        if (connessione->IsOpen())
-            connessione->Close();
-        connessione->setConnectionString("");
-    }
-    for (std::string* testo : {&StringaAzienda,    &StringaAziendaCopia,
-                               &StringaLocale,     &StringaTemp,
-                               &NomeTerminale,     &NomeServer,
-                               &NomeAzienda,       &NomeDatabase,
-                               &UtenteDb,          &PasswordDb,
-                               &NomeDsn,           &IndirizzoMdf,
-                               &IndirizzoVabodati, &IndirizzoVabodatiCopia,
-                               &CartellaFile,      &PercorsoFileLocale,
-                               &FileLocale,        &LinguaCorrente,
-                               &NomeUtenteLogin,   &Sql,
-                               &SqlLavoro,         &Appoggio})
-        testo->clear();
-    for (double* numero :
-         {&IdAzienda, &IdAziendaLavoro, &IdAziendaScelta, &IdSede, &IdSedeCopia, &TentativiLogin, &CimaForm})
-        *numero = 0;
-    ClienteDornavel = kFalso;
-    ServerMancante = kFalso;
-    DirittiUtente = {};
-    PilaForm.clear();
+    rs.reset();
 }
 
 } // namespace vabo

@@ -67,7 +67,4 @@ extern Diritti DirittiUtente;
 extern std::vector<std::string> PilaForm;
 extern double CimaForm;
 
-/// Everything as at the start of the process.
-void AzzeraVariabili();
-
 } // namespace vabo

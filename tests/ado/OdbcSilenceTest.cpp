@@ -4,6 +4,7 @@
 #include "ado/ExpectError.h"
 #include "ado/TestServer.h"
 #include "support/OneEvent.h"
+#include "support/SilentResolver.h"
 #include "support/SilentServer.h"
 
 namespace ado {
@@ -70,6 +71,24 @@ TEST_F(OdbcSilence, ARefusalIsNoSilenceAndTheNextLoginTriesAgain) {
         EXPECT_TRUE(errorOf([&] { connection.Open(textOfTheOther()); }));
         server.peer().restart();
         EXPECT_FALSE(errorOf([&] { connection.Open(textOfTheOther()); }));
+    });
+}
+
+// The driver asks for the port of a named instance sixteen times, one second each, whatever a login may take.
+TEST_F(OdbcSilence, AnInstanceWhosePortNobodyTellsIsWaitedForOnce) {
+    const support::SilentResolver resolver;
+    const auto tellsOutOfReach = [&] {
+        Connection connection;
+        const auto error = errorOf([&] {
+            connection.Open("Driver=SQL Server;Server=" + resolver.address() + "\\sqlexpress" + kRest);
+        });
+        return error && error->description() == "Server does not exist or access denied.";
+    };
+    inOneEvent([&] {
+        EXPECT_TRUE(tellsOutOfReach());
+        EXPECT_GT(resolver.questions(), 0);
+        EXPECT_TRUE(tellsOutOfReach());
+        EXPECT_EQ(resolver.questions(), 0);
     });
 }
 

@@ -56,6 +56,17 @@ TEST_F(ModOdbc, OfANameThirtyCharactersCount) {
     }
 }
 
+TEST_F(ModOdbc, NoValueBringsAKeyOfItsOwn) {
+    const std::string zero(1, '\0');
+    RegistraOdbc(kAggiungi, kTipoSqlServer, "Tlv_\rserver", "Va\rBo" + zero + "DBQ=x",
+                 "Dati Onlus\rDatabase=master\nUID=sa" + zero + "DSN=altra;PWD=x", "10.0.0.7\r\x7fUID=sa", "", "");
+    EXPECT_EQ(registry.calls(),
+              (Texts{"register Tlv_ server, SQL Server: Description=Dati Onlus Database=master UID=sa "
+                     "DSN=altra;PWD=x|OemToAnsi=No|SERVER=10.0.0.7  UID=sa|Database=Va Bo DBQ=x",
+                     "configure 1, SQL Server: DSN=Tlv_ server~Description=Dati Onlus Database=master UID=sa "
+                     "DSN=altra;PWD=x~SERVER=10.0.0.7  UID=sa~DBQ=Va Bo DBQ=x~"}));
+}
+
 TEST_F(ModOdbc, AFailedRegistrationIsZeroAndNothingIsConfigured) {
     registry.refusesRegistration = true;
     EXPECT_EQ(enter(kAggiungi, kTipoSqlServer), 0);

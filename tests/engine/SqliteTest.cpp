@@ -6,6 +6,7 @@
 #include <sqlite3.h>
 
 #include <filesystem>
+#include <fstream>
 #include <string>
 
 namespace engine::sqlite {
@@ -41,6 +42,25 @@ TEST_F(Storage, IsDurableAndBelongsToItsOwner) {
 TEST_F(Storage, DoesNotMakeAMissingFileUnasked) {
     EXPECT_THROW(Connection(file, false), Failure);
     EXPECT_FALSE(fs::exists(file));
+}
+
+TEST_F(Storage, AFileEmptiedWhileItIsInUseIsNoDatabaseAndNobodyWaitsForIt) {
+    Connection connection(file, true);
+    connection.run("CREATE TABLE t (a)");
+    fs::resize_file(file, 0);
+    try {
+        const Connection other(file, false);
+        FAIL() << "it was opened";
+    } catch (const Failure& failure) {
+        EXPECT_EQ(failure.code(), SQLITE_NOTADB);
+    }
+}
+
+TEST_F(Storage, AnEmptyFileIsADatabaseThatNobodyHasOpenedYet) {
+    std::ofstream(file, std::ios::binary).flush();
+    Connection connection(file, false);
+    connection.run("CREATE TABLE t (a)");
+    EXPECT_EQ(answer(connection, "PRAGMA journal_mode"), "wal");
 }
 
 TEST_F(Storage, TellsExtendedCodesOfFailures) {

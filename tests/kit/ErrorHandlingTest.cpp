@@ -4,7 +4,9 @@
 #include "ado/Error.h"
 #include "kit/ApriScrivibile.h"
 #include "session/variabili.h"
+#include "support/AzzeraVariabili.h"
 #include "support/DialogScript.h"
+#include "support/LogLines.h"
 #include "support/TestWorkstation.h"
 
 #include <gtest/gtest.h>
@@ -70,6 +72,28 @@ TEST_F(ErrorHandling, ChiudiRecordsetDropsAPendingEdit) {
     ChiudiRecordset();
     EXPECT_FALSE(RsCondivisi(5).IsOpen());
     EXPECT_EQ(workstation.value(support::kCompany, "select [città] from Sede"), "Torino");
+}
+
+TEST_F(ErrorHandling, WhatIsClosedAlreadyIsReleasedWithoutALineInTheLog) {
+    RsCondivisi(2).Open("select * from Sede", DbAzienda);
+    RsCondivisi(2).Close();
+    static_cast<void>(RsCondivisi(3));
+    DbLocale = std::make_unique<ado::Connection>();
+    const support::LogLines log;
+    QLoggingCategory::setFilterRules("vabo.skipped=true");
+    ChiudiRecordset();
+    EXPECT_EQ(support::LogLines::lines(), std::vector<std::string>{});
+    EXPECT_EQ(DbLocale, nullptr);
+}
+
+TEST_F(ErrorHandling, AReleaseThatFailsIsTold) {
+    ApriScrivibile(RsCondivisi(5), "select * from Sede", DbAzienda);
+    RsCondivisi(5)["città"] = "Asti";
+    const support::LogLines log;
+    QLoggingCategory::setFilterRules("vabo.skipped=true");
+    ChiudiRecordset();
+    EXPECT_EQ(support::LogLines::lines(),
+              std::vector<std::string>{"vabo.skipped: Operation is not allowed in this context. (3219)"});
 }
 
 TEST_F(ErrorHandling, TwiceInARowAndWithNothingOpenIsNoError) {

@@ -93,6 +93,17 @@ TEST_F(LinguaClient, WithoutALocalInstanceTheAnswerIsItalian) {
     EXPECT_EQ(LeggiLinguaClient("FR"), "IT");
 }
 
+TEST_F(LinguaClient, EachCallReachesTheTemporaryDatabaseAnew) {
+    LeggiLinguaClient("EN");
+    const std::string local = workstation.driveC().firstLine("C:\\vabo\\Leggi_ServerLocal.txt");
+    DbTemp.Close();
+    DbTemp.Open(local + "DATABase=vabodatiazienda");
+    EXPECT_EQ(LeggiLinguaClient(""), "EN");
+    EXPECT_EQ(DbTemp.ConnectionString(), local + "DATABase=VaBoDatiTemp");
+    EXPECT_EQ(workstation.value(support::kControlDatabase, "select count(*) from sysobjects where name = 'LinguaClient'"),
+              "0");
+}
+
 TEST_F(LinguaClient, LeavesTheTemporaryDatabaseOpenAndNoRecordset) {
     LeggiLinguaClient("");
     EXPECT_TRUE(DbTemp.IsOpen());

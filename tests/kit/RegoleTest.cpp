@@ -4,6 +4,7 @@
 #include "platform/DriveC.h"
 #include "support/DialogScript.h"
 #include "support/EndOfProcess.h"
+#include "support/LogLines.h"
 
 #include <QLoggingCategory>
 #include <QString>
@@ -16,6 +17,7 @@
 
 namespace {
 
+using support::LogLines;
 using vabo::oFine;
 using vabo::riesce;
 using vabo::salta;
@@ -24,29 +26,6 @@ using vabo::vera;
 void fails() {
     throw ado::Error(ado::kObjectClosed);
 }
-
-/// What the program's logging categories say while it lives.
-class LogLines {
-public:
-    LogLines() : before_(qInstallMessageHandler(&LogLines::take)) { lines().clear(); }
-    LogLines(const LogLines&) = delete;
-    LogLines& operator=(const LogLines&) = delete;
-    ~LogLines() {
-        qInstallMessageHandler(before_);
-        QLoggingCategory::setFilterRules({});
-    }
-
-    static std::vector<std::string>& lines() {
-        static std::vector<std::string> all;
-        return all;
-    }
-
-private:
-    static void take(QtMsgType /*type*/, const QMessageLogContext& context, const QString& text) {
-        lines().push_back(std::string(context.category) + ": " + text.toStdString());
-    }
-    QtMessageHandler before_;
-};
 
 TEST(Regole, AFailingStatementIsSkippedAndTheNextOneRuns) {
     int ran = 0;

@@ -93,10 +93,23 @@ TEST_F(DriveCFiles, TheFirstLineEndsAtEitherLineBreak) {
     }
 }
 
-TEST_F(DriveCFiles, AHugeFirstLineIsReadWhole) {
-    const std::string line(5'000'000, 'x');
+TEST_F(DriveCFiles, ALineOf64KilobytesIsReadWhole) {
+    const std::string line(65'536, 'x');
     put("vabo/x.txt", line + "\r\nsecond");
     EXPECT_EQ(drive_.firstLine("C:\\vabo\\x.txt"), line);
+}
+
+TEST_F(DriveCFiles, OfALongerFirstLineTheRestIsGarbageThatNobodyReads) {
+    put("vabo/x.txt", "");
+    fs::resize_file(root() / "vabo/x.txt", 200'000'000);
+    EXPECT_EQ(drive_.firstLine("C:\\vabo\\x.txt"), std::string(65'536, '\0'));
+    put("vabo/x.txt", std::string(65'536, 'x') + "yz\r\n");
+    EXPECT_EQ(drive_.firstLine("C:\\vabo\\x.txt"), std::string(65'536, 'x'));
+}
+
+TEST_F(DriveCFiles, ACharacterCutAtTheEndOf64KilobytesIsReadAsBroken) {
+    put("vabo/x.txt", std::string(65'535, 'x') + "è\r\n");
+    EXPECT_EQ(drive_.firstLine("C:\\vabo\\x.txt"), std::string(65'535, 'x') + "\xEF\xBF\xBD");
 }
 
 TEST_F(DriveCFiles, GarbageIsReadAsSomething) {
@@ -200,7 +213,8 @@ TEST_F(DriveCFiles, AKilledWriterLeavesTheOldLineOrTheNewOne) {
         support::HelperProcess writer("line_writer", {root().string(), "C:\\vabo\\line.txt"});
         ASSERT_EQ(writer.readLine(), "running");
         writer.kill();
-        const std::string line = drive_.firstLine("C:\\vabo\\line.txt");
-        EXPECT_TRUE(line == std::string(200'000, 'a') || line == std::string(300'000, 'b')) << line.size();
+        const std::string line = bytes("vabo/line.txt");
+        EXPECT_TRUE(line == std::string(200'000, 'a') + "\r\n" || line == std::string(300'000, 'b') + "\r\n")
+            << line.size();
     }
 }

@@ -263,6 +263,7 @@ TEST_F(AboutForm, AFirstPasswordOfZerosIsNone) {
     enter("00");
     script.expectMessage("Please enter your personal Password, max length. 12 char");
     enter("00");
+    EXPECT_EQ(gui.text("About", "PswLabels_0"), "Password :");
     EXPECT_EQ(passwordOf("nuovo_utente"), "NULL");
     EXPECT_TRUE(gui.isVisible("About"));
 }

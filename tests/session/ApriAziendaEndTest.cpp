@@ -98,7 +98,24 @@ TEST_F(ApriAziendaEnd, ACompanyWithoutADatabaseCannotLoadWhereThereIsNoFallback)
     expectEnd(id, kCannotLoad);
 }
 
-TEST_F(ApriAziendaEnd, WithoutTheControlDatabaseNothingCanBeReadAndTheStateStays) {
+TEST_F(ApriAziendaEnd, WithoutTheControlDatabaseTheCompanyBeforeStaysOpenWithoutAWord) {
+    double id = idOf(kCompany);
+    ApriAzienda(id);
+    id = idOf(kOtherCompany);
+    const double chosen = id;
+    breakDatabase(support::kControlDatabase, "no database");
+    ApriAzienda(id);
+    EXPECT_EQ(id, chosen);
+    EXPECT_EQ(IdAzienda, chosen);
+    EXPECT_EQ(IdAziendaLavoro, chosen);
+    EXPECT_EQ(NomeDatabase, kCompany);
+    EXPECT_EQ(NomeAzienda, "Associazione Aurora");
+    EXPECT_EQ(DbAzienda.ConnectionString(), server + "DATABase=VaBoDatiAurora");
+    EXPECT_NO_THROW(DbAzienda.Execute("update Sede set idsede = idsede"));
+    EXPECT_FALSE(DbControllo.IsOpen());
+}
+
+TEST_F(ApriAziendaEnd, WithoutTheControlDatabaseAndACompanyBeforeNothingCanBeLoaded) {
     const double id = idOf(kOtherCompany);
     drop(support::kControlDatabase);
     NomeDatabase = "prima";

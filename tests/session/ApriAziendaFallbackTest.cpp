@@ -4,9 +4,6 @@
 #include "session/ApriDbSede.h"
 #include "session/SessionFixture.h"
 
-#include <functional>
-#include <utility>
-
 namespace {
 
 using namespace vabo;
@@ -96,39 +93,6 @@ TEST_F(ApriAziendaFallback, TheGlobalNumberItselfMayGiveWay) {
     drop(kCompany);
     ApriAzienda(IdAziendaLavoro);
     expectOtherCompany(IdAziendaLavoro);
-}
-
-/// Hears every statement ahead of the server, as somebody does who works on the same tables meanwhile.
-class SomebodyElse {
-public:
-    explicit SomebodyElse(std::function<void(const std::string&)> hears) {
-        ado::setStatementRecorder(std::move(hears));
-    }
-    SomebodyElse(const SomebodyElse&) = delete;
-    SomebodyElse& operator=(const SomebodyElse&) = delete;
-    ~SomebodyElse() { ado::setStatementRecorder({}); }
-};
-
-TEST_F(ApriAziendaFallback, ATerminalWithoutANumberGetsNoRowBeforeACompanyIsFound) {
-    control("delete from link_programma");
-    setTerminal("POSTO_7", 0);
-    std::vector<std::string> inserts;
-    bool meanwhile = false;
-    // While the choice is recorded the terminal's row goes and the first company comes.
-    const SomebodyElse somebody([&](const std::string& text) {
-        if (text.starts_with("INSERT") && text.find("link_programmaTerminale") != std::string::npos)
-            inserts.push_back(text);
-        if (meanwhile || !text.starts_with("update link_programmaTerminale"))
-            return;
-        meanwhile = true;
-        control("delete from link_programmaTerminale");
-        control("insert into link_programma (NomeAzienda, dbname) values ('Aurora', 'VaBoDatiAurora')");
-    });
-    double id = 0;
-    ApriAzienda(id);
-    EXPECT_EQ(id, idOf(kCompany));
-    EXPECT_EQ(inserts.size(), 1U) << "of the pass that had a number";
-    EXPECT_EQ(terminals(), (Rows{{"POSTO_7", textOf(id)}}));
 }
 
 TEST_F(ApriAziendaFallback, TheColumnsOfTheCompanyThatGaveWayStandWhereTheNextHasNone) {

@@ -134,9 +134,23 @@ TEST_F(Avviamento, TheServerIsLeftWithItsMemoryAndWithoutAdvancedOptions) {
 
 TEST_F(Avviamento, TheDataFileAndTheTemporaryDatabaseAreReady) {
     PrendiAziendaDelTerminale();
+    DbTemp.Close();
+    RsCondivisi(4).Open("select * from Sede", DbAzienda);
     PreparaServer();
-    EXPECT_NE(IndirizzoMdf, "");
+    EXPECT_EQ(IndirizzoMdf, controlValue("select IndirizzoMdf from link_programma where dbname = 'VaBoDatiAurora'"));
     EXPECT_TRUE(DbTemp.IsOpen());
+    EXPECT_FALSE(RsCondivisi(4).IsOpen());
+}
+
+TEST_F(Avviamento, TheTemporaryDatabaseIsMadeBehindTheOptionsAndTheDataFile) {
+    NomeDatabase = kCompany;
+    DbAzienda.Open(server + "DATABase=VaBoDatiAurora");
+    const support::StatementRecorder recorder;
+    PreparaServer();
+    ASSERT_GT(recorder.texts().size(), 2U);
+    EXPECT_TRUE(recorder.texts()[0].starts_with("EXEC sys.sp_configure N'show advanced options', N'1'"));
+    EXPECT_EQ(recorder.texts()[1], "Select * from link_programma where dbname like 'VaBoDatiAurora'");
+    EXPECT_EQ(recorder.texts()[2], "sp_configure 'query timeout',0 RECONFIGURE");
 }
 
 TEST_F(Avviamento, WithoutServersTheServersPreparationIsSilent) {

@@ -78,6 +78,28 @@ TEST_F(AvvioAziendaForm, ShowsTheTerminalsCompany) {
     EXPECT_EQ(NomeDatabase, kOtherCompany);
 }
 
+TEST_F(AvvioAziendaForm, AChoiceThatGaveWayBecomesTheTerminals) {
+    IdAziendaScelta = 42;
+    show();
+    EXPECT_EQ(IdAziendaScelta, idOf(kCompany));
+    EXPECT_EQ(list().Text(), companyName(kCompany));
+}
+
+TEST_F(AvvioAziendaForm, WithoutANumberOfTheTerminalItShowsTheCompanyByItsName) {
+    // A name that counts as none: no company is taken up, and its row leads to none.
+    NomeTerminale = "0";
+    setTerminal("0", 0);
+    noCompanyDatabases();
+    DbControllo.Open(server + "DATABase=vabodatiazienda");
+    DbControllo.Close();
+    NomeAzienda = companyName(kOtherCompany);
+    IdAziendaScelta = 7;
+    script.expectMessage("Caricare il nome del PC!");
+    show();
+    EXPECT_EQ(list().Text(), companyName(kOtherCompany));
+    EXPECT_EQ(IdAziendaScelta, 7) << "nothing took its place";
+}
+
 TEST_F(AvvioAziendaForm, IsTheBottomOfTheStack) {
     PilaForm = {"Avvio_Azienda", "Login"};
     CimaForm = 1;
@@ -164,6 +186,47 @@ TEST_F(AvvioAziendaForm, ACompanyWithoutALocalFileIsOpenedInSilence) {
     pick(kOtherCompany);
     EXPECT_EQ(NomeDatabase, kOtherCompany);
 }
+
+TEST_F(AvvioAziendaForm, ThePickedCompanysLocalFileIsOpened) {
+    show();
+    EXPECT_EQ(DbLocale, nullptr);
+    pick(kOtherCompany);
+    ASSERT_NE(DbLocale, nullptr);
+    EXPECT_EQ(DbLocale->ConnectionString(),
+              "Provider=Microsoft.Jet.OLEDB.4.0;Data Source=C:\\Vabo\\Files\\tlv_locale_ponte.mdb;");
+}
+
+TEST_F(AvvioAziendaForm, ACompanyWithoutADatabaseIsPickedWithTheTextThatStandsForNone) {
+    show();
+    control("insert into link_programma (NomeAzienda, tlv_sql) values ('Senza archivio', 'senza.mdb')");
+    gui.forms().unload("Avvio_Azienda");
+    show();
+    gui.pick("Avvio_Azienda", "DataCombo1", "Senza archivio");
+    EXPECT_EQ(StringaAzienda, "Provider=SQLOLEDB;Data Source=" + workstation.serverName() +
+                                  ";Integrated Security=SSPIDATABase=vabodati");
+    EXPECT_EQ(StringaAziendaCopia, StringaAzienda) << "the taking up leaves it with the company before";
+    EXPECT_EQ(NomeDatabase, kCompany);
+    EXPECT_EQ(gui.text("Avvio_Azienda", "aziendaAperta"), "Senza archivio");
+}
+
+class BrokenControlDatabase : public AvvioAziendaForm, public testing::WithParamInterface<const char*> {};
+
+TEST_P(BrokenControlDatabase, LetsAPickLeaveTheOpenCompanyOpenWithoutAWord) {
+    show();
+    const std::string name = companyName(kOtherCompany);
+    const std::string open = companyName(kCompany);
+    breakDatabase(support::kControlDatabase, GetParam());
+    gui.pick("Avvio_Azienda", "DataCombo1", name);
+    EXPECT_EQ(gui.visibleForms(), "Avvio_Azienda");
+    EXPECT_EQ(NomeDatabase, kCompany);
+    EXPECT_EQ(gui.text("Avvio_Azienda", "aziendaAperta"), open);
+    ASSERT_TRUE(DbAzienda.IsOpen());
+    EXPECT_NO_THROW(DbAzienda.Execute("update Sede set idsede = idsede"));
+    EXPECT_EQ(end.ended(), 0);
+}
+
+INSTANTIATE_TEST_SUITE_P(Of, BrokenControlDatabase, testing::Values("no database", ""),
+                         [](const auto& test) { return std::string(*test.param == '\0' ? "Nothing" : "Garbage"); });
 
 TEST_F(AvvioAziendaForm, ACompanyWhoseRowHasGoneGivesWayToTheFirst) {
     show();

@@ -1,5 +1,6 @@
 #include "ado/Connection.h"
 #include "controls/ProgressBar.h"
+#include "kit/LinguaClient.h"
 #include "rights/AbilitazioneUtente.h"
 #include "session/FormFixture.h"
 #include "support/HeardBoxes.h"
@@ -86,6 +87,66 @@ TEST_F(AvvioForm, SetsTheServersOptionsThenReadsTheTemporaryDatabaseThenTheUsers
     const auto users = recorder.holding("AbilitazioneAccessi");
     ASSERT_FALSE(users.empty());
     EXPECT_TRUE(recorder.sentInOrder({options[0], users[0]}));
+}
+
+TEST_F(AvvioForm, SendsItsStatementsLetterForLetter) {
+    setTerminal(support::kTerminalName, idOf(kCompany));
+    NomeTerminale = support::kTerminalName;
+    LeggiLinguaClient(""); // makes the temporary database
+    AzzeraVariabili();
+    const std::string clearOwn = "update link_programmaTerminale set ultimo = 0 where   nometerminale = 'POSTO_7'";
+    const std::string setOwn = "update link_programmaTerminale set ultimo = 1 where   nometerminale = 'POSTO_7'";
+    const std::string exists = "SELECT name FROM master.dbo.sysdatabases WHERE name = N'VaBoDatiAurora'";
+    const std::string makeLanguage = "Create table LinguaClient (id int null, Lingua Nvarchar(2) Null )";
+    const std::string readLanguage = "select * from LinguaClient where id = 1";
+    const std::string options = "EXEC sys.sp_configure N'show advanced options', N'1'  RECONFIGURE WITH OVERRIDE\r\n"
+                                " EXEC sys.sp_configure N'min memory per query (KB)', N'10240'\r\n"
+                                " RECONFIGURE WITH OVERRIDE \r\n"
+                                " EXEC sys.sp_configure N'show advanced options', N'0'  RECONFIGURE WITH OVERRIDE";
+    const std::vector<std::string> takingUp = {
+        "delete from link_programmaTerminale where Nometerminale = N'' or Nometerminale is null",
+        "Select * from link_programmaTerminale where   Nometerminale like 'POSTO_7'",
+        clearOwn,
+        setOwn,
+        "Select * from link_programmaTerminale where   Nometerminale = 'POSTO_7'",
+        "Select * from link_programma  where   id = 1",
+        makeLanguage,
+        readLanguage,
+        setOwn,
+        exists,
+        exists,
+        "delete from link_programmaTerminale where nometerminale = N'' or nometerminale is null",
+        "Select * from Sede"};
+    const std::vector<std::string> preparation = {makeLanguage,
+                                                  readLanguage,
+                                                  options,
+                                                  "Select * from link_programma where dbname like 'VaBoDatiAurora'",
+                                                  makeLanguage,
+                                                  readLanguage,
+                                                  "select * from [AbilitazioneAccessi]"};
+    ASSERT_EQ(idOf(kCompany), 1);
+    const support::StatementRecorder recorder;
+    gui.forms().show("Avvio");
+    // The start takes the company up and prepares the server; the login takes the company up again.
+    std::vector<std::string> expected = takingUp;
+    expected.insert(expected.end(), preparation.begin(), preparation.end());
+    expected.insert(expected.end(), takingUp.begin(), takingUp.end());
+    expected.emplace_back("select * from [AbilitazioneAccessi]");
+    EXPECT_EQ(recorder.texts(), expected);
+}
+
+TEST_F(AvvioForm, ASecondActivateRunsTheWholeListAgainAndHidesTheForm) {
+    gui.forms().show("Avvio");
+    support::Gui::handleEvents();
+    gui.forms().hide("About");
+    const support::StatementRecorder recorder;
+    gui.forms().show("Avvio");
+    support::Gui::handleEvents();
+    EXPECT_EQ(recorder.holding("min memory per query").size(), 1U);
+    EXPECT_EQ(recorder.count("select * from LinguaClient where id = 1"), 2);
+    EXPECT_TRUE(recorder.holding("Nometerminale").empty()) << "the Load doesn't run again";
+    EXPECT_EQ(gui.visibleForms(), "About");
+    EXPECT_TRUE(gui.forms().isLoaded("Avvio"));
 }
 
 TEST_F(AvvioForm, TheWordDornavelCountsInSmallLettersOnly) {

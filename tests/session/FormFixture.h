@@ -2,6 +2,7 @@
 
 #include "app/Forms.h"
 #include "session/SessionFixture.h"
+#include "support/AzzeraVariabili.h"
 #include "support/Gui.h"
 
 #include <string>

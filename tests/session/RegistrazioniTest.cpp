@@ -97,6 +97,19 @@ TEST_F(Registrazioni, ThatFailLeaveTheCompanyTakenUp) {
     EXPECT_EQ(registry.calls().size(), 6U) << "each is tried";
 }
 
+TEST_F(Registrazioni, TakeNoKeyFromACompanysName) {
+    control("update link_programma set NomeAzienda = 'Onlus\rDatabase=master;UID=sa\rPWD=x\nPort=9' "
+            "where dbname = 'VaBoDatiAurora'");
+    open(kCompany);
+    const auto bytes = workstation.fileText("C:\\odbc.ini");
+    ASSERT_TRUE(bytes.has_value());
+    EXPECT_THAT(*bytes, testing::HasSubstr("\nDescription=Dati Onlus Database=master;UID=sa PWD=x Port=9\n"));
+    for (const char* line : {"\nDatabase=VaBoDatiAurora\n", "\nDatabase=VaBoDatiTemp\n"})
+        EXPECT_THAT(*bytes, testing::HasSubstr(line));
+    for (const char* line : {"\nDatabase=master", "\nUID=", "\nPWD=", "\nPort="})
+        EXPECT_THAT(*bytes, testing::Not(testing::HasSubstr(line)));
+}
+
 TEST_F(Registrazioni, StandInTheUsersFile) {
     open(kCompany);
     open(kOtherCompany);

@@ -217,6 +217,15 @@ TEST_F(RegoleLogin, TheLoginTakesUpTheTerminalsCompanyWithTheRightsOfNobody) {
     EXPECT_EQ(NomeDatabase, "VaBoDatiPonte");
 }
 
+TEST_F(RegoleLogin, TheLoginForgetsTheChoiceOfTheRunAndTakesTheTerminals) {
+    IdAziendaScelta = idOf(kCompany);
+    IdAziendaLavoro = 0;
+    control("update link_programmaTerminale set ultimo = " + textOf(idOf(support::kOtherCompany)));
+    PreparaLogin();
+    EXPECT_EQ(IdAziendaScelta, idOf(support::kOtherCompany));
+    EXPECT_EQ(NomeDatabase, support::kOtherCompany);
+}
+
 TEST_F(RegoleLogin, AMissingLocalPointerFileIsWrittenUnderTheInstancesName) {
     removeFile("C:\\vabo\\IndirizzoServerLocal.txt");
     PreparaLogin();

@@ -8,6 +8,8 @@
 
 #include <gtest/gtest.h>
 
+#include <filesystem>
+#include <fstream>
 #include <string>
 #include <vector>
 
@@ -37,6 +39,15 @@ protected:
     }
     void drop(const std::string& database) const { workstation.run("master", "DROP DATABASE [" + database + "]"); }
     void create(const std::string& database) const { workstation.run("master", "CREATE DATABASE [" + database + "]"); }
+    /// The server knows the database still, its file is none any more.
+    void breakDatabase(const std::string& database, const std::string& bytes) const {
+        const std::string file =
+            workstation.value("master", "select filename from master.dbo.sysdatabases where name = '" + database + "'");
+        // A file without a folder of its own stands where the server placed it.
+        const std::filesystem::path place = file.starts_with('/') ? file : workstation.driveC().real(file).string();
+        ASSERT_TRUE(std::filesystem::is_regular_file(place)) << file;
+        std::ofstream(place, std::ios::binary) << bytes;
+    }
     void noCompanyDatabases() const {
         drop(support::kCompany);
         drop(support::kOtherCompany);

@@ -1,6 +1,7 @@
 #include "session/TreatForms.h"
 
 #include "session/variabili.h"
+#include "support/AzzeraVariabili.h"
 #include "support/DialogScript.h"
 #include "support/RecordedForms.h"
 

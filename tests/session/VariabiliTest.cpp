@@ -1,6 +1,7 @@
 #include "session/variabili.h"
 
 #include "session/SessionFixture.h"
+#include "support/AzzeraVariabili.h"
 
 #include <gtest/gtest.h>
 

@@ -2,7 +2,7 @@
 
 #include "ado/Drivers.h"
 #include "engine/Instance.h"
-#include "session/variabili.h"
+#include "support/AzzeraVariabili.h"
 #include "support/Environment.h"
 #include "support/Road.h"
 

@@ -8,6 +8,8 @@
 #include "ado/drivers/odbc/OdbcSources.h"
 #include "ado/drivers/odbc/SilentServers.h"
 
+#include <QElapsedTimer>
+
 #include <algorithm>
 #include <charconv>
 
@@ -62,8 +64,14 @@ Error notReached(const Error& error, const ConnectionString& text) {
     return outOfReach(error);
 }
 
+/// Whoever pressed a button has waited by then: drivers take their time for more than a silent server, an instance
+/// whose port nobody tells among it.
+constexpr qint64 kWaitMilliseconds = 1000;
+
 void connect(const Handle& connection, const ConnectionString& text, const std::string& driver) {
     std::u16string wide = toUtf16(driverText(text, driver));
+    QElapsedTimer waited;
+    waited.start();
     try {
         check(SQLDriverConnectW(connection.get(), nullptr, reinterpret_cast<SQLWCHAR*>(wide.data()),
                                 static_cast<SQLSMALLINT>(wide.size()), nullptr, 0, nullptr, SQL_DRIVER_NOPROMPT),
@@ -71,6 +79,8 @@ void connect(const Handle& connection, const ConnectionString& text, const std::
     } catch (const Error& error) {
         if (!isOutOfReach(error))
             throw;
+        if (waited.elapsed() >= kWaitMilliseconds)
+            rememberSilent(placeOf(text), error);
         throw notReached(error, text);
     }
 }

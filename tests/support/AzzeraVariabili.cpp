@@ -1,0 +1,37 @@
+#include "support/AzzeraVariabili.h"
+
+#include "session/variabili.h"
+
+namespace vabo {
+
+void AzzeraVariabili() {
+    for (int posto = 1; posto <= RecordsetCondivisi::kNumero; ++posto)
+        RsCondivisi.Rilascia(posto);
+    DbLocale.reset();
+    for (ado::Connection* connessione : {&DbAzienda, &DbControllo, &DbTemp}) {
+        if (connessione->IsOpen())
+            connessione->Close();
+        connessione->setConnectionString("");
+    }
+    for (std::string* testo : {&StringaAzienda,    &StringaAziendaCopia,
+                               &StringaLocale,     &StringaTemp,
+                               &NomeTerminale,     &NomeServer,
+                               &NomeAzienda,       &NomeDatabase,
+                               &UtenteDb,          &PasswordDb,
+                               &NomeDsn,           &IndirizzoMdf,
+                               &IndirizzoVabodati, &IndirizzoVabodatiCopia,
+                               &CartellaFile,      &PercorsoFileLocale,
+                               &FileLocale,        &LinguaCorrente,
+                               &NomeUtenteLogin,   &Sql,
+                               &SqlLavoro,         &Appoggio})
+        testo->clear();
+    for (double* numero :
+         {&IdAzienda, &IdAziendaLavoro, &IdAziendaScelta, &IdSede, &IdSedeCopia, &TentativiLogin, &CimaForm})
+        *numero = 0;
+    ClienteDornavel = kFalso;
+    ServerMancante = kFalso;
+    DirittiUtente = {};
+    PilaForm.clear();
+}
+
+} // namespace vabo

@@ -89,6 +89,9 @@ void Avvio_Morlan::CollegaConti() {
     chain(std::move(tasti));
     FermataDelTab(*ui_->DCBItems3, false);
     FermataDelTab(*ui_->DCBitems4, false);
+    // Seen only while a row is being changed.
+    ui_->Frame6->hide();
+    ui_->Frame2->hide();
 
     ui_->DataGrid2->setDataSource(ui_->tabella_conti_utili);
     ui_->DataGrid4->setDataSource(ui_->tipo_anagrafica);

@@ -4,6 +4,7 @@
 #include "kit/ApriScrivibile.h"
 #include "kit/IsEmptyValue.h"
 #include "kit/Regole.h"
+#include "kit/Uguale.h"
 #include "session/variabili.h"
 
 namespace vabo {
@@ -37,8 +38,8 @@ bool ContoEconomico(double idConto) {
     });
     if (vera([&] { return !rs.EOF(); }) && vera([&] { return !IsEmptyValue(rs["Idmastro"].Value()); })) {
         salta([&] {
-            const double mastro = ado::toDouble(rs["Idmastro"]);
-            economico = mastro == 1 || mastro == 4;
+            const ado::Value mastro = rs["Idmastro"];
+            economico = Uguale(mastro, 1) || Uguale(mastro, 4);
         });
     }
     salta([&] { rs.Close(); });

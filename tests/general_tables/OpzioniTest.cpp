@@ -132,9 +132,15 @@ TEST_F(OpzioniTest, ARowHeldByAnotherConsoleIsRefusedAndNotWaitedFor) {
 }
 
 TEST_F(OpzioniTest, TheBadgeCountsOnlyAsExactlyOne) {
-    for (const auto& [lunghezza, usa] : {std::pair{"1", true}, {"-1", false}, {"0", false}, {"2", false}}) {
+    const std::pair<const char*, bool> casi[] = {
+        {"1", true}, {"-1", false}, {"0", false}, {"2", false}, {"null", false}};
+    for (const auto& [lunghezza, usa] : casi) {
         esegui(std::string("update TabellaUilityConti set Lunghezza = ") + lunghezza + " where id = 9");
+        const auto prima = posto.rows(support::kCompany, "select * from TabellaUilityConti");
+        const support::StatementRecorder recorder;
         EXPECT_EQ(UsaBadge(), usa) << lunghezza;
+        EXPECT_EQ(recorder.texts(), std::vector<std::string>{"select * from TabellaUilityConti where id = 9"});
+        EXPECT_EQ(posto.rows(support::kCompany, "select * from TabellaUilityConti"), prima);
     }
 }
 

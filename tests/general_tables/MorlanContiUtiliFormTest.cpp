@@ -1,5 +1,5 @@
 #include "MorlanFixture.h"
-#include "general_tables/TabelleConti.h"
+#include "general_tables/TestiAttesi.h"
 
 namespace vabo {
 namespace {
@@ -45,8 +45,8 @@ TEST_F(MorlanContiUtili, APickStoresTheAccountWithItsGroupAndStandsOneRowBelow) 
     prendi("DCBItem1", voce("1052"));
     EXPECT_EQ(conto(4), (Riga{"1052", "19"}));
     EXPECT_EQ(recorder.count("Select * from tabellacontiutili where id = 4"), 1);
-    EXPECT_EQ(recorder.count(TestoContiUtili()), 1) << "the grid is read again";
-    EXPECT_EQ(recorder.count(ElencoContiUtili()), 0) << "the list isn't";
+    EXPECT_EQ(recorder.count(kTestoContiUtili), 1) << "the grid is read again";
+    EXPECT_EQ(recorder.count(kElencoContiUtili), 0) << "the list isn't";
     EXPECT_FALSE(visibile("Frame6"));
     EXPECT_EQ(combo("DCBItem1").Text(), "Seleziona");
     EXPECT_TRUE(gui.find("Avvio_Morlan", "Command8").isEnabled());

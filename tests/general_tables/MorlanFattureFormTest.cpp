@@ -1,5 +1,5 @@
 #include "MorlanFixture.h"
-#include "general_tables/TabelleConti.h"
+#include "general_tables/TestiAttesi.h"
 
 namespace vabo {
 namespace {
@@ -38,7 +38,7 @@ TEST_F(MorlanFatture, APickSendsAccountProjectAndGroup) {
     prendi("DCBItems3", voce("1077"));
     EXPECT_TRUE(recorder.sentInOrder({"update ivaTabellaContiUtili set idconto=1077 where id=3",
                                       "update ivaTabellaContiUtili set idProgetto = 10000001  where id=3",
-                                      "update ivaTabellaContiUtili set idconto1=25 where id=3", TestoContiIva()}));
+                                      "update ivaTabellaContiUtili set idconto1=25 where id=3", kTestoContiIva}));
     EXPECT_EQ(fattura(3), (Riga{"1077", "25", "10000001"}));
     EXPECT_EQ(combo("DCBItems3").Text(), "Seleziona");
     EXPECT_FALSE(fermata("DCBItems3"));
@@ -64,17 +64,38 @@ TEST_F(MorlanFatture, DeleteAndEnterTakeTheAccountAway) {
     EXPECT_EQ(fattura(3), (Riga{"0", "0", "10000001"}));
 }
 
-TEST_F(MorlanFatture, ARowWithoutAccountLeavesThePickerAndTheAccountAsTheyWere) {
+TEST_F(MorlanFatture, ARowWithoutAccountShowsNoneAndStoresNoneWhereNoneWasChosen) {
     scegli("DataGrid11", "10");
     EXPECT_EQ(combo("DCBItems3").Text(), "Seleziona");
+    EXPECT_EQ(fuoco(), "DCBItems3");
+    EXPECT_TRUE(fermata("DCBItems3"));
     gui.press(Qt::Key_Return);
     EXPECT_EQ(fattura(10), (Riga{"0", "0", "10000001"}));
+}
+
+TEST_F(MorlanFatture, ARowWithoutAccountLeavesThePickerAndTheAccountAsTheyWere) {
+    scegli("DataGrid11", "3");
+    scegli("DataGrid11", "10");
+    EXPECT_EQ(combo("DCBItems3").Text(), nome("1086"));
+    gui.press(Qt::Key_Return);
+    EXPECT_EQ(fattura(10), (Riga{"1086", "26", "10000001"}));
+    EXPECT_EQ(fattura(3), (Riga{"1086", "26", "10000001"}));
+}
+
+TEST_F(MorlanFatture, ARowWhoseAccountHasAnEmptyNameIsOneWithoutAccount) {
+    esegui("update conti set NomeConto = '' where IdConto = 1086");
+    riapri();
+    scheda(4);
+    scegli("DataGrid11", "3");
+    EXPECT_EQ(combo("DCBItems3").Text(), "Seleziona");
+    gui.press(Qt::Key_Return);
+    EXPECT_EQ(fattura(3), (Riga{"0", "0", "10000001"}));
 }
 
 TEST_F(MorlanFatture, WithoutARowAPickSendsNothingAndReadsTheGridAgain) {
     const support::StatementRecorder recorder;
     prendi("DCBItems3", voce("1077"));
-    EXPECT_EQ(recorder.texts(), std::vector<std::string>{TestoContiIva()});
+    EXPECT_EQ(recorder.texts(), std::vector<std::string>{kTestoContiIva});
     EXPECT_EQ(combo("DCBItems3").Text(), "Seleziona");
 }
 
@@ -104,6 +125,22 @@ TEST_F(MorlanFatture, WithAnEmptyGridADoubleClickTellsTheError) {
     QTest::mouseDClick(griglia("DataGrid11").viewport(), Qt::LeftButton, {}, {20, 20});
 }
 
+TEST_F(MorlanFatture, WithAnEmptyGridOfThePayrollADoubleClickTellsTheErrorBehindTheRight) {
+    esegui("delete from bustetabellacontiutili");
+    riapri();
+    scheda(5);
+    const auto doppioClick = [this] {
+        QTest::mouseDClick(griglia("DataGridPersonale").viewport(), Qt::LeftButton, {}, {20, 20});
+    };
+    script.expectMessage(ado::Error(ado::kNoCurrentRecord).description());
+    doppioClick();
+    EXPECT_TRUE(script.allShown());
+    EXPECT_FALSE(fermata("DCBitems4"));
+    DirittiUtente.A_Personale = kFalso;
+    script.expectMessage("Utente non abilitato!\nContattare l'amministratore di sistema");
+    doppioClick();
+}
+
 TEST_F(MorlanFatture, ThePayrollAsksForItsRight) {
     DirittiUtente.A_Personale = kFalso;
     scheda(5);
@@ -125,7 +162,7 @@ TEST_F(MorlanFatture, APickOfThePayrollStoresAndLeavesTheGridAsItWas) {
     prendi("DCBitems4", voce("1052"));
     EXPECT_EQ(busta(3), (Riga{"1052", "19"}));
     EXPECT_EQ(recorder.count("Select * from BusteTabellaContiUtili  where id = 3"), 1);
-    EXPECT_EQ(recorder.count(TestoContiPersonale()), 0);
+    EXPECT_EQ(recorder.count(kTestoContiPersonale), 0);
     EXPECT_EQ(cella("DataGridPersonale", 2, 2), prima);
     EXPECT_EQ(rigaCorrente("DataGridPersonale"), "3");
     EXPECT_EQ(combo("DCBitems4").Text(), "Seleziona");
@@ -173,7 +210,7 @@ TEST_F(MorlanFatture, ANullGroupPassesInSilenceInThePayroll) {
 }
 
 TEST_F(MorlanFatture, TheListOfInvoicesHoldsDebtsAndCreditsAlone) {
-    const auto offerti = posto.rows(support::kCompany, ElencoContiFatture());
+    const auto offerti = posto.rows(support::kCompany, kElencoContiFatture);
     ASSERT_EQ(combo("DCBItems3").count(), static_cast<int>(offerti.size()));
     for (std::size_t i = 0; i < offerti.size(); ++i)
         EXPECT_EQ(combo("DCBItems3").itemText(static_cast<int>(i)).toStdString(), offerti[i][1]);

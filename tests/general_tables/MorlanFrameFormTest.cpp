@@ -1,7 +1,7 @@
 #include "MorlanFixture.h"
 #include "controls/RecordedForm.h"
 #include "general_tables/Avvio_Morlan.h"
-#include "general_tables/TabelleConti.h"
+#include "general_tables/TestiAttesi.h"
 #include "platform/Automation.h"
 
 #include <QComboBox>
@@ -119,9 +119,9 @@ TEST_F(MorlanFrame, TheEditFramesShowOnlyWhileARowIsChanged) {
 TEST_F(MorlanFrame, TheListsAndGridsAreReadOnceInTheirOrder) {
     const support::StatementRecorder recorder;
     apri();
-    const std::vector<std::string> testi = {ElencoContiUtili(),   ElencoAltriConti(),    ElencoContiPersonale(),
-                                            ElencoContiFatture(), TestoContiPersonale(), TestoAltriConti(0),
-                                            TestoContiUtili(),    TestoContiIva()};
+    const std::vector<std::string> testi = {kElencoContiUtili,   kElencoAltriConti,    kElencoContiPersonale,
+                                            kElencoContiFatture, kTestoContiPersonale, kTestiAltriConti[0],
+                                            kTestoContiUtili,    kTestoContiIva};
     EXPECT_TRUE(recorder.sentInOrder(testi));
     for (const std::string& testo : testi)
         EXPECT_EQ(recorder.count(testo), 1) << testo;

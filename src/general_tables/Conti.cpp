@@ -36,7 +36,7 @@ bool ContoEconomico(double idConto) {
     salta([&] {
         ApriScrivibile(rs, "select idmastro from conti where idconto = " + ado::plainNumber(idConto), DbAzienda);
     });
-    if (vera([&] { return !rs.EOF(); }) && vera([&] { return !IsEmptyValue(rs["Idmastro"].Value()); })) {
+    if (vera([&] { return !rs.EOF(); })) {
         salta([&] {
             const ado::Value mastro = rs["Idmastro"];
             economico = Uguale(mastro, 1) || Uguale(mastro, 4);

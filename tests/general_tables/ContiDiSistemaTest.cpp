@@ -6,6 +6,7 @@
 #include "general_tables/TabelleConti.h"
 #include "general_tables/TestiAttesi.h"
 
+#include <functional>
 #include <set>
 
 namespace vabo {
@@ -130,9 +131,28 @@ TEST_F(ContiDiSistemaTest, TheFourTablesOfTheSecondTabHaveTheirStatements) {
 
 TEST_F(ContiDiSistemaTest, ARowThatIsNotThereStopsTheSecondTabAndIsSilentOnTheOthers) {
     EXPECT_THROW(SalvaAltroConto(0, 999, 1051), ado::Error);
-    RsCondivisi.Rilascia(4);
     EXPECT_NO_THROW(SalvaContoUtile(999, 1051));
     EXPECT_NO_THROW(SalvaContoPersonale(999, 1051));
+}
+
+TEST_F(ContiDiSistemaTest, AStoreClosesEverySharedRecordset) {
+    const std::function<void()> salvataggi[] = {[] { SalvaContoUtile(3, 1051); }, [] { SalvaAltroConto(0, 2, 1051); },
+                                                [] { SalvaContoPersonale(3, 1051); }};
+    for (const auto& salva : salvataggi) {
+        RsCondivisi(2).Open("select * from datiGenerali", DbAzienda);
+        salva();
+        EXPECT_FALSE(RsCondivisi(2).IsOpen());
+        EXPECT_FALSE(RsCaselle().IsOpen());
+    }
+}
+
+TEST_F(ContiDiSistemaTest, AStoreThatFailsGivesItsRecordsetBack) {
+    esegui("update conti set IdGruppoVabo = null where IdConto = 1051");
+    EXPECT_THROW(SalvaAltroConto(0, 2, 1051), ado::Error);
+    EXPECT_FALSE(RsCaselle().IsOpen());
+    EXPECT_EQ(riga("select idconto, idconto1 from tipoanagrafica where IdTipoAnagrafica = 2"), (Riga{"1076", "25"}));
+    SalvaAltroConto(0, 2, 1052);
+    EXPECT_EQ(riga("select idconto, idconto1 from tipoanagrafica where IdTipoAnagrafica = 2"), (Riga{"1052", "19"}));
 }
 
 TEST_F(ContiDiSistemaTest, ANullGroupLeavesTheOldOneWhereErrorsAreSkipped) {

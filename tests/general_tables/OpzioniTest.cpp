@@ -4,6 +4,8 @@
 #include "general_tables/AziendaAperta.h"
 #include "general_tables/RecordsetConsole.h"
 
+#include <stdexcept>
+
 namespace vabo {
 namespace {
 
@@ -101,6 +103,45 @@ TEST_F(OpzioniTest, TheBudgetBoxTakesOverTheRecordsetOfTheLoad) {
     SalvaOpzione(OpzioneDi("Check7"), true);
     EXPECT_EQ(valore("select Lunghezza from TabellaUilityConti where id = 5"), "-1");
     EXPECT_FALSE(RsOpzioni().IsOpen());
+}
+
+TEST_F(OpzioniTest, TheBudgetBoxWritesFirstWhatTheLoadHasBegun) {
+    esegui("delete from TabellaUilityConti where id = 5");
+    RsOpzioni().Open("select * from TabellaUilityConti where id = 5", DbAzienda, ado::CursorType::Keyset,
+                     ado::LockType::Pessimistic);
+    RsOpzioni().AddNew();
+    RsOpzioni()["id"] = 5;
+    SalvaOpzione(OpzioneDi("Check7"), true);
+    EXPECT_EQ(posto.rows(support::kCompany, "select Lunghezza, Descrizione from TabellaUilityConti where id = 5"),
+              (std::vector<Riga>{{"-1", "NULL"}}));
+}
+
+TEST_F(OpzioniTest, TheBudgetBoxClosesEverySharedRecordset) {
+    RsCondivisi(2).Open("select * from datiGenerali", DbAzienda);
+    SalvaOpzione(OpzioneDi("Check7"), false);
+    EXPECT_FALSE(RsCondivisi(2).IsOpen());
+}
+
+TEST_F(OpzioniTest, OnlyTheNumberedRowsOfDatiGeneraliGoThroughASharedRecordset) {
+    for (const CasoOpzione& caso : kCasi) {
+        SCOPED_TRACE(caso.casella);
+        const Opzione& opzione = OpzioneDi(caso.casella);
+        const bool condiviso = std::string(caso.testo).starts_with("select * from datiGenerali where id");
+        SalvaOpzione(opzione, false);
+        RsCaselle().Open("select * from datiGenerali where id = 1", DbAzienda);
+        if (condiviso && std::string(caso.casella) != "Check5") {
+            EXPECT_THROW(SalvaOpzione(opzione, true), ado::Error) << "it is open";
+        } else {
+            SalvaOpzione(opzione, true);
+        }
+        EXPECT_EQ(salvato(opzione), condiviso ? "0" : caso.spuntata);
+        EXPECT_FALSE(RsCaselle().IsOpen());
+    }
+}
+
+TEST_F(OpzioniTest, NoOptionStandsBehindAnUnknownBox) {
+    EXPECT_THROW(OpzioneDi("Check8"), std::logic_error);
+    EXPECT_THROW(OpzioneDi(""), std::logic_error);
 }
 
 TEST_F(OpzioniTest, ABoxOfANumberedRowWritesWhileTheLoadReads) {

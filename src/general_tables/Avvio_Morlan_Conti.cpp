@@ -36,9 +36,13 @@ const TabellaAltriConti& AltriConti(int tabella) {
     return kAltriConti.at(static_cast<std::size_t>(tabella));
 }
 
-/// Whether a grid's field holds a name to show.
+/// Whether a grid's field holds a name to show, one greater than zero: a number counts as a number, any other text is
+/// greater, and a null isn't.
 bool ConNome(const ado::Value& valore) {
-    return !valore.isNull() && !ado::toText(valore).empty();
+    if (valore.isNull()) {
+        return false;
+    }
+    return ado::isNumeric(valore) ? ado::toDouble(valore) > 0 : !ado::toText(valore).empty();
 }
 
 /// A form that takes no input while it lives.

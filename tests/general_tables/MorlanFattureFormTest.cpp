@@ -82,14 +82,23 @@ TEST_F(MorlanFatture, ARowWithoutAccountLeavesThePickerAndTheAccountAsTheyWere) 
     EXPECT_EQ(fattura(3), (Riga{"1086", "26", "10000001"}));
 }
 
-TEST_F(MorlanFatture, ARowWhoseAccountHasAnEmptyNameIsOneWithoutAccount) {
-    esegui("update conti set NomeConto = '' where IdConto = 1086");
-    riapri();
-    scheda(4);
-    scegli("DataGrid11", "3");
-    EXPECT_EQ(combo("DCBItems3").Text(), "Seleziona");
-    gui.press(Qt::Key_Return);
-    EXPECT_EQ(fattura(3), (Riga{"0", "0", "10000001"}));
+TEST_F(MorlanFatture, OnlyANameGreaterThanZeroIsOne) {
+    const std::pair<const char*, bool> casi[] = {{"", false},   {"0", false}, {"0,00", false},
+                                                 {"-5", false}, {"7", true},  {"-5 voci", true}};
+    for (const auto& [chiamato, mostrato] : casi) {
+        SCOPED_TRACE(chiamato);
+        esegui(std::string("update conti set NomeConto = '") + chiamato + "' where IdConto in (1080, 1086)");
+        esegui("update ivaTabellaContiUtili set idconto = 1086 where ID = 3");
+        riapri();
+        scheda(4);
+        scegli("DataGrid11", "3");
+        EXPECT_EQ(combo("DCBItems3").Text(), mostrato ? chiamato : "Seleziona");
+        gui.press(Qt::Key_Return);
+        EXPECT_EQ(fattura(3), (mostrato ? Riga{"1086", "26", "10000001"} : Riga{"0", "0", "10000001"}));
+        scheda(5);
+        scegli("DataGridPersonale", "3");
+        EXPECT_EQ(combo("DCBitems4").Text(), mostrato ? chiamato : "Seleziona");
+    }
 }
 
 TEST_F(MorlanFatture, WithoutARowAPickSendsNothingAndReadsTheGridAgain) {

@@ -109,7 +109,6 @@ void Avvio_Morlan::CollegaConti() {
     on(ui_->DataGrid11, &controls::DataGrid::DblClick, [this] { ScegliContoFattura(); });
     on(ui_->DataGridPersonale, &controls::DataGrid::DblClick, [this] { ScegliContoPersonale(); });
     on(ui_->Command8, &QPushButton::clicked, [this] { SalvaUtile(); });
-    on(ui_->Command14, &QPushButton::clicked, [this] { SalvaAltro(); });
     on(ui_->Command18, &QPushButton::clicked, [this] { GiraTabella(); });
 }
 
@@ -236,7 +235,6 @@ void Avvio_Morlan::SalvaAltro() {
     if (IsEmptyValue(IdRiga)) {
         return;
     }
-    ui_->Command14->setEnabled(false);
     ui_->Controllo->setText(std::to_string(TabellaCorrente));
     SalvaAltroConto(TabellaCorrente, IdRiga, IdContoAltri);
     controls::DataControl& dati = *ui_->tipo_anagrafica;

@@ -70,6 +70,12 @@ TEST_F(MorlanAltriConti, ARowWithoutAccountShowsNoneAndKeepsTheOneBefore) {
     EXPECT_EQ(conto("tipoanagrafica", "IdTipoAnagrafica", 9), (Riga{"1076", "25"}));
 }
 
+TEST_F(MorlanAltriConti, WithoutARowNothingIsStored) {
+    const support::StatementRecorder recorder;
+    QTest::keyClick(&combo("DCBitem2"), Qt::Key_Return);
+    EXPECT_TRUE(recorder.texts().empty());
+}
+
 struct Caso {
     int tabella;
     const char* nome;

@@ -114,6 +114,19 @@ TEST_F(MorlanFatture, TheRowIsForgottenAfterItsStore) {
     prendi("DCBItems3", voce("1075"));
     EXPECT_EQ(fattura(3), (Riga{"1077", "25", "10000001"}));
     EXPECT_EQ(fattura(4), (Riga{"1075", "25", "10000001"}));
+    scegli("DataGrid11", "10");
+    gui.press(Qt::Key_Return);
+    EXPECT_EQ(fattura(10), (Riga{"0", "0", "10000001"})) << "and so is the account";
+}
+
+TEST_F(MorlanFatture, WhileAStoreRunsTheFormTakesNoInput) {
+    scegli("DataGrid11", "3");
+    bool accesa = true;
+    ado::setStatementRecorder([&](const std::string& /*testo*/) { accesa = gui.form("Avvio_Morlan").isEnabled(); });
+    gui.press(Qt::Key_Return);
+    ado::setStatementRecorder({});
+    EXPECT_FALSE(accesa);
+    EXPECT_TRUE(gui.form("Avvio_Morlan").isEnabled());
 }
 
 TEST_F(MorlanFatture, AnErrorIsToldAndTheFormTakesInputAgain) {

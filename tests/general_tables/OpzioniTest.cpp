@@ -57,6 +57,7 @@ TEST_F(OpzioniTest, EachBoxSendsItsStatementAndStoresItsValues) {
         const support::StatementRecorder recorder;
         SalvaOpzione(opzione, true);
         EXPECT_EQ(recorder.texts().front(), caso.testo);
+        EXPECT_EQ(recorder.count(caso.testo), 1);
         EXPECT_EQ(salvato(opzione), caso.spuntata);
         SalvaOpzione(opzione, false);
         EXPECT_EQ(salvato(opzione), "0");
@@ -114,6 +115,15 @@ TEST_F(OpzioniTest, TheBudgetBoxWritesFirstWhatTheLoadHasBegun) {
     SalvaOpzione(OpzioneDi("Check7"), true);
     EXPECT_EQ(posto.rows(support::kCompany, "select Lunghezza, Descrizione from TabellaUilityConti where id = 5"),
               (std::vector<Riga>{{"-1", "NULL"}}));
+}
+
+TEST_F(OpzioniTest, TheBudgetBoxWritesWhateverEditTheSharedRecordsetHolds) {
+    RsOpzioni().Open("select * from datiGenerali where id = 6", DbAzienda, ado::CursorType::Keyset,
+                     ado::LockType::Pessimistic);
+    RsOpzioni()["Contatore"] = 4;
+    SalvaOpzione(OpzioneDi("Check7"), true);
+    EXPECT_EQ(valore("select Contatore from datiGenerali where id = 6"), "4");
+    EXPECT_EQ(valore("select Lunghezza from TabellaUilityConti where id = 5"), "-1");
 }
 
 TEST_F(OpzioniTest, TheBudgetBoxClosesEverySharedRecordset) {

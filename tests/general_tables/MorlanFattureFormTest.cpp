@@ -114,6 +114,7 @@ TEST_F(MorlanFatture, TheRowIsForgottenAfterItsStore) {
     prendi("DCBItems3", voce("1075"));
     EXPECT_EQ(fattura(3), (Riga{"1077", "25", "10000001"}));
     EXPECT_EQ(fattura(4), (Riga{"1075", "25", "10000001"}));
+    EXPECT_EQ(fattura(1), (Riga{"1139", "37", "10000001"}));
     scegli("DataGrid11", "10");
     gui.press(Qt::Key_Return);
     EXPECT_EQ(fattura(10), (Riga{"0", "0", "10000001"})) << "and so is the account";

@@ -16,7 +16,12 @@ protected:
     void costruisci(const char* nome) {
         gui.forms().add(nome, [this, nome] {
             return std::make_unique<RecordedForm>(nome, eventi,
-                                                  FormEvents{.unload = [](RecordedForm& /*form*/) { ChiudiForm(); }});
+                                                  FormEvents{.load =
+                                                                 [this](RecordedForm& /*form*/) {
+                                                                     clessidra =
+                                                                         QGuiApplication::overrideCursor() != nullptr;
+                                                                 },
+                                                             .unload = [](RecordedForm& /*form*/) { ChiudiForm(); }});
         });
     }
     void premi(const char* bottone, int numero) {
@@ -25,6 +30,7 @@ protected:
     }
 
     std::vector<std::string> eventi;
+    bool clessidra = false; ///< whether the hourglass was up while the form loaded
 };
 
 struct Comando {
@@ -184,6 +190,7 @@ TEST_F(MorlanFrame, EachCommandOpensItsFormAndTheConsoleComesBack) {
         premi(comando.bottone, comando.scheda);
         EXPECT_EQ(gui.visibleForms(), comando.form);
         EXPECT_EQ(PilaForm, (std::vector<std::string>{"Avvio_Azienda", "Avvio_Morlan", comando.form}));
+        EXPECT_TRUE(clessidra);
         EXPECT_EQ(QGuiApplication::overrideCursor(), nullptr);
         const support::StatementRecorder recorder;
         gui.form(comando.form).close();

@@ -266,6 +266,23 @@ INSTANTIATE_TEST_SUITE_P(
         Scelta{"update conti set NomeConto = null where IdConto = 1080", kBuste, "", "Seleziona", "", "0", "0"},
         Scelta{"update conti set IdGruppoVabo = null where IdConto = 1080", kBuste, "", "1080", "", "1080", "26"}));
 
+TEST_F(MorlanNulli, ARowWhoseKeyCountsAsNothingIsNotChosen) {
+    const Griglia griglie[] = {kUtili, kAltri, kFatture, kBuste};
+    for (const Griglia& g : griglie)
+        esegui(std::string("update ") + g.tabella + " set " + g.chiave + " = 0 where " + g.chiave + " = " + g.riga);
+    apri();
+    for (const Griglia& g : griglie) {
+        SCOPED_TRACE(g.nome);
+        scheda(g.scheda);
+        const std::string prima = combo(g.selettore).Text();
+        scegli(g.nome, "0");
+        EXPECT_EQ(fuoco(), g.nome);
+        EXPECT_EQ(combo(g.selettore).Text(), prima);
+    }
+    EXPECT_FALSE(visibile("Frame6"));
+    EXPECT_FALSE(visibile("Frame2"));
+}
+
 TEST_F(MorlanNulli, AnAccountWithoutAMasterIsNoEconomicOne) {
     esegui("update conti set idmastro = null where IdConto = 1038");
     apri();

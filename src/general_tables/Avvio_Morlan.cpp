@@ -77,8 +77,6 @@ void Avvio_Morlan::MostraNomeDatabase() {
 
 // Without a rule of its own: an error ends it where it stands, and what it hasn't reached stays as it is.
 void Avvio_Morlan::CaricaOpzioni() {
-    ui_->Frame6->hide();
-    ui_->Frame2->hide();
     MostraNomeDatabase();
     CaricaSedeAmministrativa(Mostra("Check6"));
     CaricaSoloDiLoco(Mostra("Check9"));

@@ -36,9 +36,13 @@ const TabellaAltriConti& AltriConti(int tabella) {
     return kAltriConti.at(static_cast<std::size_t>(tabella));
 }
 
-/// Whether a grid's field holds a name to show.
+/// Whether a grid's field holds a name to show, one greater than zero: a number counts as a number, any other text is
+/// greater, and a null isn't.
 bool ConNome(const ado::Value& valore) {
-    return !valore.isNull() && !ado::toText(valore).empty();
+    if (valore.isNull()) {
+        return false;
+    }
+    return ado::isNumeric(valore) ? ado::toDouble(valore) > 0 : !ado::toText(valore).empty();
 }
 
 /// A form that takes no input while it lives.
@@ -89,6 +93,9 @@ void Avvio_Morlan::CollegaConti() {
     chain(std::move(tasti));
     FermataDelTab(*ui_->DCBItems3, false);
     FermataDelTab(*ui_->DCBitems4, false);
+    // Seen only while a row is being changed.
+    ui_->Frame6->hide();
+    ui_->Frame2->hide();
 
     ui_->DataGrid2->setDataSource(ui_->tabella_conti_utili);
     ui_->DataGrid4->setDataSource(ui_->tipo_anagrafica);
@@ -102,7 +109,6 @@ void Avvio_Morlan::CollegaConti() {
     on(ui_->DataGrid11, &controls::DataGrid::DblClick, [this] { ScegliContoFattura(); });
     on(ui_->DataGridPersonale, &controls::DataGrid::DblClick, [this] { ScegliContoPersonale(); });
     on(ui_->Command8, &QPushButton::clicked, [this] { SalvaUtile(); });
-    on(ui_->Command14, &QPushButton::clicked, [this] { SalvaAltro(); });
     on(ui_->Command18, &QPushButton::clicked, [this] { GiraTabella(); });
 }
 
@@ -229,7 +235,6 @@ void Avvio_Morlan::SalvaAltro() {
     if (IsEmptyValue(IdRiga)) {
         return;
     }
-    ui_->Command14->setEnabled(false);
     ui_->Controllo->setText(std::to_string(TabellaCorrente));
     SalvaAltroConto(TabellaCorrente, IdRiga, IdContoAltri);
     controls::DataControl& dati = *ui_->tipo_anagrafica;

@@ -4,6 +4,7 @@
 #include "general_tables/RecordsetConsole.h"
 #include "kit/ApriScrivibile.h"
 #include "kit/ErrorHandling.h"
+#include "kit/Uguale.h"
 
 namespace vabo {
 
@@ -35,13 +36,10 @@ TassiDiCambio LeggiTassiDiCambio() {
         rs["Lunghezza"] = 0;
         rs["Descrizione"] = opzione.descrizione;
         rs.Update();
-    } else if (const ado::Value lunghezza = rs["Lunghezza"].Value(); !lunghezza.isNull()) {
-        const double numero = ado::toDouble(lunghezza);
-        if (numero == kBancaDItalia) {
-            tassi = TassiDiCambio::BancaDItalia;
-        } else if (numero == kInforEuro) {
-            tassi = TassiDiCambio::InforEuro;
-        }
+    } else if (Uguale(rs["Lunghezza"], kBancaDItalia)) {
+        tassi = TassiDiCambio::BancaDItalia;
+    } else if (Uguale(rs["Lunghezza"], kInforEuro)) {
+        tassi = TassiDiCambio::InforEuro;
     }
     rs.Close();
     return tassi;

@@ -4,6 +4,7 @@
 #include "kit/ApriScrivibile.h"
 #include "kit/IsEmptyValue.h"
 #include "kit/Regole.h"
+#include "kit/Uguale.h"
 #include "session/variabili.h"
 
 namespace vabo {
@@ -35,10 +36,10 @@ bool ContoEconomico(double idConto) {
     salta([&] {
         ApriScrivibile(rs, "select idmastro from conti where idconto = " + ado::plainNumber(idConto), DbAzienda);
     });
-    if (vera([&] { return !rs.EOF(); }) && vera([&] { return !IsEmptyValue(rs["Idmastro"].Value()); })) {
+    if (vera([&] { return !rs.EOF(); })) {
         salta([&] {
-            const double mastro = ado::toDouble(rs["Idmastro"]);
-            economico = mastro == 1 || mastro == 4;
+            const ado::Value mastro = rs["Idmastro"];
+            economico = Uguale(mastro, 1) || Uguale(mastro, 4);
         });
     }
     salta([&] { rs.Close(); });

@@ -6,6 +6,7 @@
 #include "kit/ErrorHandling.h"
 #include "kit/Regole.h"
 #include "kit/Testi.h"
+#include "kit/Uguale.h"
 #include "session/variabili.h"
 
 #include <algorithm>
@@ -112,7 +113,7 @@ bool UsaBadge() {
         rs["Descrizione"] = "Usa Badge";
         rs.Update();
     } else {
-        usa = ado::toDouble(rs["Lunghezza"]) == 1;
+        usa = Uguale(rs["Lunghezza"], 1);
     }
     rs.Close();
     return usa;

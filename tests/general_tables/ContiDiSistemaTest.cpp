@@ -4,7 +4,9 @@
 #include "general_tables/RecordsetConsole.h"
 #include "general_tables/SalvaConti.h"
 #include "general_tables/TabelleConti.h"
+#include "general_tables/TestiAttesi.h"
 
+#include <functional>
 #include <set>
 
 namespace vabo {
@@ -24,26 +26,18 @@ protected:
     }
 };
 
-TEST_F(ContiDiSistemaTest, TheTextsOfTheFourSources) {
-    EXPECT_EQ(TestoContiUtili(),
-              "SELECT T.ID, T.Description, C.NomeConto, P.Type, P.Number,T.idconto,T.idconto1,gruppivabo.idgruppo, "
-              "gruppivabo.dettagli  FROM (( TabellaContiUtili AS T left JOIN progetti as P ON T.IdProgetto = P.ID) "
-              "left JOIN gruppivabo ON T.IDConto1 = gruppivabo.IDGruppo) left JOIN conti AS C  ON T.IDConto = "
-              "C.IdConto order by T.Id");
-    EXPECT_EQ(TestoAltriConti(3),
-              "SELECT T.Id, T.description, T.idconto,C.NomeConto, T.idconto1,gruppivabo.idgruppo, gruppivabo.dettagli "
-              "FROM (tabellacontiutilicontributi AS T left join conti AS C  on T.idconto=C.idconto) left join "
-              "gruppivabo on T.idconto1 = gruppivabo.idgruppo order by T.Description");
-    EXPECT_EQ(ElencoContiUtili(),
-              "SELECT  Conti.IdConto, Conti.NomeConto + ' ' + Conti.Contoreport as NomeConto FROM conti   Where   "
-              "(IDProgetto = 10000001) and  not (contoreport  Like '%.0') and not exists (select idconto from "
-              "tipoanagrafica where idconto = conti.idconto) ORDER BY  NomeConto");
-    EXPECT_EQ(ElencoContiFatture(),
-              "SELECT  Conti.IdConto, Conti.NomeConto + ' ' + Conti.Contoreport as NomeConto FROM  Conti  Where not "
-              "idchiave  like '%.0' and idmastro between 2 and 3 ORDER BY NomeConto");
-    EXPECT_EQ(TestoAltriContiRipiego(2),
-              "SELECT T.Id, T.description, T.idconto, \" as NomeConto, T.idconto1,\" as idgruppo, \" as dettagli FROM "
-              "tabellacontiutiliTransfersHQ order by T.Description");
+TEST_F(ContiDiSistemaTest, TheTextsOfGridsAndListsLetterForLetter) {
+    EXPECT_EQ(TestoContiUtili(), kTestoContiUtili);
+    EXPECT_EQ(TestoContiIva(), kTestoContiIva);
+    EXPECT_EQ(TestoContiPersonale(), kTestoContiPersonale);
+    for (int tabella = 0; tabella < 4; ++tabella) {
+        EXPECT_EQ(TestoAltriConti(tabella), kTestiAltriConti.at(tabella));
+        EXPECT_EQ(TestoAltriContiRipiego(tabella), kTestiDiRipiego.at(tabella));
+    }
+    EXPECT_EQ(ElencoContiUtili(), kElencoContiUtili);
+    EXPECT_EQ(ElencoAltriConti(), kElencoAltriConti);
+    EXPECT_EQ(ElencoContiPersonale(), kElencoContiPersonale);
+    EXPECT_EQ(ElencoContiFatture(), kElencoContiFatture);
 }
 
 TEST_F(ContiDiSistemaTest, EachSourceGivesTheRowsOfItsTable) {
@@ -137,9 +131,28 @@ TEST_F(ContiDiSistemaTest, TheFourTablesOfTheSecondTabHaveTheirStatements) {
 
 TEST_F(ContiDiSistemaTest, ARowThatIsNotThereStopsTheSecondTabAndIsSilentOnTheOthers) {
     EXPECT_THROW(SalvaAltroConto(0, 999, 1051), ado::Error);
-    RsCondivisi.Rilascia(4);
     EXPECT_NO_THROW(SalvaContoUtile(999, 1051));
     EXPECT_NO_THROW(SalvaContoPersonale(999, 1051));
+}
+
+TEST_F(ContiDiSistemaTest, AStoreClosesEverySharedRecordset) {
+    const std::function<void()> salvataggi[] = {[] { SalvaContoUtile(3, 1051); }, [] { SalvaAltroConto(0, 2, 1051); },
+                                                [] { SalvaContoPersonale(3, 1051); }};
+    for (const auto& salva : salvataggi) {
+        RsCondivisi(2).Open("select * from datiGenerali", DbAzienda);
+        salva();
+        EXPECT_FALSE(RsCondivisi(2).IsOpen());
+        EXPECT_FALSE(RsCaselle().IsOpen());
+    }
+}
+
+TEST_F(ContiDiSistemaTest, AStoreThatFailsGivesItsRecordsetBack) {
+    esegui("update conti set IdGruppoVabo = null where IdConto = 1051");
+    EXPECT_THROW(SalvaAltroConto(0, 2, 1051), ado::Error);
+    EXPECT_FALSE(RsCaselle().IsOpen());
+    EXPECT_EQ(riga("select idconto, idconto1 from tipoanagrafica where IdTipoAnagrafica = 2"), (Riga{"1076", "25"}));
+    SalvaAltroConto(0, 2, 1052);
+    EXPECT_EQ(riga("select idconto, idconto1 from tipoanagrafica where IdTipoAnagrafica = 2"), (Riga{"1052", "19"}));
 }
 
 TEST_F(ContiDiSistemaTest, ANullGroupLeavesTheOldOneWhereErrorsAreSkipped) {

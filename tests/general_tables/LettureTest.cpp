@@ -76,8 +76,10 @@ TEST_F(LeggiGruppoVaboTest, RaisesForANullGroup) {
 }
 
 TEST_F(ContoEconomicoTest, CountsMastersOneAndFour) {
-    for (const auto& [mastro, economico] : {std::pair{1, true}, {2, false}, {3, false}, {4, true}, {0, false}}) {
-        esegui("update conti set idmastro = " + std::to_string(mastro) + " where IdConto = 1051");
+    const std::pair<const char*, bool> casi[] = {{"1", true},  {"2", false},    {"3", false}, {"4", true},
+                                                 {"0", false}, {"null", false}, {"-1", false}};
+    for (const auto& [mastro, economico] : casi) {
+        esegui(std::string("update conti set idmastro = ") + mastro + " where IdConto = 1051");
         EXPECT_EQ(ContoEconomico(1051), economico) << "master " << mastro;
     }
 }

@@ -1,5 +1,5 @@
 #include "MorlanFixture.h"
-#include "general_tables/TabelleConti.h"
+#include "general_tables/TestiAttesi.h"
 
 namespace vabo {
 namespace {
@@ -48,7 +48,7 @@ TEST_F(MorlanAltriConti, EachTurnReadsItsTable) {
     for (const int tabella : {1, 2, 3, 0}) {
         const support::StatementRecorder recorder;
         gira();
-        EXPECT_EQ(recorder.texts(), std::vector<std::string>{TestoAltriConti(tabella)});
+        EXPECT_EQ(recorder.texts(), std::vector<std::string>{kTestiAltriConti.at(tabella)});
         EXPECT_FALSE(griglia("DataGrid4").Columns(0).Visible()) << "the layout is made anew";
     }
 }
@@ -68,6 +68,12 @@ TEST_F(MorlanAltriConti, ARowWithoutAccountShowsNoneAndKeepsTheOneBefore) {
     EXPECT_EQ(combo("DCBitem2").Text(), "Seleziona");
     gui.press(Qt::Key_Return);
     EXPECT_EQ(conto("tipoanagrafica", "IdTipoAnagrafica", 9), (Riga{"1076", "25"}));
+}
+
+TEST_F(MorlanAltriConti, WithoutARowNothingIsStored) {
+    const support::StatementRecorder recorder;
+    QTest::keyClick(&combo("DCBitem2"), Qt::Key_Return);
+    EXPECT_TRUE(recorder.texts().empty());
 }
 
 struct Caso {
@@ -109,8 +115,8 @@ TEST_F(MorlanAltriConti, APickStoresInTheTableShown) {
         prendi("DCBitem2", voce("1052"));
         EXPECT_EQ(conto(caso.nome, caso.chiave, id), (Riga{"1052", "19"}));
         EXPECT_EQ(recorder.count(caso.istruzione), 1);
-        EXPECT_EQ(recorder.count(TestoAltriConti(caso.tabella)), 1);
-        EXPECT_EQ(recorder.count(ElencoAltriConti()), 0);
+        EXPECT_EQ(recorder.count(kTestiAltriConti.at(caso.tabella)), 1);
+        EXPECT_EQ(recorder.count(kElencoAltriConti), 0);
         EXPECT_EQ(testata(), caso.testata);
         EXPECT_EQ(testo("tipoanagrafe"), "Doppio click sui dati per correggerli");
         EXPECT_EQ(combo("DCBitem2").Text(), "Seleziona");
@@ -199,6 +205,24 @@ TEST_F(MorlanAltriConti, APositionPastTheEndOfTheTableBringsTheSourceThatFails) 
     EXPECT_EQ(righe("DataGrid4"), 0);
     gira();
     EXPECT_EQ(righe("DataGrid4"), 6) << "the next table is read again";
+}
+
+TEST_F(MorlanAltriConti, WithAnEmptyGridADoubleClickTellsTheError) {
+    const char* const tabelle[] = {"tipoanagrafica", "bustetabellacontiutili", "tabellacontiutiliTransfersHQ",
+                                   "tabellacontiutilicontributi"};
+    for (const char* tabella : tabelle)
+        esegui(std::string("delete from ") + tabella);
+    riapri();
+    scheda(2);
+    for (const char* tabella : tabelle) {
+        SCOPED_TRACE(tabella);
+        ASSERT_EQ(righe("DataGrid4"), 0);
+        script.expectMessage(ado::Error(ado::kNoCurrentRecord).description());
+        QTest::mouseDClick(griglia("DataGrid4").viewport(), Qt::LeftButton, {}, {20, 20});
+        EXPECT_TRUE(script.allShown());
+        EXPECT_FALSE(visibile("Frame2"));
+        gira();
+    }
 }
 
 TEST_F(MorlanAltriConti, TheRowChosenIsSharedWithTheOtherTabs) {

@@ -1,5 +1,5 @@
 #include "MorlanFixture.h"
-#include "general_tables/TabelleConti.h"
+#include "general_tables/TestiAttesi.h"
 
 namespace vabo {
 namespace {
@@ -45,8 +45,8 @@ TEST_F(MorlanContiUtili, APickStoresTheAccountWithItsGroupAndStandsOneRowBelow) 
     prendi("DCBItem1", voce("1052"));
     EXPECT_EQ(conto(4), (Riga{"1052", "19"}));
     EXPECT_EQ(recorder.count("Select * from tabellacontiutili where id = 4"), 1);
-    EXPECT_EQ(recorder.count(TestoContiUtili()), 1) << "the grid is read again";
-    EXPECT_EQ(recorder.count(ElencoContiUtili()), 0) << "the list isn't";
+    EXPECT_EQ(recorder.count(kTestoContiUtili), 1) << "the grid is read again";
+    EXPECT_EQ(recorder.count(kElencoContiUtili), 0) << "the list isn't";
     EXPECT_FALSE(visibile("Frame6"));
     EXPECT_EQ(combo("DCBItem1").Text(), "Seleziona");
     EXPECT_TRUE(gui.find("Avvio_Morlan", "Command8").isEnabled());
@@ -64,6 +64,21 @@ TEST_F(MorlanContiUtili, AfterTheLastRowTheGridStandsOnNone) {
     griglia("DataGrid2").setFocus();
     gui.press(Qt::Key_Up);
     EXPECT_NE(rigaCorrente("DataGrid2"), "");
+}
+
+TEST_F(MorlanContiUtili, WhileAStoreRunsItsButtonIsOffUnderTheHourglass) {
+    scegli("DataGrid2", "4");
+    bool acceso = true;
+    bool clessidra = false;
+    ado::setStatementRecorder([&](const std::string& /*testo*/) {
+        acceso = gui.find("Avvio_Morlan", "Command8").isEnabled();
+        clessidra = QGuiApplication::overrideCursor() != nullptr;
+    });
+    gui.press(Qt::Key_Return);
+    ado::setStatementRecorder({});
+    EXPECT_FALSE(acceso);
+    EXPECT_TRUE(clessidra);
+    EXPECT_TRUE(gui.find("Avvio_Morlan", "Command8").isEnabled());
 }
 
 TEST_F(MorlanContiUtili, EnterStoresTheAccountThatTheRowHas) {
@@ -140,7 +155,20 @@ TEST_F(MorlanContiUtili, NoAccountIsRefusedWhereEconomyIsSpokenOfAndStoredElsewh
     EXPECT_EQ(conto(3), (Riga{"0", "0"}));
 }
 
+TEST_F(MorlanContiUtili, ARefusedClickOfTheButtonGoesBackToThePicker) {
+    esegui("update conti set idmastro = 2 where IdConto = 1038");
+    const Riga prima = conto(8);
+    scegli("DataGrid2", "8");
+    auto& bottone = gui.find("Avvio_Morlan", "Command8");
+    bottone.setFocus();
+    gui.click("Avvio_Morlan", "Command8");
+    EXPECT_EQ(fuoco(), "DCBItem1");
+    EXPECT_TRUE(visibile("Frame6"));
+    EXPECT_EQ(conto(8), prima);
+}
+
 TEST_F(MorlanContiUtili, ARowWithoutAccountKeepsTheOneChosenBefore) {
+    esegui("update TabellaContiUtili set IdConto = null where ID = 3");
     scegli("DataGrid2", "4");
     scegli("DataGrid2", "32");
     EXPECT_EQ(combo("DCBItem1").Text(), valore("select NomeConto from conti where IdConto = 1150"));
@@ -148,6 +176,9 @@ TEST_F(MorlanContiUtili, ARowWithoutAccountKeepsTheOneChosenBefore) {
     EXPECT_EQ(conto(32), (Riga{"1150", "39"}));
     scegli("DataGrid2", "16");
     EXPECT_EQ(combo("DCBItem1").Text(), "") << "after a store there is none";
+    scegli("DataGrid2", "3");
+    gui.press(Qt::Key_Return);
+    EXPECT_EQ(conto(3), (Riga{"0", "0"}));
 }
 
 TEST_F(MorlanContiUtili, WithoutARowNothingIsStored) {

@@ -1,5 +1,5 @@
 #include "MorlanFixture.h"
-#include "general_tables/TabelleConti.h"
+#include "general_tables/TestiAttesi.h"
 
 namespace vabo {
 namespace {
@@ -38,7 +38,7 @@ TEST_F(MorlanFatture, APickSendsAccountProjectAndGroup) {
     prendi("DCBItems3", voce("1077"));
     EXPECT_TRUE(recorder.sentInOrder({"update ivaTabellaContiUtili set idconto=1077 where id=3",
                                       "update ivaTabellaContiUtili set idProgetto = 10000001  where id=3",
-                                      "update ivaTabellaContiUtili set idconto1=25 where id=3", TestoContiIva()}));
+                                      "update ivaTabellaContiUtili set idconto1=25 where id=3", kTestoContiIva}));
     EXPECT_EQ(fattura(3), (Riga{"1077", "25", "10000001"}));
     EXPECT_EQ(combo("DCBItems3").Text(), "Seleziona");
     EXPECT_FALSE(fermata("DCBItems3"));
@@ -64,17 +64,47 @@ TEST_F(MorlanFatture, DeleteAndEnterTakeTheAccountAway) {
     EXPECT_EQ(fattura(3), (Riga{"0", "0", "10000001"}));
 }
 
-TEST_F(MorlanFatture, ARowWithoutAccountLeavesThePickerAndTheAccountAsTheyWere) {
+TEST_F(MorlanFatture, ARowWithoutAccountShowsNoneAndStoresNoneWhereNoneWasChosen) {
     scegli("DataGrid11", "10");
     EXPECT_EQ(combo("DCBItems3").Text(), "Seleziona");
+    EXPECT_EQ(fuoco(), "DCBItems3");
+    EXPECT_TRUE(fermata("DCBItems3"));
     gui.press(Qt::Key_Return);
     EXPECT_EQ(fattura(10), (Riga{"0", "0", "10000001"}));
+}
+
+TEST_F(MorlanFatture, ARowWithoutAccountLeavesThePickerAndTheAccountAsTheyWere) {
+    scegli("DataGrid11", "3");
+    scegli("DataGrid11", "10");
+    EXPECT_EQ(combo("DCBItems3").Text(), nome("1086"));
+    gui.press(Qt::Key_Return);
+    EXPECT_EQ(fattura(10), (Riga{"1086", "26", "10000001"}));
+    EXPECT_EQ(fattura(3), (Riga{"1086", "26", "10000001"}));
+}
+
+TEST_F(MorlanFatture, OnlyANameGreaterThanZeroIsOne) {
+    const std::pair<const char*, bool> casi[] = {{"", false},   {"0", false}, {"0,00", false},
+                                                 {"-5", false}, {"7", true},  {"-5 voci", true}};
+    for (const auto& [chiamato, mostrato] : casi) {
+        SCOPED_TRACE(chiamato);
+        esegui(std::string("update conti set NomeConto = '") + chiamato + "' where IdConto in (1080, 1086)");
+        esegui("update ivaTabellaContiUtili set idconto = 1086 where ID = 3");
+        riapri();
+        scheda(4);
+        scegli("DataGrid11", "3");
+        EXPECT_EQ(combo("DCBItems3").Text(), mostrato ? chiamato : "Seleziona");
+        gui.press(Qt::Key_Return);
+        EXPECT_EQ(fattura(3), (mostrato ? Riga{"1086", "26", "10000001"} : Riga{"0", "0", "10000001"}));
+        scheda(5);
+        scegli("DataGridPersonale", "3");
+        EXPECT_EQ(combo("DCBitems4").Text(), mostrato ? chiamato : "Seleziona");
+    }
 }
 
 TEST_F(MorlanFatture, WithoutARowAPickSendsNothingAndReadsTheGridAgain) {
     const support::StatementRecorder recorder;
     prendi("DCBItems3", voce("1077"));
-    EXPECT_EQ(recorder.texts(), std::vector<std::string>{TestoContiIva()});
+    EXPECT_EQ(recorder.texts(), std::vector<std::string>{kTestoContiIva});
     EXPECT_EQ(combo("DCBItems3").Text(), "Seleziona");
 }
 
@@ -84,6 +114,20 @@ TEST_F(MorlanFatture, TheRowIsForgottenAfterItsStore) {
     prendi("DCBItems3", voce("1075"));
     EXPECT_EQ(fattura(3), (Riga{"1077", "25", "10000001"}));
     EXPECT_EQ(fattura(4), (Riga{"1075", "25", "10000001"}));
+    EXPECT_EQ(fattura(1), (Riga{"1139", "37", "10000001"}));
+    scegli("DataGrid11", "10");
+    gui.press(Qt::Key_Return);
+    EXPECT_EQ(fattura(10), (Riga{"0", "0", "10000001"})) << "and so is the account";
+}
+
+TEST_F(MorlanFatture, WhileAStoreRunsTheFormTakesNoInput) {
+    scegli("DataGrid11", "3");
+    bool accesa = true;
+    ado::setStatementRecorder([&](const std::string& /*testo*/) { accesa = gui.form("Avvio_Morlan").isEnabled(); });
+    gui.press(Qt::Key_Return);
+    ado::setStatementRecorder({});
+    EXPECT_FALSE(accesa);
+    EXPECT_TRUE(gui.form("Avvio_Morlan").isEnabled());
 }
 
 TEST_F(MorlanFatture, AnErrorIsToldAndTheFormTakesInputAgain) {
@@ -102,6 +146,22 @@ TEST_F(MorlanFatture, WithAnEmptyGridADoubleClickTellsTheError) {
     scheda(4);
     script.expectMessage(ado::Error(ado::kNoCurrentRecord).description());
     QTest::mouseDClick(griglia("DataGrid11").viewport(), Qt::LeftButton, {}, {20, 20});
+}
+
+TEST_F(MorlanFatture, WithAnEmptyGridOfThePayrollADoubleClickTellsTheErrorBehindTheRight) {
+    esegui("delete from bustetabellacontiutili");
+    riapri();
+    scheda(5);
+    const auto doppioClick = [this] {
+        QTest::mouseDClick(griglia("DataGridPersonale").viewport(), Qt::LeftButton, {}, {20, 20});
+    };
+    script.expectMessage(ado::Error(ado::kNoCurrentRecord).description());
+    doppioClick();
+    EXPECT_TRUE(script.allShown());
+    EXPECT_FALSE(fermata("DCBitems4"));
+    DirittiUtente.A_Personale = kFalso;
+    script.expectMessage("Utente non abilitato!\nContattare l'amministratore di sistema");
+    doppioClick();
 }
 
 TEST_F(MorlanFatture, ThePayrollAsksForItsRight) {
@@ -125,7 +185,7 @@ TEST_F(MorlanFatture, APickOfThePayrollStoresAndLeavesTheGridAsItWas) {
     prendi("DCBitems4", voce("1052"));
     EXPECT_EQ(busta(3), (Riga{"1052", "19"}));
     EXPECT_EQ(recorder.count("Select * from BusteTabellaContiUtili  where id = 3"), 1);
-    EXPECT_EQ(recorder.count(TestoContiPersonale()), 0);
+    EXPECT_EQ(recorder.count(kTestoContiPersonale), 0);
     EXPECT_EQ(cella("DataGridPersonale", 2, 2), prima);
     EXPECT_EQ(rigaCorrente("DataGridPersonale"), "3");
     EXPECT_EQ(combo("DCBitems4").Text(), "Seleziona");
@@ -173,7 +233,7 @@ TEST_F(MorlanFatture, ANullGroupPassesInSilenceInThePayroll) {
 }
 
 TEST_F(MorlanFatture, TheListOfInvoicesHoldsDebtsAndCreditsAlone) {
-    const auto offerti = posto.rows(support::kCompany, ElencoContiFatture());
+    const auto offerti = posto.rows(support::kCompany, kElencoContiFatture);
     ASSERT_EQ(combo("DCBItems3").count(), static_cast<int>(offerti.size()));
     for (std::size_t i = 0; i < offerti.size(); ++i)
         EXPECT_EQ(combo("DCBItems3").itemText(static_cast<int>(i)).toStdString(), offerti[i][1]);

@@ -1,7 +1,7 @@
 #include "MorlanFixture.h"
 #include "controls/RecordedForm.h"
 #include "general_tables/Avvio_Morlan.h"
-#include "general_tables/TabelleConti.h"
+#include "general_tables/TestiAttesi.h"
 #include "platform/Automation.h"
 
 #include <QComboBox>
@@ -16,7 +16,12 @@ protected:
     void costruisci(const char* nome) {
         gui.forms().add(nome, [this, nome] {
             return std::make_unique<RecordedForm>(nome, eventi,
-                                                  FormEvents{.unload = [](RecordedForm& /*form*/) { ChiudiForm(); }});
+                                                  FormEvents{.load =
+                                                                 [this](RecordedForm& /*form*/) {
+                                                                     clessidra =
+                                                                         QGuiApplication::overrideCursor() != nullptr;
+                                                                 },
+                                                             .unload = [](RecordedForm& /*form*/) { ChiudiForm(); }});
         });
     }
     void premi(const char* bottone, int numero) {
@@ -25,6 +30,7 @@ protected:
     }
 
     std::vector<std::string> eventi;
+    bool clessidra = false; ///< whether the hourglass was up while the form loaded
 };
 
 struct Comando {
@@ -116,27 +122,41 @@ TEST_F(MorlanFrame, TheEditFramesShowOnlyWhileARowIsChanged) {
     EXPECT_FALSE(gui.find("Avvio_Morlan", "Command14").isEnabled());
 }
 
-TEST_F(MorlanFrame, TheListsAndGridsAreReadOnceInTheirOrder) {
+TEST_F(MorlanFrame, TheLoadSendsItsStatementsInTheirOrderAndNoOther) {
     const support::StatementRecorder recorder;
     apri();
-    const std::vector<std::string> testi = {ElencoContiUtili(),   ElencoAltriConti(),    ElencoContiPersonale(),
-                                            ElencoContiFatture(), TestoContiPersonale(), TestoAltriConti(0),
-                                            TestoContiUtili(),    TestoContiIva()};
-    EXPECT_TRUE(recorder.sentInOrder(testi));
-    for (const std::string& testo : testi)
-        EXPECT_EQ(recorder.count(testo), 1) << testo;
-}
-
-TEST_F(MorlanFrame, TheOptionsAreReadInTheirOrder) {
-    const support::StatementRecorder recorder;
-    apri();
-    EXPECT_TRUE(recorder.sentInOrder(
-        {"select * from TabellaUilityConti where id = 8", "select * from TabellaUilityConti where id = 9",
-         "select * from datiGenerali where descrizione ='Sede Amministrativa'",
-         "select * from TabellaUilityConti where id = 7", "select * from TabellaUilityConti where id = 5",
-         "select * from datiGenerali where id = 6", "select * from datiGenerali where id = 7",
-         "select * from datiGenerali where id = 8", "select * from datiGenerali where id = 9",
-         "select * from datiGenerali where id = 10", "select * from datiGenerali where id = 15"}));
+    std::vector<std::string> inviate = recorder.texts();
+    // What the data layer composes of its own when a box that is set rewrites its row.
+    std::erase_if(inviate, [](const std::string& t) { return t.starts_with("SELECT [") || t.starts_with("UPDATE ["); });
+    EXPECT_EQ(inviate, (std::vector<std::string>{"select * from TabellaUilityConti where id = 8",
+                                                 "select * from TabellaUilityConti where id = 8", // the box it sets
+                                                 "select * from TabellaUilityConti where id = 9",
+                                                 kElencoContiUtili,
+                                                 kElencoAltriConti,
+                                                 kElencoContiPersonale,
+                                                 kElencoContiFatture,
+                                                 kTestoContiPersonale,
+                                                 kElencoTrattamenti,
+                                                 "select * from IvaAliquotaStandard  ",
+                                                 " select descrizione from IvaTrattamento Where idautonumber = 2",
+                                                 " select Aliquota from IvaTrattamento Where idautonumber = 2",
+                                                 " select quotadetrazione from IvaTrattamento Where idautonumber = 2",
+                                                 " select Sigla from IvaTrattamento Where idautonumber = 2",
+                                                 "select * from datiGenerali where descrizione ='Sede Amministrativa'",
+                                                 "select * from TabellaUilityConti where id = 7",
+                                                 kTestiAltriConti[0],
+                                                 kTestoContiUtili,
+                                                 "select * from TabellaUilityConti where id = 5",
+                                                 "select * from datiGenerali where id = 6",
+                                                 "select * from datiGenerali where id = 6", // the box it sets
+                                                 "select * from datiGenerali where id = 7",
+                                                 "select * from datiGenerali where id = 8",
+                                                 "select * from datiGenerali where id = 8", // the box it sets
+                                                 "select * from datiGenerali where id = 9",
+                                                 "select * from datiGenerali where id = 10",
+                                                 "select * from datiGenerali where id = 10", // the box it sets
+                                                 "select * from datiGenerali where id = 15",
+                                                 kTestoContiIva}));
 }
 
 TEST_F(MorlanFrame, AListThatCannotBeReadIsToldAndLeavesTheSwitchesUnread) {
@@ -170,6 +190,7 @@ TEST_F(MorlanFrame, EachCommandOpensItsFormAndTheConsoleComesBack) {
         premi(comando.bottone, comando.scheda);
         EXPECT_EQ(gui.visibleForms(), comando.form);
         EXPECT_EQ(PilaForm, (std::vector<std::string>{"Avvio_Azienda", "Avvio_Morlan", comando.form}));
+        EXPECT_TRUE(clessidra);
         EXPECT_EQ(QGuiApplication::overrideCursor(), nullptr);
         const support::StatementRecorder recorder;
         gui.form(comando.form).close();

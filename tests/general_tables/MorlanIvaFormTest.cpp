@@ -53,6 +53,13 @@ TEST_F(MorlanIva, APickIsTheStandardAtOnce) {
     EXPECT_EQ(standard(), (std::vector<Riga>{{"3", "10,00", "10", "100,00"}}));
 }
 
+TEST_F(MorlanIva, TheSecondTreatmentIsTheLowestThatCanBePicked) {
+    esegui("update IvaAliquotaStandard set idTipo = 3");
+    apriScheda();
+    prendi("DCBitem5", "Imponibile 22%");
+    EXPECT_EQ(standard(), (std::vector<Riga>{{"2", "22,00", "22", "100,00"}}));
+}
+
 TEST_F(MorlanIva, TheFirstPickMakesTheRow) {
     esegui("delete from IvaAliquotaStandard");
     apriScheda();

@@ -4,6 +4,8 @@
 #include "general_tables/AziendaAperta.h"
 #include "general_tables/RecordsetConsole.h"
 
+#include <stdexcept>
+
 namespace vabo {
 namespace {
 
@@ -55,6 +57,7 @@ TEST_F(OpzioniTest, EachBoxSendsItsStatementAndStoresItsValues) {
         const support::StatementRecorder recorder;
         SalvaOpzione(opzione, true);
         EXPECT_EQ(recorder.texts().front(), caso.testo);
+        EXPECT_EQ(recorder.count(caso.testo), 1);
         EXPECT_EQ(salvato(opzione), caso.spuntata);
         SalvaOpzione(opzione, false);
         EXPECT_EQ(salvato(opzione), "0");
@@ -103,6 +106,54 @@ TEST_F(OpzioniTest, TheBudgetBoxTakesOverTheRecordsetOfTheLoad) {
     EXPECT_FALSE(RsOpzioni().IsOpen());
 }
 
+TEST_F(OpzioniTest, TheBudgetBoxWritesFirstWhatTheLoadHasBegun) {
+    esegui("delete from TabellaUilityConti where id = 5");
+    RsOpzioni().Open("select * from TabellaUilityConti where id = 5", DbAzienda, ado::CursorType::Keyset,
+                     ado::LockType::Pessimistic);
+    RsOpzioni().AddNew();
+    RsOpzioni()["id"] = 5;
+    SalvaOpzione(OpzioneDi("Check7"), true);
+    EXPECT_EQ(posto.rows(support::kCompany, "select Lunghezza, Descrizione from TabellaUilityConti where id = 5"),
+              (std::vector<Riga>{{"-1", "NULL"}}));
+}
+
+TEST_F(OpzioniTest, TheBudgetBoxWritesWhateverEditTheSharedRecordsetHolds) {
+    RsOpzioni().Open("select * from datiGenerali where id = 6", DbAzienda, ado::CursorType::Keyset,
+                     ado::LockType::Pessimistic);
+    RsOpzioni()["Contatore"] = 4;
+    SalvaOpzione(OpzioneDi("Check7"), true);
+    EXPECT_EQ(valore("select Contatore from datiGenerali where id = 6"), "4");
+    EXPECT_EQ(valore("select Lunghezza from TabellaUilityConti where id = 5"), "-1");
+}
+
+TEST_F(OpzioniTest, TheBudgetBoxClosesEverySharedRecordset) {
+    RsCondivisi(2).Open("select * from datiGenerali", DbAzienda);
+    SalvaOpzione(OpzioneDi("Check7"), false);
+    EXPECT_FALSE(RsCondivisi(2).IsOpen());
+}
+
+TEST_F(OpzioniTest, OnlyTheNumberedRowsOfDatiGeneraliGoThroughASharedRecordset) {
+    for (const CasoOpzione& caso : kCasi) {
+        SCOPED_TRACE(caso.casella);
+        const Opzione& opzione = OpzioneDi(caso.casella);
+        const bool condiviso = std::string(caso.testo).starts_with("select * from datiGenerali where id");
+        SalvaOpzione(opzione, false);
+        RsCaselle().Open("select * from datiGenerali where id = 1", DbAzienda);
+        if (condiviso && std::string(caso.casella) != "Check5") {
+            EXPECT_THROW(SalvaOpzione(opzione, true), ado::Error) << "it is open";
+        } else {
+            SalvaOpzione(opzione, true);
+        }
+        EXPECT_EQ(salvato(opzione), condiviso ? "0" : caso.spuntata);
+        EXPECT_FALSE(RsCaselle().IsOpen());
+    }
+}
+
+TEST_F(OpzioniTest, NoOptionStandsBehindAnUnknownBox) {
+    EXPECT_THROW(OpzioneDi("Check8"), std::logic_error);
+    EXPECT_THROW(OpzioneDi(""), std::logic_error);
+}
+
 TEST_F(OpzioniTest, ABoxOfANumberedRowWritesWhileTheLoadReads) {
     RsOpzioni().Open("select * from datiGenerali where id = 6", DbAzienda, ado::CursorType::Keyset,
                      ado::LockType::Pessimistic);
@@ -132,9 +183,15 @@ TEST_F(OpzioniTest, ARowHeldByAnotherConsoleIsRefusedAndNotWaitedFor) {
 }
 
 TEST_F(OpzioniTest, TheBadgeCountsOnlyAsExactlyOne) {
-    for (const auto& [lunghezza, usa] : {std::pair{"1", true}, {"-1", false}, {"0", false}, {"2", false}}) {
+    const std::pair<const char*, bool> casi[] = {
+        {"1", true}, {"-1", false}, {"0", false}, {"2", false}, {"null", false}};
+    for (const auto& [lunghezza, usa] : casi) {
         esegui(std::string("update TabellaUilityConti set Lunghezza = ") + lunghezza + " where id = 9");
+        const auto prima = posto.rows(support::kCompany, "select * from TabellaUilityConti");
+        const support::StatementRecorder recorder;
         EXPECT_EQ(UsaBadge(), usa) << lunghezza;
+        EXPECT_EQ(recorder.texts(), std::vector<std::string>{"select * from TabellaUilityConti where id = 9"});
+        EXPECT_EQ(posto.rows(support::kCompany, "select * from TabellaUilityConti"), prima);
     }
 }
 

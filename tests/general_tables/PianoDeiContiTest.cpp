@@ -88,6 +88,38 @@ TEST_F(PianoDeiContiTest, ANumberGoesThroughWithoutACheckOfItsRange) {
     EXPECT_EQ(lunghezze(), (Riga{"-1", "-2", "2", "100", "0"}));
 }
 
+TEST_F(PianoDeiContiTest, ANumberBeyondItsColumnIsRefusedAndTheNextDefinitionGoesThrough) {
+    support::DialogScript script;
+    script.expectQuestion("Utilizzi il Piano dei Conti Standard?", false);
+    script.expectInput("Lunghezza del campo Mastro ", "Lunghezza", "3", "4");
+    script.expectInput("Lunghezza del campo Conto ", "Lunghezza", "2", "99999999999");
+    try {
+        DefinisciPianoDeiConti(0);
+        ADD_FAILURE() << "a number beyond the column was stored";
+    } catch (const ado::Error& errore) {
+        EXPECT_EQ(errore.description(), "Multiple-step operation generated errors. Check each status value.");
+    }
+    EXPECT_EQ(lunghezze(), (Riga{"-1", "4", "2", "4", "0"})) << "the rows ahead of it are written, the others aren't";
+    aspettaDomande(script, "5", "5", "5");
+    DefinisciPianoDeiConti(0);
+    EXPECT_EQ(lunghezze(), (Riga{"-1", "5", "5", "5", "0"}));
+}
+
+TEST_F(PianoDeiContiTest, TheAnswerStaysInTheWorkText) {
+    support::DialogScript script;
+    aspettaDomande(script, "7", "8", "abc");
+    DefinisciPianoDeiConti(0);
+    EXPECT_EQ(Appoggio, "abc");
+}
+
+TEST_F(PianoDeiContiTest, EverySharedRecordsetIsClosedAtTheEnd) {
+    RsCondivisi(2).Open("select * from datiGenerali", DbAzienda);
+    support::DialogScript script;
+    script.expectQuestion("Utilizzi il Piano dei Conti Standard?", true);
+    DefinisciPianoDeiConti(0);
+    EXPECT_FALSE(RsCondivisi(2).IsOpen());
+}
+
 TEST_F(PianoDeiContiTest, ADatabaseErrorIsNotTrapped) {
     support::DialogScript script;
     script.expectQuestion("Utilizzi il Piano dei Conti Standard?", true);

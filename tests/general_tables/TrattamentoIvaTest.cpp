@@ -30,9 +30,40 @@ TEST_F(TrattamentoIvaTest, TheStandardIsTwoUntilOneIsStored) {
     EXPECT_EQ(valore("select count(*) from IvaAliquotaStandard"), "1");
 }
 
+TEST_F(TrattamentoIvaTest, TheStandardIsReadAndStoredThroughOneStatement) {
+    const support::StatementRecorder recorder;
+    LeggiAliquotaStandard();
+    EXPECT_EQ(recorder.texts(), std::vector<std::string>{"select * from IvaAliquotaStandard  "});
+    SalvaAliquotaStandard(3, "10,00", "10", "100,00");
+    EXPECT_EQ(recorder.count("select * from IvaAliquotaStandard  "), 2);
+}
+
+TEST_F(TrattamentoIvaTest, TheSiglaIsTrimmedAtBothEndsAndMayBeEmpty) {
+    const std::pair<const char*, const char*> casi[] = {{"  a b  ", "a b"}, {"x", "x"}, {" ", ""}, {"", ""}};
+    for (const auto& [scritta, salvata] : casi) {
+        SalvaAliquotaStandard(3, "10,00", scritta, "100,00");
+        EXPECT_EQ(valore("select Sigla from IvaAliquotaStandard"), salvata);
+    }
+}
+
+TEST_F(TrattamentoIvaTest, AStoreIsRefusedWhereItCannotBeWritten) {
+    EXPECT_THROW(SalvaAliquotaStandard(3, "10,00", "dodici lettere", "100,00"), ado::Error);
+    EXPECT_EQ(riga("select idTipo, Sigla from IvaAliquotaStandard"), (Riga{"2", "22"}));
+    DbAzienda.Close();
+    EXPECT_THROW(SalvaAliquotaStandard(3, "10,00", "10", "100,00"), ado::Error);
+}
+
+TEST_F(TrattamentoIvaTest, NumbersAreGroupedAndHaveTheLocalesDecimals) {
+    esegui("update IvaTrattamento set Aliquota = 1234.5, quotadetrazione = 1000000 where idautonumber = 6");
+    EXPECT_EQ(AliquotaTrattamento(6), "1.234,50");
+    EXPECT_EQ(DetrazioneTrattamento(6), "1.000.000,00");
+}
+
 TEST_F(TrattamentoIvaTest, AnEmptyOrUnreadableStandardIsTwo) {
-    esegui("update IvaAliquotaStandard set idTipo = 0");
-    EXPECT_EQ(LeggiAliquotaStandard(), 2);
+    for (const char* vuoto : {"0", "null"}) {
+        esegui(std::string("update IvaAliquotaStandard set idTipo = ") + vuoto);
+        EXPECT_EQ(LeggiAliquotaStandard(), 2) << vuoto;
+    }
     DbAzienda.Close();
     EXPECT_EQ(LeggiAliquotaStandard(), 2);
 }
@@ -57,6 +88,12 @@ TEST_F(TrattamentoIvaTest, ARateOfZeroIsNoNumber) {
     EXPECT_EQ(errore([] { DetrazioneTrattamento(7); }), ado::kTypeMismatch);
     EXPECT_EQ(errore([] { AliquotaTrattamento(999); }), ado::kTypeMismatch);
     EXPECT_EQ(DescrizioneTrattamento(999), "");
+    esegui("update IvaTrattamento set Descrizione = null, Aliquota = null, quotadetrazione = null, Sigla = null where "
+           "idautonumber = 6");
+    EXPECT_EQ(errore([] { AliquotaTrattamento(6); }), ado::kTypeMismatch);
+    EXPECT_EQ(errore([] { DetrazioneTrattamento(6); }), ado::kTypeMismatch);
+    EXPECT_EQ(DescrizioneTrattamento(6), "");
+    EXPECT_EQ(SiglaTrattamento(6), "");
 }
 
 } // namespace

@@ -57,15 +57,24 @@ TEST_P(OneRight, ComesFromItsOwnColumn) {
     EXPECT_EQ(DirittiUtente, expected);
 }
 
-INSTANTIATE_TEST_SUITE_P(
-    AbilitazioneUtente, OneRight,
-    testing::Values(Column{"Administrator", &Diritti::Administrator}, Column{"A_Inserisci", &Diritti::A_Inserisci},
-                    Column{"A_Cancella", &Diritti::A_Cancella}, Column{"A_Iva", &Diritti::A_Iva},
-                    Column{"A_Bilancio", &Diritti::A_Bilancio}, Column{"A_Personale", &Diritti::A_Personale},
-                    Column{"A_ArchivioStoria", &Diritti::A_ArchivioStoria}, Column{"A_PFinanza", &Diritti::A_PFinanza},
-                    Column{"A_Synchro", &Diritti::A_Synchro}, Column{"A_EmettiPagamenti", &Diritti::A_EmettiPagamenti},
-                    Column{"A_Progetta", &Diritti::A_Progetta}, Column{"Disabilita", &Diritti::Disabilita}),
-    [](const auto& test) { return std::string(test.param.name); });
+constexpr Column kColumns[] = {{"Administrator", &Diritti::Administrator},
+                               {"A_Inserisci", &Diritti::A_Inserisci},
+                               {"A_Cancella", &Diritti::A_Cancella},
+                               {"A_Iva", &Diritti::A_Iva},
+                               {"A_Bilancio", &Diritti::A_Bilancio},
+                               {"A_Personale", &Diritti::A_Personale},
+                               {"A_ArchivioStoria", &Diritti::A_ArchivioStoria},
+                               {"A_PFinanza", &Diritti::A_PFinanza},
+                               {"A_Synchro", &Diritti::A_Synchro},
+                               {"A_EmettiPagamenti", &Diritti::A_EmettiPagamenti},
+                               {"A_Progetta", &Diritti::A_Progetta},
+                               {"Disabilita", &Diritti::Disabilita}};
+
+std::string columnName(const testing::TestParamInfo<Column>& test) {
+    return test.param.name;
+}
+
+INSTANTIATE_TEST_SUITE_P(AbilitazioneUtente, OneRight, testing::ValuesIn(kColumns), columnName);
 
 TEST_F(AbilitazioneUtente, SuccessReplacesAllFlagsAtOnce) {
     DirittiUtente = kDirittiLoginSenzaUtenti;
@@ -143,6 +152,60 @@ TEST_F(AbilitazioneUtente, AnApostropheInTheNameSurfacesAsAnErrorOfTheDatabase) 
     EXPECT_THROW(CaricaAbilitazione("o'brien", "x"), ado::Error);
     EXPECT_EQ(TentativiLogin, 0);
     EXPECT_EQ(DirittiUtente, kDirittiPrimaDelLogin);
+}
+
+/// The table as another program might have made it: with flags that may be null.
+class NullRight : public OneRight {
+protected:
+    NullRight() {
+        workstation.run(kCompany, "drop table AbilitazioneAccessi");
+        workstation.run(kCompany,
+                        "create table AbilitazioneAccessi (idautonumber int identity(1,1) not null, NomeUtente "
+                        "nvarchar(25) null, PaswUtente nvarchar(12) null, Administrator bit null, A_Inserisci bit "
+                        "null, A_Cancella bit null, A_Iva bit null, A_Bilancio bit null, A_Personale bit null, "
+                        "A_ArchivioStoria bit null, A_PFinanza bit null, A_Synchro bit null, A_EmettiPagamenti bit "
+                        "null, A_Progetta bit null, Disabilita bit null)");
+        workstation.run(kCompany, "insert into AbilitazioneAccessi values ('contabile', 'estate24', 1, 1, 1, 1, 1, 1, "
+                                  "1, 1, 1, 1, 1, 0)");
+    }
+};
+
+TEST_P(NullRight, GoesIntoNoFlagAndChangesNothing) {
+    DirittiUtente = kDirittiPrimaDelLogin;
+    setFlags(std::string(GetParam().name) + " = null");
+    try {
+        CaricaAbilitazione("contabile", "estate24");
+        ADD_FAILURE() << "a null went into a flag";
+    } catch (const ado::Error& error) {
+        EXPECT_EQ(error.number(), ado::kInvalidUseOfNull);
+    }
+    EXPECT_EQ(DirittiUtente, kDirittiPrimaDelLogin);
+    EXPECT_EQ(TentativiLogin, 0);
+    setFlags(std::string(GetParam().name) + " = 0");
+    CaricaAbilitazione("contabile", "estate24");
+    EXPECT_EQ(DirittiUtente.*GetParam().flag, kFalso);
+}
+
+INSTANTIATE_TEST_SUITE_P(AbilitazioneUtente, NullRight, testing::ValuesIn(kColumns), columnName);
+
+TEST_F(AbilitazioneUtente, ANullNameOrPasswordIsFoundByNobody) {
+    workstation.run(kCompany, "insert into AbilitazioneAccessi (NomeUtente, PaswUtente) values (null, 'x1')");
+    workstation.run(kCompany, "insert into AbilitazioneAccessi (NomeUtente, PaswUtente) values ('vuoto', null)");
+    expectRefusal();
+    CaricaAbilitazione("null", "x1");
+    expectRefusal();
+    CaricaAbilitazione("vuoto", "null");
+    EXPECT_EQ(TentativiLogin, 2);
+}
+
+TEST_F(AbilitazioneUtente, EverySharedRecordsetIsClosedAheadAndBehind) {
+    RsCondivisi(5).Open("select * from Sede", DbAzienda);
+    CaricaAbilitazione("contabile", "estate24");
+    EXPECT_FALSE(RsCondivisi(5).IsOpen());
+    RsCondivisi(5).Open("select * from Sede", DbAzienda);
+    expectRefusal();
+    CaricaAbilitazione("contabile", "sbagliata");
+    EXPECT_FALSE(RsCondivisi(5).IsOpen());
 }
 
 TEST_F(AbilitazioneUtente, AClosedCompanySurfacesAsAnError) {

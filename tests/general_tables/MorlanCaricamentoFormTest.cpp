@@ -1,0 +1,137 @@
+#include "MorlanFixture.h"
+
+namespace vabo {
+namespace {
+
+/// The console after a load that ended before its last step. What the load hasn't reached has neither a connection nor
+/// a source, and a refresh of it fails; no store says more of it than the error does.
+class MorlanCaricamento : public MorlanForm {
+protected:
+    static constexpr const char* kSenzaSorgente = "Server does not exist or access denied.";
+    static constexpr const char* kSenzaColonne = "Subscript out of range";
+
+    /// The ticked box of the budget items ends the reading of the options at its row.
+    void apriFinoAlBudget() {
+        esegui("update TabellaUilityConti set Lunghezza = -1 where id = 5");
+        apri();
+    }
+    /// The list of the third tab can't be read: none of the options, and none of the grids.
+    void apriFinoAgliElenchi() {
+        esegui("drop table tabellacontiutili");
+        script.expectMessage("Invalid object name 'tabellacontiutili'.");
+        apri();
+    }
+    void doppioClick(int numero, const char* griglia) {
+        scheda(numero);
+        QTest::mouseDClick(MorlanForm::griglia(griglia).viewport(), Qt::LeftButton, {}, {20, 20});
+    }
+    std::vector<Riga> fatture() const {
+        return posto.rows(support::kCompany, "select * from ivaTabellaContiUtili order by ID");
+    }
+};
+
+TEST_F(MorlanCaricamento, EnterInThePickerOfInvoicesTellsThatItsGridHasNoSource) {
+    apriFinoAlBudget();
+    const auto prima = fatture();
+    scheda(4);
+    combo("DCBItems3").setFocus();
+    script.expectMessage(kSenzaSorgente);
+    const support::StatementRecorder recorder;
+    gui.press(Qt::Key_Return);
+    EXPECT_TRUE(recorder.texts().empty()) << "no row was chosen, and nothing could be read";
+    EXPECT_TRUE(gui.form("Avvio_Morlan").isEnabled());
+    EXPECT_EQ(fuoco(), "DCBItems3");
+    EXPECT_EQ(combo("DCBItems3").Text(), "Seleziona");
+    EXPECT_EQ(righe("DataGrid11"), 0);
+    EXPECT_EQ(fatture(), prima);
+}
+
+TEST_F(MorlanCaricamento, APickTellsItTooAndForgetsItsAccount) {
+    apriFinoAlBudget();
+    const auto prima = fatture();
+    scheda(4);
+    const std::string voce = valore("select NomeConto + ' ' + Contoreport from conti where IdConto = 1077");
+    script.expectMessage(kSenzaSorgente);
+    prendi("DCBItems3", voce);
+    EXPECT_EQ(combo("DCBItems3").Text(), voce) << "the steps behind the refresh don't run";
+    EXPECT_EQ(fatture(), prima);
+    scheda(5);
+    scegli("DataGridPersonale", "12");
+    gui.press(Qt::Key_Return);
+    EXPECT_EQ(conto("bustetabellacontiutili", "Id", 12), (Riga{"0", "0"}));
+}
+
+TEST_F(MorlanCaricamento, TheFirstOpeningOfANewDatabaseIsSuchALoad) {
+    esegui("delete from TabellaUilityConti");
+    apri();
+    scheda(4);
+    combo("DCBItems3").setFocus();
+    script.expectMessage(kSenzaSorgente);
+    gui.press(Qt::Key_Return);
+    riapri();
+    scheda(4);
+    combo("DCBItems3").setFocus();
+    gui.press(Qt::Key_Return);
+    EXPECT_EQ(righe("DataGrid11"), 10) << "read again without a word";
+}
+
+TEST_F(MorlanCaricamento, ADoubleClickOnAGridWithoutColumnsTellsThatThereIsNoFirstOne) {
+    apriFinoAgliElenchi();
+    const std::pair<int, const char*> griglie[] = {
+        {1, "DataGrid2"}, {2, "DataGrid4"}, {4, "DataGrid11"}, {5, "DataGridPersonale"}};
+    for (const auto& [numero, nome] : griglie) {
+        SCOPED_TRACE(nome);
+        ASSERT_EQ(griglia(nome).ColumnCount(), 0);
+        script.expectMessage(kSenzaColonne);
+        doppioClick(numero, nome);
+        EXPECT_TRUE(script.allShown());
+    }
+    EXPECT_FALSE(visibile("Frame6"));
+    EXPECT_FALSE(visibile("Frame2"));
+}
+
+TEST_F(MorlanCaricamento, TheTabsThatTheLoadReachedWorkAsEver) {
+    apriFinoAlBudget();
+    scheda(1);
+    scegli("DataGrid2", "4");
+    gui.press(Qt::Key_Return);
+    EXPECT_EQ(rigaCorrente("DataGrid2"), "5");
+    scheda(2);
+    scegli("DataGrid4", "2");
+    gui.press(Qt::Key_Return);
+    EXPECT_EQ(rigaCorrente("DataGrid4"), "3");
+    scheda(5);
+    scegli("DataGridPersonale", "3");
+    gui.press(Qt::Key_Return);
+    EXPECT_EQ(combo("DCBitems4").Text(), "Seleziona");
+}
+
+TEST_F(MorlanCaricamento, ATurnGivesTheThirdTabItsSourceWhateverTheLoadReached) {
+    esegui("update datiGenerali set Contatore = null where Descrizione = 'Sede Amministrativa'");
+    apri();
+    EXPECT_EQ(righe("DataGrid2"), 0);
+    scheda(2);
+    EXPECT_EQ(griglia("DataGrid4").ColumnCount(), 0);
+    gui.click("Avvio_Morlan", "Command18");
+    EXPECT_EQ(righe("DataGrid4"), 12);
+    EXPECT_EQ(testo("Label14"), "Tabella Conti Buste paga");
+    scegli("DataGrid4", "2");
+    EXPECT_TRUE(visibile("Frame2"));
+}
+
+TEST_F(MorlanCaricamento, EnterInThePickersWithoutAListStoresNothing) {
+    apriFinoAgliElenchi();
+    scheda(5);
+    combo("DCBitems4").setFocus();
+    const support::StatementRecorder recorder;
+    gui.press(Qt::Key_Return);
+    EXPECT_TRUE(recorder.texts().empty());
+    scheda(4);
+    combo("DCBItems3").setFocus();
+    script.expectMessage(kSenzaSorgente);
+    gui.press(Qt::Key_Return);
+    EXPECT_TRUE(recorder.texts().empty());
+}
+
+} // namespace
+} // namespace vabo

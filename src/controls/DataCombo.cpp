@@ -2,6 +2,7 @@
 
 #include "controls/FocusTracker.h"
 #include "controls/ListModel.h"
+#include "controls/UserInput.h"
 
 #include <QApplication>
 #include <QCompleter>
@@ -38,7 +39,10 @@ DataCombo::DataCombo(QWidget* parent) : QComboBox(parent), list_(new ListModel(t
     search->setCaseSensitivity(Qt::CaseInsensitive);
     search->setFilterMode(Qt::MatchContains);
     search->setMaxVisibleItems(kVisibleRows);
+    search->setWrapAround(false);
     setCompleter(search);
+    search->popup()->installEventFilter(this);
+    UserInput::watch();
     lineEdit()->installEventFilter(this);
     connect(this, &QComboBox::activated, this, &DataCombo::picked);
     connect(&FocusTracker::instance(), &FocusTracker::moved, this, &DataCombo::followFocus);
@@ -69,8 +73,17 @@ void DataCombo::ReFill() {
 
 void DataCombo::setText(const std::string& text) {
     pickedRow_ = -1;
+    chosen_ = QString::fromStdString(text);
     setCurrentIndex(-1);
-    setEditText(QString::fromStdString(text));
+    setEditText(chosen_);
+}
+
+void DataCombo::restoreChosen() {
+    if (currentText() == chosen_)
+        return;
+    setEditText(chosen_);
+    if (hasFocus())
+        lineEdit()->selectAll(); // as when the focus comes: typing starts anew
 }
 
 std::string DataCombo::BoundText() const {
@@ -86,6 +99,7 @@ void DataCombo::setBoundText(const std::string& key) {
         return;
     }
     pickedRow_ = row;
+    chosen_ = list_->textAt(row);
     setCurrentIndex(row);
 }
 
@@ -94,6 +108,7 @@ void DataCombo::picked(int row) {
     if (leaving_)
         return;
     pickedRow_ = row;
+    chosen_ = list_->textAt(row);
     emit Click(List);
 }
 
@@ -109,8 +124,56 @@ void DataCombo::keyPressEvent(QKeyEvent* event) {
     case Qt::Key_PageDown:
         showPopup(); // no row is picked unseen
         return;
+    case Qt::Key_Escape:
+        restoreChosen();
+        event->ignore(); // the form may have something to leave
+        return;
     default:
         QComboBox::keyPressEvent(event);
+        highlightOnlyMatch();
+    }
+}
+
+void DataCombo::inputMethodEvent(QInputMethodEvent* event) {
+    QComboBox::inputMethodEvent(event);
+    highlightOnlyMatch();
+}
+
+void DataCombo::highlightOnlyMatch() {
+    QAbstractItemView* found = completer()->popup();
+    const QAbstractItemModel* matches = completer()->completionModel();
+    if (!found->isVisible() || matches->rowCount() != 1)
+        return;
+    const QSignalBlocker quiet(completer()); // the text stays as it was typed
+    found->setCurrentIndex(matches->index(0, 0));
+}
+
+// The keys that end the search; true where they have done their work. Other keys, and Enter on a highlighted row, are
+// the completer's.
+bool DataCombo::keyInSearch(const QKeyEvent& key) {
+    QAbstractItemView& found = *completer()->popup();
+    const bool highlighted = found.currentIndex().isValid();
+    switch (key.key()) {
+    case Qt::Key_Escape:
+        found.hide();
+        restoreChosen();
+        return true;
+    case Qt::Key_Tab:
+        if (highlighted) {
+            QKeyEvent enter(QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier);
+            QApplication::sendEvent(&found, &enter);
+        }
+        return highlighted;
+    case Qt::Key_Return:
+    case Qt::Key_Enter:
+        if (!highlighted) {
+            found.hide();
+            QKeyEvent enter(QEvent::KeyPress, key.key(), key.modifiers());
+            QApplication::sendEvent(this, &enter);
+        }
+        return !highlighted;
+    default:
+        return false;
     }
 }
 
@@ -151,6 +214,9 @@ bool DataCombo::eventFilter(QObject* watched, QEvent* event) {
         selectAtRelease_ = false;
         lineEdit()->selectAll();
     }
+    if (watched == completer()->popup() && event->type() == QEvent::KeyPress &&
+        keyInSearch(static_cast<const QKeyEvent&>(*event)))
+        return true;
     return QComboBox::eventFilter(watched, event);
 }
 
@@ -160,6 +226,7 @@ void DataCombo::followFocus(QWidget* from, QWidget* to) {
         selectAtRelease_ = QApplication::mouseButtons() != Qt::NoButton;
         emit GotFocus();
     } else if (from == this) {
+        restoreChosen();
         emit LostFocus();
     }
 }

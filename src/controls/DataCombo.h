@@ -11,7 +11,11 @@ namespace controls {
 class ListModel;
 
 /// A field with a list over the rows of a data control: it shows ListField and gives BoundColumn. A pick doesn't move
-/// the source's current row. Typing searches the list.
+/// the source's current row.
+///
+/// Typing searches the list and picks nothing. Enter or Tab on a row that is highlighted in what was found is a pick;
+/// what alone is found is highlighted. A text that wasn't picked gives way to the one that the form or a pick has put
+/// there: when the field is left, at Esc, and before an Enter reaches the form.
 class DataCombo : public QComboBox {
     Q_OBJECT
 public:
@@ -35,6 +39,8 @@ public:
     std::string BoundText() const;
     /// Shows the row of this key; the empty text where there is none.
     void setBoundText(const std::string& key);
+    /// Takes back what was typed and not picked.
+    void restoreChosen();
 
 signals:
     void GotFocus();
@@ -43,6 +49,7 @@ signals:
 
 protected:
     void keyPressEvent(QKeyEvent* event) override;
+    void inputMethodEvent(QInputMethodEvent* event) override;
     void wheelEvent(QWheelEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
     void focusOutEvent(QFocusEvent* event) override;
@@ -52,11 +59,14 @@ protected:
 private:
     void followFocus(QWidget* from, QWidget* to);
     void picked(int row);
+    bool keyInSearch(const QKeyEvent& key);
+    void highlightOnlyMatch();
     void widenPopup();
 
     DataControl* source_ = nullptr;
     ListModel* list_;
     int pickedRow_ = -1; ///< tells rows of one text apart
+    QString chosen_;     ///< the text of the last pick or of the form
     bool leaving_ = false;
     bool selectAtRelease_ = false;
 };

@@ -1,10 +1,12 @@
 #include "controls/DataGrid.h"
 
 #include "ado/Conversions.h"
+#include "controls/UserInput.h"
 
 #include <QHeaderView>
 #include <QKeyEvent>
 #include <QScopedValueRollback>
+#include <QScrollBar>
 
 #include <algorithm>
 
@@ -80,6 +82,7 @@ DataGrid::DataGrid(QWidget* parent) : QTableView(parent), model_(new RecordsetMo
     horizontalHeader()->setHighlightSections(false);
     horizontalHeader()->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
     connect(this, &QTableView::doubleClicked, this, &DataGrid::DblClick);
+    UserInput::watch();
 }
 
 void DataGrid::setDataSource(DataControl* source) {
@@ -113,11 +116,12 @@ void DataGrid::followRecordset() {
     DataControl* source = model_->source();
     const bool open = source != nullptr && source->hasRecordset() && source->Recordset().IsOpen();
     const long position = open ? source->Recordset().AbsolutePosition() : -1;
-    if (position < 1) {
+    const bool pastTheEnd = position < 1 && open && source->Recordset().EOF() && model_->rowCount() > 0;
+    if (position < 1 && !pastTheEnd) {
         setCurrentIndex({});
         return;
     }
-    const int row = static_cast<int>(position) - 1;
+    const int row = pastTheEnd ? model_->rowCount() - 1 : static_cast<int>(position) - 1;
     if (currentIndex().row() != row)
         setCurrentIndex(model_->index(row, visibleColumn()));
 }
@@ -141,17 +145,31 @@ void DataGrid::currentChanged(const QModelIndex& current, const QModelIndex& pre
     QTableView::currentChanged(current, previous);
     if (following_ || !current.isValid() || current.row() == previous.row())
         return;
-    DataControl* source = model_->source();
-    source->byUser([&] { source->Recordset().setAbsolutePosition(current.row() + 1); });
+    takeRow();
     followRecordset();
+}
+
+void DataGrid::takeRow() {
+    const int row = currentIndex().row();
+    DataControl* source = model_->source();
+    if (row >= 0 && source->Recordset().AbsolutePosition() != row + 1)
+        source->byUser([&] { source->Recordset().setAbsolutePosition(row + 1); });
 }
 
 void DataGrid::keyPressEvent(QKeyEvent* event) {
     const bool enter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
-    if (enter && state() != EditingState && currentIndex().isValid())
+    if (enter && state() != EditingState && currentIndex().isValid()) {
+        takeRow();
         emit DblClick();
-    else
+    } else {
         QTableView::keyPressEvent(event);
+    }
+}
+
+void DataGrid::mousePressEvent(QMouseEvent* event) {
+    QTableView::mousePressEvent(event);
+    if (indexAt(event->position().toPoint()).isValid())
+        takeRow();
 }
 
 void DataGrid::mouseDoubleClickEvent(QMouseEvent* event) {
@@ -189,9 +207,19 @@ void DataGrid::shareWidth() {
                                          model_->column(widest).twips / kTwipsInAPixel}));
 }
 
+bool DataGrid::isInSight(const QSize& viewport) const {
+    return currentIndex().isValid() && QRect({}, viewport).contains(visualRect(currentIndex()).center());
+}
+
 void DataGrid::resizeEvent(QResizeEvent* event) {
+    const bool inSight = isInSight(event->oldSize());
     QTableView::resizeEvent(event);
     shareWidth();
+    if (inSight && !isInSight(viewport()->size())) {
+        const int column = horizontalScrollBar()->value();
+        scrollTo(currentIndex());
+        horizontalScrollBar()->setValue(column);
+    }
 }
 
 void DataGrid::focusInEvent(QFocusEvent* event) {

@@ -6,8 +6,9 @@
 
 namespace controls {
 
-/// A grid over the rows of a data control. Its current row and the recordset's are one. Each refresh of the source
-/// makes the columns anew: every field visible, under its own name, open to edits.
+/// A grid over the rows of a data control. Its current row and the recordset's are one; only past the end it stands on
+/// its last row, which a click or Enter then makes current. Each refresh of the source makes the columns anew: every
+/// field visible, under its own name, open to edits.
 class DataGrid : public QTableView {
     Q_OBJECT
 public:
@@ -50,6 +51,7 @@ signals:
 
 protected:
     void keyPressEvent(QKeyEvent* event) override;
+    void mousePressEvent(QMouseEvent* event) override;
     void mouseDoubleClickEvent(QMouseEvent* event) override;
     void currentChanged(const QModelIndex& current, const QModelIndex& previous) override;
     void focusInEvent(QFocusEvent* event) override;
@@ -57,6 +59,8 @@ protected:
 
 private:
     void followRecordset();
+    void takeRow();
+    bool isInSight(const QSize& viewport) const;
     int visibleColumn() const;
     void leaveHiddenColumn();
     void showAllColumns();

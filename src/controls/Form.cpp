@@ -1,5 +1,6 @@
 #include "controls/Form.h"
 
+#include "controls/UserInput.h"
 #include "platform/Forms.h"
 
 #include <QAbstractButton>
@@ -36,6 +37,7 @@ QString spokenName(QString caption) {
 
 Form::Form(const char* name) {
     setObjectName(QString::fromUtf8(name));
+    UserInput::watch();
 }
 
 void Form::runLoad() {
@@ -84,7 +86,8 @@ void Form::UnloadMe() {
 
 void Form::closeEvent(QCloseEvent* event) {
     event->ignore();
-    UnloadMe();
+    if (isVisible()) // the close of a window that another event has hidden meanwhile comes too late
+        UnloadMe();
 }
 
 void Form::nameForAssistiveTools() {

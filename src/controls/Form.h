@@ -26,6 +26,7 @@ public:
     void runActivate();
     void runUnload();
     bool isUnloading() const { return unloading_; }
+    bool takesScreen() const { return takesScreen_; }
 
 protected:
     virtual void Load() {}
@@ -51,6 +52,9 @@ protected:
     void Refresh();
     void Hide();
     void UnloadMe();
+    /// A window of much to show: its size comes from the screen and not from its contents, and where the user leaves it
+    /// it stands at its next showing.
+    void takeScreen() { takesScreen_ = true; }
 
     void closeEvent(QCloseEvent* event) override;
 
@@ -60,6 +64,7 @@ private:
 
     bool unloading_ = false;
     bool unloaded_ = false;
+    bool takesScreen_ = false;
 };
 
 } // namespace controls

@@ -4,15 +4,23 @@
 #include <QScreen>
 #include <QWindow>
 
+#include <algorithm>
+
 namespace controls {
 
 namespace {
 
+constexpr double kPartOfTheScreen = 0.9;
+constexpr QSize kLargest(1600, 1100); // more makes a grid's rows too long to follow
+
 void centre(Form& form) {
     const QRect place = form.screen()->availableGeometry();
     form.adjustSize(); // which stops short of a small screen's edges
-    form.resize(form.size().expandedTo(form.sizeHint()).boundedTo(place.size()));
-    form.move(place.center() - form.rect().center());
+    const QSize wanted = form.takesScreen() ? (place.size() * kPartOfTheScreen).boundedTo(kLargest)
+                                            : form.size().expandedTo(form.sizeHint());
+    form.resize(wanted.boundedTo(place.size()));
+    const QPoint centred = place.center() - form.rect().center();
+    form.move(std::max(place.left(), centred.x()), std::max(place.top(), centred.y()));
 }
 
 } // namespace
@@ -44,6 +52,10 @@ bool FormRegistry::show(std::string_view name) {
     Form* form = load(name);
     if (form == nullptr)
         return true; // its own Load has unloaded it
+    if (form->isUnloading()) {
+        wantedAgain_.emplace(name);
+        return true;
+    }
     if (form->isMinimized())
         form->showNormal();
     form->setVisible(true);
@@ -65,8 +77,14 @@ Form* FormRegistry::load(std::string_view name) {
     form->runLoad();
     if (loaded(name) != form || form.isNull())
         return nullptr;
-    centre(*form);
+    place(*form);
     return form;
+}
+
+void FormRegistry::place(Form& form) const {
+    const auto left = places_.find(form.Name());
+    if (left == places_.end() || !form.restoreGeometry(left->second))
+        centre(form);
 }
 
 void FormRegistry::activate(Form& form) {
@@ -95,10 +113,15 @@ void FormRegistry::unload(std::string_view name) {
     Form* form = loaded(name);
     if (form == nullptr || form->isUnloading())
         return;
+    const std::string own(name);
     form->runUnload();
     if (active_ == form)
         active_ = nullptr;
-    forms_.erase(forms_.find(name));
+    if (form->takesScreen())
+        places_.insert_or_assign(own, form->saveGeometry());
+    forms_.erase(own);
+    if (wantedAgain_.erase(own) > 0)
+        show(own);
 }
 
 bool FormRegistry::isLoaded(std::string_view name) const {

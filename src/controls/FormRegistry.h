@@ -3,12 +3,14 @@
 #include "controls/Form.h"
 #include "platform/Forms.h"
 
+#include <QByteArray>
 #include <QObject>
 #include <QPointer>
 
 #include <functional>
 #include <map>
 #include <memory>
+#include <set>
 #include <string>
 #include <string_view>
 
@@ -43,11 +45,14 @@ private:
     using Holder = std::unique_ptr<Form, Gone>;
 
     Form* load(std::string_view name);
+    void place(Form& form) const;
     void activate(Form& form);
     void followWindows();
 
     std::map<std::string, Factory, std::less<>> factories_;
     std::map<std::string, Holder, std::less<>> forms_;
+    std::map<std::string, QByteArray, std::less<>> places_; ///< where forms that take the screen were left
+    std::set<std::string, std::less<>> wantedAgain_;        ///< shown by their own Unload
     QPointer<Form> active_;
 };
 

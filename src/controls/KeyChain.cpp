@@ -1,5 +1,8 @@
 #include "controls/KeyChain.h"
 
+#include "controls/DataCombo.h"
+#include "controls/UserInput.h"
+
 #include <QKeyEvent>
 #include <QWidget>
 
@@ -41,6 +44,10 @@ bool KeyChain::eventFilter(QObject* watched, QEvent* event) {
     });
     if (row == rows_.end())
         return false;
+    if (UserInput::isRepeat(key))
+        return true; // a held key ends one entry
+    if (auto* combo = qobject_cast<DataCombo*>(row->field))
+        combo->restoreChosen();
     run_(row->handler);
     return true;
 }

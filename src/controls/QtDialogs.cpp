@@ -26,19 +26,29 @@ QString titleOr(const std::string& title) {
     return title.empty() ? applicationTitle() : QString::fromStdString(title);
 }
 
-/// Shows a box with its buttons; true when the first one was chosen. Esc is the last one.
-bool ask(const std::string& text, QMessageBox::Icon icon, const QStringList& captions) {
+/// Whether Esc and the close button are the last button, or a box is left by its buttons alone.
+enum class Leaving { ByEscToo, ByButtonsAlone };
+
+/// Shows a box with its buttons; true when the first one was chosen.
+bool ask(const std::string& text, QMessageBox::Icon icon, const QStringList& captions,
+         Leaving leaving = Leaving::ByEscToo) {
+    const bool escToo = leaving == Leaving::ByEscToo;
     QMessageBox box(icon, applicationTitle(), QString(), QMessageBox::NoButton, QApplication::activeWindow());
     box.setTextFormat(Qt::PlainText);
     box.setText(QString::fromStdString(text));
     QList<QPushButton*> buttons;
     for (const QString& caption : captions) {
         const bool first = buttons.isEmpty();
-        buttons.append(box.addButton(caption, first ? QMessageBox::AcceptRole : QMessageBox::RejectRole));
+        // A button that refuses would be taken for the one of Esc.
+        const auto other = escToo ? QMessageBox::RejectRole : QMessageBox::ActionRole;
+        buttons.append(box.addButton(caption, first ? QMessageBox::YesRole : other));
         buttons.last()->setObjectName(caption);
     }
     box.setDefaultButton(buttons.first());
-    box.setEscapeButton(buttons.last());
+    if (escToo)
+        box.setEscapeButton(buttons.last());
+    else
+        box.setWindowFlags(Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint);
     box.exec();
     return box.clickedButton() == buttons.first();
 }
@@ -50,7 +60,7 @@ void QtDialogs::message(const std::string& text, platform::Icon icon) {
 }
 
 bool QtDialogs::question(const std::string& text) {
-    return ask(text, QMessageBox::Question, {kSi, kNo});
+    return ask(text, QMessageBox::Question, {kSi, kNo}, Leaving::ByButtonsAlone);
 }
 
 bool QtDialogs::confirm(const std::string& text) {

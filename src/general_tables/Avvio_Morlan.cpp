@@ -20,6 +20,7 @@ Avvio_Morlan::Avvio_Morlan() : Form("Avvio_Morlan"), ui_(std::make_unique<Ui::Av
     CollegaConti();
     CollegaTrattamento();
     ui_->SSTab1->setFocus();
+    takeScreen();
 }
 
 Avvio_Morlan::~Avvio_Morlan() = default;

@@ -33,13 +33,18 @@ public:
 protected:
     void Load() override;
     void Unload() override;
+    void keyPressEvent(QKeyEvent* event) override;
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
-    /// One of the four pickers of accounts. A pick in its list and Enter store, Delete takes the account away.
+    /// One of the four pickers of accounts. A pick in its list and Enter store, Delete takes the account away, Esc
+    /// leaves the row that was chosen in the grid.
     struct Selettore {
         controls::DataCombo* combo;
         controls::DataControl* elenco;
+        controls::DataGrid* griglia;
+        QWidget* cornice; ///< shown while a row is changed, null where nothing shows it
+        double* riga;
         double* conto;
         std::function<void(OrdineFatture)> salva;
     };
@@ -66,6 +71,7 @@ private:
 
     // The accounts
     void CollegaConti();
+    void LasciaRiga(const Selettore& selettore);
     static void CaricaDati(controls::DataControl& dati, const std::string& testo);
     void CaricaContiUtili();
     void ScegliContoUtile();

@@ -32,6 +32,10 @@ void FermataDelTab(controls::DataCombo& combo, bool fermata) {
     combo.lineEdit()->setFocusPolicy(politica);
 }
 
+bool SiFermaIlTab(const controls::DataCombo& combo) {
+    return (combo.focusPolicy() & Qt::TabFocus) != 0;
+}
+
 const TabellaAltriConti& AltriConti(int tabella) {
     return kAltriConti.at(static_cast<std::size_t>(tabella));
 }
@@ -67,10 +71,14 @@ private:
 
 void Avvio_Morlan::CollegaConti() {
     selettori_ = {
-        {ui_->DCBItem1, ui_->BItems1, &IdContoUtile, [this](OrdineFatture) { SalvaUtile(); }},
-        {ui_->DCBitem2, ui_->BItems2, &IdContoAltri, [this](OrdineFatture) { ProvaESalvaAltro(); }},
-        {ui_->DCBItems3, ui_->BItems3, &IdContoFattura, [this](OrdineFatture ordine) { SalvaFattura(ordine); }},
-        {ui_->DCBitems4, ui_->BItems4, &IdContoFattura, [this](OrdineFatture) { SalvaPersonale(); }},
+        {ui_->DCBItem1, ui_->BItems1, ui_->DataGrid2, ui_->Frame6, &IdRiga, &IdContoUtile,
+         [this](OrdineFatture) { SalvaUtile(); }},
+        {ui_->DCBitem2, ui_->BItems2, ui_->DataGrid4, ui_->Frame2, &IdRiga, &IdContoAltri,
+         [this](OrdineFatture) { ProvaESalvaAltro(); }},
+        {ui_->DCBItems3, ui_->BItems3, ui_->DataGrid11, nullptr, &IdRigaFattura, &IdContoFattura,
+         [this](OrdineFatture ordine) { SalvaFattura(ordine); }},
+        {ui_->DCBitems4, ui_->BItems4, ui_->DataGridPersonale, nullptr, &IdRiga, &IdContoFattura,
+         [this](OrdineFatture) { SalvaPersonale(); }},
     };
     std::vector<controls::KeyRow> tasti;
     for (const Selettore& selettore : selettori_) {
@@ -108,8 +116,38 @@ void Avvio_Morlan::CollegaConti() {
     on(ui_->DataGrid4, &controls::DataGrid::DblClick, [this] { ScegliAltroConto(); });
     on(ui_->DataGrid11, &controls::DataGrid::DblClick, [this] { ScegliContoFattura(); });
     on(ui_->DataGridPersonale, &controls::DataGrid::DblClick, [this] { ScegliContoPersonale(); });
-    on(ui_->Command8, &QPushButton::clicked, [this] { SalvaUtile(); });
+    on(ui_->Command8, &QPushButton::clicked, [this] {
+        ui_->DCBItem1->restoreChosen(); // its mnemonic doesn't leave the picker
+        SalvaUtile();
+    });
     on(ui_->Command18, &QPushButton::clicked, [this] { GiraTabella(); });
+}
+
+void Avvio_Morlan::keyPressEvent(QKeyEvent* event) {
+    const QWidget* fuoco = focusWidget();
+    const auto selettore = std::ranges::find_if(selettori_, [fuoco](const Selettore& ciascuno) {
+        const bool scelta = ciascuno.cornice != nullptr ? ciascuno.cornice->isVisible() : SiFermaIlTab(*ciascuno.combo);
+        const bool dentro = ciascuno.cornice != nullptr && ciascuno.cornice->isAncestorOf(fuoco);
+        return scelta && (dentro || fuoco == ciascuno.combo || fuoco == ciascuno.griglia);
+    });
+    if (event->key() == Qt::Key_Escape && selettore != selettori_.end()) {
+        LasciaRiga(*selettore);
+    } else {
+        Form::keyPressEvent(event);
+    }
+}
+
+// Nothing is stored, and nothing stays chosen that a later Enter could store.
+void Avvio_Morlan::LasciaRiga(const Selettore& selettore) {
+    *selettore.riga = 0;
+    *selettore.conto = 0;
+    selettore.combo->setText(kNessunaScelta);
+    selettore.griglia->setFocus();
+    if (selettore.cornice != nullptr) {
+        selettore.cornice->hide();
+    } else {
+        FermataDelTab(*selettore.combo, false);
+    }
 }
 
 bool Avvio_Morlan::eventFilter(QObject* watched, QEvent* event) {
@@ -182,7 +220,7 @@ void Avvio_Morlan::SalvaUtile() {
 
 void Avvio_Morlan::MostraTabella(const char* etichetta) {
     ui_->Label14->setText(QString::fromUtf8(etichetta));
-    ui_->Command18->setText(QString::fromUtf8(AltriConti(TabellaCorrente).successiva));
+    ui_->Command18->setText(QLatin1Char('&') + QString::fromUtf8(AltriConti(TabellaCorrente).successiva));
 }
 
 void Avvio_Morlan::CaricaAltriConti() {

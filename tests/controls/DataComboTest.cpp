@@ -7,6 +7,8 @@
 #include <QAbstractItemView>
 #include <QApplication>
 #include <QCompleter>
+#include <QDialog>
+#include <QKeyEvent>
 #include <QLineEdit>
 #include <QTest>
 #include <QVBoxLayout>
@@ -34,6 +36,7 @@ protected:
             list->BoundColumn = "id";
             list->setRowSource(&source);
             form->on(list, &controls::DataCombo::Click, [this](int area) { clicks.push_back(area); });
+            form->chain({{list, controls::EndOfEntry::Enter, [this] { stored.push_back(combo().Text()); }}});
             layout->addWidget(list);
             layout->addWidget(field);
             return form;
@@ -46,7 +49,29 @@ protected:
     }
     controls::DataCombo& combo() { return gui.find<controls::DataCombo>("F", "combo"); }
 
+    /// Types, and gives back the search list that opens.
+    QAbstractItemView& search(const std::string& letters) {
+        gui.type(letters);
+        QAbstractItemView* found = combo().completer()->popup();
+        Gui::waitFor("the search", [&] { return found->isVisible(); });
+        return *found;
+    }
+    /// A text of the form's, selected as the focus selects it.
+    void choose(const std::string& text) {
+        combo().setText(text);
+        combo().lineEdit()->selectAll();
+    }
+    void leave() {
+        gui.find("F", "field").setFocus();
+        Gui::handleEvents();
+    }
+    static void hold(QWidget& control, Qt::Key key) {
+        QKeyEvent again(QEvent::KeyPress, key, Qt::NoModifier, QString(), true);
+        QApplication::sendEvent(&control, &again);
+    }
+
     std::vector<int> clicks;
+    std::vector<std::string> stored; ///< the text at each Enter that reaches the form
     std::vector<std::string> log;
     Gui gui;
 };
@@ -139,13 +164,128 @@ TEST_F(DataCombo, AnUnknownListFieldRaises) {
 }
 
 TEST_F(DataCombo, TypingATextOfTheListAndLeavingIsNoPick) {
+    choose("Mela");
     gui.type("Pera");
     combo().completer()->popup()->hide();
-    gui.find("F", "field").setFocus();
-    Gui::handleEvents();
-    EXPECT_EQ(combo().Text(), "Pera");
-    EXPECT_EQ(combo().BoundText(), "2");
+    leave();
+    EXPECT_EQ(combo().Text(), "Mela");
+    EXPECT_EQ(combo().BoundText(), "1");
     EXPECT_TRUE(clicks.empty());
+}
+
+TEST_F(DataCombo, WhatWasTypedGoesBackToThePickWhenTheFieldIsLeft) {
+    combo().setBoundText("5");
+    combo().lineEdit()->selectAll();
+    gui.type("xyz");
+    leave();
+    EXPECT_EQ(combo().Text(), "Pera");
+    EXPECT_EQ(combo().BoundText(), "5") << "the second row of that text";
+    gui.pick("F", "combo", "Albicocca");
+    gui.form("F").activateWindow();
+    gui.waitForFront("F");
+    combo().lineEdit()->selectAll();
+    gui.type("xyz");
+    leave();
+    EXPECT_EQ(combo().Text(), "Albicocca");
+}
+
+TEST_F(DataCombo, WhatWasTypedGoesBackToNothingWhereNothingWasChosen) {
+    gui.type("xyz");
+    leave();
+    EXPECT_EQ(combo().Text(), "");
+}
+
+TEST_F(DataCombo, WhatWasTypedStaysWhileABoxStandsInFront) {
+    choose("Mela");
+    gui.type("xyz");
+    QDialog box(&gui.form("F"));
+    box.show();
+    Gui::waitFor("the box in front", [&] { return QApplication::activeWindow() == &box; });
+    EXPECT_EQ(combo().Text(), "xyz");
+}
+
+TEST_F(DataCombo, EnterGoesToTheFormWithTheChosenText) {
+    choose("Mela");
+    gui.type("xyz");
+    gui.press(Qt::Key_Return);
+    EXPECT_THAT(stored, ElementsAre("Mela"));
+    EXPECT_EQ(combo().Text(), "Mela");
+}
+
+TEST_F(DataCombo, EscGivesBackTheChosenText) {
+    choose("Mela");
+    gui.type("xyz");
+    gui.press(Qt::Key_Escape);
+    EXPECT_EQ(combo().Text(), "Mela");
+}
+
+TEST_F(DataCombo, EscInTheSearchClosesItAndGivesBackTheChosenText) {
+    choose("Mela");
+    QAbstractItemView& found = search("er");
+    QTest::keyClick(&found, Qt::Key_Down);
+    EXPECT_EQ(combo().Text(), "Pera") << "shown while one looks for it";
+    QTest::keyClick(&found, Qt::Key_Escape);
+    EXPECT_FALSE(found.isVisible());
+    EXPECT_EQ(combo().Text(), "Mela");
+    EXPECT_TRUE(clicks.empty());
+}
+
+TEST_F(DataCombo, WhatAloneIsFoundIsHighlightedAndOneEnterTakesIt) {
+    QAbstractItemView& found = search("coc");
+    EXPECT_EQ(found.currentIndex().data().toString(), "Albicocca");
+    EXPECT_EQ(combo().Text(), "coc");
+    QTest::keyClick(&found, Qt::Key_Return);
+    EXPECT_EQ(combo().BoundText(), "3");
+    EXPECT_THAT(clicks, ElementsAre(controls::DataCombo::List));
+    EXPECT_TRUE(stored.empty()) << "the pick is the store";
+}
+
+TEST_F(DataCombo, TheHighlightGoesWhenMoreIsFound) {
+    QAbstractItemView& found = search("el");
+    EXPECT_EQ(found.currentIndex().data().toString(), "Mela");
+    QTest::keyClick(&found, Qt::Key_Backspace);
+    EXPECT_EQ(combo().completer()->completionCount(), 3);
+    EXPECT_FALSE(found.currentIndex().isValid());
+    found.hide();
+}
+
+TEST_F(DataCombo, EnterWithNothingHighlightedClosesTheSearchAndGoesToTheForm) {
+    choose("Mela");
+    QAbstractItemView& found = search("er");
+    EXPECT_FALSE(found.currentIndex().isValid()) << "two are found";
+    QTest::keyClick(&found, Qt::Key_Return);
+    EXPECT_FALSE(found.isVisible());
+    EXPECT_THAT(stored, ElementsAre("Mela"));
+    EXPECT_TRUE(clicks.empty());
+}
+
+TEST_F(DataCombo, TabOnAHighlightedRowOfTheSearchIsAPick) {
+    QAbstractItemView& found = search("er");
+    QTest::keyClick(&found, Qt::Key_Down);
+    QTest::keyClick(&found, Qt::Key_Down);
+    QTest::keyClick(&found, Qt::Key_Tab);
+    EXPECT_EQ(combo().BoundText(), "5");
+    EXPECT_THAT(clicks, ElementsAre(controls::DataCombo::List));
+}
+
+TEST_F(DataCombo, TabWithNothingHighlightedLeavesTheField) {
+    choose("Mela");
+    QAbstractItemView& found = search("er");
+    QTest::keyClick(&found, Qt::Key_Tab);
+    Gui::handleEvents();
+    EXPECT_FALSE(found.isVisible());
+    EXPECT_EQ(gui.focus(), "F.field");
+    EXPECT_EQ(combo().Text(), "Mela");
+    EXPECT_TRUE(clicks.empty());
+}
+
+TEST_F(DataCombo, AHeldEnterTakesNothing) {
+    choose("Mela");
+    hold(combo(), Qt::Key_Return);
+    hold(search("coc"), Qt::Key_Return);
+    EXPECT_TRUE(stored.empty());
+    EXPECT_TRUE(clicks.empty());
+    combo().completer()->popup()->hide();
 }
 
 TEST_F(DataCombo, EnterInTheTextIsNoPick) {

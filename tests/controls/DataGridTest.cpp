@@ -3,7 +3,9 @@
 #include "DataFixture.h"
 #include "ado/Conversions.h"
 
+#include <QApplication>
 #include <QHeaderView>
+#include <QKeyEvent>
 #include <QTest>
 
 namespace {
@@ -46,11 +48,67 @@ TEST_F(DataGrid, ItsRowAndTheRecordsetsAreOne) {
     EXPECT_EQ(grid.Columns(1).Text(), "Pera");
 }
 
-TEST_F(DataGrid, WithoutACurrentRowNoneIsMarked) {
+TEST_F(DataGrid, PastTheEndItStandsOnItsLastRow) {
     source.Recordset().MoveLast();
     source.Recordset().MoveNext();
+    EXPECT_EQ(grid.currentIndex().row(), 4);
+    EXPECT_TRUE(source.Recordset().EOF()) << "standing there moves nothing";
+    EXPECT_THROW(grid.Columns(0).Text(), ado::Error);
+    QTest::keyClick(&grid, Qt::Key_Up);
+    EXPECT_EQ(position(), 4);
+}
+
+TEST_F(DataGrid, ChoosingTheRowOnWhichItStandsPastTheEndMakesItCurrent) {
+    std::vector<std::string> chosen;
+    QObject::connect(&grid, &controls::DataGrid::DblClick, [&] { chosen.push_back(grid.Columns(0).Text()); });
+    for (int i = 0; i < 3; ++i)
+        grid.Columns(i).setLocked(true);
+    const auto passTheEnd = [&] {
+        source.Recordset().MoveLast();
+        source.Recordset().MoveNext();
+    };
+    passTheEnd();
+    QTest::keyClick(&grid, Qt::Key_Return);
+    passTheEnd();
+    const QPoint last = grid.visualRect(grid.model()->index(4, 1)).center();
+    QTest::mouseClick(grid.viewport(), Qt::LeftButton, {}, last);
+    EXPECT_EQ(position(), 5);
+    QTest::mouseDClick(grid.viewport(), Qt::LeftButton, {}, last);
+    EXPECT_EQ(chosen, (std::vector<std::string>{"5", "5"}));
+}
+
+TEST_F(DataGrid, BeforeTheFirstRowNoneIsMarked) {
+    source.Recordset().MovePrevious();
     EXPECT_FALSE(grid.currentIndex().isValid());
     EXPECT_THROW(grid.Columns(0).Text(), ado::Error);
+}
+
+TEST_F(DataGrid, ItsRowStaysInSightWhenItGetsLower) {
+    grid.selectRow(4);
+    const auto inSight = [&] {
+        return grid.viewport()->rect().contains(grid.visualRect(grid.currentIndex()).center());
+    };
+    ASSERT_TRUE(inSight());
+    grid.resize(500, 100);
+    EXPECT_TRUE(inSight());
+    grid.scrollToTop();
+    ASSERT_FALSE(inSight());
+    grid.resize(500, 90);
+    EXPECT_FALSE(inSight()) << "a user who looks elsewhere isn't called back";
+}
+
+TEST_F(DataGrid, AHeldEnterChoosesOnce) {
+    int chosen = 0;
+    QObject::connect(&grid, &controls::DataGrid::DblClick, [&] { ++chosen; });
+    QTest::keyPress(&grid, Qt::Key_Return);
+    for (int i = 0; i < 3; ++i) {
+        QKeyEvent again(QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier, QString(), true);
+        QApplication::sendEvent(&grid, &again);
+    }
+    QTest::keyRelease(&grid, Qt::Key_Return);
+    EXPECT_EQ(chosen, 1);
+    QTest::keyClick(&grid, Qt::Key_Return);
+    EXPECT_EQ(chosen, 2);
 }
 
 TEST_F(DataGrid, FollowsTheFilter) {

@@ -6,6 +6,7 @@
 #include <QApplication>
 #include <QDialog>
 #include <QPointer>
+#include <QScreen>
 
 #include <gmock/gmock.h>
 
@@ -142,6 +143,34 @@ TEST_F(FormRegistry, AnUnloadInsideTheUnloadIsOne) {
     gui.forms().show("A");
     gui.forms().unload("A");
     EXPECT_THAT(log, ElementsAre("A.Load", "A.Activate", "A.Unload"));
+}
+
+TEST_F(FormRegistry, AFormShownInItsOwnUnloadIsMadeAnew) {
+    int unloads = 0;
+    add("A", {.unload = [&](RecordedForm&) {
+            if (++unloads == 1)
+                gui.forms().makeVisible("A");
+        }});
+    gui.forms().show("A");
+    gui.forms().unload("A");
+    EXPECT_EQ(gui.visibleForms(), "A");
+    EXPECT_THAT(log, ElementsAre("A.Load", "A.Activate", "A.Unload", "A.Load", "A.Activate"));
+    gui.forms().unload("A");
+    EXPECT_EQ(gui.visibleForms(), "");
+}
+
+TEST_F(FormRegistry, AFormOfTheScreensSizeKeepsTheUsersSizeWithinTheProcess) {
+    add("A", {.load = [](RecordedForm& form) { form.takeScreen(); }});
+    gui.forms().show("A");
+    const QSize screen = gui.form("A").screen()->availableSize();
+    const QSize size = gui.form("A").size();
+    EXPECT_EQ(size.width(), screen.width() * 9 / 10);
+    EXPECT_EQ(size.height(), screen.height() * 9 / 10);
+    gui.form("A").resize(size - QSize(60, 40));
+    gui.forms().unload("A");
+    Gui::handleEvents();
+    gui.forms().show("A");
+    EXPECT_EQ(gui.form("A").size(), size - QSize(60, 40));
 }
 
 TEST_F(FormRegistry, NamesAreComparedExactly) {

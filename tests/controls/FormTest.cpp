@@ -4,6 +4,8 @@
 #include "support/DialogScript.h"
 #include "support/Gui.h"
 
+#include <QApplication>
+#include <QKeyEvent>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QTest>
@@ -48,6 +50,54 @@ TEST_F(Form, AnErrorOfAHandlerIsABoxWithItsDescription) {
                          "Requested operation requires a current record.");
     gui.click("A", "button");
     EXPECT_TRUE(gui.isVisible("A"));
+}
+
+TEST_F(Form, AHeldEnterPressesAButtonOnce) {
+    int presses = 0;
+    clicked = [&](RecordedForm&) { ++presses; };
+    QWidget& button = gui.find("A", "button");
+    button.setFocus();
+    QTest::keyPress(&button, Qt::Key_Return);
+    for (int i = 0; i < 3; ++i) {
+        QKeyEvent again(QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier, QString(), true);
+        QApplication::sendEvent(&button, &again);
+    }
+    EXPECT_EQ(presses, 1);
+    QTest::keyRelease(&button, Qt::Key_Return);
+    gui.press(Qt::Key_Return);
+    EXPECT_EQ(presses, 2);
+}
+
+TEST_F(Form, APressAtTheMomentOfItsReleaseIsAHeldKeysToo) {
+    int presses = 0;
+    clicked = [&](RecordedForm&) { ++presses; };
+    const auto send = [this](QEvent::Type type, quint64 time) {
+        QKeyEvent event(type, Qt::Key_Return, Qt::NoModifier);
+        event.setTimestamp(time);
+        QApplication::sendEvent(&gui.find("A", "button"), &event);
+    };
+    send(QEvent::KeyPress, 1000);
+    for (const quint64 time : {1660, 1700, 1740}) {
+        send(QEvent::KeyRelease, time);
+        send(QEvent::KeyPress, time);
+    }
+    EXPECT_EQ(presses, 1);
+    send(QEvent::KeyRelease, 1800);
+    send(QEvent::KeyPress, 1860);
+    EXPECT_EQ(presses, 2) << "down anew";
+}
+
+TEST_F(Form, KeysAndClicksThatReachAHiddenFormAreNone) {
+    int presses = 0;
+    clicked = [&](RecordedForm&) { ++presses; };
+    QWidget& button = gui.find("A", "button");
+    gui.forms().hide("A");
+    QTest::mouseClick(&button, Qt::LeftButton);
+    QTest::keyClick(&button, Qt::Key_Return);
+    QTest::keyClick(&button, Qt::Key_Space);
+    EXPECT_EQ(presses, 0);
+    EXPECT_FALSE(gui.form("A").close());
+    EXPECT_TRUE(gui.forms().isLoaded("A")) << "its window's close button isn't there to be pressed";
 }
 
 TEST_F(Form, AHandlerMayUnloadItsForm) {

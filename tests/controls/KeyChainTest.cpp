@@ -5,6 +5,8 @@
 #include "support/DialogScript.h"
 #include "support/Gui.h"
 
+#include <QApplication>
+#include <QKeyEvent>
 #include <QVBoxLayout>
 
 namespace {
@@ -47,6 +49,16 @@ TEST_F(KeyChain, EnterFollowsTheChainAndNotTheScreen) {
     EXPECT_EQ(gui.focus(), "F.c");
     gui.press(Qt::Key_Return);
     EXPECT_EQ(gui.focus(), "F.b");
+}
+
+TEST_F(KeyChain, AHeldKeyEndsOneEntry) {
+    for (const Qt::Key key : {Qt::Key_Return, Qt::Key_Tab}) {
+        go("b");
+        QKeyEvent again(QEvent::KeyPress, key, Qt::NoModifier, QString(), true);
+        QApplication::sendEvent(&gui.find("F", "b"), &again);
+        EXPECT_EQ(ends, 0);
+        EXPECT_EQ(gui.focus(), "F.b");
+    }
 }
 
 TEST_F(KeyChain, TheKeypadsEnterIsEnter) {

@@ -99,14 +99,76 @@ TEST_P(QtDialogsAnswer, IsTheOneOfTheKeyboard) {
 
 INSTANTIATE_TEST_SUITE_P(Keys, QtDialogsAnswer,
                          testing::Values(Answer{"QuestionEnter", &controls::QtDialogs::question, Qt::Key_Return, true},
-                                         Answer{"QuestionEsc", &controls::QtDialogs::question, Qt::Key_Escape, false},
                                          Answer{"ConfirmEnter", &controls::QtDialogs::confirm, Qt::Key_Return, true},
                                          Answer{"ConfirmEsc", &controls::QtDialogs::confirm, Qt::Key_Escape, false}),
                          [](const auto& info) { return info.param.what; });
 
+/// What a user tries before pressing a button of the box; true where it is still there after each.
+bool staysThere(QDialog& box) {
+    pressKey(box, Qt::Key_Escape);
+    const bool afterEsc = box.isVisible();
+    box.close();
+    return afterEsc && box.isVisible();
+}
+
+void pressButton(QDialog& box, const char* name) {
+    auto* button = box.findChild<QAbstractButton*>(name);
+    ASSERT_NE(button, nullptr) << name;
+    QTest::mouseClick(button, Qt::LeftButton);
+}
+
+TEST_F(QtDialogs, AQuestionIsAnsweredByItsButtonsAlone) {
+    for (const bool yes : {true, false}) {
+        bool stayed = false;
+        const bool got = withBox(
+            seen,
+            [&](QDialog& box) {
+                stayed = staysThere(box);
+                pressButton(box, yes ? "Sì" : "No");
+            },
+            [&] { return dialogs.question("Continuare?"); });
+        EXPECT_TRUE(stayed);
+        EXPECT_EQ(got, yes);
+    }
+}
+
+TEST_F(QtDialogs, AQuestionHasNoCloseButton) {
+    Qt::WindowFlags flags;
+    withBox(
+        seen,
+        [&](QDialog& box) {
+            flags = box.windowFlags();
+            pressKey(box, Qt::Key_Return);
+        },
+        [&] { return dialogs.question("Continuare?"); });
+    EXPECT_TRUE(flags.testFlag(Qt::CustomizeWindowHint));
+    EXPECT_FALSE(flags.testFlag(Qt::WindowCloseButtonHint));
+}
+
+TEST_F(QtDialogs, TheCloseButtonIsCancelWhereThereIsCancel) {
+    EXPECT_FALSE(withBox(
+        seen, [](QDialog& box) { box.close(); }, [&] { return dialogs.confirm("Continuare?"); }));
+}
+
+TEST_F(QtDialogs, AMessageGoesByEscAndByItsCloseButton) {
+    bool gone = false;
+    for (const bool esc : {true, false})
+        withBox(
+            seen,
+            [&](QDialog& box) {
+                esc ? pressKey(box, Qt::Key_Escape) : static_cast<void>(box.close());
+                gone = !box.isVisible();
+            },
+            [&] {
+                dialogs.message("Fatto.", platform::Icon::None);
+                EXPECT_TRUE(gone);
+                return 0;
+            });
+}
+
 TEST_F(QtDialogs, AQuestionHasYesAndNoInItalian) {
     withBox(
-        seen, [](QDialog& box) { box.reject(); }, [&] { return dialogs.question("Continuare?"); });
+        seen, [](QDialog& box) { pressButton(box, "No"); }, [&] { return dialogs.question("Continuare?"); });
     EXPECT_THAT(seen.buttons, testing::UnorderedElementsAre("Sì", "No"));
 }
 

@@ -56,14 +56,114 @@ TEST_F(MorlanContiUtili, APickStoresTheAccountWithItsGroupAndStandsOneRowBelow) 
     EXPECT_EQ(QGuiApplication::overrideCursor(), nullptr);
 }
 
-TEST_F(MorlanContiUtili, AfterTheLastRowTheGridStandsOnNone) {
+TEST_F(MorlanContiUtili, AfterTheLastRowTheGridStaysThere) {
     scegli("DataGrid2", "32");
     prendi("DCBItem1", voce("1052"));
     EXPECT_EQ(conto(32), (Riga{"1052", "19"}));
-    EXPECT_EQ(rigaCorrente("DataGrid2"), "");
+    EXPECT_EQ(rigaCorrente("DataGrid2"), "32");
+    EXPECT_TRUE(inVista("DataGrid2"));
+    EXPECT_TRUE(controllo<controls::DataControl>("tabella_conti_utili").Recordset().EOF())
+        << "the move ran past the end";
+    EXPECT_EQ(fuoco(), "DataGrid2");
+    gui.press(Qt::Key_Return);
+    EXPECT_EQ(combo("DCBItem1").Text(), valore("select NomeConto from conti where IdConto = 1052"));
+}
+
+TEST_F(MorlanContiUtili, TheChosenRowStaysInSightWhenItsFrameOpens) {
+    auto& vista = griglia("DataGrid2");
+    int ultima = 0;
+    for (int riga = 0; riga < righe("DataGrid2"); ++riga)
+        if (vista.viewport()->rect().contains(vista.visualRect(vista.model()->index(riga, 1))))
+            ultima = riga;
+    const int prima = vista.viewport()->height();
+    scegli("DataGrid2", cella("DataGrid2", ultima, 0));
+    support::Gui::handleEvents();
+    ASSERT_LT(vista.viewport()->height(), prima) << "the frame takes room from the grid";
+    EXPECT_EQ(rigaCorrente("DataGrid2"), cella("DataGrid2", ultima, 0));
+    EXPECT_TRUE(inVista("DataGrid2"));
+}
+
+TEST_F(MorlanContiUtili, EscLeavesTheFrameWithoutStoring) {
+    for (const char* dove : {"DCBItem1", "Command8", "Descrizione", "DataGrid2"}) {
+        SCOPED_TRACE(dove);
+        scegli("DataGrid2", "4");
+        gui.press(Qt::Key_Delete);
+        gui.find("Avvio_Morlan", dove).setFocus();
+        gui.press(Qt::Key_Escape);
+        EXPECT_FALSE(visibile("Frame6"));
+        EXPECT_EQ(fuoco(), "DataGrid2");
+        EXPECT_EQ(rigaCorrente("DataGrid2"), "4");
+        EXPECT_EQ(combo("DCBItem1").Text(), "Seleziona");
+        QTest::keyClick(&combo("DCBItem1"), Qt::Key_Return);
+        EXPECT_EQ(conto(4), (Riga{"1150", "39"}));
+    }
+}
+
+TEST_F(MorlanContiUtili, AnAccountThatWasLeftIsNotTheNextRows) {
+    scegli("DataGrid2", "4");
+    gui.press(Qt::Key_Escape);
+    scegli("DataGrid2", "32");
+    EXPECT_EQ(combo("DCBItem1").Text(), "");
+}
+
+TEST_F(MorlanContiUtili, EscInTheSearchClosesItAloneAndTheNextOneLeavesTheFrame) {
+    scegli("DataGrid2", "4");
+    QTest::keyClick(&cerca("DCBItem1", "esercizi"), Qt::Key_Escape);
+    tornaDavanti();
+    EXPECT_TRUE(visibile("Frame6"));
+    EXPECT_EQ(combo("DCBItem1").Text(), valore("select NomeConto from conti where IdConto = 1150"));
+    gui.press(Qt::Key_Escape);
+    EXPECT_FALSE(visibile("Frame6"));
+}
+
+TEST_F(MorlanContiUtili, OneEnterTakesWhatTheSearchHasFoundAndStoresIt) {
+    scegli("DataGrid2", "4");
+    QTest::keyClick(&cerca("DCBItem1", "esercizi precedenti"), Qt::Key_Return);
+    tornaDavanti();
+    EXPECT_EQ(conto(4), (Riga{"1052", "19"}));
+    EXPECT_FALSE(visibile("Frame6"));
+}
+
+TEST_F(MorlanContiUtili, OneEnterStoresWithNothingHighlightedToo) {
+    esegui("update TabellaContiUtili set idconto1 = 999 where ID = 4");
+    scegli("DataGrid2", "4");
+    QTest::keyClick(&cerca("DCBItem1", "banca"), Qt::Key_Return);
+    tornaDavanti();
+    EXPECT_EQ(conto(4), (Riga{"1150", "39"})) << "typing isn't a pick";
+    EXPECT_FALSE(visibile("Frame6"));
+}
+
+TEST_F(MorlanContiUtili, WhatWasTypedGoesBackBeforeAStore) {
+    const std::string nome = valore("select NomeConto from conti where IdConto = " + conto(8)[0]);
+    esegui("update conti set idmastro = 3 where IdConto = " + conto(8)[0]);
+    scegli("DataGrid2", "8");
+    digita("DCBItem1", "Cassa contanti");
+    gui.press(Qt::Key_Return);
+    ASSERT_TRUE(visibile("Frame6")) << "refused, the row stays open";
+    EXPECT_EQ(combo("DCBItem1").Text(), nome);
+    digita("DCBItem1", "Cassa contanti");
+    QTest::keyClick(gui.form("Avvio_Morlan").windowHandle(), Qt::Key_S, Qt::AltModifier);
+    support::Gui::waitFor("the name", [&] { return combo("DCBItem1").Text() == nome; });
+    EXPECT_TRUE(visibile("Frame6"));
+    digita("DCBItem1", "Cassa contanti");
+    gui.press(Qt::Key_Tab);
+    EXPECT_EQ(combo("DCBItem1").Text(), nome);
+}
+
+TEST_F(MorlanContiUtili, AHeldEnterOnTheGridChoosesOneRowAndStoresNothing) {
     griglia("DataGrid2").setFocus();
-    gui.press(Qt::Key_Up);
-    EXPECT_NE(rigaCorrente("DataGrid2"), "");
+    griglia("DataGrid2").selectRow(3);
+    const support::StatementRecorder recorder;
+    QTest::keyPress(&griglia("DataGrid2"), Qt::Key_Return);
+    for (int i = 0; i < 10; ++i) {
+        QKeyEvent ripetuto(QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier, QString(), true);
+        QApplication::sendEvent(QApplication::focusWidget(), &ripetuto);
+    }
+    EXPECT_EQ(fuoco(), "DCBItem1");
+    EXPECT_TRUE(recorder.holding("tabellacontiutili where id").empty());
+    QTest::keyRelease(QApplication::focusWidget(), Qt::Key_Return);
+    gui.press(Qt::Key_Return);
+    EXPECT_EQ(recorder.count("Select * from tabellacontiutili where id = 4"), 1);
 }
 
 TEST_F(MorlanContiUtili, WhileAStoreRunsItsButtonIsOffUnderTheHourglass) {

@@ -232,6 +232,46 @@ TEST_F(MorlanFatture, ANullGroupPassesInSilenceInThePayroll) {
     EXPECT_EQ(busta(3), (Riga{"1052", "26"}));
 }
 
+TEST_F(MorlanFatture, EscLeavesTheChosenRowWithoutStoring) {
+    const Riga fatturaPrima = fattura(3);
+    const Riga bustaPrima = busta(3);
+    scegli("DataGrid11", "3");
+    gui.press(Qt::Key_Delete);
+    gui.press(Qt::Key_Escape);
+    EXPECT_EQ(combo("DCBItems3").Text(), "Seleziona");
+    EXPECT_FALSE(fermata("DCBItems3"));
+    EXPECT_EQ(fuoco(), "DataGrid11");
+    scheda(5);
+    scegli("DataGridPersonale", "3");
+    gui.press(Qt::Key_Delete);
+    gui.press(Qt::Key_Escape);
+    EXPECT_EQ(combo("DCBitems4").Text(), "Seleziona");
+    EXPECT_FALSE(fermata("DCBitems4"));
+    EXPECT_EQ(fuoco(), "DataGridPersonale");
+    combo("DCBitems4").setFocus();
+    gui.press(Qt::Key_Return);
+    EXPECT_EQ(fattura(3), fatturaPrima);
+    EXPECT_EQ(busta(3), bustaPrima);
+}
+
+TEST_F(MorlanFatture, AfterTheLastRowTheGridStaysThere) {
+    scegli("DataGrid11", "10");
+    prendi("DCBItems3", voce("1077"));
+    EXPECT_EQ(rigaCorrente("DataGrid11"), "10");
+}
+
+TEST_F(MorlanFatture, OneEnterTakesWhatTheSearchHasFoundAndStoresIt) {
+    scegli("DataGrid11", "3");
+    QTest::keyClick(&cerca("DCBItems3", "fatture da ricevere"), Qt::Key_Return);
+    tornaDavanti();
+    EXPECT_EQ(fattura(3), (Riga{"1077", "25", "10000001"}));
+    scheda(5);
+    scegli("DataGridPersonale", "3");
+    QTest::keyClick(&cerca("DCBitems4", "esercizi precedenti"), Qt::Key_Return);
+    tornaDavanti();
+    EXPECT_EQ(busta(3), (Riga{"1052", "19"}));
+}
+
 TEST_F(MorlanFatture, TheListOfInvoicesHoldsDebtsAndCreditsAlone) {
     const auto offerti = posto.rows(support::kCompany, kElencoContiFatture);
     ASSERT_EQ(combo("DCBItems3").count(), static_cast<int>(offerti.size()));

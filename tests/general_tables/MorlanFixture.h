@@ -99,6 +99,17 @@ protected:
         gui.form("Avvio_Morlan").activateWindow();
         gui.waitForFront("Avvio_Morlan");
     }
+    /// Types into a picker; what was found stays open.
+    QAbstractItemView& cerca(const std::string& nome, const std::string& lettere) {
+        gui.type(lettere);
+        QAbstractItemView* trovati = combo(nome).completer()->popup();
+        support::Gui::waitFor("the search", [trovati] { return trovati->isVisible(); });
+        return *trovati;
+    }
+    bool inVista(const std::string& nome) const {
+        const controls::DataGrid& vista = griglia(nome);
+        return vista.viewport()->rect().contains(vista.visualRect(vista.currentIndex()));
+    }
     std::string fuoco() const {
         const std::string dove = gui.focus();
         return dove.substr(dove.find('.') + 1);

@@ -6,6 +6,7 @@
 
 #include <QComboBox>
 #include <QGroupBox>
+#include <QScreen>
 
 namespace vabo {
 namespace {
@@ -98,6 +99,38 @@ TEST_F(MorlanFrame, EveryCaptionIsAsItsUsersKnowIt) {
     EXPECT_EQ(testo("Command31"), "Definizione del Piano dei Conti utilizzato");
     for (const Comando& comando : kComandi)
         EXPECT_EQ(testo(comando.bottone), comando.didascalia);
+}
+
+TEST_F(MorlanFrame, EveryButtonHasAMnemonicOfItsOwn) {
+    apri();
+    const char* const lettere[] = {"CDM", "CM", "CMT", "CEIMPS", "CMS", "BCM"};
+    for (int numero = 0; numero < 6; ++numero) {
+        scheda(numero);
+        EXPECT_EQ(gui.mnemonics("Avvio_Morlan"), lettere[numero]) << numero;
+    }
+    scheda(1);
+    scegli("DataGrid2", "4");
+    EXPECT_EQ(gui.mnemonics("Avvio_Morlan"), "CMS");
+    scheda(2);
+    scegli("DataGrid4", "2");
+    EXPECT_EQ(gui.mnemonics("Avvio_Morlan"), "CMST");
+    gui.click("Avvio_Morlan", "Command18");
+    EXPECT_EQ(gui.mnemonics("Avvio_Morlan"), "CMST") << "the caption changes, the mnemonic stays";
+    QTest::keyClick(gui.form("Avvio_Morlan").windowHandle(), Qt::Key_C, Qt::AltModifier);
+    support::Gui::waitFor("the company console", [this] { return gui.visibleForms() == "Avvio_Azienda"; });
+}
+
+TEST_F(MorlanFrame, ItsSizeIsTheScreensAndThenTheUsers) {
+    apri();
+    controls::Form& form = gui.form("Avvio_Morlan");
+    const QSize schermo = form.screen()->availableSize();
+    EXPECT_LE(form.width(), schermo.width());
+    EXPECT_LE(form.height(), schermo.height());
+    EXPECT_GE(form.height(), schermo.height() * 9 / 10);
+    const QSize scelta(form.minimumSizeHint().width() + 7, 600);
+    form.resize(scelta);
+    riapri();
+    EXPECT_EQ(gui.form("Avvio_Morlan").size(), scelta);
 }
 
 TEST_F(MorlanFrame, EveryPickerHasItsLabel) {

@@ -1,6 +1,9 @@
 #include "MorlanFixture.h"
 #include "general_tables/TrattamentoIva.h"
 
+#include <QStyle>
+#include <QStyleOptionFrame>
+
 namespace vabo {
 namespace {
 
@@ -118,6 +121,35 @@ TEST_F(MorlanIva, AnEditOfTheFieldsIsOverwrittenByTheNextPick) {
     EXPECT_EQ(standard(), prima);
     prendi("DCBitem5", "Imponibile 10%");
     EXPECT_EQ(campi(), (Campi{"Imponibile 10%", "10,00", "100,00", "10"}));
+}
+
+TEST_F(MorlanIva, ATypedTreatmentThatIsNotPickedGoesBack) {
+    apriScheda();
+    const auto prima = standard();
+    const std::string mostrato = combo("DCBitem5").Text();
+    combo("DCBitem5").setFocus();
+    digita("DCBitem5", "Imponibile 10%");
+    gui.press(Qt::Key_Tab);
+    EXPECT_EQ(combo("DCBitem5").Text(), mostrato);
+    EXPECT_EQ(standard(), prima);
+}
+
+TEST_F(MorlanIva, ItsFieldsShowWholeNumbersInANarrowWindow) {
+    apriScheda();
+    for (const int larghezza : {900, 930, 960}) {
+        gui.form("Avvio_Morlan").resize(larghezza, 700);
+        support::Gui::handleEvents();
+        EXPECT_LE(gui.form("Avvio_Morlan").width(), larghezza);
+        for (const char* nome : {"Aliquota", "Detrazione", "Sigla"}) {
+            auto& campo = controllo<controls::TextBox>(nome);
+            QStyleOptionFrame aspetto;
+            aspetto.initFrom(&campo);
+            aspetto.lineWidth = campo.style()->pixelMetric(QStyle::PM_DefaultFrameWidth, &aspetto, &campo);
+            constexpr int kBordiDelTesto = 4;
+            const int posto = campo.style()->subElementRect(QStyle::SE_LineEditContents, &aspetto, &campo).width();
+            EXPECT_GE(posto - kBordiDelTesto, campo.fontMetrics().horizontalAdvance("100,00")) << nome << larghezza;
+        }
+    }
 }
 
 TEST_F(MorlanIva, AClickOnTheTextIsNoPick) {

@@ -73,6 +73,11 @@ TEST_F(AboutForm, StartsAtTheNameWithThePasswordDisabled) {
     EXPECT_EQ(ServerMancante, kFalso);
 }
 
+TEST_F(AboutForm, ItsButtonHasAMnemonic) {
+    show();
+    EXPECT_EQ(gui.mnemonics("About"), "C");
+}
+
 TEST_F(AboutForm, TheFieldsTakeOnlySoMuchAndHidePasswords) {
     show();
     EXPECT_EQ(field("txtUserName").maxLength(), 25);

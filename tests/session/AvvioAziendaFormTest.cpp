@@ -6,7 +6,9 @@
 #include "session/TreatForms.h"
 #include "support/RecordedDataSources.h"
 
+#include <QAbstractItemView>
 #include <QApplication>
+#include <QCompleter>
 #include <QLineEdit>
 #include <QTest>
 
@@ -178,6 +180,44 @@ TEST_F(AvvioAziendaForm, AClickOnTheTextOpensNothing) {
     QTest::mouseClick(list().lineEdit(), Qt::LeftButton);
     EXPECT_EQ(NomeDatabase, kCompany);
     EXPECT_EQ(lastCompany(), textOf(idOf(kCompany)));
+}
+
+TEST_F(AvvioAziendaForm, WhatWasTypedIntoTheListGivesWayToTheOpenCompany) {
+    show();
+    const auto typed = [this] {
+        gui.typeInto("Avvio_Azienda", "DataCombo1", companyName(kOtherCompany));
+        list().completer()->popup()->hide();
+        gui.form("Avvio_Azienda").activateWindow();
+        gui.waitForFront("Avvio_Azienda");
+        ASSERT_EQ(list().Text(), companyName(kOtherCompany));
+    };
+    typed();
+    gui.press(Qt::Key_Escape);
+    EXPECT_EQ(list().Text(), companyName(kCompany));
+    list().lineEdit()->selectAll();
+    typed();
+    gui.press(Qt::Key_Tab);
+    EXPECT_EQ(list().Text(), companyName(kCompany));
+    EXPECT_EQ(NomeDatabase, kCompany);
+}
+
+TEST_F(AvvioAziendaForm, ItsCommandsHaveMnemonics) {
+    build("Avvio_Morlan");
+    show();
+    EXPECT_EQ(gui.mnemonics("Avvio_Azienda"), "ADM");
+    QTest::keyClick(gui.form("Avvio_Azienda").windowHandle(), Qt::Key_M, Qt::AltModifier);
+    support::Gui::waitFor("the general tables", [this] { return gui.visibleForms() == "Avvio_Morlan"; });
+}
+
+TEST_F(AvvioAziendaForm, TheSecondOfTwoQuickClicksOpensNothingMore) {
+    build("Avvio_Morlan");
+    show();
+    QWidget& button = gui.find("Avvio_Azienda", "cmdClose");
+    QTest::mouseClick(&button, Qt::LeftButton);
+    QTest::mouseClick(&button, Qt::LeftButton);
+    EXPECT_EQ(PilaForm, (std::vector<std::string>{"Avvio_Azienda", "Avvio_Morlan"}));
+    gui.form("Avvio_Morlan").close();
+    EXPECT_EQ(gui.visibleForms(), "Avvio_Azienda");
 }
 
 TEST_F(AvvioAziendaForm, ACompanyWithoutALocalFileIsOpenedInSilence) {

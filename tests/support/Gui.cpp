@@ -1,9 +1,11 @@
 #include "support/Gui.h"
 
+#include <QAbstractButton>
 #include <QAbstractItemView>
 #include <QApplication>
 #include <QDeadlineTimer>
 #include <QKeyEvent>
+#include <QPushButton>
 #include <QTest>
 
 #include <algorithm>
@@ -71,7 +73,21 @@ QWidget& Gui::reachable(const std::string& form, const std::string& control) con
 
 std::string Gui::text(const std::string& form, const std::string& label) const {
     const QWidget& found = widget(form, label);
-    return found.property("text").toString().toStdString();
+    QString text = found.property("text").toString();
+    if (qobject_cast<const QAbstractButton*>(&found) != nullptr)
+        text.remove(QLatin1Char('&')); // a mnemonic is seen as an underline
+    return text.toStdString();
+}
+
+std::string Gui::mnemonics(const std::string& form) const {
+    std::string letters;
+    for (const auto* button : this->form(form).findChildren<QPushButton*>()) {
+        const qsizetype mark = button->text().indexOf(QLatin1Char('&'));
+        if (button->isVisible())
+            letters += mark < 0 ? '-' : button->text().at(mark + 1).toUpper().toLatin1();
+    }
+    std::sort(letters.begin(), letters.end());
+    return letters;
 }
 
 std::string Gui::focus() const {

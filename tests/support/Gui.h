@@ -39,7 +39,10 @@ public:
             throw std::runtime_error(form + "." + control + " is of another kind");
         return *found;
     }
+    /// As it is seen: without the mark of a mnemonic.
     std::string text(const std::string& form, const std::string& label) const;
+    /// The mnemonics of the push buttons that are to be seen, sorted; '-' for a button without one.
+    std::string mnemonics(const std::string& form) const;
     /// "form.control" that has the focus, empty where none has.
     std::string focus() const;
 

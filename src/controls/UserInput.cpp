@@ -1,0 +1,65 @@
+#include "controls/UserInput.h"
+
+#include <QApplication>
+#include <QKeyEvent>
+#include <QPointer>
+#include <QWidget>
+
+namespace controls {
+
+namespace {
+
+bool isInput(QEvent::Type type) {
+    switch (type) {
+    case QEvent::KeyPress:
+    case QEvent::KeyRelease:
+    case QEvent::Shortcut:
+    case QEvent::MouseButtonPress:
+    case QEvent::MouseButtonRelease:
+    case QEvent::MouseButtonDblClick:
+        return true;
+    default:
+        return false;
+    }
+}
+
+struct Release {
+    int key = 0;
+    quint64 time = 0;
+};
+Release last;
+
+bool isRepeatedEnter(const QEvent& event) {
+    if (event.type() != QEvent::KeyPress)
+        return false;
+    const auto& key = static_cast<const QKeyEvent&>(event);
+    return (key.key() == Qt::Key_Return || key.key() == Qt::Key_Enter) && UserInput::isRepeat(key);
+}
+
+} // namespace
+
+bool UserInput::isRepeat(const QKeyEvent& press) {
+    const bool atItsRelease = press.timestamp() != 0 && press.timestamp() == last.time && press.key() == last.key;
+    return press.isAutoRepeat() || atItsRelease;
+}
+
+void UserInput::watch() {
+    static QPointer<UserInput> filter;
+    if (!filter.isNull())
+        return;
+    filter = new UserInput(qApp);
+    qApp->installEventFilter(filter);
+}
+
+bool UserInput::eventFilter(QObject* watched, QEvent* event) {
+    if (!isInput(event->type()))
+        return false;
+    if (event->type() == QEvent::KeyRelease) {
+        const auto& key = static_cast<const QKeyEvent&>(*event);
+        last = {key.key(), key.timestamp()};
+    }
+    const auto* control = qobject_cast<const QWidget*>(watched);
+    return control != nullptr && (!control->isVisible() || isRepeatedEnter(*event));
+}
+
+} // namespace controls

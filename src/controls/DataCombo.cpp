@@ -79,6 +79,7 @@ void DataCombo::setText(const std::string& text) {
 }
 
 void DataCombo::restoreChosen() {
+    completer()->popup()->hide();
     if (currentText() == chosen_)
         return;
     setEditText(chosen_);
@@ -152,29 +153,38 @@ void DataCombo::highlightOnlyMatch() {
 // the completer's.
 bool DataCombo::keyInSearch(const QKeyEvent& key) {
     QAbstractItemView& found = *completer()->popup();
+    const bool plain = UserInput::isPlain(key);
     const bool highlighted = found.currentIndex().isValid();
     switch (key.key()) {
     case Qt::Key_Escape:
-        found.hide();
         restoreChosen();
         return true;
     case Qt::Key_Tab:
-        if (highlighted) {
-            QKeyEvent enter(QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier);
-            QApplication::sendEvent(&found, &enter);
-        }
-        return highlighted;
+        if (plain && !highlighted)
+            return false;
+        break;
     case Qt::Key_Return:
     case Qt::Key_Enter:
-        if (!highlighted) {
-            found.hide();
-            QKeyEvent enter(QEvent::KeyPress, key.key(), key.modifiers());
-            QApplication::sendEvent(this, &enter);
-        }
-        return !highlighted;
+        if (plain && highlighted)
+            return false;
+        break;
     default:
         return false;
     }
+    if (plain && highlighted) {
+        QKeyEvent enter(QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier);
+        QApplication::sendEvent(&found, &enter);
+    } else {
+        found.hide();
+        QKeyEvent own(QEvent::KeyPress, key.key(), key.modifiers());
+        QApplication::sendEvent(this, &own);
+    }
+    return true;
+}
+
+void DataCombo::hideEvent(QHideEvent* event) {
+    completer()->popup()->hide();
+    QComboBox::hideEvent(event);
 }
 
 void DataCombo::wheelEvent(QWheelEvent* event) {

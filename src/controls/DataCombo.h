@@ -39,7 +39,7 @@ public:
     std::string BoundText() const;
     /// Shows the row of this key; the empty text where there is none.
     void setBoundText(const std::string& key);
-    /// Takes back what was typed and not picked.
+    /// Takes back what was typed and not picked, and closes the search.
     void restoreChosen();
 
 signals:
@@ -53,6 +53,7 @@ protected:
     void wheelEvent(QWheelEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
     void focusOutEvent(QFocusEvent* event) override;
+    void hideEvent(QHideEvent* event) override;
     void showPopup() override;
     bool eventFilter(QObject* watched, QEvent* event) override;
 

@@ -3,6 +3,7 @@
 #include "controls/DataGrid.h"
 #include "controls/Hourglass.h"
 #include "controls/TextBox.h"
+#include "controls/UserInput.h"
 #include "general_tables/Avvio_Morlan.h"
 #include "general_tables/CaricaValoriControlli.h"
 #include "general_tables/TabelleConti.h"
@@ -153,11 +154,10 @@ void Avvio_Morlan::LasciaRiga(const Selettore& selettore) {
 bool Avvio_Morlan::eventFilter(QObject* watched, QEvent* event) {
     if (event->type() == QEvent::KeyRelease) {
         const auto& tasto = static_cast<const QKeyEvent&>(*event);
-        const bool solo = (tasto.modifiers() & ~Qt::KeypadModifier) == Qt::NoModifier;
         const auto selettore = std::ranges::find_if(selettori_, [watched](const Selettore& ciascuno) {
             return ciascuno.combo == watched || ciascuno.combo->completer()->popup() == watched;
         });
-        if (tasto.key() == Qt::Key_Delete && solo && selettore != selettori_.end()) {
+        if (tasto.key() == Qt::Key_Delete && controls::UserInput::isPlain(tasto) && selettore != selettori_.end()) {
             *selettore->conto = 0;
             selettore->combo->setText("");
         }

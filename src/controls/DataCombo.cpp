@@ -45,6 +45,8 @@ DataCombo::DataCombo(QWidget* parent) : QComboBox(parent), list_(new ListModel(t
     UserInput::watch();
     lineEdit()->installEventFilter(this);
     connect(this, &QComboBox::activated, this, &DataCombo::picked);
+    // Queued: after a pick of the search the text is set once more.
+    connect(this, &QComboBox::activated, this, &DataCombo::selectWhole, Qt::QueuedConnection);
     connect(&FocusTracker::instance(), &FocusTracker::moved, this, &DataCombo::followFocus);
 }
 
@@ -83,8 +85,13 @@ void DataCombo::restoreChosen() {
     if (currentText() == chosen_)
         return;
     setEditText(chosen_);
+    selectWhole();
+}
+
+// As when the focus comes: typing starts anew.
+void DataCombo::selectWhole() {
     if (hasFocus())
-        lineEdit()->selectAll(); // as when the focus comes: typing starts anew
+        lineEdit()->selectAll();
 }
 
 std::string DataCombo::BoundText() const {
@@ -207,6 +214,11 @@ void DataCombo::focusOutEvent(QFocusEvent* event) {
 void DataCombo::showPopup() {
     widenPopup();
     QComboBox::showPopup();
+}
+
+void DataCombo::hidePopup() {
+    QComboBox::hidePopup();
+    selectWhole();
 }
 
 // As wide as the longest text by its letters: to measure thousands of texts would take too long.

@@ -42,6 +42,8 @@ public:
     /// Takes back what was typed and not picked, and closes the search.
     void restoreChosen();
 
+    void hidePopup() override;
+
 signals:
     void GotFocus();
     void LostFocus(); ///< only when the focus moves within the program
@@ -63,6 +65,7 @@ private:
     bool keyInSearch(const QKeyEvent& key);
     void highlightOnlyMatch();
     void widenPopup();
+    void selectWhole();
 
     DataControl* source_ = nullptr;
     ListModel* list_;

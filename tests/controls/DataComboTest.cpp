@@ -339,6 +339,26 @@ TEST_F(DataCombo, ArrowsOpenTheListInsteadOfPickingUnseen) {
     EXPECT_TRUE(clicks.empty());
 }
 
+TEST_F(DataCombo, AListLeftWithoutAPickSelectsTheText) {
+    combo().setText("Mela");
+    gui.press(Qt::Key_Down);
+    combo().lineEdit()->deselect();
+    QTest::keyClick(combo().view(), Qt::Key_Escape);
+    EXPECT_FALSE(combo().view()->isVisible());
+    EXPECT_EQ(combo().lineEdit()->selectedText(), "Mela") << "typing starts anew";
+}
+
+TEST_F(DataCombo, APickSelectsItsText) {
+    QTest::keyClick(&search("coc"), Qt::Key_Return);
+    Gui::handleEvents();
+    EXPECT_EQ(combo().lineEdit()->selectedText(), "Albicocca") << "of the search";
+    gui.press(Qt::Key_Down);
+    QTest::keyClick(combo().view(), Qt::Key_Up);
+    QTest::keyClick(combo().view(), Qt::Key_Return);
+    Gui::handleEvents();
+    EXPECT_EQ(combo().lineEdit()->selectedText(), "Pera") << "of the list";
+}
+
 TEST_F(DataCombo, TheWheelPicksNothing) {
     combo().setText("Mela");
     QWheelEvent wheel({5, 5}, combo().mapToGlobal(QPointF(5, 5)), {}, {0, -120}, Qt::NoButton, Qt::NoModifier,

@@ -128,8 +128,8 @@ void Avvio_Morlan::keyPressEvent(QKeyEvent* event) {
     const QWidget* fuoco = focusWidget();
     const auto selettore = std::ranges::find_if(selettori_, [fuoco](const Selettore& ciascuno) {
         const bool scelta = ciascuno.cornice != nullptr ? ciascuno.cornice->isVisible() : SiFermaIlTab(*ciascuno.combo);
-        const bool dentro = ciascuno.cornice != nullptr && ciascuno.cornice->isAncestorOf(fuoco);
-        return scelta && (dentro || fuoco == ciascuno.combo || fuoco == ciascuno.griglia);
+        const bool sullaScheda = ciascuno.cornice != nullptr && ciascuno.cornice->parentWidget()->isAncestorOf(fuoco);
+        return scelta && (sullaScheda || fuoco == ciascuno.combo || fuoco == ciascuno.griglia);
     });
     if (event->key() == Qt::Key_Escape && selettore != selettori_.end()) {
         LasciaRiga(*selettore);

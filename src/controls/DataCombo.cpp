@@ -45,6 +45,8 @@ DataCombo::DataCombo(QWidget* parent) : QComboBox(parent), list_(new ListModel(t
     UserInput::watch();
     lineEdit()->installEventFilter(this);
     connect(this, &QComboBox::activated, this, &DataCombo::picked);
+    // Queued: after a pick of the search the text is set once more.
+    connect(this, &QComboBox::activated, this, &DataCombo::selectWhole, Qt::QueuedConnection);
     connect(&FocusTracker::instance(), &FocusTracker::moved, this, &DataCombo::followFocus);
 }
 
@@ -79,11 +81,17 @@ void DataCombo::setText(const std::string& text) {
 }
 
 void DataCombo::restoreChosen() {
+    completer()->popup()->hide();
     if (currentText() == chosen_)
         return;
     setEditText(chosen_);
+    selectWhole();
+}
+
+// As when the focus comes: typing starts anew.
+void DataCombo::selectWhole() {
     if (hasFocus())
-        lineEdit()->selectAll(); // as when the focus comes: typing starts anew
+        lineEdit()->selectAll();
 }
 
 std::string DataCombo::BoundText() const {
@@ -152,29 +160,38 @@ void DataCombo::highlightOnlyMatch() {
 // the completer's.
 bool DataCombo::keyInSearch(const QKeyEvent& key) {
     QAbstractItemView& found = *completer()->popup();
+    const bool plain = UserInput::isPlain(key);
     const bool highlighted = found.currentIndex().isValid();
     switch (key.key()) {
     case Qt::Key_Escape:
-        found.hide();
         restoreChosen();
         return true;
     case Qt::Key_Tab:
-        if (highlighted) {
-            QKeyEvent enter(QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier);
-            QApplication::sendEvent(&found, &enter);
-        }
-        return highlighted;
+        if (plain && !highlighted)
+            return false;
+        break;
     case Qt::Key_Return:
     case Qt::Key_Enter:
-        if (!highlighted) {
-            found.hide();
-            QKeyEvent enter(QEvent::KeyPress, key.key(), key.modifiers());
-            QApplication::sendEvent(this, &enter);
-        }
-        return !highlighted;
+        if (plain && highlighted)
+            return false;
+        break;
     default:
         return false;
     }
+    if (plain && highlighted) {
+        QKeyEvent enter(QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier);
+        QApplication::sendEvent(&found, &enter);
+    } else {
+        found.hide();
+        QKeyEvent own(QEvent::KeyPress, key.key(), key.modifiers());
+        QApplication::sendEvent(this, &own);
+    }
+    return true;
+}
+
+void DataCombo::hideEvent(QHideEvent* event) {
+    completer()->popup()->hide();
+    QComboBox::hideEvent(event);
 }
 
 void DataCombo::wheelEvent(QWheelEvent* event) {
@@ -197,6 +214,11 @@ void DataCombo::focusOutEvent(QFocusEvent* event) {
 void DataCombo::showPopup() {
     widenPopup();
     QComboBox::showPopup();
+}
+
+void DataCombo::hidePopup() {
+    QComboBox::hidePopup();
+    selectWhole();
 }
 
 // As wide as the longest text by its letters: to measure thousands of texts would take too long.

@@ -39,8 +39,10 @@ public:
     std::string BoundText() const;
     /// Shows the row of this key; the empty text where there is none.
     void setBoundText(const std::string& key);
-    /// Takes back what was typed and not picked.
+    /// Takes back what was typed and not picked, and closes the search.
     void restoreChosen();
+
+    void hidePopup() override;
 
 signals:
     void GotFocus();
@@ -53,6 +55,7 @@ protected:
     void wheelEvent(QWheelEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
     void focusOutEvent(QFocusEvent* event) override;
+    void hideEvent(QHideEvent* event) override;
     void showPopup() override;
     bool eventFilter(QObject* watched, QEvent* event) override;
 
@@ -62,6 +65,7 @@ private:
     bool keyInSearch(const QKeyEvent& key);
     void highlightOnlyMatch();
     void widenPopup();
+    void selectWhole();
 
     DataControl* source_ = nullptr;
     ListModel* list_;

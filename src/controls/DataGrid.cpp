@@ -222,6 +222,12 @@ void DataGrid::resizeEvent(QResizeEvent* event) {
     }
 }
 
+// Its row is paler while the keys go elsewhere.
+void DataGrid::initViewItemOption(QStyleOptionViewItem* option) const {
+    QTableView::initViewItemOption(option);
+    option->state.setFlag(QStyle::State_Active, hasFocus() || state() == EditingState);
+}
+
 void DataGrid::focusInEvent(QFocusEvent* event) {
     QTableView::focusInEvent(event);
     followRecordset();

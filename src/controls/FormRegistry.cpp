@@ -11,12 +11,13 @@ namespace controls {
 namespace {
 
 constexpr double kPartOfTheScreen = 0.9;
+constexpr QSize kLeast(1000, 0);      // where the screen is narrow, all of it
 constexpr QSize kLargest(1600, 1100); // more makes a grid's rows too long to follow
 
 void centre(Form& form) {
     const QRect place = form.screen()->availableGeometry();
     form.adjustSize(); // which stops short of a small screen's edges
-    const QSize wanted = form.takesScreen() ? (place.size() * kPartOfTheScreen).boundedTo(kLargest)
+    const QSize wanted = form.takesScreen() ? (place.size() * kPartOfTheScreen).expandedTo(kLeast).boundedTo(kLargest)
                                             : form.size().expandedTo(form.sizeHint());
     form.resize(wanted.boundedTo(place.size()));
     const QPoint centred = place.center() - form.rect().center();

@@ -13,8 +13,7 @@ namespace controls {
 namespace {
 
 bool endsEntry(const QKeyEvent& key, EndOfEntry keys) {
-    const bool plain = (key.modifiers() & ~Qt::KeypadModifier) == Qt::NoModifier;
-    if (!plain)
+    if (!UserInput::isPlain(key))
         return false;
     if (key.key() == Qt::Key_Return || key.key() == Qt::Key_Enter)
         return true;

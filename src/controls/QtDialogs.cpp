@@ -3,8 +3,10 @@
 #include "platform/Workstation.h"
 
 #include <QApplication>
+#include <QDialogButtonBox>
 #include <QDir>
 #include <QFileDialog>
+#include <QGridLayout>
 #include <QInputDialog>
 #include <QMessageBox>
 #include <QPushButton>
@@ -29,6 +31,18 @@ QString titleOr(const std::string& title) {
 /// Whether Esc and the close button are the last button, or a box is left by its buttons alone.
 enum class Leaving { ByEscToo, ByButtonsAlone };
 
+/// Without an icon nothing stands beside the text: the room that is kept there goes, and the buttons are below its
+/// middle.
+void fillRoomOfIcon(QMessageBox& box) {
+    auto* grid = qobject_cast<QGridLayout*>(box.layout());
+    if (QLayoutItem* room = grid != nullptr ? grid->itemAtPosition(0, 0) : nullptr; room && room->spacerItem()) {
+        grid->removeItem(room);
+        delete room;
+    }
+    if (auto* buttons = box.findChild<QDialogButtonBox*>())
+        buttons->setCenterButtons(true);
+}
+
 /// Shows a box with its buttons; true when the first one was chosen.
 bool ask(const std::string& text, QMessageBox::Icon icon, const QStringList& captions,
          Leaving leaving = Leaving::ByEscToo) {
@@ -45,6 +59,8 @@ bool ask(const std::string& text, QMessageBox::Icon icon, const QStringList& cap
         buttons.last()->setObjectName(caption);
     }
     box.setDefaultButton(buttons.first());
+    if (icon == QMessageBox::NoIcon)
+        fillRoomOfIcon(box);
     if (escToo)
         box.setEscapeButton(buttons.last());
     else

@@ -113,6 +113,13 @@ int RoomyStyle::pixelMetric(PixelMetric metric, const QStyleOption* option, cons
     }
 }
 
+int RoomyStyle::styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
+                          QStyleHintReturn* more) const {
+    if (hint == SH_DialogButtonBox_ButtonsHaveIcons)
+        return 0;
+    return QProxyStyle::styleHint(hint, option, widget, more);
+}
+
 QSize RoomyStyle::sizeFromContents(ContentsType type, const QStyleOption* option, const QSize& contents,
                                    const QWidget* widget) const {
     QSize size = QProxyStyle::sizeFromContents(type, option, contents, widget);

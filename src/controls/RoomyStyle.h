@@ -13,6 +13,8 @@ public:
     static QStyle* create();
 
     int pixelMetric(PixelMetric metric, const QStyleOption* option, const QWidget* widget) const override;
+    int styleHint(StyleHint hint, const QStyleOption* option = nullptr, const QWidget* widget = nullptr,
+                  QStyleHintReturn* more = nullptr) const override;
     QSize sizeFromContents(ContentsType type, const QStyleOption* option, const QSize& contents,
                            const QWidget* widget) const override;
     QRect subElementRect(SubElement element, const QStyleOption* option, const QWidget* widget) const override;

@@ -10,13 +10,13 @@ namespace controls::style {
 namespace {
 
 struct Colours {
-    const char *window, *base, *alternate, *text, *muted, *button, *border, *accent, *accentText, *disabled;
+    const char *window, *base, *alternate, *text, *muted, *button, *border, *accent, *accentText, *pale, *disabled;
 };
 
-constexpr Colours kLight = {"#f3f5f7", "#ffffff", "#f6f8fa", "#1c2731", "#5b6975",
-                            "#fdfdfe", "#c3cbd3", "#1f6391", "#ffffff", "#9aa5ae"};
-constexpr Colours kDark = {"#21262c", "#191d22", "#1e2329", "#e3e8ec", "#9aa7b2",
-                           "#2c333b", "#46515c", "#4a9ac9", "#0d151b", "#6d7882"};
+constexpr Colours kLight = {"#f3f5f7", "#ffffff", "#f6f8fa", "#1c2731", "#5b6975", "#fdfdfe",
+                            "#c3cbd3", "#1f6391", "#ffffff", "#cfdfeb", "#9aa5ae"};
+constexpr Colours kDark = {"#21262c", "#191d22", "#1e2329", "#e3e8ec", "#9aa7b2", "#2c333b",
+                           "#46515c", "#4a9ac9", "#0d151b", "#34495a", "#6d7882"};
 
 QPalette palette(const Colours& colours) {
     QPalette palette{QColor(colours.button), QColor(colours.window)};
@@ -38,6 +38,8 @@ QPalette palette(const Colours& colours) {
         {QPalette::BrightText, colours.accentText}};
     for (const auto& [role, colour] : roles)
         palette.setColor(role, QColor(colour));
+    palette.setColor(QPalette::Inactive, QPalette::Highlight, QColor(colours.pale));
+    palette.setColor(QPalette::Inactive, QPalette::HighlightedText, QColor(colours.text));
     for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText})
         palette.setColor(QPalette::Disabled, role, QColor(colours.disabled));
     for (const auto role : {QPalette::Base, QPalette::Button})

@@ -43,6 +43,10 @@ bool UserInput::isRepeat(const QKeyEvent& press) {
     return press.isAutoRepeat() || atItsRelease;
 }
 
+bool UserInput::isPlain(const QKeyEvent& key) {
+    return (key.modifiers() & ~Qt::KeypadModifier) == Qt::NoModifier;
+}
+
 void UserInput::watch() {
     static QPointer<UserInput> filter;
     if (!filter.isNull())

@@ -17,6 +17,8 @@ public:
     /// Whether a held key has sent this press. X tells of each repeat as a release and a press at one moment, and only
     /// where both wait in the queue does the toolkit mark them.
     static bool isRepeat(const QKeyEvent& press);
+    /// A key alone, or the same one on the number pad.
+    static bool isPlain(const QKeyEvent& key);
 
     bool eventFilter(QObject* watched, QEvent* event) override;
 

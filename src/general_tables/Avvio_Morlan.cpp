@@ -11,6 +11,9 @@
 #include "session/variabili.h"
 #include "ui_Avvio_Morlan.h"
 
+#include <QTabBar>
+#include <QToolButton>
+
 namespace vabo {
 
 Avvio_Morlan::Avvio_Morlan() : Form("Avvio_Morlan"), ui_(std::make_unique<Ui::Avvio_Morlan>()) {
@@ -20,6 +23,9 @@ Avvio_Morlan::Avvio_Morlan() : Form("Avvio_Morlan"), ui_(std::make_unique<Ui::Av
     CollegaConti();
     CollegaTrattamento();
     ui_->SSTab1->setFocus();
+    for (auto* freccia : ui_->SSTab1->tabBar()->findChildren<QToolButton*>()) {
+        freccia->setFocusPolicy(Qt::NoFocus); // the keys have the tabs themselves
+    }
     takeScreen();
 }
 

@@ -3,6 +3,7 @@
 #include "controls/DataGrid.h"
 #include "controls/Hourglass.h"
 #include "controls/TextBox.h"
+#include "controls/UserInput.h"
 #include "general_tables/Avvio_Morlan.h"
 #include "general_tables/CaricaValoriControlli.h"
 #include "general_tables/TabelleConti.h"
@@ -127,8 +128,8 @@ void Avvio_Morlan::keyPressEvent(QKeyEvent* event) {
     const QWidget* fuoco = focusWidget();
     const auto selettore = std::ranges::find_if(selettori_, [fuoco](const Selettore& ciascuno) {
         const bool scelta = ciascuno.cornice != nullptr ? ciascuno.cornice->isVisible() : SiFermaIlTab(*ciascuno.combo);
-        const bool dentro = ciascuno.cornice != nullptr && ciascuno.cornice->isAncestorOf(fuoco);
-        return scelta && (dentro || fuoco == ciascuno.combo || fuoco == ciascuno.griglia);
+        const bool sullaScheda = ciascuno.cornice != nullptr && ciascuno.cornice->parentWidget()->isAncestorOf(fuoco);
+        return scelta && (sullaScheda || fuoco == ciascuno.combo || fuoco == ciascuno.griglia);
     });
     if (event->key() == Qt::Key_Escape && selettore != selettori_.end()) {
         LasciaRiga(*selettore);
@@ -153,11 +154,10 @@ void Avvio_Morlan::LasciaRiga(const Selettore& selettore) {
 bool Avvio_Morlan::eventFilter(QObject* watched, QEvent* event) {
     if (event->type() == QEvent::KeyRelease) {
         const auto& tasto = static_cast<const QKeyEvent&>(*event);
-        const bool solo = (tasto.modifiers() & ~Qt::KeypadModifier) == Qt::NoModifier;
         const auto selettore = std::ranges::find_if(selettori_, [watched](const Selettore& ciascuno) {
             return ciascuno.combo == watched || ciascuno.combo->completer()->popup() == watched;
         });
-        if (tasto.key() == Qt::Key_Delete && solo && selettore != selettori_.end()) {
+        if (tasto.key() == Qt::Key_Delete && controls::UserInput::isPlain(tasto) && selettore != selettori_.end()) {
             *selettore->conto = 0;
             selettore->combo->setText("");
         }

@@ -279,6 +279,36 @@ TEST_F(DataCombo, TabWithNothingHighlightedLeavesTheField) {
     EXPECT_TRUE(clicks.empty());
 }
 
+TEST_F(DataCombo, OnlyPlainKeysPickInTheSearch) {
+    choose("Mela");
+    for (const Qt::Key key : {Qt::Key_Tab, Qt::Key_Return, Qt::Key_Enter}) {
+        QAbstractItemView& found = search("coc");
+        ASSERT_TRUE(found.currentIndex().isValid());
+        QTest::keyClick(&found, key, Qt::ControlModifier);
+        EXPECT_FALSE(found.isVisible());
+        gui.press(Qt::Key_Escape);
+    }
+    EXPECT_EQ(combo().Text(), "Mela");
+    EXPECT_TRUE(clicks.empty());
+    EXPECT_TRUE(stored.empty());
+    QTest::keyClick(&search("coc"), Qt::Key_Enter, Qt::KeypadModifier);
+    EXPECT_EQ(combo().Text(), "Albicocca");
+}
+
+TEST_F(DataCombo, TakingBackWhatWasTypedClosesTheSearch) {
+    choose("Mela");
+    const QAbstractItemView& found = search("er");
+    combo().restoreChosen();
+    EXPECT_FALSE(found.isVisible());
+    EXPECT_EQ(combo().Text(), "Mela");
+}
+
+TEST_F(DataCombo, TheSearchGoesWithItsField) {
+    const QAbstractItemView& found = search("er");
+    combo().hide();
+    EXPECT_FALSE(found.isVisible());
+}
+
 TEST_F(DataCombo, AHeldEnterTakesNothing) {
     choose("Mela");
     hold(combo(), Qt::Key_Return);
@@ -307,6 +337,26 @@ TEST_F(DataCombo, ArrowsOpenTheListInsteadOfPickingUnseen) {
     combo().hidePopup();
     EXPECT_EQ(combo().Text(), "Mela");
     EXPECT_TRUE(clicks.empty());
+}
+
+TEST_F(DataCombo, AListLeftWithoutAPickSelectsTheText) {
+    combo().setText("Mela");
+    gui.press(Qt::Key_Down);
+    combo().lineEdit()->deselect();
+    QTest::keyClick(combo().view(), Qt::Key_Escape);
+    EXPECT_FALSE(combo().view()->isVisible());
+    EXPECT_EQ(combo().lineEdit()->selectedText(), "Mela") << "typing starts anew";
+}
+
+TEST_F(DataCombo, APickSelectsItsText) {
+    QTest::keyClick(&search("coc"), Qt::Key_Return);
+    Gui::handleEvents();
+    EXPECT_EQ(combo().lineEdit()->selectedText(), "Albicocca") << "of the search";
+    gui.press(Qt::Key_Down);
+    QTest::keyClick(combo().view(), Qt::Key_Up);
+    QTest::keyClick(combo().view(), Qt::Key_Return);
+    Gui::handleEvents();
+    EXPECT_EQ(combo().lineEdit()->selectedText(), "Pera") << "of the list";
 }
 
 TEST_F(DataCombo, TheWheelPicksNothing) {

@@ -77,6 +77,19 @@ TEST_F(DataGrid, ChoosingTheRowOnWhichItStandsPastTheEndMakesItCurrent) {
     EXPECT_EQ(chosen, (std::vector<std::string>{"5", "5"}));
 }
 
+TEST_F(DataGrid, ItsRowIsPalerWithoutTheFocus) {
+    grid.activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&grid));
+    const auto row = [&] {
+        const QRect cell = grid.visualRect(grid.model()->index(0, 0));
+        return grid.viewport()->grab().toImage().pixelColor(cell.right() - 3, cell.center().y()).lightness();
+    };
+    grid.setFocus();
+    const int focused = row();
+    grid.clearFocus();
+    EXPECT_GT(row(), focused);
+}
+
 TEST_F(DataGrid, BeforeTheFirstRowNoneIsMarked) {
     source.Recordset().MovePrevious();
     EXPECT_FALSE(grid.currentIndex().isValid());

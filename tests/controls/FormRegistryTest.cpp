@@ -164,7 +164,8 @@ TEST_F(FormRegistry, AFormOfTheScreensSizeKeepsTheUsersSizeWithinTheProcess) {
     gui.forms().show("A");
     const QSize screen = gui.form("A").screen()->availableSize();
     const QSize size = gui.form("A").size();
-    EXPECT_EQ(size.width(), screen.width() * 9 / 10);
+    ASSERT_LT(screen.width(), 1000);
+    EXPECT_EQ(size.width(), screen.width()) << "of a narrow screen all";
     EXPECT_EQ(size.height(), screen.height() * 9 / 10);
     gui.form("A").resize(size - QSize(60, 40));
     gui.forms().unload("A");

@@ -1,5 +1,6 @@
 #include "controls/QtDialogs.h"
 
+#include "controls/RoomyStyle.h"
 #include "support/Gui.h"
 
 #include <QAbstractButton>
@@ -9,6 +10,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QMessageBox>
+#include <QProxyStyle>
 #include <QTest>
 
 #include <gmock/gmock.h>
@@ -193,6 +195,37 @@ TEST_F(QtDialogs, AnInputProposesATextAndGivesBackWhatStandsThere) {
     EXPECT_EQ(prompt, "Numero:");
     EXPECT_EQ(seen.title, "Sezionale");
     EXPECT_THAT(seen.buttons, testing::UnorderedElementsAre("OK", "Annulla"));
+}
+
+/// A desktop that wants pictures on the buttons of boxes.
+class DesktopWithPictures : public QProxyStyle {
+public:
+    int styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
+                  QStyleHintReturn* more) const override {
+        return hint == SH_DialogButtonBox_ButtonsHaveIcons ? 1 : QProxyStyle::styleHint(hint, option, widget, more);
+    }
+};
+
+TEST_F(QtDialogs, ButtonsHaveNoPicturesWhateverTheDesktop) {
+    controls::RoomyStyle style;
+    style.setBaseStyle(new DesktopWithPictures);
+    EXPECT_EQ(style.styleHint(QStyle::SH_DialogButtonBox_ButtonsHaveIcons), 0);
+}
+
+TEST_F(QtDialogs, TheButtonOfAMessageStandsInItsMiddle) {
+    withBox(
+        seen,
+        [](QDialog& box) {
+            const auto* button = box.findChild<QAbstractButton*>("OK");
+            ASSERT_NE(button, nullptr);
+            const int middle = button->mapTo(&box, button->rect().center()).x();
+            EXPECT_NEAR(middle, box.rect().center().x(), 1);
+            pressKey(box, Qt::Key_Escape);
+        },
+        [&] {
+            dialogs.message("Type mismatch", platform::Icon::None);
+            return 0;
+        });
 }
 
 TEST_F(QtDialogs, ACancelledInputIsTheEmptyText) {

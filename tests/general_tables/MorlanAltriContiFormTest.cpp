@@ -169,6 +169,17 @@ TEST_F(MorlanAltriConti, EscLeavesTheFrameWithoutStoring) {
     EXPECT_EQ(conto("tipoanagrafica", "IdTipoAnagrafica", 2), (Riga{"1076", "25"}));
 }
 
+TEST_F(MorlanAltriConti, EscLeavesTheFrameFromAnywhereOnItsPage) {
+    for (const char* dove : {"DataGrid4", "tipoanagrafe", "Controllo", "Command18"}) {
+        SCOPED_TRACE(dove);
+        scegli("DataGrid4", "2");
+        gui.find("Avvio_Morlan", dove).setFocus();
+        gui.press(Qt::Key_Escape);
+        EXPECT_FALSE(visibile("Frame2"));
+        EXPECT_EQ(fuoco(), "DataGrid4");
+    }
+}
+
 TEST_F(MorlanAltriConti, AfterTheLastRowTheGridStaysThere) {
     scegli("DataGrid4", "10");
     prendi("DCBitem2", voce("1052"));

@@ -12,6 +12,7 @@
 #include <QAbstractItemView>
 #include <QApplication>
 #include <QCompleter>
+#include <QTabBar>
 #include <QTabWidget>
 #include <QTest>
 

@@ -133,6 +133,18 @@ TEST_F(MorlanFrame, ItsSizeIsTheScreensAndThenTheUsers) {
     EXPECT_EQ(gui.form("Avvio_Morlan").size(), scelta);
 }
 
+TEST_F(MorlanFrame, TheArrowsOfTheTabsAreNoStop) {
+    apri();
+    auto& schede = controllo<QTabWidget>("SSTab1");
+    schede.setCurrentIndex(0);
+    gui.form("Avvio_Morlan").resize(gui.form("Avvio_Morlan").minimumSizeHint());
+    support::Gui::handleEvents();
+    ASSERT_GT(schede.tabBar()->sizeHint().width(), schede.width()) << "the tabs don't fit";
+    schede.setFocus();
+    gui.press(Qt::Key_Tab);
+    EXPECT_EQ(fuoco(), "Check7");
+}
+
 TEST_F(MorlanFrame, EveryPickerHasItsLabel) {
     apri();
     const std::pair<const char*, const char*> etichette[] = {{"DCBItem1", "Budget Item"},

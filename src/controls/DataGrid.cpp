@@ -104,6 +104,22 @@ DataGrid::Column DataGrid::Columns(int index) {
     return {*this, index};
 }
 
+void DataGrid::lay(std::span<const ColumnLayout> layout) {
+    for (int i = 0; i < ColumnCount(); ++i) {
+        Columns(i).setLocked(true);
+    }
+    for (const ColumnLayout& row : layout) {
+        Column column = Columns(row.place);
+        if (row.caption != nullptr) {
+            column.setCaption(row.caption);
+        }
+        if (row.alignment != model_->column(row.place).alignment) {
+            column.setAlignment(row.alignment);
+        }
+        column.setWidth(row.twips);
+    }
+}
+
 void DataGrid::showAllColumns() {
     for (int i = 0; i < ColumnCount(); ++i) {
         setColumnHidden(i, false);

@@ -4,7 +4,17 @@
 
 #include <QTableView>
 
+#include <span>
+
 namespace controls {
+
+/// One row of a grid's layout.
+struct ColumnLayout {
+    int place;           ///< from 0
+    const char* caption; ///< null keeps the field's name
+    int twips;           ///< 15 to a pixel; 0 hides the column
+    Qt::Alignment alignment = Qt::AlignLeft;
+};
 
 /// A grid over the rows of a data control. Its current row and the recordset's are one; only past the end it stands on
 /// its last row, which a click or Enter then makes current. Each refresh of the source makes the columns anew: every
@@ -42,6 +52,9 @@ public:
     int ColumnCount() const { return model_->columnCount(); }
     /// Error 9 for a column that isn't there.
     Column Columns(int index);
+    /// Locks every column and sets those of the layout; the others keep what they have. Error 9 for a column that isn't
+    /// there, with the rows of the layout ahead of it set.
+    void lay(std::span<const ColumnLayout> layout);
     /// Columns of a layout grow in proportion where the grid is wider than they are together, and none is narrower than
     /// its caption.
     void fillWidth();

@@ -8,6 +8,8 @@
 #include <QKeyEvent>
 #include <QTest>
 
+#include <array>
+
 namespace {
 
 class DataGrid : public DataFixture {
@@ -134,6 +136,49 @@ TEST_F(DataGrid, ALayoutIsWhatTheColumnsSay) {
     EXPECT_TRUE(column.Locked());
     EXPECT_FALSE(grid.Columns(0).Visible());
     EXPECT_FALSE(grid.Columns(2).Visible()) << "no width is not to be seen";
+}
+
+constexpr std::array<controls::ColumnLayout, 2> kLayout = {
+    {{0, "Codice", 0}, {2, "Prezzo\r\nal chilo", 1500, Qt::AlignRight}}};
+
+TEST_F(DataGrid, ALayoutIsATableOfColumnsAndLocksEveryOne) {
+    grid.lay(kLayout);
+    for (int i = 0; i < grid.ColumnCount(); ++i)
+        EXPECT_TRUE(grid.Columns(i).Locked()) << i;
+    EXPECT_FALSE(grid.Columns(0).Visible());
+    EXPECT_EQ(grid.Columns(0).Caption(), "Codice");
+    EXPECT_EQ(grid.Columns(2).Caption(), "Prezzo\r\nal chilo");
+    EXPECT_EQ(grid.columnWidth(2), 100);
+    EXPECT_EQ(grid.model()->index(0, 2).data(Qt::TextAlignmentRole).toInt() & Qt::AlignHorizontal_Mask, Qt::AlignRight);
+    EXPECT_TRUE(grid.Columns(1).Visible()) << "a column that the layout doesn't name keeps what it has";
+    EXPECT_EQ(grid.Columns(1).Caption(), "nome");
+}
+
+TEST_F(DataGrid, ALayoutWithoutACaptionKeepsTheFieldsName) {
+    grid.lay(std::array<controls::ColumnLayout, 1>{{{1, nullptr, 3000}}});
+    EXPECT_EQ(grid.Columns(1).Caption(), "nome");
+    EXPECT_EQ(grid.columnWidth(1), 200);
+}
+
+TEST_F(DataGrid, ALayoutStopsAtAColumnThatIsNotThere) {
+    constexpr std::array<controls::ColumnLayout, 3> kTooMany = {
+        {{0, "Codice", 300}, {3, nullptr, 0}, {1, "Frutto", 300}}};
+    try {
+        grid.lay(kTooMany);
+        ADD_FAILURE() << "there is no column 3";
+    } catch (const ado::Error& error) {
+        EXPECT_EQ(error.number(), 9);
+    }
+    EXPECT_EQ(grid.Columns(0).Caption(), "Codice");
+    EXPECT_EQ(grid.Columns(1).Caption(), "nome");
+}
+
+TEST_F(DataGrid, ARefreshLeavesNothingOfALayout) {
+    grid.lay(kLayout);
+    source.Refresh();
+    EXPECT_TRUE(grid.Columns(0).Visible());
+    EXPECT_FALSE(grid.Columns(2).Locked());
+    EXPECT_EQ(grid.Columns(2).Caption(), "prezzo");
 }
 
 TEST_F(DataGrid, ColumnsThatFillTheWidthKeepTheirProportion) {

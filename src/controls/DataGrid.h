@@ -61,10 +61,18 @@ public:
 
 signals:
     void DblClick(); ///< or Enter, on a row; a double click on a grid without rows as well
+    void Click();    ///< of the left button, on a row or beside the rows; or Space in a locked column
+    /// The user has gone to a row, which is current now: to another one, or to the same with a press or Space. No move
+    /// in code tells this.
+    void RowPicked();
+    /// A key goes down, once however long it is held, before the grid does its own with it.
+    void KeyDown(int key, Qt::KeyboardModifiers modifiers);
 
 protected:
     void keyPressEvent(QKeyEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
+    void mouseMoveEvent(QMouseEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
     void mouseDoubleClickEvent(QMouseEvent* event) override;
     void currentChanged(const QModelIndex& current, const QModelIndex& previous) override;
     void focusInEvent(QFocusEvent* event) override;
@@ -73,6 +81,8 @@ protected:
 private:
     void followRecordset();
     void takeRow();
+    long position() const;
+    void tellMove(long from);
     bool isInSight(const QSize& viewport) const;
     int visibleColumn() const;
     void leaveHiddenColumn();
@@ -81,6 +91,7 @@ private:
 
     RecordsetModel* model_;
     bool following_ = false;
+    bool pressed_ = false; ///< the left button went down here and hasn't come up
     bool fillsWidth_ = false;
 };
 

@@ -86,6 +86,16 @@ void DataCombo::restoreChosen() {
         lineEdit()->selectAll(); // as when the focus comes: typing starts anew
 }
 
+bool DataCombo::TabStop() const {
+    return (focusPolicy() & Qt::TabFocus) != 0;
+}
+
+void DataCombo::setTabStop(bool stops) {
+    const Qt::FocusPolicy policy = stops ? Qt::WheelFocus : Qt::ClickFocus;
+    setFocusPolicy(policy);
+    lineEdit()->setFocusPolicy(policy);
+}
+
 std::string DataCombo::BoundText() const {
     const bool picked = pickedRow_ >= 0 && pickedRow_ < list_->rowCount() && list_->textAt(pickedRow_) == currentText();
     const int row = picked ? pickedRow_ : list_->rowOfText(currentText());

@@ -27,23 +27,19 @@ Avvio_Morlan::~Avvio_Morlan() = default;
 
 void Avvio_Morlan::CollegaComandi() {
     constexpr std::int16_t kAnteprima = 2;
-    on(ui_->Command1, &QPushButton::clicked, [this] { ApriDa("I_Iva_sezionali"); });
-    on(ui_->Command2, &QPushButton::clicked, [this] { ApriDa("caricasedecentrale"); });
-    on(ui_->Command3, &QPushButton::clicked, [this] { ApriDa("IndirizzoVaboSuServer"); });
-    on(ui_->Command4, &QPushButton::clicked, [this] { ApriDa("Scegli_progetto_4"); });
-    on(ui_->Command5, &QPushButton::clicked, [this] { ApriDa("TabelleBustePaga"); });
-    on(ui_->Command6, &QPushButton::clicked, [this] { ApriDa("Scegli_sede_Pd"); });
+    const std::initializer_list<std::pair<QPushButton*, const char*>> vie = {
+        {ui_->Command1, "I_Iva_sezionali"},       {ui_->Command2, "caricasedecentrale"},
+        {ui_->Command3, "IndirizzoVaboSuServer"}, {ui_->Command4, "Scegli_progetto_4"},
+        {ui_->Command5, "TabelleBustePaga"},      {ui_->Command6, "Scegli_sede_Pd"}};
+    for (const auto& [comando, form] : vie) {
+        on(comando, &QPushButton::clicked, [this, nome = form] {
+            const controls::Hourglass clessidra;
+            ApriDa(Name(), nome);
+        });
+    }
     on(ui_->Command13, &QPushButton::clicked, [this] { UnloadMe(); });
     on(ui_->Command39, &QPushButton::clicked,
        [] { StampaReportAccess(PercorsoFileLocale, "AccessoMorlan", kAnteprima); });
-}
-
-// A form that isn't built leaves the console where it is: nobody is left before an empty screen.
-void Avvio_Morlan::ApriDa(const std::string& nome) {
-    const controls::Hourglass clessidra;
-    if (ApriForm(nome, true)) {
-        Hide();
-    }
 }
 
 // The first two lists raise; a failure in them is told and ends the load, with the general switches unread. What comes
@@ -66,7 +62,7 @@ void Avvio_Morlan::Load() {
 }
 
 void Avvio_Morlan::CaricaElenco(controls::DataControl& elenco, const std::string& testo, controls::DataCombo& combo) {
-    CaricaDati(elenco, testo);
+    elenco.load(StringaAzienda, testo);
     combo.ReFill();
     combo.Refresh();
 }

@@ -51,7 +51,6 @@ private:
 
     // Frame and load
     void CollegaComandi();
-    void ApriDa(const std::string& nome);
     static void CaricaElenco(controls::DataControl& elenco, const std::string& testo, controls::DataCombo& combo);
     void MostraNomeDatabase();
     void CaricaOpzioni();
@@ -72,7 +71,6 @@ private:
     // The accounts
     void CollegaConti();
     void LasciaRiga(const Selettore& selettore);
-    static void CaricaDati(controls::DataControl& dati, const std::string& testo);
     void CaricaContiUtili();
     void ScegliContoUtile();
     void SalvaUtile();

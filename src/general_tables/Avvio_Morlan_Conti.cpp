@@ -1,6 +1,7 @@
 #include "ado/Conversions.h"
 #include "controls/DataCombo.h"
 #include "controls/DataGrid.h"
+#include "controls/Disabled.h"
 #include "controls/Hourglass.h"
 #include "controls/TextBox.h"
 #include "general_tables/Avvio_Morlan.h"
@@ -15,8 +16,6 @@
 #include <QAbstractItemView>
 #include <QCompleter>
 #include <QKeyEvent>
-#include <QLineEdit>
-#include <QPointer>
 
 #include <algorithm>
 
@@ -25,16 +24,6 @@ namespace vabo {
 namespace {
 
 constexpr const char* kNessunaScelta = "Seleziona";
-
-void FermataDelTab(controls::DataCombo& combo, bool fermata) {
-    const Qt::FocusPolicy politica = fermata ? Qt::WheelFocus : Qt::ClickFocus;
-    combo.setFocusPolicy(politica);
-    combo.lineEdit()->setFocusPolicy(politica);
-}
-
-bool SiFermaIlTab(const controls::DataCombo& combo) {
-    return (combo.focusPolicy() & Qt::TabFocus) != 0;
-}
 
 const TabellaAltriConti& AltriConti(int tabella) {
     return kAltriConti.at(static_cast<std::size_t>(tabella));
@@ -48,24 +37,6 @@ bool ConNome(const ado::Value& valore) {
     }
     return ado::isNumeric(valore) ? ado::toDouble(valore) > 0 : !ado::toText(valore).empty();
 }
-
-/// A form that takes no input while it lives.
-class Disabilitata {
-public:
-    explicit Disabilitata(QWidget& form) : form_(form), fuoco_(form.focusWidget()) { form_.setEnabled(false); }
-    Disabilitata(const Disabilitata&) = delete;
-    Disabilitata& operator=(const Disabilitata&) = delete;
-    ~Disabilitata() {
-        form_.setEnabled(true);
-        if (fuoco_) {
-            fuoco_->setFocus();
-        }
-    }
-
-private:
-    QWidget& form_;
-    QPointer<QWidget> fuoco_;
-};
 
 } // namespace
 
@@ -99,8 +70,8 @@ void Avvio_Morlan::CollegaConti() {
                            [&selettore] { selettore.salva(OrdineFatture::Invio); });
     }
     chain(std::move(tasti));
-    FermataDelTab(*ui_->DCBItems3, false);
-    FermataDelTab(*ui_->DCBitems4, false);
+    ui_->DCBItems3->setTabStop(false);
+    ui_->DCBitems4->setTabStop(false);
     // Seen only while a row is being changed.
     ui_->Frame6->hide();
     ui_->Frame2->hide();
@@ -126,7 +97,7 @@ void Avvio_Morlan::CollegaConti() {
 void Avvio_Morlan::keyPressEvent(QKeyEvent* event) {
     const QWidget* fuoco = focusWidget();
     const auto selettore = std::ranges::find_if(selettori_, [fuoco](const Selettore& ciascuno) {
-        const bool scelta = ciascuno.cornice != nullptr ? ciascuno.cornice->isVisible() : SiFermaIlTab(*ciascuno.combo);
+        const bool scelta = ciascuno.cornice != nullptr ? ciascuno.cornice->isVisible() : ciascuno.combo->TabStop();
         const bool dentro = ciascuno.cornice != nullptr && ciascuno.cornice->isAncestorOf(fuoco);
         return scelta && (dentro || fuoco == ciascuno.combo || fuoco == ciascuno.griglia);
     });
@@ -146,7 +117,7 @@ void Avvio_Morlan::LasciaRiga(const Selettore& selettore) {
     if (selettore.cornice != nullptr) {
         selettore.cornice->hide();
     } else {
-        FermataDelTab(*selettore.combo, false);
+        selettore.combo->setTabStop(false);
     }
 }
 
@@ -165,16 +136,10 @@ bool Avvio_Morlan::eventFilter(QObject* watched, QEvent* event) {
     return Form::eventFilter(watched, event);
 }
 
-void Avvio_Morlan::CaricaDati(controls::DataControl& dati, const std::string& testo) {
-    dati.ConnectionString = StringaAzienda;
-    dati.RecordSource = testo;
-    dati.Refresh();
-}
-
 // Tab 1
 
 void Avvio_Morlan::CaricaContiUtili() {
-    CaricaDati(*ui_->tabella_conti_utili, TestoContiUtili());
+    ui_->tabella_conti_utili->load(StringaAzienda, TestoContiUtili());
     ImpostaGrigliaContiUtili();
 }
 
@@ -226,7 +191,7 @@ void Avvio_Morlan::MostraTabella(const char* etichetta) {
 void Avvio_Morlan::CaricaAltriConti() {
     MostraTabella(AltriConti(TabellaCorrente).etichetta);
     ui_->Controllo->setText(std::to_string(TabellaCorrente));
-    CaricaDati(*ui_->tipo_anagrafica, TestoAltriConti(TabellaCorrente));
+    ui_->tipo_anagrafica->load(StringaAzienda, TestoAltriConti(TabellaCorrente));
     ImpostaGrigliaAltriConti();
 }
 
@@ -236,7 +201,7 @@ void Avvio_Morlan::GiraTabella() {
     TabellaCorrente = (lasciata + 1) % static_cast<int>(kAltriConti.size());
     ui_->Controllo->setText(std::to_string(lasciata == 0 ? lasciata : TabellaCorrente));
     MostraTabella(AltriConti(TabellaCorrente).etichettaGirata);
-    CaricaDati(*ui_->tipo_anagrafica, TestoAltriConti(TabellaCorrente));
+    ui_->tipo_anagrafica->load(StringaAzienda, TestoAltriConti(TabellaCorrente));
     ImpostaGrigliaAltriConti();
 }
 
@@ -280,7 +245,7 @@ void Avvio_Morlan::SalvaAltro() {
     const bool finita = dati.Recordset().EOF();
     ui_->tipoanagrafe->setText("Doppio click sui dati per correggerli");
     ui_->DCBitem2->setText(kNessunaScelta);
-    CaricaDati(dati, finita ? TestoAltriContiRipiego(TabellaCorrente) : TestoAltriConti(TabellaCorrente));
+    dati.load(StringaAzienda, finita ? TestoAltriContiRipiego(TabellaCorrente) : TestoAltriConti(TabellaCorrente));
     ImpostaGrigliaAltriConti();
     ui_->DataGrid4->setFocus();
     ui_->Frame2->hide();
@@ -289,7 +254,7 @@ void Avvio_Morlan::SalvaAltro() {
 // Tab 4
 
 void Avvio_Morlan::CaricaContiIva() {
-    CaricaDati(*ui_->ContiIva, TestoContiIva());
+    ui_->ContiIva->load(StringaAzienda, TestoContiIva());
     ImpostaGrigliaContiIva();
 }
 
@@ -300,7 +265,7 @@ void Avvio_Morlan::ScegliContoFattura() {
         return;
     }
     IdRigaFattura = ado::toDouble(id);
-    FermataDelTab(*ui_->DCBItems3, true);
+    ui_->DCBItems3->setTabStop(true);
     MostraContoFattura(griglia, *ui_->DCBItems3);
     salta([&] { PosizioneGriglia = ui_->ContiIva->Recordset().AbsolutePosition(); });
     ui_->DCBItems3->setFocus();
@@ -318,7 +283,7 @@ void Avvio_Morlan::MostraContoFattura(controls::DataGrid& griglia, controls::Dat
 // Without a rule until the last step; the form comes back from an error too.
 void Avvio_Morlan::SalvaFattura(OrdineFatture ordine) {
     {
-        const Disabilitata disabilitata(*this);
+        const controls::Disabled disabilitata(*this);
         if (!IsEmptyValue(IdRigaFattura)) {
             SalvaContoFattura(IdRigaFattura, IdContoFattura, ordine);
         }
@@ -327,7 +292,7 @@ void Avvio_Morlan::SalvaFattura(OrdineFatture ordine) {
         ui_->ContiIva->Refresh();
         ImpostaGrigliaContiIva();
         ui_->DCBItems3->setText(kNessunaScelta);
-        FermataDelTab(*ui_->DCBItems3, false);
+        ui_->DCBItems3->setTabStop(false);
     }
     ui_->DataGrid11->setFocus();
 }
@@ -335,7 +300,7 @@ void Avvio_Morlan::SalvaFattura(OrdineFatture ordine) {
 // Tab 5
 
 void Avvio_Morlan::CaricaPersonale() {
-    CaricaDati(*ui_->elencoP, TestoContiPersonale());
+    ui_->elencoP->load(StringaAzienda, TestoContiPersonale());
     ImpostaGrigliaPersonale();
 }
 
@@ -351,7 +316,7 @@ void Avvio_Morlan::ScegliContoPersonale() {
     }
     PosizioneGriglia = ui_->elencoP->Recordset().AbsolutePosition();
     ui_->DCBitems4->setText(kNessunaScelta);
-    FermataDelTab(*ui_->DCBitems4, true);
+    ui_->DCBitems4->setTabStop(true);
     IdRiga = ado::toDouble(id);
     MostraContoFattura(griglia, *ui_->DCBitems4);
     ui_->DCBitems4->setFocus();
@@ -364,7 +329,7 @@ void Avvio_Morlan::SalvaPersonale() {
     }
     SalvaContoPersonale(IdRiga, IdContoFattura);
     ui_->DCBitems4->setText(kNessunaScelta);
-    FermataDelTab(*ui_->DCBitems4, false);
+    ui_->DCBitems4->setTabStop(false);
     ui_->DataGridPersonale->setFocus();
 }
 

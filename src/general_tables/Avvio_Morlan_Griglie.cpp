@@ -1,7 +1,6 @@
 #include "controls/DataGrid.h"
 #include "general_tables/Avvio_Morlan.h"
-#include "kit/IsEmptyValue.h"
-#include "kit/Regole.h"
+#include "kit/Riposiziona.h"
 #include "ui_Avvio_Morlan.h"
 
 #include <array>
@@ -50,14 +49,9 @@ constexpr std::array<Colonna, 8> kPersonale = {{{0, kNomeDelCampo, 0},
                                                 {6, kNomeDelCampo, 0},
                                                 {7, kNomeDelCampo, 4500}}};
 
-// The position counts from 1 and the move from the first row: the grid comes to stand one row below the chosen one.
-void Avanza(controls::DataControl& dati, long posizione) {
-    if (!IsEmptyValue(static_cast<double>(posizione))) {
-        salta([&] { dati.Recordset().Move(posizione); });
-    }
-}
-
 } // namespace
+
+// The position counts from 1 and the move from the first row: a grid comes to stand one row below the chosen one.
 
 void Avvio_Morlan::ImpostaGrigliaContiUtili() {
     ui_->DataGrid2->lay(kContiUtili);
@@ -65,17 +59,17 @@ void Avvio_Morlan::ImpostaGrigliaContiUtili() {
 
 void Avvio_Morlan::ImpostaGrigliaAltriConti() {
     ui_->DataGrid4->lay(kAltriConti);
-    Avanza(*ui_->tipo_anagrafica, PosizioneGriglia);
+    Riposiziona(*ui_->tipo_anagrafica, PosizioneGriglia);
 }
 
 void Avvio_Morlan::ImpostaGrigliaContiIva() {
     ui_->DataGrid11->lay(kContiIva);
-    Avanza(*ui_->ContiIva, PosizioneGriglia);
+    Riposiziona(*ui_->ContiIva, PosizioneGriglia);
 }
 
 void Avvio_Morlan::ImpostaGrigliaPersonale() {
     ui_->DataGridPersonale->lay(kPersonale);
-    Avanza(*ui_->elencoP, PosizioneGriglia);
+    Riposiziona(*ui_->elencoP, PosizioneGriglia);
 }
 
 } // namespace vabo

@@ -5,6 +5,7 @@
 #include "kit/IsEmptyValue.h"
 #include "kit/Regole.h"
 #include "platform/Dialogs.h"
+#include "rights/Permesso.h"
 #include "session/ApriAzienda.h"
 #include "session/ApriDbSede.h"
 #include "session/Aziende.h"
@@ -91,11 +92,8 @@ void Avvio_Azienda::ScegliAzienda(int area) {
 }
 
 void Avvio_Azienda::ApriUtenti() {
-    if (DirittiUtente.Administrator == kFalso) {
-        platform::dialogs().message("Utente non abilitato! Contattare l'amministratore di sistema");
-        return;
-    }
-    if (ApriForm("Login", true))
+    if (Permesso(DirittiUtente.Administrator, "Utente non abilitato! Contattare l'amministratore di sistema") &&
+        ApriForm("Login", true))
         UnloadMe();
 }
 

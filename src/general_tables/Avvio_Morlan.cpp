@@ -2,6 +2,7 @@
 
 #include "controls/Guard.h"
 #include "controls/Hourglass.h"
+#include "controls/Picker.h"
 #include "general_tables/RecordsetConsole.h"
 #include "general_tables/TabelleConti.h"
 #include "general_tables/TrattamentoIva.h"
@@ -47,24 +48,18 @@ void Avvio_Morlan::CollegaComandi() {
 void Avvio_Morlan::Load() {
     CaricaTassiEBadge();
     if (!controls::guarded([this] {
-            CaricaElenco(*ui_->BItems1, ElencoContiUtili(), *ui_->DCBItem1);
-            CaricaElenco(*ui_->BItems2, ElencoAltriConti(), *ui_->DCBitem2);
+            contoUtile_->load(StringaAzienda, ElencoContiUtili());
+            altroConto_->load(StringaAzienda, ElencoAltriConti());
         })) {
         return;
     }
-    salta([this] { CaricaElenco(*ui_->BItems4, ElencoContiPersonale(), *ui_->DCBitems4); });
-    salta([this] { CaricaElenco(*ui_->BItems3, ElencoContiFatture(), *ui_->DCBItems3); });
+    salta([this] { contoPersonale_->load(StringaAzienda, ElencoContiPersonale()); });
+    salta([this] { contoFattura_->load(StringaAzienda, ElencoContiFatture()); });
     salta([this] { CaricaPersonale(); });
-    salta([this] { CaricaElenco(*ui_->BItems5, ElencoTrattamenti(), *ui_->DCBitem5); });
+    salta([this] { trattamento_->load(StringaAzienda, ElencoTrattamenti()); });
     CaricaTrattamento();
     const Restituzione restituzione(kPostoOpzioni);
     salta([this] { CaricaOpzioni(); });
-}
-
-void Avvio_Morlan::CaricaElenco(controls::DataControl& elenco, const std::string& testo, controls::DataCombo& combo) {
-    elenco.load(StringaAzienda, testo);
-    combo.ReFill();
-    combo.Refresh();
 }
 
 void Avvio_Morlan::MostraNomeDatabase() {

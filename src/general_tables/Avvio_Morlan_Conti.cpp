@@ -3,18 +3,18 @@
 #include "controls/DataGrid.h"
 #include "controls/Disabled.h"
 #include "controls/Hourglass.h"
+#include "controls/Picker.h"
 #include "controls/TextBox.h"
 #include "general_tables/Avvio_Morlan.h"
 #include "general_tables/CaricaValoriControlli.h"
 #include "general_tables/TabelleConti.h"
 #include "kit/IsEmptyValue.h"
 #include "kit/Regole.h"
-#include "platform/Dialogs.h"
+#include "kit/Testi.h"
+#include "rights/Permesso.h"
 #include "session/variabili.h"
 #include "ui_Avvio_Morlan.h"
 
-#include <QAbstractItemView>
-#include <QCompleter>
 #include <QKeyEvent>
 
 #include <algorithm>
@@ -22,8 +22,6 @@
 namespace vabo {
 
 namespace {
-
-constexpr const char* kNessunaScelta = "Seleziona";
 
 const TabellaAltriConti& AltriConti(int tabella) {
     return kAltriConti.at(static_cast<std::size_t>(tabella));
@@ -41,33 +39,27 @@ bool ConNome(const ado::Value& valore) {
 } // namespace
 
 void Avvio_Morlan::CollegaConti() {
+    const auto selettore = [](controls::DataCombo* combo, controls::DataControl* elenco, double& conto) {
+        return new controls::Picker(*combo, *elenco, "NomeConto", "idconto", conto);
+    };
+    contoUtile_ = selettore(ui_->DCBItem1, ui_->BItems1, IdContoUtile);
+    altroConto_ = selettore(ui_->DCBitem2, ui_->BItems2, IdContoAltri);
+    contoFattura_ = selettore(ui_->DCBItems3, ui_->BItems3, IdContoFattura);
+    contoPersonale_ = selettore(ui_->DCBitems4, ui_->BItems4, IdContoFattura);
     selettori_ = {
-        {ui_->DCBItem1, ui_->BItems1, ui_->DataGrid2, ui_->Frame6, &IdRiga, &IdContoUtile,
-         [this](OrdineFatture) { SalvaUtile(); }},
-        {ui_->DCBitem2, ui_->BItems2, ui_->DataGrid4, ui_->Frame2, &IdRiga, &IdContoAltri,
-         [this](OrdineFatture) { ProvaESalvaAltro(); }},
-        {ui_->DCBItems3, ui_->BItems3, ui_->DataGrid11, nullptr, &IdRigaFattura, &IdContoFattura,
+        {contoUtile_, ui_->DataGrid2, ui_->Frame6, &IdRiga, [this](OrdineFatture) { SalvaUtile(); }},
+        {altroConto_, ui_->DataGrid4, ui_->Frame2, &IdRiga, [this](OrdineFatture) { ProvaESalvaAltro(); }},
+        {contoFattura_, ui_->DataGrid11, nullptr, &IdRigaFattura,
          [this](OrdineFatture ordine) { SalvaFattura(ordine); }},
-        {ui_->DCBitems4, ui_->BItems4, ui_->DataGridPersonale, nullptr, &IdRiga, &IdContoFattura,
-         [this](OrdineFatture) { SalvaPersonale(); }},
+        {contoPersonale_, ui_->DataGridPersonale, nullptr, &IdRiga, [this](OrdineFatture) { SalvaPersonale(); }},
     };
     std::vector<controls::KeyRow> tasti;
-    for (const Selettore& selettore : selettori_) {
-        selettore.combo->ListField = "NomeConto";
-        selettore.combo->BoundColumn = "idconto";
-        selettore.combo->setRowSource(selettore.elenco);
-        selettore.combo->setText(kNessunaScelta);
-        // Delete is heard in the text and in the list that opens while one types.
-        selettore.combo->installEventFilter(this);
-        selettore.combo->completer()->popup()->installEventFilter(this);
-        on(selettore.combo, &controls::DataCombo::Click, [&selettore](int area) {
-            if (area == controls::DataCombo::List) {
-                *selettore.conto = ado::toDouble(selettore.combo->BoundText());
-                selettore.salva(OrdineFatture::Elenco);
-            }
-        });
-        tasti.emplace_back(selettore.combo, controls::EndOfEntry::Enter,
-                           [&selettore] { selettore.salva(OrdineFatture::Invio); });
+    for (const Selettore& ciascuno : selettori_) {
+        ciascuno.conto->combo().setText(kNessunaScelta);
+        ciascuno.conto->clearWithDelete();
+        on(ciascuno.conto, &controls::Picker::Picked, [&ciascuno] { ciascuno.salva(OrdineFatture::Elenco); });
+        tasti.emplace_back(&ciascuno.conto->combo(), controls::EndOfEntry::Enter,
+                           [&ciascuno] { ciascuno.salva(OrdineFatture::Invio); });
     }
     chain(std::move(tasti));
     ui_->DCBItems3->setTabStop(false);
@@ -97,9 +89,10 @@ void Avvio_Morlan::CollegaConti() {
 void Avvio_Morlan::keyPressEvent(QKeyEvent* event) {
     const QWidget* fuoco = focusWidget();
     const auto selettore = std::ranges::find_if(selettori_, [fuoco](const Selettore& ciascuno) {
-        const bool scelta = ciascuno.cornice != nullptr ? ciascuno.cornice->isVisible() : ciascuno.combo->TabStop();
+        const controls::DataCombo& combo = ciascuno.conto->combo();
+        const bool scelta = ciascuno.cornice != nullptr ? ciascuno.cornice->isVisible() : combo.TabStop();
         const bool dentro = ciascuno.cornice != nullptr && ciascuno.cornice->isAncestorOf(fuoco);
-        return scelta && (dentro || fuoco == ciascuno.combo || fuoco == ciascuno.griglia);
+        return scelta && (dentro || fuoco == &combo || fuoco == ciascuno.griglia);
     });
     if (event->key() == Qt::Key_Escape && selettore != selettori_.end()) {
         LasciaRiga(*selettore);
@@ -111,29 +104,14 @@ void Avvio_Morlan::keyPressEvent(QKeyEvent* event) {
 // Nothing is stored, and nothing stays chosen that a later Enter could store.
 void Avvio_Morlan::LasciaRiga(const Selettore& selettore) {
     *selettore.riga = 0;
-    *selettore.conto = 0;
-    selettore.combo->setText(kNessunaScelta);
+    selettore.conto->key() = 0;
+    selettore.conto->combo().setText(kNessunaScelta);
     selettore.griglia->setFocus();
     if (selettore.cornice != nullptr) {
         selettore.cornice->hide();
     } else {
-        selettore.combo->setTabStop(false);
+        selettore.conto->combo().setTabStop(false);
     }
-}
-
-bool Avvio_Morlan::eventFilter(QObject* watched, QEvent* event) {
-    if (event->type() == QEvent::KeyRelease) {
-        const auto& tasto = static_cast<const QKeyEvent&>(*event);
-        const bool solo = (tasto.modifiers() & ~Qt::KeypadModifier) == Qt::NoModifier;
-        const auto selettore = std::ranges::find_if(selettori_, [watched](const Selettore& ciascuno) {
-            return ciascuno.combo == watched || ciascuno.combo->completer()->popup() == watched;
-        });
-        if (tasto.key() == Qt::Key_Delete && solo && selettore != selettori_.end()) {
-            *selettore->conto = 0;
-            selettore->combo->setText("");
-        }
-    }
-    return Form::eventFilter(watched, event);
 }
 
 // Tab 1
@@ -305,8 +283,7 @@ void Avvio_Morlan::CaricaPersonale() {
 }
 
 void Avvio_Morlan::ScegliContoPersonale() {
-    if (!DirittiUtente.A_Personale) {
-        platform::dialogs().message("Utente non abilitato!\nContattare l'amministratore di sistema");
+    if (!Permesso(DirittiUtente.A_Personale)) {
         return;
     }
     controls::DataGrid& griglia = *ui_->DataGridPersonale;

@@ -94,6 +94,16 @@ void DataCombo::selectWhole() {
         lineEdit()->selectAll();
 }
 
+bool DataCombo::TabStop() const {
+    return (focusPolicy() & Qt::TabFocus) != 0;
+}
+
+void DataCombo::setTabStop(bool stops) {
+    const Qt::FocusPolicy policy = stops ? Qt::WheelFocus : Qt::ClickFocus;
+    setFocusPolicy(policy);
+    lineEdit()->setFocusPolicy(policy);
+}
+
 std::string DataCombo::BoundText() const {
     const bool picked = pickedRow_ >= 0 && pickedRow_ < list_->rowCount() && list_->textAt(pickedRow_) == currentText();
     const int row = picked ? pickedRow_ : list_->rowOfText(currentText());

@@ -41,6 +41,9 @@ public:
     void setBoundText(const std::string& key);
     /// Takes back what was typed and not picked, and closes the search.
     void restoreChosen();
+    /// Whether Tab stops here; a click does so always.
+    bool TabStop() const;
+    void setTabStop(bool stops);
 
     void hidePopup() override;
 

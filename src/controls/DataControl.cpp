@@ -19,6 +19,12 @@ DataControl::DataControl(QWidget* parent) : QWidget(parent) {
 
 DataControl::~DataControl() = default;
 
+void DataControl::load(const std::string& connection, const std::string& source) {
+    ConnectionString = connection;
+    RecordSource = source;
+    Refresh();
+}
+
 void DataControl::Refresh() {
     recordset_.reset();
     auto fresh = std::make_unique<ado::Recordset>();

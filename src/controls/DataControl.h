@@ -22,6 +22,8 @@ public:
     std::string ConnectionString;
     std::string RecordSource;
 
+    /// Takes both texts and refreshes.
+    void load(const std::string& connection, const std::string& source);
     /// Closes and opens anew: a new recordset, unfiltered, on its first row. What fails raises and leaves none.
     void Refresh();
     /// Error 91 before the first Refresh and after one that failed.

@@ -104,6 +104,22 @@ DataGrid::Column DataGrid::Columns(int index) {
     return {*this, index};
 }
 
+void DataGrid::lay(std::span<const ColumnLayout> layout) {
+    for (int i = 0; i < ColumnCount(); ++i) {
+        Columns(i).setLocked(true);
+    }
+    for (const ColumnLayout& row : layout) {
+        Column column = Columns(row.place);
+        if (row.caption != nullptr) {
+            column.setCaption(row.caption);
+        }
+        if (row.alignment != model_->column(row.place).alignment) {
+            column.setAlignment(row.alignment);
+        }
+        column.setWidth(row.twips);
+    }
+}
+
 void DataGrid::showAllColumns() {
     for (int i = 0; i < ColumnCount(); ++i) {
         setColumnHidden(i, false);
@@ -113,15 +129,13 @@ void DataGrid::showAllColumns() {
 
 void DataGrid::followRecordset() {
     const QScopedValueRollback following(following_, true);
-    DataControl* source = model_->source();
-    const bool open = source != nullptr && source->hasRecordset() && source->Recordset().IsOpen();
-    const long position = open ? source->Recordset().AbsolutePosition() : -1;
-    const bool pastTheEnd = position < 1 && open && source->Recordset().EOF() && model_->rowCount() > 0;
-    if (position < 1 && !pastTheEnd) {
+    const long place = position();
+    const bool pastTheEnd = place < 1 && model_->rowCount() > 0 && model_->source()->Recordset().EOF();
+    if (place < 1 && !pastTheEnd) {
         setCurrentIndex({});
         return;
     }
-    const int row = pastTheEnd ? model_->rowCount() - 1 : static_cast<int>(position) - 1;
+    const int row = pastTheEnd ? model_->rowCount() - 1 : static_cast<int>(place) - 1;
     if (currentIndex().row() != row)
         setCurrentIndex(model_->index(row, visibleColumn()));
 }
@@ -156,20 +170,65 @@ void DataGrid::takeRow() {
         source->byUser([&] { source->Recordset().setAbsolutePosition(row + 1); });
 }
 
+/// Where the recordset stands, from 1; below 1 on no row.
+long DataGrid::position() const {
+    DataControl* source = model_->source();
+    const bool open = source != nullptr && source->hasRecordset() && source->Recordset().IsOpen();
+    return open ? source->Recordset().AbsolutePosition() : -1;
+}
+
+void DataGrid::tellMove(long from) {
+    const long now = position();
+    if (now >= 1 && now != from) {
+        emit RowPicked();
+    }
+}
+
 void DataGrid::keyPressEvent(QKeyEvent* event) {
+    if (!UserInput::isRepeat(*event)) {
+        emit KeyDown(event->key(), event->modifiers());
+    }
+    const bool onARow = state() != EditingState && currentIndex().isValid();
     const bool enter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
-    if (enter && state() != EditingState && currentIndex().isValid()) {
+    if (onARow && enter) {
         takeRow();
         emit DblClick();
+    } else if (onARow && event->key() == Qt::Key_Space && (currentIndex().flags() & Qt::ItemIsEditable) == 0) {
+        takeRow();
+        tellMove(0);
+        emit Click();
     } else {
+        const long before = position();
         QTableView::keyPressEvent(event);
+        tellMove(before);
     }
 }
 
 void DataGrid::mousePressEvent(QMouseEvent* event) {
     QTableView::mousePressEvent(event);
-    if (indexAt(event->position().toPoint()).isValid())
+    pressed_ = event->button() == Qt::LeftButton;
+    if (indexAt(event->position().toPoint()).isValid()) {
         takeRow();
+        tellMove(0);
+    }
+}
+
+// A row under a button that is held down is gone to as well.
+void DataGrid::mouseMoveEvent(QMouseEvent* event) {
+    const long before = position();
+    QTableView::mouseMoveEvent(event);
+    tellMove(before);
+}
+
+void DataGrid::mouseReleaseEvent(QMouseEvent* event) {
+    QTableView::mouseReleaseEvent(event);
+    const bool clicked = pressed_ && viewport()->rect().contains(event->position().toPoint());
+    if (event->button() == Qt::LeftButton) {
+        pressed_ = false;
+        if (clicked) {
+            emit Click();
+        }
+    }
 }
 
 void DataGrid::mouseDoubleClickEvent(QMouseEvent* event) {

@@ -84,6 +84,13 @@ void Form::UnloadMe() {
     platform::formHost().unload(Name());
 }
 
+void Form::setHelpContext(int form, int controls) {
+    setProperty("HelpContextID", form);
+    for (auto* control : findChildren<QWidget*>()) {
+        control->setProperty("HelpContextID", controls);
+    }
+}
+
 void Form::closeEvent(QCloseEvent* event) {
     event->ignore();
     if (isVisible()) // the close of a window that another event has hidden meanwhile comes too late

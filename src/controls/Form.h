@@ -52,6 +52,8 @@ protected:
     void Refresh();
     void Hide();
     void UnloadMe();
+    /// The help topics of the form and of each of its controls.
+    void setHelpContext(int form, int controls);
     /// A window of much to show: its size comes from the screen and not from its contents, and where the user leaves it
     /// it stands at its next showing.
     void takeScreen() { takesScreen_ = true; }

@@ -26,4 +26,9 @@ void ProgressBar::setValue(double value) {
     QProgressBar::setValue(static_cast<int>(std::lround(value)));
 }
 
+void ProgressBar::advance(double step) {
+    const auto next = static_cast<float>(value_ + step);
+    setValue(Max() > next ? next : kLowest);
+}
+
 } // namespace controls

@@ -13,6 +13,9 @@ public:
     double Value() const { return value_; }
     /// Error 380 outside 0 to 100; the bar stays as it was.
     void setValue(double value);
+    double Max() const { return maximum(); }
+    /// One step on, in single precision. A step that would reach the end begins again at 0.
+    void advance(double step);
 
 private:
     double value_ = 0;

@@ -16,4 +16,10 @@ inline ado::Error subscriptOutOfRange() {
     return {kNumber, "Subscript out of range"};
 }
 
+/// What a list refuses to tell of an item that it doesn't have.
+inline ado::Error invalidPropertyArrayIndex() {
+    constexpr int kNumber = 381;
+    return {kNumber, "Invalid property array index"};
+}
+
 } // namespace controls

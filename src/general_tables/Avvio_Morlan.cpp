@@ -2,6 +2,7 @@
 
 #include "controls/Guard.h"
 #include "controls/Hourglass.h"
+#include "controls/Picker.h"
 #include "general_tables/RecordsetConsole.h"
 #include "general_tables/TabelleConti.h"
 #include "general_tables/TrattamentoIva.h"
@@ -33,23 +34,19 @@ Avvio_Morlan::~Avvio_Morlan() = default;
 
 void Avvio_Morlan::CollegaComandi() {
     constexpr std::int16_t kAnteprima = 2;
-    on(ui_->Command1, &QPushButton::clicked, [this] { ApriDa("I_Iva_sezionali"); });
-    on(ui_->Command2, &QPushButton::clicked, [this] { ApriDa("caricasedecentrale"); });
-    on(ui_->Command3, &QPushButton::clicked, [this] { ApriDa("IndirizzoVaboSuServer"); });
-    on(ui_->Command4, &QPushButton::clicked, [this] { ApriDa("Scegli_progetto_4"); });
-    on(ui_->Command5, &QPushButton::clicked, [this] { ApriDa("TabelleBustePaga"); });
-    on(ui_->Command6, &QPushButton::clicked, [this] { ApriDa("Scegli_sede_Pd"); });
+    const std::initializer_list<std::pair<QPushButton*, const char*>> vie = {
+        {ui_->Command1, "I_Iva_sezionali"},       {ui_->Command2, "caricasedecentrale"},
+        {ui_->Command3, "IndirizzoVaboSuServer"}, {ui_->Command4, "Scegli_progetto_4"},
+        {ui_->Command5, "TabelleBustePaga"},      {ui_->Command6, "Scegli_sede_Pd"}};
+    for (const auto& [comando, form] : vie) {
+        on(comando, &QPushButton::clicked, [this, nome = form] {
+            const controls::Hourglass clessidra;
+            ApriDa(Name(), nome);
+        });
+    }
     on(ui_->Command13, &QPushButton::clicked, [this] { UnloadMe(); });
     on(ui_->Command39, &QPushButton::clicked,
        [] { StampaReportAccess(PercorsoFileLocale, "AccessoMorlan", kAnteprima); });
-}
-
-// A form that isn't built leaves the console where it is: nobody is left before an empty screen.
-void Avvio_Morlan::ApriDa(const std::string& nome) {
-    const controls::Hourglass clessidra;
-    if (ApriForm(nome, true)) {
-        Hide();
-    }
 }
 
 // The first two lists raise; a failure in them is told and ends the load, with the general switches unread. What comes
@@ -57,24 +54,18 @@ void Avvio_Morlan::ApriDa(const std::string& nome) {
 void Avvio_Morlan::Load() {
     CaricaTassiEBadge();
     if (!controls::guarded([this] {
-            CaricaElenco(*ui_->BItems1, ElencoContiUtili(), *ui_->DCBItem1);
-            CaricaElenco(*ui_->BItems2, ElencoAltriConti(), *ui_->DCBitem2);
+            contoUtile_->load(StringaAzienda, ElencoContiUtili());
+            altroConto_->load(StringaAzienda, ElencoAltriConti());
         })) {
         return;
     }
-    salta([this] { CaricaElenco(*ui_->BItems4, ElencoContiPersonale(), *ui_->DCBitems4); });
-    salta([this] { CaricaElenco(*ui_->BItems3, ElencoContiFatture(), *ui_->DCBItems3); });
+    salta([this] { contoPersonale_->load(StringaAzienda, ElencoContiPersonale()); });
+    salta([this] { contoFattura_->load(StringaAzienda, ElencoContiFatture()); });
     salta([this] { CaricaPersonale(); });
-    salta([this] { CaricaElenco(*ui_->BItems5, ElencoTrattamenti(), *ui_->DCBitem5); });
+    salta([this] { trattamento_->load(StringaAzienda, ElencoTrattamenti()); });
     CaricaTrattamento();
     const Restituzione restituzione(kPostoOpzioni);
     salta([this] { CaricaOpzioni(); });
-}
-
-void Avvio_Morlan::CaricaElenco(controls::DataControl& elenco, const std::string& testo, controls::DataCombo& combo) {
-    CaricaDati(elenco, testo);
-    combo.ReFill();
-    combo.Refresh();
 }
 
 void Avvio_Morlan::MostraNomeDatabase() {

@@ -13,8 +13,8 @@
 namespace controls {
 class CheckBox;
 class DataCombo;
-class DataControl;
 class DataGrid;
+class Picker;
 } // namespace controls
 namespace Ui {
 class Avvio_Morlan;
@@ -34,25 +34,20 @@ protected:
     void Load() override;
     void Unload() override;
     void keyPressEvent(QKeyEvent* event) override;
-    bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
     /// One of the four pickers of accounts. A pick in its list and Enter store, Delete takes the account away, Esc
     /// leaves the row that was chosen in the grid.
     struct Selettore {
-        controls::DataCombo* combo;
-        controls::DataControl* elenco;
+        controls::Picker* conto;
         controls::DataGrid* griglia;
         QWidget* cornice; ///< shown while a row is changed, null where nothing shows it
         double* riga;
-        double* conto;
         std::function<void(OrdineFatture)> salva;
     };
 
     // Frame and load
     void CollegaComandi();
-    void ApriDa(const std::string& nome);
-    static void CaricaElenco(controls::DataControl& elenco, const std::string& testo, controls::DataCombo& combo);
     void MostraNomeDatabase();
     void CaricaOpzioni();
 
@@ -72,7 +67,6 @@ private:
     // The accounts
     void CollegaConti();
     void LasciaRiga(const Selettore& selettore);
-    static void CaricaDati(controls::DataControl& dati, const std::string& testo);
     void CaricaContiUtili();
     void ScegliContoUtile();
     void SalvaUtile();
@@ -99,6 +93,11 @@ private:
 
     std::unique_ptr<Ui::Avvio_Morlan> ui_;
     std::vector<Selettore> selettori_;
+    controls::Picker* contoUtile_ = nullptr;
+    controls::Picker* altroConto_ = nullptr;
+    controls::Picker* contoFattura_ = nullptr;
+    controls::Picker* contoPersonale_ = nullptr;
+    controls::Picker* trattamento_ = nullptr;
 
     double IdRiga = 0; ///< shared by the tabs 1, 2 and 5
     double IdContoUtile = 0;

@@ -1,41 +1,27 @@
 #include "ado/Conversions.h"
 #include "controls/DataCombo.h"
 #include "controls/DataGrid.h"
+#include "controls/Disabled.h"
 #include "controls/Hourglass.h"
+#include "controls/Picker.h"
 #include "controls/TextBox.h"
-#include "controls/UserInput.h"
 #include "general_tables/Avvio_Morlan.h"
 #include "general_tables/CaricaValoriControlli.h"
 #include "general_tables/TabelleConti.h"
 #include "kit/IsEmptyValue.h"
 #include "kit/Regole.h"
-#include "platform/Dialogs.h"
+#include "kit/Testi.h"
+#include "rights/Permesso.h"
 #include "session/variabili.h"
 #include "ui_Avvio_Morlan.h"
 
-#include <QAbstractItemView>
-#include <QCompleter>
 #include <QKeyEvent>
-#include <QLineEdit>
-#include <QPointer>
 
 #include <algorithm>
 
 namespace vabo {
 
 namespace {
-
-constexpr const char* kNessunaScelta = "Seleziona";
-
-void FermataDelTab(controls::DataCombo& combo, bool fermata) {
-    const Qt::FocusPolicy politica = fermata ? Qt::WheelFocus : Qt::ClickFocus;
-    combo.setFocusPolicy(politica);
-    combo.lineEdit()->setFocusPolicy(politica);
-}
-
-bool SiFermaIlTab(const controls::DataCombo& combo) {
-    return (combo.focusPolicy() & Qt::TabFocus) != 0;
-}
 
 const TabellaAltriConti& AltriConti(int tabella) {
     return kAltriConti.at(static_cast<std::size_t>(tabella));
@@ -50,58 +36,34 @@ bool ConNome(const ado::Value& valore) {
     return ado::isNumeric(valore) ? ado::toDouble(valore) > 0 : !ado::toText(valore).empty();
 }
 
-/// A form that takes no input while it lives.
-class Disabilitata {
-public:
-    explicit Disabilitata(QWidget& form) : form_(form), fuoco_(form.focusWidget()) { form_.setEnabled(false); }
-    Disabilitata(const Disabilitata&) = delete;
-    Disabilitata& operator=(const Disabilitata&) = delete;
-    ~Disabilitata() {
-        form_.setEnabled(true);
-        if (fuoco_) {
-            fuoco_->setFocus();
-        }
-    }
-
-private:
-    QWidget& form_;
-    QPointer<QWidget> fuoco_;
-};
-
 } // namespace
 
 void Avvio_Morlan::CollegaConti() {
+    const auto selettore = [](controls::DataCombo* combo, controls::DataControl* elenco, double& conto) {
+        return new controls::Picker(*combo, *elenco, "NomeConto", "idconto", conto);
+    };
+    contoUtile_ = selettore(ui_->DCBItem1, ui_->BItems1, IdContoUtile);
+    altroConto_ = selettore(ui_->DCBitem2, ui_->BItems2, IdContoAltri);
+    contoFattura_ = selettore(ui_->DCBItems3, ui_->BItems3, IdContoFattura);
+    contoPersonale_ = selettore(ui_->DCBitems4, ui_->BItems4, IdContoFattura);
     selettori_ = {
-        {ui_->DCBItem1, ui_->BItems1, ui_->DataGrid2, ui_->Frame6, &IdRiga, &IdContoUtile,
-         [this](OrdineFatture) { SalvaUtile(); }},
-        {ui_->DCBitem2, ui_->BItems2, ui_->DataGrid4, ui_->Frame2, &IdRiga, &IdContoAltri,
-         [this](OrdineFatture) { ProvaESalvaAltro(); }},
-        {ui_->DCBItems3, ui_->BItems3, ui_->DataGrid11, nullptr, &IdRigaFattura, &IdContoFattura,
+        {contoUtile_, ui_->DataGrid2, ui_->Frame6, &IdRiga, [this](OrdineFatture) { SalvaUtile(); }},
+        {altroConto_, ui_->DataGrid4, ui_->Frame2, &IdRiga, [this](OrdineFatture) { ProvaESalvaAltro(); }},
+        {contoFattura_, ui_->DataGrid11, nullptr, &IdRigaFattura,
          [this](OrdineFatture ordine) { SalvaFattura(ordine); }},
-        {ui_->DCBitems4, ui_->BItems4, ui_->DataGridPersonale, nullptr, &IdRiga, &IdContoFattura,
-         [this](OrdineFatture) { SalvaPersonale(); }},
+        {contoPersonale_, ui_->DataGridPersonale, nullptr, &IdRiga, [this](OrdineFatture) { SalvaPersonale(); }},
     };
     std::vector<controls::KeyRow> tasti;
-    for (const Selettore& selettore : selettori_) {
-        selettore.combo->ListField = "NomeConto";
-        selettore.combo->BoundColumn = "idconto";
-        selettore.combo->setRowSource(selettore.elenco);
-        selettore.combo->setText(kNessunaScelta);
-        // Delete is heard in the text and in the list that opens while one types.
-        selettore.combo->installEventFilter(this);
-        selettore.combo->completer()->popup()->installEventFilter(this);
-        on(selettore.combo, &controls::DataCombo::Click, [&selettore](int area) {
-            if (area == controls::DataCombo::List) {
-                *selettore.conto = ado::toDouble(selettore.combo->BoundText());
-                selettore.salva(OrdineFatture::Elenco);
-            }
-        });
-        tasti.emplace_back(selettore.combo, controls::EndOfEntry::Enter,
-                           [&selettore] { selettore.salva(OrdineFatture::Invio); });
+    for (const Selettore& ciascuno : selettori_) {
+        ciascuno.conto->combo().setText(kNessunaScelta);
+        ciascuno.conto->clearWithDelete();
+        on(ciascuno.conto, &controls::Picker::Picked, [&ciascuno] { ciascuno.salva(OrdineFatture::Elenco); });
+        tasti.emplace_back(&ciascuno.conto->combo(), controls::EndOfEntry::Enter,
+                           [&ciascuno] { ciascuno.salva(OrdineFatture::Invio); });
     }
     chain(std::move(tasti));
-    FermataDelTab(*ui_->DCBItems3, false);
-    FermataDelTab(*ui_->DCBitems4, false);
+    ui_->DCBItems3->setTabStop(false);
+    ui_->DCBitems4->setTabStop(false);
     // Seen only while a row is being changed.
     ui_->Frame6->hide();
     ui_->Frame2->hide();
@@ -127,9 +89,10 @@ void Avvio_Morlan::CollegaConti() {
 void Avvio_Morlan::keyPressEvent(QKeyEvent* event) {
     const QWidget* fuoco = focusWidget();
     const auto selettore = std::ranges::find_if(selettori_, [fuoco](const Selettore& ciascuno) {
-        const bool scelta = ciascuno.cornice != nullptr ? ciascuno.cornice->isVisible() : SiFermaIlTab(*ciascuno.combo);
+        const controls::DataCombo& combo = ciascuno.conto->combo();
+        const bool scelta = ciascuno.cornice != nullptr ? ciascuno.cornice->isVisible() : combo.TabStop();
         const bool sullaScheda = ciascuno.cornice != nullptr && ciascuno.cornice->parentWidget()->isAncestorOf(fuoco);
-        return scelta && (sullaScheda || fuoco == ciascuno.combo || fuoco == ciascuno.griglia);
+        return scelta && (sullaScheda || fuoco == &combo || fuoco == ciascuno.griglia);
     });
     if (event->key() == Qt::Key_Escape && selettore != selettori_.end()) {
         LasciaRiga(*selettore);
@@ -141,40 +104,20 @@ void Avvio_Morlan::keyPressEvent(QKeyEvent* event) {
 // Nothing is stored, and nothing stays chosen that a later Enter could store.
 void Avvio_Morlan::LasciaRiga(const Selettore& selettore) {
     *selettore.riga = 0;
-    *selettore.conto = 0;
-    selettore.combo->setText(kNessunaScelta);
+    selettore.conto->key() = 0;
+    selettore.conto->combo().setText(kNessunaScelta);
     selettore.griglia->setFocus();
     if (selettore.cornice != nullptr) {
         selettore.cornice->hide();
     } else {
-        FermataDelTab(*selettore.combo, false);
+        selettore.conto->combo().setTabStop(false);
     }
-}
-
-bool Avvio_Morlan::eventFilter(QObject* watched, QEvent* event) {
-    if (event->type() == QEvent::KeyRelease) {
-        const auto& tasto = static_cast<const QKeyEvent&>(*event);
-        const auto selettore = std::ranges::find_if(selettori_, [watched](const Selettore& ciascuno) {
-            return ciascuno.combo == watched || ciascuno.combo->completer()->popup() == watched;
-        });
-        if (tasto.key() == Qt::Key_Delete && controls::UserInput::isPlain(tasto) && selettore != selettori_.end()) {
-            *selettore->conto = 0;
-            selettore->combo->setText("");
-        }
-    }
-    return Form::eventFilter(watched, event);
-}
-
-void Avvio_Morlan::CaricaDati(controls::DataControl& dati, const std::string& testo) {
-    dati.ConnectionString = StringaAzienda;
-    dati.RecordSource = testo;
-    dati.Refresh();
 }
 
 // Tab 1
 
 void Avvio_Morlan::CaricaContiUtili() {
-    CaricaDati(*ui_->tabella_conti_utili, TestoContiUtili());
+    ui_->tabella_conti_utili->load(StringaAzienda, TestoContiUtili());
     ImpostaGrigliaContiUtili();
 }
 
@@ -226,7 +169,7 @@ void Avvio_Morlan::MostraTabella(const char* etichetta) {
 void Avvio_Morlan::CaricaAltriConti() {
     MostraTabella(AltriConti(TabellaCorrente).etichetta);
     ui_->Controllo->setText(std::to_string(TabellaCorrente));
-    CaricaDati(*ui_->tipo_anagrafica, TestoAltriConti(TabellaCorrente));
+    ui_->tipo_anagrafica->load(StringaAzienda, TestoAltriConti(TabellaCorrente));
     ImpostaGrigliaAltriConti();
 }
 
@@ -236,7 +179,7 @@ void Avvio_Morlan::GiraTabella() {
     TabellaCorrente = (lasciata + 1) % static_cast<int>(kAltriConti.size());
     ui_->Controllo->setText(std::to_string(lasciata == 0 ? lasciata : TabellaCorrente));
     MostraTabella(AltriConti(TabellaCorrente).etichettaGirata);
-    CaricaDati(*ui_->tipo_anagrafica, TestoAltriConti(TabellaCorrente));
+    ui_->tipo_anagrafica->load(StringaAzienda, TestoAltriConti(TabellaCorrente));
     ImpostaGrigliaAltriConti();
 }
 
@@ -280,7 +223,7 @@ void Avvio_Morlan::SalvaAltro() {
     const bool finita = dati.Recordset().EOF();
     ui_->tipoanagrafe->setText("Doppio click sui dati per correggerli");
     ui_->DCBitem2->setText(kNessunaScelta);
-    CaricaDati(dati, finita ? TestoAltriContiRipiego(TabellaCorrente) : TestoAltriConti(TabellaCorrente));
+    dati.load(StringaAzienda, finita ? TestoAltriContiRipiego(TabellaCorrente) : TestoAltriConti(TabellaCorrente));
     ImpostaGrigliaAltriConti();
     ui_->DataGrid4->setFocus();
     ui_->Frame2->hide();
@@ -289,7 +232,7 @@ void Avvio_Morlan::SalvaAltro() {
 // Tab 4
 
 void Avvio_Morlan::CaricaContiIva() {
-    CaricaDati(*ui_->ContiIva, TestoContiIva());
+    ui_->ContiIva->load(StringaAzienda, TestoContiIva());
     ImpostaGrigliaContiIva();
 }
 
@@ -300,7 +243,7 @@ void Avvio_Morlan::ScegliContoFattura() {
         return;
     }
     IdRigaFattura = ado::toDouble(id);
-    FermataDelTab(*ui_->DCBItems3, true);
+    ui_->DCBItems3->setTabStop(true);
     MostraContoFattura(griglia, *ui_->DCBItems3);
     salta([&] { PosizioneGriglia = ui_->ContiIva->Recordset().AbsolutePosition(); });
     ui_->DCBItems3->setFocus();
@@ -318,7 +261,7 @@ void Avvio_Morlan::MostraContoFattura(controls::DataGrid& griglia, controls::Dat
 // Without a rule until the last step; the form comes back from an error too.
 void Avvio_Morlan::SalvaFattura(OrdineFatture ordine) {
     {
-        const Disabilitata disabilitata(*this);
+        const controls::Disabled disabilitata(*this);
         if (!IsEmptyValue(IdRigaFattura)) {
             SalvaContoFattura(IdRigaFattura, IdContoFattura, ordine);
         }
@@ -327,7 +270,7 @@ void Avvio_Morlan::SalvaFattura(OrdineFatture ordine) {
         ui_->ContiIva->Refresh();
         ImpostaGrigliaContiIva();
         ui_->DCBItems3->setText(kNessunaScelta);
-        FermataDelTab(*ui_->DCBItems3, false);
+        ui_->DCBItems3->setTabStop(false);
     }
     ui_->DataGrid11->setFocus();
 }
@@ -335,13 +278,12 @@ void Avvio_Morlan::SalvaFattura(OrdineFatture ordine) {
 // Tab 5
 
 void Avvio_Morlan::CaricaPersonale() {
-    CaricaDati(*ui_->elencoP, TestoContiPersonale());
+    ui_->elencoP->load(StringaAzienda, TestoContiPersonale());
     ImpostaGrigliaPersonale();
 }
 
 void Avvio_Morlan::ScegliContoPersonale() {
-    if (!DirittiUtente.A_Personale) {
-        platform::dialogs().message("Utente non abilitato!\nContattare l'amministratore di sistema");
+    if (!Permesso(DirittiUtente.A_Personale)) {
         return;
     }
     controls::DataGrid& griglia = *ui_->DataGridPersonale;
@@ -351,7 +293,7 @@ void Avvio_Morlan::ScegliContoPersonale() {
     }
     PosizioneGriglia = ui_->elencoP->Recordset().AbsolutePosition();
     ui_->DCBitems4->setText(kNessunaScelta);
-    FermataDelTab(*ui_->DCBitems4, true);
+    ui_->DCBitems4->setTabStop(true);
     IdRiga = ado::toDouble(id);
     MostraContoFattura(griglia, *ui_->DCBitems4);
     ui_->DCBitems4->setFocus();
@@ -364,7 +306,7 @@ void Avvio_Morlan::SalvaPersonale() {
     }
     SalvaContoPersonale(IdRiga, IdContoFattura);
     ui_->DCBitems4->setText(kNessunaScelta);
-    FermataDelTab(*ui_->DCBitems4, false);
+    ui_->DCBitems4->setTabStop(false);
     ui_->DataGridPersonale->setFocus();
 }
 

@@ -1,5 +1,5 @@
-#include "ado/Conversions.h"
 #include "controls/DataCombo.h"
+#include "controls/Picker.h"
 #include "controls/TextBox.h"
 #include "general_tables/Avvio_Morlan.h"
 #include "general_tables/TrattamentoIva.h"
@@ -12,14 +12,9 @@ namespace vabo {
 void Avvio_Morlan::CollegaTrattamento() {
     ui_->Aliquota->setText("20,00");
     ui_->Detrazione->setText("100,00");
-    ui_->DCBitem5->ListField = "Descrizione";
-    ui_->DCBitem5->BoundColumn = "idautonumber";
-    ui_->DCBitem5->setRowSource(ui_->BItems5);
-    on(ui_->DCBitem5, &controls::DataCombo::Click, [this](int area) {
-        if (area == controls::DataCombo::List) {
-            ScegliTrattamento();
-        }
-    });
+    trattamento_ =
+        new controls::Picker(*ui_->DCBitem5, *ui_->BItems5, "Descrizione", "idautonumber", IdTrattamentoStandard);
+    on(trattamento_, &controls::Picker::Picked, [this] { ScegliTrattamento(); });
 }
 
 void Avvio_Morlan::MostraTrattamento(const Regola& regola) {
@@ -32,20 +27,19 @@ void Avvio_Morlan::MostraTrattamento(const Regola& regola) {
 // Failing statements are skipped: a rate that can't be shown leaves the box as it was.
 void Avvio_Morlan::CaricaTrattamento() {
     salta([this] { IdTrattamentoStandard = LeggiAliquotaStandard(); });
-    MostraTrattamento([](const auto& istruzione) { salta(istruzione); });
+    MostraTrattamento(kSaltando);
 }
 
 // Without a rule: a treatment whose rate can't be shown stops here, before anything is written.
 void Avvio_Morlan::ScegliTrattamento() {
     constexpr double kPrimoTrattamento = 2;
-    IdTrattamentoStandard = ado::toDouble(ui_->DCBitem5->BoundText());
     if (IdTrattamentoStandard < kPrimoTrattamento) {
         IdTrattamentoStandard = LeggiAliquotaStandard();
     }
     if (IsEmptyValue(IdTrattamentoStandard)) {
         return;
     }
-    MostraTrattamento([](const auto& istruzione) { istruzione(); });
+    MostraTrattamento(kSenzaRegola);
     SalvaAliquotaStandard(IdTrattamentoStandard, ui_->Aliquota->Text(), ui_->Sigla->Text(), ui_->Detrazione->Text());
 }
 

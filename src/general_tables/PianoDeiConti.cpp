@@ -3,9 +3,12 @@
 #include "ado/Conversions.h"
 #include "general_tables/RecordsetConsole.h"
 #include "kit/ApriScrivibile.h"
+#include "kit/Colonne.h"
 #include "kit/ErrorHandling.h"
 #include "kit/IsEmptyValue.h"
+#include "kit/Regole.h"
 #include "platform/Dialogs.h"
+#include "rights/Permesso.h"
 
 #include <array>
 #include <string>
@@ -37,9 +40,7 @@ void ScriviRiga(int id, const ado::Value& lunghezza, const char* descrizione) {
     } else {
         rs.MoveFirst();
     }
-    rs["id"] = id;
-    rs["Lunghezza"] = lunghezza;
-    rs["Descrizione"] = descrizione;
+    ScriviColonne(kSenzaRegola, rs, {{"id", id}, {"Lunghezza", lunghezza}, {"Descrizione", descrizione}});
     AggiornaRecord(rs);
 }
 
@@ -60,8 +61,7 @@ ado::Value LunghezzaChiesta(const Livello& livello) {
 } // namespace
 
 void DefinisciPianoDeiConti(int casellaBudget) {
-    if (!DirittiUtente.Administrator) {
-        platform::dialogs().message("Utente non abilitato!\nContattare l'amministratore di sistema");
+    if (!Permesso(DirittiUtente.Administrator)) {
         return;
     }
     const Restituzione restituzione(kPostoCaselle);

@@ -3,6 +3,7 @@
 #include "ado/Conversions.h"
 #include "general_tables/CaricaValoriControlli.h"
 #include "kit/ApriScrivibile.h"
+#include "kit/Colonne.h"
 #include "kit/IsEmptyValue.h"
 #include "kit/Regole.h"
 #include "session/variabili.h"
@@ -65,10 +66,8 @@ void SalvaAliquotaStandard(double id, const std::string& aliquota, const std::st
     if (rs.EOF()) {
         rs.AddNew();
     }
-    rs["idTipo"] = id;
-    rs["Aliquota"] = aliquota;
-    rs["Sigla"] = SenzaBlank(sigla);
-    rs["Detrazione"] = detrazione;
+    ScriviColonne(kSenzaRegola, rs,
+                  {{"idTipo", id}, {"Aliquota", aliquota}, {"Sigla", SenzaBlank(sigla)}, {"Detrazione", detrazione}});
     rs.Update();
     rs.Close();
 }

@@ -6,6 +6,9 @@
 
 namespace vabo {
 
+/// What a combo shows while nothing is chosen in it.
+inline constexpr const char* kNessunaScelta = "Seleziona";
+
 /// Case of all letters, accents included.
 std::string Minuscolo(const std::string& testo);
 std::string Maiuscolo(const std::string& testo);

@@ -2,6 +2,7 @@
 
 #include "kit/ErrorHandling.h"
 #include "kit/IsEmptyValue.h"
+#include "kit/Titolo.h"
 #include "platform/Dialogs.h"
 #include "platform/Forms.h"
 #include "platform/Workstation.h"
@@ -17,12 +18,6 @@ namespace vabo {
 namespace {
 
 constexpr int kArgomentoGuida = 44;
-
-std::string ConVersione(const std::string& nome) {
-    const platform::Workstation& macchina = platform::workstation();
-    return nome + " - Ver.Nr. " + std::to_string(macchina.versionMajor) + "." + std::to_string(macchina.versionMinor) +
-           "." + std::to_string(macchina.versionRevision);
-}
 
 std::string Normalizza(controls::TextBox& campo) {
     campo.setText(Normalizzato(campo.Text()));
@@ -52,7 +47,7 @@ void About::Load() {
     ui_->txtPassword->setEnabled(false);
     ui_->lblVersion->setText(QString::fromStdString(ConVersione(macchina.productName)));
     ui_->lblCopyright->setText(QString::fromStdString(macchina.legalNotice));
-    setWindowTitle(QString::fromStdString(ConVersione("Tlv - Aldane Works Software Solutions")));
+    setWindowTitle(QString::fromStdString(ConVersione(kTitolo)));
     PreparaLogin();
     Controlla_server();
     if (ServerMancante != kFalso)
@@ -74,9 +69,7 @@ void About::Controlla_server() {
 }
 
 void About::Activate() {
-    setProperty("HelpContextID", kArgomentoGuida);
-    for (auto* controllo : findChildren<QWidget*>())
-        controllo->setProperty("HelpContextID", kArgomentoGuida);
+    setHelpContext(kArgomentoGuida, kArgomentoGuida);
     if (LoginSenzaUtenti()) {
         UnloadMe();
         platform::formHost().show("Avvio_Azienda");

@@ -6,6 +6,7 @@
 #include "kit/LinguaClient.h"
 #include "kit/PulisciNome.h"
 #include "kit/Regole.h"
+#include "kit/Titolo.h"
 #include "platform/Workstation.h"
 #include "rights/AbilitazioneUtente.h"
 #include "session/ApriAzienda.h"
@@ -29,9 +30,7 @@ constexpr const char* kOpzioniServer =
 } // namespace
 
 std::string TestoVersione() {
-    const platform::Workstation& macchina = platform::workstation();
-    return "Ver. " + std::to_string(macchina.versionMajor) + "." + std::to_string(macchina.versionMinor) + "." +
-           std::to_string(macchina.versionRevision);
+    return "Ver. " + NumeroDiVersione();
 }
 
 std::string TestoDatabase() {

@@ -5,6 +5,7 @@
 #include "kit/IsEmptyValue.h"
 #include "kit/Regole.h"
 #include "platform/Dialogs.h"
+#include "rights/Permesso.h"
 #include "session/ApriAzienda.h"
 #include "session/ApriDbSede.h"
 #include "session/Aziende.h"
@@ -42,11 +43,11 @@ Avvio_Azienda::Avvio_Azienda() : Form("Avvio_Azienda"), ui_(std::make_unique<Ui:
     ui_->DataCombo1->BoundColumn = "id";
     ui_->DataCombo1->setRowSource(ui_->datPrimaryRS);
     on(ui_->DataCombo1, &controls::DataCombo::Click, [this](int area) { ScegliAzienda(area); });
-    on(ui_->Command1, &QPushButton::clicked, [this] { ApriDa("frmDatiAzienda"); });
+    on(ui_->Command1, &QPushButton::clicked, [this] { ApriDa(Name(), "frmDatiAzienda"); });
     on(ui_->Command2, &QPushButton::clicked, [this] { ApriUtenti(); });
     on(ui_->cmdClose, &QPushButton::clicked, [this] {
         ConfiguraFonte();
-        ApriDa("Avvio_Morlan");
+        ApriDa(Name(), "Avvio_Morlan");
     });
     on(ui_->datPrimaryRS, &controls::DataControl::Error, [](int /*numero*/, const QString& descrizione) {
         platform::dialogs().message("Data error event hit err:" + descrizione.toStdString());
@@ -65,9 +66,7 @@ void Avvio_Azienda::Load() {
 
 void Avvio_Azienda::CaricaElenco() {
     controls::DataControl& elenco = *ui_->datPrimaryRS;
-    elenco.ConnectionString = DbControllo.ConnectionString();
-    elenco.RecordSource = kElencoAziende;
-    elenco.Refresh();
+    elenco.load(DbControllo.ConnectionString(), kElencoAziende);
     const double ultima = UltimaAziendaTerminale();
     if (!IsEmptyValue(ultima)) {
         IdAziendaScelta = ultima;
@@ -93,17 +92,9 @@ void Avvio_Azienda::ScegliAzienda(int area) {
 }
 
 void Avvio_Azienda::ApriUtenti() {
-    if (DirittiUtente.Administrator == kFalso) {
-        platform::dialogs().message("Utente non abilitato! Contattare l'amministratore di sistema");
-        return;
-    }
-    if (ApriForm("Login", true))
+    if (Permesso(DirittiUtente.Administrator, "Utente non abilitato! Contattare l'amministratore di sistema") &&
+        ApriForm("Login", true))
         UnloadMe();
-}
-
-void Avvio_Azienda::ApriDa(const std::string& nome) {
-    if (ApriForm(nome, true))
-        Hide();
 }
 
 void Avvio_Azienda::MostraAziendaAperta() {

@@ -3,7 +3,6 @@
 #include "controls/Form.h"
 
 #include <memory>
-#include <string>
 
 namespace Ui {
 class Avvio_Azienda;
@@ -26,7 +25,6 @@ private:
     void CaricaElenco();
     void ScegliAzienda(int area);
     void ApriUtenti();
-    void ApriDa(const std::string& nome);
     void MostraAziendaAperta();
 
     std::unique_ptr<Ui::Avvio_Azienda> ui_;

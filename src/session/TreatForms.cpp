@@ -101,6 +101,12 @@ bool ApriForm(const std::string& nome, bool ricorda) {
     return false;
 }
 
+void ApriDa(const std::string& form, const std::string& nome) {
+    if (ApriForm(nome, true)) {
+        platform::formHost().hide(form);
+    }
+}
+
 void ChiudiForm() {
     CimaForm -= 1;
     if (CimaForm < 0 || IsEmptyValue(CimaForm))

@@ -11,6 +11,10 @@ namespace vabo {
 /// False where the form doesn't exist; then the stack is as it was.
 bool ApriForm(const std::string& nome, bool ricorda);
 
+/// A form's command that leads to another, which is remembered: where that one exists the first is hidden, and else it
+/// stays, so that nobody is left before an empty screen.
+void ApriDa(const std::string& form, const std::string& nome);
+
 /// For the Unload of every form that was opened: the one below comes back.
 void ChiudiForm();
 

@@ -418,4 +418,21 @@ TEST_F(DataCombo, AListOfThousandsIsWholeAndOpens) {
     combo().hidePopup();
 }
 
+TEST_F(DataCombo, TabPassesAComboThatIsNoTabStop) {
+    QWidget& field = gui.find("F", "field");
+    EXPECT_TRUE(combo().TabStop());
+    combo().setTabStop(false);
+    EXPECT_FALSE(combo().TabStop());
+    field.setFocus();
+    gui.press(Qt::Key_Tab);
+    EXPECT_EQ(gui.focus(), "F.field") << "there is no other stop";
+    QTest::mouseClick(combo().lineEdit(), Qt::LeftButton);
+    EXPECT_EQ(gui.focus(), "F.combo");
+    field.setFocus();
+    combo().setTabStop(true);
+    EXPECT_TRUE(combo().TabStop());
+    gui.press(Qt::Key_Tab);
+    EXPECT_EQ(gui.focus(), "F.combo");
+}
+
 } // namespace

@@ -35,6 +35,18 @@ TEST_F(DataControl, RefreshLiftsTheFilterAndShowsNewRows) {
     EXPECT_EQ(source.Recordset().AbsolutePosition(), 1);
 }
 
+TEST_F(DataControl, LoadTakesBothTextsAndRefreshes) {
+    const std::string connection = source.ConnectionString;
+    source.ConnectionString.clear();
+    source.load(connection, "select nome from frutta where id = 3");
+    EXPECT_EQ(source.ConnectionString, connection);
+    EXPECT_EQ(source.RecordSource, "select nome from frutta where id = 3");
+    EXPECT_EQ(ado::toText(source.Recordset()["nome"]), "Albicocca");
+    EXPECT_EQ(numberOf([&] { source.load(connection, "select * from nessuna"); }), ado::kObjectMissing);
+    EXPECT_FALSE(source.hasRecordset());
+    EXPECT_EQ(source.RecordSource, "select * from nessuna") << "what the next refresh asks for";
+}
+
 TEST_F(DataControl, WithoutARefreshThereIsNoRecordset) {
     EXPECT_FALSE(source.hasRecordset());
     EXPECT_EQ(numberOf([&] { source.Recordset(); }), 91);

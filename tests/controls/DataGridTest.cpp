@@ -8,6 +8,8 @@
 #include <QKeyEvent>
 #include <QTest>
 
+#include <array>
+
 namespace {
 
 class DataGrid : public DataFixture {
@@ -22,9 +24,31 @@ protected:
         return grid.model()->index(row, column).data().toString().toStdString();
     }
     long position() { return source.Recordset().AbsolutePosition(); }
+    QPoint middleOf(int row) const { return grid.visualRect(grid.model()->index(row, 1)).center(); }
+    void lockAll() {
+        for (int i = 0; i < grid.ColumnCount(); ++i)
+            grid.Columns(i).setLocked(true);
+    }
+    /// What the grid has told so far: "row 2", the current one, or "click", "double", "key 68".
+    std::vector<std::string>& told() {
+        if (!listening_) {
+            listening_ = true;
+            QObject::connect(&grid, &controls::DataGrid::RowPicked,
+                             [this] { told_.push_back("row " + grid.Columns(0).Text()); });
+            QObject::connect(&grid, &controls::DataGrid::Click, [this] { told_.push_back("click"); });
+            QObject::connect(&grid, &controls::DataGrid::DblClick, [this] { told_.push_back("double"); });
+        }
+        return told_;
+    }
 
     controls::DataGrid grid;
+
+private:
+    std::vector<std::string> told_;
+    bool listening_ = false;
 };
+
+using Told = std::vector<std::string>;
 
 TEST_F(DataGrid, ShowsEveryRowAndField) {
     EXPECT_EQ(grid.model()->rowCount(), 5);
@@ -149,6 +173,49 @@ TEST_F(DataGrid, ALayoutIsWhatTheColumnsSay) {
     EXPECT_FALSE(grid.Columns(2).Visible()) << "no width is not to be seen";
 }
 
+constexpr std::array<controls::ColumnLayout, 2> kLayout = {
+    {{0, "Codice", 0}, {2, "Prezzo\r\nal chilo", 1500, Qt::AlignRight}}};
+
+TEST_F(DataGrid, ALayoutIsATableOfColumnsAndLocksEveryOne) {
+    grid.lay(kLayout);
+    for (int i = 0; i < grid.ColumnCount(); ++i)
+        EXPECT_TRUE(grid.Columns(i).Locked()) << i;
+    EXPECT_FALSE(grid.Columns(0).Visible());
+    EXPECT_EQ(grid.Columns(0).Caption(), "Codice");
+    EXPECT_EQ(grid.Columns(2).Caption(), "Prezzo\r\nal chilo");
+    EXPECT_EQ(grid.columnWidth(2), 100);
+    EXPECT_EQ(grid.model()->index(0, 2).data(Qt::TextAlignmentRole).toInt() & Qt::AlignHorizontal_Mask, Qt::AlignRight);
+    EXPECT_TRUE(grid.Columns(1).Visible()) << "a column that the layout doesn't name keeps what it has";
+    EXPECT_EQ(grid.Columns(1).Caption(), "nome");
+}
+
+TEST_F(DataGrid, ALayoutWithoutACaptionKeepsTheFieldsName) {
+    grid.lay(std::array<controls::ColumnLayout, 1>{{{1, nullptr, 3000}}});
+    EXPECT_EQ(grid.Columns(1).Caption(), "nome");
+    EXPECT_EQ(grid.columnWidth(1), 200);
+}
+
+TEST_F(DataGrid, ALayoutStopsAtAColumnThatIsNotThere) {
+    constexpr std::array<controls::ColumnLayout, 3> kTooMany = {
+        {{0, "Codice", 300}, {3, nullptr, 0}, {1, "Frutto", 300}}};
+    try {
+        grid.lay(kTooMany);
+        ADD_FAILURE() << "there is no column 3";
+    } catch (const ado::Error& error) {
+        EXPECT_EQ(error.number(), 9);
+    }
+    EXPECT_EQ(grid.Columns(0).Caption(), "Codice");
+    EXPECT_EQ(grid.Columns(1).Caption(), "nome");
+}
+
+TEST_F(DataGrid, ARefreshLeavesNothingOfALayout) {
+    grid.lay(kLayout);
+    source.Refresh();
+    EXPECT_TRUE(grid.Columns(0).Visible());
+    EXPECT_FALSE(grid.Columns(2).Locked());
+    EXPECT_EQ(grid.Columns(2).Caption(), "prezzo");
+}
+
 TEST_F(DataGrid, ColumnsThatFillTheWidthKeepTheirProportion) {
     grid.fillWidth();
     grid.Columns(0).setWidth(0);
@@ -230,6 +297,107 @@ TEST_F(DataGrid, EnterAndADoubleClickAreOne) {
     QTest::keyClick(&grid, Qt::Key_Return);
     QTest::keyClick(&grid, Qt::Key_Enter, Qt::KeypadModifier);
     EXPECT_EQ(chosen, 3);
+}
+
+TEST_F(DataGrid, TheUsersMovesAreToldWithTheirRowCurrent) {
+    told();
+    QTest::keyClick(&grid, Qt::Key_Down);
+    QTest::keyClick(&grid, Qt::Key_Down);
+    QTest::keyClick(&grid, Qt::Key_Home, Qt::ControlModifier);
+    EXPECT_EQ(told(), (Told{"row 2", "row 3", "row 1"}));
+    told().clear();
+    QTest::keyClick(&grid, Qt::Key_Up);
+    EXPECT_EQ(told(), Told{}) << "there is no row above the first";
+    QTest::mousePress(grid.viewport(), Qt::LeftButton, {}, middleOf(3));
+    EXPECT_EQ(told(), Told{"row 4"}) << "at the press";
+    QTest::mouseRelease(grid.viewport(), Qt::LeftButton, {}, middleOf(3));
+    EXPECT_EQ(told(), (Told{"row 4", "click"}));
+}
+
+TEST_F(DataGrid, MovesInCodeTellNothing) {
+    told();
+    source.Recordset().MoveNext();
+    source.Recordset().MoveLast();
+    grid.selectRow(1);
+    source.Recordset().setFilter("nome = 'Pera'");
+    source.Refresh();
+    grid.setFocus();
+    EXPECT_EQ(told(), Told{});
+}
+
+TEST_F(DataGrid, AClickOrSpaceGoesToTheRowOnWhichTheGridStands) {
+    told();
+    lockAll();
+    QTest::mouseClick(grid.viewport(), Qt::LeftButton, {}, middleOf(0));
+    QTest::keyClick(&grid, Qt::Key_Space);
+    EXPECT_EQ(told(), (Told{"row 1", "click", "row 1", "click"}));
+}
+
+TEST_F(DataGrid, PastTheEndTheRowThatIsMarkedCanBeGoneTo) {
+    told();
+    lockAll();
+    source.Recordset().MoveLast();
+    source.Recordset().MoveNext();
+    QTest::keyClick(&grid, Qt::Key_Down);
+    EXPECT_EQ(told(), Told{}) << "nowhere to go";
+    QTest::keyClick(&grid, Qt::Key_Space);
+    EXPECT_EQ(told(), (Told{"row 5", "click"}));
+}
+
+TEST_F(DataGrid, ADoubleClickIsOneClickAndThenItself) {
+    told();
+    lockAll();
+    QTest::mouseClick(grid.viewport(), Qt::LeftButton, {}, middleOf(1));
+    QTest::mouseDClick(grid.viewport(), Qt::LeftButton, {}, middleOf(1));
+    EXPECT_EQ(told(), (Told{"row 2", "click", "double"}));
+}
+
+TEST_F(DataGrid, AClickBesideTheRowsIsAClickAlone) {
+    told();
+    const QPoint below(10, grid.viewport()->height() - 5);
+    QTest::mouseClick(grid.viewport(), Qt::LeftButton, {}, below);
+    EXPECT_EQ(told(), Told{"click"});
+    QTest::mousePress(grid.viewport(), Qt::LeftButton, {}, below);
+    QTest::mouseRelease(grid.viewport(), Qt::LeftButton, {}, QPoint(10, grid.viewport()->height() + 40));
+    QTest::mouseClick(grid.viewport(), Qt::RightButton, {}, below);
+    EXPECT_EQ(told(), Told{"click"}) << "the button came up elsewhere, or was the other one";
+}
+
+TEST_F(DataGrid, AGridWithoutRowsGoesNowhere) {
+    told();
+    source.Recordset().setFilter("id = 99");
+    QTest::mouseClick(grid.viewport(), Qt::LeftButton, {}, QPoint(10, 10));
+    QTest::keyClick(&grid, Qt::Key_Down);
+    QTest::keyClick(&grid, Qt::Key_Space);
+    EXPECT_EQ(told(), Told{"click"});
+}
+
+TEST_F(DataGrid, EachKeyIsToldOnceWithItsModifiersAheadOfItsEffect) {
+    std::vector<std::string> keys;
+    QObject::connect(&grid, &controls::DataGrid::KeyDown, [&](int key, Qt::KeyboardModifiers modifiers) {
+        keys.push_back(QKeySequence(QKeyCombination(modifiers, static_cast<Qt::Key>(key))).toString().toStdString() +
+                       " at " + grid.Columns(0).Text());
+    });
+    QTest::keyClick(&grid, Qt::Key_D, Qt::ControlModifier);
+    QTest::keyClick(&grid, Qt::Key_Down);
+    QTest::keyPress(&grid, Qt::Key_Down);
+    for (int i = 0; i < 2; ++i) {
+        QKeyEvent again(QEvent::KeyPress, Qt::Key_Down, Qt::NoModifier, QString(), true);
+        QApplication::sendEvent(&grid, &again);
+    }
+    QTest::keyRelease(&grid, Qt::Key_Down);
+    EXPECT_EQ(keys, (Told{"Ctrl+Control at 1", "Ctrl+D at 1", "Down at 1", "Down at 2"}));
+    EXPECT_EQ(position(), 5) << "a held arrow moves on";
+}
+
+TEST_F(DataGrid, WhatARowPickedDoesToTheSourceIsStoodByTheGrid) {
+    QObject::connect(&grid, &controls::DataGrid::RowPicked, [&] { source.Refresh(); });
+    lockAll();
+    QTest::keyClick(&grid, Qt::Key_Down);
+    EXPECT_EQ(position(), 1);
+    QTest::mouseClick(grid.viewport(), Qt::LeftButton, {}, middleOf(2));
+    EXPECT_EQ(position(), 1);
+    EXPECT_EQ(grid.currentIndex().row(), 0);
 }
 
 TEST_F(DataGrid, TheArrowsLeadOnFromAColumnThatIsHidden) {

@@ -1,6 +1,7 @@
 #include "controls/Form.h"
 
 #include "RecordedForm.h"
+#include "controls/Disabled.h"
 #include "support/DialogScript.h"
 #include "support/Gui.h"
 
@@ -50,6 +51,37 @@ TEST_F(Form, AnErrorOfAHandlerIsABoxWithItsDescription) {
                          "Requested operation requires a current record.");
     gui.click("A", "button");
     EXPECT_TRUE(gui.isVisible("A"));
+}
+
+TEST_F(Form, DisabledItTakesNothingAndGetsItsFocusBack) {
+    QWidget& field = gui.find("A", "field");
+    field.setFocus();
+    {
+        const controls::Disabled disabled(gui.form("A"));
+        EXPECT_FALSE(field.isEnabled());
+        EXPECT_FALSE(field.hasFocus());
+    }
+    EXPECT_TRUE(field.isEnabled());
+    EXPECT_EQ(gui.focus(), "A.field");
+}
+
+TEST_F(Form, AnErrorEndsItsBeingDisabled) {
+    clicked = [](RecordedForm& form) {
+        const controls::Disabled disabled(form);
+        throw ado::Error(ado::kObjectClosed);
+    };
+    support::DialogScript script;
+    script.expectMessage("Operation is not allowed when the object is closed.");
+    gui.click("A", "button");
+    EXPECT_TRUE(gui.form("A").isEnabled());
+}
+
+TEST_F(Form, ItsHelpTopicAndThatOfItsControlsMayDiffer) {
+    clicked = [](RecordedForm& form) { form.setHelpContext(90, 60); };
+    gui.click("A", "button");
+    EXPECT_EQ(gui.form("A").property("HelpContextID").toInt(), 90);
+    EXPECT_EQ(gui.find("A", "field").property("HelpContextID").toInt(), 60);
+    EXPECT_EQ(gui.find("A", "button").property("HelpContextID").toInt(), 60);
 }
 
 TEST_F(Form, AHeldEnterPressesAButtonOnce) {

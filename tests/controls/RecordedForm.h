@@ -26,6 +26,7 @@ public:
     using Form::Hide;
     using Form::on;
     using Form::Refresh;
+    using Form::setHelpContext;
     using Form::takeScreen;
     using Form::UnloadMe;
 

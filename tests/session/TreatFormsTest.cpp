@@ -176,4 +176,17 @@ TEST_F(TreatForms, FormInCimaOnAStackNeverFilledIsTheEmptyName) {
     EXPECT_EQ(Appoggio, "");
 }
 
+TEST_F(TreatForms, AFormGivesWayToTheOneThatItsCommandOpens) {
+    ApriDa("Avvio_Azienda", "stati");
+    EXPECT_EQ(forms.calls(), (Names{"show stati", "hide Avvio_Azienda"}));
+    expectStack({"Avvio_Azienda", "stati"});
+}
+
+TEST_F(TreatForms, AFormStaysWhereTheOneThatItsCommandOpensIsNotBuilt) {
+    forms.miss("stati");
+    ApriDa("Avvio_Azienda", "stati");
+    EXPECT_EQ(forms.calls(), Names{"show stati"});
+    expectStack({"Avvio_Azienda"});
+}
+
 } // namespace

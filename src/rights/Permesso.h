@@ -1,0 +1,14 @@
+#pragma once
+
+#include "session/variabili.h"
+
+#include <string>
+
+namespace vabo {
+
+inline constexpr const char* kNonAbilitato = "Utente non abilitato!\nContattare l'amministratore di sistema";
+
+/// Whether the user has the right; who hasn't is told so.
+bool Permesso(Flag diritto, const std::string& testo = kNonAbilitato);
+
+} // namespace vabo

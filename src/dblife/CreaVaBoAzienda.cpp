@@ -2,7 +2,7 @@
 
 #include "kit/Regole.h"
 #include "session/ApriDbSede.h"
-#include "session/variabili.h"
+#include "state/variabili.h"
 
 #include <array>
 #include <string>

@@ -6,7 +6,7 @@
 #include "session/ApriAzienda.h"
 #include "session/ApriDbSede.h"
 #include "session/Avviamento.h"
-#include "session/variabili.h"
+#include "state/variabili.h"
 
 #include <array>
 #include <utility>

@@ -9,7 +9,7 @@
 #include "kit/IsEmptyValue.h"
 #include "kit/Regole.h"
 #include "platform/Dialogs.h"
-#include "session/variabili.h"
+#include "state/variabili.h"
 #include "ui_Avvio_Morlan.h"
 
 #include <QAbstractItemView>

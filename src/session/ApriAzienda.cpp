@@ -5,7 +5,6 @@
 #include "kit/ApriScrivibile.h"
 #include "kit/ErrorHandling.h"
 #include "kit/IsEmptyValue.h"
-#include "kit/LinguaClient.h"
 #include "kit/PulisciNome.h"
 #include "kit/Regole.h"
 #include "kit/Testi.h"
@@ -13,7 +12,8 @@
 #include "platform/Workstation.h"
 #include "session/ApriDbSede.h"
 #include "session/Aziende.h"
-#include "session/variabili.h"
+#include "session/LinguaClient.h"
+#include "state/variabili.h"
 
 #include <QElapsedTimer>
 #include <QLoggingCategory>

@@ -1,8 +1,8 @@
 // What becomes of the terminal's row while a company is taken up, and what is read from it.
 
-#include "kit/LinguaClient.h"
 #include "session/ApriAzienda.h"
 #include "session/ApriDbSede.h"
+#include "session/LinguaClient.h"
 #include "session/SessionFixture.h"
 #include "support/SomebodyElse.h"
 

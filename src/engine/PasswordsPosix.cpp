@@ -29,7 +29,8 @@ std::string hashPassword(const std::string& password) {
 }
 
 bool passwordMatches(const std::string& password, const std::string& hash) {
-    return crypted(password, hash) == hash;
+    const bool hashable = password.size() < CRYPT_MAX_PASSPHRASE_SIZE && password.find('\0') == std::string::npos;
+    return hashable && crypted(password, hash) == hash;
 }
 
 } // namespace engine

@@ -195,7 +195,12 @@ TEST_F(CreaVaBoAzienda, AServerWithoutTheProcedureIsToldByStatements) {
     EXPECT_EQ(recorder.texts(), kWithoutProcedure);
 }
 
-TEST_F(CreaVaBoAzienda, TheOptionsBecomeTheSameEitherWay) {
+class CreaVaBoAziendaOn : public CreaVaBoAzienda, public testing::WithParamInterface<int> {};
+
+// On a server of before and of after the procedure's end.
+INSTANTIATE_TEST_SUITE_P(Version, CreaVaBoAziendaOn, testing::Values(8, 11));
+
+TEST_P(CreaVaBoAziendaOn, TheOptionsBecomeTheSame) {
     using Options = std::vector<std::pair<std::string, bool>>;
     const Options expected = {
         {"ANSI null default", false},
@@ -225,15 +230,13 @@ TEST_F(CreaVaBoAzienda, TheOptionsBecomeTheSameEitherWay) {
         {"torn page detection", true},
         {"trunc. log on chkpt.", true},
     };
-    for (const int version : {8, 11}) {
-        workstation.playServerVersion(version);
-        workstation.run("master", "IF EXISTS (SELECT name FROM sysdatabases WHERE name = 'VaBoDatiTemp')"
-                                  " DROP DATABASE VaBoDatiTemp");
-        workstation.run("master", "DROP DATABASE vabodatiazienda");
-        CreaDatabaseControllo();
-        for (const char* database : {"VaBoDatiTemp", "VaBoDatiAzienda"})
-            EXPECT_EQ(workstation.databaseOptions(database), expected) << version << " " << database;
-    }
+    workstation.playServerVersion(GetParam());
+    workstation.run("master", "IF EXISTS (SELECT name FROM sysdatabases WHERE name = 'VaBoDatiTemp')"
+                              " DROP DATABASE VaBoDatiTemp");
+    workstation.run("master", "DROP DATABASE vabodatiazienda");
+    CreaDatabaseControllo();
+    for (const char* database : {"VaBoDatiTemp", "VaBoDatiAzienda"})
+        EXPECT_EQ(workstation.databaseOptions(database), expected) << database;
 }
 
 TEST_F(CreaVaBoAzienda, AnotherRefusalLeavesTheProcedureInPlace) {

@@ -236,6 +236,13 @@ TEST_F(AnInstance, KeepsTheOptionsOfADatabase) {
     EXPECT_EQ(errorOf([&] { instance->databaseOptions("Y"); }), missing);
 }
 
+TEST_F(AnInstance, KnowsNobodyByATextThatIsNoPassword) {
+    instance->addLogin("sa", "Segreto");
+    EXPECT_FALSE(instance->authenticates("sa", std::string(100'000, 'x')));
+    EXPECT_FALSE(instance->authenticates("sa", std::string("Segreto\0x", 9)));
+    EXPECT_TRUE(instance->authenticates("sa", "Segreto"));
+}
+
 TEST_F(AnInstance, KnowsItsLogins) {
     instance->addLogin("sa", "S\u00e8greto");
     EXPECT_TRUE(instance->authenticates("SA", "S\u00e8greto"));

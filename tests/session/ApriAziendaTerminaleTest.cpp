@@ -128,6 +128,19 @@ TEST_F(ApriAziendaTerminale, WithoutANumberItGetsNoRowBeforeACompanyIsFound) {
     EXPECT_TRUE(heard[expected.size()].starts_with("INSERT")) << heard[expected.size()];
 }
 
+// The text of the local server that has no pointer file goes through the work string that named the terminal.
+TEST_F(ApriAziendaTerminale, WithoutALocalPointerFileTheLastUpdateNamesTheLocalServerInsteadOfTheTerminal) {
+    removeFile("C:\\vabo\\Leggi_ServerLocal.txt");
+    double id = idOf(kCompany);
+    const support::StatementRecorder recorder;
+    ApriAzienda(id);
+    EXPECT_EQ(recorder.holding("update link_programmaTerminale"),
+              (Texts{kClearTerminal, setTo(id),
+                     "update link_programmaTerminale set ultimo = " + textOf(id) +
+                         " where   nometerminale = 'Driver=SQL Server;Server=POSTO_7\\sqlexpress;ID utente=;Password=;'"}));
+    EXPECT_EQ(terminals(), (Rows{{"POSTO_7", textOf(id)}}));
+}
+
 TEST_F(ApriAziendaTerminale, ACompanyWithoutADatabaseNamesTheServerOfTheMoment) {
     double id = idOf(kCompany);
     ApriAzienda(id);

@@ -32,7 +32,7 @@ void Avvio_Morlan::MostraTrattamento(const Regola& regola) {
 // Failing statements are skipped: a rate that can't be shown leaves the box as it was.
 void Avvio_Morlan::CaricaTrattamento() {
     salta([this] { IdTrattamentoStandard = LeggiAliquotaStandard(); });
-    MostraTrattamento([](const auto& istruzione) { salta(istruzione); });
+    MostraTrattamento(kSaltando);
 }
 
 // Without a rule: a treatment whose rate can't be shown stops here, before anything is written.
@@ -45,7 +45,7 @@ void Avvio_Morlan::ScegliTrattamento() {
     if (IsEmptyValue(IdTrattamentoStandard)) {
         return;
     }
-    MostraTrattamento([](const auto& istruzione) { istruzione(); });
+    MostraTrattamento(kSenzaRegola);
     SalvaAliquotaStandard(IdTrattamentoStandard, ui_->Aliquota->Text(), ui_->Sigla->Text(), ui_->Detrazione->Text());
 }
 

@@ -96,9 +96,9 @@ void SalvaOpzione(const Opzione& opzione, int casella) {
     ado::Recordset proprio;
     ado::Recordset& rs = RecordsetCondiviso(opzione) ? RsCaselle() : proprio;
     if (opzione.ignoraErrori) {
-        ScriviOpzione([](auto&& istruzione) { salta(istruzione); }, rs, opzione, valore);
+        ScriviOpzione(kSaltando, rs, opzione, valore);
     } else {
-        ScriviOpzione([](auto&& istruzione) { istruzione(); }, rs, opzione, valore);
+        ScriviOpzione(kSenzaRegola, rs, opzione, valore);
     }
 }
 

@@ -25,9 +25,6 @@ void PuntaAlConto(Regola&& regola, const std::string& testo, double idConto) {
     ChiudiRecordset();
 }
 
-constexpr auto kSaltando = [](auto&& istruzione) { salta(istruzione); };
-constexpr auto kSenzaRegola = [](auto&& istruzione) { istruzione(); };
-
 } // namespace
 
 bool ContoAmmesso(const std::string& descrizione, double idConto) {

@@ -52,6 +52,10 @@ bool riesce(Istruzione&& istruzione) {
     }
 }
 
+/// For a procedure that runs under the rule of its caller: skip what fails, or let it rise.
+inline constexpr auto kSaltando = [](auto&& istruzione) { salta(istruzione); };
+inline constexpr auto kSenzaRegola = [](auto&& istruzione) { istruzione(); };
+
 /// The error's own description in a box, then the end of the process.
 template<typename Procedura>
 void oFine(Procedura&& procedura) {

@@ -1,6 +1,7 @@
 #include "general_tables/TrattamentoIva.h"
 
 #include "ado/Conversions.h"
+#include "ado/Text.h"
 #include "general_tables/CaricaValoriControlli.h"
 #include "kit/ApriScrivibile.h"
 #include "kit/IsEmptyValue.h"
@@ -19,11 +20,6 @@ std::string Trattamento(const std::string& campo, double id) {
 
 std::string Formato(const std::string& numero) {
     return ado::formatFixed(ado::toDouble(numero), ado::regionalSettings().decimals, true);
-}
-
-std::string SenzaBlank(const std::string& testo) {
-    const auto inizio = testo.find_first_not_of(' ');
-    return inizio == std::string::npos ? std::string() : testo.substr(inizio, testo.find_last_not_of(' ') - inizio + 1);
 }
 
 } // namespace
@@ -67,7 +63,7 @@ void SalvaAliquotaStandard(double id, const std::string& aliquota, const std::st
     }
     rs["idTipo"] = id;
     rs["Aliquota"] = aliquota;
-    rs["Sigla"] = SenzaBlank(sigla);
+    rs["Sigla"] = std::string(ado::trimmed(sigla, " "));
     rs["Detrazione"] = detrazione;
     rs.Update();
     rs.Close();

@@ -134,10 +134,11 @@ TEST_F(ApriAziendaTerminale, WithoutALocalPointerFileTheLastUpdateNamesTheLocalS
     double id = idOf(kCompany);
     const support::StatementRecorder recorder;
     ApriAzienda(id);
-    EXPECT_EQ(recorder.holding("update link_programmaTerminale"),
-              (Texts{kClearTerminal, setTo(id),
-                     "update link_programmaTerminale set ultimo = " + textOf(id) +
-                         " where   nometerminale = 'Driver=SQL Server;Server=POSTO_7\\sqlexpress;ID utente=;Password=;'"}));
+    EXPECT_EQ(
+        recorder.holding("update link_programmaTerminale"),
+        (Texts{kClearTerminal, setTo(id),
+               "update link_programmaTerminale set ultimo = " + textOf(id) +
+                   " where   nometerminale = 'Driver=SQL Server;Server=POSTO_7\\sqlexpress;ID utente=;Password=;'"}));
     EXPECT_EQ(terminals(), (Rows{{"POSTO_7", textOf(id)}}));
 }
 

@@ -1,12 +1,12 @@
 #include "dblife/CreaVaBoAzienda.h"
 
+#include "ado/Error.h"
 #include "kit/Regole.h"
 #include "session/ApriDbSede.h"
 #include "state/variabili.h"
 
 #include <array>
 #include <string>
-#include <utility>
 
 namespace vabo {
 

@@ -9,6 +9,7 @@
 #include <algorithm>
 #include <array>
 #include <fstream>
+#include <initializer_list>
 
 namespace engine {
 namespace {
@@ -51,6 +52,14 @@ Error systemDatabase(const std::string& name) {
 
 Error databaseInUse(const std::string& name) {
     return {3702, "Cannot drop database \"" + name + "\" because it is currently in use."};
+}
+
+/// What of a database's files is there: the file itself for "", its log for "-wal", the log's index for "-shm".
+void removeParts(const std::filesystem::path& database, std::initializer_list<const char*> endings) {
+    for (const char* ending : endings) {
+        std::filesystem::path part = database;
+        std::filesystem::remove(part += ending);
+    }
 }
 
 void makeEmptyFile(const std::filesystem::path& file) {
@@ -208,6 +217,7 @@ DatabaseEntry InstanceStore::createDatabase(const std::string& name, const std::
     if (isTaken(place.file)) {
         throw fileExists(fileName.empty() ? place.localName : fileName);
     }
+    removeParts(place.file, {"-wal", "-shm"}); // a kill amid a drop leaves them
     makeEmptyFile(place.file);
 
     sqlite::Statement freeId(registry_,
@@ -239,10 +249,7 @@ void InstanceStore::dropDatabase(const std::string& name) {
         remove.step();
     }
     transaction.commit();
-    for (const char* ending : {"", "-wal", "-shm"}) {
-        std::filesystem::path file = entry->file;
-        std::filesystem::remove(file += ending);
-    }
+    removeParts(entry->file, {"", "-wal", "-shm"});
     RowLocks::removeFile(entry->file);
 }
 

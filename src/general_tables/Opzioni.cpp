@@ -23,19 +23,25 @@ bool RigaConNumero(const Opzione& opzione) {
     return opzione.tabella == Opzione::Tabella::TabellaUilityConti;
 }
 
+/// Not the one that is found by its description: when that is made it gets nothing else.
+bool RigaConId(const Opzione& opzione) {
+    return opzione.riga != 0;
+}
+
 const char* ColonnaValore(const Opzione& opzione) {
     return RigaConNumero(opzione) ? "Lunghezza" : "Contatore";
 }
 
 /// The numbered rows of datiGenerali go through a shared recordset, the others through one of their own.
 bool RecordsetCondiviso(const Opzione& opzione) {
-    return !RigaConNumero(opzione) && opzione.riga != 0;
+    return !RigaConNumero(opzione) && RigaConId(opzione);
 }
 
 template<typename Regola>
 void ScriviOpzione(Regola&& regola, ado::Recordset& rs, const Opzione& opzione, int valore) {
     regola([&] { ApriScrivibile(rs, TestoOpzione(opzione), DbAzienda); });
-    if (vera([&] { return rs.EOF(); })) {
+    const bool manca = vera([&] { return rs.EOF(); });
+    if (manca) {
         regola([&] { rs.AddNew(); });
         if (RigaConNumero(opzione)) {
             regola([&] { rs["id"] = opzione.riga; });
@@ -44,7 +50,9 @@ void ScriviOpzione(Regola&& regola, ado::Recordset& rs, const Opzione& opzione, 
             regola([&] { rs["Descrizione"] = opzione.descrizione; });
         }
     }
-    regola([&] { rs[ColonnaValore(opzione)] = valore; });
+    if (!manca || RigaConId(opzione)) {
+        regola([&] { rs[ColonnaValore(opzione)] = valore; });
+    }
     regola([&] { rs.Update(); });
     regola([&] { rs.Close(); });
 }
@@ -79,7 +87,7 @@ const Opzione& OpzioneDi(std::string_view casella) {
 }
 
 std::string TestoOpzione(const Opzione& opzione) {
-    if (opzione.riga == 0) {
+    if (!RigaConId(opzione)) {
         return "select * from datiGenerali where descrizione ='" + std::string(opzione.descrizione) + "'";
     }
     const std::string tabella = RigaConNumero(opzione) ? "TabellaUilityConti" : "datiGenerali";

@@ -41,7 +41,8 @@ const Opzione& OpzioneDi(std::string_view casella);
 std::string TestoOpzione(const Opzione& opzione);
 
 /// Stores what the box shows (1 ticked, 0 not; the 2 of a stored -2 goes back as it came), creating the row where it is
-/// missing. Under the option's own rule: errors raise, or the failing statement is skipped.
+/// missing; a row that is found by its description is created without a value. Under the option's own rule: errors
+/// raise, or the failing statement is skipped.
 void SalvaOpzione(const Opzione& opzione, int casella);
 
 /// Row 9, created where it is missing. False on the pass that creates it.

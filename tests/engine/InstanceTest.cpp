@@ -130,6 +130,17 @@ TEST_F(AnInstance, TakesTheEmptyFileThatAKilledProcessLeft) {
     EXPECT_EQ(instance->createDatabase("X", "X.mdf", "").id, 5);
 }
 
+TEST_F(AnInstance, MakesADatabaseWhereAKilledDropLeftItsLog) {
+    for (const char* left : {"X.mdf-wal", "X.mdf-shm"}) {
+        std::ofstream(home / left) << "of the dropped one";
+    }
+    const DatabaseEntry entry = instance->createDatabase("X", "X.mdf", "");
+    sqlite::Connection opened(entry.file, false);
+    sqlite::Statement tables(opened, "SELECT count(*) FROM sqlite_master");
+    ASSERT_TRUE(tables.step());
+    EXPECT_EQ(tables.integer(0), 0);
+}
+
 TEST_F(AnInstance, CanBeCopiedElsewhere) {
     fs::create_directories(folder.path() / "c" / "vabo");
     instance->createDatabase("Inside", "Inside.mdf", "");

@@ -75,7 +75,7 @@ TEST_F(OpzioniTest, AMissingRowIsCreatedWithItsDescription) {
         EXPECT_EQ(riga("select Descrizione, " + colonna(opzione) + " from " + tabella +
                        " where id = (select max(id) from " + tabella +
                        (generali ? ")" : " where id = " + std::to_string(opzione.riga) + ")")),
-                  (Riga{caso.descrizione, caso.spuntata}));
+                  (Riga{caso.descrizione, caso.casella == std::string("Check6") ? "NULL" : caso.spuntata}));
     }
 }
 
@@ -93,6 +93,9 @@ TEST_F(OpzioniTest, TheAdministrativeSeatIsFoundAgainByItsDescription) {
     const Opzione& opzione = OpzioneDi("Check6");
     elimina(opzione);
     SalvaOpzione(opzione, true);
+    EXPECT_EQ(salvato(opzione), "NULL") << "the row that is made gets its description alone";
+    SalvaOpzione(opzione, true);
+    EXPECT_EQ(salvato(opzione), "-1");
     SalvaOpzione(opzione, false);
     EXPECT_EQ(valore("select count(*) from datiGenerali where Descrizione = 'Sede Amministrativa'"), "1");
     EXPECT_EQ(salvato(opzione), "0");

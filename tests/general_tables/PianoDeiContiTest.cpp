@@ -3,6 +3,7 @@
 #include "ado/Error.h"
 #include "general_tables/AziendaAperta.h"
 #include "general_tables/RecordsetConsole.h"
+#include "support/Attacks.h"
 
 namespace vabo {
 namespace {
@@ -79,6 +80,43 @@ TEST_F(PianoDeiContiTest, AnswersThatAreNothingOrNoNumberFallBack) {
         DefinisciPianoDeiConti(0);
         EXPECT_EQ(lunghezze(), (Riga{"-1", "3", "2", "3", "0"}));
     }
+}
+
+TEST_F(PianoDeiContiTest, AnAnswerThatIsNoNumberReachesNoStatement) {
+    const auto definendo = [&](const std::string& risposta) {
+        support::DialogScript script;
+        aspettaDomande(script, risposta, risposta, risposta);
+        const support::StatementRecorder recorder;
+        DefinisciPianoDeiConti(0);
+        return recorder.texts();
+    };
+    const auto attese = definendo("");
+    const auto altre = posto.rows(support::kCompany, "select * from TabellaUilityConti where id > 5 order by id");
+    for (const std::string& risposta : support::attacks()) {
+        if (risposta == "-1" || risposta == "1e308") // the only numbers among them
+            continue;
+        EXPECT_EQ(definendo(risposta), attese) << testing::PrintToString(risposta.substr(0, 60));
+        EXPECT_EQ(lunghezze(), (Riga{"-1", "3", "2", "3", "0"}));
+    }
+    EXPECT_EQ(posto.rows(support::kCompany, "select * from TabellaUilityConti where id > 5 order by id"), altre);
+}
+
+TEST_F(PianoDeiContiTest, ANumberBeyondAnyColumnIsTold) {
+    for (const std::string& risposta : {std::string("1e308"), std::string("-1e308"), std::string(300, '9')}) {
+        support::DialogScript script;
+        script.expectQuestion("Utilizzi il Piano dei Conti Standard?", false);
+        script.expectInput("Lunghezza del campo Mastro ", "Lunghezza", "3", risposta);
+        const auto prima = lunghezze();
+        EXPECT_THROW(DefinisciPianoDeiConti(0), ado::Error) << risposta;
+        EXPECT_EQ(lunghezze()[1], prima[1]);
+    }
+}
+
+TEST_F(PianoDeiContiTest, DigitsBeyondAnyNumberFallBack) {
+    support::DialogScript script;
+    aspettaDomande(script, std::string(400, '9'), "1e400", "-1e999999999999");
+    DefinisciPianoDeiConti(0);
+    EXPECT_EQ(lunghezze(), (Riga{"-1", "3", "2", "3", "0"}));
 }
 
 TEST_F(PianoDeiContiTest, ANumberGoesThroughWithoutACheckOfItsRange) {

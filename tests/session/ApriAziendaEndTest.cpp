@@ -84,6 +84,15 @@ TEST_F(ApriAziendaEnd, ADroppedDatabaseCannotLoadWhereThereIsNoFallback) {
     EXPECT_EQ(recorder.holding("Select * from link_programma where  dbname='").size(), 1U);
 }
 
+TEST_F(ApriAziendaEnd, TheCompanyBeforeIsClosedAheadOfTheSearchForADatabase) {
+    double before = idOf(kCompany);
+    ApriAzienda(before);
+    const double id = idOf(kOtherCompany);
+    drop(kOtherCompany);
+    control(std::string("delete from link_programma where dbname = '") + kCompany + "'");
+    expectEnd(id, kCannotLoad);
+}
+
 TEST_F(ApriAziendaEnd, ADroppedDatabaseCannotLoadWhereTheFirstOneIsNoCompany) {
     const double id = idOf(kOtherCompany);
     noCompanyDatabases();

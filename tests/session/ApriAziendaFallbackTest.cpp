@@ -3,6 +3,9 @@
 #include "session/ApriAzienda.h"
 #include "session/ApriDbSede.h"
 #include "session/SessionFixture.h"
+#include "support/LogLines.h"
+
+#include <gmock/gmock.h>
 
 namespace {
 
@@ -48,6 +51,16 @@ TEST_F(ApriAziendaFallback, ANumberWithoutARowGivesWayWithoutAMessage) {
     expectOtherCompany(id);
     EXPECT_EQ(searches(recorder), 4);
     EXPECT_EQ(recorder.count("Select * from link_programma  where   id = 42"), 1);
+}
+
+TEST_F(ApriAziendaFallback, ANumberWithoutARowGivesWayOnAConnectionOfItsOwn) {
+    drop(kCompany);
+    double id = 42;
+    const support::LogLines log;
+    QLoggingCategory::setFilterRules("vabo.skipped=true");
+    ApriAzienda(id);
+    EXPECT_THAT(support::LogLines::lines(), testing::Not(testing::Contains(testing::HasSubstr("(3705)"))))
+        << "the control database is closed ahead of the second pass, which opens it";
 }
 
 TEST_F(ApriAziendaFallback, ANumberWithoutARowIsStoredFirstForATerminalWithoutARow) {

@@ -169,6 +169,8 @@ TEST_F(UltimaAziendaTerminaleTest, ANumberWithoutARowKeepsItsValue) {
 TEST_F(UltimaAziendaTerminaleTest, ATerminalsNumberWithoutARowKeepsItsValue) {
     setTerminal("POSTO_7", 42);
     EXPECT_EQ(UltimaAziendaTerminale(), 42);
+    EXPECT_EQ(IdAziendaLavoro, 42);
+    EXPECT_EQ(IdAzienda, 42);
 }
 
 TEST_F(UltimaAziendaTerminaleTest, ARowWithZeroLeadsToTheFirstCompanyOfTheServer) {

@@ -123,6 +123,15 @@ TEST_F(RegoleLogin, AFirstPasswordIsStoredAndItsUserHasItsRights) {
     EXPECT_EQ(NomeUtenteLogin, "");
 }
 
+TEST_F(RegoleLogin, AFirstPasswordTakesBackTheSharedRecordsetsThoughItsUserIsRefused) {
+    double number = numberOf("nuovo_utente");
+    RsCondivisi(4).Open("select * from Sede", DbAzienda);
+    script.expectMessage("Utente non abilitato! ");
+    EntraConPrimaPassword(number, "0", "inverno"); // a name that counts as none
+    EXPECT_EQ(passwordOf("nuovo_utente"), "inverno");
+    EXPECT_FALSE(RsCondivisi(4).IsOpen());
+}
+
 TEST_F(RegoleLogin, SavingAFirstPasswordTouchesOneRow) {
     double number = numberOf("nuovo_utente");
     const support::StatementRecorder recorder;

@@ -9,7 +9,7 @@
 #include "controls/DataCombo.h"
 #include "kit/ErrorHandling.h"
 #include "session/TreatForms.h"
-#include "session/variabili.h"
+#include "state/variabili.h"
 
 #include <QAbstractItemView>
 #include <QCompleter>

@@ -15,14 +15,6 @@ namespace {
 constexpr int kFirstYear = 1753, kLastYear = 9999;
 constexpr int kLargestPrecision = 18; // of what 64 bits keep whole
 
-template<typename Integer>
-Integer whole(const Value& value) {
-    const double rounded = std::nearbyint(toDouble(value));
-    if (!(rounded >= std::numeric_limits<Integer>::min() && rounded <= std::numeric_limits<Integer>::max()))
-        throw Error(kOverflow);
-    return static_cast<Integer>(rounded);
-}
-
 double finite(const Value& value) {
     const double number = toDouble(value);
     if (!std::isfinite(number))
@@ -113,11 +105,11 @@ Value converted(const Value& value, const FieldDescription& column) {
     case FieldType::Boolean:
         return toBoolean(value);
     case FieldType::Byte:
-        return whole<std::uint8_t>(value);
+        return toByte(value);
     case FieldType::SmallInt:
-        return whole<std::int16_t>(value);
+        return toInteger(value);
     case FieldType::Integer:
-        return whole<std::int32_t>(value);
+        return toLong(value);
     case FieldType::BigInt:
         return decimal(value, 0, 0);
     case FieldType::Single:

@@ -1,6 +1,7 @@
 #include "ado/ConnectionString.h"
 
 #include "ado/Names.h"
+#include "ado/Text.h"
 
 #include <algorithm>
 #include <initializer_list>
@@ -8,18 +9,6 @@
 namespace ado {
 
 namespace {
-
-bool isBlank(char c) {
-    return c == ' ' || c == '\t' || c == '\r' || c == '\n';
-}
-
-std::string_view trimmed(std::string_view text) {
-    while (!text.empty() && isBlank(text.front()))
-        text.remove_prefix(1);
-    while (!text.empty() && isBlank(text.back()))
-        text.remove_suffix(1);
-    return text;
-}
 
 /// Up to the closing mark, which stands doubled inside; what follows up to the ";" doesn't count. Without a closing
 /// mark all the rest is the value.

@@ -1,6 +1,7 @@
 #include "ado/Conversions.h"
 
 #include "ado/Error.h"
+#include "ado/Text.h"
 
 #include <algorithm>
 #include <array>
@@ -31,10 +32,7 @@ std::optional<bool> truthWord(std::string_view text) {
     };
     static constexpr std::array<Word, 4> kWords = {
         {{"true", true}, {"vero", true}, {"false", false}, {"falso", false}}};
-    std::string lower(text);
-    std::ranges::transform(lower, lower.begin(),
-                           [](char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c + 32) : c; });
-    const auto found = std::ranges::find(kWords, lower, &Word::text);
+    const auto found = std::ranges::find(kWords, lowered(text), &Word::text);
     return found == kWords.end() ? std::nullopt : std::optional(found->value);
 }
 
@@ -123,6 +121,9 @@ std::int32_t toLong(const Value& value) {
 }
 std::int16_t toInteger(const Value& value) {
     return toWhole<std::int16_t>(value);
+}
+std::uint8_t toByte(const Value& value) {
+    return toWhole<std::uint8_t>(value);
 }
 
 bool toBoolean(const Value& value) {

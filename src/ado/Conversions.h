@@ -31,6 +31,7 @@ void setToday(std::optional<Date> day);
 double toDouble(const Value& value);
 std::int32_t toLong(const Value& value);    ///< half to even
 std::int16_t toInteger(const Value& value); ///< half to even
+std::uint8_t toByte(const Value& value);    ///< half to even
 bool toBoolean(const Value& value);         ///< any number but zero; the texts True, False, Vero, Falso
 Date toDate(const Value& value);
 std::string toText(const Value& value); ///< null raises 94, empty is ""

@@ -2,6 +2,7 @@
 
 #include "ado/Conversions.h"
 #include "ado/Error.h"
+#include "ado/Text.h"
 
 #include <algorithm>
 #include <array>
@@ -24,10 +25,8 @@ std::optional<Date>& fixedToday() {
     return day;
 }
 
-bool isDigit(char c) {
-    return c >= '0' && c <= '9';
-}
-bool isBlank(char c) {
+/// A line's end is none: it ends no date.
+bool isSpace(char c) {
     return c == ' ' || c == '\t';
 }
 
@@ -42,7 +41,7 @@ std::optional<std::vector<Piece>> pieces(std::string_view text) {
     std::vector<Piece> found;
     std::size_t at = 0;
     const auto skipBlanks = [&] {
-        while (at < text.size() && isBlank(text[at]))
+        while (at < text.size() && isSpace(text[at]))
             ++at;
     };
     for (;;) {
@@ -173,16 +172,6 @@ std::optional<Date> dateAndTime(const std::vector<Piece>& parts, Half half) {
         return date;
     }
     return std::nullopt;
-}
-
-char lower(char c) {
-    return c >= 'A' && c <= 'Z' ? static_cast<char>(c + ('a' - 'A')) : c;
-}
-
-std::string lowered(std::string_view text) {
-    std::string result(text);
-    std::ranges::transform(result, result.begin(), lower);
-    return result;
 }
 
 /// Writes the number of a month in place of its name, with separators around it; true when one stood there.

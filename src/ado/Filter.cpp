@@ -3,6 +3,7 @@
 #include "ado/Conversions.h"
 #include "ado/Error.h"
 #include "ado/Names.h"
+#include "ado/Text.h"
 #include "engine/Collation.h"
 
 #include <algorithm>
@@ -22,15 +23,8 @@ using Operator = FilterExpression::Operator;
 using Comparison = FilterExpression::Comparison;
 using Group = FilterExpression::Group;
 
-bool isNameStart(char c) {
-    const auto byte = static_cast<unsigned char>(c);
-    return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z') || c == '_' || byte >= 0x80;
-}
 bool isNamePart(char c) {
-    return isNameStart(c) || (c >= '0' && c <= '9') || c == '$';
-}
-bool isBlank(char c) {
-    return c == ' ' || c == '\t' || c == '\r' || c == '\n';
+    return isNameStart(c) || isDigit(c) || c == '$';
 }
 
 bool isText(FieldType type) {

@@ -1,5 +1,7 @@
 #include "ado/Names.h"
 
+#include "ado/Text.h"
+
 #include <QString>
 
 #include <algorithm>
@@ -8,9 +10,6 @@ namespace ado {
 
 namespace {
 
-char lower(char c) {
-    return c >= 'A' && c <= 'Z' ? static_cast<char>(c + ('a' - 'A')) : c;
-}
 bool isAscii(char c) {
     return static_cast<unsigned char>(c) < 0x80;
 }

@@ -1,6 +1,7 @@
 // Numbers as texts and texts as numbers, by the regional settings.
 
 #include "ado/Conversions.h"
+#include "ado/Text.h"
 
 #include <algorithm>
 #include <charconv>
@@ -13,23 +14,16 @@ namespace {
 
 constexpr int kSignificantDigits = 15;
 
-bool isBlank(char c) {
-    return c == ' ' || c == '\t' || c == '\n' || c == '\r';
-}
-bool isDigit(char c) {
-    return c >= '0' && c <= '9';
-}
-
 /// Reads a number written by people: sign before or behind, brackets for a negative one, currency sign at either end.
 class NumberReader {
 public:
     explicit NumberReader(std::string_view text) : rest_(text) {}
 
     std::optional<double> read() {
-        prefix();
+        signs(true);
         if (!digits() || !exponent())
             return std::nullopt;
-        suffix();
+        signs(false);
         if (refused_ || !rest_.empty() || bracketOpen_)
             return std::nullopt;
         double number = 0;
@@ -66,25 +60,18 @@ private:
         currency_ = true;
     }
 
-    void prefix() {
-        while (!rest_.empty()) {
-            if (takeBlank())
-                continue;
-            if (take("-"))
-                sign(true);
-            else if (take("+"))
-                sign(false);
-            else if (take(regionalSettings().currencySymbol))
-                currency();
-            else if (take("(")) {
-                sign(true);
-                bracketOpen_ = true;
-            } else
-                return;
-        }
+    /// The one that opens is a sign, too.
+    bool takeBracket(bool ahead) {
+        if (!(ahead ? take("(") : bracketOpen_ && take(")")))
+            return false;
+        if (ahead)
+            sign(true);
+        bracketOpen_ = ahead;
+        return true;
     }
 
-    void suffix() {
+    /// What stands ahead of the digits or behind them.
+    void signs(bool ahead) {
         while (!rest_.empty()) {
             if (takeBlank())
                 continue;
@@ -94,9 +81,7 @@ private:
                 sign(false);
             else if (take(regionalSettings().currencySymbol))
                 currency();
-            else if (bracketOpen_ && take(")"))
-                bracketOpen_ = false;
-            else
+            else if (!takeBracket(ahead))
                 return;
         }
     }

@@ -2,6 +2,7 @@
 
 #include "ado/Literals.h"
 #include "ado/Names.h"
+#include "ado/Text.h"
 
 #include <algorithm>
 #include <utility>
@@ -76,9 +77,8 @@ std::string RowStatements::insert(const Assignments& values) const {
     for (std::size_t i = 0; i < values.size(); ++i) {
         if (!values[i])
             continue;
-        const char* divider = columns.empty() ? "" : ", ";
-        columns += divider + quotedName(fields_[i].baseColumn);
-        literals += divider + literal(*values[i], fields_[i].type);
+        addPiece(columns, ", ", quotedName(fields_[i].baseColumn));
+        addPiece(literals, ", ", literal(*values[i], fields_[i].type));
     }
     const std::string into = "INSERT INTO " + table_;
     return columns.empty() ? into + " DEFAULT VALUES" : into + " (" + columns + ") VALUES (" + literals + ")";
@@ -87,11 +87,9 @@ std::string RowStatements::insert(const Assignments& values) const {
 std::string RowStatements::update(const Assignments& values, const RowStore& rows, std::size_t row) const {
     std::string assignments;
     for (std::size_t i = 0; i < values.size(); ++i) {
-        if (!values[i])
-            continue;
-        if (!assignments.empty())
-            assignments += ", ";
-        assignments += quotedName(fields_[i].baseColumn) + " = " + literal(*values[i], fields_[i].type);
+        if (values[i])
+            addPiece(assignments, ", ",
+                     quotedName(fields_[i].baseColumn) + " = " + literal(*values[i], fields_[i].type));
     }
     return "UPDATE " + table_ + " SET " + assignments + where(rows, row);
 }
@@ -99,7 +97,7 @@ std::string RowStatements::update(const Assignments& values, const RowStore& row
 std::string RowStatements::select(const RowStore& rows, std::size_t row, const std::string& hint) const {
     std::string columns;
     for (const int place : readColumns_)
-        columns += (columns.empty() ? "" : ", ") + quotedName(fields_[static_cast<std::size_t>(place)].baseColumn);
+        addPiece(columns, ", ", quotedName(fields_[static_cast<std::size_t>(place)].baseColumn));
     return "SELECT " + columns + " FROM " + table_ + hint + where(rows, row);
 }
 

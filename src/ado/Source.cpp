@@ -1,6 +1,7 @@
 #include "ado/Source.h"
 
 #include "ado/Literals.h"
+#include "ado/Text.h"
 
 #include <algorithm>
 #include <array>
@@ -15,25 +16,16 @@ constexpr int kOptionTable = 2;
 constexpr int kOptionUnspecified = -1;
 
 bool isWordStart(char c) {
-    const auto byte = static_cast<unsigned char>(c);
-    return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z') || c == '_' || c == '#' || byte >= 0x80;
+    return isNameStart(c) || c == '#';
 }
 bool isWordPart(char c) {
-    return isWordStart(c) || (c >= '0' && c <= '9') || c == '$' || c == '@';
+    return isWordStart(c) || isDigit(c) || c == '$' || c == '@';
 }
 
 std::size_t wordEnd(std::string_view text, std::size_t from) {
     while (from < text.size() && isWordPart(text[from]))
         ++from;
     return from;
-}
-
-std::string_view trimmed(std::string_view text) {
-    constexpr std::string_view kBlanks = " \t\r\n";
-    const auto begin = text.find_first_not_of(kBlanks);
-    if (begin == std::string_view::npos)
-        return {};
-    return text.substr(begin, text.find_last_not_of(kBlanks) - begin + 1);
 }
 
 /// The pieces of a name with points between them, nothing where the text is more than a name.
@@ -63,17 +55,14 @@ std::optional<std::vector<std::string>> namePieces(std::string_view text) {
 }
 
 std::string wholeTable(const std::vector<std::string>& pieces) {
-    std::string statement = "select * from ";
+    std::string name;
     for (const std::string& piece : pieces)
-        statement += (&piece == &pieces.front() ? "" : ".") + quotedName(piece);
-    return statement;
+        addPiece(name, ".", quotedName(piece));
+    return "select * from " + name;
 }
 
 bool isOneOf(std::string_view word, std::string_view list) {
-    std::string upper = " ";
-    for (const char c : word)
-        upper += c >= 'a' && c <= 'z' ? static_cast<char>(c - ('a' - 'A')) : c;
-    return list.find(upper + " ") != std::string_view::npos;
+    return list.find(" " + lowered(word) + " ") != std::string_view::npos;
 }
 
 /// The end of a text, a quoted name or a comment that begins at `at`; `at` itself where none does.
@@ -110,7 +99,7 @@ bool selectsPlainRows(std::string_view statement) {
             at = behind;
         } else if (isWordPart(statement[at])) {
             const std::size_t end = wordEnd(statement, at);
-            if (isOneOf(statement.substr(at, end - at), " JOIN GROUP HAVING DISTINCT UNION "))
+            if (isOneOf(statement.substr(at, end - at), " join group having distinct union "))
                 return false;
             at = end;
         } else {

@@ -3,7 +3,6 @@
 #include "app/Forms.h"
 #include "controls/Mark.h"
 #include "controls/QtDialogs.h"
-#include "controls/Style.h"
 #include "engine/Host.h"
 #include "platform/Workstation.h"
 
@@ -12,13 +11,13 @@
 
 namespace app {
 
-Program::Program(int& argc, char** argv) : application_(argc, argv) {
+Program::Program(int& argc, char** argv, controls::style::Scheme scheme) : application_(argc, argv) {
     engine::refuseTooLargeFiles();
     // The hidden start form stands until the end of the process.
     QApplication::setQuitOnLastWindowClosed(false);
     if (italian_.load(QStringLiteral("qtbase_it"), QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
         QApplication::installTranslator(&italian_);
-    controls::style::install(application_);
+    controls::style::install(application_, scheme);
     QApplication::setWindowIcon(controls::Mark::icon());
 
     platform::takeRealWorkstation();

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "controls/FormRegistry.h"
+#include "controls/Style.h"
 
 #include <QApplication>
 #include <QTranslator>
@@ -12,7 +13,7 @@ namespace app {
 class Program {
 public:
     /// argc and argv must outlive it.
-    Program(int& argc, char** argv);
+    Program(int& argc, char** argv, controls::style::Scheme scheme = controls::style::Scheme::System);
     ~Program();
     Program(const Program&) = delete;
     Program& operator=(const Program&) = delete;

@@ -3,7 +3,7 @@
 #include "ado/Error.h"
 #include "kit/Regole.h"
 #include "session/ApriDbSede.h"
-#include "session/variabili.h"
+#include "state/variabili.h"
 
 #include <array>
 #include <string>

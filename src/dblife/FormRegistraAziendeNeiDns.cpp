@@ -8,7 +8,7 @@
 #include "platform/DataSources.h"
 #include "platform/Dialogs.h"
 #include "session/TreatForms.h"
-#include "session/variabili.h"
+#include "state/variabili.h"
 #include "ui_FormRegistraAziendeNeiDns.h"
 
 namespace vabo {

@@ -6,7 +6,7 @@
 #include "session/ApriAzienda.h"
 #include "session/ApriDbSede.h"
 #include "session/Avviamento.h"
-#include "session/variabili.h"
+#include "state/variabili.h"
 
 #include <array>
 #include <utility>
@@ -86,11 +86,23 @@ void ScriviPrimaRiga(const CampiAzienda& campi, ado::Connection& connessione) {
     salta([&] { rs.Update(); });
 }
 
+// The local server's name is read anew for each use: on a new workstation the first answer isn't the one that stays.
 void RegistraFonti(const CampiAzienda& campi) {
     const std::string descrizione = "Dati " + campi.Azienda;
-    RegistraDueVolte(NomeDsn, campi.Database, descrizione, campi.Server, campi.Utente, campi.Password);
-    RegistraDueVolte("Tlv_Temp", "VaBoDatiTemp", descrizione, LeggiNomeServerLocal, campi.Utente, campi.Password);
-    RegistraDueVolte("Tlv_Azienda", "VaBoDatiAzienda", "Dati " + NomeAzienda, LeggiNomeServerLocal, "", "");
+    RegistraDueVolte({.NomeDsn = NomeDsn,
+                      .Database = campi.Database,
+                      .Descrizione = descrizione,
+                      .Server = campi.Server,
+                      .Utente = campi.Utente,
+                      .Password = campi.Password});
+    RegistraDueVolte({.NomeDsn = "Tlv_Temp",
+                      .Database = "VaBoDatiTemp",
+                      .Descrizione = descrizione,
+                      .Utente = campi.Utente,
+                      .Password = campi.Password},
+                     LeggiNomeServerLocal);
+    RegistraDueVolte({.NomeDsn = "Tlv_Azienda", .Database = "VaBoDatiAzienda", .Descrizione = "Dati " + NomeAzienda},
+                     LeggiNomeServerLocal);
 }
 
 } // namespace vabo

@@ -9,7 +9,7 @@
 
 namespace vabo {
 
-/// What the form asks for, as typed.
+/// How a company is reached: as the form asks for it, or as the company taken up has it.
 struct CampiAzienda {
     std::string Driver, Server, Database, Utente, Password;
     std::string Fonte;   ///< name of the company's data source

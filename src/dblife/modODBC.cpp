@@ -39,34 +39,42 @@ std::string Chiuso(const std::string& attributo) {
 } // namespace
 
 // The registry keeps the values of both calls: the first writes what the second doesn't name.
-std::int32_t RegistraOdbc(std::int16_t richiesta, std::int32_t tipo, const std::string& NomeDsn,
-                          const std::string& Database, const std::string& Descrizione, const std::string& Server,
-                          const std::string& /*Utente*/, const std::string& /*Password*/) {
-    const std::string nome = Valore(NomeTagliato(NomeDsn));
-    const std::string descrizione = "Description=" + Valore(Descrizione);
-    const std::string server = "SERVER=" + Valore(Server);
-    const std::string database = Valore(Database);
-    const std::string perOdbc = Chiuso("DSN=" + nome) + Chiuso(descrizione) + Chiuso(server) + Chiuso("DBQ=" + database);
+std::int32_t RegistraOdbc(std::int16_t richiesta, std::int32_t tipo, const FonteOdbc& fonte) {
+    const std::string nome = Valore(NomeTagliato(fonte.NomeDsn));
+    const std::string descrizione = "Description=" + Valore(fonte.Descrizione);
+    const std::string server = "SERVER=" + Valore(fonte.Server);
+    const std::string database = Valore(fonte.Database);
+    const std::string perOdbc =
+        Chiuso("DSN=" + nome) + Chiuso(descrizione) + Chiuso(server) + Chiuso("DBQ=" + database);
     const std::string perDao = descrizione + "\rOemToAnsi=No\r" + server + "\rDatabase=" + database;
     if (!riesce([&] { platform::dataSources().registerDatabase(nome, kDriverSqlServer, true, perDao); }))
         return 0;
     return platform::dataSources().configure(richiesta, Driver(tipo), perOdbc);
 }
 
-void RegistraDueVolte(const std::string& NomeDsn, const std::string& Database, const std::string& Descrizione,
-                      const std::function<std::string()>& Server, const std::string& Utente,
-                      const std::string& Password) {
-    for (const std::int16_t richiesta : {kAggiungi, kConfigura}) {
-        salta([&] {
-            RegistraOdbc(richiesta, kTipoSqlServer, NomeDsn, Database, Descrizione, Server(), Utente, Password);
-        });
-    }
+std::int32_t RegistraOdbc(std::int16_t richiesta, std::int32_t tipo, const std::string& NomeDsn,
+                          const std::string& Database, const std::string& Descrizione, const std::string& Server,
+                          const std::string& Utente, const std::string& Password) {
+    return RegistraOdbc(richiesta, tipo,
+                        {.NomeDsn = NomeDsn,
+                         .Database = Database,
+                         .Descrizione = Descrizione,
+                         .Server = Server,
+                         .Utente = Utente,
+                         .Password = Password});
 }
 
-void RegistraDueVolte(const std::string& NomeDsn, const std::string& Database, const std::string& Descrizione,
-                      const std::string& Server, const std::string& Utente, const std::string& Password) {
-    RegistraDueVolte(
-        NomeDsn, Database, Descrizione, [&] { return Server; }, Utente, Password);
+void RegistraDueVolte(const FonteOdbc& fonte) {
+    RegistraDueVolte(fonte, [&] { return fonte.Server; });
+}
+
+void RegistraDueVolte(FonteOdbc fonte, const std::function<std::string()>& server) {
+    for (const std::int16_t richiesta : {kAggiungi, kConfigura}) {
+        salta([&] {
+            fonte.Server = server();
+            RegistraOdbc(richiesta, kTipoSqlServer, fonte);
+        });
+    }
 }
 
 } // namespace vabo

@@ -14,19 +14,23 @@ inline constexpr std::int16_t kConfigura = 2; ///< request: configure
 inline constexpr std::int32_t kTipoAccess = 1;    ///< "Microsoft Access Driver (*.mdb)"
 inline constexpr std::int32_t kTipoSqlServer = 2; ///< "SQL Server"
 
-/// Registers the database under the name, of which the first 30 characters count. The result is that of the
-/// configuration: 1 when it was done, 0 when not, and 0 where the registration ahead of it fails. Raises nothing.
-/// User and password aren't stored.
+/// A data source as it is asked for. User and password aren't stored.
+struct FonteOdbc {
+    std::string NomeDsn = {}; ///< its first 30 characters count
+    std::string Database = {}, Descrizione = {}, Server = {}, Utente = {}, Password = {};
+};
+
+/// Registers the database under the name. The result is that of the configuration: 1 when it was done, 0 when not, and
+/// 0 where the registration ahead of it fails. Raises nothing.
+std::int32_t RegistraOdbc(std::int16_t richiesta, std::int32_t tipo, const FonteOdbc& fonte);
 std::int32_t RegistraOdbc(std::int16_t richiesta, std::int32_t tipo, const std::string& NomeDsn,
                           const std::string& Database, const std::string& Descrizione, const std::string& Server,
                           const std::string& Utente, const std::string& Password);
 
 /// First the request to add, then the one to configure, of a SQL Server's database: so that an existing data source
-/// gets the new values. The server's name is asked for each time. Failures are skipped.
-void RegistraDueVolte(const std::string& NomeDsn, const std::string& Database, const std::string& Descrizione,
-                      const std::function<std::string()>& Server, const std::string& Utente,
-                      const std::string& Password);
-void RegistraDueVolte(const std::string& NomeDsn, const std::string& Database, const std::string& Descrizione,
-                      const std::string& Server, const std::string& Utente, const std::string& Password);
+/// gets the new values. Failures are skipped.
+void RegistraDueVolte(const FonteOdbc& fonte);
+/// The same with the server's name asked for each time.
+void RegistraDueVolte(FonteOdbc fonte, const std::function<std::string()>& server);
 
 } // namespace vabo

@@ -9,7 +9,7 @@
 #include "kit/Regole.h"
 #include "kit/StampaReportAccess.h"
 #include "session/TreatForms.h"
-#include "session/variabili.h"
+#include "state/variabili.h"
 #include "ui_Avvio_Morlan.h"
 
 #include <QTabBar>

@@ -12,7 +12,7 @@
 #include "kit/Regole.h"
 #include "kit/Testi.h"
 #include "rights/Permesso.h"
-#include "session/variabili.h"
+#include "state/variabili.h"
 #include "ui_Avvio_Morlan.h"
 
 #include <QKeyEvent>

@@ -4,7 +4,7 @@
 #include "kit/ApriScrivibile.h"
 #include "kit/IsEmptyValue.h"
 #include "kit/Regole.h"
-#include "session/variabili.h"
+#include "state/variabili.h"
 
 namespace vabo {
 

@@ -5,7 +5,7 @@
 #include "kit/IsEmptyValue.h"
 #include "kit/Regole.h"
 #include "kit/Uguale.h"
-#include "session/variabili.h"
+#include "state/variabili.h"
 
 namespace vabo {
 

@@ -7,7 +7,7 @@
 #include "kit/Regole.h"
 #include "kit/Testi.h"
 #include "kit/Uguale.h"
-#include "session/variabili.h"
+#include "state/variabili.h"
 
 #include <algorithm>
 #include <stdexcept>

@@ -1,6 +1,7 @@
 #pragma once
 
-#include "session/variabili.h"
+#include "kit/ErrorHandling.h"
+#include "state/variabili.h"
 
 namespace vabo {
 
@@ -21,7 +22,7 @@ public:
     explicit Restituzione(int posto) : posto_(posto) {}
     Restituzione(const Restituzione&) = delete;
     Restituzione& operator=(const Restituzione&) = delete;
-    ~Restituzione() { RsCondivisi.Rilascia(posto_); }
+    ~Restituzione() { RilasciaRecordset(posto_); }
 
 private:
     int posto_;

@@ -1,12 +1,13 @@
 #include "general_tables/TrattamentoIva.h"
 
 #include "ado/Conversions.h"
+#include "ado/Text.h"
 #include "general_tables/CaricaValoriControlli.h"
 #include "kit/ApriScrivibile.h"
 #include "kit/Colonne.h"
 #include "kit/IsEmptyValue.h"
 #include "kit/Regole.h"
-#include "session/variabili.h"
+#include "state/variabili.h"
 
 namespace vabo {
 
@@ -20,11 +21,6 @@ std::string Trattamento(const std::string& campo, double id) {
 
 std::string Formato(const std::string& numero) {
     return ado::formatFixed(ado::toDouble(numero), ado::regionalSettings().decimals, true);
-}
-
-std::string SenzaBlank(const std::string& testo) {
-    const auto inizio = testo.find_first_not_of(' ');
-    return inizio == std::string::npos ? std::string() : testo.substr(inizio, testo.find_last_not_of(' ') - inizio + 1);
 }
 
 } // namespace
@@ -67,7 +63,10 @@ void SalvaAliquotaStandard(double id, const std::string& aliquota, const std::st
         rs.AddNew();
     }
     ScriviColonne(kSenzaRegola, rs,
-                  {{"idTipo", id}, {"Aliquota", aliquota}, {"Sigla", SenzaBlank(sigla)}, {"Detrazione", detrazione}});
+                  {{"idTipo", id},
+                   {"Aliquota", aliquota},
+                   {"Sigla", std::string(ado::trimmed(sigla, " "))},
+                   {"Detrazione", detrazione}});
     rs.Update();
     rs.Close();
 }

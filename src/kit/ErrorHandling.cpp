@@ -1,7 +1,7 @@
 #include "kit/ErrorHandling.h"
 
 #include "kit/Regole.h"
-#include "session/variabili.h"
+#include "state/variabili.h"
 
 namespace vabo {
 
@@ -11,9 +11,16 @@ void AggiornaRecord(ado::Recordset& rs) {
 }
 
 // Failing statements are skipped.
+void RilasciaRecordset(int posto) {
+    const std::unique_ptr<ado::Recordset> rs = RsCondivisi.Ritira(posto);
+    if (rs && rs->IsOpen())
+        salta([&] { rs->Close(); });
+}
+
+// Failing statements are skipped.
 std::string ChiudiRecordset() {
     for (int posto = 1; posto <= RecordsetCondivisi::kNumero; ++posto)
-        RsCondivisi.Rilascia(posto);
+        RilasciaRecordset(posto);
     if (DbLocale && DbLocale->IsOpen())
         salta([] { DbLocale->Close(); });
     DbLocale.reset();

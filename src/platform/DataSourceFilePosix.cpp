@@ -1,3 +1,4 @@
+#include "ado/Text.h"
 #include "platform/DataSourceFile.h"
 #include "platform/Machine.h"
 
@@ -36,10 +37,7 @@ bool isControl(char c) {
 /// A value as the file gives it back.
 std::string storable(std::string value) {
     std::ranges::replace_if(value, isControl, ' ');
-    const auto first = value.find_first_not_of(' ');
-    if (first == std::string::npos)
-        return {};
-    return value.substr(first, value.find_last_not_of(' ') - first + 1);
+    return std::string(ado::trimmed(value, " "));
 }
 
 /// Where the driver manager looks for it: it asks the user's record for the home, not the environment.
@@ -93,8 +91,7 @@ std::string bytesOf(const fs::path& file) {
 } // namespace
 
 bool isDataSourceName(const std::string& name) {
-    const auto isBlank = [](char c) { return c == ' '; };
-    return !name.empty() && !isBlank(name.front()) && !isBlank(name.back()) && std::ranges::none_of(name, isControl) &&
+    return !name.empty() && ado::trimmed(name, " ") == name && std::ranges::none_of(name, isControl) &&
            SQLValidDSN(name.c_str());
 }
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "session/variabili.h"
+#include "state/variabili.h"
 
 #include <string>
 

@@ -10,7 +10,7 @@
 #include "session/Avviamento.h"
 #include "session/RegoleLogin.h"
 #include "session/TreatForms.h"
-#include "session/variabili.h"
+#include "state/variabili.h"
 #include "ui_About.h"
 
 namespace vabo {

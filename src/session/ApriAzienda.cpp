@@ -1,11 +1,10 @@
 #include "session/ApriAzienda.h"
 
 #include "ado/Conversions.h"
-#include "dblife/modODBC.h"
+#include "dblife/RegistraAziende.h"
 #include "kit/ApriScrivibile.h"
 #include "kit/ErrorHandling.h"
 #include "kit/IsEmptyValue.h"
-#include "kit/LinguaClient.h"
 #include "kit/PulisciNome.h"
 #include "kit/Regole.h"
 #include "kit/Testi.h"
@@ -13,14 +12,16 @@
 #include "platform/Workstation.h"
 #include "session/ApriDbSede.h"
 #include "session/Aziende.h"
-#include "session/variabili.h"
+#include "session/LinguaClient.h"
+#include "state/variabili.h"
 
 #include <QElapsedTimer>
 #include <QLoggingCategory>
 
 #include <set>
 
-// Failing statements are skipped throughout, and a failing test counts as true.
+// Failing statements are skipped throughout, and a failing test counts as true. The terminal's name and the number
+// travel from step to step; what is written to the globals on the way are the outputs.
 
 namespace vabo {
 
@@ -56,79 +57,78 @@ bool NumeroDiPartenza(double& id) {
     return true;
 }
 
-void StringheDiPartenza(double id) {
+void StringheDiPartenza() {
     salta([] { StringaAzienda = ConnessioneAzienda(); });
     // Stands only for a company without a database; no semicolon ahead of the last key.
     StringaAzienda = "Provider=SQLOLEDB;Data Source=" + NomeServer + ";Integrated Security=SSPI" + "DATABase=vabodati";
-    Appoggio = PulisciNome(NomeTerminale);
-    IdAzienda = id;
-    IdAziendaLavoro = id;
 }
 
-void AggiungiTerminale(ado::Recordset& rs) {
+void AggiungiTerminale(ado::Recordset& rs, const std::string& terminale, double numero) {
     salta([&] { rs.AddNew(); });
-    salta([&] { rs["nometerminale"] = Appoggio; });
-    salta([&] { rs["Ultimo"] = IdAziendaLavoro; });
-    IdAzienda = IdAziendaLavoro;
+    salta([&] { rs["nometerminale"] = terminale; });
+    salta([&] { rs["Ultimo"] = numero; });
+    IdAzienda = numero;
     salta([&] { rs.Update(); });
     salta([&] { rs.Close(); });
 }
 
 /// Neither a row nor a number. The recordset stands at its end, so what is written to it fails: the terminal gets no
 /// row.
-void TerminaleSenzaNumero(ado::Recordset& rs) {
+void TerminaleSenzaNumero(ado::Recordset& rs, const std::string& terminale) {
     const bool nessuna = IsEmptyValue(PrimaAziendaSuServer());
-    if (nessuna && !IsEmptyValue(Appoggio)) {
+    if (nessuna && !IsEmptyValue(terminale)) {
         salta([&] { rs.Close(); });
         FineConMessaggio("Nessun database caricato");
     }
-    if (!IsEmptyValue(Appoggio)) {
-        salta([&] { rs["nometerminale"] = Appoggio; });
+    if (!IsEmptyValue(terminale)) {
+        salta([&] { rs["nometerminale"] = terminale; });
         salta([&] { rs["Ultimo"] = PrimaAziendaSuServer(); });
         salta([&] { rs.Update(); });
     }
     salta([&] { rs.Close(); });
 }
 
-void LeggiTerminale() {
+/// The number in the terminal's row; a terminal without a row keeps the given one, and gets a row for it.
+double NumeroDelTerminale(const std::string& terminale, double numero) {
     ado::Recordset rs;
     salta([&] {
         ApriScrivibile(rs,
                        std::string("Select * from link_programmaTerminale") + " where  " + " Nometerminale = '" +
-                           Appoggio + "'",
+                           terminale + "'",
                        DbControllo);
     });
     if (vera([&] { return !rs.EOF(); })) {
-        salta([&] { IdAziendaLavoro = ado::toDouble(rs["Ultimo"]); });
+        salta([&] { numero = ado::toDouble(rs["Ultimo"]); });
         salta([&] { rs.Close(); });
-    } else if (!IsEmptyValue(IdAziendaLavoro) && !IsEmptyValue(Appoggio)) {
-        AggiungiTerminale(rs);
+    } else if (!IsEmptyValue(numero) && !IsEmptyValue(terminale)) {
+        AggiungiTerminale(rs, terminale, numero);
     } else {
-        TerminaleSenzaNumero(rs);
+        TerminaleSenzaNumero(rs, terminale);
     }
+    return numero;
 }
 
-void RisolviConTerminale() {
+double RisolviConTerminale(const std::string& terminale) {
     IdAziendaLavoro = UltimaAziendaTerminale();
     salta([] { DbControllo.Open(ConnessioneControllo()); });
     salta([] { DbControllo.Execute("delete from link_programmaTerminale where nometerminale is null"); });
-    LeggiTerminale();
+    return NumeroDelTerminale(terminale, IdAziendaLavoro);
 }
 
-void ScriviUltimo(const std::string& numero) {
-    if (IsEmptyValue(Appoggio))
+void ScriviUltimo(const std::string& terminale, const std::string& numero) {
+    if (IsEmptyValue(terminale))
         return;
     salta([&] {
         DbControllo.Execute("update link_programmaTerminale set ultimo = " + numero + " where  " +
-                            " nometerminale = '" + Appoggio + "'");
+                            " nometerminale = '" + terminale + "'");
     });
 }
 
-void RegistraScelta() {
+double RegistraScelta(const std::string& terminale, double numero) {
     salta([] { DbControllo.Open(ConnessioneControllo()); });
-    ScriviUltimo("0");
-    ScriviUltimo(ado::plainNumber(IdAziendaLavoro));
-    LeggiTerminale();
+    ScriviUltimo(terminale, "0");
+    ScriviUltimo(terminale, ado::plainNumber(numero));
+    return NumeroDelTerminale(terminale, numero);
 }
 
 /// An empty column keeps the value of the company before.
@@ -143,13 +143,14 @@ void CreaCartellaFile() {
     CartellaFile = "C:\\Vabo\\Files";
 }
 
-void ComponiStringhe(ado::Recordset& rs) {
+void ComponiStringhe(ado::Recordset& rs, double& numero) {
     salta([&] {
         StringaLocale = std::string("Provider=Microsoft.Jet.OLEDB.4.0;") + "Data Source=" + CartellaFile + "\\" +
                         Pezzo(rs["tlv_sql"]) + ";";
     });
     salta([] { StringaAzienda = LeggiConnessioneServer() + "DATABase="; });
-    salta([&] { IdAziendaLavoro = ado::toDouble(rs["id"]); });
+    salta([&] { numero = ado::toDouble(rs["id"]); });
+    IdAziendaLavoro = numero;
     StringaAzienda += NomeDatabase + ";";
     StringaAziendaCopia = StringaAzienda;
     Leggi_ServerLocal(); // its text serves nothing here, the file that it may write does
@@ -159,14 +160,14 @@ void ComponiStringhe(ado::Recordset& rs) {
         FileLocale = LinguaCorrente == "EN" ? "tlv_locale_sqlEN.mdb" : "tlv_locale_sql.mdb";
 }
 
-Esito AziendaSenzaDatabase(ado::Recordset& rs, double& id) {
+Esito AziendaSenzaDatabase(ado::Recordset& rs, double& id, double& numero) {
     PrendiTesto(rs, "NomeAzienda", NomeAzienda);
     PrendiTesto(rs, "nRoot", UtenteDb);
     PrendiTesto(rs, "nPassw", PasswordDb);
     if (vera([&] { return !IsEmptyValue(rs["tlv_sql"]); }))
         salta([&] { PercorsoFileLocale = "C:\\Vabo\\Files\\" + Pezzo(rs["tlv_sql"]); });
-    for (double* numero : {&IdAzienda, &IdAziendaLavoro, &id})
-        salta([&] { *numero = ado::toDouble(rs["id"]); });
+    for (double* uscita : {&IdAzienda, &IdAziendaLavoro, &id, &numero})
+        salta([&] { *uscita = ado::toDouble(rs["id"]); });
     salta([&] { rs.Close(); });
     if (!DatabasePresente()) // of the company before
         return Esito::DaRipiegare;
@@ -176,14 +177,6 @@ Esito AziendaSenzaDatabase(ado::Recordset& rs, double& id) {
 
 void RiapriDbAzienda() {
     salta([] { DbAzienda.Open(ConnessioneAzienda()); });
-}
-
-/// The local server's name is read anew for each use: on a new workstation the first answer isn't the one that stays.
-void RegistraFonti() {
-    const std::string descrizione = "Dati " + NomeAzienda;
-    RegistraDueVolte(NomeDsn, NomeDatabase, descrizione, NomeServer, UtenteDb, PasswordDb);
-    RegistraDueVolte("Tlv_Temp", "VaBoDatiTemp", descrizione, LeggiNomeServerLocal, UtenteDb, PasswordDb);
-    RegistraDueVolte("Tlv_Azienda", "VaBoDatiAzienda", descrizione, LeggiNomeServerLocal, "", "");
 }
 
 Esito Concludi(ado::Recordset& rs) {
@@ -196,21 +189,27 @@ Esito Concludi(ado::Recordset& rs) {
     if (IsEmptyValue(NomeDatabase) || !DatabasePresente())
         return Esito::DaRipiegare;
     NomeDsn = "Tlv_server";
-    RegistraFonti();
+    RegistraFonti({.Driver = "SQL Server",
+                   .Server = NomeServer,
+                   .Database = NomeDatabase,
+                   .Utente = UtenteDb,
+                   .Password = PasswordDb,
+                   .Fonte = NomeDsn,
+                   .Azienda = NomeAzienda});
     salta([] { DbControllo.Open(ConnessioneControllo()); });
     CancellaTerminaliVuoti();
     salta([] { DbControllo.Close(); });
     return Esito::Aperta;
 }
 
-Esito AziendaConDatabase(ado::Recordset& rs) {
+Esito AziendaConDatabase(ado::Recordset& rs, const std::string& terminale, double& numero) {
     PrendiTesto(rs, "NomeAzienda", NomeAzienda);
     PrendiTesto(rs, "DBname", NomeDatabase);
     PrendiTesto(rs, "nRoot", UtenteDb);
     PrendiTesto(rs, "nPassw", PasswordDb);
-    ScriviUltimo(ado::plainNumber(IdAziendaLavoro));
+    ScriviUltimo(terminale, ado::plainNumber(numero));
     CreaCartellaFile();
-    ComponiStringhe(rs);
+    ComponiStringhe(rs, numero);
     salta([] { DbAzienda.Close(); });
     if (!DatabasePresente())
         return Esito::DaRipiegare;
@@ -218,16 +217,21 @@ Esito AziendaConDatabase(ado::Recordset& rs) {
     return Concludi(rs);
 }
 
-Esito Passata(double& id) {
-    StringheDiPartenza(id);
-    if (IsEmptyValue(IdAziendaLavoro))
-        RisolviConTerminale();
-    RegistraScelta();
+/// `numero` is the company looked up: the terminal's row may have led away from `id`.
+Esito Passata(double& id, double& numero) {
+    StringheDiPartenza();
+    const std::string terminale = PulisciNome(NomeTerminale);
+    Appoggio = terminale;
+    IdAzienda = id;
+    IdAziendaLavoro = id;
+    numero = id;
+    if (IsEmptyValue(numero))
+        IdAziendaLavoro = numero = RisolviConTerminale(terminale);
+    IdAziendaLavoro = numero = RegistraScelta(terminale, numero);
     ado::Recordset rs;
     salta([&] {
         ApriScrivibile(rs,
-                       std::string("Select * from link_programma ") + " where  " +
-                           " id = " + ado::plainNumber(IdAziendaLavoro),
+                       std::string("Select * from link_programma ") + " where  " + " id = " + ado::plainNumber(numero),
                        DbControllo);
     });
     if (!vera([&] { return !rs.EOF(); })) {
@@ -236,8 +240,9 @@ Esito Passata(double& id) {
     }
     salta([] { LinguaCorrente = LeggiLinguaClient(""); });
     if (vera([&] { return IsEmptyValue(rs["DBname"]); }))
-        return AziendaSenzaDatabase(rs, id);
-    return AziendaConDatabase(rs);
+        return AziendaSenzaDatabase(rs, id, numero);
+    // The language is asked of the local server, whose text goes through this work string where it has no file.
+    return AziendaConDatabase(rs, Appoggio, numero);
 }
 
 /// The one search on the server: it runs anew for each use of its answer. It finds the same company each time, so a
@@ -259,8 +264,9 @@ void ApriAzienda(double& id) {
     if (!NumeroDiPartenza(id))
         return;
     std::set<double> provati;
-    for (Esito esito = Passata(id); esito != Esito::Aperta; esito = Passata(id)) {
-        provati.insert(IdAziendaLavoro); // the one looked up: the terminal's row may have led away from `id`
+    double numero = 0;
+    for (Esito esito = Passata(id, numero); esito != Esito::Aperta; esito = Passata(id, numero)) {
+        provati.insert(numero);
         RipiegaSullaPrima(id, provati);
         provati.insert(id);
         if (esito == Esito::SenzaRiga)

@@ -4,7 +4,7 @@
 #include "dblife/CreaVaBoAzienda.h"
 #include "kit/Regole.h"
 #include "platform/Workstation.h"
-#include "session/variabili.h"
+#include "state/variabili.h"
 
 #include <string_view>
 

@@ -3,7 +3,6 @@
 #include "ado/Conversions.h"
 #include "kit/ApriScrivibile.h"
 #include "kit/ErrorHandling.h"
-#include "kit/LinguaClient.h"
 #include "kit/PulisciNome.h"
 #include "kit/Regole.h"
 #include "kit/Titolo.h"
@@ -12,7 +11,8 @@
 #include "session/ApriAzienda.h"
 #include "session/ApriDbSede.h"
 #include "session/Aziende.h"
-#include "session/variabili.h"
+#include "session/LinguaClient.h"
+#include "state/variabili.h"
 
 namespace vabo {
 

@@ -10,7 +10,7 @@
 #include "session/ApriDbSede.h"
 #include "session/Aziende.h"
 #include "session/TreatForms.h"
-#include "session/variabili.h"
+#include "state/variabili.h"
 #include "ui_Avvio_Azienda.h"
 
 namespace vabo {

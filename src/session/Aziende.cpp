@@ -7,7 +7,7 @@
 #include "kit/Regole.h"
 #include "platform/Dialogs.h"
 #include "session/ApriDbSede.h"
-#include "session/variabili.h"
+#include "state/variabili.h"
 
 namespace vabo {
 

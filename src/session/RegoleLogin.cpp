@@ -11,7 +11,7 @@
 #include "rights/AbilitazioneUtente.h"
 #include "session/ApriAzienda.h"
 #include "session/ApriDbSede.h"
-#include "session/variabili.h"
+#include "state/variabili.h"
 
 namespace vabo {
 

@@ -4,7 +4,7 @@
 #include "kit/Regole.h"
 #include "kit/Testi.h"
 #include "platform/Forms.h"
-#include "session/variabili.h"
+#include "state/variabili.h"
 
 #include <QLoggingCategory>
 

@@ -12,19 +12,6 @@
 
 namespace ado::test {
 
-/// Every statement sent while it lives.
-class Recorder {
-public:
-    Recorder() {
-        setStatementRecorder([this](const std::string& text) { texts.push_back(text); });
-    }
-    ~Recorder() { setStatementRecorder({}); }
-    Recorder(const Recorder&) = delete;
-    Recorder& operator=(const Recorder&) = delete;
-
-    std::vector<std::string> texts;
-};
-
 /// What every road owes: a connection to a fresh server with a table of four towns and a table of one column for each
 /// type.
 class Contract : public ::testing::Test {

@@ -1,12 +1,13 @@
 #include "ado/AdoFixture.h"
+#include "support/StatementRecorder.h"
 
 namespace ado {
 namespace {
 
+using support::StatementRecorder;
 using test::Contract;
 using test::errorOf;
 using test::raises;
-using test::Recorder;
 
 class ConnectionContract : public Contract {};
 
@@ -131,13 +132,13 @@ TEST_F(ConnectionContract, AMissingDatabaseAndAWrongPasswordAreRefusedLogins) {
 }
 
 TEST_F(ConnectionContract, EveryStatementPassesTheRecorderAsItWasWritten) {
-    const Recorder recorder;
+    const StatementRecorder recorder;
     connection.Execute("update  Comuni set cap = '1'  where id = 1 ");
     EXPECT_TRUE(errorOf([&] { connection.Execute("nonsense 1 2"); }));
     Recordset rs;
     rs.Open("Comuni", connection);
-    EXPECT_EQ(recorder.texts, (std::vector<std::string>{"update  Comuni set cap = '1'  where id = 1 ", "nonsense 1 2",
-                                                        "select * from [Comuni]"}));
+    EXPECT_EQ(recorder.texts(), (std::vector<std::string>{"update  Comuni set cap = '1'  where id = 1 ", "nonsense 1 2",
+                                                          "select * from [Comuni]"}));
 }
 
 TEST_F(ConnectionContract, ARecordsetOutlivesTheClosingOfItsConnection) {

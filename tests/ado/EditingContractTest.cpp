@@ -1,15 +1,16 @@
 #include "ado/AdoFixture.h"
+#include "support/StatementRecorder.h"
 
 #include <vector>
 
 namespace ado {
 namespace {
 
+using support::StatementRecorder;
 using test::Contract;
 using test::display;
 using test::errorOf;
 using test::raises;
-using test::Recorder;
 using Texts = std::vector<std::string>;
 
 class Editing : public Contract {};
@@ -18,13 +19,13 @@ TEST_F(Editing, AnUpdateSendsTheTouchedColumnsByTheIdentity) {
     Recordset rs;
     open(rs);
     rs.MoveNext();
-    const Recorder recorder;
+    const StatementRecorder recorder;
     rs["cap"] = "20100";
     rs["sede"] = true;
     EXPECT_EQ(display(rs["cap"]), "20100");
-    EXPECT_TRUE(recorder.texts.empty());
+    EXPECT_TRUE(recorder.texts().empty());
     rs.Update();
-    EXPECT_EQ(recorder.texts, Texts{"UPDATE [Comuni] SET [cap] = N'20100', [sede] = 1 WHERE [id] = 2"});
+    EXPECT_EQ(recorder.texts(), Texts{"UPDATE [Comuni] SET [cap] = N'20100', [sede] = 1 WHERE [id] = 2"});
     EXPECT_EQ(display(rs["cap"]), "20100");
     EXPECT_EQ(cell("select cap, sede, nome from Comuni where id = 2"), "20100|Vero|Milano");
 }
@@ -32,18 +33,18 @@ TEST_F(Editing, AnUpdateSendsTheTouchedColumnsByTheIdentity) {
 TEST_F(Editing, UpdateWithNothingPendingSendsNothing) {
     Recordset rs;
     open(rs);
-    const Recorder recorder;
+    const StatementRecorder recorder;
     rs.Update();
-    EXPECT_TRUE(recorder.texts.empty());
+    EXPECT_TRUE(recorder.texts().empty());
 }
 
 TEST_F(Editing, APrimaryKeyServesWhereThereIsNoIdentity) {
     Recordset rs;
     open(rs, "select testo, id from Tipi");
-    const Recorder recorder;
+    const StatementRecorder recorder;
     rs["testo"] = "l'ora";
     rs.Update();
-    EXPECT_EQ(recorder.texts, Texts{"UPDATE [Tipi] SET [testo] = N'l''ora' WHERE [id] = 1"});
+    EXPECT_EQ(recorder.texts(), Texts{"UPDATE [Tipi] SET [testo] = N'l''ora' WHERE [id] = 1"});
     EXPECT_EQ(cell("select testo from Tipi"), "l'ora");
 }
 
@@ -52,10 +53,10 @@ TEST_F(Editing, TheKeyItselfCanBeChanged) {
     open(rs, "Tipi");
     rs["id"] = 5;
     rs.Update();
-    const Recorder recorder;
+    const StatementRecorder recorder;
     rs["intero"] = 9;
     rs.Update();
-    EXPECT_EQ(recorder.texts, Texts{"UPDATE [Tipi] SET [intero] = 9 WHERE [id] = 5"});
+    EXPECT_EQ(recorder.texts(), Texts{"UPDATE [Tipi] SET [intero] = 9 WHERE [id] = 5"});
     EXPECT_EQ(cell("select id, intero from Tipi"), "5|9");
 }
 
@@ -64,14 +65,14 @@ TEST_F(Editing, AllValuesServeWhereTheKeyIsNotWhole) {
     connection.Execute("INSERT INTO Coppie (a, b, c) VALUES (1, 1, 'x'), (1, 2, NULL)");
     Recordset rs;
     open(rs, "select a, c from Coppie order by b");
-    const Recorder recorder;
+    const StatementRecorder recorder;
     rs["c"] = "z";
     rs.Update();
     rs.MoveNext();
     rs["c"] = "w";
     rs.Update();
-    EXPECT_EQ(recorder.texts, (Texts{"UPDATE [Coppie] SET [c] = N'z' WHERE [a] = 1 AND [c] = N'x'",
-                                     "UPDATE [Coppie] SET [c] = N'w' WHERE [a] = 1 AND [c] IS NULL"}));
+    EXPECT_EQ(recorder.texts(), (Texts{"UPDATE [Coppie] SET [c] = N'z' WHERE [a] = 1 AND [c] = N'x'",
+                                       "UPDATE [Coppie] SET [c] = N'w' WHERE [a] = 1 AND [c] IS NULL"}));
     EXPECT_EQ(rowsOf("select a, b, c from Coppie order by b"), (Texts{"1|1|z", "1|2|w"}));
 }
 
@@ -80,10 +81,10 @@ TEST_F(Editing, AWholeKeyOfTwoColumnsServes) {
     connection.Execute("INSERT INTO Coppie (a, b) VALUES (1, 2)");
     Recordset rs;
     open(rs, "Coppie");
-    const Recorder recorder;
+    const StatementRecorder recorder;
     rs["c"] = 3;
     rs.Update();
-    EXPECT_EQ(recorder.texts, Texts{"UPDATE [Coppie] SET [c] = 3 WHERE [a] = 1 AND [b] = 2"});
+    EXPECT_EQ(recorder.texts(), Texts{"UPDATE [Coppie] SET [c] = 3 WHERE [a] = 1 AND [b] = 2"});
 }
 
 TEST_F(Editing, EveryTypeIsWrittenSoThatItReadsBack) {
@@ -102,18 +103,18 @@ TEST_F(Editing, EveryTypeIsWrittenSoThatItReadsBack) {
     rs["data"] = Date::of(2004, 3, 7, 8, 5, 9);
     rs["stretto"] = "a'b";
     rs["testo"] = "perché 'sì'";
-    Recorder recorder;
+    StatementRecorder recorder;
     rs.Update();
     EXPECT_EQ(
-        recorder.texts,
+        recorder.texts(),
         Texts{"INSERT INTO [Senza] ([logico], [ottetto], [corto], [grande], [doppio], [decimale], [denaro], [data], "
               "[stretto], [testo]) VALUES (0, 255, -32768, -9000000000, 0.1, -0.05, -0.0005, CONVERT(DATETIME, "
               "'2004-03-07 08:05:09.000', 121), 'a''b', N'perché ''sì''')"});
-    recorder.texts.clear();
+    recorder.clear();
     // All values are the key here: each must find itself again.
     rs["ottetto"] = 7;
     rs.Update();
-    ASSERT_EQ(recorder.texts.size(), 1U);
+    ASSERT_EQ(recorder.texts().size(), 1U);
     EXPECT_EQ(cell("select * from Senza"),
               "Falso|7|-32768|-9000000000|0,1|-0,05|-0,0005|07/03/2004 08:05:09|a'b|perché 'sì'");
 }
@@ -121,7 +122,7 @@ TEST_F(Editing, EveryTypeIsWrittenSoThatItReadsBack) {
 TEST_F(Editing, ANewRowBecomesCurrentWithItsIdentityAndStaysAtTheEnd) {
     Recordset rs;
     open(rs, "select * from Comuni order by nome");
-    const Recorder recorder;
+    const StatementRecorder recorder;
     rs.AddNew();
     EXPECT_FALSE(rs.EOF());
     EXPECT_EQ(rs.AbsolutePosition(), -1);
@@ -129,7 +130,7 @@ TEST_F(Editing, ANewRowBecomesCurrentWithItsIdentityAndStaysAtTheEnd) {
     rs["nome"] = "Ancona";
     rs["abitanti"] = Null{};
     rs.Update();
-    EXPECT_EQ(recorder.texts, Texts{"INSERT INTO [Comuni] ([nome], [abitanti]) VALUES (N'Ancona', NULL)"});
+    EXPECT_EQ(recorder.texts(), Texts{"INSERT INTO [Comuni] ([nome], [abitanti]) VALUES (N'Ancona', NULL)"});
     EXPECT_EQ(rs["id"].Value(), Value(5));
     EXPECT_EQ(rs.RecordCount(), 5);
     EXPECT_EQ(rs.AbsolutePosition(), 5);
@@ -160,10 +161,10 @@ TEST_F(Editing, ANewRowWithNothingTouchedIsAllDefaults) {
     connection.Execute("CREATE TABLE Contatori (id int IDENTITY (10, 5) NOT NULL PRIMARY KEY, n int NULL DEFAULT 7)");
     Recordset rs;
     open(rs, "Contatori");
-    const Recorder recorder;
+    const StatementRecorder recorder;
     rs.AddNew();
     rs.Update();
-    EXPECT_EQ(recorder.texts, Texts{"INSERT INTO [Contatori] DEFAULT VALUES"});
+    EXPECT_EQ(recorder.texts(), Texts{"INSERT INTO [Contatori] DEFAULT VALUES"});
     EXPECT_EQ(rs["id"].Value(), Value(10));
     EXPECT_EQ(cell("select id, n from Contatori"), "10|7");
 }

@@ -1,13 +1,14 @@
 #include "ado/AdoFixture.h"
 #include "support/Processes.h"
+#include "support/StatementRecorder.h"
 
 namespace ado {
 namespace {
 
+using support::StatementRecorder;
 using test::Contract;
 using test::display;
 using test::errorOf;
-using test::Recorder;
 using Texts = std::vector<std::string>;
 
 constexpr const char* kLockTimeout = "Lock request time out period exceeded.";
@@ -91,13 +92,13 @@ TEST_F(Holding, AHeldRowCanStillBeRead) {
 TEST_F(Holding, SendsTheRowsSelectionAndReadsTheRowFromIt) {
     Recordset mine;
     openHolding(mine, connection, "select id, cap from Comuni order by id");
-    const Recorder recorder;
+    const StatementRecorder recorder;
     mine["cap"] = "1";
     mine["cap"] = "2";
     mine.Update();
     const std::string select =
         std::string("SELECT [id], [cap] FROM [Comuni]") + support::capabilities().holdingHint + " WHERE [id] = 1";
-    EXPECT_EQ(recorder.texts, (Texts{select, "UPDATE [Comuni] SET [cap] = N'2' WHERE [id] = 1"}));
+    EXPECT_EQ(recorder.texts(), (Texts{select, "UPDATE [Comuni] SET [cap] = N'2' WHERE [id] = 1"}));
 }
 
 TEST_F(Holding, ARowThatIsGoneCannotBeHeld) {

@@ -79,9 +79,8 @@ TEST_F(OdbcSilence, AnInstanceWhosePortNobodyTellsIsWaitedForOnce) {
     const support::SilentResolver resolver;
     const auto tellsOutOfReach = [&] {
         Connection connection;
-        const auto error = errorOf([&] {
-            connection.Open("Driver=SQL Server;Server=" + resolver.address() + "\\sqlexpress" + kRest);
-        });
+        const auto error = errorOf(
+            [&] { connection.Open("Driver=SQL Server;Server=" + resolver.address() + "\\sqlexpress" + kRest); });
         return error && error->description() == "Server does not exist or access denied.";
     };
     inOneEvent([&] {

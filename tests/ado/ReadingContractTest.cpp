@@ -1,19 +1,20 @@
 #include "ado/AdoFixture.h"
 #include "ado/Conversions.h"
+#include "support/StatementRecorder.h"
 
 namespace ado {
 namespace {
 
+using support::StatementRecorder;
 using test::Contract;
 using test::display;
 using test::errorOf;
 using test::raises;
-using test::Recorder;
 
 class Reading : public Contract {};
 
 TEST_F(Reading, ATableIsOpenedByItsNameAlone) {
-    const Recorder recorder;
+    const StatementRecorder recorder;
     for (const char* source : {"Comuni", "[Comuni]", "dbo.Comuni"}) {
         Recordset rs;
         rs.Open(source, connection, CursorType::Keyset, LockType::Pessimistic);
@@ -23,8 +24,8 @@ TEST_F(Reading, ATableIsOpenedByItsNameAlone) {
     Recordset rs;
     rs.Open("Comuni", connection, CursorType::Static, LockType::ReadOnly, 2);
     EXPECT_EQ(rs.RecordCount(), 4);
-    EXPECT_EQ(recorder.texts, (std::vector<std::string>{"select * from [Comuni]", "select * from [Comuni]",
-                                                        "select * from [dbo].[Comuni]", "select * from [Comuni]"}));
+    EXPECT_EQ(recorder.texts(), (std::vector<std::string>{"select * from [Comuni]", "select * from [Comuni]",
+                                                          "select * from [dbo].[Comuni]", "select * from [Comuni]"}));
 }
 
 TEST_F(Reading, FieldsAreFoundByNameInAnyCaseAndByPlace) {

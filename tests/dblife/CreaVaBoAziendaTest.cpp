@@ -1,7 +1,7 @@
 #include "dblife/CreaVaBoAzienda.h"
 
 #include "session/ApriDbSede.h"
-#include "session/variabili.h"
+#include "state/variabili.h"
 #include "support/DialogScript.h"
 #include "support/StatementRecorder.h"
 #include "support/TestWorkstation.h"

@@ -2,8 +2,8 @@
 
 #include "dblife/Isql.h"
 #include "dblife/RegistraFormFixture.h"
-#include "kit/LinguaClient.h"
 #include "platform/DataSources.h"
+#include "session/LinguaClient.h"
 
 #include <gmock/gmock.h>
 

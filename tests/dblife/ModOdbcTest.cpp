@@ -82,8 +82,8 @@ TEST_F(ModOdbc, TheResultIsThatOfTheConfiguration) {
 
 TEST_F(ModOdbc, TwiceIsFirstToAddAndThenToConfigureWithTheServersNameReadEachTime) {
     int readings = 0;
-    RegistraDueVolte(
-        "Tlv_Temp", "VaBoDatiTemp", "Dati", [&] { return "nome" + std::to_string(++readings); }, "", "");
+    RegistraDueVolte({.NomeDsn = "Tlv_Temp", .Database = "VaBoDatiTemp", .Descrizione = "Dati"},
+                     [&] { return "nome" + std::to_string(++readings); });
     EXPECT_EQ(registry.calls(),
               (Texts{"register Tlv_Temp, SQL Server: Description=Dati|OemToAnsi=No|SERVER=nome1|Database=VaBoDatiTemp",
                      "configure 1, SQL Server: DSN=Tlv_Temp~Description=Dati~SERVER=nome1~DBQ=VaBoDatiTemp~",
@@ -93,7 +93,7 @@ TEST_F(ModOdbc, TwiceIsFirstToAddAndThenToConfigureWithTheServersNameReadEachTim
 
 TEST_F(ModOdbc, TwiceGoesOnAfterAFailure) {
     registry.refusesRegistration = true;
-    RegistraDueVolte("Tlv_Temp", "VaBoDatiTemp", "Dati", std::string("uno"), "", "");
+    RegistraDueVolte({.NomeDsn = "Tlv_Temp", .Database = "VaBoDatiTemp", .Descrizione = "Dati", .Server = "uno"});
     EXPECT_EQ(registry.calls().size(), 2U) << "one for each request";
 }
 

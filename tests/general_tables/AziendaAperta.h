@@ -2,7 +2,7 @@
 
 #include "ado/Conversions.h"
 #include "session/ApriDbSede.h"
-#include "session/variabili.h"
+#include "state/variabili.h"
 #include "support/DialogScript.h"
 #include "support/StatementRecorder.h"
 #include "support/TestWorkstation.h"

@@ -90,7 +90,7 @@ TEST_F(CaricaOpzioniTest, EachBoxShowsItsNumberNegatedAndReadsItOnce) {
             EXPECT_EQ(leggi(numero.leggi), (Lettura{.casella = mostrato}));
             EXPECT_EQ(recorder.texts(), std::vector<std::string>{numero.istruzione});
             EXPECT_FALSE(RsOpzioni().IsOpen());
-            RsCondivisi.Rilascia(kPostoOpzioni);
+            RilasciaRecordset(kPostoOpzioni);
         }
     }
 }
@@ -105,7 +105,7 @@ TEST_F(CaricaOpzioniTest, ANullNumberGoesIntoNoBox) {
         EXPECT_EQ(leggi(numero.leggi), (Lettura{.errore = chiesto ? kNessunErrore : ado::kInvalidUseOfNull}));
         EXPECT_EQ(RsOpzioni().IsOpen(), !chiesto);
         EXPECT_EQ(righe(numero.riga), prima);
-        RsCondivisi.Rilascia(kPostoOpzioni);
+        RilasciaRecordset(kPostoOpzioni);
     }
 }
 
@@ -114,7 +114,7 @@ TEST_F(CaricaOpzioniTest, ANumberThatNoBoxCanHoldOverflows) {
         SCOPED_TRACE(numero.casella);
         metti(numero, "40000");
         EXPECT_EQ(leggi(numero.leggi), (Lettura{.errore = ado::kOverflow}));
-        RsCondivisi.Rilascia(kPostoOpzioni);
+        RilasciaRecordset(kPostoOpzioni);
     }
 }
 

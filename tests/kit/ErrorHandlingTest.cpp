@@ -3,7 +3,7 @@
 #include "ado/Conversions.h"
 #include "ado/Error.h"
 #include "kit/ApriScrivibile.h"
-#include "session/variabili.h"
+#include "state/variabili.h"
 #include "support/AzzeraVariabili.h"
 #include "support/DialogScript.h"
 #include "support/LogLines.h"

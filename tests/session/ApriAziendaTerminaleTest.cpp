@@ -1,8 +1,8 @@
 // What becomes of the terminal's row while a company is taken up, and what is read from it.
 
-#include "kit/LinguaClient.h"
 #include "session/ApriAzienda.h"
 #include "session/ApriDbSede.h"
+#include "session/LinguaClient.h"
 #include "session/SessionFixture.h"
 #include "support/SomebodyElse.h"
 
@@ -126,6 +126,20 @@ TEST_F(ApriAziendaTerminale, WithoutANumberItGetsNoRowBeforeACompanyIsFound) {
     ASSERT_GT(heard.size(), expected.size() + 1);
     EXPECT_EQ(Texts(heard.begin(), heard.begin() + static_cast<long>(expected.size())), expected);
     EXPECT_TRUE(heard[expected.size()].starts_with("INSERT")) << heard[expected.size()];
+}
+
+// The text of the local server that has no pointer file goes through the work string that named the terminal.
+TEST_F(ApriAziendaTerminale, WithoutALocalPointerFileTheLastUpdateNamesTheLocalServerInsteadOfTheTerminal) {
+    removeFile("C:\\vabo\\Leggi_ServerLocal.txt");
+    double id = idOf(kCompany);
+    const support::StatementRecorder recorder;
+    ApriAzienda(id);
+    EXPECT_EQ(
+        recorder.holding("update link_programmaTerminale"),
+        (Texts{kClearTerminal, setTo(id),
+               "update link_programmaTerminale set ultimo = " + textOf(id) +
+                   " where   nometerminale = 'Driver=SQL Server;Server=POSTO_7\\sqlexpress;ID utente=;Password=;'"}));
+    EXPECT_EQ(terminals(), (Rows{{"POSTO_7", textOf(id)}}));
 }
 
 TEST_F(ApriAziendaTerminale, ACompanyWithoutADatabaseNamesTheServerOfTheMoment) {

@@ -2,8 +2,8 @@
 
 #include "session/ApriAzienda.h"
 
-#include "kit/LinguaClient.h"
 #include "session/ApriDbSede.h"
+#include "session/LinguaClient.h"
 #include "session/SessionFixture.h"
 #include "support/Road.h"
 

@@ -1,8 +1,8 @@
 #include "ado/Connection.h"
 #include "controls/ProgressBar.h"
-#include "kit/LinguaClient.h"
 #include "rights/AbilitazioneUtente.h"
 #include "session/FormFixture.h"
+#include "session/LinguaClient.h"
 #include "support/HeardBoxes.h"
 
 #include <QApplication>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "session/variabili.h"
+#include "state/variabili.h"
 #include "support/CutWire.h"
 #include "support/SilentServer.h"
 #include "support/TestWorkstation.h"

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "session/variabili.h"
+#include "state/variabili.h"
 #include "support/DialogScript.h"
 #include "support/EndOfProcess.h"
 #include "support/StatementRecorder.h"

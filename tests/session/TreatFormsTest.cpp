@@ -1,6 +1,6 @@
 #include "session/TreatForms.h"
 
-#include "session/variabili.h"
+#include "state/variabili.h"
 #include "support/AzzeraVariabili.h"
 #include "support/DialogScript.h"
 #include "support/RecordedForms.h"

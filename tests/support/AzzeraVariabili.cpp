@@ -1,13 +1,12 @@
 #include "support/AzzeraVariabili.h"
 
-#include "session/variabili.h"
+#include "kit/ErrorHandling.h"
+#include "state/variabili.h"
 
 namespace vabo {
 
 void AzzeraVariabili() {
-    for (int posto = 1; posto <= RecordsetCondivisi::kNumero; ++posto)
-        RsCondivisi.Rilascia(posto);
-    DbLocale.reset();
+    ChiudiRecordset();
     for (ado::Connection* connessione : {&DbAzienda, &DbControllo, &DbTemp}) {
         if (connessione->IsOpen())
             connessione->Close();

@@ -3,7 +3,7 @@
 #include "ado/Conversions.h"
 #include "ado/Drivers.h"
 #include "ado/Recordset.h"
-#include "session/variabili.h"
+#include "state/variabili.h"
 #include "support/Environment.h"
 #include "support/Road.h"
 

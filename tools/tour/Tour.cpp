@@ -1,7 +1,5 @@
 #include "tour/Tour.h"
 
-#include "app/Forms.h"
-
 #include <QApplication>
 #include <QKeyEvent>
 #include <QPixmap>
@@ -10,14 +8,8 @@
 
 namespace tour {
 
-Tour::Tour(std::filesystem::path folder, std::string suffix) : folder_(std::move(folder)), suffix_(std::move(suffix)) {
-    app::registerForms(forms_);
-    platform::setFormHost(&forms_);
-}
-
-Tour::~Tour() {
-    platform::setFormHost(nullptr);
-}
+Tour::Tour(controls::FormRegistry& forms, std::filesystem::path folder, std::string suffix)
+    : forms_(forms), folder_(std::move(folder)), suffix_(std::move(suffix)) {}
 
 void Tour::take(const std::string& name, QWidget& window) {
     const std::filesystem::path file = folder_ / (name + suffix_ + ".png");

@@ -7,14 +7,11 @@
 
 namespace tour {
 
-/// The program as it starts, without a screen, and the folder that its pictures go to.
+/// A walk through the forms of the program, and the folder that its pictures go to.
 class Tour {
 public:
     /// `suffix` ends the name of every picture of this walk.
-    Tour(std::filesystem::path folder, std::string suffix);
-    ~Tour();
-    Tour(const Tour&) = delete;
-    Tour& operator=(const Tour&) = delete;
+    Tour(controls::FormRegistry& forms, std::filesystem::path folder, std::string suffix);
 
     /// Leaves the picture of a window. Throws std::runtime_error where it isn't on the screen or can't be written.
     void take(const std::string& name, QWidget& window);
@@ -31,9 +28,9 @@ public:
     static void settle();
 
 private:
+    controls::FormRegistry& forms_;
     std::filesystem::path folder_;
     std::string suffix_;
-    controls::FormRegistry forms_;
 };
 
 /// The tabs of the general tables console, opened from the company console.

@@ -1,17 +1,12 @@
 // vabo-tour <drive-c> <output-folder>: walks all forms of the program on a provisioned drive C, without a screen, and
 // leaves a picture of each, three times: as it is, at 200 per cent, and in a dark palette.
 
-#include "controls/QtDialogs.h"
-#include "controls/Style.h"
-#include "platform/Workstation.h"
+#include "app/Program.h"
 #include "tour/Tour.h"
 
-#include <QApplication>
-#include <QLibraryInfo>
 #include <QProcess>
 #include <QProcessEnvironment>
 #include <QTemporaryFile>
-#include <QTranslator>
 
 #include <array>
 #include <cstdio>
@@ -31,15 +26,9 @@ constexpr std::array kWalks = {Walk{"light", "", "1", controls::style::Scheme::L
                                Walk{"dark", "-scuro", "1", controls::style::Scheme::Dark}};
 
 int walkOnce(int argc, char** argv, const Walk& walk) {
-    QApplication application(argc, argv);
-    QTranslator italian;
-    if (italian.load(QStringLiteral("qtbase_it"), QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
-        QApplication::installTranslator(&italian);
-    controls::style::install(application, walk.scheme);
-    platform::takeRealWorkstation();
-    platform::setDialogs(std::make_unique<controls::QtDialogs>());
+    app::Program program(argc, argv, walk.scheme);
     try {
-        tour::Tour tour(argv[2], walk.suffix);
+        tour::Tour tour(program.forms(), argv[2], walk.suffix);
         tour::walk(tour);
     } catch (const std::exception& error) {
         std::fprintf(stderr, "%s\n", error.what());

@@ -3,6 +3,7 @@
 #include "ado/ConnectionString.h"
 #include "ado/Literals.h"
 #include "ado/Names.h"
+#include "ado/Text.h"
 #include "ado/drivers/odbc/OdbcDriverName.h"
 #include "ado/drivers/odbc/OdbcResult.h"
 #include "ado/drivers/odbc/OdbcSources.h"
@@ -102,8 +103,7 @@ std::string driverText(const ConnectionString& text, const std::string& resolved
 
 int patience(std::string_view text, int loginSeconds) {
     constexpr std::string_view kReading = "SELECT";
-    const std::size_t begin = std::min(text.find_first_not_of(" \t\r\n"), text.size());
-    const bool reads = sameName(text.substr(begin, kReading.size()), kReading);
+    const bool reads = sameName(trimmed(text).substr(0, kReading.size()), kReading);
     return reads ? std::max(loginSeconds / 2, 1) : loginSeconds;
 }
 

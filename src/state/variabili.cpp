@@ -1,6 +1,6 @@
-#include "session/variabili.h"
+#include "state/variabili.h"
 
-#include "kit/Regole.h"
+#include <utility>
 
 namespace vabo {
 
@@ -27,11 +27,8 @@ ado::Recordset& RecordsetCondivisi::operator()(int posto) {
     return *rs;
 }
 
-void RecordsetCondivisi::Rilascia(int posto) {
-    std::unique_ptr<ado::Recordset>& rs = elenco_.at(static_cast<std::size_t>(posto - 1));
-    if (rs && rs->IsOpen())
-        salta([&] { rs->Close(); });
-    rs.reset();
+std::unique_ptr<ado::Recordset> RecordsetCondivisi::Ritira(int posto) {
+    return std::move(elenco_.at(static_cast<std::size_t>(posto - 1)));
 }
 
 } // namespace vabo

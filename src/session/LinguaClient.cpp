@@ -1,12 +1,13 @@
-#include "kit/LinguaClient.h"
+#include "session/LinguaClient.h"
 
 #include "ado/Conversions.h"
 #include "kit/ApriScrivibile.h"
+#include "kit/ErrorHandling.h"
 #include "kit/IsEmptyValue.h"
 #include "kit/Regole.h"
 #include "kit/Testi.h"
 #include "session/ApriDbSede.h"
-#include "session/variabili.h"
+#include "state/variabili.h"
 
 #include <algorithm>
 #include <array>
@@ -57,7 +58,7 @@ std::string LeggiLinguaClient(const std::string& lingua) {
         CambiaRiga(rs, lingua, risultato);
     else if (vera([&] { return !IsEmptyValue(rs["Lingua"]); }))
         PrendiColonna(rs, risultato);
-    RsCondivisi.Rilascia(2);
+    RilasciaRecordset(2);
     LinguaCorrente = risultato;
     return risultato;
 }

@@ -1,6 +1,7 @@
 #pragma once
 
-// All global state of the console, for the life of the process. Zero or empty at its start.
+// All global state of the console, for the life of the process. Zero or empty at its start. It knows the data layer
+// alone, so that the kit and all modules can share it.
 
 #include "ado/Connection.h"
 #include "ado/Recordset.h"
@@ -42,8 +43,8 @@ public:
     static constexpr int kNumero = 23;
     /// Made on first use. Places count from 1.
     ado::Recordset& operator()(int posto);
-    /// Closes where it can and drops it.
-    void Rilascia(int posto);
+    /// Takes it out, or nothing where none was made: the next use makes a new one.
+    std::unique_ptr<ado::Recordset> Ritira(int posto);
 
 private:
     std::array<std::unique_ptr<ado::Recordset>, kNumero> elenco_;

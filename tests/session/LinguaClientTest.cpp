@@ -1,7 +1,7 @@
-#include "kit/LinguaClient.h"
+#include "session/LinguaClient.h"
 
 #include "session/ApriDbSede.h"
-#include "session/variabili.h"
+#include "state/variabili.h"
 #include "support/DialogScript.h"
 #include "support/StatementRecorder.h"
 #include "support/TestWorkstation.h"
@@ -100,8 +100,9 @@ TEST_F(LinguaClient, EachCallReachesTheTemporaryDatabaseAnew) {
     DbTemp.Open(local + "DATABase=vabodatiazienda");
     EXPECT_EQ(LeggiLinguaClient(""), "EN");
     EXPECT_EQ(DbTemp.ConnectionString(), local + "DATABase=VaBoDatiTemp");
-    EXPECT_EQ(workstation.value(support::kControlDatabase, "select count(*) from sysobjects where name = 'LinguaClient'"),
-              "0");
+    EXPECT_EQ(
+        workstation.value(support::kControlDatabase, "select count(*) from sysobjects where name = 'LinguaClient'"),
+        "0");
 }
 
 TEST_F(LinguaClient, LeavesTheTemporaryDatabaseOpenAndNoRecordset) {

@@ -1,5 +1,6 @@
-#include "session/variabili.h"
+#include "state/variabili.h"
 
+#include "kit/ErrorHandling.h"
 #include "session/SessionFixture.h"
 #include "support/AzzeraVariabili.h"
 
@@ -36,7 +37,7 @@ TEST_F(SessionTest, AzzeraVariabiliBringsTheStartOfTheProcessBack) {
 TEST_F(SessionTest, ADatabaseGoesOnAfterItsSharedRecordsetIsReleased) {
     DbAzienda.Open(server + "DATABase=" + support::kCompany);
     RsCondivisi(1).Open("select * from Sede", DbAzienda);
-    RsCondivisi.Rilascia(1);
+    RilasciaRecordset(1);
     RsCondivisi(1).Open("select * from Sede", DbAzienda);
     EXPECT_FALSE(RsCondivisi(1).EOF());
 }

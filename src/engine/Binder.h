@@ -84,7 +84,7 @@ private:
     // BinderGrouping.cpp
     void checkGrouping(const bound::Core& core, const std::vector<bound::Order>& orderBy) const;
     bool refersTo(const Scope& scope, const bound::Expression& expression) const;
-    Scope& ownerOf(const bound::Call& aggregate) const;
+    Scope& ownerOf(const bound::Call& aggregate, Scope& here) const;
 
     // BinderExpressions.cpp
     bound::ExpressionPtr expression(const Expression& expression);

@@ -143,7 +143,7 @@ bound::ExpressionPtr Binder::aggregate(const Call& call, const std::string& name
         made.arguments.push_back(collated(expression(*call.arguments.front())));
         insideAggregate_ = false;
     }
-    Scope& owner = ownerOf(made);
+    Scope& owner = ownerOf(made, *scope_);
     if (!owner.aggregates) {
         throw errors::aggregateMisplaced();
     }

@@ -155,9 +155,9 @@ bool Binder::refersTo(const Scope& scope, const bound::Expression& expression) c
 }
 
 /// An aggregate over columns of an outer SELECT is that SELECT's own; one without columns belongs where it stands.
-Binder::Scope& Binder::ownerOf(const bound::Call& aggregate) const {
+Binder::Scope& Binder::ownerOf(const bound::Call& aggregate, Scope& here) const {
     Scope* owner = nullptr;
-    for (Scope* scope = scope_; scope != nullptr && !aggregate.star; scope = scope->parent) {
+    for (Scope* scope = &here; scope != nullptr && !aggregate.star; scope = scope->parent) {
         if (!refersTo(*scope, *aggregate.arguments.front())) {
             continue;
         }
@@ -166,7 +166,7 @@ Binder::Scope& Binder::ownerOf(const bound::Call& aggregate) const {
         }
         owner = scope;
     }
-    return owner == nullptr ? *scope_ : *owner;
+    return owner == nullptr ? here : *owner;
 }
 
 } // namespace engine

@@ -1,6 +1,7 @@
 #!/usr/bin/env bash
 # Changes one operator, literal, statement or condition of src/<folder> at a time, builds and runs the tests that cover
 # it, and lists the changes that no test noticed:
+#   tools/mutate.sh                       all changes of the subsystems
 #   tools/mutate.sh rights kit            all changes of two folders
 #   tools/mutate.sh session --sample 60   sixty of them, drawn by --seed
 # It works on a copy of the tree in build/mutate; the sources stay as they are. Not part of CI: it takes hours.

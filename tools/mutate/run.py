@@ -18,12 +18,17 @@ TOP = Path(__file__).resolve().parents[2]
 COPY = TOP / "build" / "mutate" / "tree"
 BUILD = COPY / "build" / "ci"
 CORES = os.cpu_count() or 1
+LAYERS = {"app", "controls", "platform", "ado", "engine"}
 
 
 def copy_tree():
     """Brings the copy to the state of the tracked files; what is equal keeps its time, so that it isn't built again."""
-    names = subprocess.run(["git", "ls-files"], cwd=TOP, check=True, capture_output=True, text=True).stdout.split("\n")
-    for name in filter(None, names):
+    listed = subprocess.run(["git", "ls-files"], cwd=TOP, check=True, capture_output=True, text=True).stdout
+    names = {name for name in listed.split("\n") if name}
+    for old in [path for path in COPY.rglob("*") if path.is_file() and COPY / "build" not in path.parents]:
+        if str(old.relative_to(COPY)) not in names:
+            old.unlink()
+    for name in names:
         here, there = TOP / name, COPY / name
         if not here.exists():
             continue
@@ -151,16 +156,18 @@ def verdict(mutant, name, tests, known_lines):
 
 def main():
     parser = argparse.ArgumentParser(description=__doc__)
-    parser.add_argument("folders", nargs="+", help="folders of src/")
+    parser.add_argument("folders", nargs="*", help="folders of src/; all but the layers if not given")
     parser.add_argument("--sample", type=int, default=0, help="so many changes of each folder; all if not given")
     parser.add_argument("--seed", type=int, default=1)
     parser.add_argument("--wire", action="store_true", help="run the tests over the wire, too: slower, rarely of use")
     options = parser.parse_args()
+    folders = options.folders or [path.name for path in sorted((TOP / "src").iterdir())
+                                  if path.is_dir() and path.name not in LAYERS]
 
     copy_tree()
     sources = {
         folder: [str(path.relative_to(TOP)) for path in sorted((TOP / "src" / folder).rglob("*.cpp"))]
-        for folder in options.folders
+        for folder in folders
     }
     instrument([name for names in sources.values() for name in names])
     quick = " -fuse-ld=lld" if shutil.which("ld.lld") else ""

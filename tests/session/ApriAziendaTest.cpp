@@ -8,6 +8,8 @@
 #include "support/Road.h"
 
 #include <filesystem>
+#include <set>
+#include <string>
 
 namespace {
 
@@ -191,10 +193,22 @@ INSTANTIATE_TEST_SUITE_P(ApriAziendaTest, LocalFile,
                                          std::tuple("''", "en", "tlv_locale_sql.mdb"),
                                          std::tuple("''", "FR", "tlv_locale_sql.mdb")));
 
-TEST_F(ApriAziendaTest, TheFolderOfTheLocalFilesIsMade) {
+TEST_F(ApriAziendaTest, TheFolderOfTheLocalFilesIsMadeAndNoOther) {
+    const auto folders = [&] {
+        std::set<std::string> found;
+        const auto drive = workstation.driveC().real("C:\\");
+        for (const auto& entry : std::filesystem::recursive_directory_iterator(drive)) {
+            if (entry.is_directory())
+                found.insert(entry.path().string());
+        }
+        return found;
+    };
+    std::filesystem::create_directories(workstation.driveC().real("C:\\Vabo\\Files"));
+    const std::set<std::string> before = folders();
     std::filesystem::remove_all(workstation.driveC().real("C:\\Vabo\\Files"));
     open(kCompany);
     EXPECT_TRUE(workstation.driveC().isFolder("C:\\vabo\\files"));
+    EXPECT_EQ(folders(), before);
 }
 
 TEST_F(ApriAziendaTest, TheLocalTextsFallbackFileIsWrittenOnTheWay) {

@@ -1,5 +1,6 @@
 #include "peer/Client.h"
 
+#include "engine/errors/RunErrors.h"
 #include "peer/Procedures.h"
 
 namespace peer {

@@ -1,6 +1,7 @@
 #include "engine/bind/Binder.h"
 #include "engine/bind/BoundMakers.h"
 #include "engine/errors/BindErrors.h"
+#include "engine/errors/TextErrors.h"
 #include "engine/functions/Functions.h"
 
 #include <algorithm>
@@ -180,9 +181,7 @@ bound::ExpressionPtr Binder::argument(const Call& call, std::size_t place, char 
     if (kind == 'p') {
         const auto* part = std::get_if<ColumnReference>(&written.node);
         if (part == nullptr) {
-            throw Error(1023,
-                        "Invalid parameter " + std::to_string(place + 1) + " specified for " + call.function + ".",
-                        Error::Reach::Batch, written.position);
+            throw errors::invalidParameter(static_cast<int>(place) + 1, call.function, written.position);
         }
         return bound::constant(quotedText(part->name.last()), DataType{Kind::VarChar, kSystemNameLength, 0, 0});
     }
@@ -244,7 +243,7 @@ bound::ExpressionPtr Binder::node(const ServerVariable& variable) {
     const std::string spelt = variable.name.starts_with("@@") ? variable.name : "@@" + variable.name;
     const FunctionEntry* entry = findServerVariable(spelt);
     if (entry == nullptr) {
-        throw Error(137, "Must declare the scalar variable \"" + spelt + "\".", Error::Reach::Batch);
+        throw errors::undeclaredVariable(spelt, -1);
     }
     const DataType type = resultType(entry->result, {});
     return bound::call("tsql_fact", type, bound::constant(quotedText(std::string(entry->name)), type));

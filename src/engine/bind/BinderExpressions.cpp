@@ -1,6 +1,7 @@
 #include "engine/bind/Binder.h"
 #include "engine/bind/BoundMakers.h"
 #include "engine/errors/BindErrors.h"
+#include "engine/errors/TextErrors.h"
 
 namespace engine {
 

@@ -1,5 +1,5 @@
-#include "engine/errors/BindErrors.h"
 #include "engine/errors/Error.h"
+#include "engine/errors/FunctionErrors.h"
 #include "engine/functions/FunctionRoutines.h"
 #include "engine/store/Host.h"
 #include "engine/values/CalendarDate.h"
@@ -71,17 +71,13 @@ int daysInMonth(int year, int month) {
     return static_cast<int>(first.days() - begin.days());
 }
 
-Error additionOverflow() {
-    return {517, "Adding a value to a 'datetime' column caused an overflow.", Error::Reach::Batch};
-}
-
 Scalar addMonths(CalendarDate date, std::int64_t months) {
     constexpr std::int64_t kFirstYear = 1753;
     constexpr std::int64_t kLastYear = 9999;
     const std::int64_t total = std::int64_t{date.year} * kMonthsOfYear + date.month - 1 + months;
     const std::int64_t year = floorDivide(total, kMonthsOfYear);
     if (year < kFirstYear || year > kLastYear) {
-        throw additionOverflow();
+        throw errors::dateAdditionOverflow();
     }
     date.year = static_cast<int>(year);
     date.month = static_cast<int>(total - year * kMonthsOfYear) + 1;
@@ -95,7 +91,7 @@ Scalar addTicks(const CalendarDate& date, std::int64_t days, std::int64_t ticks)
     try {
         return CalendarDate::ofTicks(date.days() + days + carried, sum - carried * ticksOfDay).text();
     } catch (const Error&) {
-        throw additionOverflow();
+        throw errors::dateAdditionOverflow();
     }
 }
 
@@ -162,8 +158,7 @@ Scalar dateDiff(FunctionContext& /*context*/, Arguments arguments) {
                                     bordersBefore(CalendarDate::stored(textAt(arguments, 1)), part);
     if (difference > std::numeric_limits<std::int32_t>::max() ||
         difference < std::numeric_limits<std::int32_t>::min()) {
-        throw Error(535, "The datediff function resulted in an overflow. The number of dateparts separating two "
-                         "date/time instances is too large. Try to use datediff with a less precise datepart.");
+        throw errors::dateDifferenceOverflow();
     }
     return difference;
 }

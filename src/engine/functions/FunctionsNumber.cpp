@@ -1,5 +1,6 @@
-#include "engine/errors/BindErrors.h"
 #include "engine/errors/Error.h"
+#include "engine/errors/FunctionErrors.h"
+#include "engine/errors/ValueErrors.h"
 #include "engine/functions/FunctionRoutines.h"
 #include "engine/values/Conversions.h"
 
@@ -16,7 +17,7 @@ constexpr DataType kFloat{DataType::Kind::Float, 0, 0, 0};
 Scalar absolute(FunctionContext& /*context*/, Arguments arguments) {
     if (const auto* integer = std::get_if<std::int64_t>(&arguments[0])) {
         if (*integer == std::numeric_limits<std::int64_t>::min()) {
-            throw errors::overflow("bigint");
+            throw errors::overflow("expression", "bigint");
         }
         return *integer < 0 ? -*integer : *integer;
     }
@@ -46,7 +47,7 @@ std::int64_t roundedInteger(std::int64_t number, std::int64_t zeros) {
     const bool down = -rest >= unit + rest;
     if ((up && __builtin_add_overflow(rounded, unit, &rounded)) ||
         (down && __builtin_sub_overflow(rounded, unit, &rounded))) {
-        throw errors::overflow("bigint");
+        throw errors::overflow("expression", "bigint");
     }
     return rounded;
 }
@@ -104,7 +105,7 @@ Scalar divide(FunctionContext& /*context*/, Arguments arguments) {
         return finiteNumber(numberAt(arguments, 0) / numberAt(arguments, 1), kFloat);
     }
     if (*right == -1 && *left == std::numeric_limits<std::int64_t>::min()) {
-        throw errors::overflow("bigint");
+        throw errors::overflow("expression", "bigint");
     }
     return *left / *right;
 }
@@ -142,7 +143,7 @@ Scalar floatNumber(FunctionContext& /*context*/, Arguments arguments) {
 /// A sum or product of bigints: the storage goes over to floating numbers where it leaves their range.
 Scalar bigInteger(FunctionContext& /*context*/, Arguments arguments) {
     if (!std::holds_alternative<std::int64_t>(arguments[0])) {
-        throw errors::overflow("bigint");
+        throw errors::overflow("expression", "bigint");
     }
     return arguments[0];
 }

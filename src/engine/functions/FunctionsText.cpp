@@ -1,4 +1,4 @@
-#include "engine/errors/Error.h"
+#include "engine/errors/FunctionErrors.h"
 #include "engine/functions/FunctionRoutines.h"
 #include "engine/values/Collation.h"
 
@@ -46,8 +46,7 @@ std::string slice(const std::string& text, std::int64_t first, std::int64_t last
 
 void refuseNegative(std::int64_t length, const char* function) {
     if (length < 0) {
-        throw Error(537, std::string("Invalid length parameter passed to the ") + function + " function.",
-                    Error::Reach::Batch);
+        throw errors::invalidLengthParameter(function);
     }
 }
 

@@ -1,6 +1,5 @@
 #include "engine/run/BatchRun.h"
 
-#include "engine/errors/BindErrors.h"
 #include "engine/errors/Error.h"
 #include "engine/run/Definitions.h"
 #include "engine/run/InternalErrors.h"

@@ -1,6 +1,7 @@
 #include "engine/run/Procedures.h"
 
-#include "engine/errors/BindErrors.h"
+#include "engine/errors/RunErrors.h"
+#include "engine/errors/TextErrors.h"
 #include "engine/text/DatabaseOptions.h"
 #include "engine/text/ServerOptions.h"
 #include "engine/values/Collation.h"
@@ -30,12 +31,12 @@ public:
                 const auto named = std::find_if(parameters.begin(), parameters.end(),
                                                 [&](const std::string& one) { return sameText(one, argument.name); });
                 if (named == parameters.end()) {
-                    throw Error(8145, argument.name + " is not a parameter for procedure " + procedure_ + ".");
+                    throw errors::unknownParameter(argument.name, procedure_);
                 }
                 place = static_cast<std::size_t>(named - parameters.begin());
             }
             if (place >= parameters.size()) {
-                throw Error(8144, "Procedure or function " + procedure_ + " has too many arguments specified.");
+                throw errors::tooManyArguments(procedure_);
             }
             values_[place++] = constant(*argument.value);
         }
@@ -53,7 +54,7 @@ public:
         try {
             return std::get<std::int64_t>(convert(values_[place], {typeOf(place), kInt, {}}));
         } catch (const Error&) {
-            throw Error(8114, "Error converting data type nvarchar to int.");
+            throw errors::parameterConversion("nvarchar", "int");
         }
     }
 
@@ -149,7 +150,7 @@ bool isOn(const std::string& value) {
             return false;
         }
     }
-    throw Error(15241, "Usage: sp_dboption [dbname [,optname [,'true' | 'false']]]");
+    throw errors::databaseOptionUsage();
 }
 
 Outcome databaseOption(ServerSession& session, const Execute& call, Messages& /*messages*/) {
@@ -219,7 +220,7 @@ Outcome tables(ServerSession& session, const Execute& call, Messages& /*messages
 Outcome columns(ServerSession& session, const Execute& call, Messages& /*messages*/) {
     const Values values(call, {"@table_name", "@table_owner", "@table_qualifier", "@column_name"});
     if (!values.given(0)) {
-        throw Error(201, "Procedure or function 'sp_columns' expects parameter '@table_name', which was not supplied.");
+        throw errors::parameterMissing("sp_columns", "@table_name");
     }
     MemoryRows rows;
     rows.columns = {column("TABLE_QUALIFIER", kName), column("TABLE_OWNER", kName), column("TABLE_NAME", kName),

@@ -1,7 +1,6 @@
 #include "engine/run/ServerSession.h"
 
-#include "engine/errors/BindErrors.h"
-#include "engine/errors/Error.h"
+#include "engine/errors/RunErrors.h"
 #include "engine/run/BatchRun.h"
 #include "engine/text/Lexer.h"
 #include "engine/text/Parser.h"
@@ -146,7 +145,7 @@ void ServerSession::prepareFor(Database& database, bool writes) {
 
 void ServerSession::commitTransaction() {
     if (transactions_ == 0) {
-        throw errors::noTransaction("COMMIT");
+        throw errors::nothingToCommit();
     }
     if (transactions_ > 1) {
         --transactions_;
@@ -169,7 +168,7 @@ void ServerSession::commitTransaction() {
 
 void ServerSession::rollbackTransaction() {
     if (transactions_ == 0) {
-        throw errors::noTransaction("ROLLBACK");
+        throw errors::nothingToRollBack();
     }
     transactions_ = 0;
     for (const auto& [key, database] : databases_) {

@@ -1,6 +1,6 @@
 #include "engine/text/DatabaseOptions.h"
 
-#include "engine/errors/Error.h"
+#include "engine/errors/TextErrors.h"
 #include "engine/text/OptionNames.h"
 
 #include <array>
@@ -113,10 +113,10 @@ std::span<const DatabaseOption> databaseOptions() {
 const DatabaseOption& databaseOption(std::string_view name) {
     const auto match = matchOption(databaseOptions(), name, [](const DatabaseOption&) { return true; });
     if (match.count == 0) {
-        throw Error(15011, "Database option '" + std::string(name) + "' does not exist.");
+        throw errors::databaseOptionMissing(name);
     }
     if (match.option == nullptr) {
-        throw Error(15242, "Database option '" + std::string(name) + "' is not unique.");
+        throw errors::databaseOptionAmbiguous(name);
     }
     return *match.option;
 }

@@ -1,6 +1,6 @@
 #include "engine/text/Lexer.h"
 
-#include "engine/errors/Error.h"
+#include "engine/errors/TextErrors.h"
 
 #include <algorithm>
 #include <array>

@@ -1,5 +1,6 @@
 #include "engine/text/Parser.h"
 
+#include "engine/errors/TextErrors.h"
 #include "engine/text/ParserGrammar.h"
 
 namespace engine {

@@ -1,3 +1,4 @@
+#include "engine/errors/TextErrors.h"
 #include "engine/text/ParserGrammar.h"
 #include "engine/text/Shape.h"
 

@@ -1,5 +1,6 @@
 #include "engine/text/ParserTokens.h"
 
+#include "engine/errors/TextErrors.h"
 #include "engine/text/Parser.h"
 
 #include <algorithm>

@@ -1,6 +1,5 @@
 #pragma once
 
-#include "engine/errors/Error.h"
 #include "engine/text/Lexer.h"
 
 #include <string>

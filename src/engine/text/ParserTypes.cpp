@@ -1,3 +1,4 @@
+#include "engine/errors/TextErrors.h"
 #include "engine/text/ParserGrammar.h"
 
 #include <array>
@@ -120,9 +121,9 @@ int Grammar::length(const TypeUse& use, int largest) {
     const Token& token = now();
     const int length = size(std::numeric_limits<int>::max());
     if (length > kLargestSize)
-        throw errors::sizeBeyondAnyType(use.kind, use.name, valueOf(token), token.position);
+        throw errors::sizeBeyondAnyType(valueOf(token), use.kind, use.name, token.position);
     if (length > largest)
-        throw errors::sizeExceeded(use.kind, use.name, valueOf(token), largest, token.position);
+        throw errors::sizeExceeded(valueOf(token), use.kind, use.name, largest, token.position);
     return length;
 }
 

@@ -1,6 +1,6 @@
 #include "engine/text/ServerOptions.h"
 
-#include "engine/errors/Error.h"
+#include "engine/errors/TextErrors.h"
 #include "engine/text/OptionNames.h"
 
 #include <array>
@@ -94,10 +94,10 @@ const ServerOption& serverOption(std::string_view name, bool advancedShown) {
     const auto match = matchOption(serverOptions(), name,
                                    [&](const ServerOption& option) { return advancedShown || !option.advanced; });
     if (match.count == 0) {
-        throw errors::optionMissing(std::string(name));
+        throw errors::optionMissing(name);
     }
     if (match.option == nullptr) {
-        throw Error(15124, "The configuration option '" + std::string(name) + "' is not unique.");
+        throw errors::optionAmbiguous(name);
     }
     return *match.option;
 }
@@ -105,8 +105,7 @@ const ServerOption& serverOption(std::string_view name, bool advancedShown) {
 void checkServerOptionValue(const ServerOption& option, long long value) {
     const bool taken = (value >= option.minimum && value <= option.maximum) || value == option.standard;
     if (!taken) {
-        throw Error(15129, "'" + std::to_string(value) + "' is not a valid value for configuration option '" +
-                               option.name + "'.");
+        throw errors::optionValue(value, option.name);
     }
 }
 

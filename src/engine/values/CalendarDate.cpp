@@ -1,6 +1,6 @@
 #include "engine/values/CalendarDate.h"
 
-#include "engine/errors/Error.h"
+#include "engine/errors/ValueErrors.h"
 
 #include <array>
 #include <charconv>

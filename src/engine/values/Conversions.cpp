@@ -1,6 +1,6 @@
 #include "engine/values/Conversions.h"
 
-#include "engine/errors/ConversionErrors.h"
+#include "engine/errors/ValueErrors.h"
 #include "engine/values/Collation.h"
 #include "engine/values/DecimalDigits.h"
 
@@ -135,7 +135,7 @@ bool toBit(std::string_view text) {
 double toDecimal(std::string_view text, const DataType& target) {
     std::optional<DecimalDigits> digits = DecimalDigits::parse(trimmed(text));
     if (!digits) {
-        throw errors::numericConversion();
+        throw errors::conversionError("varchar", "numeric");
     }
     digits->roundTo(target.scale);
     if (digits->wholeDigits() > target.precision - target.scale) {

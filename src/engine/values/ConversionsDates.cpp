@@ -1,4 +1,4 @@
-#include "engine/errors/ConversionErrors.h"
+#include "engine/errors/ValueErrors.h"
 #include "engine/values/CalendarDate.h"
 #include "engine/values/Conversions.h"
 

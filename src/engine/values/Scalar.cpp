@@ -1,6 +1,6 @@
 #include "engine/values/Scalar.h"
 
-#include "engine/errors/Error.h"
+#include "engine/errors/ValueErrors.h"
 #include "engine/values/Collation.h"
 #include "engine/values/Conversions.h"
 
@@ -105,7 +105,7 @@ std::string fit(std::string text, const ConversionRequest& request) {
         return text;
     }
     if (request.from.isNumber() && characters(text) > static_cast<std::size_t>(length)) {
-        throw errors::overflow(typeName(request.to));
+        throw errors::overflow("expression", typeName(request.to));
     }
     if (request.purpose == Purpose::Assignment) {
         text = std::string(fitText(text, length));

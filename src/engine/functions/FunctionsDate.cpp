@@ -1,6 +1,6 @@
 #include "engine/errors/Error.h"
 #include "engine/errors/FunctionErrors.h"
-#include "engine/functions/FunctionRoutines.h"
+#include "engine/functions/FunctionRows.h"
 #include "engine/store/Host.h"
 #include "engine/values/CalendarDate.h"
 #include "engine/values/Conversions.h"
@@ -227,16 +227,21 @@ Scalar isDate(FunctionContext& context, Arguments arguments) {
     }
 }
 
-constexpr RoutineEntry kRoutines[] = {
-    {"tsql_dateadd", 3, dateAdd}, {"tsql_datediff", 3, dateDiff}, {"tsql_datepart", 2, datePart},
-    {"tsql_day", 1, day},         {"tsql_getdate", 0, getDate},   {"tsql_isdate", 1, isDate, false},
-    {"tsql_month", 1, month},     {"tsql_year", 1, year},
+constexpr FunctionRow kFunctions[] = {
+    {"DATEADD", {kDatePart, kInt, kDate}, Result::DateTime, dateAdd},
+    {"DATEDIFF", {kDatePart, kDate, kDate}, Result::Int, dateDiff},
+    {"DATEPART", {kDatePart, kDate}, Result::Int, datePart},
+    {"DAY", {kDate}, Result::Int, day},
+    {"GETDATE", {}, Result::DateTime, getDate},
+    {"ISDATE", {kAny}, Result::Int, isDate, kNullsTaken},
+    {"MONTH", {kDate}, Result::Int, month},
+    {"YEAR", {kDate}, Result::Int, year},
 };
 
 } // namespace
 
-std::span<const RoutineEntry> dateRoutines() {
-    return kRoutines;
+std::span<const FunctionRow> dateFunctions() {
+    return kFunctions;
 }
 
 std::string currentTime() {

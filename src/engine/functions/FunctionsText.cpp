@@ -1,5 +1,5 @@
 #include "engine/errors/FunctionErrors.h"
-#include "engine/functions/FunctionRoutines.h"
+#include "engine/functions/FunctionRows.h"
 #include "engine/values/Collation.h"
 
 #include <algorithm>
@@ -206,31 +206,28 @@ Scalar dataLength(FunctionContext& /*context*/, Arguments arguments) {
     }
 }
 
-constexpr RoutineEntry kRoutines[] = {
-    {"tsql_charindex", 2, charIndex},
-    {"tsql_charindex", 3, charIndex},
-    {"tsql_datalength", 2, dataLength},
-    {"tsql_left", 2, leftPart},
-    {"tsql_len", 1, len},
-    {"tsql_lower", 1, lowerText},
-    {"tsql_ltrim", 1, leftTrim},
-    {"tsql_replace", 3, replace},
-    {"tsql_replicate", 2, replicate},
-    {"tsql_reverse", 1, reverse},
-    {"tsql_right", 2, rightPart},
-    {"tsql_rtrim", 1, rightTrim},
-    {"tsql_space", 1, space},
-    {"tsql_str", 1, str},
-    {"tsql_str", 2, str},
-    {"tsql_str", 3, str},
-    {"tsql_substring", 3, substring},
-    {"tsql_upper", 1, upperText},
+constexpr FunctionRow kFunctions[] = {
+    {"CHARINDEX", {kText, kText, optional(kInt)}, Result::Int, charIndex},
+    {"DATALENGTH", {kTyped}, Result::Int, dataLength},
+    {"LEFT", {kText, kInt}, Result::AsFirst, leftPart},
+    {"LEN", {kText}, Result::Int, len},
+    {"LOWER", {kText}, Result::AsFirst, lowerText},
+    {"LTRIM", {kText}, Result::AsFirst, leftTrim},
+    {"REPLACE", {kText, kText, kText}, Result::LongText, replace},
+    {"REPLICATE", {kText, kInt}, Result::LongText, replicate},
+    {"REVERSE", {kText}, Result::AsFirst, reverse},
+    {"RIGHT", {kText, kInt}, Result::AsFirst, rightPart},
+    {"RTRIM", {kText}, Result::AsFirst, rightTrim},
+    {"SPACE", {kInt}, Result::LongText, space},
+    {"STR", {kFloat, optional(kInt), optional(kInt)}, Result::LongText, str},
+    {"SUBSTRING", {kText, kInt, kInt}, Result::AsFirst, substring},
+    {"UPPER", {kText}, Result::AsFirst, upperText},
 };
 
 } // namespace
 
-std::span<const RoutineEntry> textRoutines() {
-    return kRoutines;
+std::span<const FunctionRow> textFunctions() {
+    return kFunctions;
 }
 
 } // namespace engine

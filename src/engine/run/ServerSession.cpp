@@ -68,7 +68,7 @@ std::shared_ptr<Database> ServerSession::open(std::string_view name) {
     } catch (const sqlite::Failure&) {
         return nullptr; // registered, but its file can't be opened
     }
-    database->functions().fact = [this](std::string_view what, const Scalar& argument) { return fact(what, argument); };
+    database->functions().fact = [this](Fact fact, const Scalar& argument) { return this->fact(fact, argument); };
     databases_.emplace(key, database);
     return database;
 }

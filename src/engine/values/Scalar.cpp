@@ -24,13 +24,6 @@ bool isReal(const DataType& type) {
     return type.kind == Kind::Decimal || type.kind == Kind::Real || type.kind == Kind::Float;
 }
 
-double numberOf(const Scalar& value) {
-    if (const auto* integer = std::get_if<std::int64_t>(&value)) {
-        return static_cast<double>(*integer);
-    }
-    return std::get<double>(value);
-}
-
 Scalar toInteger(const Scalar& value, const ConversionRequest& request) {
     if (const auto* text = std::get_if<std::string>(&value)) {
         if (request.from.kind == Kind::DateTime) {

@@ -20,6 +20,12 @@ inline bool isNull(const Scalar& value) {
     return std::holds_alternative<std::monostate>(value);
 }
 
+/// Of an integer or a double.
+inline double numberOf(const Scalar& value) {
+    const auto* integer = std::get_if<std::int64_t>(&value);
+    return integer != nullptr ? static_cast<double>(*integer) : std::get<double>(value);
+}
+
 /// What a conversion is for: CAST cuts a text that is too long, an assignment refuses it with 8152.
 enum class Purpose { Cast, Assignment };
 

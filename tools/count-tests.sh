@@ -1,5 +1,5 @@
 #!/usr/bin/env bash
-# How many tests the last run of ctest ran on each road, from the results of a build folder:
+# How many tests the last run of ctest ran under each label, from the results of a build folder:
 #   tools/count-tests.sh build/ci
 set -euo pipefail
 results=$1/test-results

@@ -13,7 +13,7 @@ namespace ado {
 namespace {
 
 constexpr int kFirstYear = 1753, kLastYear = 9999;
-constexpr int kLargestPrecision = 18; // of what 64 bits keep whole
+constexpr int kLargestPrecision = 18; // the digits that 64 bits always hold
 
 double finite(const Value& value) {
     const double number = toDouble(value);
@@ -36,7 +36,7 @@ std::int64_t power(int exponent) {
     return result;
 }
 
-/// The same number with another count of decimals, half away from zero.
+/// The same number with another count of decimals, rounded half away from zero.
 std::int64_t rescaled(std::int64_t unscaled, int from, int to) {
     std::int64_t result = unscaled;
     if (from <= to) {
@@ -52,7 +52,7 @@ std::int64_t rescaled(std::int64_t unscaled, int from, int to) {
     return result;
 }
 
-/// A number as unscaled / 10^scale. Exact numbers stay exact, others go by the digits that a reader sees.
+/// A number as unscaled / 10^scale. Exact types are converted exactly, others by the digits of their text.
 std::int64_t unscaledOf(const Value& value, int scale) {
     if (const auto* decimal = std::get_if<Decimal>(&value.variant()))
         return rescaled(decimal->unscaled, decimal->scale, scale);
@@ -85,7 +85,7 @@ bool isContinuation(char c) {
     return (static_cast<unsigned char>(c) & 0xC0U) == 0x80U;
 }
 
-/// At most `length` characters, of which an excess of blanks may be cut.
+/// The text, which may have at most `length` characters; blanks at its end beyond that are cut.
 std::string fitted(std::string text, int length) {
     if (length < 0)
         return text;

@@ -18,8 +18,8 @@ StatementRecorder& recorder() {
     return current;
 }
 
-std::int64_t runToTheEnd(DriverConnection& road, const std::string& text) {
-    const auto result = road.run(text);
+std::int64_t runToTheEnd(DriverConnection& connection, const std::string& text) {
+    const auto result = connection.run(text);
     std::int64_t written = 0;
     while (result->nextResult())
         written += std::max<std::int64_t>(result->affected(), 0);
@@ -57,7 +57,8 @@ void Connection::connect() {
     driver_ = driverFor(text).connect(text);
 }
 
-/// What was begun on the lost one, a recordset or a row held, stays with it and fails.
+/// Connects again where the server was lost. Recordsets and holds opened before keep the lost connection, and their
+/// next use of it fails.
 void Connection::reconnect() {
     if (!driver_->alive())
         connect();
@@ -87,7 +88,7 @@ std::int64_t Connection::Execute(const std::string& text) {
     }
 }
 
-std::shared_ptr<DriverConnection> Connection::road() {
+std::shared_ptr<DriverConnection> Connection::driverConnection() {
     if (!IsOpen())
         throw Error(kConnectionUnusable);
     reconnect();

@@ -10,8 +10,8 @@ namespace ado {
 
 namespace {
 
-/// Up to the closing mark, which stands doubled inside; what follows up to the ";" doesn't count. Without a closing
-/// mark all the rest is the value.
+/// The value up to the closing mark, which is doubled inside the value. Text between the mark and the next ";" is
+/// ignored. Without a closing mark all the rest is the value.
 std::string takeMarked(std::string_view& rest, char close) {
     std::string value;
     rest.remove_prefix(1);

@@ -60,7 +60,7 @@ double numberOfText(const std::string& text) {
     throw Error(kTypeMismatch);
 }
 
-/// nearbyint follows the rounding of the processor, half to even by default.
+/// nearbyint rounds as the processor is set, which is half to even by default.
 template<typename Integer>
 Integer toWhole(const Value& value) {
     const double rounded = std::nearbyint(toDouble(value));
@@ -77,7 +77,7 @@ std::string significant(double number, int digits) {
     return result;
 }
 
-/// unscaled / 10^scale without the zeros at its end.
+/// The text of unscaled / 10^scale without zeros at its end.
 std::string scaledText(std::int64_t unscaled, int scale) {
     std::string digits = std::to_string(unscaled);
     const bool negative = digits.front() == '-';

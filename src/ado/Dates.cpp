@@ -1,4 +1,4 @@
-// Dates as texts and texts as dates, by the regional settings.
+// Dates to texts and texts to dates, by the regional settings.
 
 #include "ado/Conversions.h"
 #include "ado/Error.h"
@@ -14,7 +14,7 @@ namespace ado {
 
 namespace {
 
-// The day that a time without a date stands on.
+// The day of a time without a date.
 constexpr std::int32_t kZeroDay = -25569;
 constexpr int kMillisecondsOfSecond = 1000;
 
@@ -25,7 +25,7 @@ std::optional<Date>& fixedToday() {
     return day;
 }
 
-/// A line's end is none: it ends no date.
+/// Line ends are no blanks here.
 bool isSpace(char c) {
     return c == ' ' || c == '\t';
 }
@@ -33,10 +33,10 @@ bool isSpace(char c) {
 struct Piece {
     int number = 0;
     int digits = 0;
-    char separator = 0; ///< what stands behind it, 0 at the end
+    char separator = 0; ///< the character after the number, 0 at the end
 };
 
-/// The numbers of one text and what divides them. Blanks around a separator don't count.
+/// The numbers of a text and their separators. Blanks around a separator are ignored.
 std::optional<std::vector<Piece>> pieces(std::string_view text) {
     std::vector<Piece> found;
     std::size_t at = 0;
@@ -97,7 +97,7 @@ std::optional<Date> inOrder(Order order, const Piece& a, const Piece& b, const P
     return std::nullopt;
 }
 
-/// The order of the settings first; a date that doesn't exist in it is tried in the others.
+/// Read in the order of the regional settings, or where that gives no existing date in the other orders.
 std::optional<Date> fullDate(const Piece& a, const Piece& b, const Piece& c) {
     for (const Order order :
          {regionalSettings().dateOrder, Order::DayMonthYear, Order::MonthDayYear, Order::YearMonthDay}) {
@@ -107,7 +107,7 @@ std::optional<Date> fullDate(const Piece& a, const Piece& b, const Piece& c) {
     return dateOf(yearOf(a), c, b);
 }
 
-/// Day and month of the current year, or else month and year, whose first day is meant.
+/// Day and month of the current year, or else month and year, which give the month's first day.
 std::optional<Date> shortDate(const Piece& a, const Piece& b) {
     const int year = today().year();
     const bool dayFirst = regionalSettings().dateOrder == Order::DayMonthYear;
@@ -174,7 +174,7 @@ std::optional<Date> dateAndTime(const std::vector<Piece>& parts, Half half) {
     return std::nullopt;
 }
 
-/// Writes the number of a month in place of its name, with separators around it; true when one stood there.
+/// Replaces a month's name by its number with separators around it. True where there was a name.
 void spellOutMonth(std::string& text) {
     static constexpr std::array<std::string_view, 12> kMonths = {"gennaio",   "febbraio", "marzo",    "aprile",
                                                                  "maggio",    "giugno",   "luglio",   "agosto",

@@ -29,8 +29,8 @@ std::string toUtf8(const fs::path& path) {
     return {text.begin(), text.end()};
 }
 
-/// A server's name as the name of one folder: "\" reads "$"; what means something to a file system is spelt in hex, so
-/// that no name leads out of the folder of the instances.
+/// A server's name as the name of one folder: "\" becomes "$", and other characters with a meaning to the file system
+/// are written in hex, so that no name gives a path outside the folder of the instances.
 std::string folderName(std::string_view server) {
     static constexpr std::string_view kHexDigits = "0123456789ABCDEF";
     static constexpr std::string_view kUnsafe = "/:*?\"<>|%";

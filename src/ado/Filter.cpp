@@ -31,7 +31,7 @@ bool isText(FieldType type) {
     return type == FieldType::Char || type == FieldType::WChar;
 }
 
-/// The server's pattern for one in which `%` and `*` alone are wild.
+/// The server's pattern for one in which only `%` and `*` are wildcards.
 std::string serverPattern(std::string_view pattern) {
     std::string result;
     for (const char c : pattern) {
@@ -43,7 +43,7 @@ std::string serverPattern(std::string_view pattern) {
     return result;
 }
 
-/// A date of a filter: year first where four digits begin it, else by the regional settings.
+/// A filter's date: with the year first where it begins with four digits, else by the regional settings.
 Date dateOf(std::string_view text) {
     if (const auto date = parseDate(text))
         return *date;

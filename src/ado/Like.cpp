@@ -1,4 +1,4 @@
-// The language's own Like, told from the server's: other wildcards, and case counts.
+// The program's Like. Unlike the server's it has other wildcards and is case-sensitive.
 
 #include "ado/Conversions.h"
 #include "ado/Error.h"
@@ -9,7 +9,7 @@ namespace {
 
 constexpr int kInvalidPattern = 93;
 
-/// One character of UTF-8 at a time; a stray byte is a character of its own.
+/// Takes one UTF-8 character; an invalid byte counts as a character.
 char32_t takeCharacter(std::string_view& text) {
     const auto lead = static_cast<unsigned char>(text.front());
     std::size_t size = lead < 0x80 ? 1 : lead >= 0xF0 ? 4 : lead >= 0xE0 ? 3 : lead >= 0xC0 ? 2 : 1;
@@ -21,7 +21,7 @@ char32_t takeCharacter(std::string_view& text) {
     return character;
 }
 
-/// Whether a character is in the list behind "[", which is taken up to its "]".
+/// Whether a character is in the list after "["; takes the list up to its "]".
 bool takeList(std::string_view& pattern, char32_t character) {
     const auto end = pattern.find(']');
     if (end == std::string_view::npos)
@@ -44,7 +44,7 @@ bool takeList(std::string_view& pattern, char32_t character) {
     return found != negated;
 }
 
-/// Whether the first element of the pattern takes the first character of the text; both are taken.
+/// Takes the first element of the pattern and the first character of the text, and returns whether they match.
 bool takeOne(std::string_view& text, std::string_view& pattern) {
     const char32_t element = takeCharacter(pattern);
     const char32_t character = takeCharacter(text);

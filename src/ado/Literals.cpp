@@ -17,7 +17,7 @@ std::string doubled(std::string_view text, char mark) {
     return result;
 }
 
-/// The shortest digits that read back as the same number.
+/// The fewest digits that are read as the same number again.
 template<typename Real>
 std::string shortest(Real number) {
     char text[32];

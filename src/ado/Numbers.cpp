@@ -1,4 +1,4 @@
-// Numbers as texts and texts as numbers, by the regional settings.
+// Numbers to texts and texts to numbers, by the regional settings.
 
 #include "ado/Conversions.h"
 #include "ado/Text.h"
@@ -14,7 +14,8 @@ namespace {
 
 constexpr int kSignificantDigits = 15;
 
-/// Reads a number written by people: sign before or behind, brackets for a negative one, currency sign at either end.
+/// Reads a number as people write it: sign before or after it, brackets for a negative one, currency symbol at either
+/// end.
 class NumberReader {
 public:
     explicit NumberReader(std::string_view text) : rest_(text) {}
@@ -60,7 +61,7 @@ private:
         currency_ = true;
     }
 
-    /// The one that opens is a sign, too.
+    /// The opening bracket also counts as the sign.
     bool takeBracket(bool ahead) {
         if (!(ahead ? take("(") : bracketOpen_ && take(")")))
             return false;
@@ -70,7 +71,7 @@ private:
         return true;
     }
 
-    /// What stands ahead of the digits or behind them.
+    /// The signs, symbols and blanks before the digits (`ahead`) or after them.
     void signs(bool ahead) {
         while (!rest_.empty()) {
             if (takeBlank())
@@ -86,7 +87,7 @@ private:
         }
     }
 
-    /// At least one digit; groups may be of any length and stand before the decimal separator only.
+    /// At least one digit. Groups may have any length; their separators are accepted before the decimal separator only.
     bool digits() {
         const RegionalSettings& settings = regionalSettings();
         bool some = false, fraction = false;
@@ -129,7 +130,7 @@ private:
     bool negative_ = false, signed_ = false, currency_ = false, bracketOpen_ = false, refused_ = false;
 };
 
-/// A number as its significant digits and the place of the point: 0.d1d2d3… × 10^point.
+/// A number as significant digits and the position of the point: 0.d1d2d3… × 10^point.
 struct Digits {
     std::string digits;
     int point = 0;
@@ -148,7 +149,7 @@ struct Digits {
         trim();
     }
 
-    /// Half away from zero.
+    /// Rounds half away from zero.
     void roundTo(int decimals) {
         const int kept = point + decimals;
         if (kept >= static_cast<int>(digits.size()))

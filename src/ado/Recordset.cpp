@@ -23,7 +23,7 @@ Field& Field::operator=(const ado::Value& value) {
     return *this;
 }
 
-// What is copied is the value, also onto the field itself.
+// Assigns the other field's value. An assignment to itself writes the value, too.
 Field& Field::operator=(const Field& other) { // NOLINT(bugprone-unhandled-self-assignment)
     return *this = other.Value();
 }
@@ -34,12 +34,12 @@ Recordset::~Recordset() = default;
 void Recordset::Open(const std::string& source, Connection& connection, CursorType cursor, LockType lock, int options) {
     if (IsOpen())
         throw Error(kObjectOpen);
-    auto road = connection.road();
+    auto driverConnection = connection.driverConnection();
     state_->source = source;
     state_->cursorType = cursor;
     state_->lock = lock;
     state_->statement = statementOf(source, options);
-    state_->openOn(std::move(road));
+    state_->openOn(std::move(driverConnection));
     if (IsOpen())
         state_->notify();
 }

@@ -17,19 +17,19 @@ const RowStatements& Recordset::State::edits() {
         return *statements;
     if (!selectsPlainRows(statement))
         throw Error(kNotUpdatable);
-    road->nameSources(statement, fields);
+    driverConnection->nameSources(statement, fields);
     const auto table = RowStatements::baseTable(fields);
     if (!table)
         throw Error(kNotUpdatable);
     const bool byIdentity = std::ranges::any_of(fields, &FieldDescription::identity);
-    statements.emplace(fields, *table, byIdentity ? std::vector<std::string>() : road->primaryKey(*table));
+    statements.emplace(fields, *table, byIdentity ? std::vector<std::string>() : driverConnection->primaryKey(*table));
     return *statements;
 }
 
-/// While rows are held, their writes go through the hold.
+/// While a row is held, its writes must go through the hold.
 std::unique_ptr<DriverResult> Recordset::State::send(const std::string& text) {
     recordStatement(text);
-    return hold ? hold->run(text) : road->run(text);
+    return hold ? hold->run(text) : driverConnection->run(text);
 }
 
 void Recordset::State::assign(int column, const Value& value) {
@@ -51,12 +51,12 @@ void Recordset::State::assign(int column, const Value& value) {
     assigned[place] = std::move(fitting);
 }
 
-/// What another program wrote since the row was read is seen before it can be written over.
+/// Holds the row and reads it again, so that what another program wrote meanwhile isn't overwritten unseen.
 void Recordset::State::holdRow() {
-    const std::string select = edits().select(rows, cursor.row(), road->holdingHint());
+    const std::string select = edits().select(rows, cursor.row(), driverConnection->holdingHint());
     try {
         recordStatement(select);
-        hold = road->hold(select);
+        hold = driverConnection->hold(select);
         readHeldRow();
     } catch (Error& error) {
         hold.reset();
@@ -130,7 +130,7 @@ void Recordset::State::storeNewRow() {
     std::vector<Value> row;
     for (std::size_t i = 0; i < fields.size(); ++i) {
         if (fields[i].identity)
-            row.emplace_back(static_cast<std::int32_t>(road->lastIdentity()));
+            row.emplace_back(static_cast<std::int32_t>(driverConnection->lastIdentity()));
         else
             row.push_back(assigned[i].value_or(Null{}));
     }

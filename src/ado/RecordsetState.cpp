@@ -17,21 +17,21 @@ void Recordset::State::demandBackwards() const {
         throw Error(kNotAllowedHere);
 }
 
-void Recordset::State::openOn(std::shared_ptr<DriverConnection> newRoad) {
-    road = std::move(newRoad);
+void Recordset::State::openOn(std::shared_ptr<DriverConnection> newConnection) {
+    driverConnection = std::move(newConnection);
     filter.clear();
     filterExpression.reset();
     open = fetch();
     if (!open)
-        road.reset();
+        driverConnection.reset();
 }
 
-/// Runs the statement to its end and takes its first selection; false where it has none.
+/// Runs the statement to its end and reads its first result with rows; false where there is none.
 bool Recordset::State::fetch() {
     recordStatement(statement);
     bool selected = false;
     try {
-        const auto result = road->run(statement);
+        const auto result = driverConnection->run(statement);
         while (result->nextResult()) {
             if (selected || !result->hasRows())
                 continue;
@@ -65,7 +65,7 @@ void Recordset::State::close() {
     rows = RowStore();
     fields.clear();
     cursor.showAll(0);
-    road.reset();
+    driverConnection.reset();
     ownConnection.reset();
 }
 
@@ -83,7 +83,7 @@ void Recordset::State::applyFilter() {
 }
 
 void Recordset::State::notify() const {
-    const auto told = listeners; // one may join while they are told
+    const auto told = listeners; // a copy, since a listener may add another one
     for (const auto& listener : told)
         listener();
 }

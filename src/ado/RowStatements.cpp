@@ -18,7 +18,7 @@ std::vector<int> identityOf(const Fields& fields) {
     return found == fields.end() ? std::vector<int>{} : std::vector<int>{static_cast<int>(found - fields.begin())};
 }
 
-/// Nothing where one of the names isn't among the fields.
+/// The places of these columns among the fields; none where one of them is missing.
 std::vector<int> placesOf(const std::vector<std::string>& columns, const Fields& fields) {
     std::vector<int> places;
     for (const std::string& column : columns) {
@@ -31,7 +31,7 @@ std::vector<int> placesOf(const std::vector<std::string>& columns, const Fields&
     return places;
 }
 
-/// What "=" can tell apart for certain: no single precision numbers, no binaries, no texts without a limit.
+/// The columns that "=" compares reliably: no single precision numbers, no binaries, no texts of unlimited length.
 std::vector<int> comparablePlaces(const Fields& fields) {
     std::vector<int> places;
     for (std::size_t i = 0; i < fields.size(); ++i) {

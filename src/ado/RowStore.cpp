@@ -11,7 +11,7 @@ namespace ado {
 
 namespace {
 
-constexpr double kLargestSureWhole = 1e15; // up to here a double tells every whole number
+constexpr double kLargestSureWhole = 1e15; // a double holds every whole number up to here
 constexpr int kLargestPower = 15;
 
 int digitsAt(std::string_view text, std::size_t from, std::size_t count) {
@@ -21,7 +21,7 @@ int digitsAt(std::string_view text, std::size_t from, std::size_t count) {
     return number;
 }
 
-/// YYYY-MM-DD hh:mm:ss.mmm, perhaps without the time.
+/// Reads YYYY-MM-DD hh:mm:ss.mmm; the time may be missing.
 Date readDate(std::string_view text) {
     using namespace std::chrono;
     const year_month_day date(year(digitsAt(text, 0, 4)), month(static_cast<unsigned>(digitsAt(text, 5, 2))),
@@ -64,7 +64,7 @@ int scaleOf(const FieldDescription& field) {
     return field.type == FieldType::Currency ? 4 : field.type == FieldType::Decimal ? field.scale : 0;
 }
 
-/// A decimal without its point: by its digits where they are more than a double keeps.
+/// A decimal without its point, read from its text where it has more digits than a double holds.
 std::int64_t unscaled(const DriverResult& result, int field, int scale) {
     if (scale <= kLargestPower) {
         const double number = result.real(field) * powerOfTen(scale);

@@ -28,7 +28,7 @@ std::size_t wordEnd(std::string_view text, std::size_t from) {
     return from;
 }
 
-/// The pieces of a name with points between them, nothing where the text is more than a name.
+/// The parts of a name, which points separate; nothing where the text isn't just a name.
 std::optional<std::vector<std::string>> namePieces(std::string_view text) {
     std::vector<std::string> pieces;
     std::size_t at = 0;
@@ -65,7 +65,7 @@ bool isOneOf(std::string_view word, std::string_view list) {
     return list.find(" " + lowered(word) + " ") != std::string_view::npos;
 }
 
-/// The end of a text, a quoted name or a comment that begins at `at`; `at` itself where none does.
+/// The end of the text, quoted name or comment that begins at `at`; `at` itself where none begins there.
 std::size_t skipQuoted(std::string_view text, std::size_t at) {
     struct Quote {
         std::string_view open, close;

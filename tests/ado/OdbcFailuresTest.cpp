@@ -47,7 +47,7 @@ protected:
         connection.Execute("insert into Prova (n) values (1)");
     }
 
-    test::TestServer server{support::Road::Wire};
+    test::TestServer server{support::TestedDriver::Wire};
     support::Peer& peer = server.peer();
     Connection connection;
 };
@@ -133,8 +133,8 @@ TEST_F(OdbcFailures, AServerThatEndsInTheMiddleOfAResultGivesAnError) {
         const std::string many = std::to_string(n / 2);
         connection.Execute("insert into Prova (n, t) select n + " + many + ", replicate('x', 200) from Prova");
     }
-    auto road = connection.road();
-    const auto result = road->run("select a.t, b.t, c.n from Prova a, Prova b, Prova c");
+    auto driverConnection = connection.driverConnection();
+    const auto result = driverConnection->run("select a.t, b.t, c.n from Prova a, Prova b, Prova c");
     ASSERT_TRUE(result->nextResult());
     ASSERT_TRUE(result->nextRow());
     peer.kill();
@@ -144,8 +144,8 @@ TEST_F(OdbcFailures, AServerThatEndsInTheMiddleOfAResultGivesAnError) {
     });
     ASSERT_TRUE(error);
     EXPECT_EQ(error->description(), kLinkFailure);
-    EXPECT_FALSE(road->alive());
-    road.reset();
+    EXPECT_FALSE(driverConnection->alive());
+    driverConnection.reset();
     peer.restart();
     connection.Close();
     expectWorks(connection);
@@ -167,7 +167,7 @@ TEST_F(OdbcFailures, ConnectionsKeptForLaterAreNotTrustedWhenTheirServerWasAnoth
 
 TEST_F(OdbcFailures, AHoldWhoseServerEndedIsGivenUpWithoutWaiting) {
     fill(connection);
-    auto hold = connection.road()->hold("SELECT n FROM Prova WITH (UPDLOCK, ROWLOCK) WHERE n = 1");
+    auto hold = connection.driverConnection()->hold("SELECT n FROM Prova WITH (UPDLOCK, ROWLOCK) WHERE n = 1");
     peer.kill();
     EXPECT_TRUE(errorOf([&] { hold->run("update Prova set n = 1")->nextResult(); }));
     hold.reset();

@@ -56,7 +56,7 @@ protected:
         connection.Execute("insert into Prova (n) values (1), (2)");
     }
 
-    test::TestServer server{support::Road::Wire};
+    test::TestServer server{support::TestedDriver::Wire};
     Connection connection;
 };
 

@@ -29,7 +29,7 @@ protected:
 
     static constexpr const char* kRest = ";UID=sa;PWD=x;Connect Timeout=1";
     support::SilentServer silent;
-    test::TestServer server{support::Road::Wire};
+    test::TestServer server{support::TestedDriver::Wire};
 };
 
 TEST_F(OdbcSilence, WithinOneEventIsWaitedForOnce) {

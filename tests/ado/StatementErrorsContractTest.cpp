@@ -114,7 +114,7 @@ TEST_F(StatementErrorsContract, AFileAtItsLargestSizeIsAFullDisk) {
     constexpr int kDiskFull = 1105;
     connection.Execute("create table t (a nvarchar(4000) null)");
     const std::string insert = "insert into t (a) values ('" + std::string(4000, 'x') + "')";
-    const long long process = support::road() == support::Road::Wire ? server.peer().pid() : 0;
+    const long long process = support::testedDriver() == support::TestedDriver::Wire ? server.peer().pid() : 0;
     int written = 0;
     {
         constexpr rlim_t kLimit = 1'000'000;
@@ -138,7 +138,7 @@ TEST_F(StatementErrorsContract, AFileAtItsLargestSizeIsAFullDisk) {
 TEST_F(StatementErrorsContract, AFullDiskAtTheCommitTakesTheTransactionBack) {
     constexpr int kDiskFull = 1105;
     connection.Execute("create table t (a nvarchar(4000) null)");
-    const long long process = support::road() == support::Road::Wire ? server.peer().pid() : 0;
+    const long long process = support::testedDriver() == support::TestedDriver::Wire ? server.peer().pid() : 0;
     connection.Execute("begin transaction");
     for (int i = 0; i < 50; ++i)
         connection.Execute("insert into t (a) values ('" + std::string(4000, 'x') + "')");
@@ -159,7 +159,7 @@ TEST_F(StatementErrorsContract, AFullDiskLeavesNoHalfOfATransaction) {
     constexpr int kNoTransaction = 3902;
     connection.Execute("create table t (a nvarchar(4000) null)");
     const std::string insert = "insert into t (a) values ('" + std::string(4000, 'x') + "')";
-    const long long process = support::road() == support::Road::Wire ? server.peer().pid() : 0;
+    const long long process = support::testedDriver() == support::TestedDriver::Wire ? server.peer().pid() : 0;
     connection.Execute("begin transaction");
     connection.Execute(insert);
     int refusal = 0;

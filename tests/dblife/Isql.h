@@ -2,8 +2,8 @@
 
 #include "ado/ConnectionString.h"
 #include "support/Processes.h"
-#include "support/Road.h"
 #include "support/TestWorkstation.h"
+#include "support/TestedDriver.h"
 
 #include <QStandardPaths>
 
@@ -17,8 +17,8 @@ namespace vabo {
 /// Where the server is another process: an embedded one is nobody else's.
 struct OverTheWire {
     OverTheWire() {
-        constexpr std::array kArguments{"", "--road=wire"};
-        support::chooseRoad(static_cast<int>(kArguments.size()), kArguments.data());
+        constexpr std::array kArguments{"", "--driver=wire"};
+        support::chooseTestedDriver(static_cast<int>(kArguments.size()), kArguments.data());
     }
 };
 

@@ -5,7 +5,7 @@
 #include "session/ApriDbSede.h"
 #include "session/LinguaClient.h"
 #include "session/SessionFixture.h"
-#include "support/Road.h"
+#include "support/TestedDriver.h"
 
 #include <filesystem>
 #include <set>

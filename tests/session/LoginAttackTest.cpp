@@ -4,7 +4,7 @@
 #include "session/RegoleLogin.h"
 #include "session/SessionFixture.h"
 #include "support/Attacks.h"
-#include "support/Road.h"
+#include "support/TestedDriver.h"
 
 #include <optional>
 

@@ -32,14 +32,14 @@ protected:
     support::TemporaryFolder build;
 };
 
-TEST_F(CountTests, SumsUpTheGroupsOfEachRoad) {
+TEST_F(CountTests, SumsUpTheGroupsOfEachLabel) {
     put("embedded/one_test.xml", group("7", "0") + group("30", "0"));
     put("embedded/two_test.xml", group("4", "0"));
     put("wire/one_wire_test.xml", group("7", "2") + group("30", "1"));
     EXPECT_EQ(line(), "embedded: 41 tests (0 skipped), wire: 34 tests (3 skipped)\n");
 }
 
-TEST_F(CountTests, ARoadThatWasNotRunIsNotTold) {
+TEST_F(CountTests, ALabelThatWasNotRunIsNotTold) {
     put("wire/one_wire_test.xml", group("7", "0"));
     EXPECT_EQ(line(), "wire: 7 tests (0 skipped)\n");
 }

@@ -2,7 +2,7 @@
 
 #include "controls/Style.h"
 #include "support/Environment.h"
-#include "support/Road.h"
+#include "support/TestedDriver.h"
 
 #include <QApplication>
 
@@ -21,7 +21,7 @@ void passOver(QtMsgType type, const QMessageLogContext& context, const QString& 
 } // namespace
 
 int main(int argc, char** argv) {
-    support::chooseRoad(argc, argv);
+    support::chooseTestedDriver(argc, argv);
     support::prepareProcess();
     testing::InitGoogleTest(&argc, argv);
     QApplication application(argc, argv);

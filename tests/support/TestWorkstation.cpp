@@ -4,7 +4,7 @@
 #include "engine/Instance.h"
 #include "support/AzzeraVariabili.h"
 #include "support/Environment.h"
-#include "support/Road.h"
+#include "support/TestedDriver.h"
 
 #include <QString>
 
@@ -36,7 +36,7 @@ TestWorkstation::TestWorkstation(DriveC content) {
     makePresent(workstationOn(folder_.path()));
     useDataSourceFile(dataSourceFile());
     instance_ = ado::instanceFolder(kLocalServerName);
-    if (content == DriveC::Sample && road() == Road::Wire)
+    if (content == DriveC::Sample && testedDriver() == TestedDriver::Wire)
         moveServerBehindTheWire();
 }
 
@@ -63,7 +63,7 @@ std::string TestWorkstation::serverName() const {
 
 Peer& TestWorkstation::peer() const {
     if (!peer_)
-        throw std::logic_error("No server process on this road.");
+        throw std::logic_error("The embedded driver has no server process.");
     return *peer_;
 }
 

@@ -14,12 +14,12 @@ namespace ado {
 
 namespace {
 
-// On by default: what comes here is a bug.
+// On by default, since only bugs are logged here.
 Q_LOGGING_CATEGORY(engineLog, "vabo.engine", QtWarningMsg)
 
 using SessionPtr = std::shared_ptr<engine::Session>;
 
-/// The one border at which the engine's refusals become the data layer's.
+/// Converts the engine's errors into the data layer's.
 template<typename Work>
 decltype(auto) translated(Work&& work) {
     try {
@@ -54,7 +54,7 @@ FieldType fieldType(const engine::DataType& type) {
         {Kind::NVarChar, FieldType::WChar},
         {Kind::VarBinary, FieldType::Binary},
     });
-    // The engine keeps money and smallmoney as the decimals that they are.
+    // The engine stores money and smallmoney as decimals of these sizes.
     if (type.kind == Kind::Decimal && type.scale == 4 && (type.precision == 19 || type.precision == 10))
         return FieldType::Currency;
     for (const Pair& pair : kPairs) {
@@ -106,7 +106,7 @@ public:
 
 private:
     SessionPtr session_;
-    std::unique_ptr<engine::Batch> batch_; // ends before its session
+    std::unique_ptr<engine::Batch> batch_; // declared after the session, so that it is destroyed first
     std::vector<FieldDescription> fields_;
 };
 
@@ -114,7 +114,7 @@ std::unique_ptr<DriverResult> runOn(const SessionPtr& session, std::string_view 
     return std::make_unique<EmbeddedResult>(session, translated([&] { return session->execute(text); }));
 }
 
-/// This session's own writes pass its holds, so a text may go the usual road.
+/// The session's own writes aren't refused by its holds, so a text is run as without a hold.
 class EmbeddedHold : public DriverHold {
 public:
     EmbeddedHold(SessionPtr session, std::unique_ptr<engine::RowHold> rows, std::string_view select)

@@ -38,7 +38,7 @@ std::string resolveDriver(const std::string& name, const std::vector<std::string
     };
     if (!sameName(name, kServerDriver) || known(name))
         return name;
-    // A number of more digits is the greater one.
+    // Compares version numbers as texts: the one with more digits is greater.
     const auto isNewer = [](const std::string& a, const std::string& b) {
         return a.size() != b.size() ? a.size() > b.size() : a > b;
     };

@@ -17,7 +17,7 @@ namespace {
 
 static_assert(sizeof(SQLWCHAR) == sizeof(char16_t));
 
-/// Numbers of FreeTDS itself.
+/// The native error numbers of FreeTDS itself.
 constexpr int kFirstOfDriver = 20000, kLastOfDriver = 20999;
 
 struct Diagnostic {
@@ -43,7 +43,7 @@ Diagnostic diagnosticAt(const Handle& handle, SQLSMALLINT number, bool& found) {
     return {toUtf8(state.data(), 5), native, toUtf8(text.data(), characters)};
 }
 
-/// The server's words without the names of the layers they came through: "[a][b][c]text" is "text".
+/// The text without the names of the layers that it came through: "[a][b][c]text" becomes "text".
 std::string withoutLayers(std::string text) {
     while (!text.empty() && text.front() == '[') {
         const auto end = text.find(']');
@@ -65,8 +65,8 @@ std::vector<Diagnostic> diagnosticsOf(const Handle& handle) {
     return all;
 }
 
-/// Of all records the one that tells what happened: the server's own before the driver's, the rest where there is no
-/// error among them.
+/// The place of the record that tells what happened: the server's first error, else the driver's, else the first
+/// record.
 std::size_t tellingOf(const std::vector<Diagnostic>& all) {
     const auto first = [&](auto test) { return std::ranges::find_if(all, test); };
     auto found = first(&Diagnostic::isServers);

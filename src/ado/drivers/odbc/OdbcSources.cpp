@@ -11,7 +11,7 @@ namespace {
 
 using Fields = std::vector<FieldDescription>;
 
-/// The first SELECT of a batch, whose rows a recordset takes.
+/// The first SELECT of a batch: its rows are the recordset's.
 const engine::Select* firstSelect(const engine::BatchTree& batch) {
     for (const auto& statement : batch.statements) {
         if (const auto* select = std::get_if<engine::Select>(&statement->node))
@@ -27,7 +27,7 @@ const engine::NamedTable* oneTable(const engine::Select& select) {
     return std::get_if<engine::NamedTable>(&from.front()->node);
 }
 
-/// How many fields each star of the list became; 0 where they don't divide evenly.
+/// How many fields each `*` of the list stands for; 0 where they can't be divided evenly.
 std::size_t starWidth(const std::vector<engine::SelectItem>& items, std::size_t fields) {
     const auto stars = static_cast<std::size_t>(
         std::ranges::count_if(items, [](const engine::SelectItem& item) { return item.starOf.has_value(); }));
@@ -67,7 +67,7 @@ void nameSources(const std::string& statement, Fields& fields) {
         if (const engine::NamedTable* table = select ? oneTable(*select) : nullptr)
             nameColumns(select->cores.front(), table->name.last(), fields);
     } catch (const engine::Error&) {
-        // What only the server can read has no table that we know: it can't be edited.
+        // A statement that only the server understands: without a known table its rows can't be edited.
     }
 }
 

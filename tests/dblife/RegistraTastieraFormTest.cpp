@@ -12,9 +12,9 @@ namespace {
 using support::kCompany;
 
 /// The whole road with the keyboard alone: the company can't be opened when the program starts, and the form comes.
-class RegistraStrade : public RegistraForm {
+class RegistraTastiera : public RegistraForm {
 protected:
-    RegistraStrade() {
+    RegistraTastiera() {
         AzzeraVariabili();
         app::registerForms(gui.forms());
     }
@@ -39,7 +39,7 @@ private:
     std::filesystem::path posto_;
 };
 
-TEST_F(RegistraStrade, ACompanyLostBetweenStartAndLoginLeadsToTheForm) {
+TEST_F(RegistraTastiera, ACompanyLostBetweenStartAndLoginLeadsToTheForm) {
     bool chiesto = false; // whether anybody has to log in, the last thing that the start asks
     bool guasto = false;
     ado::setStatementRecorder([&](const std::string& testo) {
@@ -57,7 +57,7 @@ TEST_F(RegistraStrade, ACompanyLostBetweenStartAndLoginLeadsToTheForm) {
     EXPECT_EQ(fuoco(), "cboDSNList");
 }
 
-TEST_F(RegistraStrade, ACompanyOutOfReachFromTheBeginningLeadsToTheConsoleInstead) {
+TEST_F(RegistraTastiera, ACompanyOutOfReachFromTheBeginningLeadsToTheConsoleInstead) {
     guasta();
     gui.forms().show("Avvio");
     gui.waitForFront("Avvio_Azienda");
@@ -66,7 +66,7 @@ TEST_F(RegistraStrade, ACompanyOutOfReachFromTheBeginningLeadsToTheConsoleInstea
     EXPECT_EQ(DirittiUtente, kDirittiAvvioSenzaUtenti);
 }
 
-TEST_F(RegistraStrade, TheCompanyPutRightIsRegisteredByTheKeyboardAndTheConsoleComes) {
+TEST_F(RegistraTastiera, TheCompanyPutRightIsRegisteredByTheKeyboardAndTheConsoleComes) {
     guasta();
     gui.forms().show("About");
     gui.waitForFront(kForm);
@@ -105,7 +105,7 @@ TEST_F(RegistraStrade, TheCompanyPutRightIsRegisteredByTheKeyboardAndTheConsoleC
     EXPECT_EQ(PilaForm, std::vector<std::string>{"Avvio_Azienda"});
 }
 
-TEST_F(RegistraStrade, ClosingItLeadsToTheConsoleToo) {
+TEST_F(RegistraTastiera, ClosingItLeadsToTheConsoleToo) {
     guasta();
     gui.forms().show("About");
     gui.waitForFront(kForm);

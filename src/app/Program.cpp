@@ -13,7 +13,7 @@ namespace app {
 
 Program::Program(int& argc, char** argv, controls::style::Scheme scheme) : application_(argc, argv) {
     engine::refuseTooLargeFiles();
-    // The hidden start form stands until the end of the process.
+    // Between two forms only the hidden start form may be left, which must not end the process.
     QApplication::setQuitOnLastWindowClosed(false);
     if (italian_.load(QStringLiteral("qtbase_it"), QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
         QApplication::installTranslator(&italian_);

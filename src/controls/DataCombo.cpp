@@ -45,7 +45,7 @@ DataCombo::DataCombo(QWidget* parent) : QComboBox(parent), list_(new ListModel(t
     UserInput::watch();
     lineEdit()->installEventFilter(this);
     connect(this, &QComboBox::activated, this, &DataCombo::picked);
-    // Queued: after a pick of the search the text is set once more.
+    // Queued, since after a pick in the search the completer sets the text again.
     connect(this, &QComboBox::activated, this, &DataCombo::selectWhole, Qt::QueuedConnection);
     connect(&FocusTracker::instance(), &FocusTracker::moved, this, &DataCombo::followFocus);
 }
@@ -88,7 +88,7 @@ void DataCombo::restoreChosen() {
     selectWhole();
 }
 
-// As when the focus comes: typing starts anew.
+// The whole text is selected, as when the focus comes, so that typing replaces it.
 void DataCombo::selectWhole() {
     if (hasFocus())
         lineEdit()->selectAll();
@@ -122,7 +122,7 @@ void DataCombo::setBoundText(const std::string& key) {
 }
 
 void DataCombo::picked(int row) {
-    // Leaving the field with a text that stands in the list isn't a pick.
+    // When the field is left, the toolkit emits this for a text that is in the list, which isn't a pick.
     if (leaving_)
         return;
     pickedRow_ = row;
@@ -134,17 +134,17 @@ void DataCombo::keyPressEvent(QKeyEvent* event) {
     switch (event->key()) {
     case Qt::Key_Return:
     case Qt::Key_Enter:
-        event->ignore(); // an Enter in the text belongs to the form
+        event->ignore(); // the form handles Enter
         return;
     case Qt::Key_Up:
     case Qt::Key_Down:
     case Qt::Key_PageUp:
     case Qt::Key_PageDown:
-        showPopup(); // no row is picked unseen
+        showPopup(); // shows the list instead of picking the next row in the closed one
         return;
     case Qt::Key_Escape:
         restoreChosen();
-        event->ignore(); // the form may have something to leave
+        event->ignore(); // the form may handle Esc, too
         return;
     default:
         QComboBox::keyPressEvent(event);
@@ -162,12 +162,12 @@ void DataCombo::highlightOnlyMatch() {
     const QAbstractItemModel* matches = completer()->completionModel();
     if (!found->isVisible() || matches->rowCount() != 1)
         return;
-    const QSignalBlocker quiet(completer()); // the text stays as it was typed
+    const QSignalBlocker quiet(completer()); // or the completer would put the row's text into the field
     found->setCurrentIndex(matches->index(0, 0));
 }
 
-// The keys that end the search; true where they have done their work. Other keys, and Enter on a highlighted row, are
-// the completer's.
+// The keys that end the search. Returns true where the key has been handled; the completer handles all other keys, and
+// Enter on a highlighted row.
 bool DataCombo::keyInSearch(const QKeyEvent& key) {
     QAbstractItemView& found = *completer()->popup();
     const bool plain = UserInput::isPlain(key);
@@ -231,7 +231,7 @@ void DataCombo::hidePopup() {
     selectWhole();
 }
 
-// As wide as the longest text by its letters: to measure thousands of texts would take too long.
+// Estimates the width from the number of letters, since measuring thousands of texts would take too long.
 void DataCombo::widenPopup() {
     const int letters = static_cast<int>(list_->longest());
     const int wanted = letters * QFontMetrics(view()->font()).averageCharWidth() + kPopupPadding +

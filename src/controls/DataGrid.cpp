@@ -90,7 +90,7 @@ void DataGrid::setDataSource(DataControl* source) {
         former->disconnect(this);
     model_->setSource(source);
     if (source != nullptr) {
-        // After the model's own connections: the rows are there when the grid follows.
+        // Connected after the model, so that the model has its rows when the grid follows.
         connect(source, &DataControl::refreshed, this, &DataGrid::showAllColumns);
         connect(source, &DataControl::refreshed, this, &DataGrid::followRecordset);
         connect(source, &DataControl::moved, this, &DataGrid::followRecordset);
@@ -147,7 +147,7 @@ int DataGrid::visibleColumn() const {
     return column;
 }
 
-// From a column that isn't seen the arrows lead nowhere.
+// The arrow keys don't work while the current column is hidden.
 void DataGrid::leaveHiddenColumn() {
     const QScopedValueRollback following(following_, true);
     const QModelIndex current = currentIndex();
@@ -170,7 +170,7 @@ void DataGrid::takeRow() {
         source->byUser([&] { source->Recordset().setAbsolutePosition(row + 1); });
 }
 
-/// Where the recordset stands, from 1; below 1 on no row.
+/// The recordset's position, counted from 1; below 1 where there is no current row.
 long DataGrid::position() const {
     DataControl* source = model_->source();
     const bool open = source != nullptr && source->hasRecordset() && source->Recordset().IsOpen();
@@ -213,7 +213,7 @@ void DataGrid::mousePressEvent(QMouseEvent* event) {
     }
 }
 
-// A row under a button that is held down is gone to as well.
+// Moving with the button held down changes the row, too.
 void DataGrid::mouseMoveEvent(QMouseEvent* event) {
     const long before = position();
     QTableView::mouseMoveEvent(event);
@@ -250,7 +250,7 @@ void DataGrid::shareWidth() {
         return;
     const double growth = std::max(1.0, viewport()->width() * kTwipsInAPixel / static_cast<double>(twips));
     int widest = -1;
-    int owed = 0; // what captions took beyond their column's share
+    int owed = 0; // pixels that captions need beyond their column's share
     for (int i = 0; i < ColumnCount(); ++i) {
         if (isColumnHidden(i) || model_->column(i).twips == 0)
             continue;
@@ -281,7 +281,7 @@ void DataGrid::resizeEvent(QResizeEvent* event) {
     }
 }
 
-// Its row is paler while the keys go elsewhere.
+// The current row is drawn paler while the grid doesn't have the focus.
 void DataGrid::initViewItemOption(QStyleOptionViewItem* option) const {
     QTableView::initViewItemOption(option);
     option->state.setFlag(QStyle::State_Active, hasFocus() || state() == EditingState);

@@ -15,7 +15,7 @@ namespace controls {
 
 namespace {
 
-/// A window that the system hasn't shown yet can't paint.
+/// Waits until the system shows the window, since it can't paint earlier.
 void waitUntilExposed(const QWidget& form) {
     constexpr int kLongestMilliseconds = 1000;
     constexpr int kSliceMilliseconds = 20;
@@ -41,7 +41,7 @@ Form::Form(const char* name) {
 }
 
 void Form::runLoad() {
-    // Outside a dialog Enter presses a button only where it is told to.
+    // Without this, Enter presses buttons only in a QDialog.
     for (auto* button : findChildren<QPushButton*>())
         button->setAutoDefault(true);
     nameForAssistiveTools();
@@ -93,7 +93,7 @@ void Form::setHelpContext(int form, int controls) {
 
 void Form::closeEvent(QCloseEvent* event) {
     event->ignore();
-    if (isVisible()) // the close of a window that another event has hidden meanwhile comes too late
+    if (isVisible()) // ignored where another event has hidden the window meanwhile
         UnloadMe();
 }
 

@@ -11,12 +11,12 @@ namespace controls {
 namespace {
 
 constexpr double kPartOfTheScreen = 0.9;
-constexpr QSize kLeast(1000, 0);      // where the screen is narrow, all of it
-constexpr QSize kLargest(1600, 1100); // more makes a grid's rows too long to follow
+constexpr QSize kLeast(1000, 0);      // a narrower screen is filled
+constexpr QSize kLargest(1600, 1100); // in wider grids a row is hard to follow
 
 void centre(Form& form) {
     const QRect place = form.screen()->availableGeometry();
-    form.adjustSize(); // which stops short of a small screen's edges
+    form.adjustSize(); // never larger than two thirds of the screen, hence the resize below
     const QSize wanted = form.takesScreen() ? (place.size() * kPartOfTheScreen).expandedTo(kLeast).boundedTo(kLargest)
                                             : form.size().expandedTo(form.sizeHint());
     form.resize(wanted.boundedTo(place.size()));
@@ -27,14 +27,15 @@ void centre(Form& form) {
 } // namespace
 
 void FormRegistry::Gone::operator()(Form* form) const {
-    // It may be unloaded from one of its own events: it goes when they are over, and nobody finds it until then.
+    // The form may be unloaded in one of its own events, so it is deleted after them. Without its name it can't be
+    // found meanwhile.
     form->setObjectName(QString());
     form->hide();
     form->deleteLater();
 }
 
 FormRegistry::FormRegistry() {
-    // Queued: while windows come and go, only the last one counts.
+    // Queued, since only the last of several quick changes counts.
     connect(qApp, &QGuiApplication::focusWindowChanged, this, &FormRegistry::followWindows, Qt::QueuedConnection);
 }
 

@@ -44,7 +44,7 @@ bool KeyChain::eventFilter(QObject* watched, QEvent* event) {
     if (row == rows_.end())
         return false;
     if (UserInput::isRepeat(key))
-        return true; // a held key ends one entry
+        return true; // a key that is held down ends only one entry
     if (auto* combo = qobject_cast<DataCombo*>(row->field))
         combo->restoreChosen();
     run_(row->handler);

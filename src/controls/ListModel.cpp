@@ -85,7 +85,7 @@ QVariant ListModel::data(const QModelIndex& index, int role) const {
     try {
         return rows() == nullptr ? QVariant() : QVariant(textAt(index.row()));
     } catch (const ado::Error&) {
-        return {}; // a row that has gone meanwhile
+        return {}; // the row doesn't exist any more
     }
 }
 

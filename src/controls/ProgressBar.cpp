@@ -19,7 +19,7 @@ ProgressBar::ProgressBar(QWidget* parent) : QProgressBar(parent) {
 }
 
 void ProgressBar::setValue(double value) {
-    const bool inside = value >= kLowest && value <= kHighest; // false for what is no number
+    const bool inside = value >= kLowest && value <= kHighest; // false for NaN
     if (!inside)
         throw invalidPropertyValue();
     value_ = value;

@@ -28,11 +28,10 @@ QString titleOr(const std::string& title) {
     return title.empty() ? applicationTitle() : QString::fromStdString(title);
 }
 
-/// Whether Esc and the close button are the last button, or a box is left by its buttons alone.
+/// Whether Esc and the close button mean the last button, or only the buttons close the box.
 enum class Leaving { ByEscToo, ByButtonsAlone };
 
-/// Without an icon nothing stands beside the text: the room that is kept there goes, and the buttons are below its
-/// middle.
+/// For a box without an icon: removes the space that is kept for it and centres the buttons.
 void fillRoomOfIcon(QMessageBox& box) {
     auto* grid = qobject_cast<QGridLayout*>(box.layout());
     if (QLayoutItem* room = grid != nullptr ? grid->itemAtPosition(0, 0) : nullptr; room && room->spacerItem()) {
@@ -53,7 +52,8 @@ bool ask(const std::string& text, QMessageBox::Icon icon, const QStringList& cap
     QList<QPushButton*> buttons;
     for (const QString& caption : captions) {
         const bool first = buttons.isEmpty();
-        // A button that refuses would be taken for the one of Esc.
+        // The toolkit lets Esc press a button with the role of refusing, so that role is given only where Esc may
+        // close.
         const auto other = escToo ? QMessageBox::RejectRole : QMessageBox::ActionRole;
         buttons.append(box.addButton(caption, first ? QMessageBox::YesRole : other));
         buttons.last()->setObjectName(caption);

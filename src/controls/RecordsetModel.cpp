@@ -82,7 +82,7 @@ QVariant RecordsetModel::data(const QModelIndex& index, int role) const {
     try {
         return QString::fromStdString(text(index.row(), index.column()));
     } catch (const ado::Error&) {
-        return {}; // a row that has gone meanwhile
+        return {}; // the row doesn't exist any more
     }
 }
 

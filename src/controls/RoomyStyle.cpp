@@ -43,7 +43,7 @@ QColor buttonFill(const QStyleOption& option) {
     return has(option, QStyle::State_MouseOver) && has(option, QStyle::State_Enabled) ? plain.darker(kHover) : plain;
 }
 
-/// The arrow of a list, pointing down in the middle of its place.
+/// A list's arrow, pointing down, in the middle of `place`.
 void drawArrow(QPainter& painter, const QStyleOption& option, const QRect& place) {
     constexpr double kHalfWidth = 4.5;
     constexpr double kHalfHeight = 2.5;
@@ -58,7 +58,7 @@ void drawArrow(QPainter& painter, const QStyleOption& option, const QRect& place
     painter.restore();
 }
 
-/// A box of a check box: empty, ticked or greyed.
+/// The square of a check box: empty, ticked or greyed.
 void drawCheckBox(QPainter& painter, const QStyleOption& option) {
     const bool on = has(option, QStyle::State_On);
     const bool greyed = has(option, QStyle::State_NoChange);
@@ -107,7 +107,7 @@ int RoomyStyle::pixelMetric(PixelMetric metric, const QStyleOption* option, cons
     case PM_HeaderMargin:
         return kCellPadding;
     case PM_FocusFrameHMargin:
-        return kCellPadding - 1; // one more is the base style's own
+        return kCellPadding - 1; // the base style adds one
     default:
         return QProxyStyle::pixelMetric(metric, option, widget);
     }
@@ -142,7 +142,7 @@ QRect RoomyStyle::subControlRect(ComplexControl control, const QStyleOptionCompl
     if (control == CC_ComboBox && (part == SC_ComboBoxArrow || part == SC_ComboBoxEditField)) {
         QRect arrow = option->rect;
         arrow.setLeft(arrow.right() - kArrowWidth);
-        // The field of an editable one brings its own padding.
+        // The text field of an editable combo has its own padding.
         const auto* combo = qstyleoption_cast<const QStyleOptionComboBox*>(option);
         const int padding = combo != nullptr && combo->editable ? 0 : kTextPadding;
         const QRect field = option->rect.adjusted(2 + padding, 2, -kArrowWidth, -2);

@@ -17,7 +17,7 @@ namespace {
 
 const QString kNessuna = QStringLiteral("(nessuno)");
 
-/// The wait may be long where no server answers.
+/// With an hourglass, since a server that doesn't answer may take long.
 bool Prova(const std::string& stringa) {
     const controls::Hourglass clessidra;
     return ConnessioneValida(stringa);
@@ -110,7 +110,7 @@ void FormRegistraAziendeNeiDns::ScegliDriver() {
         VaiA(*ui_->txtServer);
 }
 
-// With a data source chosen, driver and server are locked: the entry goes on behind them.
+// Where a data source is chosen, driver and server are locked and the focus skips them.
 void FormRegistraAziendeNeiDns::LasciaPassword() {
     QWidget& seguente = ui_->cboDrivers->isEnabled() ? static_cast<QWidget&>(*ui_->cboDrivers) : *ui_->txtDatabase;
     seguente.setFocus(Qt::TabFocusReason);
@@ -131,7 +131,7 @@ void FormRegistraAziendeNeiDns::ProvaServer() {
     ui_->txtDatabase->setFocus(Qt::TabFocusReason);
 }
 
-// From the row of the registry on, failing statements are skipped.
+// From ScriviPrimaRiga on failing statements are skipped.
 void FormRegistraAziendeNeiDns::Registra() {
     const CampiAzienda campi = Campi();
     if (IsEmptyValue(campi.Database) || IsEmptyValue(campi.Server))
@@ -147,7 +147,8 @@ void FormRegistraAziendeNeiDns::Registra() {
     UnloadMe();
 }
 
-// A test, the pointer file, the connection that stays: what was written before a failure stands.
+// Tests the server, writes the pointer file and opens the connection that the form keeps. The file stays as written
+// where the last step fails.
 bool FormRegistraAziendeNeiDns::ApriConnessione(const CampiAzienda& campi) {
     const controls::Hourglass clessidra;
     StringaDb.clear();

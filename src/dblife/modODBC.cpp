@@ -25,7 +25,7 @@ std::string NomeTagliato(const std::string& nome) {
     return QString::fromStdString(nome).left(kLunghezzaNome).toStdString();
 }
 
-/// The attributes are divided by control characters: a value that holds one would bring keys of its own.
+/// Control characters become blanks: they separate the attributes, so a value could add attributes of its own.
 std::string Valore(std::string testo) {
     const auto controllo = [](char c) { return static_cast<unsigned char>(c) < ' ' || c == '\x7f'; };
     std::ranges::replace_if(testo, controllo, ' ');
@@ -38,7 +38,7 @@ std::string Chiuso(const std::string& attributo) {
 
 } // namespace
 
-// The registry keeps the values of both calls: the first writes what the second doesn't name.
+// Both calls are needed: the entry keeps the values of both, and only the first one writes the key Database.
 std::int32_t RegistraOdbc(std::int16_t richiesta, std::int32_t tipo, const FonteOdbc& fonte) {
     const std::string nome = Valore(NomeTagliato(fonte.NomeDsn));
     const std::string descrizione = "Description=" + Valore(fonte.Descrizione);

@@ -5,7 +5,7 @@
 
 namespace vabo {
 
-// To be repeated while the error state stays set; but a state that is set is an error raised, which leaves at once.
+// Updates once. It was to be repeated while an error is pending, but an error leaves as an exception here.
 void AggiornaRecord(ado::Recordset& rs) {
     rs.Update();
 }

@@ -8,7 +8,6 @@
 namespace vabo {
 
 namespace {
-// Off unless a logging rule turns it on.
 Q_LOGGING_CATEGORY(kSaltati, "vabo.skipped", QtWarningMsg)
 } // namespace
 
@@ -18,7 +17,7 @@ std::string Descrizione(const std::exception& errore) {
 
 namespace regole {
 
-// The statement stays out of it: it may hold a password.
+// Without the statement's text, which may hold a password.
 void Saltato(const std::exception& errore) {
     if (!kSaltati().isInfoEnabled())
         return;

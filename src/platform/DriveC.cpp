@@ -35,14 +35,14 @@ QString folded(const std::string& name) {
     return QString::fromStdString(name).toCaseFolded();
 }
 
-/// The names on the road from the drive's root, `.` and `..` taken away; nothing for a place that isn't on drive C.
+/// The parts of a path from the drive's root on, with `.` and `..` resolved; nothing for a path that isn't on drive C.
 std::optional<std::vector<std::string>> namesOf(std::string_view path) {
     if (path.size() >= 2 && path[1] == ':') {
         if (path[0] != 'C' && path[0] != 'c')
             return std::nullopt;
         path.remove_prefix(2);
     } else if (path.size() >= 2 && isSeparator(path[0]) && isSeparator(path[1])) {
-        return std::nullopt; // another machine's share
+        return std::nullopt; // a share of another machine
     }
     if (path.find('\0') != std::string_view::npos)
         return std::nullopt;
@@ -64,7 +64,7 @@ std::optional<std::vector<std::string>> namesOf(std::string_view path) {
     return names;
 }
 
-/// The entry of that name: the exact spelling first, else the first in another case.
+/// The folder's entry of that name: the one spelt exactly so, else the first that differs only in case.
 fs::path entryOf(const fs::path& folder, const std::string& name) {
     std::error_code ignored;
     if (fs::exists(fs::symlink_status(folder / name, ignored)))
@@ -89,7 +89,7 @@ std::optional<fs::path> find(const fs::path& root, std::string_view path) {
     return place;
 }
 
-/// What the run-time says of a file whose reading, writing or removing the system refused.
+/// The error for a file that the system refused to read, write or remove.
 FileError refusal(const fs::path& file, std::error_code reason) {
     std::error_code ignored;
     if (reason == std::errc::no_such_file_or_directory || reason == std::errc::not_a_directory)
@@ -108,8 +108,8 @@ std::error_code lastError() {
     return {errno, std::generic_category()};
 }
 
-/// Up to the first line break or the end of the file; nothing when there is no byte at all. What goes on behind the
-/// most that a line can hold is garbage, which stays unread however much it is.
+/// The text up to the first line break or the end of the file; nothing for an empty file. At most 64 KB are read,
+/// however large the file is.
 std::optional<std::string> readLine(std::istream& file) {
     constexpr std::size_t kLongestLine = 65'536;
     std::string line(kLongestLine, '\0');
@@ -176,7 +176,7 @@ std::string DriveC::firstLine(std::string_view path) const {
         throw FileError(DeviceError);
     if (!line)
         throw FileError(EndOfFile);
-    return QString::fromStdString(*line).toStdString(); // what is no UTF-8 becomes U+FFFD
+    return QString::fromStdString(*line).toStdString(); // invalid UTF-8 becomes U+FFFD
 }
 
 void DriveC::writeLine(std::string_view path, std::string_view line) const {

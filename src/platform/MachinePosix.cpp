@@ -34,7 +34,7 @@ private:
     int number_;
 };
 
-/// A new file beside the one to replace; what is left unfinished is taken away again.
+/// A new file in the folder of the one to be replaced. It is removed where it doesn't replace that one.
 class TemporarySibling {
 public:
     explicit TemporarySibling(const fs::path& folder)
@@ -115,7 +115,7 @@ fs::path driveC() {
 }
 
 void replaceFile(const fs::path& file, std::string_view bytes, fs::perms permissions) {
-    // A rename would pass over a file that its owner has closed to writing.
+    // Without this check the rename would replace a file that its owner has made read-only.
     if (::access(file.c_str(), W_OK) != 0 && errno != ENOENT)
         fail("access");
     TemporarySibling sibling(file.parent_path());

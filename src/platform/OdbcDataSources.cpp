@@ -27,7 +27,7 @@ bool isKey(const QString& key) {
            std::ranges::all_of(key, [](QChar c) { return c.isLetterOrNumber() || c == ' ' || c == '_'; });
 }
 
-/// What isn't a key with its value is passed over, as a driver does.
+/// Anything that isn't a key with a value is skipped, as drivers do.
 DataSourceValues readAttributes(const std::string& attributes, char divider) {
     DataSourceValues values;
     for (const QString& attribute : QString::fromStdString(attributes).split(QLatin1Char(divider))) {
@@ -43,7 +43,7 @@ bool isNamed(const std::string& key, const char* name) {
     return QString::fromStdString(key).compare(QLatin1String(name), Qt::CaseInsensitive) == 0;
 }
 
-/// Takes all values of that key out and gives the first.
+/// Removes all values of that key and returns the first.
 std::optional<std::string> takeOut(DataSourceValues& values, const char* key) {
     const auto isIt = [&](const auto& pair) { return isNamed(pair.first, key); };
     const auto found = std::ranges::find_if(values, isIt);
@@ -68,7 +68,7 @@ void enter(const std::string& name, const std::string& driver, const DataSourceV
     const std::string known = knownDriver(driver);
     DataSourceValues values = readAttributes(ado::odbc::driverSettings(known), ';');
     values.emplace_back(kDriverKey, known);
-    // The last value of a key is the one that stays.
+    // Of several values of a key the last one is stored.
     for (const auto& [key, value] : attributes) {
         if (!isNamed(key, kDriverKey)) {
             takeOut(values, key.c_str());
@@ -83,7 +83,7 @@ void enter(const std::string& name, const std::string& driver, const DataSourceV
 std::vector<std::string> OdbcDataSources::names() {
     std::vector<std::string> names;
     try {
-        // An environment of its own begins with the first name.
+        // The list's position belongs to the environment: a new one begins with the first name.
         const Handle environment(SQL_HANDLE_ENV, SQL_NULL_HANDLE);
         SQLSetEnvAttr(environment.get(), SQL_ATTR_ODBC_VERSION, ado::odbc::asPointer(SQL_OV_ODBC3), 0);
         std::array<SQLCHAR, 1024> name{};

@@ -6,7 +6,7 @@ namespace platform {
 
 namespace {
 
-/// A separator as one byte: the many blanks and apostrophes of Unicode are the plain ones.
+/// A separator as one byte: Unicode's many kinds of blanks and apostrophes become the ASCII ones.
 char separator(const QString& text, char otherwise) {
     if (text.isEmpty())
         return otherwise;

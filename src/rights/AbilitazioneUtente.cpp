@@ -52,7 +52,7 @@ void Rifiuta() {
 
 } // namespace
 
-// Without a rule of its own.
+// No failure rule here: errors reach the caller.
 void CaricaAbilitazione(const std::string& NomeUtente, const std::string& PaswUtente) {
     if (IsEmptyValue(NomeUtente) || IsEmptyValue(PaswUtente)) {
         Rifiuta();

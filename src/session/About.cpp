@@ -96,7 +96,8 @@ void About::ConfermaPrimaPassword() {
     ui_->txtPassword->setFocus();
 }
 
-// Also the second entry of a first password; when the two differ, the run goes on as a login by the name alone.
+// Also runs at the second entry of a first password. Where the two differ, both fields are cleared and the login goes
+// on with the name and an empty password.
 void About::ControllaPassword() {
     const std::string ripetuta = Normalizza(*ui_->txtPassword);
     const std::string prima = ui_->txtPassword1->Text();
@@ -109,7 +110,7 @@ void About::ControllaPassword() {
         platform::dialogs().message("Wrong password, retry!");
         ChiediPassword();
     }
-    // A name may have been changed since its Enter: it never reaches a statement as it was typed.
+    // Normalised again: the name may have been changed after its Enter, and quotes must not reach the statement.
     const std::string utente = Normalizza(*ui_->txtUserName);
     const std::string password = ui_->txtPassword->Text();
     switch (ControllaLogin(utente, password, IdUtenteNuovo)) {

@@ -20,13 +20,13 @@ std::string NomeIstanzaLocale() {
     return NomeTerminale + "\\sqlexpress";
 }
 
-/// Places count from 1, 0 is nowhere.
+/// The place of `pezzo`, counted from 1; 0 where it isn't found.
 std::size_t Posto(std::string_view testo, std::string_view pezzo) {
     const std::size_t indice = testo.find(pezzo);
     return indice == std::string_view::npos ? 0 : indice + 1;
 }
 
-/// What follows the place, up to the next semicolon or the end.
+/// The text from that place on, up to the next semicolon or the end.
 std::string Frammento(std::string_view testo, std::size_t posto) {
     testo.remove_prefix(posto);
     return std::string(testo.substr(0, testo.find(';')));
@@ -47,7 +47,7 @@ bool ApriDatabaseTemp() {
 
 } // namespace
 
-// Without a rule of its own: callers depend on the error.
+// No failure rule here: callers need the error.
 std::string LeggiConnessioneServer() {
     std::string connessione = Disco().firstLine("C:\\vabo\\IndirizzoServer.txt");
     NomeServer = Disco().firstLine("C:\\vabo\\NomeServer.txt");
@@ -78,7 +78,7 @@ std::string Leggi_ServerLocal() {
 std::string LeggiNomeServerLocal() {
     std::string nome;
     const bool letto = riesce([&] {
-        for (int lettura = 0; lettura < 2; ++lettura) // the second reading counts
+        for (int lettura = 0; lettura < 2; ++lettura) // read twice; the second reading counts
             nome = Disco().firstLine("C:\\vabo\\NomeServerLocal.txt");
     });
     if (letto)
@@ -108,12 +108,12 @@ std::string LeggiPasswordServer() {
     if (posto == 0)
         posto = Posto(connessione, ";Password=");
     SqlLavoro = connessione.empty() ? std::string() : connessione.substr(connessione.size() - 1);
-    if (SqlLavoro == ";") // the end of the whole text, not the end of the key
+    if (SqlLavoro == ";") // the last character of the whole text, not the value of the key
         return {};
     return Frammento(connessione, posto);
 }
 
-// What can't be opened is created once; the second failure is the failure of the whole.
+// A temporary database that can't be opened is created, and opened once more.
 bool ApriDbTemp() {
     salta([] { DbTemp.Close(); });
     if (!ServerLocaleRisponde())

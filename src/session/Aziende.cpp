@@ -17,7 +17,7 @@ std::string RigaAzienda(double numero) {
     return std::string("Select * from link_programma ") + " where  " + " id = " + ado::plainNumber(numero);
 }
 
-/// The number of the first row, where it isn't empty.
+/// Sets IdAziendaLavoro to the number in the first row, where it isn't empty.
 void PrendiNumero(const std::string& testo, const char* colonna) {
     ado::Recordset rs;
     ApriScrivibile(rs, testo, DbControllo);
@@ -44,7 +44,7 @@ void LeggiNumero(ado::Recordset& rs, const char* colonna, double& numero) {
     salta([&] { numero = ado::toDouble(rs[colonna]); });
 }
 
-/// No number is held: the terminal's row gives it, or else the lowest company.
+/// IdAziendaLavoro is empty: takes the number from the terminal's row, or else the lowest company.
 void CercaUltima(ado::Recordset& rs) {
     salta([&] {
         ApriScrivibile(rs,
@@ -88,7 +88,7 @@ std::string PrimoDatabaseAzienda() {
 
 } // namespace
 
-// The error's own description, then the end of the process.
+// An error is shown with its own description and ends the process.
 std::int32_t AziendaTerminale() {
     if (IsEmptyValue(NomeTerminale)) {
         platform::dialogs().message("Carica Nome PC");
@@ -142,7 +142,7 @@ void CancellaTerminaliVuoti() {
     });
 }
 
-// Without a rule of its own.
+// No failure rule here: errors reach the caller.
 bool EsisteDatabase() {
     ado::Connection server;
     server.Open(LeggiConnessioneServer());
@@ -154,7 +154,7 @@ bool EsisteDatabase() {
     return esiste;
 }
 
-// An error leaves the procedure with what stands.
+// An error ends the procedure; what was set before it stays.
 bool LeggiIndirizzoMdf() {
     IndirizzoMdf.clear();
     bool riga = false;

@@ -24,7 +24,7 @@ std::string IstruzioneLogin(const std::string& utente, const std::string& passwo
     return testo;
 }
 
-/// A null is not true.
+/// False for null.
 bool Vero(const ado::Value& valore) {
     return !valore.isNull() && ado::toBoolean(valore);
 }
@@ -36,7 +36,7 @@ EsitoLogin ControllaRiga(ado::Recordset& rs, const std::string& password, double
         IdUtenteNuovo = ado::toDouble(rs["IdAutonumber"]);
         return EsitoLogin::PrimaPassword;
     }
-    // The server's comparison is looser in case and trailing blanks.
+    // Compared again here: the server ignores case and trailing blanks.
     if (Pezzo(rs["PaswUtente"]) != password)
         return EsitoLogin::Rifiutato;
     return Vero(rs["Disabilita"]) ? EsitoLogin::Disabilitato : EsitoLogin::Riconosciuto;
@@ -54,7 +54,7 @@ void PreparaLogin() {
     ApriAzienda(IdAziendaScelta);
 }
 
-// Any failure is the answer.
+// Any failure means no.
 bool ServerRisponde() {
     const bool risponde = !IsEmptyValue(StringaAzienda) && riesce([] {
         ado::Connection prova;
@@ -86,7 +86,7 @@ bool LoginSenzaUtenti() {
     return nessuno;
 }
 
-// Blanks are underscores by then: there is none left to trim.
+// No trimming: PulisciNome has made underscores of the blanks.
 std::string Normalizzato(const std::string& testo) {
     std::string pulito = testo;
     return Minuscolo(PulisciNome(pulito));

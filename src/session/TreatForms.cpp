@@ -21,12 +21,12 @@ Q_LOGGING_CATEGORY(kForme, "vabo.forms", QtWarningMsg)
 constexpr const char* kConsole = "Avvio_Azienda";
 
 struct RigaForm {
-    std::string_view nome; ///< asked for, letter for letter
+    std::string_view nome; ///< as the asker gives it, compared letter for letter
     std::string_view form;
     bool siRiattiva;
 };
 
-// The server folder dialog answers to two names, and only to the first when it is to come back.
+// Two names open the server folder dialog; only under the first it is shown again when the form above it closes.
 constexpr std::array<RigaForm, 15> kForm = {{
     {"caricasedecentrale", "caricasedecentrale", true},
     {"CondizioniPagamento", "CondizioniPagamento", true},
@@ -115,7 +115,7 @@ void ChiudiForm() {
     RiattivaForm(NomeInCima());
 }
 
-// The top alone is looked at, whatever lies under it.
+// Looks at the top only; the form may also be further down.
 bool FormInCima(const std::string& nome) {
     Appoggio = NomeInCima();
     return Minuscolo(Appoggio) == Minuscolo(nome);

@@ -38,16 +38,19 @@ public:
     ~Console() {
         program_.reset();
         vabo::ChiudiRecordset();
-        for (ado::Connection* connection : {&vabo::DbAzienda, &vabo::DbControllo, &vabo::DbTemp})
-            if (connection->IsOpen())
+        for (ado::Connection* connection : {&vabo::DbAzienda, &vabo::DbControllo, &vabo::DbTemp}) {
+            if (connection->IsOpen()) {
                 connection->Close();
+            }
+        }
     }
     Console(const Console&) = delete;
     Console& operator=(const Console&) = delete;
 
     controls::Form& open() {
-        if (!vabo::ApriForm(kForm, true))
+        if (!vabo::ApriForm(kForm, true)) {
             throw std::runtime_error("the console isn't there");
+        }
         QCoreApplication::processEvents();
         return *program_->forms().loaded(kForm);
     }
@@ -72,8 +75,9 @@ std::unique_ptr<Console>& held() {
 }
 
 Console& console() {
-    if (!held())
+    if (!held()) {
         held() = std::make_unique<Console>();
+    }
     return *held();
 }
 
@@ -147,8 +151,9 @@ BENCHMARK(OpenTheListOfAPicker)->Apply(bench::inPairs);
 
 int main(int argc, char** argv) {
     benchmark::Initialize(&argc, argv);
-    if (benchmark::ReportUnrecognizedArguments(argc, argv))
+    if (benchmark::ReportUnrecognizedArguments(argc, argv)) {
         return 1;
+    }
     benchmark::RunSpecifiedBenchmarks();
     held().reset();
 }

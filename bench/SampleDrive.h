@@ -18,8 +18,9 @@ inline std::string terminalName() {
     gethostname(host.data(), host.size() - 1);
     std::string terminal(host.data());
     terminal = terminal.substr(0, terminal.find('.'));
-    for (char& c : terminal)
+    for (char& c : terminal) {
         c = c == '-' ? '_' : c;
+    }
     return terminal;
 }
 

@@ -24,19 +24,22 @@ Start started(const std::string& program) {
             .count();
     const std::string command = std::string(PROBE_FOLDER) + "/" + program + " " + std::to_string(called);
     FILE* pipe = popen(command.c_str(), "r"); // NOLINT(bugprone-command-processor,cert-env33-c): our own program
-    if (!pipe)
+    if (!pipe) {
         throw std::runtime_error("can't start " + program);
+    }
     Start start;
     std::array<char, 256> line{};
     while (std::fgets(line.data(), line.size(), pipe)) {
         double number = 0;
-        if (std::sscanf(line.data(), "shown %lf", &number) == 1)
+        if (std::sscanf(line.data(), "shown %lf", &number) == 1) {
             start.shown = number / 1e9;
-        else if (std::sscanf(line.data(), "ApriAzienda %lf", &number) == 1)
+        } else if (std::sscanf(line.data(), "ApriAzienda %lf", &number) == 1) {
             start.companies.push_back(number);
+        }
     }
-    if (pclose(pipe) != 0 || start.shown == 0)
+    if (pclose(pipe) != 0 || start.shown == 0) {
         throw std::runtime_error(program + " didn't show its window");
+    }
     return start;
 }
 
@@ -49,8 +52,9 @@ void StartToLogin(benchmark::State& state) {
         state.SetIterationTime(ours.shown);
         state.counters["empty_ms"] = empty.shown * 1e3;
         state.counters["ratio"] = ours.shown / empty.shown;
-        for (std::size_t i = 0; i < ours.companies.size(); ++i)
+        for (std::size_t i = 0; i < ours.companies.size(); ++i) {
             state.counters["company" + std::to_string(i + 1) + "_ms"] = ours.companies[i];
+        }
     }
 }
 BENCHMARK(StartToLogin)->Apply(bench::inPairs);

@@ -11,8 +11,9 @@
 #include <cstdlib>
 
 int main(int argc, char** argv) {
-    if (argc < 2)
+    if (argc < 2) {
         return 2;
+    }
     const long long called = std::atoll(argv[1]);
     QApplication application(argc, argv);
     QWidget window;

@@ -31,8 +31,9 @@ std::string driverText() {
 }
 
 void needed(SQLRETURN code, const char* call) {
-    if (!SQL_SUCCEEDED(code))
+    if (!SQL_SUCCEEDED(code)) {
         throw std::runtime_error(std::string(call) + " failed");
+    }
 }
 
 SQLCHAR* narrow(std::string& text) {
@@ -97,8 +98,9 @@ std::string update(int value) {
 void fill(ado::Connection& connection) {
     connection.Execute("IF OBJECT_ID('conti') IS NOT NULL DROP TABLE conti");
     connection.Execute("CREATE TABLE conti (id int NOT NULL PRIMARY KEY, saldo int NOT NULL)");
-    for (int id = 1; id <= 100; ++id)
+    for (int id = 1; id <= 100; ++id) {
         connection.Execute("INSERT INTO conti (id, saldo) VALUES (" + std::to_string(id) + ", 0)");
+    }
 }
 
 void RepeatedUpdate(benchmark::State& state) {
@@ -113,12 +115,14 @@ void RepeatedUpdate(benchmark::State& state) {
         takeTurns(
             state,
             [&] {
-                for (int i = 0; i < kUpdates; ++i)
+                for (int i = 0; i < kUpdates; ++i) {
                     connection.Execute(update(++value));
+                }
             },
             [&] {
-                for (int i = 0; i < kUpdates; ++i)
+                for (int i = 0; i < kUpdates; ++i) {
                     statement.run(update(++value));
+                }
             });
     }
 }
@@ -164,8 +168,9 @@ int main(int argc, char** argv) {
         ++argv;
     }
     benchmark::Initialize(&argc, argv);
-    if (benchmark::ReportUnrecognizedArguments(argc, argv))
+    if (benchmark::ReportUnrecognizedArguments(argc, argv)) {
         return 1;
+    }
     benchmark::RunSpecifiedBenchmarks();
     return 0;
 }

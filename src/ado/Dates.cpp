@@ -41,47 +41,56 @@ std::optional<std::vector<Piece>> pieces(std::string_view text) {
     std::vector<Piece> found;
     std::size_t at = 0;
     const auto skipBlanks = [&] {
-        while (at < text.size() && isSpace(text[at]))
+        while (at < text.size() && isSpace(text[at])) {
             ++at;
+        }
     };
     for (;;) {
         skipBlanks();
         Piece piece;
         for (; at < text.size() && isDigit(text[at]); ++at, ++piece.digits) {
-            if (piece.digits == 4)
+            if (piece.digits == 4) {
                 return std::nullopt;
+            }
             piece.number = piece.number * 10 + (text[at] - '0');
         }
-        if (piece.digits == 0)
+        if (piece.digits == 0) {
             return std::nullopt;
+        }
         const std::size_t end = at;
         skipBlanks();
-        if (at < text.size() && std::string_view("/-.:").find(text[at]) != std::string_view::npos)
+        if (at < text.size() && std::string_view("/-.:").find(text[at]) != std::string_view::npos) {
             piece.separator = text[at++];
-        else if (at < text.size() && at > end && isDigit(text[at]))
+        } else if (at < text.size() && at > end && isDigit(text[at])) {
             piece.separator = ' ';
+        }
         found.push_back(piece);
-        if (at == text.size())
+        if (at == text.size()) {
             return piece.separator == 0 ? std::optional(found) : std::nullopt;
-        if (piece.separator == 0)
+        }
+        if (piece.separator == 0) {
             return std::nullopt;
+        }
     }
 }
 
 std::optional<int> yearOf(const Piece& piece) {
-    if (piece.digits >= 3)
+    if (piece.digits >= 3) {
         return piece.number >= 100 ? std::optional(piece.number) : std::nullopt;
+    }
     return piece.number <= 29 ? 2000 + piece.number : 1900 + piece.number;
 }
 
 std::optional<Date> dateOf(std::optional<int> year, const Piece& month, const Piece& day) {
     using namespace std::chrono;
-    if (!year || month.digits > 2 || day.digits > 2)
+    if (!year || month.digits > 2 || day.digits > 2) {
         return std::nullopt;
+    }
     const year_month_day date(std::chrono::year(*year), std::chrono::month(static_cast<unsigned>(month.number)),
                               std::chrono::day(static_cast<unsigned>(day.number)));
-    if (!date.ok())
+    if (!date.ok()) {
         return std::nullopt;
+    }
     return Date{static_cast<std::int32_t>(sys_days(date).time_since_epoch().count()), 0};
 }
 
@@ -101,8 +110,9 @@ std::optional<Date> inOrder(Order order, const Piece& a, const Piece& b, const P
 std::optional<Date> fullDate(const Piece& a, const Piece& b, const Piece& c) {
     for (const Order order :
          {regionalSettings().dateOrder, Order::DayMonthYear, Order::MonthDayYear, Order::YearMonthDay}) {
-        if (const auto date = inOrder(order, a, b, c))
+        if (const auto date = inOrder(order, a, b, c)) {
             return date;
+        }
     }
     return dateOf(yearOf(a), c, b);
 }
@@ -115,16 +125,18 @@ std::optional<Date> shortDate(const Piece& a, const Piece& b) {
     for (const auto& date :
          {dayFirst ? dateOf(year, b, a) : dateOf(year, a, b), dayFirst ? dateOf(year, a, b) : dateOf(year, b, a),
           dateOf(yearOf(b), a, first), dateOf(yearOf(a), b, first)}) {
-        if (date)
+        if (date) {
             return date;
+        }
     }
     return std::nullopt;
 }
 
 bool dividedBy(const std::vector<Piece>& parts, std::size_t from, std::size_t to, std::string_view separators) {
     for (std::size_t i = from; i + 1 < to; ++i) {
-        if (separators.find(parts[i].separator) == std::string_view::npos)
+        if (separators.find(parts[i].separator) == std::string_view::npos) {
             return false;
+        }
     }
     return true;
 }
@@ -133,41 +145,49 @@ enum class Half { None, Morning, Afternoon };
 
 std::optional<std::int32_t> timeOf(const std::vector<Piece>& parts, std::size_t from, Half half) {
     const std::size_t count = parts.size() - from;
-    if (count > 3 || (count < 2 && half == Half::None) || !dividedBy(parts, from, parts.size(), ":."))
+    if (count > 3 || (count < 2 && half == Half::None) || !dividedBy(parts, from, parts.size(), ":.")) {
         return std::nullopt;
+    }
     std::array<int, 3> units{};
     for (std::size_t i = 0; i < count; ++i) {
-        if (parts[from + i].digits > 2)
+        if (parts[from + i].digits > 2) {
             return std::nullopt;
+        }
         units[i] = parts[from + i].number;
     }
     auto& [hour, minute, second] = units;
     if (half != Half::None) {
-        if (hour > 12)
+        if (hour > 12) {
             return std::nullopt;
+        }
         hour = hour % 12 + (half == Half::Afternoon ? 12 : 0);
     }
-    if (hour > 23 || minute > 59 || second > 59)
+    if (hour > 23 || minute > 59 || second > 59) {
         return std::nullopt;
+    }
     return ((hour * 60 + minute) * 60 + second) * kMillisecondsOfSecond;
 }
 
 std::optional<Date> dateAlone(const std::vector<Piece>& parts, std::size_t count) {
-    if (!dividedBy(parts, 0, count, "/-. "))
+    if (!dividedBy(parts, 0, count, "/-. ")) {
         return std::nullopt;
-    if (count == 3)
+    }
+    if (count == 3) {
         return fullDate(parts[0], parts[1], parts[2]);
+    }
     return count == 2 ? shortDate(parts[0], parts[1]) : std::nullopt;
 }
 
 std::optional<Date> dateAndTime(const std::vector<Piece>& parts, Half half) {
     for (const std::size_t count : {std::size_t{3}, std::size_t{2}}) {
-        if (parts.size() <= count || parts[count - 1].separator != ' ')
+        if (parts.size() <= count || parts[count - 1].separator != ' ') {
             continue;
+        }
         auto date = dateAlone(parts, count);
         const auto time = timeOf(parts, count, half);
-        if (!date || !time)
+        if (!date || !time) {
             continue;
+        }
         date->millisecond = *time;
         return date;
     }
@@ -230,8 +250,9 @@ std::string formatDay(Date date) {
 } // namespace
 
 Date today() {
-    if (fixedToday())
+    if (fixedToday()) {
         return *fixedToday();
+    }
     const std::time_t now = std::chrono::system_clock::to_time_t(std::chrono::system_clock::now());
     std::tm local{};
 #ifdef _WIN32
@@ -251,18 +272,22 @@ std::optional<Date> parseDate(std::string_view text) {
     const Half half = takeHalf(plain);
     spellOutMonth(plain);
     const auto parts = pieces(plain);
-    if (!parts)
+    if (!parts) {
         return std::nullopt;
-    if (const auto time = timeOf(*parts, 0, half))
+    }
+    if (const auto time = timeOf(*parts, 0, half)) {
         return Date{kZeroDay, *time};
-    if (const auto date = dateAndTime(*parts, half))
+    }
+    if (const auto date = dateAndTime(*parts, half)) {
         return date;
+    }
     return half == Half::None ? dateAlone(*parts, parts->size()) : std::nullopt;
 }
 
 std::string formatDate(Date date) {
-    if (date.day == kZeroDay)
+    if (date.day == kZeroDay) {
         return formatTime(date.millisecond);
+    }
     return date.millisecond == 0 ? formatDay(date) : formatDay(date) + " " + formatTime(date.millisecond);
 }
 

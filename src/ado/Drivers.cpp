@@ -38,12 +38,13 @@ std::string folderName(std::string_view server) {
     std::string name;
     for (const char c : server) {
         const auto byte = static_cast<unsigned char>(c);
-        if (c == '\\')
+        if (c == '\\') {
             name += '$';
-        else if (byte < 0x20 || kUnsafe.find(c) != std::string_view::npos || (onlyDots && c == '.'))
+        } else if (byte < 0x20 || kUnsafe.find(c) != std::string_view::npos || (onlyDots && c == '.')) {
             (name += '%').append({kHexDigits[byte >> 4U], kHexDigits[byte & 15U]});
-        else
+        } else {
             name += c;
+        }
     }
     return name;
 }
@@ -55,14 +56,16 @@ bool anyOf(std::string_view text, std::initializer_list<std::string_view> words)
 void checkProvider(const ConnectionString& text) {
     const std::string provider = text.provider();
     if (!provider.empty() &&
-        !anyOf(provider, {"SQLOLEDB", "SQLOLEDB.1", "SQLNCLI", "SQLNCLI10", "SQLNCLI11", "MSOLEDBSQL", "MSDASQL"}))
+        !anyOf(provider, {"SQLOLEDB", "SQLOLEDB.1", "SQLNCLI", "SQLNCLI10", "SQLNCLI11", "MSOLEDBSQL", "MSDASQL"})) {
         throw Error(kProviderNotFound);
+    }
 }
 
 void checkSecurity(const ConnectionString& text) {
     const auto security = text.value("Integrated Security");
-    if (security && !anyOf(*security, {"SSPI", "true", "yes", "false", "no"}))
+    if (security && !anyOf(*security, {"SSPI", "true", "yes", "false", "no"})) {
         throw Error(kMultipleStep);
+    }
 }
 
 Driver& embeddedDriver() {
@@ -86,17 +89,20 @@ fs::path mapServerPath(std::string_view path) {
 }
 
 fs::path instanceFolder(std::string_view server) {
-    if (!home().instances)
+    if (!home().instances) {
         return {};
+    }
     const fs::path instances = home().instances();
     const std::string name = folderName(server);
     const fs::path spelt = instances / fromUtf8(name);
     std::error_code ignored;
-    if (name.empty() || fs::exists(spelt, ignored))
+    if (name.empty() || fs::exists(spelt, ignored)) {
         return spelt;
+    }
     for (const fs::directory_entry& entry : fs::directory_iterator(instances, ignored)) {
-        if (sameName(toUtf8(entry.path().filename()), name))
+        if (sameName(toUtf8(entry.path().filename()), name)) {
             return entry.path();
+        }
     }
     return spelt;
 }

@@ -15,8 +15,9 @@ char32_t takeCharacter(std::string_view& text) {
     std::size_t size = lead < 0x80 ? 1 : lead >= 0xF0 ? 4 : lead >= 0xE0 ? 3 : lead >= 0xC0 ? 2 : 1;
     size = std::min(size, text.size());
     char32_t character = 0;
-    for (const char c : text.substr(0, size))
+    for (const char c : text.substr(0, size)) {
         character = character << 8U | static_cast<unsigned char>(c);
+    }
     text.remove_prefix(size);
     return character;
 }
@@ -24,13 +25,15 @@ char32_t takeCharacter(std::string_view& text) {
 /// Whether a character is in the list after "["; takes the list up to its "]".
 bool takeList(std::string_view& pattern, char32_t character) {
     const auto end = pattern.find(']');
-    if (end == std::string_view::npos)
+    if (end == std::string_view::npos) {
         throw Error(kInvalidPattern, "Invalid pattern string");
+    }
     std::string_view list = pattern.substr(0, end);
     pattern.remove_prefix(end + 1);
     const bool negated = list.size() > 1 && list.front() == '!';
-    if (negated)
+    if (negated) {
         list.remove_prefix(1);
+    }
     bool found = false;
     while (!list.empty()) {
         const char32_t low = takeCharacter(list);
@@ -66,8 +69,9 @@ bool matches(std::string_view text, std::string_view pattern) {
     std::string_view retryText, retryPattern;
     bool retry = false;
     for (;;) {
-        while (pattern.starts_with("[]"))
+        while (pattern.starts_with("[]")) {
             pattern.remove_prefix(2);
+        }
         if (pattern.starts_with('*')) {
             pattern.remove_prefix(1);
             retryText = text;
@@ -75,12 +79,15 @@ bool matches(std::string_view text, std::string_view pattern) {
             retry = true;
             continue;
         }
-        if (text.empty() && pattern.empty())
+        if (text.empty() && pattern.empty()) {
             return true;
-        if (!text.empty() && !pattern.empty() && takeOne(text, pattern))
+        }
+        if (!text.empty() && !pattern.empty() && takeOne(text, pattern)) {
             continue;
-        if (!retry || retryText.empty())
+        }
+        if (!retry || retryText.empty()) {
             return false;
+        }
         takeCharacter(retryText);
         text = retryText;
         pattern = retryPattern;

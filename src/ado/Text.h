@@ -39,8 +39,9 @@ constexpr std::string_view trimmed(std::string_view text, std::string_view blank
 
 /// Appends a piece, after a divider where the list isn't empty.
 inline void addPiece(std::string& list, std::string_view divider, std::string_view piece) {
-    if (!list.empty())
+    if (!list.empty()) {
         list += divider;
+    }
     list += piece;
 }
 

@@ -15,8 +15,9 @@ Program::Program(int& argc, char** argv, controls::style::Scheme scheme) : appli
     engine::refuseTooLargeFiles();
     // Between two forms only the hidden start form may be left, which must not end the process.
     QApplication::setQuitOnLastWindowClosed(false);
-    if (italian_.load(QStringLiteral("qtbase_it"), QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
+    if (italian_.load(QStringLiteral("qtbase_it"), QLibraryInfo::path(QLibraryInfo::TranslationsPath))) {
         QApplication::installTranslator(&italian_);
+    }
     controls::style::install(application_, scheme);
     QApplication::setWindowIcon(controls::Mark::icon());
 

@@ -51,8 +51,9 @@ DataCombo::DataCombo(QWidget* parent) : QComboBox(parent), list_(new ListModel(t
 }
 
 void DataCombo::setRowSource(DataControl* source) {
-    if (source_ != nullptr)
+    if (source_ != nullptr) {
         source_->disconnect(this);
+    }
     source_ = source;
     if (source_ != nullptr) {
         const auto refill = [this] { source_->byUser([this] { ReFill(); }); };
@@ -82,16 +83,18 @@ void DataCombo::setText(const std::string& text) {
 
 void DataCombo::restoreChosen() {
     completer()->popup()->hide();
-    if (currentText() == chosen_)
+    if (currentText() == chosen_) {
         return;
+    }
     setEditText(chosen_);
     selectWhole();
 }
 
 // The whole text is selected, as when the focus comes, so that typing replaces it.
 void DataCombo::selectWhole() {
-    if (hasFocus())
+    if (hasFocus()) {
         lineEdit()->selectAll();
+    }
 }
 
 bool DataCombo::TabStop() const {
@@ -123,8 +126,9 @@ void DataCombo::setBoundText(const std::string& key) {
 
 void DataCombo::picked(int row) {
     // When the field is left, the toolkit emits this for a text that is in the list, which isn't a pick.
-    if (leaving_)
+    if (leaving_) {
         return;
+    }
     pickedRow_ = row;
     chosen_ = list_->textAt(row);
     emit Click(List);
@@ -160,8 +164,9 @@ void DataCombo::inputMethodEvent(QInputMethodEvent* event) {
 void DataCombo::highlightOnlyMatch() {
     QAbstractItemView* found = completer()->popup();
     const QAbstractItemModel* matches = completer()->completionModel();
-    if (!found->isVisible() || matches->rowCount() != 1)
+    if (!found->isVisible() || matches->rowCount() != 1) {
         return;
+    }
     const QSignalBlocker quiet(completer()); // or the completer would put the row's text into the field
     found->setCurrentIndex(matches->index(0, 0));
 }
@@ -177,13 +182,15 @@ bool DataCombo::keyInSearch(const QKeyEvent& key) {
         restoreChosen();
         return true;
     case Qt::Key_Tab:
-        if (plain && !highlighted)
+        if (plain && !highlighted) {
             return false;
+        }
         break;
     case Qt::Key_Return:
     case Qt::Key_Enter:
-        if (plain && highlighted)
+        if (plain && highlighted) {
             return false;
+        }
         break;
     default:
         return false;
@@ -240,15 +247,17 @@ void DataCombo::widenPopup() {
 }
 
 bool DataCombo::eventFilter(QObject* watched, QEvent* event) {
-    if (watched == lineEdit() && event->type() == QEvent::MouseButtonPress)
+    if (watched == lineEdit() && event->type() == QEvent::MouseButtonPress) {
         emit Click(Edit);
+    }
     if (watched == lineEdit() && event->type() == QEvent::MouseButtonRelease && selectAtRelease_) {
         selectAtRelease_ = false;
         lineEdit()->selectAll();
     }
     if (watched == completer()->popup() && event->type() == QEvent::KeyPress &&
-        keyInSearch(static_cast<const QKeyEvent&>(*event)))
+        keyInSearch(static_cast<const QKeyEvent&>(*event))) {
         return true;
+    }
     return QComboBox::eventFilter(watched, event);
 }
 

@@ -21,15 +21,17 @@ void waitUntilExposed(const QWidget& form) {
     constexpr int kSliceMilliseconds = 20;
     const QDeadlineTimer deadline(kLongestMilliseconds);
     const QWindow* window = form.windowHandle();
-    while (window != nullptr && !window->isExposed() && !deadline.hasExpired())
+    while (window != nullptr && !window->isExposed() && !deadline.hasExpired()) {
         QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents, kSliceMilliseconds);
+    }
 }
 
 QString spokenName(QString caption) {
     caption.remove(QLatin1Char('&'));
     caption = caption.trimmed();
-    while (caption.endsWith(QLatin1Char(':')))
+    while (caption.endsWith(QLatin1Char(':'))) {
         caption = caption.chopped(1).trimmed();
+    }
     return caption;
 }
 
@@ -42,8 +44,9 @@ Form::Form(const char* name) {
 
 void Form::runLoad() {
     // Without this, Enter presses buttons only in a QDialog.
-    for (auto* button : findChildren<QPushButton*>())
+    for (auto* button : findChildren<QPushButton*>()) {
         button->setAutoDefault(true);
+    }
     nameForAssistiveTools();
     run([this] { Load(); });
 }
@@ -59,8 +62,9 @@ void Form::runUnload() {
 }
 
 void Form::run(const std::function<void()>& event) {
-    if (!unloaded_)
+    if (!unloaded_) {
         guarded(event);
+    }
 }
 
 void Form::chain(std::vector<KeyRow> rows) {
@@ -69,8 +73,9 @@ void Form::chain(std::vector<KeyRow> rows) {
 }
 
 void Form::Refresh() {
-    if (!isVisible())
+    if (!isVisible()) {
         return;
+    }
     waitUntilExposed(*this);
     repaint();
     QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
@@ -93,17 +98,22 @@ void Form::setHelpContext(int form, int controls) {
 
 void Form::closeEvent(QCloseEvent* event) {
     event->ignore();
-    if (isVisible()) // ignored where another event has hidden the window meanwhile
+    if (isVisible()) { // ignored where another event has hidden the window meanwhile
         UnloadMe();
+    }
 }
 
 void Form::nameForAssistiveTools() {
-    for (const QLabel* label : findChildren<QLabel*>())
-        if (label->buddy() != nullptr && label->buddy()->accessibleName().isEmpty())
+    for (const QLabel* label : findChildren<QLabel*>()) {
+        if (label->buddy() != nullptr && label->buddy()->accessibleName().isEmpty()) {
             label->buddy()->setAccessibleName(spokenName(label->text()));
-    for (auto* button : findChildren<QAbstractButton*>())
-        if (button->accessibleName().isEmpty())
+        }
+    }
+    for (auto* button : findChildren<QAbstractButton*>()) {
+        if (button->accessibleName().isEmpty()) {
             button->setAccessibleName(spokenName(button->text()));
+        }
+    }
 }
 
 } // namespace controls

@@ -39,10 +39,11 @@ protected:
     void on(Sender* sender, void (Owner::*signal)(Values...), Handler handler) {
         connect(sender, signal, this, [this, handler](Values... values) {
             run([&] {
-                if constexpr (std::is_invocable_v<Handler, Values...>)
+                if constexpr (std::is_invocable_v<Handler, Values...>) {
                     handler(values...);
-                else
+                } else {
                     handler();
+                }
             });
         });
     }

@@ -20,8 +20,9 @@ ProgressBar::ProgressBar(QWidget* parent) : QProgressBar(parent) {
 
 void ProgressBar::setValue(double value) {
     const bool inside = value >= kLowest && value <= kHighest; // false for NaN
-    if (!inside)
+    if (!inside) {
         throw invalidPropertyValue();
+    }
     value_ = value;
     QProgressBar::setValue(static_cast<int>(std::lround(value)));
 }

@@ -38,8 +38,9 @@ void fillRoomOfIcon(QMessageBox& box) {
         grid->removeItem(room);
         delete room;
     }
-    if (auto* buttons = box.findChild<QDialogButtonBox*>())
+    if (auto* buttons = box.findChild<QDialogButtonBox*>()) {
         buttons->setCenterButtons(true);
+    }
 }
 
 /// Shows a box with its buttons; true when the first one was chosen.
@@ -59,12 +60,14 @@ bool ask(const std::string& text, QMessageBox::Icon icon, const QStringList& cap
         buttons.last()->setObjectName(caption);
     }
     box.setDefaultButton(buttons.first());
-    if (icon == QMessageBox::NoIcon)
+    if (icon == QMessageBox::NoIcon) {
         fillRoomOfIcon(box);
-    if (escToo)
+    }
+    if (escToo) {
         box.setEscapeButton(buttons.last());
-    else
+    } else {
         box.setWindowFlags(Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint);
+    }
     box.exec();
     return box.clickedButton() == buttons.first();
 }
@@ -100,14 +103,17 @@ std::string QtDialogs::folder(const std::string& title) {
     box.setOption(QFileDialog::ShowDirsOnly);
     box.setLabelText(QFileDialog::Accept, kOk);
     box.setLabelText(QFileDialog::Reject, kAnnulla);
-    if (box.exec() != QDialog::Accepted)
+    if (box.exec() != QDialog::Accepted) {
         return {};
+    }
     const QString chosen = box.selectedFiles().value(0);
     const QString inside = QDir(root).relativeFilePath(chosen);
-    if (inside == QLatin1String("."))
+    if (inside == QLatin1String(".")) {
         return "C:\\";
-    if (inside.startsWith(QLatin1String("..")) || QDir::isAbsolutePath(inside))
+    }
+    if (inside.startsWith(QLatin1String("..")) || QDir::isAbsolutePath(inside)) {
         return QDir::toNativeSeparators(chosen).toStdString();
+    }
     return "C:\\" + QString(inside).replace(QLatin1Char('/'), QLatin1Char('\\')).toStdString();
 }
 

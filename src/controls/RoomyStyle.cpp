@@ -38,8 +38,9 @@ QColor buttonFill(const QStyleOption& option) {
     constexpr int kHover = 104;
     constexpr int kPressed = 112;
     const QColor plain = option.palette.color(QPalette::Button);
-    if (has(option, QStyle::State_Sunken) || has(option, QStyle::State_On))
+    if (has(option, QStyle::State_Sunken) || has(option, QStyle::State_On)) {
         return plain.darker(kPressed);
+    }
     return has(option, QStyle::State_MouseOver) && has(option, QStyle::State_Enabled) ? plain.darker(kHover) : plain;
 }
 
@@ -63,8 +64,9 @@ void drawCheckBox(QPainter& painter, const QStyleOption& option) {
     const bool on = has(option, QStyle::State_On);
     const bool greyed = has(option, QStyle::State_NoChange);
     drawFrame(painter, option, option.palette.color(QPalette::Base), has(option, QStyle::State_HasFocus));
-    if (!on && !greyed)
+    if (!on && !greyed) {
         return;
+    }
     const QRectF box(option.rect);
     const auto at = [&](double x, double y) { return box.topLeft() + QPointF(x * box.width(), y * box.height()); };
     painter.save();
@@ -72,10 +74,11 @@ void drawCheckBox(QPainter& painter, const QStyleOption& option) {
     QPen pen(option.palette.color(on ? QPalette::Text : QPalette::PlaceholderText), 2);
     pen.setCapStyle(Qt::RoundCap);
     painter.setPen(pen);
-    if (on)
+    if (on) {
         painter.drawPolyline(QPolygonF{at(0.25, 0.5), at(0.43, 0.7), at(0.75, 0.3)});
-    else
+    } else {
         painter.drawLine(at(0.28, 0.5), at(0.72, 0.5));
+    }
     painter.restore();
 }
 
@@ -115,20 +118,24 @@ int RoomyStyle::pixelMetric(PixelMetric metric, const QStyleOption* option, cons
 
 int RoomyStyle::styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
                           QStyleHintReturn* more) const {
-    if (hint == SH_DialogButtonBox_ButtonsHaveIcons)
+    if (hint == SH_DialogButtonBox_ButtonsHaveIcons) {
         return 0;
+    }
     return QProxyStyle::styleHint(hint, option, widget, more);
 }
 
 QSize RoomyStyle::sizeFromContents(ContentsType type, const QStyleOption* option, const QSize& contents,
                                    const QWidget* widget) const {
     QSize size = QProxyStyle::sizeFromContents(type, option, contents, widget);
-    if (type == CT_LineEdit || type == CT_ComboBox || type == CT_PushButton)
+    if (type == CT_LineEdit || type == CT_ComboBox || type == CT_PushButton) {
         size.setHeight(std::max(size.height(), kControlHeight));
-    if (type == CT_PushButton)
+    }
+    if (type == CT_PushButton) {
         size.rwidth() += kButtonPadding;
-    if (type == CT_ItemViewItem)
+    }
+    if (type == CT_ItemViewItem) {
         size.setHeight(std::max(size.height(), kRowHeight));
+    }
     return size;
 }
 
@@ -156,8 +163,9 @@ void RoomyStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* opt
     const bool focused = has(*option, State_HasFocus);
     if (element == PE_PanelLineEdit) {
         const auto* field = qstyleoption_cast<const QStyleOptionFrame*>(option);
-        if (field != nullptr && field->lineWidth > 0)
+        if (field != nullptr && field->lineWidth > 0) {
             drawFrame(*painter, *option, option->palette.color(QPalette::Base), focused);
+        }
     } else if (element == PE_PanelButtonCommand && !isFlat(*option)) {
         drawFrame(*painter, *option, buttonFill(*option), focused);
     } else if (element == PE_IndicatorCheckBox) {

@@ -25,8 +25,9 @@ void TextBox::followFocus(QWidget* from, QWidget* to) {
 
 void TextBox::mouseReleaseEvent(QMouseEvent* event) {
     QLineEdit::mouseReleaseEvent(event);
-    if (selectAtRelease_ && !hasSelectedText())
+    if (selectAtRelease_ && !hasSelectedText()) {
         selectAll();
+    }
     selectAtRelease_ = false;
 }
 

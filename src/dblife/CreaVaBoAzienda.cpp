@@ -74,8 +74,9 @@ void ImpostaOpzioni(const std::string& nome, const std::string& inizioDellaPrima
     for (const Opzione& opzione : kOpzioni) {
         conProcedura = conProcedura && EseguiProcedura(inizio + "sp_dboption N'" + nome + "', N'" + opzione.nome +
                                                        "', N'" + opzione.valore + "'");
-        if (!conProcedura)
+        if (!conProcedura) {
             Esegui("ALTER DATABASE [" + nome + "] SET " + opzione.istruzione);
+        }
         inizio = " ";
     }
 }

@@ -58,8 +58,9 @@ void FormRegistraAziendeNeiDns::CollegaCampi() {
 void FormRegistraAziendeNeiDns::Load() {
     PrendiAziendaScelta();
     for (QWidget* campo : std::initializer_list<QWidget*>{ui_->txtUID, ui_->txtPWD, ui_->cboDrivers, ui_->txtServer,
-                                                          ui_->txtDatabase, ui_->Nome_Odbc, ui_->Nome_Az})
+                                                          ui_->txtDatabase, ui_->Nome_Odbc, ui_->Nome_Az}) {
         campo->setEnabled(true);
+    }
     GetDSNsAndDrivers();
     MostraCampi(CampiIniziali());
     NomeDsn = ui_->Nome_Odbc->Text();
@@ -73,8 +74,9 @@ void FormRegistraAziendeNeiDns::GetDSNsAndDrivers() {
     ui_->cboDSNList->clear();
     ui_->cboDSNList->addItem(kNessuna);
     salta([this] {
-        for (const std::string& nome : platform::dataSources().names())
+        for (const std::string& nome : platform::dataSources().names()) {
             ui_->cboDSNList->addItem(QString::fromStdString(nome));
+        }
     });
     ui_->cboDSNList->setCurrentIndex(0);
 }
@@ -106,8 +108,9 @@ void FormRegistraAziendeNeiDns::ScegliFonte() {
 }
 
 void FormRegistraAziendeNeiDns::ScegliDriver() {
-    if (!IsEmptyValue(ui_->cboDrivers->currentText().toStdString()))
+    if (!IsEmptyValue(ui_->cboDrivers->currentText().toStdString())) {
         VaiA(*ui_->txtServer);
+    }
 }
 
 // Where a data source is chosen, driver and server are locked and the focus skips them.
@@ -118,8 +121,9 @@ void FormRegistraAziendeNeiDns::LasciaPassword() {
 
 void FormRegistraAziendeNeiDns::ProvaServer() {
     const CampiAzienda campi = Campi();
-    if (IsEmptyValue(campi.Database) && IsEmptyValue(campi.Server))
+    if (IsEmptyValue(campi.Database) && IsEmptyValue(campi.Server)) {
         return;
+    }
     StringaBase = StringaServer(campi);
     StringaDb = StringaBase;
     if (!Prova(StringaBase)) {
@@ -134,8 +138,9 @@ void FormRegistraAziendeNeiDns::ProvaServer() {
 // From ScriviPrimaRiga on failing statements are skipped.
 void FormRegistraAziendeNeiDns::Registra() {
     const CampiAzienda campi = Campi();
-    if (IsEmptyValue(campi.Database) || IsEmptyValue(campi.Server))
+    if (IsEmptyValue(campi.Database) || IsEmptyValue(campi.Server)) {
         return;
+    }
     NomeDsn = campi.Fonte;
     if (!ApriConnessione(campi)) {
         platform::dialogs().message("La connessione \n" + StringaDb + "\n non è valida");
@@ -153,8 +158,9 @@ bool FormRegistraAziendeNeiDns::ApriConnessione(const CampiAzienda& campi) {
     const controls::Hourglass clessidra;
     StringaDb.clear();
     StringaBase = StringaServer(campi);
-    if (!ConnessioneValida(StringaBase))
+    if (!ConnessioneValida(StringaBase)) {
         return false;
+    }
     ScriviIndirizzoServer(StringaBase);
     StringaDb = PezzoDatabase(campi);
     return riesce([this] { connessione_.Open(StringaBase + StringaDb); });

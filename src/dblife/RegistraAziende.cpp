@@ -81,8 +81,9 @@ void ScriviPrimaRiga(const CampiAzienda& campi, ado::Connection& connessione) {
         {"nRoot", Oppure(campi.Utente, "")},
         {"nPassw", Oppure(campi.Password, "")},
     }};
-    for (const auto& [colonna, valore] : valori)
+    for (const auto& [colonna, valore] : valori) {
         salta([&, colonna = colonna, &valore = valore] { rs[colonna] = valore; });
+    }
     salta([&] { rs.Update(); });
 }
 

@@ -16,8 +16,9 @@ constexpr const char* kDriverSqlServer = "SQL Server";
 constexpr qsizetype kLunghezzaNome = 30;
 
 std::string Driver(std::int32_t tipo) {
-    if (tipo == kTipoAccess)
+    if (tipo == kTipoAccess) {
         return kDriverAccess;
+    }
     return tipo == kTipoSqlServer ? kDriverSqlServer : "";
 }
 
@@ -47,8 +48,9 @@ std::int32_t RegistraOdbc(std::int16_t richiesta, std::int32_t tipo, const Fonte
     const std::string perOdbc =
         Chiuso("DSN=" + nome) + Chiuso(descrizione) + Chiuso(server) + Chiuso("DBQ=" + database);
     const std::string perDao = descrizione + "\rOemToAnsi=No\r" + server + "\rDatabase=" + database;
-    if (!riesce([&] { platform::dataSources().registerDatabase(nome, kDriverSqlServer, true, perDao); }))
+    if (!riesce([&] { platform::dataSources().registerDatabase(nome, kDriverSqlServer, true, perDao); })) {
         return 0;
+    }
     return platform::dataSources().configure(richiesta, Driver(tipo), perOdbc);
 }
 

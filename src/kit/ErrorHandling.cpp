@@ -13,16 +13,19 @@ void AggiornaRecord(ado::Recordset& rs) {
 // Failing statements are skipped.
 void RilasciaRecordset(int posto) {
     const std::unique_ptr<ado::Recordset> rs = RsCondivisi.Ritira(posto);
-    if (rs && rs->IsOpen())
+    if (rs && rs->IsOpen()) {
         salta([&] { rs->Close(); });
+    }
 }
 
 // Failing statements are skipped.
 std::string ChiudiRecordset() {
-    for (int posto = 1; posto <= RecordsetCondivisi::kNumero; ++posto)
+    for (int posto = 1; posto <= RecordsetCondivisi::kNumero; ++posto) {
         RilasciaRecordset(posto);
-    if (DbLocale && DbLocale->IsOpen())
+    }
+    if (DbLocale && DbLocale->IsOpen()) {
         salta([] { DbLocale->Close(); });
+    }
     DbLocale.reset();
     return {};
 }

@@ -19,13 +19,15 @@ namespace regole {
 
 // Without the statement's text, which may hold a password.
 void Saltato(const std::exception& errore) {
-    if (!kSaltati().isInfoEnabled())
+    if (!kSaltati().isInfoEnabled()) {
         return;
+    }
     QString testo = QString::fromStdString(Descrizione(errore));
     if (const auto* dati = dynamic_cast<const ado::Error*>(&errore)) {
         testo += QStringLiteral(" (%1)").arg(dati->number());
-        if (!dati->context().empty())
+        if (!dati->context().empty()) {
             testo += QStringLiteral(" in %1").arg(QString::fromStdString(dati->context()));
+        }
     }
     qCInfo(kSaltati).noquote() << testo;
 }

@@ -23,8 +23,9 @@ std::unique_ptr<Automation> present;
 } // namespace
 
 Automation& automation() {
-    if (!present)
+    if (!present) {
         present = std::make_unique<NoAutomation>();
+    }
     return *present;
 }
 

@@ -52,8 +52,9 @@ fs::path userFile() {
     }
     const bool isDrivers = std::ranges::any_of(
         kDriversPieces, [&](const char* piece) { return file.string().find(piece) != std::string::npos; });
-    if (file.empty() || isDrivers)
+    if (file.empty() || isDrivers) {
         throw std::runtime_error("The file of data sources can't be kept in \"" + file.string() + "\".");
+    }
     return fs::weakly_canonical(file);
 }
 
@@ -65,8 +66,9 @@ std::optional<std::string> valueIn(const fs::path& file, const std::string& name
     std::array<char, kLongestLine + 1> value{};
     const int length = SQLGetPrivateProfileString(name.c_str(), key.c_str(), none.c_str(), value.data(),
                                                   static_cast<int>(value.size()), file.c_str());
-    if (length < 0 || value.data() == none)
+    if (length < 0 || value.data() == none) {
         return std::nullopt;
+    }
     return value.data();
 }
 
@@ -77,10 +79,12 @@ DataSourceValues missingIn(const fs::path& file, const std::string& name, const 
     const bool exists = fs::exists(file);
     for (const auto& [key, value] : values) {
         const std::string stored = storable(value);
-        if (key.size() + stored.size() + std::string_view("=\n").size() > kLongestLine)
+        if (key.size() + stored.size() + std::string_view("=\n").size() > kLongestLine) {
             throw std::runtime_error("The value of " + key + " is too long for a data source.");
-        if (!exists || valueIn(file, name, key) != stored)
+        }
+        if (!exists || valueIn(file, name, key) != stored) {
             missing.emplace_back(key, stored);
+        }
     }
     return missing;
 }
@@ -106,15 +110,18 @@ bool hasDataSource(const std::string& name) {
 void writeDataSource(const std::string& name, const DataSourceValues& values) {
     const fs::path file = userFile();
     const DataSourceValues missing = missingIn(file, name, values);
-    if (missing.empty())
+    if (missing.empty()) {
         return;
+    }
     const QTemporaryDir folder;
     const fs::path copy = fs::path(folder.path().toStdString()) / "odbc.ini";
-    if (fs::exists(file))
+    if (fs::exists(file)) {
         fs::copy_file(file, copy);
+    }
     for (const auto& [key, value] : missing) {
-        if (!SQLWritePrivateProfileString(name.c_str(), key.c_str(), value.c_str(), copy.c_str()))
+        if (!SQLWritePrivateProfileString(name.c_str(), key.c_str(), value.c_str(), copy.c_str())) {
             throw std::runtime_error("The data source " + name + " can't be written.");
+        }
     }
     replaceFile(file, bytesOf(copy), fs::status(copy).permissions());
 }

@@ -38,25 +38,29 @@ QString folded(const std::string& name) {
 /// The parts of a path from the drive's root on, with `.` and `..` resolved; nothing for a path that isn't on drive C.
 std::optional<std::vector<std::string>> namesOf(std::string_view path) {
     if (path.size() >= 2 && path[1] == ':') {
-        if (path[0] != 'C' && path[0] != 'c')
+        if (path[0] != 'C' && path[0] != 'c') {
             return std::nullopt;
+        }
         path.remove_prefix(2);
     } else if (path.size() >= 2 && isSeparator(path[0]) && isSeparator(path[1])) {
         return std::nullopt; // a share of another machine
     }
-    if (path.find('\0') != std::string_view::npos)
+    if (path.find('\0') != std::string_view::npos) {
         return std::nullopt;
+    }
 
     std::vector<std::string> names;
     while (!path.empty()) {
         std::size_t length = 0;
-        while (length < path.size() && !isSeparator(path[length]))
+        while (length < path.size() && !isSeparator(path[length])) {
             ++length;
+        }
         const std::string name(path.substr(0, length));
         path.remove_prefix(std::min(length + 1, path.size()));
         if (name == "..") {
-            if (!names.empty())
+            if (!names.empty()) {
                 names.pop_back();
+            }
         } else if (!name.empty() && name != ".") {
             names.push_back(name);
         }
@@ -67,40 +71,48 @@ std::optional<std::vector<std::string>> namesOf(std::string_view path) {
 /// The folder's entry of that name: the one spelt exactly so, else the first that differs only in case.
 fs::path entryOf(const fs::path& folder, const std::string& name) {
     std::error_code ignored;
-    if (fs::exists(fs::symlink_status(folder / name, ignored)))
+    if (fs::exists(fs::symlink_status(folder / name, ignored))) {
         return folder / name;
+    }
     const QString wanted = folded(name);
     std::string found;
     for (fs::directory_iterator entry(folder, ignored), end; entry != end; entry.increment(ignored)) {
         const std::string candidate = entry->path().filename().string();
-        if ((found.empty() || candidate < found) && folded(candidate) == wanted)
+        if ((found.empty() || candidate < found) && folded(candidate) == wanted) {
             found = candidate;
+        }
     }
     return folder / (found.empty() ? name : found);
 }
 
 std::optional<fs::path> find(const fs::path& root, std::string_view path) {
     const auto names = namesOf(path);
-    if (!names)
+    if (!names) {
         return std::nullopt;
+    }
     fs::path place = root;
-    for (const std::string& name : *names)
+    for (const std::string& name : *names) {
         place = entryOf(place, name);
+    }
     return place;
 }
 
 /// The error for a file that the system refused to read, write or remove.
 FileError refusal(const fs::path& file, std::error_code reason) {
     std::error_code ignored;
-    if (reason == std::errc::no_such_file_or_directory || reason == std::errc::not_a_directory)
+    if (reason == std::errc::no_such_file_or_directory || reason == std::errc::not_a_directory) {
         return FileError(fs::is_directory(file.parent_path(), ignored) ? FileNotFound : PathNotFound);
-    if (reason == std::errc::filename_too_long)
+    }
+    if (reason == std::errc::filename_too_long) {
         return FileError(PathNotFound);
-    if (reason == std::errc::permission_denied || reason == std::errc::operation_not_permitted)
+    }
+    if (reason == std::errc::permission_denied || reason == std::errc::operation_not_permitted) {
         return FileError(Denied);
+    }
     if (reason == std::errc::is_a_directory || reason == std::errc::file_exists ||
-        reason == std::errc::read_only_file_system)
+        reason == std::errc::read_only_file_system) {
         return FileError(AccessError);
+    }
     return FileError(DeviceError);
 }
 
@@ -115,11 +127,13 @@ std::optional<std::string> readLine(std::istream& file) {
     std::string line(kLongestLine, '\0');
     file.read(line.data(), static_cast<std::streamsize>(line.size()));
     line.resize(static_cast<std::size_t>(file.gcount()));
-    if (line.empty())
+    if (line.empty()) {
         return std::nullopt;
+    }
     line.resize(std::min(line.find('\n'), line.size()));
-    if (!line.empty() && line.back() == '\r')
+    if (!line.empty() && line.back() == '\r') {
         line.pop_back();
+    }
     return line;
 }
 
@@ -129,15 +143,17 @@ FileError::FileError(int number) : number_(number) {}
 
 const char* FileError::what() const noexcept {
     for (const auto& [number, words] : kWords) {
-        if (number == number_)
+        if (number == number_) {
             return words;
+        }
     }
     return "Application-defined or object-defined error";
 }
 
 fs::path DriveC::real(std::string_view path) const {
-    if (auto place = find(root_, path))
+    if (auto place = find(root_, path)) {
         return *place;
+    }
     throw FileError(PathNotFound);
 }
 
@@ -163,27 +179,33 @@ std::string DriveC::firstLine(std::string_view path) const {
     const fs::path place = real(path);
     std::error_code reason;
     const fs::file_status status = fs::status(place, reason);
-    if (!fs::exists(status))
+    if (!fs::exists(status)) {
         throw refusal(place, reason ? reason : make_error_code(std::errc::no_such_file_or_directory));
-    if (!fs::is_regular_file(status))
+    }
+    if (!fs::is_regular_file(status)) {
         throw FileError(AccessError);
+    }
     errno = 0;
     std::ifstream file(place, std::ios::binary);
-    if (!file)
+    if (!file) {
         throw refusal(place, lastError());
+    }
     const auto line = readLine(file);
-    if (file.bad())
+    if (file.bad()) {
         throw FileError(DeviceError);
-    if (!line)
+    }
+    if (!line) {
         throw FileError(EndOfFile);
+    }
     return QString::fromStdString(*line).toStdString(); // invalid UTF-8 becomes U+FFFD
 }
 
 void DriveC::writeLine(std::string_view path, std::string_view line) const {
     const fs::path place = real(path);
     std::error_code ignored;
-    if (fs::is_directory(place, ignored))
+    if (fs::is_directory(place, ignored)) {
         throw FileError(AccessError);
+    }
     try {
         machine::replaceFile(place, std::string(line) + "\r\n");
     } catch (const std::system_error& error) {
@@ -194,10 +216,12 @@ void DriveC::writeLine(std::string_view path, std::string_view line) const {
 void DriveC::remove(std::string_view path) const {
     const fs::path place = real(path);
     std::error_code reason;
-    if (fs::is_directory(place, reason))
+    if (fs::is_directory(place, reason)) {
         throw FileError(AccessError);
-    if (fs::remove(place, reason))
+    }
+    if (fs::remove(place, reason)) {
         return;
+    }
     throw refusal(place, reason ? reason : make_error_code(std::errc::no_such_file_or_directory));
 }
 
@@ -206,8 +230,9 @@ void DriveC::makeFolder(std::string_view path) const {
     try {
         machine::makePrivateFolder(place);
     } catch (const std::system_error& error) {
-        if (error.code() == std::errc::no_such_file_or_directory)
+        if (error.code() == std::errc::no_such_file_or_directory) {
             throw FileError(PathNotFound);
+        }
         throw refusal(place, error.code());
     }
 }

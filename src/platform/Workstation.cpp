@@ -33,8 +33,9 @@ std::string terminalName(const std::string& hostName) {
 }
 
 Workstation& workstation() {
-    if (!present)
+    if (!present) {
         takeRealWorkstation();
+    }
     return *present;
 }
 

@@ -50,8 +50,9 @@ void About::Load() {
     setWindowTitle(QString::fromStdString(ConVersione(kTitolo)));
     PreparaLogin();
     Controlla_server();
-    if (ServerMancante != kFalso)
+    if (ServerMancante != kFalso) {
         return;
+    }
     ApriDatiLogin();
     ui_->Label1->setText(QString::fromStdString(TestoDatabase()));
     ui_->PswLabels_0->setText(QStringLiteral("Password :"));
@@ -62,8 +63,9 @@ void About::Load() {
 }
 
 void About::Controlla_server() {
-    if (ServerRisponde())
+    if (ServerRisponde()) {
         return;
+    }
     UnloadMe();
     ApriForm("FormRegistraAziendeNeiDns", true);
 }
@@ -75,14 +77,16 @@ void About::Activate() {
         platform::formHost().show("Avvio_Azienda");
         return;
     }
-    for (auto* campo : {ui_->txtPassword, ui_->txtPassword1, ui_->txtUserName})
+    for (auto* campo : {ui_->txtPassword, ui_->txtPassword1, ui_->txtUserName}) {
         campo->clear();
+    }
     ui_->txtUserName->setFocus();
 }
 
 void About::ConfermaNome() {
-    if (IsEmptyValue(Normalizza(*ui_->txtUserName)))
+    if (IsEmptyValue(Normalizza(*ui_->txtUserName))) {
         return;
+    }
     ui_->txtPassword->setEnabled(true);
     ui_->txtPassword->setFocus();
 }

@@ -116,8 +116,9 @@ double RisolviConTerminale(const std::string& terminale) {
 }
 
 void ScriviUltimo(const std::string& terminale, const std::string& numero) {
-    if (IsEmptyValue(terminale))
+    if (IsEmptyValue(terminale)) {
         return;
+    }
     salta([&] {
         DbControllo.Execute("update link_programmaTerminale set ultimo = " + numero + " where  " +
                             " nometerminale = '" + terminale + "'");
@@ -133,13 +134,15 @@ double RegistraScelta(const std::string& terminale, double numero) {
 
 /// An empty column leaves the global as it is, with the value of the company taken up before.
 void PrendiTesto(ado::Recordset& rs, const char* colonna, std::string& globale) {
-    if (vera([&] { return !IsEmptyValue(rs[colonna]); }))
+    if (vera([&] { return !IsEmptyValue(rs[colonna]); })) {
         salta([&] { globale = ado::toText(rs[colonna]); });
+    }
 }
 
 void CreaCartellaFile() {
-    for (const char* cartella : {"C:\\", "C:\\Vabo", "C:\\Vabo\\Files"})
+    for (const char* cartella : {"C:\\", "C:\\Vabo", "C:\\Vabo\\Files"}) {
         salta([&] { platform::workstation().driveC.makeFolder(cartella); });
+    }
     CartellaFile = "C:\\Vabo\\Files";
 }
 
@@ -156,21 +159,25 @@ void ComponiStringhe(ado::Recordset& rs, double& numero) {
     Leggi_ServerLocal(); // for the pointer file that it may write; the text isn't used
     salta([&] { PercorsoFileLocale = std::string("C:\\Vabo\\Files") + "\\" + Pezzo(rs["tlv_sql"]); });
     salta([&] { FileLocale = Pezzo(rs["tlv_sql"]); });
-    if (IsEmptyValue(FileLocale))
+    if (IsEmptyValue(FileLocale)) {
         FileLocale = LinguaCorrente == "EN" ? "tlv_locale_sqlEN.mdb" : "tlv_locale_sql.mdb";
+    }
 }
 
 Esito AziendaSenzaDatabase(ado::Recordset& rs, double& id, double& numero) {
     PrendiTesto(rs, "NomeAzienda", NomeAzienda);
     PrendiTesto(rs, "nRoot", UtenteDb);
     PrendiTesto(rs, "nPassw", PasswordDb);
-    if (vera([&] { return !IsEmptyValue(rs["tlv_sql"]); }))
+    if (vera([&] { return !IsEmptyValue(rs["tlv_sql"]); })) {
         salta([&] { PercorsoFileLocale = "C:\\Vabo\\Files\\" + Pezzo(rs["tlv_sql"]); });
-    for (double* uscita : {&IdAzienda, &IdAziendaLavoro, &id, &numero})
+    }
+    for (double* uscita : {&IdAzienda, &IdAziendaLavoro, &id, &numero}) {
         salta([&] { *uscita = ado::toDouble(rs["id"]); });
+    }
     salta([&] { rs.Close(); });
-    if (!DatabasePresente()) // NomeDatabase is still that of the company taken up before
+    if (!DatabasePresente()) { // NomeDatabase is still that of the company taken up before
         return Esito::DaRipiegare;
+    }
     ChiudiRecordset();
     return Esito::Aperta;
 }
@@ -186,8 +193,9 @@ Esito Concludi(ado::Recordset& rs) {
     salta([] { DbAzienda.Close(); });
     salta([] { DbControllo.Close(); });
     RiapriDbAzienda();
-    if (IsEmptyValue(NomeDatabase) || !DatabasePresente())
+    if (IsEmptyValue(NomeDatabase) || !DatabasePresente()) {
         return Esito::DaRipiegare;
+    }
     NomeDsn = "Tlv_server";
     RegistraFonti({.Driver = "SQL Server",
                    .Server = NomeServer,
@@ -211,8 +219,9 @@ Esito AziendaConDatabase(ado::Recordset& rs, const std::string& terminale, doubl
     CreaCartellaFile();
     ComponiStringhe(rs, numero);
     salta([] { DbAzienda.Close(); });
-    if (!DatabasePresente())
+    if (!DatabasePresente()) {
         return Esito::DaRipiegare;
+    }
     RiapriDbAzienda();
     return Concludi(rs);
 }
@@ -226,8 +235,9 @@ Esito Passata(double& id, double& numero) {
     IdAzienda = id;
     IdAziendaLavoro = id;
     numero = id;
-    if (IsEmptyValue(numero))
+    if (IsEmptyValue(numero)) {
         IdAziendaLavoro = numero = RisolviConTerminale(terminale);
+    }
     IdAziendaLavoro = numero = RegistraScelta(terminale, numero);
     ado::Recordset rs;
     salta([&] {
@@ -240,8 +250,9 @@ Esito Passata(double& id, double& numero) {
         return Esito::SenzaRiga;
     }
     salta([] { LinguaCorrente = LeggiLinguaClient(""); });
-    if (vera([&] { return IsEmptyValue(rs["DBname"]); }))
+    if (vera([&] { return IsEmptyValue(rs["DBname"]); })) {
         return AziendaSenzaDatabase(rs, id, numero);
+    }
     // Appoggio, not `terminale`: LeggiLinguaClient overwrites it with the local server's connection text where the
     // pointer file is missing, and the next statement uses what it holds.
     return AziendaConDatabase(rs, Appoggio, numero);
@@ -251,8 +262,9 @@ Esito Passata(double& id, double& numero) {
 /// finds the same company: where it was tried before, the process ends.
 void RipiegaSullaPrima(double& id, const std::set<double>& provati) {
     const double prima = PrimaAziendaSuServer();
-    if (IsEmptyValue(prima) || provati.contains(prima))
+    if (IsEmptyValue(prima) || provati.contains(prima)) {
         FineConMessaggio("Non è possibile caricare il DataBase");
+    }
     IdAzienda = PrimaAziendaSuServer();
     IdAziendaLavoro = PrimaAziendaSuServer();
     id = PrimaAziendaSuServer();
@@ -263,16 +275,18 @@ void RipiegaSullaPrima(double& id, const std::set<double>& provati) {
 void ApriAzienda(double& id) {
     QElapsedTimer tempo;
     tempo.start();
-    if (!NumeroDiPartenza(id))
+    if (!NumeroDiPartenza(id)) {
         return;
+    }
     std::set<double> provati;
     double numero = 0;
     for (Esito esito = Passata(id, numero); esito != Esito::Aperta; esito = Passata(id, numero)) {
         provati.insert(numero);
         RipiegaSullaPrima(id, provati);
         provati.insert(id);
-        if (esito == Esito::SenzaRiga)
+        if (esito == Esito::SenzaRiga) {
             salta([] { DbControllo.Close(); });
+        }
     }
     qCDebug(kTempo, "ApriAzienda %.3f ms", static_cast<double>(tempo.nsecsElapsed()) / 1e6);
 }

@@ -21,8 +21,9 @@ std::string RigaAzienda(double numero) {
 void PrendiNumero(const std::string& testo, const char* colonna) {
     ado::Recordset rs;
     ApriScrivibile(rs, testo, DbControllo);
-    if (!rs.EOF() && !IsEmptyValue(rs[colonna]))
+    if (!rs.EOF() && !IsEmptyValue(rs[colonna])) {
         IdAziendaLavoro = ado::toDouble(rs[colonna]);
+    }
     rs.Close();
 }
 
@@ -32,8 +33,9 @@ std::int32_t CercaAziendaTerminale() {
     PrendiNumero(std::string("Select * from link_programmaTerminale") + " where  " + " Nometerminale like '" +
                      NomeTerminale + "'",
                  "Ultimo");
-    if (IsEmptyValue(IdAziendaLavoro))
+    if (IsEmptyValue(IdAziendaLavoro)) {
         PrendiNumero(std::string("Select * from link_programma ") + " order by dbname  ", "id");
+    }
     IdAzienda = IdAziendaLavoro;
     const std::int32_t numero = ado::toLong(IdAziendaLavoro);
     DbControllo.Close();
@@ -63,10 +65,11 @@ void CercaUltima(ado::Recordset& rs) {
         LeggiNumero(rs, "Ultimo", IdAzienda);
     }
     salta([&] { rs.Close(); });
-    if (!IsEmptyValue(IdAziendaLavoro))
+    if (!IsEmptyValue(IdAziendaLavoro)) {
         salta([&] { ApriScrivibile(rs, RigaAzienda(IdAziendaLavoro), DbControllo); });
-    else
+    } else {
         salta([&] { ApriScrivibile(rs, RigaAzienda(PrimaAziendaSuServer()), DbControllo); });
+    }
     LeggiNumero(rs, "id", IdAzienda);
 }
 
@@ -79,8 +82,9 @@ std::string PrimoDatabaseAzienda() {
         rs.Open("SELECT * FROM master.dbo.sysdatabases where name like 'vabodati%' and not name like '%azienda%'",
                 server);
     });
-    if (vera([&] { return !rs.EOF(); }))
+    if (vera([&] { return !rs.EOF(); })) {
         salta([&] { nome = ado::toText(rs["NAME"]); });
+    }
     salta([&] { rs.Close(); });
     salta([&] { server.Close(); });
     return nome;
@@ -130,8 +134,9 @@ std::int32_t PrimaAziendaSuServer() {
     std::int32_t numero = 0;
     ado::Recordset rs;
     salta([&] { ApriScrivibile(rs, "Select * from link_programma where  dbname='" + nome + "'", DbControllo); });
-    if (vera([&] { return !rs.EOF(); }))
+    if (vera([&] { return !rs.EOF(); })) {
         salta([&] { numero = ado::toLong(rs["id"]); });
+    }
     salta([&] { rs.Close(); });
     return numero;
 }
@@ -164,10 +169,12 @@ bool LeggiIndirizzoMdf() {
         ado::Recordset rs;
         rs.Open("Select * from link_programma where dbname like '" + NomeDatabase + "'", controllo,
                 ado::CursorType::Keyset, ado::LockType::Optimistic);
-        if (rs.EOF())
+        if (rs.EOF()) {
             return;
-        if (!IsEmptyValue(rs["IndirizzoMdf"]))
+        }
+        if (!IsEmptyValue(rs["IndirizzoMdf"])) {
             IndirizzoMdf = ado::toText(rs["IndirizzoMdf"]);
+        }
         riga = true;
     });
     return riga;

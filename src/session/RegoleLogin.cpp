@@ -19,8 +19,9 @@ namespace {
 
 std::string IstruzioneLogin(const std::string& utente, const std::string& password) {
     std::string testo = std::string("select * from AbilitazioneAccessi") + " where " + " NomeUtente = '" + utente + "'";
-    if (!IsEmptyValue(password))
+    if (!IsEmptyValue(password)) {
         testo += std::string(" and ") + " PaswUtente = '" + password + "'";
+    }
     return testo;
 }
 
@@ -31,14 +32,16 @@ bool Vero(const ado::Value& valore) {
 
 EsitoLogin ControllaRiga(ado::Recordset& rs, const std::string& password, double& IdUtenteNuovo) {
     if (IsEmptyValue(password)) {
-        if (!IsEmptyValue(rs["PaswUtente"]))
+        if (!IsEmptyValue(rs["PaswUtente"])) {
             return EsitoLogin::Rifiutato;
+        }
         IdUtenteNuovo = ado::toDouble(rs["IdAutonumber"]);
         return EsitoLogin::PrimaPassword;
     }
     // Compared again here: the server ignores case and trailing blanks.
-    if (Pezzo(rs["PaswUtente"]) != password)
+    if (Pezzo(rs["PaswUtente"]) != password) {
         return EsitoLogin::Rifiutato;
+    }
     return Vero(rs["Disabilita"]) ? EsitoLogin::Disabilitato : EsitoLogin::Riconosciuto;
 }
 
@@ -48,8 +51,9 @@ void PreparaLogin() {
     DirittiUtente = kDirittiPrimaDelLogin;
     NomeTerminale = platform::workstation().machineName;
     const std::string percorso = "C:\\Vabo\\IndirizzoServerLocal.txt";
-    if (vera([&] { return !platform::workstation().driveC.exists(percorso); }))
+    if (vera([&] { return !platform::workstation().driveC.exists(percorso); })) {
         salta([&] { ScriviFileTesto(percorso, StringaServerLocale(LeggiNomeServerLocal())); });
+    }
     IdAziendaScelta = 0;
     ApriAzienda(IdAziendaScelta);
 }
@@ -78,10 +82,11 @@ bool LoginSenzaUtenti() {
     ado::Recordset& rs = RsCondivisi(2);
     salta([&] { rs.Open("AbilitazioneAccessi", DbAzienda, ado::CursorType::Dynamic, ado::LockType::ReadOnly); });
     const bool nessuno = vera([&] { return rs.EOF(); });
-    if (nessuno)
+    if (nessuno) {
         DirittiUtente = kDirittiLoginSenzaUtenti;
-    else
+    } else {
         TentativiLogin = 0;
+    }
     ChiudiRecordset();
     return nessuno;
 }
@@ -119,16 +124,18 @@ bool ContaTentativo() {
     ChiudiRecordset();
     TentativiLogin += 1;
     platform::dialogs().message("User not allowed! ");
-    if (TentativiLogin < 4)
+    if (TentativiLogin < 4) {
         return false;
+    }
     platform::dialogs().message("It is no more possible to try! ");
     return true;
 }
 
 // Without a rule of its own.
 void SalvaPrimaPassword(double& IdUtenteNuovo, const std::string& password) {
-    if (IsEmptyValue(IdUtenteNuovo))
+    if (IsEmptyValue(IdUtenteNuovo)) {
         return;
+    }
     Sql = std::string("update AbilitazioneAccessi") + " set PaswUtente = '" + Minuscolo(password) + "'" +
           " where idautonumber =  " + ado::plainNumber(IdUtenteNuovo);
     DbAzienda.Execute(Sql);

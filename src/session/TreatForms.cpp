@@ -93,8 +93,9 @@ bool ApriForm(const std::string& nome, bool ricorda) {
         CimaForm = 0;
         PilaForm = {nome};
     }
-    if (MostraForm(nome))
+    if (MostraForm(nome)) {
         return true;
+    }
     qCInfo(kForme).noquote() << "no such form:" << QString::fromStdString(nome);
     CimaForm = cima;
     PilaForm = pila;
@@ -109,8 +110,9 @@ void ApriDa(const std::string& form, const std::string& nome) {
 
 void ChiudiForm() {
     CimaForm -= 1;
-    if (CimaForm < 0 || IsEmptyValue(CimaForm))
+    if (CimaForm < 0 || IsEmptyValue(CimaForm)) {
         CimaForm = 0;
+    }
     RidimensionaPila();
     RiattivaForm(NomeInCima());
 }

@@ -41,8 +41,9 @@ public:
         const FilterExpression expression(filter, fields);
         std::string letters;
         for (std::size_t row = 0; row < store.rows(); ++row) {
-            if (expression.admits(store, row))
+            if (expression.admits(store, row)) {
                 letters += store.text(row, 0);
+            }
         }
         return letters;
     }

@@ -54,14 +54,16 @@ private:
 } // namespace
 
 int main(int argc, char** argv) {
-    if (argc != 3)
+    if (argc != 3) {
         return 2;
+    }
     const std::filesystem::path instances = argv[1];
     ado::setEmbeddedHome(
         {[instances] { return instances; }, [instances](std::string_view path) { return instances / path; }});
     Helper helper(argv[2]);
     std::cout << "ready" << std::endl;
-    for (std::string line; std::getline(std::cin, line);)
+    for (std::string line; std::getline(std::cin, line);) {
         std::cout << helper.answer(line) << std::endl;
+    }
     return 0;
 }

@@ -154,15 +154,18 @@ TEST_F(OdbcFailures, AServerThatEndsInTheMiddleOfAResultGivesAnError) {
 TEST_F(OdbcFailures, ConnectionsKeptForLaterAreNotTrustedWhenTheirServerWasAnother) {
     fill(connection);
     Connection more[3];
-    for (Connection& one : more)
+    for (Connection& one : more) {
         one.Open(text());
-    for (Connection& one : more)
+    }
+    for (Connection& one : more) {
         one.Close();
+    }
     connection.Close();
     peer.kill();
     peer.restart();
-    for (Connection& one : more)
+    for (Connection& one : more) {
         expectWorks(one);
+    }
 }
 
 TEST_F(OdbcFailures, AHoldWhoseServerEndedIsGivenUpWithoutWaiting) {
@@ -180,8 +183,9 @@ TEST_F(OdbcFailures, NamesAndPasswordsOfAnyCharactersArriveAsTheyAre) {
     for (const std::string password : {"a;b", "{a", "a}b", " a ", "a=b", "è'\"€", "PWD=x;UID=y"}) {
         server.addLogin("giulia rossi", password);
         std::string quoted;
-        for (const char c : password)
+        for (const char c : password) {
             quoted += c == '}' ? "}}" : std::string(1, c);
+        }
         std::string other = server.connectionString();
         other.replace(other.find("UID=sa;PWD=segreta"), 18, "UID=giulia rossi;PWD={" + quoted + "}");
         EXPECT_FALSE(errorOf([&] { Connection().Open(other); })) << password;
@@ -194,8 +198,9 @@ TEST(OdbcDrivers, WithoutARegisteredDriverTheRegistrySpeaks) {
         ::setenv("ODBCSYSINI", "/nonexistent", 1);
         ::setenv("ODBCINI", "/nonexistent/odbc.ini", 1);
         const auto error = errorOf([] { Connection().Open("Driver=SQL Server;Server=127.0.0.1;UID=sa;PWD=x"); });
-        if (error)
+        if (error) {
             std::fprintf(stderr, "%d %s\n", error->number(), error->description().c_str());
+        }
         std::exit(error ? 0 : 1);
     };
     EXPECT_EXIT(open(), ::testing::ExitedWithCode(0), "-2147467259 .*SQL Server");

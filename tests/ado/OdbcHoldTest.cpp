@@ -24,10 +24,11 @@ public:
         QLoggingCategory::setFilterRules(QStringLiteral("vabo.odbc.debug=true"));
         heard = &texts_;
         others = qInstallMessageHandler([](QtMsgType type, const QMessageLogContext& context, const QString& message) {
-            if (QLatin1String(context.category) == QLatin1String("vabo.odbc"))
+            if (QLatin1String(context.category) == QLatin1String("vabo.odbc")) {
                 heard->push_back(message.toStdString());
-            else
+            } else {
                 others(type, context, message);
+            }
         });
     }
     ~SentTexts() {
@@ -86,8 +87,9 @@ TEST_F(OdbcHolds, OnlyAHeldRowIsRefusedAtOnce) {
 
 TEST_F(OdbcHolds, TheLastOfSeveralHoldsEndsTheirTransaction) {
     Recordset first, second;
-    for (Recordset* rs : {&first, &second})
+    for (Recordset* rs : {&first, &second}) {
         rs->Open("select * from Prova order by n", connection, CursorType::Keyset, LockType::Pessimistic);
+    }
     second.MoveNext();
     const SentTexts sent;
     first["n"] = 7;

@@ -34,8 +34,9 @@ protected:
 
 TEST_F(OdbcSilence, WithinOneEventIsWaitedForOnce) {
     inOneEvent([&] {
-        for (int i = 0; i < 3; ++i)
+        for (int i = 0; i < 3; ++i) {
             expectSilence();
+        }
     });
     EXPECT_EQ(silent.callers(), 1);
 }
@@ -108,8 +109,9 @@ TEST_F(OdbcSilence, OfAStatementIsRememberedToo) {
 }
 
 TEST_F(OdbcSilence, OutsideOfAnyEventLoopIsWaitedForEachTime) {
-    for (int i = 0; i < 2; ++i)
+    for (int i = 0; i < 2; ++i) {
         expectSilence();
+    }
     EXPECT_EQ(silent.callers(), 2);
 }
 

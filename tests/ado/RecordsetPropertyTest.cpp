@@ -41,9 +41,10 @@ struct Model {
 
 std::vector<Town> readTowns(Recordset& rs) {
     std::vector<Town> towns;
-    for (; !rs.EOF(); rs.MoveNext())
+    for (; !rs.EOF(); rs.MoveNext()) {
         towns.push_back({std::get<std::int32_t>(rs["id"].Value().variant()),
                          std::get<std::string>(rs["nome"].Value().variant()), rs["abitanti"].Value()});
+    }
     return towns;
 }
 
@@ -70,8 +71,9 @@ void step(Recordset& rs, Model& model) {
     enum { kAssign, kAdd, kUpdate, kCancel, kMove, kSteps };
     switch (*rc::gen::inRange(0, static_cast<int>(kSteps))) {
     case kAssign:
-        if (model.onRow())
+        if (model.onRow()) {
             assign(rs, model, anyName().substr(0, 20), anyPeople());
+        }
         break;
     case kAdd:
         model.settle();
@@ -85,8 +87,9 @@ void step(Recordset& rs, Model& model) {
         rs.Update();
         break;
     case kCancel:
-        if (model.adding || model.editing)
+        if (model.adding || model.editing) {
             rs.CancelUpdate();
+        }
         model.adding = model.editing = false;
         break;
     default:
@@ -114,8 +117,9 @@ TEST(RecordsetProperty, AnyEditsLeaveTheTableThatAPlainListWouldBe) {
         Recordset rs;
         rs.Open("select * from " + table + " order by id", connection, CursorType::Keyset, lock);
         const int steps = *rc::gen::inRange(0, 40);
-        for (int i = 0; i < steps; ++i)
+        for (int i = 0; i < steps; ++i) {
             step(rs, model);
+        }
         model.settle();
         rs.Update();
         RC_ASSERT(rs.RecordCount() == static_cast<long>(model.rows.size()));

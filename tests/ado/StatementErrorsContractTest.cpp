@@ -16,10 +16,11 @@ protected:
     /// The server's number of the error, 0 where there was none.
     int refusalOf(const std::string& statement) {
         try {
-            if (statement.starts_with("select"))
+            if (statement.starts_with("select")) {
                 rowsOf(statement); // errors of a value come with its row
-            else
+            } else {
                 connection.Execute(statement);
+            }
         } catch (const Error& error) {
             return error.nativeError();
         }
@@ -75,8 +76,9 @@ TEST_F(StatementErrorsContract, ASessionNeverWaitsForItself) {
     for (const char* statement :
          {"use master", "create table m (a int null)", "select a from Vabodati.dbo.t", "begin transaction",
           "insert into m (a) values (1)", "use Vabodati", "update t set a = 2", "use master",
-          "insert into m (a) select a from Vabodati.dbo.t", "use Vabodati", "commit"})
+          "insert into m (a) select a from Vabodati.dbo.t", "use Vabodati", "commit"}) {
         EXPECT_EQ(refusalOf(statement), 0) << statement;
+    }
     EXPECT_EQ(cell("select a from t"), "2");
     EXPECT_EQ(cell("select count(*) from master.dbo.m"), "2");
 }
@@ -140,8 +142,9 @@ TEST_F(StatementErrorsContract, AFullDiskAtTheCommitTakesTheTransactionBack) {
     connection.Execute("create table t (a nvarchar(4000) null)");
     const long long process = support::testedDriver() == support::TestedDriver::Wire ? server.peer().pid() : 0;
     connection.Execute("begin transaction");
-    for (int i = 0; i < 50; ++i)
+    for (int i = 0; i < 50; ++i) {
         connection.Execute("insert into t (a) values ('" + std::string(4000, 'x') + "')");
+    }
     {
         constexpr rlim_t kLimit = 150'000;
         const LargestFile limit(process, kLimit);

@@ -20,10 +20,11 @@ TestServer::TestServer(support::TestedDriver driver) {
     const auto created = engine::Instance::create(instance(), options(folder_.path()));
     created->addLogin("sa", "segreta");
     created->createDatabase("Vabodati", "", "");
-    if (driver == support::TestedDriver::Wire)
+    if (driver == support::TestedDriver::Wire) {
         peer_ = std::make_unique<support::Peer>(instance(), folder_.path());
-    else
+    } else {
         setEmbeddedHome({[this] { return instances(); }, options(folder_.path()).mapPath});
+    }
 }
 
 TestServer::~TestServer() {

@@ -407,10 +407,12 @@ TEST_F(DataCombo, TheFocusSelectsTheWholeText) {
 
 TEST_F(DataCombo, AListOfThousandsIsWholeAndOpens) {
     std::string values;
-    for (int i = 0; i < 1000; ++i)
+    for (int i = 0; i < 1000; ++i) {
         values += (i == 0 ? "('Voce " : ", ('Voce ") + std::to_string(i) + "')";
-    for (int i = 0; i < 5; ++i)
+    }
+    for (int i = 0; i < 5; ++i) {
         workstation.run(support::kCompany, "insert into frutta (nome) values " + values);
+    }
     source.Refresh();
     EXPECT_EQ(combo().count(), 5005);
     gui.press(Qt::Key_Down);

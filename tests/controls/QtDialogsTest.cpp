@@ -32,11 +32,14 @@ auto withBox(Seen& seen, const std::function<void(QDialog&)>& answer, Ask ask) {
         auto* box = qobject_cast<QDialog*>(QApplication::activeModalWidget());
         ASSERT_NE(box, nullptr) << "no box came";
         seen.title = box->windowTitle().toStdString();
-        if (const auto* message = qobject_cast<QMessageBox*>(box))
+        if (const auto* message = qobject_cast<QMessageBox*>(box)) {
             seen.text = message->text().toStdString();
-        for (const auto* button : box->findChildren<QAbstractButton*>())
-            if (button->isVisible() && !button->text().isEmpty())
+        }
+        for (const auto* button : box->findChildren<QAbstractButton*>()) {
+            if (button->isVisible() && !button->text().isEmpty()) {
                 seen.buttons.push_back(button->text().toStdString());
+            }
+        }
         answer(*box);
     };
     QMetaObject::invokeMethod(qApp, look, Qt::QueuedConnection);
@@ -154,7 +157,7 @@ TEST_F(QtDialogs, TheCloseButtonIsCancelWhereThereIsCancel) {
 
 TEST_F(QtDialogs, AMessageGoesByEscAndByItsCloseButton) {
     bool gone = false;
-    for (const bool esc : {true, false})
+    for (const bool esc : {true, false}) {
         withBox(
             seen,
             [&](QDialog& box) {
@@ -166,6 +169,7 @@ TEST_F(QtDialogs, AMessageGoesByEscAndByItsCloseButton) {
                 EXPECT_TRUE(gone);
                 return 0;
             });
+    }
 }
 
 TEST_F(QtDialogs, AQuestionHasYesAndNoInItalian) {

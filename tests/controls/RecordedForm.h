@@ -38,8 +38,9 @@ protected:
 private:
     void happen(const char* event, const std::function<void(RecordedForm&)>& act) {
         log_.push_back(Name() + "." + event);
-        if (act)
+        if (act) {
             act(*this);
+        }
     }
 
     std::vector<std::string>& log_;

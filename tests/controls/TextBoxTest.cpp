@@ -19,8 +19,9 @@ using testing::ElementsAre;
 class TextBox : public testing::Test {
 protected:
     TextBox() {
-        for (const char* form : {"A", "B"})
+        for (const char* form : {"A", "B"}) {
             gui.forms().add(form, [this, form] { return make(form); });
+        }
         gui.forms().show("A");
         gui.waitForFront("A");
         field("first").setFocus();

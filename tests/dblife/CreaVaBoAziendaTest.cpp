@@ -59,8 +59,9 @@ const std::string kTerminals =
 
 std::vector<std::string> allStatements() {
     std::vector<std::string> all = {"sp_configure 'query timeout',0 RECONFIGURE", kCreateTemporary};
-    for (const auto& [option, value] : kOptions)
+    for (const auto& [option, value] : kOptions) {
         all.push_back(" sp_dboption N'VaBoDatiTemp', N'" + option + "', N'" + value + "'");
+    }
     all.push_back(kCreateControl);
     std::string start = "  ";
     for (const auto& [option, value] : kOptions) {
@@ -235,8 +236,9 @@ TEST_P(CreaVaBoAziendaOn, TheOptionsBecomeTheSame) {
                               " DROP DATABASE VaBoDatiTemp");
     workstation.run("master", "DROP DATABASE vabodatiazienda");
     CreaDatabaseControllo();
-    for (const char* database : {"VaBoDatiTemp", "VaBoDatiAzienda"})
+    for (const char* database : {"VaBoDatiTemp", "VaBoDatiAzienda"}) {
         EXPECT_EQ(workstation.databaseOptions(database), expected) << database;
+    }
 }
 
 TEST_F(CreaVaBoAzienda, AnotherRefusalLeavesTheProcedureInPlace) {

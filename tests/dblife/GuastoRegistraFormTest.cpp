@@ -17,19 +17,21 @@ protected:
         metti("txtPWD", campi().Password);
     }
     void avviene(Guasto cosa) {
-        if (cosa == Guasto::Muto)
+        if (cosa == Guasto::Muto) {
             metti("txtServer", conAttesa(guasto.muto.server()));
-        else if (cosa == Guasto::PortaSbagliata)
+        } else if (cosa == Guasto::PortaSbagliata) {
             metti("txtServer", kServerSpento);
-        else if (cosa == Guasto::PasswordSbagliata)
+        } else if (cosa == Guasto::PasswordSbagliata) {
             metti("txtPWD", "inverno");
-        else
+        } else {
             guasto.avviene(cosa);
+        }
         guasto_ = cosa;
     }
     void ripara() {
-        if (guasto_ == Guasto::Spento || guasto_ == Guasto::Gelato)
+        if (guasto_ == Guasto::Spento || guasto_ == Guasto::Gelato) {
             guasto.ripara();
+        }
         metti("txtServer", conAttesa(workstation.serverName()));
         metti("txtPWD", campi().Password);
     }
@@ -85,8 +87,9 @@ TEST_F(GuastoRegistra, AServerThatEndsOnceItIsOpenKeepsNothingFromBeingRegistere
     apriSulServer();
     int inviate = 0;
     ado::setStatementRecorder([&](const std::string& /*testo*/) {
-        if (++inviate == 1)
+        if (++inviate == 1) {
             guasto.avviene(Guasto::Spento);
+        }
     });
     premi("cmdCancel");
     ado::setStatementRecorder({});

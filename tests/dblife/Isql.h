@@ -49,8 +49,9 @@ inline void expectEachDatabase(const support::TestWorkstation& workstation, cons
     };
     for (const auto& one : cases) {
         std::string expected;
-        for (const auto& row : workstation.rows(one.database, one.statement))
+        for (const auto& row : workstation.rows(one.database, one.statement)) {
             expected += row[0] + "|" + row[1] + "\n";
+        }
         ASSERT_FALSE(expected.empty()) << one.dataSource;
         EXPECT_EQ(answer(server, one.dataSource, one.statement), expected) << one.dataSource;
     }

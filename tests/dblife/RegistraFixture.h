@@ -56,10 +56,12 @@ protected:
     std::vector<std::string> registrazioni(const CampiAzienda& campi, const std::string& fonte,
                                            const std::string& nomeAzienda) const {
         std::vector<std::string> tutte;
-        for (const auto& una : {registrazione(fonte, campi.Database, "Dati " + campi.Azienda, campi.Server),
-                                registrazione("Tlv_Temp", "VaBoDatiTemp", "Dati " + campi.Azienda, serverLocale()),
-                                registrazione("Tlv_Azienda", "VaBoDatiAzienda", "Dati " + nomeAzienda, serverLocale())})
+        for (const auto& una :
+             {registrazione(fonte, campi.Database, "Dati " + campi.Azienda, campi.Server),
+              registrazione("Tlv_Temp", "VaBoDatiTemp", "Dati " + campi.Azienda, serverLocale()),
+              registrazione("Tlv_Azienda", "VaBoDatiAzienda", "Dati " + nomeAzienda, serverLocale())}) {
             tutte.insert(tutte.end(), una.begin(), una.end());
+        }
         return tutte;
     }
     Rows registro(const char* database = support::kCompany) const {

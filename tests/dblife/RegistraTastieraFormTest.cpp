@@ -43,8 +43,9 @@ TEST_F(RegistraTastiera, ACompanyLostBetweenStartAndLoginLeadsToTheForm) {
     bool chiesto = false; // whether anybody has to log in, the last thing that the start asks
     bool guasto = false;
     ado::setStatementRecorder([&](const std::string& testo) {
-        if (chiesto && !std::exchange(guasto, true))
+        if (chiesto && !std::exchange(guasto, true)) {
             guasta();
+        }
         chiesto = chiesto || testo.find("AbilitazioneAccessi") != std::string::npos;
     });
     gui.forms().show("Avvio");
@@ -134,16 +135,18 @@ protected:
         gui.press(Qt::Key_A, Qt::ControlModifier);
         gui.press(Qt::Key_Delete);
         gui.type(testo.substr(0, kBattute));
-        if (nome == "cboDrivers")
+        if (nome == "cboDrivers") {
             elenco(nome).lineEdit()->insert(QString::fromStdString(testo.substr(std::min(testo.size(), kBattute))));
-        else
+        } else {
             campo(nome).insert(QString::fromStdString(testo.substr(std::min(testo.size(), kBattute))));
+        }
     }
     /// A registration that went through has closed the form.
     void riapri() {
         support::Gui::handleEvents();
-        if (gui.isVisible(kForm))
+        if (gui.isVisible(kForm)) {
             return;
+        }
         EXPECT_EQ(gui.visibleForms(), "Avvio_Azienda");
         workstation.putFile("C:\\vabo\\IndirizzoServer.txt", server + "\r\n");
         apri();
@@ -160,8 +163,9 @@ TEST_F(RegistraAttacco, NoUserAndNoPasswordButTheRightOnesPass) {
         for (const std::string& testo : support::attacks()) {
             messaggi.clear();
             scrivi(nome, testo);
-            if (NessunUtente())
+            if (NessunUtente()) {
                 continue;
+            }
             premi("txtServer");
             EXPECT_EQ(messaggi, std::vector<std::string>{"Wrong connection"}) << nome << " " << testo.substr(0, 60);
             EXPECT_EQ(fuoco(), "txtServer");

@@ -25,9 +25,11 @@ protected:
     /// All that the console writes.
     std::vector<Riga> tutto() const {
         std::vector<Riga> righe;
-        for (const std::string tabella : kTabelle)
-            for (const Riga& riga : posto.rows(support::kCompany, "select * from " + tabella + " order by 1"))
+        for (const std::string tabella : kTabelle) {
+            for (const Riga& riga : posto.rows(support::kCompany, "select * from " + tabella + " order by 1")) {
                 righe.push_back(riga);
+            }
+        }
         return righe;
     }
     void premi(const char* bottone) { gui.click("Avvio_Morlan", bottone); }
@@ -47,10 +49,12 @@ protected:
     /// How many rows each list and grid shows.
     std::map<std::string, int> liste() const {
         std::map<std::string, int> quante;
-        for (const char* nome : {"DCBItem1", "DCBitem2", "DCBItems3", "DCBitems4", "DCBitem5"})
+        for (const char* nome : {"DCBItem1", "DCBitem2", "DCBItems3", "DCBitems4", "DCBitem5"}) {
             quante[nome] = combo(nome).count();
-        for (const char* nome : kGriglie)
+        }
+        for (const char* nome : kGriglie) {
             quante[nome] = righe(nome);
+        }
         return quante;
     }
     /// By the way that the pointer files tell now.
@@ -72,8 +76,9 @@ TEST_P(GuastoAlCaricamento, IsToldOnceAndTheConsoleComesUpEmpty) {
     EXPECT_EQ(scatoleDurante([this] { apri(); }), Testi{GetParam() == Guasto::Gelato ? kMuto : kCaduto});
     EXPECT_EQ(spuntate(), "");
     EXPECT_EQ(combo("DCBItem1").count(), 0);
-    for (const char* nome : kGriglie)
+    for (const char* nome : kGriglie) {
         EXPECT_EQ(righe(nome), 0) << nome;
+    }
     guasto.ripara();
     riapri();
     EXPECT_GT(righe("DataGrid2"), 0);
@@ -93,8 +98,9 @@ TEST_F(GuastoMorlan, AtWhateverStatementOfTheLoadTheServerEndsTheLoadAndOneBoxAt
         SCOPED_TRACE(fatale);
         int inviate = 0;
         ado::setStatementRecorder([&](const std::string& /*testo*/) {
-            if (++inviate == fatale)
+            if (++inviate == fatale) {
                 guasto.avviene(Guasto::Spento);
+            }
         });
         const Testi dette = scatoleDurante([this] { riapri(); });
         ado::setStatementRecorder({});
@@ -122,8 +128,9 @@ TEST_F(GuastoMorlan, InTheMiddleOfWhateverAnswerOfTheLoadTheWireIsCutAListIsWhol
         SCOPED_TRACE(prova);
         filo->cutAfter(tutti * prova / kProve);
         EXPECT_LE(scatoleDurante([this] { riapri(); }).size(), 2U);
-        for (const auto& [nome, quante] : liste())
+        for (const auto& [nome, quante] : liste()) {
             EXPECT_THAT(quante, testing::AnyOf(0, intere.at(nome))) << nome;
+        }
         filo->mend();
     }
     EXPECT_EQ(tutto(), prima);

@@ -15,8 +15,9 @@ protected:
         constexpr std::size_t kPasso = 9;
         const std::vector<std::string> tutti = support::attacks();
         std::vector<std::string> scelti = {"'; delete from conti --", "0 where 1=1 --"};
-        for (std::size_t i = 0; i < tutti.size(); i += kPasso)
+        for (std::size_t i = 0; i < tutti.size(); i += kPasso) {
             scelti.push_back(tutti[i]);
+        }
         return scelti;
     }
     static void incolla(QLineEdit& campo, const std::string& testo) {
@@ -29,8 +30,9 @@ protected:
         const support::StatementRecorder recorder;
         scegli(griglia, riga);
         EXPECT_EQ(fuoco(), selettore);
-        if (digitato != nullptr)
+        if (digitato != nullptr) {
             incolla(*combo(selettore).lineEdit(), *digitato);
+        }
         gui.press(Qt::Key_Return);
         return recorder.texts();
     }
@@ -53,9 +55,10 @@ TEST_P(MorlanAttacchiAlSelettore, AStoreSendsWhatItSendsWithoutThem) {
     const auto prima = conti();
     const auto attese = salvando(griglia, riga, selettore);
     ASSERT_FALSE(attese.empty());
-    for (const std::string& attacco : alcuni())
+    for (const std::string& attacco : alcuni()) {
         EXPECT_EQ(salvando(griglia, riga, selettore, &attacco), attese)
             << testing::PrintToString(attacco.substr(0, 60));
+    }
     EXPECT_EQ(conti(), prima);
 }
 
@@ -78,8 +81,9 @@ TEST_F(MorlanAttacchi, APickedTreatmentSendsWhatItSendsWithoutThemInItsFields) {
     const auto attese = prendendo();
     ASSERT_FALSE(attese.empty());
     for (const std::string& attacco : alcuni()) {
-        for (const char* campo : {"Aliquota", "Detrazione", "Sigla"})
+        for (const char* campo : {"Aliquota", "Detrazione", "Sigla"}) {
             incolla(controllo<QLineEdit>(campo), attacco);
+        }
         EXPECT_EQ(prendendo(), attese) << testing::PrintToString(attacco.substr(0, 60));
     }
     EXPECT_EQ(posto.rows(support::kCompany, "select idTipo, Aliquota, Sigla, Detrazione from IvaAliquotaStandard"),

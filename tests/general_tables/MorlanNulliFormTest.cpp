@@ -89,8 +89,9 @@ TEST_F(MorlanNulli, ABoxWritesOverANull) {
     esegui("update datiGenerali set Contatore = null where id = 15");
     esegui("update TabellaUilityConti set Lunghezza = null where id = 9");
     apri();
-    for (const char* nome : {"Check13", "Check12"})
+    for (const char* nome : {"Check13", "Check12"}) {
         controllo<controls::CheckBox>(nome).setValue(1);
+    }
     EXPECT_EQ(valore("select Contatore from datiGenerali where id = 15"), "-1");
     EXPECT_EQ(valore("select Lunghezza from TabellaUilityConti where id = 9"), "1");
 }
@@ -201,8 +202,9 @@ TEST_P(MorlanNulliNellaRiga, ItCanBeChosenAndStored) {
     }
     EXPECT_EQ(combo(g.selettore).Text(), mostrato);
     EXPECT_EQ(fuoco(), g.selettore);
-    if (*scelta.scatola != '\0')
+    if (*scelta.scatola != '\0') {
         script.expectMessage(scelta.scatola);
+    }
     gui.press(Qt::Key_Return);
     EXPECT_TRUE(script.allShown());
     EXPECT_EQ(conto(g.tabella, g.chiave, std::stoi(g.riga)), (Riga{scelta.conto, scelta.gruppo}));
@@ -268,8 +270,9 @@ INSTANTIATE_TEST_SUITE_P(
 
 TEST_F(MorlanNulli, ARowWhoseKeyCountsAsNothingIsNotChosen) {
     const Griglia griglie[] = {kUtili, kAltri, kFatture, kBuste};
-    for (const Griglia& g : griglie)
+    for (const Griglia& g : griglie) {
         esegui(std::string("update ") + g.tabella + " set " + g.chiave + " = 0 where " + g.chiave + " = " + g.riga);
+    }
     apri();
     for (const Griglia& g : griglie) {
         SCOPED_TRACE(g.nome);

@@ -16,16 +16,18 @@ protected:
     /// Presses a key until that control has the focus.
     void vaiA(const std::string& nome, Qt::Key tasto = Qt::Key_Tab) {
         constexpr int kPiuDelleFermate = 60;
-        for (int i = 0; i < kPiuDelleFermate && fuoco() != nome; ++i)
+        for (int i = 0; i < kPiuDelleFermate && fuoco() != nome; ++i) {
             gui.press(tasto);
+        }
         ASSERT_EQ(fuoco(), nome);
     }
     /// From anywhere on the form, to the tabs and along them.
     void vaiAllaScheda(int numero) {
         vaiA("qt_tabwidget_tabbar");
         auto& schede = controllo<QTabWidget>("SSTab1");
-        while (schede.currentIndex() != numero)
+        while (schede.currentIndex() != numero) {
             gui.press(schede.currentIndex() < numero ? Qt::Key_Right : Qt::Key_Left);
+        }
     }
     /// Types into the picker and takes the first account that is found.
     void cercaEPrendi(const std::string& nome, const std::string& lettere) {

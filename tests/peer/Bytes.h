@@ -34,16 +34,18 @@ public:
         return static_cast<std::uint16_t>(two[0] << 8 | two[1]);
     }
     std::span<const std::uint8_t> take(std::size_t count) {
-        if (count > left())
+        if (count > left()) {
             throw ProtocolError("message ends early");
+        }
         const auto piece = bytes_.subspan(place_, count);
         place_ += count;
         return piece;
     }
     /// Another place of the same message.
     std::span<const std::uint8_t> at(std::size_t offset, std::size_t count) const {
-        if (offset > bytes_.size() || count > bytes_.size() - offset)
+        if (offset > bytes_.size() || count > bytes_.size() - offset) {
             throw ProtocolError("offset outside the message");
+        }
         return bytes_.subspan(offset, count);
     }
     std::string ucs2(std::size_t characters);
@@ -52,8 +54,9 @@ private:
     std::uint64_t number(std::size_t count) {
         std::uint64_t value = 0;
         const auto piece = take(count);
-        for (std::size_t i = 0; i < count; ++i)
+        for (std::size_t i = 0; i < count; ++i) {
             value |= static_cast<std::uint64_t>(piece[i]) << (8 * i);
+        }
         return value;
     }
 
@@ -85,8 +88,9 @@ public:
 
 private:
     ByteWriter& number(std::uint64_t value, std::size_t count) {
-        for (std::size_t i = 0; i < count; ++i)
+        for (std::size_t i = 0; i < count; ++i) {
             bytes.push_back(static_cast<std::uint8_t>(value >> (8 * i)));
+        }
         return *this;
     }
 };

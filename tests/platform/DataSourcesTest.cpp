@@ -44,10 +44,11 @@ protected:
         std::string name;
         std::istringstream lines(text());
         for (std::string line; std::getline(lines, line);) {
-            if (line.starts_with('['))
+            if (line.starts_with('[')) {
                 all[name = line.substr(1, line.find(']') - 1)];
-            else if (const auto equal = line.find('='); equal != std::string::npos)
+            } else if (const auto equal = line.find('='); equal != std::string::npos) {
                 all[name][line.substr(0, equal)] = line.substr(equal + 1);
+            }
         }
         return all;
     }
@@ -61,8 +62,9 @@ protected:
         const std::string driver = ado::odbc::resolveDriver(kDriver, ado::odbc::registeredDrivers());
         values["Driver"] = driver;
         std::istringstream settings(ado::odbc::driverSettings(driver));
-        for (std::string setting; std::getline(settings, setting, ';');)
+        for (std::string setting; std::getline(settings, setting, ';');) {
             values[setting.substr(0, setting.find('='))] = setting.substr(setting.find('=') + 1);
+        }
         return values;
     }
     static void enter(const std::string& name, const std::string& attributes = "Server=uno") {
@@ -137,8 +139,9 @@ TEST_F(DataSourcesTest, ConfiguringNeedsAnEntry) {
 
 TEST_F(DataSourcesTest, AnyOtherRequestAnUnknownDriverAndAMissingNameDoNothing) {
     put(kForOthers);
-    for (const std::int16_t request : std::initializer_list<std::int16_t>{0, 3, 4})
+    for (const std::int16_t request : std::initializer_list<std::int16_t>{0, 3, 4}) {
         EXPECT_EQ(configure(request, "DSN=Magazzino|SERVER=uno|"), 0) << request;
+    }
     EXPECT_EQ(configure(DataSources::kAdd, "DSN=Tlv_Temp|", "Microsoft Access Driver (*.mdb)"), 0);
     EXPECT_EQ(configure(DataSources::kAdd, "DSN=Tlv_Temp|", ""), 0);
     EXPECT_EQ(configure(DataSources::kAdd, "SERVER=uno|"), 0);
@@ -240,8 +243,9 @@ TEST_F(DataSourcesTest, PermissionsAndLinksOfTheFileStay) {
 TEST_F(DataSourcesTest, NothingButTheFileIsLeftBehind) {
     enter("Tlv_server");
     std::vector<std::string> left;
-    for (const auto& each : fs::directory_iterator(folder.path()))
+    for (const auto& each : fs::directory_iterator(folder.path())) {
         left.push_back(each.path().filename());
+    }
     EXPECT_THAT(left, ElementsAre("odbc.ini"));
 }
 

@@ -15,11 +15,13 @@ using support::kCompany;
 bool isHarmless(const std::string& statement) {
     const std::string begin = "select * from AbilitazioneAccessi where  NomeUtente = '";
     const std::string between = "' and  PaswUtente = '";
-    if (!statement.starts_with(begin) || !statement.ends_with('\''))
+    if (!statement.starts_with(begin) || !statement.ends_with('\'')) {
         return false;
+    }
     std::string values = statement.substr(begin.size(), statement.size() - begin.size() - 1);
-    if (const auto place = values.find(between); place != std::string::npos)
+    if (const auto place = values.find(between); place != std::string::npos) {
         values.replace(place, between.size(), "_");
+    }
     return values.find_first_of(" ,/\\'&@\"-+!=?^$#()[]*") == std::string::npos;
 }
 
@@ -75,8 +77,9 @@ protected:
     }
     /// Nothing that was typed stands in a statement as it was typed.
     static void expectHarmless(const support::StatementRecorder& recorder) {
-        for (const std::string& text : recorder.holding("AbilitazioneAccessi"))
+        for (const std::string& text : recorder.holding("AbilitazioneAccessi")) {
             EXPECT_TRUE(isHarmless(text)) << text;
+        }
     }
 
     support::HeardBoxes boxes;
@@ -126,9 +129,11 @@ TEST_F(AboutFormFirstPassword, AnAttackAsEitherEntryIsNoStatement) {
 
 TEST_F(AboutFormFirstPassword, ANameChangedAtEachStepNeitherGetsThePasswordNorTheRights) {
     std::vector<std::string> attacks = {"x' or Administrator=1 --", "amministratore", "contabile"};
-    for (const std::string& attack : support::attacks())
-        if (attack.size() <= 25 && attack.find('\'') != std::string::npos)
+    for (const std::string& attack : support::attacks()) {
+        if (attack.size() <= 25 && attack.find('\'') != std::string::npos) {
             attacks.push_back(attack); // the field holds it whole
+        }
+    }
     ASSERT_GT(attacks.size(), 20U);
     for (const std::string& attack : attacks) {
         begin();

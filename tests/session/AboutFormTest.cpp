@@ -33,8 +33,9 @@ protected:
                                  "select PaswUtente from AbilitazioneAccessi where NomeUtente = '" + user + "'");
     }
     void refuse(int times) {
-        for (int i = 0; i < times; ++i)
+        for (int i = 0; i < times; ++i) {
             script.expectMessage("User not allowed! ");
+        }
     }
     void expectIn() {
         EXPECT_EQ(gui.visibleForms(), "Avvio_Azienda");
@@ -52,14 +53,16 @@ TEST_F(AboutForm, PresentsTheProgram) {
     EXPECT_EQ(gui.text("About", "lblLabels"), "User Name");
     EXPECT_EQ(gui.text("About", "PswLabels_0"), "Password :");
     EXPECT_EQ(gui.text("About", "Command8"), "Chiudi il programma");
-    for (const char* name : {"lblProductName", "lblCompanyProduct", "Label1", "Frame1", "Picture1"})
+    for (const char* name : {"lblProductName", "lblCompanyProduct", "Label1", "Frame1", "Picture1"}) {
         EXPECT_TRUE(visible(name)) << name;
+    }
 }
 
 TEST_F(AboutForm, TheListsOfDrivesFoldersAndFilesAreHidden) {
     show();
-    for (const char* name : {"Drive1", "Dir1", "File1"})
+    for (const char* name : {"Drive1", "Dir1", "File1"}) {
         EXPECT_FALSE(visible(name)) << name;
+    }
 }
 
 TEST_F(AboutForm, StartsAtTheNameWithThePasswordDisabled) {
@@ -92,8 +95,9 @@ TEST_F(AboutForm, TheFieldsTakeOnlySoMuchAndHidePasswords) {
 TEST_F(AboutForm, EveryControlHasTheHelpTopic) {
     show();
     EXPECT_EQ(gui.form("About").property("HelpContextID").toInt(), 44);
-    for (const char* name : {"txtUserName", "txtPassword", "txtPassword1", "Command8", "Label21"})
+    for (const char* name : {"txtUserName", "txtPassword", "txtPassword1", "Command8", "Label21"}) {
         EXPECT_EQ(gui.find("About", name).property("HelpContextID").toInt(), 44) << name;
+    }
 }
 
 TEST_F(AboutForm, TheKeyboardAloneLogsIn) {
@@ -183,8 +187,9 @@ TEST_F(AboutForm, TheFourthFailureClosesTheForm) {
     show();
     refuse(4);
     script.expectMessage("It is no more possible to try! ");
-    for (int i = 0; i < 4; ++i)
+    for (int i = 0; i < 4; ++i) {
         login("amministratore", "estate");
+    }
     EXPECT_EQ(gui.visibleForms(), "");
     EXPECT_FALSE(gui.forms().isLoaded("About"));
 }
@@ -192,8 +197,9 @@ TEST_F(AboutForm, TheFourthFailureClosesTheForm) {
 TEST_F(AboutForm, AnotherShowingForgetsTheAttempts) {
     show();
     refuse(4);
-    for (int i = 0; i < 3; ++i)
+    for (int i = 0; i < 3; ++i) {
         login("amministratore", "estate");
+    }
     gui.forms().unload("About");
     show();
     EXPECT_EQ(TentativiLogin, 0);

@@ -29,10 +29,13 @@ protected:
         workstation.putFile("C:\\vabo\\Leggi_ServerLocal.txt", "Server=127.0.0.1,9;\r\n");
         noCompanyDatabases();
         control("delete from link_programma");
-        for (const char* database : GetParam().databases)
+        for (const char* database : GetParam().databases) {
             control(std::string("insert into link_programma (NomeAzienda, dbname) values ('x', ") + database + ")");
-        for (const auto& row : workstation.rows(support::kControlDatabase, "select id from link_programma order by id"))
+        }
+        for (const auto& row :
+             workstation.rows(support::kControlDatabase, "select id from link_programma order by id")) {
             numbers.push_back(std::stod(row.front()));
+        }
     }
     /// How often each company was looked up until the end.
     std::map<std::string, int> lookUpsUntilTheEnd(double id) {
@@ -40,10 +43,12 @@ protected:
         int statements = 0;
         const support::SomebodyElse hears([&](const std::string& text) {
             constexpr int kFarTooMany = 500;
-            if (++statements == kFarTooMany)
+            if (++statements == kFarTooMany) {
                 platform::TerminaProcesso();
-            if (text.starts_with("Select * from link_programma  where   id = "))
+            }
+            if (text.starts_with("Select * from link_programma  where   id = ")) {
                 ++lookUps[text];
+            }
         });
         script.expectMessage("Non è possibile caricare il DataBase");
         EXPECT_TRUE(end.endedBy([&] { ApriAzienda(id); }));
@@ -53,8 +58,9 @@ protected:
     void expectEachLookedUpOnce(double id) {
         const auto lookUps = lookUpsUntilTheEnd(id);
         EXPECT_FALSE(lookUps.empty());
-        for (const auto& [text, times] : lookUps)
+        for (const auto& [text, times] : lookUps) {
             EXPECT_EQ(times, 1) << text;
+        }
     }
 
     std::vector<double> numbers;
@@ -65,8 +71,9 @@ TEST_P(ApriAziendaGiro, WithoutANumberIsWalkedOnce) {
 }
 
 TEST_P(ApriAziendaGiro, IsWalkedOnceFromEachRow) {
-    for (const double number : numbers)
+    for (const double number : numbers) {
         expectEachLookedUpOnce(number);
+    }
 }
 
 TEST_P(ApriAziendaGiro, IsWalkedOnceFromANumberWithoutARow) {
@@ -98,10 +105,12 @@ TEST_F(SessionTest, ATerminalsRowThatNobodyCanChangeIsWalkedOnceToo) {
     // Somebody else takes each change back before it is read.
     const support::SomebodyElse hears([&](const std::string& text) {
         constexpr int kFarTooMany = 500;
-        if (++statements == kFarTooMany)
+        if (++statements == kFarTooMany) {
             platform::TerminaProcesso();
-        if (text.starts_with("Select * from link_programmaTerminale"))
+        }
+        if (text.starts_with("Select * from link_programmaTerminale")) {
             control("update link_programmaTerminale set ultimo = " + textOf(idOf(support::kCompany)));
+        }
     });
     double id = idOf("");
     script.expectMessage("Non è possibile caricare il DataBase");

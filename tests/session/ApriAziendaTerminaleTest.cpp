@@ -63,8 +63,9 @@ TEST_F(ApriAziendaTerminale, TheChoiceIsReadBackFromTheTerminalsRow) {
     const double other = idOf(kOtherCompany);
     // Another process chooses between the writing and the reading.
     const support::SomebodyElse somebody([&](const std::string& text) {
-        if (text == kReadTerminal)
+        if (text == kReadTerminal) {
             control("update link_programmaTerminale set ultimo = " + textOf(other));
+        }
     });
     ApriAzienda(id);
     EXPECT_EQ(IdAziendaLavoro, other);
@@ -81,8 +82,9 @@ TEST_F(ApriAziendaTerminale, WithoutANumberTheTerminalsRowIsReadOnceMore) {
     // Another process chooses ahead of that reading.
     const support::SomebodyElse somebody([&](const std::string& text) {
         heard.push_back(text);
-        if (text != kReadTerminal || meanwhile)
+        if (text != kReadTerminal || meanwhile) {
             return;
+        }
         meanwhile = true;
         control("update link_programmaTerminale set ultimo = 42");
     });
@@ -102,10 +104,12 @@ TEST_F(ApriAziendaTerminale, WithoutANumberItGetsNoRowBeforeACompanyIsFound) {
     bool meanwhile = false;
     // While the choice is recorded the terminal's row goes and the first company comes.
     const support::SomebodyElse somebody([&](const std::string& text) {
-        if (meanwhile)
+        if (meanwhile) {
             heard.push_back(text);
-        if (meanwhile || !text.starts_with("update link_programmaTerminale"))
+        }
+        if (meanwhile || !text.starts_with("update link_programmaTerminale")) {
             return;
+        }
         meanwhile = true;
         control("delete from link_programmaTerminale");
         control("insert into link_programma (NomeAzienda, dbname) values ('Aurora', 'VaBoDatiAurora')");

@@ -198,8 +198,9 @@ TEST_F(ApriAziendaTest, TheFolderOfTheLocalFilesIsMadeAndNoOther) {
         std::set<std::string> found;
         const auto drive = workstation.driveC().real("C:\\");
         for (const auto& entry : std::filesystem::recursive_directory_iterator(drive)) {
-            if (entry.is_directory())
+            if (entry.is_directory()) {
                 found.insert(entry.path().string());
+            }
         }
         return found;
     };

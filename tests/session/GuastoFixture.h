@@ -72,12 +72,15 @@ public:
     }
 
     void ripara() {
-        if (guasto_ == Guasto::Spento)
+        if (guasto_ == Guasto::Spento) {
             posto_.peer().restart();
-        if (guasto_ == Guasto::Gelato)
+        }
+        if (guasto_ == Guasto::Gelato) {
             posto_.peer().thaw();
-        for (const auto& [file, testo] : prima_)
+        }
+        for (const auto& [file, testo] : prima_) {
             posto_.putFile(file, testo);
+        }
         prima_.clear();
     }
 
@@ -86,8 +89,9 @@ public:
         std::map<std::string, std::string> tutti;
         for (const auto& voce : std::filesystem::directory_iterator(posto_.driveC().real("C:\\vabo"))) {
             const std::string nome = voce.path().filename().string();
-            if (voce.is_regular_file())
+            if (voce.is_regular_file()) {
                 tutti[nome] = *posto_.fileText("C:\\vabo\\" + nome);
+            }
         }
         return tutti;
     }

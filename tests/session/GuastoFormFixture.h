@@ -17,9 +17,11 @@ protected:
     /// The process anew: what stands on the disk is all that is left.
     void ricomincia() {
         // The form of the data sources gives way to the console.
-        for (const char* form : {"FormRegistraAziendeNeiDns", "Avvio_Morlan", "Avvio_Azienda", "About", "Avvio"})
-            if (gui.forms().isLoaded(form))
+        for (const char* form : {"FormRegistraAziendeNeiDns", "Avvio_Morlan", "Avvio_Azienda", "About", "Avvio"}) {
+            if (gui.forms().isLoaded(form)) {
                 gui.forms().unload(form);
+            }
+        }
         support::Gui::handleEvents();
         AzzeraVariabili();
     }
@@ -35,8 +37,9 @@ protected:
     void spegniAllIstruzione(int fatale, const std::function<void()>& lavoro) {
         int inviate = 0;
         ado::setStatementRecorder([&](const std::string& /*testo*/) {
-            if (++inviate == fatale)
+            if (++inviate == fatale) {
                 guasto.avviene(Guasto::Spento);
+            }
         });
         lavoro();
         ado::setStatementRecorder({});

@@ -62,14 +62,16 @@ TEST_F(LoginAttack, NoneGetsInByTheName) {
 }
 
 TEST_F(LoginAttack, NoneGetsInByThePassword) {
-    for (const std::string& attack : support::attacks())
+    for (const std::string& attack : support::attacks()) {
         expectOutside("amministratore", attack);
+    }
     expectNothingDamaged();
 }
 
 TEST_F(LoginAttack, NoneGetsInByBothFields) {
-    for (const std::string& attack : support::attacks())
+    for (const std::string& attack : support::attacks()) {
         expectOutside(attack, attack);
+    }
     expectNothingDamaged();
 }
 

@@ -122,8 +122,9 @@ inline std::vector<std::string> attacks() {
     for (const std::string& shape : shapes) {
         for (const std::string_view quote : quotes) {
             std::string text;
-            for (const char c : shape)
+            for (const char c : shape) {
                 c == '\'' ? text.append(quote) : text.append(1, c);
+            }
             all.insert(text);
         }
     }

@@ -36,16 +36,19 @@ protected:
         std::array<char, 64> piece{};
         while (text.size() < bytes) {
             const ssize_t count = ::recv(caller_, piece.data(), piece.size(), 0);
-            if (count <= 0)
+            if (count <= 0) {
                 break;
+            }
             text.append(piece.data(), static_cast<std::size_t>(count));
         }
         return text;
     }
     void hangUp() {
-        for (int* end : {&caller_, &server_})
-            if (*end >= 0)
+        for (int* end : {&caller_, &server_}) {
+            if (*end >= 0) {
                 ::close(std::exchange(*end, -1));
+            }
+        }
     }
 
 private:

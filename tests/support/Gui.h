@@ -35,8 +35,9 @@ public:
     template<typename Control = QWidget>
     Control& find(const std::string& form, const std::string& control) const {
         auto* found = dynamic_cast<Control*>(&widget(form, control));
-        if (found == nullptr)
+        if (found == nullptr) {
             throw std::runtime_error(form + "." + control + " is of another kind");
+        }
         return *found;
     }
     /// As it is seen: without the mark of a mnemonic.

@@ -14,8 +14,9 @@ QtMessageHandler failing = nullptr;
 
 /// What the offscreen platform says of every popup is no warning about the program.
 void passOver(QtMsgType type, const QMessageLogContext& context, const QString& message) {
-    if (!message.startsWith(QLatin1String("This plugin does not support ")))
+    if (!message.startsWith(QLatin1String("This plugin does not support "))) {
         failing(type, context, message);
+    }
 }
 
 } // namespace

@@ -23,8 +23,9 @@ inline int listener() {
     const int handle = ::socket(AF_INET, SOCK_STREAM | SOCK_CLOEXEC | SOCK_NONBLOCK, 0);
     sockaddr_in place = address(0);
     if (handle < 0 || ::bind(handle, reinterpret_cast<sockaddr*>(&place), sizeof place) < 0 ||
-        ::listen(handle, kCallers) < 0)
+        ::listen(handle, kCallers) < 0) {
         throw std::runtime_error("No place to listen on loopback.");
+    }
     return handle;
 }
 
@@ -44,8 +45,9 @@ inline int accept(int listener) {
 inline int call(int port) {
     const int handle = ::socket(AF_INET, SOCK_STREAM | SOCK_CLOEXEC, 0);
     sockaddr_in place = address(port);
-    if (::connect(handle, reinterpret_cast<sockaddr*>(&place), sizeof place) == 0)
+    if (::connect(handle, reinterpret_cast<sockaddr*>(&place), sizeof place) == 0) {
         return handle;
+    }
     ::close(handle);
     return -1;
 }

@@ -39,8 +39,9 @@ private:
                               const std::string& attributes) override {
             owner_.calls_.push_back("register " + name + ", " + driver + (silent ? ": " : ", asking: ") +
                                     readable(attributes));
-            if (owner_.refusesRegistration)
+            if (owner_.refusesRegistration) {
                 throw std::runtime_error("The driver isn't there.");
+            }
         }
         std::int32_t configure(std::int16_t request, const std::string& driver,
                                const std::string& attributes) override {
@@ -51,8 +52,9 @@ private:
 
     private:
         static std::string readable(std::string attributes) {
-            for (char& c : attributes)
+            for (char& c : attributes) {
                 c = c == '\r' ? '|' : c == '\0' ? '~' : c;
+            }
             return attributes;
         }
         RecordedDataSources& owner_;

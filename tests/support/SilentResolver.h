@@ -16,8 +16,9 @@ public:
         constexpr int kPort = 1434;
         sockaddr_in place = loopback::address(kPort);
         place.sin_addr.s_addr = htonl(address_);
-        if (::bind(handle_, reinterpret_cast<sockaddr*>(&place), sizeof place) < 0)
+        if (::bind(handle_, reinterpret_cast<sockaddr*>(&place), sizeof place) < 0) {
             throw std::runtime_error("No place for a resolver on loopback.");
+        }
     }
     ~SilentResolver() { ::close(handle_); }
     SilentResolver(const SilentResolver&) = delete;
@@ -33,8 +34,9 @@ public:
     int questions() const {
         int count = 0;
         std::array<char, 512> question{};
-        while (::recv(handle_, question.data(), question.size(), 0) >= 0)
+        while (::recv(handle_, question.data(), question.size(), 0) >= 0) {
             ++count;
+        }
         return count;
     }
 

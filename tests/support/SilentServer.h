@@ -20,8 +20,9 @@ public:
     /// How many have called since this was last asked.
     int callers() const {
         int count = 0;
-        for (int caller = loopback::accept(listener_); caller >= 0; caller = loopback::accept(listener_), ++count)
+        for (int caller = loopback::accept(listener_); caller >= 0; caller = loopback::accept(listener_), ++count) {
             ::close(caller);
+        }
         return count;
     }
 

@@ -53,8 +53,9 @@ TEST(TestWorkstation, OverTheWireNoFileNamesTheEmbeddedServer) {
     EXPECT_EQ(fs::is_directory(ado::instanceFolder(support::kLocalServerName)), embedded);
     int naming = 0;
     for (const fs::directory_entry& entry : fs::directory_iterator(workstation.driveC().real("C:\\vabo"))) {
-        if (!entry.is_regular_file())
+        if (!entry.is_regular_file()) {
             continue;
+        }
         const auto text = workstation.fileText("C:\\vabo\\" + entry.path().filename().string());
         naming += text->find(support::kLocalServerName) != std::string::npos ? 1 : 0;
     }

@@ -19,8 +19,9 @@ void chooseTestedDriver(int argc, const char* const* argv) {
     constexpr std::string_view kOption = "--driver=";
     for (int i = 1; i < argc; ++i) {
         const std::string_view argument = argv[i];
-        if (!argument.starts_with(kOption))
+        if (!argument.starts_with(kOption)) {
             continue;
+        }
         const std::string_view wanted = argument.substr(kOption.size());
         if (wanted != name(TestedDriver::Embedded) && wanted != name(TestedDriver::Wire)) {
             std::fprintf(stderr, "No such driver: %s\n", argv[i]);

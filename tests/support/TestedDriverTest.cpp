@@ -28,15 +28,17 @@ TEST_F(TestedDrivers, AreTakenFromTheCommandLine) {
 }
 
 TEST_F(TestedDrivers, AnUnknownOneEndsTheProcess) {
-    for (const char* unknown : {"--driver=", "--driver=Wire", "--driver=sea"})
+    for (const char* unknown : {"--driver=", "--driver=Wire", "--driver=sea"}) {
         EXPECT_EXIT(take({unknown}), testing::ExitedWithCode(2), "No such driver: --driver=") << unknown;
+    }
 }
 
 TEST_F(TestedDrivers, TheEmbeddedOneOffersEverything) {
     const support::Capabilities& all = support::capabilities();
     for (const support::Capability& capability : {all.fieldsTellTheirSource, all.holdEndsAtOnceWithItsProcess,
-                                                  all.nulInTexts, all.composedLocalName, all.integratedSecurity})
+                                                  all.nulInTexts, all.composedLocalName, all.integratedSecurity}) {
         EXPECT_TRUE(capability) << capability.missing;
+    }
 }
 
 TEST_F(TestedDrivers, WhatIsMissingHasAReason) {

@@ -34,8 +34,9 @@ void writeFile(const fs::path& file, std::string_view bytes) {
 /// All that could change of what lies in a folder.
 std::map<std::string, std::pair<fs::file_time_type, std::string>> snapshot(const fs::path& folder) {
     std::map<std::string, std::pair<fs::file_time_type, std::string>> found;
-    for (const fs::directory_entry& entry : fs::recursive_directory_iterator(folder))
+    for (const fs::directory_entry& entry : fs::recursive_directory_iterator(folder)) {
         found[entry.path().string()] = {entry.last_write_time(), entry.is_regular_file() ? bytesOf(entry.path()) : ""};
+    }
     return found;
 }
 
@@ -75,8 +76,9 @@ TEST(Provision, WritesEveryPointerFileAsOneLine) {
         {"IndirizzoServerVabo.txt", "C:\\vabo\\Server\r\n"},
         {"DirectoryBackup.txt", "C:\\vabo\\Server\\Backup\r\n"},
     };
-    for (const auto& [name, line] : expected)
+    for (const auto& [name, line] : expected) {
         EXPECT_EQ(bytesOf(vabo / name), line) << name;
+    }
     EXPECT_EQ(provision::pointerFiles("x").size(), expected.size());
 }
 
@@ -219,8 +221,9 @@ TEST(Provision, RefusesAPlanThatCanNotBe) {
         {{root, "POSTO_7", -1, 0}, "a ledger has no rows or at least two"},
         {{root, "POSTO_7", 10, -1}, "a chart can't have less than no accounts"},
     };
-    for (const Case& refused : cases)
+    for (const Case& refused : cases) {
         EXPECT_EQ(refusal(refused.plan), refused.words);
+    }
     EXPECT_TRUE(fs::is_empty(root));
 }
 

@@ -42,8 +42,9 @@ Period periodOf(engine::Session& session) {
 
 /// When the rows are reported: mostly at once, some days later now and then, a few not yet.
 std::optional<sys_days> reportDay(Random& random, sys_days day) {
-    if (random.oneIn(20))
+    if (random.oneIn(20)) {
         return std::nullopt;
+    }
     return random.oneIn(3) ? day + std::chrono::days(random.below(45)) : day;
 }
 
@@ -58,10 +59,11 @@ void write(RowWriter& writer, const Place& place, std::string_view description, 
     writer.integer(place.number).integer(place.branch).date(place.day);
     place.reported ? writer.date(*place.reported) : writer.null();
     writer.integer(line.account).integer(line.project).integer(place.competence).text(description);
-    if (line.withoutAmount)
+    if (line.withoutAmount) {
         writer.null().null();
-    else
+    } else {
         writer.cents(line.debit).cents(line.credit);
+    }
     writer.integer(line.currency).cents(line.foreignAmount).integer(line.vatSection);
     writer.integer(place.definitive ? -1 : 0).endRow();
 }
@@ -84,8 +86,9 @@ public:
         Transaction transaction(session_);
         RowWriter writer(session_, "partitadoppia", kColumns);
         const long end = written_ + kRowsPerTransaction;
-        while (written_ < end && !done())
+        while (written_ < end && !done()) {
             writeTransaction(writer);
+        }
         writer.finish();
         transaction.commit();
     }
@@ -101,8 +104,9 @@ private:
         const sys_days day = period_.first + (period_.last - period_.first) * written_ / rows_;
         const Place place{++numbers_[branch],      branches_[branch],     branches_[competence], day,
                           reportDay(random_, day), day <= period_.balance};
-        for (const LedgerLine& line : transaction.lines)
+        for (const LedgerLine& line : transaction.lines) {
             write(writer, place, transaction.description, line);
+        }
         written_ += static_cast<long>(transaction.lines.size());
     }
 
@@ -120,11 +124,13 @@ private:
 } // namespace
 
 void addLedger(engine::Session& session, long rows, std::uint64_t seed) {
-    if (rows == 0)
+    if (rows == 0) {
         return;
+    }
     Writing writing(session, rows, seed);
-    while (!writing.done())
+    while (!writing.done()) {
         writing.writePart();
+    }
     run(session, "UPDATE contatorepd SET ultimatransazione = " + std::to_string(writing.lastNumber()));
 }
 

@@ -32,8 +32,9 @@ struct Draft {
         std::int64_t account, project;
     };
     Charge charge() {
-        if (accounts.projects.empty() || random.oneIn(4))
+        if (accounts.projects.empty() || random.oneIn(4)) {
             return {random.among(accounts.charges), kGeneralProject};
+        }
         const auto& project = random.among(accounts.projects);
         return {random.among(project.charges), project.id};
     }
@@ -101,8 +102,9 @@ void foreignPayment(Draft& draft) {
     };
     inCurrency(draft.debit(charge.account, charge.project, amount), foreign);
     inCurrency(draft.credit(draft.random.among(draft.accounts.cash), charge.project, amount), foreign);
-    if (!draft.random.oneIn(3))
+    if (!draft.random.oneIn(3)) {
         return;
+    }
     LedgerLine& difference = draft.debit(draft.accounts.exchangeLoss, charge.project, 0);
     inCurrency(difference, 1 + draft.random.below(500));
     difference.withoutAmount = draft.random.oneIn(2);
@@ -153,8 +155,9 @@ constexpr std::array kKinds = {
 
 constexpr int kAllWeights = [] {
     int sum = 0;
-    for (const Kind& kind : kKinds)
+    for (const Kind& kind : kKinds) {
         sum += kind.weight;
+    }
     return sum;
 }();
 
@@ -162,8 +165,9 @@ const Kind& pickKind(Random& random) {
     std::int64_t place = random.below(kAllWeights);
     for (const Kind& kind : kKinds) {
         place -= kind.weight;
-        if (place < 0)
+        if (place < 0) {
             return kind;
+        }
     }
     return kKinds.front();
 }
@@ -198,11 +202,12 @@ LedgerAccounts LedgerAccounts::read(engine::Session& session) {
     accounts.insurancePayable = named(session, "Debiti v/Inps");
     accounts.insuranceCharge = named(session, "C/Inps - oneri");
     accounts.exchangeLoss = named(session, "Perdite su cambi");
-    for (const std::int64_t project : integers(session, "SELECT ID FROM progetti WHERE ID > 10000001 ORDER BY ID"))
+    for (const std::int64_t project : integers(session, "SELECT ID FROM progetti WHERE ID > 10000001 ORDER BY ID")) {
         accounts.projects.push_back(
             {project, integers(session, "SELECT IdConto FROM conti WHERE idmastro = 4 AND NOT idchiave LIKE '%.0'"
                                         " AND IDProgetto = " +
                                             std::to_string(project) + " ORDER BY IdConto")});
+    }
     return accounts;
 }
 
@@ -212,8 +217,9 @@ LedgerTransaction draftTransaction(Random& random, const LedgerAccounts& account
         Draft draft{random, accounts, {kind.description, {}}};
         kind.fill(draft);
         const long over = mostLines - static_cast<long>(draft.result.lines.size());
-        if (over == 0 || over >= 2)
+        if (over == 0 || over >= 2) {
             return draft.result;
+        }
     }
 }
 

@@ -76,10 +76,13 @@ int walkAll(const QString& program, const QString& driveC, const QString& folder
 } // namespace
 
 int main(int argc, char** argv) {
-    if (argc == 4)
-        for (const Walk& walk : kWalks)
-            if (std::string_view(argv[3]) == walk.name)
+    if (argc == 4) {
+        for (const Walk& walk : kWalks) {
+            if (std::string_view(argv[3]) == walk.name) {
                 return walkOnce(argc, argv, walk);
+            }
+        }
+    }
     if (argc != 3) {
         std::fprintf(stderr, "usage: vabo-tour <drive-c> <output-folder>\n");
         return 2;

@@ -55,11 +55,13 @@ FieldType fieldType(const engine::DataType& type) {
         {Kind::VarBinary, FieldType::Binary},
     });
     // The engine stores money and smallmoney as decimals of these sizes.
-    if (type.kind == Kind::Decimal && type.scale == 4 && (type.precision == 19 || type.precision == 10))
+    if (type.kind == Kind::Decimal && type.scale == 4 && (type.precision == 19 || type.precision == 10)) {
         return FieldType::Currency;
+    }
     for (const Pair& pair : kPairs) {
-        if (pair.kind == type.kind)
+        if (pair.kind == type.kind) {
             return pair.field;
+        }
     }
     return FieldType::WChar;
 }
@@ -86,10 +88,12 @@ public:
 
     bool nextResult() override {
         fields_.clear();
-        if (!translated([&] { return batch_->nextResult(); }))
+        if (!translated([&] { return batch_->nextResult(); })) {
             return false;
-        for (const engine::ResultColumn& column : batch_->columns())
+        }
+        for (const engine::ResultColumn& column : batch_->columns()) {
             fields_.push_back(describe(column));
+        }
         return true;
     }
     bool hasRows() const override { return batch_->hasRows(); }
@@ -148,11 +152,13 @@ public:
     std::vector<std::string> primaryKey(const std::string& table) override {
         std::vector<std::string> columns;
         const auto result = run("SELECT * FROM [" + table + "] WHERE 1 = 0");
-        if (!result->nextResult())
+        if (!result->nextResult()) {
             return columns;
+        }
         for (const FieldDescription& field : result->fields()) {
-            if (field.key)
+            if (field.key) {
                 columns.push_back(field.baseColumn);
+            }
         }
         return columns;
     }
@@ -171,8 +177,9 @@ EmbeddedDriver::EmbeddedDriver() {
 
 std::shared_ptr<engine::Instance> EmbeddedDriver::instance(const std::filesystem::path& folder) {
     std::weak_ptr<engine::Instance>& known = instances_[folder];
-    if (auto living = known.lock())
+    if (auto living = known.lock()) {
         return living;
+    }
     auto opened = engine::Instance::open(folder, {[](std::string_view path) { return mapServerPath(path); }});
     known = opened;
     return opened;

@@ -21,19 +21,22 @@ namespace {
 /// The value, in braces only where it would be misread without them, since FreeTDS can't read a "}" inside of braces.
 std::string braced(const std::string& value) {
     const bool plain = value.find(';') == std::string::npos && !value.starts_with('{');
-    if (plain && !value.starts_with(' ') && !value.ends_with(' '))
+    if (plain && !value.starts_with(' ') && !value.ends_with(' ')) {
         return value;
+    }
     std::string out = "{";
-    for (const char c : value)
+    for (const char c : value) {
         out += c == '}' ? "}}" : std::string(1, c);
+    }
     return out + "}";
 }
 
 /// unixODBC copies the name to a buffer of this size on its stack without checking its length.
 void checkLength(const std::string& driver) {
     constexpr std::size_t kLongest = 1000;
-    if (driver.size() > kLongest)
+    if (driver.size() > kLongest) {
         throw Error(kUnspecified, "Driver name too long", "IM011", 0, {});
+    }
 }
 
 /// One day: longer than anybody waits, and small enough to be passed in milliseconds everywhere.
@@ -43,8 +46,9 @@ int timeoutOf(const ConnectionString& text) {
     for (const char* key : {"Connect Timeout", "Connection Timeout", "Timeout"}) {
         int seconds = 0;
         const std::string value = text.value(key).value_or("");
-        if (std::from_chars(value.data(), value.data() + value.size(), seconds).ec == std::errc() && seconds > 0)
+        if (std::from_chars(value.data(), value.data() + value.size(), seconds).ec == std::errc() && seconds > 0) {
             return std::min(seconds, kLongestTimeout);
+        }
     }
     return kTimeout;
 }
@@ -60,8 +64,9 @@ std::string placeOf(const ConnectionString& text) {
 }
 
 Error notReached(const Error& error, const ConnectionString& text) {
-    if (isSilence(error))
+    if (isSilence(error)) {
         rememberSilent(placeOf(text), error);
+    }
     return outOfReach(error);
 }
 
@@ -78,10 +83,12 @@ void connect(const Handle& connection, const ConnectionString& text, const std::
                                 static_cast<SQLSMALLINT>(wide.size()), nullptr, 0, nullptr, SQL_DRIVER_NOPROMPT),
               connection, "SQLDriverConnect");
     } catch (const Error& error) {
-        if (!isOutOfReach(error))
+        if (!isOutOfReach(error)) {
             throw;
-        if (waited.elapsed() >= kWaitMilliseconds)
+        }
+        if (waited.elapsed() >= kWaitMilliseconds) {
             rememberSilent(placeOf(text), error);
+        }
         throw notReached(error, text);
     }
 }
@@ -90,14 +97,17 @@ void connect(const Handle& connection, const ConnectionString& text, const std::
 
 std::string driverText(const ConnectionString& text, const std::string& resolvedDriver) {
     std::string out = "DRIVER={" + resolvedDriver + "};SERVER=" + braced(text.server()) + ";";
-    if (const auto port = text.value("Port"))
+    if (const auto port = text.value("Port")) {
         out += "PORT=" + braced(*port) + ";";
-    if (!text.database().empty())
+    }
+    if (!text.database().empty()) {
         out += "DATABASE=" + braced(text.database()) + ";";
-    if (!text.user().empty())
+    }
+    if (!text.user().empty()) {
         out += "UID=" + braced(text.user()) + ";PWD=" + braced(text.password()) + ";";
-    else
+    } else {
         out += "Trusted_Connection=Yes;";
+    }
     return out + driverSettings(resolvedDriver);
 }
 
@@ -149,8 +159,9 @@ public:
     /// Always commits, since what was written meanwhile was confirmed to the user. Rows are released when the last hold
     /// ends.
     void endHold() noexcept {
-        if (--holds_ > 0 || !alive())
+        if (--holds_ > 0 || !alive()) {
             return;
+        }
         try {
             runToEnd("IF @@TRANCOUNT > 0 COMMIT TRANSACTION; " + lockWait());
         } catch (const std::exception&) { // NOLINT(bugprone-empty-catch)
@@ -181,10 +192,12 @@ std::shared_ptr<SharedConnection> preparedConnection(const ConnectionString& tex
             return connection;
         } catch (const Error& error) {
             const bool silent = isSilence(error);
-            if (connection->alive() && !silent)
+            if (connection->alive() && !silent) {
                 throw;
-            if (silent || kept == kMostKept)
+            }
+            if (silent || kept == kMostKept) {
                 throw notReached(error, text);
+            }
         }
     }
 }
@@ -238,8 +251,9 @@ std::unique_ptr<DriverHold> OdbcConnection::hold(std::string_view select) {
 
 std::int64_t OdbcConnection::lastIdentity() {
     const auto result = run("SELECT CAST(@@IDENTITY AS bigint)");
-    if (!result->nextResult() || !result->nextRow() || result->isNull(0))
+    if (!result->nextResult() || !result->nextRow() || result->isNull(0)) {
         return 0;
+    }
     return result->integer(0);
 }
 
@@ -250,8 +264,9 @@ std::vector<std::string> OdbcConnection::primaryKey(const std::string& table) {
                             literal(Value(table), FieldType::WChar) + " ORDER BY k.ORDINAL_POSITION");
     std::vector<std::string> columns;
     if (result->nextResult()) {
-        while (result->nextRow())
+        while (result->nextRow()) {
             columns.emplace_back(result->text(0));
+        }
     }
     return columns;
 }

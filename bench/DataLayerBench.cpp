@@ -5,7 +5,7 @@
 #include "ado/Connection.h"
 #include "ado/Drivers.h"
 #include "ado/Recordset.h"
-#include "engine/Instance.h"
+#include "engine/store/Instance.h"
 
 #include <sqlite3.h>
 

@@ -1,6 +1,6 @@
 #include "PeerProcess.h"
 
-#include "engine/Instance.h"
+#include "engine/store/Instance.h"
 
 #include <array>
 #include <csignal>

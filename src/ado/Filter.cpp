@@ -4,7 +4,7 @@
 #include "ado/Error.h"
 #include "ado/Names.h"
 #include "ado/Text.h"
-#include "engine/Collation.h"
+#include "engine/values/Collation.h"
 
 #include <algorithm>
 #include <array>

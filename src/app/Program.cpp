@@ -3,7 +3,7 @@
 #include "app/Forms.h"
 #include "controls/Mark.h"
 #include "controls/QtDialogs.h"
-#include "engine/Host.h"
+#include "engine/store/Host.h"
 #include "platform/Workstation.h"
 
 #include <QLibraryInfo>

@@ -3,7 +3,7 @@
 #include "ado/Connection.h"
 #include "ado/ConnectionString.h"
 #include "ado/ExpectError.h"
-#include "engine/Instance.h"
+#include "engine/store/Instance.h"
 #include "support/TemporaryFolder.h"
 
 #include <filesystem>

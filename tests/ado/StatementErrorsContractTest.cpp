@@ -1,8 +1,8 @@
 // Whatever a statement is, it has its rows or its error, and the connection answers the next one.
 
 #include "ado/AdoFixture.h"
-#include "engine/InternalErrors.h"
-#include "engine/Sqlite.h"
+#include "engine/run/InternalErrors.h"
+#include "engine/store/Sqlite.h"
 
 #include <sys/resource.h>
 

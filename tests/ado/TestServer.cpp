@@ -1,7 +1,7 @@
 #include "ado/TestServer.h"
 
 #include "ado/Drivers.h"
-#include "engine/Instance.h"
+#include "engine/store/Instance.h"
 
 namespace ado::test {
 

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "engine/Instance.h"
-#include "engine/Session.h"
+#include "engine/run/Session.h"
+#include "engine/store/Instance.h"
 #include "peer/Login.h"
 #include "peer/Packets.h"
 #include "peer/Tokens.h"

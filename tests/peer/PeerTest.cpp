@@ -1,6 +1,6 @@
 // The wire from the server's side: what is put together, what is refused.
 
-#include "engine/Instance.h"
+#include "engine/store/Instance.h"
 #include "peer/Client.h"
 #include "peer/Procedures.h"
 #include "peer/Wire.h"

@@ -1,6 +1,6 @@
 #include "peer/Server.h"
 
-#include "engine/Instance.h"
+#include "engine/store/Instance.h"
 #include "peer/Client.h"
 
 #include <algorithm>

@@ -2,8 +2,8 @@
 
 // The tokens of a response, in the words of the agreed protocol version.
 
-#include "engine/DataType.h"
-#include "engine/Session.h"
+#include "engine/run/Session.h"
+#include "engine/values/DataType.h"
 #include "peer/Bytes.h"
 
 #include <span>

@@ -1,7 +1,7 @@
 #include "support/TestWorkstation.h"
 
 #include "ado/Drivers.h"
-#include "engine/Instance.h"
+#include "engine/store/Instance.h"
 #include "support/AzzeraVariabili.h"
 #include "support/Environment.h"
 #include "support/TestedDriver.h"

@@ -1,6 +1,6 @@
 #include "provision/Provision.h"
 
-#include "engine/Error.h"
+#include "engine/errors/Error.h"
 #include "provision/PointerFiles.h"
 #include "provision/Sql.h"
 #include "support/TemporaryFolder.h"

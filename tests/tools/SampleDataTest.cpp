@@ -1,4 +1,4 @@
-#include "engine/Error.h"
+#include "engine/errors/Error.h"
 #include "provision/Scripts.h"
 #include "provision/Sql.h"
 #include "tools/SampleWorkstation.h"

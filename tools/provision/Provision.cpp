@@ -1,7 +1,7 @@
 #include "provision/Provision.h"
 
-#include "engine/Instance.h"
-#include "engine/Session.h"
+#include "engine/run/Session.h"
+#include "engine/store/Instance.h"
 #include "platform/DriveC.h"
 #include "provision/Companies.h"
 #include "provision/Folders.h"

@@ -2,8 +2,8 @@
 
 #include "ado/Drivers.h"
 #include "ado/ServerErrors.h"
-#include "engine/InternalErrors.h"
-#include "engine/Session.h"
+#include "engine/run/InternalErrors.h"
+#include "engine/run/Session.h"
 
 #include <QLoggingCategory>
 

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "ado/Driver.h"
-#include "engine/Instance.h"
+#include "engine/store/Instance.h"
 
 #include <filesystem>
 #include <map>

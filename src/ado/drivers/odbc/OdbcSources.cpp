@@ -1,7 +1,7 @@
 #include "ado/drivers/odbc/OdbcSources.h"
 
-#include "engine/Error.h"
-#include "engine/Parser.h"
+#include "engine/errors/Error.h"
+#include "engine/text/Parser.h"
 
 #include <algorithm>
 

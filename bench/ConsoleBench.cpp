@@ -1,5 +1,5 @@
-// Opening the general tables console on a company with 20 000 accounts, against the bare statements that it sends, each
-// opened once on a connection that is there already. And one letter typed into a picker of that many accounts.
+// Opening the general tables console of a company with 20 000 accounts, compared with the statements that it sends,
+// each run once on an open connection. And typing one letter into a picker of that many accounts.
 
 #include "Pairs.h"
 #include "SampleDrive.h"
@@ -26,7 +26,7 @@ namespace {
 constexpr long kAccounts = 20'000;
 constexpr const char* kForm = "Avvio_Morlan";
 
-/// The program with its company taken up, on a drive C of its own.
+/// The program with its company taken up, with its own drive C.
 class Console {
 public:
     Console() {
@@ -68,7 +68,7 @@ private:
     std::unique_ptr<app::Program> program_;
 };
 
-/// Its windows go before the toolkit's own statics do: at the end of main.
+/// Released at the end of main, since windows must be destroyed before the toolkit's static objects.
 std::unique_ptr<Console>& held() {
     static std::unique_ptr<Console> console;
     return console;
@@ -111,7 +111,7 @@ void OpenTheConsole(benchmark::State& state) {
 }
 BENCHMARK(OpenTheConsole)->Apply(bench::inPairs);
 
-/// The picker of the invoices' accounts on the screen: a hidden one takes no keys.
+/// The picker of the invoices' accounts, on the current tab, since a hidden one gets no keys.
 controls::DataCombo* pickerInFront() {
     auto* tabs = console().open().findChild<QWidget*>(QStringLiteral("SSTab1"));
     tabs->setProperty("currentIndex", 4);

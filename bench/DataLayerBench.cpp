@@ -1,5 +1,5 @@
-// The data layer against raw SQLite on the same files, at the same durability. Each iteration runs both sides, so that
-// `ratio` compares two neighbours in time; read its median.
+// The data layer compared with SQLite on the same files, with the same durability. Each iteration runs both one after
+// the other, so that `ratio` compares the same moment; read its median.
 
 #include "Pairs.h"
 #include "ado/Connection.h"
@@ -23,10 +23,10 @@ namespace fs = std::filesystem;
 constexpr int kUpdates = 200;
 constexpr int kRows = 100'000;
 constexpr int kColumns = 8;
-constexpr int kLongRow = 64; ///< a thousand rows of it, the most in one INSERT, are 64,000 values
+constexpr int kLongRow = 64; ///< columns; with a thousand rows, the most in one INSERT, 64,000 values
 
-/// An embedded server in a folder of its own, removed at the end. The folder is on the disk of the build tree, so that
-/// a commit costs what a commit costs.
+/// An embedded server in its own folder, removed at the end. The folder is on the disk of the build tree, not in
+/// memory, so that commits take their real time.
 class BenchServer {
 public:
     BenchServer() : folder_(fs::current_path() / ("bench-" + std::to_string(getpid()))) {
@@ -215,9 +215,9 @@ void OpenAndReadRecordset(benchmark::State& state) {
 }
 BENCHMARK(OpenAndReadRecordset)->Apply(bench::inPairs);
 
-/// Long statements of one kind: `ratio` is what an element costs in one of many against what it costs among the first
-/// thousand. Each statement has a shape of its own, so that no plan is there. The processor's time, for a statement of
-/// some milliseconds is interrupted where one of less isn't.
+/// Long statements of one kind: `ratio` is the time per element of a long statement divided by that of one of a
+/// thousand elements. Each statement has its own shape, so that none is in the plan cache. Processor time is measured,
+/// since long statements are interrupted by other processes more often.
 template<class Statement>
 void perElement(benchmark::State& state, const Statement& statement) {
     constexpr int kFew = 1000;

@@ -41,7 +41,8 @@ void PeerProcess::start(const std::string& program) {
     }
     close(ends[1]);
     FILE* said = fdopen(ends[0], "r");
-    const bool told = said && std::fscanf(said, "port %d", &port_) == 1; // NOLINT(cert-err34-c): our own line
+    const bool told =
+        said && std::fscanf(said, "port %d", &port_) == 1; // NOLINT(cert-err34-c): the line is the server's
     if (said) {
         static_cast<void>(std::fclose(said));
     }

@@ -1,5 +1,5 @@
-// The whole process, from the call of its parent to the login on the screen, against an empty window of the same
-// toolkit; and what the three takings up of a company in it cost.
+// The start of the process, from the parent's call to the login on the screen, compared with an empty window of the
+// same toolkit; and the time of each of the three times that a company is taken up meanwhile.
 
 #include "Pairs.h"
 #include "SampleDrive.h"
@@ -23,7 +23,8 @@ Start started(const std::string& program) {
         std::chrono::duration_cast<std::chrono::nanoseconds>(std::chrono::steady_clock::now().time_since_epoch())
             .count();
     const std::string command = std::string(PROBE_FOLDER) + "/" + program + " " + std::to_string(called);
-    FILE* pipe = popen(command.c_str(), "r"); // NOLINT(bugprone-command-processor,cert-env33-c): our own program
+    FILE* pipe =
+        popen(command.c_str(), "r"); // NOLINT(bugprone-command-processor,cert-env33-c): a program of this build
     if (!pipe) {
         throw std::runtime_error("can't start " + program);
     }
@@ -45,7 +46,7 @@ Start started(const std::string& program) {
 
 void StartToLogin(benchmark::State& state) {
     const bench::SampleDrive drive;
-    started("vabo-bench-start-probe"); // warm: the temporary database is made by the first start
+    started("vabo-bench-start-probe"); // not measured: the first start creates the temporary database
     for (auto _ : state) {
         const Start ours = started("vabo-bench-start-probe");
         const Start empty = started("vabo-bench-start-empty");

@@ -1,4 +1,4 @@
-// The least that a Qt program can do: one window with two fields. It says how long it took since its parent called it.
+// A minimal Qt program: one window with two fields. It prints the time since its parent's call.
 
 #include <QApplication>
 #include <QLineEdit>

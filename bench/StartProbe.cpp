@@ -1,6 +1,6 @@
-// The program, started by the benchmark on a sample workstation: it tells on its standard output how long each taking
-// up of a company took and when the login stood on the screen, counted from the moment its parent called it, then goes
-// on into the console as the first user and ends.
+// The program, started by the benchmark with a sample workstation. It prints how long each taking up of a company took,
+// and the time from its parent's call to the login on the screen. Then it logs in as the first user, opens the company
+// console and ends.
 
 #include "app/Program.h"
 #include "session/TreatForms.h"

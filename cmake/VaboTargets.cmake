@@ -4,7 +4,7 @@ add_library(vabo_options INTERFACE)
 target_compile_features(vabo_options INTERFACE cxx_std_20)
 target_compile_options(vabo_options INTERFACE -Wall -Wextra -Wpedantic -Werror)
 if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU" AND CMAKE_CXX_COMPILER_VERSION VERSION_LESS 13)
-    # Where it optimises, this compiler sees overlaps in std::string that are not there.
+    # With optimisation this compiler reports overlaps in std::string that don't exist.
     target_compile_options(vabo_options INTERFACE $<$<NOT:$<CONFIG:Debug>>:-Wno-restrict>)
 endif()
 target_include_directories(vabo_options INTERFACE ${CMAKE_SOURCE_DIR}/src)

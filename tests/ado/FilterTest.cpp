@@ -20,7 +20,7 @@ FieldDescription field(const char* name, FieldType type) {
     return description;
 }
 
-/// Five rows, told by the letters of the field `riga`.
+/// Five rows, identified by the letter in the field `riga`.
 class Rows {
 public:
     Rows()

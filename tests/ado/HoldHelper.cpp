@@ -1,4 +1,4 @@
-// The other program of a test: it holds and writes rows of the same server as it is told, line by line.
+// The other program of a test: it holds and writes rows of the same server, following commands line by line.
 
 #include "ado/Connection.h"
 #include "ado/Drivers.h"

@@ -16,7 +16,7 @@ struct MoveCase {
     At state;
     void (*move)(Recordset&);
     bool error;
-    long position; ///< behind it
+    long position; ///< after the move
 };
 
 const MoveCase kMoves[] = {

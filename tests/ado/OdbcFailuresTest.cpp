@@ -1,4 +1,4 @@
-// What a program meets when the server behind the wire isn't there, goes away or falls silent.
+// What happens when the server behind the wire doesn't exist, ends or stops answering.
 
 #include "ado/Connection.h"
 #include "ado/Drivers.h"

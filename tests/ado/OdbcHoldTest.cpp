@@ -1,4 +1,5 @@
-// How long a connection waits for what somebody else holds: told by what it sends, since no test waits for it.
+// How long a connection waits for rows that another one holds. The tests look at the statements sent instead of
+// waiting.
 
 #include "ado/Recordset.h"
 #include "ado/TestServer.h"
@@ -17,7 +18,7 @@ namespace {
 std::vector<std::string>* heard = nullptr;
 QtMessageHandler others = nullptr;
 
-/// What goes over the wire while it lives, from the log of the driver.
+/// The texts sent over the wire while this object lives, read from the driver's log.
 class SentTexts {
 public:
     SentTexts() {

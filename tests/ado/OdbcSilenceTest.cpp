@@ -1,4 +1,4 @@
-// How often a server that doesn't answer is waited for.
+// How often the program waits for a server that doesn't answer.
 
 #include "ado/Connection.h"
 #include "ado/ExpectError.h"
@@ -75,7 +75,7 @@ TEST_F(OdbcSilence, ARefusalIsNoSilenceAndTheNextLoginTriesAgain) {
     });
 }
 
-// The driver asks for the port of a named instance sixteen times, one second each, whatever a login may take.
+// The driver asks sixteen times for the port of a named instance, one second each, whatever the time-out of the login.
 TEST_F(OdbcSilence, AnInstanceWhosePortNobodyTellsIsWaitedForOnce) {
     const support::SilentResolver resolver;
     const auto tellsOutOfReach = [&] {

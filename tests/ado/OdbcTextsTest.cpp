@@ -85,7 +85,7 @@ TEST(OdbcPatience, IsHalfForWhatOnlyReads) {
 struct Sources {
     const char* statement;
     Names fields;
-    const char* expected; ///< table.column of each field, "-" where it has none
+    const char* expected; ///< table.column of each field, "-" where there is none
 };
 
 TEST(OdbcSources, AreReadFromTheStatement) {

@@ -18,7 +18,7 @@ void showValue(const Town& town, std::ostream& os) {
     os << town.id << " " << town.name;
 }
 
-/// What the table must be, kept beside the recordset by the plainest rules.
+/// The expected content of the table, computed by simple rules.
 struct Model {
     std::vector<Town> rows;
     std::size_t at = 0;
@@ -106,7 +106,7 @@ TEST(RecordsetProperty, AnyEditsLeaveTheTableThatAPlainListWouldBe) {
     const test::TestServer server;
     Connection connection;
     connection.Open(server.connectionString());
-    int tables = 0; // a fresh one for each run, also behind a failed one
+    int tables = 0; // a new table for each run, since a failed run leaves its own
     EXPECT_TRUE(rc::check("edits", [&] {
         const std::string table = "Liste" + std::to_string(++tables);
         connection.Execute(

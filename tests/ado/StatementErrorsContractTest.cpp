@@ -1,4 +1,4 @@
-// Whatever a statement is, it has its rows or its error, and the connection answers the next one.
+// Every statement gives rows or an error, and the connection can run the next one.
 
 #include "ado/AdoFixture.h"
 #include "engine/run/InternalErrors.h"
@@ -13,11 +13,11 @@ using test::Contract;
 
 class StatementErrorsContract : public Contract {
 protected:
-    /// The server's number of the error, 0 where there was none.
+    /// The server's error number, 0 where there was no error.
     int refusalOf(const std::string& statement) {
         try {
             if (statement.starts_with("select")) {
-                rowsOf(statement); // errors of a value come with its row
+                rowsOf(statement); // an error of a value is raised when its row is read
             } else {
                 connection.Execute(statement);
             }
@@ -83,7 +83,7 @@ TEST_F(StatementErrorsContract, ASessionNeverWaitsForItself) {
     EXPECT_EQ(cell("select count(*) from master.dbo.m"), "2");
 }
 
-/// A table that the server's catalog knows and its storage has lost.
+/// A table that is in the server's catalog but not in its storage any more.
 TEST_F(StatementErrorsContract, AnInternalErrorOfTheServerIsTheStatementsOwn) {
     constexpr int kInternal = 8630;
     connection.Execute("create table g (a int null)");
@@ -95,7 +95,7 @@ TEST_F(StatementErrorsContract, AnInternalErrorOfTheServerIsTheStatementsOwn) {
     EXPECT_EQ(cell("select 1"), "1");
 }
 
-/// No file of a process grows beyond so many bytes while it lives. Process 0 is the test's own.
+/// While this object lives no file of a process can grow beyond that many bytes. Process 0 is the test itself.
 class LargestFile {
 public:
     LargestFile(long long process, rlim_t bytes) : process_(static_cast<pid_t>(process)) {
@@ -169,7 +169,7 @@ TEST_F(StatementErrorsContract, AFullDiskLeavesNoHalfOfATransaction) {
     {
         constexpr rlim_t kLimit = 300'000;
         const LargestFile limit(process, kLimit);
-        // More than the cache of the storage holds, so that it has to write before the commit.
+        // More data than the storage's cache holds, so that it must write before the commit.
         connection.Execute("create table n (i int null)");
         connection.Execute("insert into n (i) values (1), (2), (3), (4), (5), (6), (7), (8), (9), (10)");
         refusal = refusalOf("insert into t (a) select replicate('y', 4000) from n as p, n as q, n as r");

@@ -11,7 +11,7 @@
 
 namespace ado::test {
 
-/// A server of its own for one test, reached by one driver, with a login "sa" and an empty database Vabodati.
+/// A server for one test, reached by one driver, with a login "sa" and an empty database Vabodati.
 class TestServer {
 public:
     explicit TestServer(support::TestedDriver driver = support::testedDriver());
@@ -20,7 +20,7 @@ public:
     ~TestServer();
 
     std::string connectionString(const std::string& database = "Vabodati") const;
-    /// What another process needs to reach it: arguments of the helper executable.
+    /// The arguments with which the helper executable reaches this server.
     std::vector<std::string> helperArguments() const { return {instances().string(), connectionString()}; }
 
     void addLogin(const std::string& user, const std::string& password) const;

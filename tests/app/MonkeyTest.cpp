@@ -28,7 +28,7 @@ bool oneIn(Random& random, int times) {
     return std::uniform_int_distribution<int>(1, times)(random) == 1;
 }
 
-/// Keys and close buttons at every box that opens, and at the forms behind it, until one of its buttons takes it away.
+/// Sends keys and close events to every box that opens, and to the forms behind it, until one of its buttons closes it.
 class BoxMonkey : public QObject {
 public:
     explicit BoxMonkey(Random& random) : random_(random) {
@@ -67,7 +67,7 @@ private:
         QTest::mouseClick(oneOf(random_, buttons), Qt::LeftButton);
     }
 
-    /// On every button of the forms, which the box keeps from them.
+    /// Clicks on every button of the forms, which the modal box must keep from them.
     static void clickBehind(const QWidget& box) {
         for (const QWidget* form : QApplication::topLevelWidgets()) {
             if (form == &box || !form->isVisible()) {
@@ -94,12 +94,12 @@ constexpr std::array kKeys = {Qt::Key_Return, Qt::Key_Return, Qt::Key_Enter, Qt:
 constexpr std::array kMnemonics = {Qt::Key_A, Qt::Key_B, Qt::Key_C, Qt::Key_D, Qt::Key_E,
                                    Qt::Key_M, Qt::Key_P, Qt::Key_S, Qt::Key_T};
 
-/// Somebody who presses anything, anywhere, also what has just gone from the screen.
+/// Presses any key or button at random, also in windows that were just closed.
 class Monkey : public FormTest {
 protected:
     Monkey() { vabo::DirittiUtente.Administrator = vabo::kVero; }
 
-    /// From the console, the login or the form of the data sources.
+    /// Starts with the console, the login or the form of the data sources.
     void start() {
         for (const char* form : {"Avvio_Morlan", "FormRegistraAziendeNeiDns", "About", "Avvio_Azienda"}) {
             gui.forms().unload(form);
@@ -120,7 +120,7 @@ protected:
         Gui::handleEvents();
     }
 
-    /// What a step does, in words.
+    /// Does one step and returns its description.
     std::string step() {
         QWidget* form = oneOfTheForms();
         switch (std::uniform_int_distribution<int>(0, 9)(random)) {
@@ -191,7 +191,7 @@ private:
     }
 };
 
-// Only what closes the console or the login leaves nothing on the screen.
+// Only closing the console or the login may leave no window.
 TEST_F(Monkey, NoOrderOfKeysAndClicksLeavesTheProgramWithoutAWindow) {
     SCOPED_TRACE("seed " + std::to_string(seed));
     constexpr int kSteps = 300;

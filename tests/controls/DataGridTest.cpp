@@ -30,7 +30,7 @@ protected:
             grid.Columns(i).setLocked(true);
         }
     }
-    /// What the grid has told so far: "row 2", the current one, or "click", "double", "key 68".
+    /// The signals of the grid so far: "row 2" (the current one), "click", "double", "key 68".
     std::vector<std::string>& told() {
         if (!listening_) {
             listening_ = true;
@@ -241,7 +241,7 @@ TEST_F(DataGrid, AColumnThatFillsItsGridShowsItsWholeCaption) {
     grid.Columns(2).setWidth(3000);
     grid.resize(500, 300);
     EXPECT_GE(grid.columnWidth(1), grid.horizontalHeader()->sectionSizeHint(1));
-    // The widest gives what the caption took; each share is cut to whole pixels.
+    // The widest column gets narrower by what the caption needs; each share is cut to whole pixels.
     EXPECT_NEAR(grid.columnWidth(1) + grid.columnWidth(2), grid.viewport()->width(), 2);
 }
 

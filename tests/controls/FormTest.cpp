@@ -16,7 +16,7 @@ namespace {
 
 using support::Gui;
 
-/// A form with a button that does what the test says.
+/// A form with a button whose action each test sets.
 class Form : public testing::Test {
 protected:
     Form() {

@@ -15,7 +15,7 @@ namespace {
 using support::Gui;
 using testing::ElementsAre;
 
-/// A form with two fields that write their moves of focus down.
+/// A form with two fields that record when they get and lose the focus.
 class TextBox : public testing::Test {
 protected:
     TextBox() {

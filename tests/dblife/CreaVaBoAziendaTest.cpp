@@ -142,7 +142,8 @@ TEST_F(CreaVaBoAzienda, TheOptionsAreSetOnEveryRun) {
     EXPECT_EQ(recorder.holding("sp_dboption").size(), 2 * kOptions.size());
 }
 
-/// What such a server is told, letter for letter: one question a database, then its options by statements.
+/// The statements sent to such a server, letter for letter: one call of the procedure for each database, then its
+/// options as statements.
 const std::vector<std::string> kWithoutProcedure = {
     "sp_configure 'query timeout',0 RECONFIGURE",
     kCreateTemporary,
@@ -198,7 +199,7 @@ TEST_F(CreaVaBoAzienda, AServerWithoutTheProcedureIsToldByStatements) {
 
 class CreaVaBoAziendaOn : public CreaVaBoAzienda, public testing::WithParamInterface<int> {};
 
-// On a server of before and of after the procedure's end.
+// On a server that has the procedure, and on one that doesn't have it any more.
 INSTANTIATE_TEST_SUITE_P(Version, CreaVaBoAziendaOn, testing::Values(8, 11));
 
 TEST_P(CreaVaBoAziendaOn, TheOptionsBecomeTheSame) {

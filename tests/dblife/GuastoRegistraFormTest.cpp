@@ -1,4 +1,4 @@
-// The form of the data sources before a server that fails.
+// The form of the data sources with a server that fails.
 
 #include "RegistraFormFixture.h"
 #include "session/GuastoFixture.h"
@@ -8,7 +8,8 @@ namespace {
 
 class GuastoRegistra : public RegistraForm {
 protected:
-    /// A connection text is made of the fields as they are typed: a shorter wait may stand behind the server.
+    /// A server's name for the form's field, followed by a shorter time-out: the fields go into the connection text as
+    /// typed.
     static std::string conAttesa(const std::string& server) { return server + ";Connect Timeout=1"; }
     void apriSulServer() {
         apri();

@@ -10,7 +10,7 @@ namespace {
 
 using support::kCompany;
 
-/// What the form shows and where its keys lead.
+/// What the form shows, and how the keys move the focus.
 class RegistraAspetto : public RegistraForm {
 protected:
     std::string suggerimento(const char* nome) const { return gui.find(kForm, nome).toolTip().toStdString(); }

@@ -11,14 +11,14 @@ namespace {
 
 using support::kCompany;
 
-/// The whole road with the keyboard alone: the company can't be opened when the program starts, and the form comes.
+/// From the start of the program with the keyboard alone: the company can't be opened, so the form appears.
 class RegistraTastiera : public RegistraForm {
 protected:
     RegistraTastiera() {
         AzzeraVariabili();
         app::registerForms(gui.forms());
     }
-    /// The server knows the database, its file can't be opened any more.
+    /// Makes the database's file unreadable; the server still lists the database.
     void guasta() {
         const std::string file = workstation.value(
             "master", std::string("select filename from master.dbo.sysdatabases where name = '") + kCompany + "'");
@@ -40,7 +40,7 @@ private:
 };
 
 TEST_F(RegistraTastiera, ACompanyLostBetweenStartAndLoginLeadsToTheForm) {
-    bool chiesto = false; // whether anybody has to log in, the last thing that the start asks
+    bool chiesto = false; // set when the start has read the table of users, its last statement
     bool guasto = false;
     ado::setStatementRecorder([&](const std::string& testo) {
         if (chiesto && !std::exchange(guasto, true)) {
@@ -116,19 +116,19 @@ TEST_F(RegistraTastiera, ClosingItLeadsToTheConsoleToo) {
     EXPECT_EQ(DirittiUtente, kDirittiPrimaDelLogin);
 }
 
-/// Whatever is typed, the form stands or has done its work; boxes may come.
+/// Whatever is typed, the form stays open or the registration succeeds; boxes may come.
 class RegistraAttacco : public RegistraForm {
 protected:
     RegistraAttacco() {
         prima = utenti();
         apri();
     }
-    /// A text that reads as no user asks for the account that the program runs under.
+    /// Whether the field's text gives no user, which means a login with the account that the program runs under.
     bool NessunUtente() const { return ado::ConnectionString("UID=" + testo("txtUID") + ";").user().empty(); }
     Rows utenti() const {
         return workstation.rows(kCompany, "select * from AbilitazioneAccessi order by idautonumber");
     }
-    /// Typed letter by letter at first, the rest pasted at once; the former text goes.
+    /// Replaces the field's text: the first letters are typed, the rest is pasted.
     void scrivi(const std::string& nome, const std::string& testo) {
         constexpr std::size_t kBattute = 20;
         vaiA(nome);
@@ -141,7 +141,7 @@ protected:
             campo(nome).insert(QString::fromStdString(testo.substr(std::min(testo.size(), kBattute))));
         }
     }
-    /// A registration that went through has closed the form.
+    /// Opens the form again where a successful registration has closed it.
     void riapri() {
         support::Gui::handleEvents();
         if (gui.isVisible(kForm)) {

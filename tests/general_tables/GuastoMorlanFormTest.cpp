@@ -1,4 +1,4 @@
-// The general tables console while its server fails: some stores skip what fails, the others tell it.
+// The general tables console while its server fails: some stores skip the failing statements, others show the error.
 
 #include "MorlanFixture.h"
 #include "general_tables/Opzioni.h"
@@ -22,7 +22,7 @@ constexpr const char* kGriglie[] = {"DataGrid2", "DataGrid4", "DataGrid11", "Dat
 class GuastoMorlan : public MorlanForm {
 protected:
     GuastoMorlan() { riprendiAzienda(); }
-    /// All that the console writes.
+    /// All tables that the console writes.
     std::vector<Riga> tutto() const {
         std::vector<Riga> righe;
         for (const std::string tabella : kTabelle) {
@@ -33,7 +33,7 @@ protected:
         return righe;
     }
     void premi(const char* bottone) { gui.click("Avvio_Morlan", bottone); }
-    /// The boxes that come meanwhile; the console stands and takes input when they have gone.
+    /// The boxes shown while `lavoro` runs. The console must be visible and enabled afterwards.
     std::vector<std::string> scatoleDurante(const std::function<void()>& lavoro) const {
         std::vector<std::string> testi;
         {
@@ -57,7 +57,7 @@ protected:
         }
         return quante;
     }
-    /// By the way that the pointer files tell now.
+    /// Takes up the company again with the present pointer files.
     void riprendiAzienda() {
         DbAzienda.Close();
         StringaAzienda = ConnessioneAzienda() + ";";
@@ -86,7 +86,7 @@ TEST_P(GuastoAlCaricamento, IsToldOnceAndTheConsoleComesUpEmpty) {
 
 INSTANTIATE_TEST_SUITE_P(Di, GuastoAlCaricamento, testing::Values(Guasto::Spento, Guasto::Gelato), kNomeDelGuasto);
 
-// A box that the load sets has an event of its own, which tells its own failure.
+// A check box that the load sets runs its own handler, which may show an error of its own.
 TEST_F(GuastoMorlan, AtWhateverStatementOfTheLoadTheServerEndsTheLoadAndOneBoxAtMostTellIt) {
     int tutte = 0;
     ado::setStatementRecorder([&](const std::string& /*testo*/) { ++tutte; });
@@ -107,7 +107,7 @@ TEST_F(GuastoMorlan, AtWhateverStatementOfTheLoadTheServerEndsTheLoadAndOneBoxAt
         ASSERT_GE(inviate, fatale);
         EXPECT_THAT(dette, testing::AnyOf(Testi{}, Testi{kCaduto}, Testi{kCaduto, kIrraggiungibile}));
         guasto.ripara();
-        riprendiAzienda(); // the loss may not have been met yet
+        riprendiAzienda(); // the program may not have noticed the loss yet
     }
     EXPECT_EQ(tutto(), prima);
     riapri();
@@ -165,7 +165,7 @@ struct Salvataggio {
     const char* griglia;
     const char* riga;
     const char* selettore;
-    Testi scatole; ///< that tell of it
+    Testi scatole; ///< shown for the failure
 };
 std::ostream& operator<<(std::ostream& out, const Salvataggio& uno) {
     return out << uno.nome;
@@ -196,7 +196,7 @@ INSTANTIATE_TEST_SUITE_P(Di, GuastoNelSalvataggio,
                                          Salvataggio{"Personale", 5, "DataGridPersonale", "3", "DCBitems4", {}}),
                          [](const auto& info) { return info.param.nome; });
 
-// Lists and grids have connections of their own: they are back as soon as their server is.
+// Lists and grids open connections of their own, so they work again as soon as their server does.
 TEST_F(GuastoMorlan, TheTurnOfTheOtherAccountsTellsItAndTheNextOneShowsItsTableAgain) {
     apri();
     scheda(2);

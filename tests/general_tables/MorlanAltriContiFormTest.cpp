@@ -224,7 +224,7 @@ TEST_F(MorlanAltriConti, ANullGroupStopsTheStoreWithItsMessage) {
 
 TEST_F(MorlanAltriConti, APositionPastTheEndOfTheTableBringsTheSourceThatFails) {
     gira();
-    // "Trattenute sindacali", last by description, has place 12 of 12: the next table ends before that.
+    // "Trattenute sindacali", the last by description, is row 12 of 12; the next table has fewer rows.
     scegli("DataGrid4", "4");
     griglia("DataGrid4").selectRow(righe("DataGrid4") - 1);
     scegli("DataGrid4", cella("DataGrid4", righe("DataGrid4") - 1, 0));

@@ -1,4 +1,4 @@
-// What is typed on the general tables console stands in no statement: those sent are the same as without it.
+// Nothing typed on the general tables console gets into a statement: the statements sent are the same as without it.
 
 #include "MorlanFixture.h"
 #include "support/Attacks.h"
@@ -10,7 +10,7 @@ namespace {
 
 class MorlanAttacchi : public MorlanForm {
 protected:
-    /// Every so many, of all kinds: a store reads its grid anew, which takes its time.
+    /// Some attacks of each kind. Not all, since each store reads its grid again, which is slow.
     static std::vector<std::string> alcuni() {
         constexpr std::size_t kPasso = 9;
         const std::vector<std::string> tutti = support::attacks();
@@ -24,7 +24,7 @@ protected:
         campo.clear();
         campo.insert(QString::fromStdString(testo));
     }
-    /// The statements of a row that is chosen and stored with Enter, with that text in the picker meanwhile.
+    /// The statements sent when a row is chosen, that text typed into the picker, and Enter pressed.
     std::vector<std::string> salvando(const char* griglia, const char* riga, const char* selettore,
                                       const std::string* digitato = nullptr) {
         const support::StatementRecorder recorder;
@@ -77,7 +77,7 @@ TEST_F(MorlanAttacchi, APickedTreatmentSendsWhatItSendsWithoutThemInItsFields) {
         prendi("DCBitem5", "Imponibile 10%");
         return recorder.texts();
     };
-    prendendo(); // the row holds it from now on
+    prendendo(); // once without counting, so that the row has this account each time after
     const auto attese = prendendo();
     ASSERT_FALSE(attese.empty());
     for (const std::string& attacco : alcuni()) {

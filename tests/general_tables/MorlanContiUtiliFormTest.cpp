@@ -11,7 +11,7 @@ protected:
         scheda(1);
     }
     Riga conto(int id) const { return MorlanForm::conto("TabellaContiUtili", "ID", id); }
-    /// What the list of the picker calls an account.
+    /// The text of an account in the picker's list.
     std::string voce(const std::string& id) const {
         return valore("select NomeConto + ' ' + Contoreport from conti where IdConto = " + id);
     }

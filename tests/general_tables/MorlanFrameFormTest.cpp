@@ -13,7 +13,7 @@ namespace {
 
 class MorlanFrame : public MorlanForm {
 protected:
-    /// A form of that name that pops the stack when it goes, as every tracked form does.
+    /// Adds a form of that name whose Unload takes it off the stack, as that of every form on the stack does.
     void costruisci(const char* nome) {
         gui.forms().add(nome, [this, nome] {
             return std::make_unique<RecordedForm>(nome, eventi,
@@ -31,7 +31,7 @@ protected:
     }
 
     std::vector<std::string> eventi;
-    bool clessidra = false; ///< whether the hourglass was up while the form loaded
+    bool clessidra = false; ///< whether the hourglass was shown while the form loaded
 };
 
 struct Comando {
@@ -176,7 +176,7 @@ TEST_F(MorlanFrame, TheLoadSendsItsStatementsInTheirOrderAndNoOther) {
     const support::StatementRecorder recorder;
     apri();
     std::vector<std::string> inviate = recorder.texts();
-    // What the data layer composes of its own when a box that is set rewrites its row.
+    // Without the data layer's own statements, which a box that is set sends to write its row.
     std::erase_if(inviate, [](const std::string& t) { return t.starts_with("SELECT [") || t.starts_with("UPDATE ["); });
     EXPECT_EQ(inviate, (std::vector<std::string>{"select * from TabellaUilityConti where id = 8",
                                                  "select * from TabellaUilityConti where id = 8", // the box it sets
@@ -251,7 +251,7 @@ TEST_F(MorlanFrame, EachCommandOpensItsFormAndTheConsoleComesBack) {
     }
 }
 
-/// A program that has no form but the console.
+/// A program whose only form is the console.
 class MorlanAlone : public AziendaAperta {
 protected:
     MorlanAlone() {
@@ -321,7 +321,7 @@ TEST_F(MorlanFrame, TheReportIsShownInPrintPreview) {
 
 struct Layout {
     const char* griglia;
-    std::vector<std::pair<std::string, int>> colonne; ///< caption and width in twips of those that are seen
+    std::vector<std::pair<std::string, int>> colonne; ///< caption and width in twips of the visible ones
 };
 
 TEST_F(MorlanFrame, TheGridsShowTheirColumnsAndTakeNoText) {

@@ -121,7 +121,7 @@ void Client::skipHeaders(ByteReader& in) const {
 
 void Client::batchMessage(ByteReader in) {
     run(in.ucs2(in.left() / 2));
-    if (!held_) { // nothing ran, and the client waits for an end all the same
+    if (!held_) { // no statement ran, but the client waits for an end
         statementDone({done::kFinal, 0});
     }
 }

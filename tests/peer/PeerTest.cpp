@@ -1,4 +1,4 @@
-// The wire from the server's side: what is put together, what is refused.
+// The server's side of the protocol: which messages it accepts and refuses.
 
 #include "engine/store/Instance.h"
 #include "peer/Client.h"
@@ -119,7 +119,7 @@ TEST(Calls, OfPreparedTextsBecomeBatches) {
     EXPECT_TRUE(procedureText({"sp_cursoropen", {}}, prepared, last).unknown);
 }
 
-/// A client that sends what it was given and then leaves.
+/// A client that sends the given bytes and then disconnects.
 class Script : public Channel {
 public:
     explicit Script(std::vector<Bytes> sent) : sent_(std::move(sent)) {}

@@ -1,4 +1,4 @@
-// The types of the dialect on the wire: what a column announces and how its values are written.
+// The dialect's types in the protocol: how columns are described and values written.
 
 #include "peer/Tokens.h"
 
@@ -15,7 +15,7 @@ namespace {
 using Kind = engine::DataType::Kind;
 
 constexpr int kLongestCharacters = 4000;
-constexpr std::uint16_t kPartial = 0xFFFF; // "max": the value comes in chunks
+constexpr std::uint16_t kPartial = 0xFFFF; // "max": the value is sent in chunks
 constexpr std::uint8_t kNText = 0x63;
 
 int integerBytes(Kind kind) {
@@ -59,7 +59,7 @@ WireDate wireDate(std::string_view text) {
     return {days, static_cast<std::uint32_t>((millis * 3 + 5) / 10)};
 }
 
-/// The digits of a decimal without its point, as a magnitude.
+/// The digits of a decimal without point and sign.
 unsigned long long magnitude(std::string_view text, bool& negative) {
     unsigned long long value = 0;
     negative = false;
@@ -73,7 +73,7 @@ unsigned long long magnitude(std::string_view text, bool& negative) {
     return value;
 }
 
-/// The code page of the collation, with "?" for what it hasn't.
+/// The text in the collation's code page, with "?" for characters that it doesn't have.
 std::string toCodePage(std::string_view text) {
     static constexpr char16_t kUpper[32] = {0x20AC, 0,      0x201A, 0x0192, 0x201E, 0x2026, 0x2020, 0x2021,
                                             0x02C6, 0x2030, 0x0160, 0x2039, 0x0152, 0,      0x017D, 0,
@@ -91,7 +91,7 @@ std::string toCodePage(std::string_view text) {
     return out;
 }
 
-/// Bytes behind a length of two bytes.
+/// Bytes after their length as two bytes.
 void writeNarrow(ByteWriter& out, bool null, const std::string& bytes) {
     out.u16(null ? kPartial : static_cast<std::uint16_t>(bytes.size()));
     for (const char byte : null ? std::string() : bytes) {

@@ -28,7 +28,7 @@ using Entry = std::map<std::string, std::string>;
 constexpr const char* kDriver = "SQL Server";
 constexpr const char* kForOthers = "[Magazzino]\nDriver=Altro\nServer=a;b\nNota=x = y\n\n[ODBC]\nTrace=0\n\n";
 
-/// A file of data sources of the test's own.
+/// A file of data sources for one test.
 class DataSourcesTest : public testing::Test {
 protected:
     DataSourcesTest() { support::useDataSourceFile(file); }
@@ -38,7 +38,7 @@ protected:
         std::ifstream in(file);
         return {std::istreambuf_iterator<char>(in), {}};
     }
-    /// The lines below each heading, as any reader of such a file takes them.
+    /// The lines below each heading, as programs read such a file.
     std::map<std::string, Entry> entries() const {
         std::map<std::string, Entry> all;
         std::string name;
@@ -57,7 +57,7 @@ protected:
         const auto found = all.find(name);
         return found == all.end() ? Entry{} : found->second;
     }
-    /// What an entry of the server's driver holds beside these values.
+    /// These values, with those that an entry of the server's driver holds besides.
     static Entry withDriver(Entry values) {
         const std::string driver = ado::odbc::resolveDriver(kDriver, ado::odbc::registeredDrivers());
         values["Driver"] = driver;
@@ -216,7 +216,7 @@ TEST_F(DataSourcesTest, WhatStandsAlreadyIsNotWritten) {
 
 TEST_F(DataSourcesTest, WhatOtherProgramsDoToTheFileIsSeenAtOnce) {
     enter("Tlv_server", "Server=uno");
-    enter("Tlv_server", "Server=uno"); // which only looks
+    enter("Tlv_server", "Server=uno"); // which only reads
     std::string changed = text();
     changed.replace(changed.find("uno"), 3, "due");
     put(changed);
@@ -250,7 +250,7 @@ TEST_F(DataSourcesTest, NothingButTheFileIsLeftBehind) {
 }
 
 TEST_F(DataSourcesTest, AFileThatCantBeKeptIsAFailure) {
-    // The library would take the second one for its file of drivers.
+    // The library would use the second path for its file of drivers.
     for (const fs::path& place : {support::nowhere() / "odbc.ini", folder.path() / "odbcinst" / "odbc.ini"}) {
         support::useDataSourceFile(place);
         EXPECT_THROW(enter("Tlv_server"), std::runtime_error) << place;

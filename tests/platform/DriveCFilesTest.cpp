@@ -15,7 +15,7 @@ using platform::FileError;
 
 namespace {
 
-/// What came of it: "ok", or number and words of the refusal.
+/// The result of `work`: "ok", or number and text of its error.
 template<typename Work>
 std::string outcome(Work&& work) {
     try {

@@ -1,4 +1,4 @@
-// Writes two long lines in turn into one file, until it is killed: line_writer <root> <path>
+// Writes two long lines alternately to one file, until it is killed: line_writer <root> <path>
 
 #include "platform/DriveC.h"
 

@@ -16,7 +16,7 @@ namespace {
 using Environment = std::map<std::string, std::string>;
 using Facts = std::map<std::string, std::string>;
 
-/// What a process finds that is started with this environment.
+/// The output of the probe when it is started with this environment.
 Facts probe(Environment environment) {
     for (const char* name : {"VABO_DRIVE_C", "XDG_DATA_HOME", "LC_ALL", "LANG", "LC_NUMERIC", "LANGUAGE"}) {
         environment.try_emplace(name, "");

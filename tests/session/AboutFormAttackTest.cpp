@@ -10,7 +10,7 @@ namespace {
 
 using namespace vabo;
 
-/// The login form, with boxes that anybody may meet on the way.
+/// The login form, where any boxes may come.
 class AboutFormAttack : public FormTest {
 protected:
     AboutFormAttack() {
@@ -24,7 +24,7 @@ protected:
     Rows users() const {
         return workstation.rows(support::kCompany, "select * from AbilitazioneAccessi order by idautonumber");
     }
-    /// Typed letter by letter as far as a field holds, the rest pasted at once.
+    /// Types the text as far as the field's length, and pastes the rest.
     void put(const std::string& text) {
         constexpr std::size_t kTyped = 60;
         gui.type(text.substr(0, kTyped));

@@ -19,7 +19,7 @@ protected:
     bool visible(const char* control) { return gui.find("About", control).isVisible(); }
     QLineEdit& field(const char* name) { return gui.find<QLineEdit>("About", name); }
 
-    /// The keyboard alone, from the field that has the focus.
+    /// Types and presses Enter in the field that has the focus.
     void enter(const std::string& text) {
         gui.type(text);
         gui.press(Qt::Key_Return);
@@ -177,7 +177,7 @@ TEST_F(AboutForm, AnUnknownNameAndAnEmptyPasswordAreRefusedAlike) {
     refuse(2);
     login("nessuno", "primavera");
     enter("amministratore");
-    gui.press(Qt::Key_Delete); // the former password stands there, selected
+    gui.press(Qt::Key_Delete); // the former password is still in the field, selected
     enter("");
     EXPECT_EQ(TentativiLogin, 2);
     EXPECT_TRUE(gui.isVisible("About"));
@@ -331,7 +331,7 @@ TEST_F(AboutForm, WritesTheLocalPointerFileWhereItIsMissing) {
 }
 
 TEST_F(AboutForm, ACompanyOutOfReachGivesWayToTheFormOfTheDataSources) {
-    // The database is known to the server, its file can't be opened.
+    // The server lists the database, but its file can't be opened.
     const std::string file = workstation.value(
         "master", std::string("select filename from master.dbo.sysdatabases where name = '") + kCompany + "'");
     workstation.putFile(file, "no database");

@@ -1,4 +1,4 @@
-// Rows without a database on a server that has no database of a company: the search finds such a row again and again.
+// Rows without a database on a server without any company's database: the search finds such a row each time.
 
 #include "platform/Process.h"
 #include "session/ApriAzienda.h"
@@ -25,7 +25,7 @@ std::ostream& operator<<(std::ostream& out, const Righe& righe) {
 class ApriAziendaGiro : public SessionTest, public testing::WithParamInterface<Righe> {
 protected:
     ApriAziendaGiro() {
-        // The temporary database has a name that the search finds: it stands on another server here.
+        // The search would find the temporary database by its name: it is on another server here.
         workstation.putFile("C:\\vabo\\Leggi_ServerLocal.txt", "Server=127.0.0.1,9;\r\n");
         noCompanyDatabases();
         control("delete from link_programma");
@@ -95,14 +95,14 @@ INSTANTIATE_TEST_SUITE_P(Righe, ApriAziendaGiro,
                                          Righe{"GoneAndBlank", {"'VaBoDatiAurora'", "' '"}}),
                          [](const auto& test) { return std::string(test.param.name); });
 
-/// The terminal's row can't be written: what is looked up is never the number that was asked for.
+/// The terminal's row can't be written: the number read from it is never the one asked for.
 TEST_F(SessionTest, ATerminalsRowThatNobodyCanChangeIsWalkedOnceToo) {
     workstation.putFile("C:\\vabo\\Leggi_ServerLocal.txt", "Server=127.0.0.1,9;\r\n");
     noCompanyDatabases();
     control("update link_programma set dbname = '' where dbname = 'VaBoDatiPonte'");
     setTerminal(support::kTerminalName, idOf(support::kCompany));
     int statements = 0;
-    // Somebody else takes each change back before it is read.
+    // Another process undoes each change before it is read.
     const support::SomebodyElse hears([&](const std::string& text) {
         constexpr int kFarTooMany = 500;
         if (++statements == kFarTooMany) {

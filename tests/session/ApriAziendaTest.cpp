@@ -1,4 +1,4 @@
-// The roads on which the wanted company is taken up.
+// Cases in which the wanted company is taken up.
 
 #include "session/ApriAzienda.h"
 

@@ -24,7 +24,7 @@ protected:
     Rows users() const { return workstation.rows(kCompany, "select * from AbilitazioneAccessi order by idautonumber"); }
     std::string tables() const { return workstation.value(kCompany, "select count(*) from sysobjects"); }
 
-    /// What the login makes of the two fields; nothing where the database refused the statement.
+    /// The result of the login with these two fields; nothing where the database refused the statement.
     std::optional<EsitoLogin> outcome(const std::string& user, const std::string& password) {
         double newUser = 0;
         try {

@@ -1,4 +1,4 @@
-// The data sources that the taking up of a company registers.
+// The data sources that are registered when a company is taken up.
 
 #include "dblife/RegistraFixture.h"
 #include "session/ApriAzienda.h"

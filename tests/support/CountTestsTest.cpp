@@ -1,4 +1,4 @@
-// What the test command tells at its end.
+// The last line of the test command: how many tests ran.
 
 #include "support/Processes.h"
 #include "support/TemporaryFolder.h"
@@ -15,7 +15,7 @@ namespace {
 
 class CountTests : public testing::Test {
 protected:
-    /// The results of one executable, as the test framework writes them: a sum over all, then one a group.
+    /// Writes the results of one executable as the test framework does: a sum of all groups, then one of each.
     void put(const std::string& file, const std::string& groups) const {
         const fs::path path = build.path() / "test-results" / file;
         fs::create_directories(path.parent_path());

@@ -11,7 +11,7 @@ namespace support {
 
 namespace {
 
-/// A caller and the server on the other side.
+/// The sockets to a caller and, for it, to the server.
 struct Pair {
     int caller;
     int server;
@@ -42,7 +42,7 @@ CutWire::CutWire(int port) : server_(port), listener_(loopback::listener()), por
 
 CutWire::~CutWire() {
     over_ = true;
-    ::close(loopback::call(port_)); // so that it looks up
+    ::close(loopback::call(port_)); // a call ends the thread's wait, so that it sees the end
     thread_.join();
     ::close(listener_);
 }
@@ -60,8 +60,8 @@ void CutWire::mend() {
 
 void CutWire::run() {
     std::vector<Pair> pairs;
-    bool cut = false; // of this turn, whoever mends the wire meanwhile
-    // False where the connection has ended.
+    bool cut = false; // a copy for this turn, since the test may mend the wire meanwhile
+    // Passes what has arrived; false where the connection has ended.
     const auto pass = [&](int from, int to, bool answer) {
         std::array<char, 4096> bytes{};
         ssize_t count = ::recv(from, bytes.data(), bytes.size(), 0);

@@ -12,7 +12,7 @@
 namespace support {
 namespace {
 
-/// A server at one end of the wire, a caller at the other.
+/// A server at one end of the proxy, a caller at the other.
 class CutWires : public testing::Test {
 protected:
     ~CutWires() override {
@@ -30,7 +30,7 @@ protected:
     void answer(const std::string& text) const {
         ASSERT_EQ(::send(server_, text.data(), text.size(), 0), static_cast<ssize_t>(text.size()));
     }
-    /// Up to so many bytes, or up to the end of the connection.
+    /// Reads that many bytes, or up to the end of the connection.
     std::string heard(std::size_t bytes) const {
         std::string text;
         std::array<char, 64> piece{};

@@ -1,4 +1,4 @@
-// Says its arguments, then every line it reads; "exit" ends it with code 3.
+// Prints its arguments, then every line that it reads; "exit" ends it with code 3.
 
 #include <cstdlib>
 #include <iostream>

@@ -83,7 +83,7 @@ std::string Gui::text(const std::string& form, const std::string& label) const {
     const QWidget& found = widget(form, label);
     QString text = found.property("text").toString();
     if (qobject_cast<const QAbstractButton*>(&found) != nullptr) {
-        text.remove(QLatin1Char('&')); // a mnemonic is seen as an underline
+        text.remove(QLatin1Char('&')); // marks a mnemonic, which is shown as an underline
     }
     return text.toStdString();
 }
@@ -112,7 +112,7 @@ void Gui::type(const std::string& text) {
         if (focused == nullptr) {
             throw std::runtime_error("Nothing has the focus to type: " + text);
         }
-        // No key of its own: a letter that comes from any keyboard, a control character pasted by a tool.
+        // A character without a key of its own, such as a letter of another keyboard or a pasted control character.
         const QString typed = QString::fromUcs4(&letter, 1);
         QKeyEvent down(QEvent::KeyPress, 0, Qt::NoModifier, typed);
         QApplication::sendEvent(focused, &down);

@@ -12,7 +12,7 @@ namespace {
 
 QtMessageHandler failing = nullptr;
 
-/// What the offscreen platform says of every popup is no warning about the program.
+/// Ignores a warning that the offscreen platform gives for every popup.
 void passOver(QtMsgType type, const QMessageLogContext& context, const QString& message) {
     if (!message.startsWith(QLatin1String("This plugin does not support "))) {
         failing(type, context, message);

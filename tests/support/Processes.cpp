@@ -11,7 +11,7 @@ namespace support {
 
 namespace {
 
-constexpr int kPatience = 30'000; // milliseconds; only a hang is that slow
+constexpr int kPatience = 30'000; // milliseconds; only a process that hangs takes longer
 
 QString pathOf(const std::string& program) {
     const QString name = QString::fromStdString(program);
@@ -36,7 +36,7 @@ HelperProcess::HelperProcess(const std::string& program, const std::vector<std::
     }
     process_.setProcessEnvironment(all);
     process_.setProcessChannelMode(QProcess::ForwardedErrorChannel);
-    process_.setChildProcessModifier([] { ::prctl(PR_SET_PDEATHSIG, SIGKILL); }); // whatever way the test ends
+    process_.setChildProcessModifier([] { ::prctl(PR_SET_PDEATHSIG, SIGKILL); }); // however the test ends
     process_.start(pathOf(program), list);
     if (!process_.waitForStarted(kPatience)) {
         ADD_FAILURE() << program << " doesn't start: " << process_.errorString().toStdString();

@@ -8,8 +8,8 @@
 
 namespace support {
 
-/// The place where the ports of a machine's instances are asked for, on a loopback address of this process's own, and
-/// nobody who answers there.
+/// The service that drivers ask for the ports of a machine's instances, on a loopback address of this process. It never
+/// answers.
 class SilentResolver {
 public:
     SilentResolver() {
@@ -30,7 +30,7 @@ public:
         return ::inet_ntop(AF_INET, &place, text.data(), text.size());
     }
 
-    /// How often it was asked since this was last asked.
+    /// How often it was asked since the last call of this function.
     int questions() const {
         int count = 0;
         std::array<char, 512> question{};
@@ -41,7 +41,7 @@ public:
     }
 
 private:
-    /// 127.x.y.z by the process's number, so that tests that run side by side don't meet.
+    /// 127.x.y.z from the process id, so that tests that run at the same time have different addresses.
     std::uint32_t address_ = INADDR_LOOPBACK + 1 + (static_cast<std::uint32_t>(::getpid()) & 0x3fffffU);
     int handle_ = ::socket(AF_INET, SOCK_DGRAM | SOCK_CLOEXEC | SOCK_NONBLOCK, 0);
 };

@@ -25,7 +25,7 @@ TemporaryFolder::TemporaryFolder() {
     if (!folder.isValid()) {
         throw std::runtime_error("No temporary folder: " + folder.errorString().toStdString());
     }
-    folder.setAutoRemove(false); // Qt's own removal stops at folders that a test has closed
+    folder.setAutoRemove(false); // Qt's removal fails for folders that a test has made unreadable
     path_ = folder.path().toStdString();
 }
 

@@ -31,7 +31,7 @@ void writeFile(const fs::path& file, std::string_view bytes) {
     std::ofstream(file, std::ios::binary) << bytes;
 }
 
-/// All that could change of what lies in a folder.
+/// Time and bytes of every file in a folder.
 std::map<std::string, std::pair<fs::file_time_type, std::string>> snapshot(const fs::path& folder) {
     std::map<std::string, std::pair<fs::file_time_type, std::string>> found;
     for (const fs::directory_entry& entry : fs::recursive_directory_iterator(folder)) {
@@ -174,7 +174,7 @@ TEST(Provision, LeavesOtherFoldersOfTheDriveAlone) {
 TEST(Provision, MakesAgainWhatAnInterruptedRunLeft) {
     const support::TemporaryFolder driveC;
     layDown(smallPlan(driveC.path()));
-    // As if the run had been cut off: the databases half filled, another terminal's instance beside them.
+    // As after an interrupted run: half filled databases, and the instance of another terminal beside them.
     writeFile(driveC.path() / "vabo" / "provision.txt", "vabo-provision 1, unfinished: --terminal OTHER\r\n");
     provision::run(*openSession(driveC.path(), provision::kFirstDatabase), "DROP TABLE partitadoppia");
     fs::remove(driveC.path() / "vabo" / "NomeServer.txt");

@@ -15,7 +15,7 @@ std::int64_t count(std::string_view database, const std::string& condition) {
     return SampleWorkstation::shared().number(database, "SELECT COUNT(*) FROM partitadoppia WHERE " + condition);
 }
 
-/// Large enough that every kind of row is among them.
+/// Large enough to contain every kind of row.
 const SampleWorkstation& largeLedger() {
     static const SampleWorkstation sample(5000);
     return sample;

@@ -26,7 +26,7 @@ LITERAL = re.compile(
     re.DOTALL | re.MULTILINE | re.VERBOSE,
 )
 
-# Binary operators stand between blanks in a formatted source, template brackets don't.
+# In formatted sources binary operators have blanks around them, template brackets don't.
 SWAPPED = {
     " == ": " != ",
     " != ": " == ",

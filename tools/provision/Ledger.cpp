@@ -21,7 +21,7 @@ constexpr std::string_view kColumns =
     "numerotransazione, idsede, datatransazione, datareport, idconto, idprogettorendiconto, idsedecompetenza, "
     "Descrizione, importodepositi, importoprelievi, idvaluta, importovaluta, seziva, definito";
 
-/// Days from which and to which the ledger runs, and the last balance between them.
+/// The first and last day of the ledger, and the day of the last balance between them.
 struct Period {
     sys_days first, balance, last;
 };
@@ -40,7 +40,7 @@ Period periodOf(engine::Session& session) {
     return {balance - std::chrono::days(730), balance, balance + std::chrono::days(365)};
 }
 
-/// When the rows are reported: mostly at once, some days later now and then, a few not yet.
+/// The day on which rows are reported: mostly the same day, sometimes some days later, for a few not yet.
 std::optional<sys_days> reportDay(Random& random, sys_days day) {
     if (random.oneIn(20)) {
         return std::nullopt;
@@ -68,7 +68,7 @@ void write(RowWriter& writer, const Place& place, std::string_view description, 
     writer.integer(place.definitive ? -1 : 0).endRow();
 }
 
-/// The ledger on its way: numbers run on branch by branch, days run on through the period.
+/// Writes the ledger. Transactions are numbered for each branch, and their days go through the period.
 class Writing {
 public:
     Writing(engine::Session& session, long rows, std::uint64_t seed)
@@ -98,7 +98,7 @@ public:
 private:
     void writeTransaction(RowWriter& writer) {
         const LedgerTransaction transaction = draftTransaction(random_, accounts_, rows_ - written_);
-        // The headquarters keep half of the books; a branch's costs may fall to another.
+        // The headquarters write half of the transactions; the costs of a branch may belong to another one.
         const std::size_t branch = random_.oneIn(2) ? 0 : static_cast<std::size_t>(random_.below(count()));
         const auto competence = random_.oneIn(10) ? static_cast<std::size_t>(random_.below(count())) : branch;
         const sys_days day = period_.first + (period_.last - period_.first) * written_ / rows_;
@@ -117,7 +117,7 @@ private:
     LedgerAccounts accounts_;
     Period period_;
     std::vector<std::int64_t> branches_;
-    std::vector<std::int64_t> numbers_; ///< last transaction of each branch
+    std::vector<std::int64_t> numbers_; ///< number of the last transaction of each branch
     long rows_, written_ = 0;
 };
 

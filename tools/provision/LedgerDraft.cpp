@@ -11,7 +11,8 @@ namespace {
 
 constexpr std::int64_t kGeneralProject = 10000001;
 constexpr std::array<std::int64_t, 3> kForeignCurrencies = {1002, 1003, 1004};
-constexpr std::array<std::int64_t, 4> kForeignRates = {109, 131, 7150, 14580}; ///< hundredths for one of ours
+constexpr std::array<std::int64_t, 4> kForeignRates = {109, 131, 7150,
+                                                       14580}; ///< hundredths for one unit of the own currency
 
 struct Draft {
     Random& random;
@@ -27,7 +28,7 @@ struct Draft {
         return result.lines.emplace_back(LedgerLine{.account = account, .project = project, .credit = cents});
     }
 
-    /// A charge and its project: of the general one, or of a project's own accounts.
+    /// A charge and its project: the general one, or one with its own accounts.
     struct Charge {
         std::int64_t account, project;
     };

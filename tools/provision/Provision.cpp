@@ -39,7 +39,7 @@ std::string instanceFolder(const Plan& plan) {
     return std::string(folders::kInstances) + "\\" + server;
 }
 
-/// Folders of the owner alone, missing parents included.
+/// Creates folders that only the owner can access, with missing parents.
 void makeFolders(const platform::DriveC& drive) {
     if (fs::create_directories(drive.root())) {
         fs::permissions(drive.root(), fs::perms::owner_all);
@@ -55,7 +55,7 @@ void removeUnfinished(const platform::DriveC& drive) {
     }
 }
 
-/// Only the names of what was made are looked at: looking into a database could write to its files.
+/// Checks only that files and folders exist, since opening a database could write to its files.
 void checkWhole(const platform::DriveC& drive, const Plan& plan) {
     const auto demand = [&drive](const std::string& path, bool there) {
         if (!there) {
@@ -97,7 +97,7 @@ void makeInstance(const platform::DriveC& drive, const Plan& plan) {
     }
 }
 
-/// They hold passwords.
+/// Makes the files readable by the owner only, since they contain passwords.
 void keepForOwner(const fs::path& folder) {
     for (const fs::directory_entry& entry : fs::recursive_directory_iterator(folder)) {
         fs::permissions(entry.path(),

@@ -11,7 +11,7 @@ namespace provision {
 
 namespace {
 
-constexpr int kRowsPerStatement = 20; // longer statements cost more a row than they save
+constexpr int kRowsPerStatement = 20; // with more the time per row grows again
 
 template<typename Read>
 auto firstColumn(engine::Session& session, std::string_view select, Read read) {
@@ -132,7 +132,7 @@ Transaction::~Transaction() {
     try {
         run(session_, "ROLLBACK TRANSACTION");
     } catch (const std::exception&) {
-        // The error that left the transaction open is the one to tell.
+        // The error that left the transaction open is the one that the caller gets.
     }
 }
 

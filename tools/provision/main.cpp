@@ -1,4 +1,4 @@
-// vabo-provision: lays a sample workstation down, for trying the console and for measuring it.
+// vabo-provision: creates a sample workstation, to try the console and to measure it.
 
 #include "kit/PulisciNome.h"
 #include "platform/Workstation.h"

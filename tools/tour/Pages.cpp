@@ -10,7 +10,7 @@ namespace tour {
 
 namespace {
 
-/// The start form hides itself when its work is done: its picture is taken while a statement is on its way.
+/// The start form hides itself at its end, so its picture is taken when it sends a statement.
 void start(Tour& tour) {
     bool taken = false;
     ado::setStatementRecorder([&](const std::string& /*text*/) {

@@ -1,6 +1,6 @@
-// A whole conversation of a client with the server: whatever it sends is named garbage or answered in whole packets,
-// and to the end. The first byte chooses what goes before (nothing, or a login of 7.1 or of 7.4), the second how the
-// rest is cut into pieces. An empty corpus folder is given real requests as its seeds.
+// A whole connection of a client with the server: whatever the client sends is refused or answered completely, in whole
+// packets. The first byte chooses what is sent first (nothing, or a login of 7.1 or of 7.4), the second how the rest is
+// cut into pieces. An empty corpus folder is filled with real requests as seeds.
 
 #include "engine/fuzz/FuzzInstance.h"
 #include "peer/Client.h"
@@ -18,7 +18,7 @@ namespace fs = std::filesystem;
 
 constexpr std::uint32_t kVersions[] = {0x71000001, 0x74000004};
 
-/// Sends its bytes in pieces and looks at the packets that come back.
+/// Sends its bytes in pieces and checks the packets that come back.
 class Wire : public peer::Channel {
 public:
     Wire(peer::Bytes sent, std::size_t piece) : sent_(std::move(sent)), piece_(piece) {}
@@ -52,7 +52,7 @@ private:
         }
     }
     bool isGreeting() const { return !answer_.empty() && answer_[0] == 0; }
-    /// The last token tells that nothing follows; its length depends on the version.
+    /// Whether the last token says that nothing follows; its length depends on the version.
     bool endsWithDone(std::size_t length) const {
         if (answer_.size() < length) {
             return false;
@@ -64,7 +64,7 @@ private:
     peer::Bytes sent_;
     std::size_t piece_;
     std::size_t place_ = 0;
-    peer::Bytes answer_; ///< as far as it came
+    peer::Bytes answer_; ///< received so far
 };
 
 peer::Bytes joined(std::initializer_list<peer::Bytes> parts) {
@@ -112,7 +112,7 @@ peer::Bytes call(std::uint16_t procedure, bool handle) {
 }
 
 void writeSeeds(const fs::path& folder) {
-    std::vector<peer::Bytes> requests; // a packet each, without headers
+    std::vector<peer::Bytes> requests; // one packet each, without headers
     for (const char* text :
          {"select * from tipi", "select 1; select N'x'; print 'detto'", "update tipi set d = d + 1 where id = 1",
           "insert into tipi (n) values (N'nuovo')", "select * from manca", "begin transaction; rollback transaction",

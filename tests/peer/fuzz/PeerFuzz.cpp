@@ -1,4 +1,4 @@
-// Any bytes from the network are messages, logins and calls that can be read, or garbage that is named so.
+// Any bytes from the network are read as messages, logins and calls, or refused.
 
 #include "peer/Login.h"
 #include "peer/Packets.h"

@@ -19,12 +19,12 @@ namespace fs = std::filesystem;
 
 namespace {
 
-enum Number { FileNotFound = 53, DeviceError = 57, EndOfFile = 62, Denied = 70, AccessError = 75, PathNotFound = 76 };
+enum Number { kFileNotFound = 53, kDeviceError = 57, kEndOfFile = 62, kDenied = 70, kAccessError = 75, kPathNotFound = 76 };
 
 constexpr std::array kWords{
-    std::pair{FileNotFound, "File not found"},        std::pair{DeviceError, "Device I/O error"},
-    std::pair{EndOfFile, "Input past end of file"},   std::pair{Denied, "Permission denied"},
-    std::pair{AccessError, "Path/File access error"}, std::pair{PathNotFound, "Path not found"},
+    std::pair{kFileNotFound, "File not found"},        std::pair{kDeviceError, "Device I/O error"},
+    std::pair{kEndOfFile, "Input past end of file"},   std::pair{kDenied, "Permission denied"},
+    std::pair{kAccessError, "Path/File access error"}, std::pair{kPathNotFound, "Path not found"},
 };
 
 bool isSeparator(char c) {
@@ -101,19 +101,19 @@ std::optional<fs::path> find(const fs::path& root, std::string_view path) {
 FileError refusal(const fs::path& file, std::error_code reason) {
     std::error_code ignored;
     if (reason == std::errc::no_such_file_or_directory || reason == std::errc::not_a_directory) {
-        return FileError(fs::is_directory(file.parent_path(), ignored) ? FileNotFound : PathNotFound);
+        return FileError(fs::is_directory(file.parent_path(), ignored) ? kFileNotFound : kPathNotFound);
     }
     if (reason == std::errc::filename_too_long) {
-        return FileError(PathNotFound);
+        return FileError(kPathNotFound);
     }
     if (reason == std::errc::permission_denied || reason == std::errc::operation_not_permitted) {
-        return FileError(Denied);
+        return FileError(kDenied);
     }
     if (reason == std::errc::is_a_directory || reason == std::errc::file_exists ||
         reason == std::errc::read_only_file_system) {
-        return FileError(AccessError);
+        return FileError(kAccessError);
     }
-    return FileError(DeviceError);
+    return FileError(kDeviceError);
 }
 
 std::error_code lastError() {
@@ -154,7 +154,7 @@ fs::path DriveC::real(std::string_view path) const {
     if (auto place = find(root_, path)) {
         return *place;
     }
-    throw FileError(PathNotFound);
+    throw FileError(kPathNotFound);
 }
 
 bool DriveC::exists(std::string_view path) const {
@@ -183,7 +183,7 @@ std::string DriveC::firstLine(std::string_view path) const {
         throw refusal(place, reason ? reason : make_error_code(std::errc::no_such_file_or_directory));
     }
     if (!fs::is_regular_file(status)) {
-        throw FileError(AccessError);
+        throw FileError(kAccessError);
     }
     errno = 0;
     std::ifstream file(place, std::ios::binary);
@@ -192,10 +192,10 @@ std::string DriveC::firstLine(std::string_view path) const {
     }
     const auto line = readLine(file);
     if (file.bad()) {
-        throw FileError(DeviceError);
+        throw FileError(kDeviceError);
     }
     if (!line) {
-        throw FileError(EndOfFile);
+        throw FileError(kEndOfFile);
     }
     return QString::fromStdString(*line).toStdString(); // invalid UTF-8 becomes U+FFFD
 }
@@ -204,7 +204,7 @@ void DriveC::writeLine(std::string_view path, std::string_view line) const {
     const fs::path place = real(path);
     std::error_code ignored;
     if (fs::is_directory(place, ignored)) {
-        throw FileError(AccessError);
+        throw FileError(kAccessError);
     }
     try {
         machine::replaceFile(place, std::string(line) + "\r\n");
@@ -217,7 +217,7 @@ void DriveC::remove(std::string_view path) const {
     const fs::path place = real(path);
     std::error_code reason;
     if (fs::is_directory(place, reason)) {
-        throw FileError(AccessError);
+        throw FileError(kAccessError);
     }
     if (fs::remove(place, reason)) {
         return;
@@ -231,7 +231,7 @@ void DriveC::makeFolder(std::string_view path) const {
         machine::makePrivateFolder(place);
     } catch (const std::system_error& error) {
         if (error.code() == std::errc::no_such_file_or_directory) {
-            throw FileError(PathNotFound);
+            throw FileError(kPathNotFound);
         }
         throw refusal(place, error.code());
     }

@@ -17,9 +17,6 @@ using Kind = DataType::Kind;
 using Result = FunctionRow::Result;
 using Parameter = FunctionParameter::Kind;
 
-constexpr int kSystemNameLength = 128;
-constexpr int kWidestDecimal = 38;
-
 constexpr std::array kAggregates = {"COUNT", "COUNT_BIG", "SUM", "AVG", "MIN", "MAX"};
 
 DataType resultType(Result result, const std::vector<bound::ExpressionPtr>& arguments) {

@@ -10,8 +10,6 @@ namespace {
 
 using Kind = DataType::Kind;
 
-constexpr int kWidestDecimal = 38;
-
 int rank(Kind kind) {
     switch (kind) {
     case Kind::DateTime:

@@ -2,6 +2,7 @@
 #include "engine/errors/FunctionErrors.h"
 #include "engine/functions/FunctionRows.h"
 #include "engine/store/Host.h"
+#include "engine/values/Ascii.h"
 #include "engine/values/CalendarDate.h"
 #include "engine/values/Conversions.h"
 
@@ -46,9 +47,7 @@ constexpr int kMonthsOfQuarter = 3;
 constexpr int kDaysOfWeek = 7;
 
 Part partOf(const std::string& name, const char* function) {
-    std::string small(name);
-    std::transform(small.begin(), small.end(), small.begin(),
-                   [](char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c; });
+    const std::string small = smallLetters(name);
     const auto found =
         std::find_if(kParts.begin(), kParts.end(), [&](const auto& entry) { return entry.name == small; });
     if (found == kParts.end()) {
@@ -221,7 +220,7 @@ Scalar isDate(FunctionContext& context, Arguments arguments) {
     }
     try {
         toDateTime(*text, std::nullopt, context.dayFirst);
-        return std::int64_t{text->find_first_not_of(' ') != std::string::npos};
+        return std::int64_t{!withoutTrailingBlanks(*text).empty()};
     } catch (const Error&) {
         return std::int64_t{0};
     }

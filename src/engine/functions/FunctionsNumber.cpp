@@ -2,6 +2,7 @@
 #include "engine/errors/FunctionErrors.h"
 #include "engine/errors/ValueErrors.h"
 #include "engine/functions/FunctionRows.h"
+#include "engine/values/Ascii.h"
 #include "engine/values/Conversions.h"
 
 #include <cmath>
@@ -74,8 +75,7 @@ Scalar roundOf(FunctionContext& /*context*/, Arguments arguments) {
     if (std::fabs(number) >= kWholeFrom) {
         return number;
     }
-    constexpr int kWidest = 38;
-    return toDecimal(number, DataType{DataType::Kind::Decimal, 0, kWidest, static_cast<int>(places)});
+    return toDecimal(number, DataType{DataType::Kind::Decimal, 0, kWidestDecimal, static_cast<int>(places)});
 }
 
 Scalar isNumeric(FunctionContext& /*context*/, Arguments arguments) {
@@ -85,7 +85,7 @@ Scalar isNumeric(FunctionContext& /*context*/, Arguments arguments) {
     }
     try {
         toFloat(*text);
-        return std::int64_t{text->find_first_not_of(' ') != std::string::npos};
+        return std::int64_t{!withoutTrailingBlanks(*text).empty()};
     } catch (const Error&) {
         return std::int64_t{0};
     }

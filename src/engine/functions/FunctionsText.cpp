@@ -1,6 +1,8 @@
 #include "engine/errors/FunctionErrors.h"
 #include "engine/functions/FunctionRows.h"
+#include "engine/values/Ascii.h"
 #include "engine/values/Collation.h"
+#include "engine/values/CollationCharacters.h"
 
 #include <algorithm>
 #include <cmath>
@@ -10,17 +12,7 @@ namespace engine {
 
 namespace {
 
-/// Longest text that SPACE, REPLICATE and REPLACE make.
-constexpr std::size_t kLongestText = 8000;
 constexpr std::int64_t kUsualWidth = 10;
-
-bool startsCharacter(char c) {
-    return (static_cast<unsigned char>(c) & 0xc0U) != 0x80U;
-}
-
-std::string trimmedEnd(const std::string& text) {
-    return text.substr(0, text.find_last_not_of(' ') + 1);
-}
 
 /// Byte offsets of the characters, the end last.
 std::vector<std::size_t> offsetsOf(std::string_view text) {
@@ -51,7 +43,7 @@ void refuseNegative(std::int64_t length, const char* function) {
 }
 
 Scalar len(FunctionContext& /*context*/, Arguments arguments) {
-    return static_cast<std::int64_t>(characters(trimmedEnd(textAt(arguments, 0))));
+    return static_cast<std::int64_t>(characters(withoutTrailingBlanks(textAt(arguments, 0))));
 }
 
 Scalar upperText(FunctionContext& /*context*/, Arguments arguments) {
@@ -69,7 +61,7 @@ Scalar leftTrim(FunctionContext& /*context*/, Arguments arguments) {
 }
 
 Scalar rightTrim(FunctionContext& /*context*/, Arguments arguments) {
-    return trimmedEnd(textAt(arguments, 0));
+    return std::string(withoutTrailingBlanks(textAt(arguments, 0)));
 }
 
 Scalar leftPart(FunctionContext& /*context*/, Arguments arguments) {
@@ -146,7 +138,7 @@ Scalar replicated(const std::string& text, std::int64_t times) {
         return {};
     }
     std::string result;
-    while (times-- > 0 && !text.empty() && result.size() + text.size() <= kLongestText) {
+    while (times-- > 0 && !text.empty() && result.size() + text.size() <= static_cast<std::size_t>(kLongestText)) {
         result += text;
     }
     return result;
@@ -164,7 +156,7 @@ Scalar str(FunctionContext& /*context*/, Arguments arguments) {
     constexpr std::int64_t kMostDecimals = 16;
     const std::int64_t width = arguments.size() > 1 ? integerAt(arguments, 1) : kUsualWidth;
     const std::int64_t decimals = arguments.size() > 2 ? integerAt(arguments, 2) : 0;
-    if (width < 0 || width > static_cast<std::int64_t>(kLongestText) || decimals < 0) {
+    if (width < 0 || width > kLongestText || decimals < 0) {
         return {};
     }
     const int shown = static_cast<int>(std::min(decimals, kMostDecimals));
@@ -187,8 +179,7 @@ Scalar str(FunctionContext& /*context*/, Arguments arguments) {
 Scalar dataLength(FunctionContext& /*context*/, Arguments arguments) {
     const DataType type = decodeType(integerAt(arguments, 1));
     if (const auto* text = std::get_if<std::string>(&arguments[0]); text != nullptr && type.isText()) {
-        const bool national = type.kind == DataType::Kind::NChar || type.kind == DataType::Kind::NVarChar;
-        return static_cast<std::int64_t>(characters(*text) * (national ? 2 : 1));
+        return static_cast<std::int64_t>(characters(*text) * (type.isNational() ? 2 : 1));
     }
     switch (type.kind) {
     case DataType::Kind::Bit:

@@ -14,7 +14,6 @@ namespace {
 constexpr int kBitsBehindVersion = 24;
 constexpr const char* kLanguage = "us_english";
 constexpr std::int64_t kQuotedIdentifierAndNulls = 5496; ///< the usual settings of a connection, as bits
-constexpr std::int64_t kWidestDecimal = 38;
 
 std::string versionText(const Instance& instance) {
     return std::to_string(instance.version()) + ".00";
@@ -109,7 +108,7 @@ Scalar ServerSession::fact(Fact fact, const Scalar& argument) {
     case Fact::VersionNumber:
         return std::int64_t{instance_->version()} << kBitsBehindVersion;
     case Fact::WidestDecimal:
-        return kWidestDecimal;
+        return std::int64_t{kWidestDecimal};
     }
     return {};
 }

@@ -1,5 +1,7 @@
 #include "engine/text/Keywords.h"
 
+#include "engine/values/Ascii.h"
+
 #include <algorithm>
 #include <array>
 #include <string>
@@ -193,10 +195,6 @@ constexpr std::array<std::string_view, 181> kWords = {"ADD",
 
 constexpr std::size_t kLongestWord = 17;
 
-constexpr char upperLetter(char c) {
-    return c >= 'a' && c <= 'z' ? static_cast<char>(c - 'a' + 'A') : c;
-}
-
 static_assert(std::is_sorted(kWords.begin(), kWords.end()));
 static_assert(std::all_of(kWords.begin(), kWords.end(), [](auto word) { return word.size() <= kLongestWord; }));
 static_assert(static_cast<std::size_t>(Keyword::Writetext) == kWords.size());
@@ -207,7 +205,7 @@ Keyword keywordOf(std::string_view word) {
     if (word.size() < 2 || word.size() > kLongestWord)
         return Keyword::None;
     std::array<char, kLongestWord> buffer{};
-    std::transform(word.begin(), word.end(), buffer.begin(), upperLetter);
+    std::transform(word.begin(), word.end(), buffer.begin(), capital);
     const std::string_view capitals(buffer.data(), word.size());
     const auto* const found = std::lower_bound(kWords.begin(), kWords.end(), capitals);
     if (found == kWords.end() || *found != capitals)
@@ -221,7 +219,7 @@ std::string_view textOf(Keyword keyword) {
 
 bool sameWord(std::string_view left, std::string_view right) {
     return std::equal(left.begin(), left.end(), right.begin(), right.end(),
-                      [](char a, char b) { return upperLetter(a) == upperLetter(b); });
+                      [](char a, char b) { return capital(a) == capital(b); });
 }
 
 } // namespace engine

@@ -1,6 +1,9 @@
 #include "engine/text/Lexer.h"
 
 #include "engine/errors/TextErrors.h"
+#include "engine/values/Ascii.h"
+#include "engine/values/CollationCharacters.h"
+#include "engine/values/DataType.h"
 
 #include <algorithm>
 #include <array>
@@ -10,10 +13,6 @@
 namespace engine {
 
 namespace {
-
-bool isDigit(char c) {
-    return c >= '0' && c <= '9';
-}
 
 bool isHexDigit(char c) {
     return isDigit(c) || (c >= 'a' && c <= 'f') || (c >= 'A' && c <= 'F');
@@ -31,14 +30,6 @@ bool continuesName(char c) {
     return startsName(c) || isDigit(c) || c == '$';
 }
 
-bool isBlank(char c) {
-    return c == ' ' || (c >= '\t' && c <= '\r');
-}
-
-bool startsCharacter(char c) {
-    return (static_cast<unsigned char>(c) & 0xC0U) != 0x80U;
-}
-
 /// The first characters of a UTF-8 text, all of it where it is shorter.
 std::string_view firstCharacters(std::string_view text, std::size_t count) {
     std::size_t seen = 0;
@@ -54,11 +45,10 @@ bool fitsInt(std::string_view digits) {
     return digits.size() != kLargest.size() ? digits.size() < kLargest.size() : digits <= kLargest;
 }
 
-/// The widest decimal has 38 digits, zeros before them left out.
+/// Whether the widest decimal holds it; zeros in front don't count.
 bool fitsDecimal(std::string_view number) {
-    constexpr std::ptrdiff_t kMostDigits = 38;
     number.remove_prefix(std::min(number.find_first_not_of('0'), number.size()));
-    return std::count_if(number.begin(), number.end(), isDigit) <= kMostDigits;
+    return std::count_if(number.begin(), number.end(), isDigit) <= kWidestDecimal;
 }
 
 bool fitsFloat(const std::string_view number) {

@@ -22,8 +22,8 @@ struct TypeRow {
 
 constexpr auto kTypes = std::to_array<TypeRow>({{"bigint", {Kind::BigInt}},
                                                 {"bit", {Kind::Bit}},
-                                                {"char", {Kind::Char}, Size::Length, 8000},
-                                                {"character", {Kind::Char}, Size::Length, 8000},
+                                                {"char", {Kind::Char}, Size::Length, kLongestText},
+                                                {"character", {Kind::Char}, Size::Length, kLongestText},
                                                 {"date", {Kind::DateTime}},
                                                 {"datetime", {Kind::DateTime}},
                                                 {"dec", {Kind::Decimal, 0, 18, 0}, Size::Precision},
@@ -33,22 +33,20 @@ constexpr auto kTypes = std::to_array<TypeRow>({{"bigint", {Kind::BigInt}},
                                                 {"int", {Kind::Int}},
                                                 {"integer", {Kind::Int}},
                                                 {"money", {Kind::Decimal, 0, 19, 4}},
-                                                {"nchar", {Kind::NChar}, Size::Length, 4000},
+                                                {"nchar", {Kind::NChar}, Size::Length, kLongestNationalText},
                                                 {"ntext", {Kind::NVarChar, -1}},
                                                 {"numeric", {Kind::Decimal, 0, 18, 0}, Size::Precision},
-                                                {"nvarchar", {Kind::NVarChar}, Size::LengthOrMax, 4000},
+                                                {"nvarchar", {Kind::NVarChar}, Size::LengthOrMax, kLongestNationalText},
                                                 {"real", {Kind::Real}},
                                                 {"smalldatetime", {Kind::DateTime}},
                                                 {"smallint", {Kind::SmallInt}},
                                                 {"smallmoney", {Kind::Decimal, 0, 10, 4}},
-                                                {"sysname", {Kind::NVarChar, 128}},
+                                                {"sysname", {Kind::NVarChar, kSystemNameLength}},
                                                 {"text", {Kind::NVarChar, -1}},
                                                 {"tinyint", {Kind::TinyInt}},
-                                                {"varbinary", {Kind::VarBinary}, Size::LengthOrMax, 8000},
-                                                {"varchar", {Kind::VarChar}, Size::LengthOrMax, 8000}});
+                                                {"varbinary", {Kind::VarBinary}, Size::LengthOrMax, kLongestText},
+                                                {"varchar", {Kind::VarChar}, Size::LengthOrMax, kLongestText}});
 
-constexpr int kLargestSize = 8000;
-constexpr int kLargestPrecision = 38;
 constexpr int kRealMantissa = 24;
 constexpr int kFloatMantissa = 53;
 constexpr int kColumnLength = 1;
@@ -120,7 +118,7 @@ int Grammar::size(int largest) {
 int Grammar::length(const TypeUse& use, int largest) {
     const Token& token = now();
     const int length = size(std::numeric_limits<int>::max());
-    if (length > kLargestSize)
+    if (length > kLongestText)
         throw errors::sizeBeyondAnyType(valueOf(token), use.kind, use.name, token.position);
     if (length > largest)
         throw errors::sizeExceeded(valueOf(token), use.kind, use.name, largest, token.position);
@@ -130,7 +128,7 @@ int Grammar::length(const TypeUse& use, int largest) {
 void Grammar::precision(DataType& type, const TypeUse& use) {
     const Token& token = now();
     type.precision = size(std::numeric_limits<int>::max());
-    if (type.precision > kLargestPrecision)
+    if (type.precision > kWidestDecimal)
         throw errors::precisionExceeded(use.ordinal, valueOf(token), token.position);
     if (!consumeIf(","))
         return;

@@ -1,5 +1,6 @@
 #include "engine/values/Collation.h"
 
+#include "engine/values/Ascii.h"
 #include "engine/values/CollationCharacters.h"
 
 #include <unicode/uchar.h>
@@ -75,11 +76,6 @@ Ranks makeRanks() {
 const Ranks& ranks() {
     static const Ranks made = makeRanks();
     return made;
-}
-
-std::string_view withoutTrailingBlanks(std::string_view text) {
-    const std::size_t last = text.find_last_not_of(' ');
-    return text.substr(0, last == std::string_view::npos ? 0 : last + 1);
 }
 
 bool endsInAscii(std::string_view text, std::size_t place) {
@@ -191,11 +187,10 @@ namespace {
 
 /// The server counts in units of UTF-16: a character beyond the first plane is two.
 std::size_t unitsOf(char lead) {
-    const auto byte = static_cast<unsigned char>(lead);
-    if ((byte & 0xc0U) == 0x80U) {
+    if (!startsCharacter(lead)) {
         return 0;
     }
-    return byte >= 0xf0U ? 2 : 1;
+    return static_cast<unsigned char>(lead) >= 0xf0U ? 2 : 1;
 }
 
 } // namespace

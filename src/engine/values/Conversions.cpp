@@ -1,6 +1,7 @@
 #include "engine/values/Conversions.h"
 
 #include "engine/errors/ValueErrors.h"
+#include "engine/values/Ascii.h"
 #include "engine/values/Collation.h"
 #include "engine/values/DecimalDigits.h"
 
@@ -40,14 +41,6 @@ const IntegerKind& kindOf(const DataType& target) {
     throw InternalError("a conversion to an integer of a type that is none: " + toText(target));
 }
 
-std::string_view trimmed(std::string_view text) {
-    const std::size_t first = text.find_first_not_of(' ');
-    if (first == std::string_view::npos) {
-        return {};
-    }
-    return text.substr(first, text.find_last_not_of(' ') - first + 1);
-}
-
 Error integerRefused(const IntegerKind& kind, std::string_view text, const char* source) {
     return kind.kind == Kind::BigInt ? errors::conversionError(source, kind.name)
                                      : errors::intConversion(source, std::string(text), kind.name);
@@ -66,11 +59,6 @@ Error integerOverflows(const IntegerKind& kind, std::string_view text, const cha
     }
 }
 
-/// The digits of a number without its sign; a sign alone counts as 0.
-bool allDigits(std::string_view digits) {
-    return std::all_of(digits.begin(), digits.end(), [](char c) { return c >= '0' && c <= '9'; });
-}
-
 } // namespace
 
 std::int64_t toInteger(std::string_view text, const DataType& target, const char* sourceType) {
@@ -80,7 +68,7 @@ std::int64_t toInteger(std::string_view text, const DataType& target, const char
     if (negative || digits.starts_with('+')) {
         digits.remove_prefix(1);
     }
-    if (!allDigits(digits)) {
+    if (!isAllDigits(digits)) {
         if (kind.kind == Kind::Bit) {
             const std::string word = lower(trimmed(text));
             if (word == "true" || word == "false") {

@@ -1,4 +1,5 @@
 #include "engine/errors/ValueErrors.h"
+#include "engine/values/Ascii.h"
 #include "engine/values/CalendarDate.h"
 #include "engine/values/Conversions.h"
 
@@ -117,7 +118,7 @@ private:
     Number number() {
         constexpr int longest = 8;
         Number number;
-        while (peek() >= '0' && peek() <= '9') {
+        while (isDigit(peek())) {
             number.value = number.value * 10 + (text_[place_++] - '0');
             if (++number.digits > longest) {
                 refuse();

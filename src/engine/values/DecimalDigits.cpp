@@ -1,5 +1,7 @@
 #include "engine/values/DecimalDigits.h"
 
+#include "engine/values/Ascii.h"
+
 #include <algorithm>
 #include <array>
 #include <charconv>
@@ -10,10 +12,6 @@ namespace {
 
 constexpr int significantDigits = 15;
 constexpr std::size_t longestDouble = 400; // digits of the largest one, written out
-
-bool digitsOnly(std::string_view text) {
-    return std::all_of(text.begin(), text.end(), [](char c) { return c >= '0' && c <= '9'; });
-}
 
 /// Adds one to the last digit; true when it carries out of the first.
 bool increment(std::string& digits) {
@@ -43,7 +41,7 @@ std::optional<DecimalDigits> DecimalDigits::parse(std::string_view text) {
     if (digits.whole_.empty() && digits.fraction_.empty()) {
         return std::nullopt;
     }
-    if (!digitsOnly(digits.whole_) || !digitsOnly(digits.fraction_)) {
+    if (!isAllDigits(digits.whole_) || !isAllDigits(digits.fraction_)) {
         return std::nullopt;
     }
     digits.dropLeadingZeros();

@@ -14,10 +14,6 @@ namespace engine {
 
 namespace {
 
-constexpr int kLongestVarChar = 8000;
-constexpr int kLongestNationalVarChar = 4000;
-constexpr int kLongestDecimal = 38;
-
 using Kind = DataType::Kind;
 
 bool isReal(const DataType& type) {
@@ -195,7 +191,7 @@ DataType decimalOf(const Literal& literal) {
     const std::size_t point = literal.text.find('.');
     const int scale = point == std::string::npos ? 0 : static_cast<int>(literal.text.size() - point - 1);
     const int digits = static_cast<int>(literal.text.size()) - (point == std::string::npos ? 0 : 1);
-    return {Kind::Decimal, 0, std::clamp(digits, 1, kLongestDecimal), std::min(scale, kLongestDecimal)};
+    return {Kind::Decimal, 0, std::clamp(digits, 1, kWidestDecimal), std::min(scale, kWidestDecimal)};
 }
 
 DataType typeOf(const Literal& literal) {
@@ -217,10 +213,10 @@ DataType typeOf(const Literal& literal) {
         type.kind = Kind::Float;
         break;
     case Literal::Kind::Text:
-        type = {Kind::VarChar, kLongestVarChar, 0, 0};
+        type = {Kind::VarChar, kLongestText, 0, 0};
         break;
     case Literal::Kind::NationalText:
-        type = {Kind::NVarChar, kLongestNationalVarChar, 0, 0};
+        type = {Kind::NVarChar, kLongestNationalText, 0, 0};
         break;
     }
     return type;

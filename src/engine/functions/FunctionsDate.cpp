@@ -86,9 +86,9 @@ Scalar addMonths(CalendarDate date, std::int64_t months) {
 
 Scalar addTicks(const CalendarDate& date, std::int64_t days, std::int64_t ticks) {
     const std::int64_t sum = date.ticks() + ticks;
-    const std::int64_t carried = floorDivide(sum, ticksOfDay);
+    const std::int64_t carried = floorDivide(sum, kTicksOfDay);
     try {
-        return CalendarDate::ofTicks(date.days() + days + carried, sum - carried * ticksOfDay).text();
+        return CalendarDate::ofTicks(date.days() + days + carried, sum - carried * kTicksOfDay).text();
     } catch (const Error&) {
         throw errors::dateAdditionOverflow();
     }
@@ -111,13 +111,13 @@ Scalar dateAdd(FunctionContext& /*context*/, Arguments arguments) {
     case Part::Week:
         return addTicks(date, number * kDaysOfWeek, 0);
     case Part::Hour:
-        return addTicks(date, 0, number * 3600 * ticksOfSecond);
+        return addTicks(date, 0, number * 3600 * kTicksOfSecond);
     case Part::Minute:
-        return addTicks(date, 0, number * 60 * ticksOfSecond);
+        return addTicks(date, 0, number * 60 * kTicksOfSecond);
     case Part::Second:
-        return addTicks(date, 0, number * ticksOfSecond);
+        return addTicks(date, 0, number * kTicksOfSecond);
     case Part::Millisecond:
-        return addTicks(date, 0, number * ticksOfSecond / 1000);
+        return addTicks(date, 0, number * kTicksOfSecond / 1000);
     }
     return {};
 }

@@ -108,7 +108,7 @@ Outcome configure(ServerSession& session, const Execute& call, Messages& message
     const Values values(call, {"@configname", "@configvalue"});
     const std::vector<Instance::Option> options = session.instance().options();
     const bool advanced = std::any_of(options.begin(), options.end(), [](const Instance::Option& option) {
-        return option.name == showAdvancedOptions && option.running != 0;
+        return option.name == kShowAdvancedOptions && option.running != 0;
     });
     const std::string wanted = values.given(0) ? serverOption(values.text(0), advanced).name : std::string();
     MemoryRows rows = optionRows();

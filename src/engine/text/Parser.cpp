@@ -6,8 +6,9 @@
 namespace engine {
 
 BatchTree parse(std::string_view batch) {
-    if (batch.size() > kLongestBatch)
+    if (batch.size() > kLongestBatch) {
         throw errors::nestedTooDeep();
+    }
     return Grammar(batch).batch();
 }
 

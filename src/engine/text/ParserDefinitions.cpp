@@ -19,12 +19,15 @@ void refuseNull(std::vector<ColumnDefinition>& columns, const std::vector<KeyDef
     };
     for (ColumnDefinition& column : columns) {
         const bool primary = isPrimary(column);
-        if (column.identity && column.nullable.value_or(false))
+        if (column.identity && column.nullable.value_or(false)) {
             throw errors::nullableIdentity(column.name, table, column.position);
-        if (primary && column.nullable.value_or(false))
+        }
+        if (primary && column.nullable.value_or(false)) {
             throw errors::nullableKey(table, column.position);
-        if (column.identity || primary)
+        }
+        if (column.identity || primary) {
             column.nullable = false;
+        }
     }
 }
 
@@ -33,10 +36,12 @@ void refuseNull(std::vector<ColumnDefinition>& columns, const std::vector<KeyDef
 Grammar::Node Grammar::create() {
     structural_ = true;
     expect(Keyword::Create);
-    if (at(Keyword::Table))
+    if (at(Keyword::Table)) {
         return createTable();
-    if (at(Keyword::Database))
+    }
+    if (at(Keyword::Database)) {
         return createDatabase();
+    }
     const bool unique = consumeIf(Keyword::Unique);
     clustering();
     return createIndex(unique);
@@ -48,9 +53,9 @@ Grammar::Node Grammar::createTable() {
     expect(Keyword::Table);
     node.table = name();
     expect("(");
-    do
+    do {
         tableElement(elements);
-    while (consumeIf(",") && !at(")"));
+    } while (consumeIf(",") && !at(")"));
     expect(")");
     filegroup();
     node.columns = std::move(elements.columns);
@@ -62,12 +67,14 @@ Grammar::Node Grammar::createTable() {
 void Grammar::tableElement(TableElements& elements) {
     std::string constraint;
     const bool named = consumeIf(Keyword::Constraint);
-    if (named)
+    if (named) {
         constraint = expectName();
-    if (named || atKey())
+    }
+    if (named || atKey()) {
         elements.keys.push_back(tableKey(std::move(constraint)));
-    else
+    } else {
         column(elements);
+    }
 }
 
 KeyDefinition Grammar::tableKey(std::string name) {
@@ -77,8 +84,9 @@ KeyDefinition Grammar::tableKey(std::string name) {
     expect("(");
     do {
         key.columns.push_back(expectName());
-        if (!consumeIf(Keyword::Asc))
+        if (!consumeIf(Keyword::Asc)) {
             consumeIf(Keyword::Desc);
+        }
     } while (consumeIf(","));
     expect(")");
     filegroup();
@@ -98,14 +106,16 @@ KeyDefinition::Kind Grammar::keyKind() {
 }
 
 void Grammar::clustering() {
-    if (!consumeIf(Keyword::Clustered))
+    if (!consumeIf(Keyword::Clustered)) {
         consumeIf(Keyword::Nonclustered);
+    }
 }
 
 /// Where the server would lay the rows; one file holds all of them here.
 void Grammar::filegroup() {
-    if (consumeIf(Keyword::On))
+    if (consumeIf(Keyword::On)) {
         expectName();
+    }
 }
 
 void Grammar::column(TableElements& elements) {
@@ -127,11 +137,13 @@ bool Grammar::columnOption(TableElements& elements, ColumnDefinition& column) {
         collation();
         return true;
     }
-    if (!consumeIf(Keyword::Constraint))
+    if (!consumeIf(Keyword::Constraint)) {
         return columnConstraint(elements, column, {});
+    }
     std::string name = expectName();
-    if (!columnConstraint(elements, column, std::move(name)))
+    if (!columnConstraint(elements, column, std::move(name))) {
         refuse();
+    }
     return true;
 }
 
@@ -154,8 +166,9 @@ bool Grammar::columnConstraint(TableElements& elements, ColumnDefinition& column
 }
 
 void Grammar::nullability(ColumnDefinition& column, bool nullable) {
-    if (!at(Keyword::Null) || column.nullable.value_or(nullable) != nullable)
+    if (!at(Keyword::Null) || column.nullable.value_or(nullable) != nullable) {
         refuse();
+    }
     consume();
     column.nullable = nullable;
 }
@@ -163,8 +176,9 @@ void Grammar::nullability(ColumnDefinition& column, bool nullable) {
 void Grammar::identity(ColumnDefinition& column) {
     expect(Keyword::Identity);
     column.identity = true;
-    if (!consumeIf("("))
+    if (!consumeIf("(")) {
         return;
+    }
     column.identitySeed = expectInteger();
     expect(",");
     column.identityIncrement = expectInteger();
@@ -183,8 +197,9 @@ void Grammar::defaultOf(ColumnDefinition& column, std::string name) {
 void Grammar::collation() {
     const Token& token = now();
     const std::string name = expectName();
-    if (!sameWord(name, "Latin1_General_CI_AS") && !sameWord(name, "database_default"))
+    if (!sameWord(name, "Latin1_General_CI_AS") && !sameWord(name, "database_default")) {
         throw errors::invalidCollation(name, token.position);
+    }
 }
 
 Grammar::Node Grammar::createIndex(bool unique) {
@@ -195,9 +210,9 @@ Grammar::Node Grammar::createIndex(bool unique) {
     expect(Keyword::On);
     node.table = name();
     expect("(");
-    do
+    do {
         node.columns.push_back(indexColumn());
-    while (consumeIf(","));
+    } while (consumeIf(","));
     expect(")");
     filegroup();
     return node;
@@ -208,8 +223,9 @@ OrderItem Grammar::indexColumn() {
     const int position = now().position;
     item.expression = makeExpression(position, ColumnReference{Name{{expectName()}, position}});
     item.descending = consumeIf(Keyword::Desc);
-    if (!item.descending)
+    if (!item.descending) {
         consumeIf(Keyword::Asc);
+    }
     return item;
 }
 
@@ -218,16 +234,18 @@ Grammar::Node Grammar::alter() {
     TableElements elements;
     structural_ = true;
     expect(Keyword::Alter);
-    if (at(Keyword::Database))
+    if (at(Keyword::Database)) {
         return alterDatabase();
+    }
     expect(Keyword::Table);
     node.table = name();
-    if (consumeIf(Keyword::With) && !consumeIf(Keyword::Check))
+    if (consumeIf(Keyword::With) && !consumeIf(Keyword::Check)) {
         expect(Keyword::Nocheck);
+    }
     expect(Keyword::Add);
-    do
+    do {
         tableElement(elements);
-    while (consumeIf(","));
+    } while (consumeIf(","));
     node.added = std::move(elements.columns);
     node.keys = std::move(elements.keys);
     refuseNull(node.added, node.keys, node.table.last());
@@ -246,8 +264,9 @@ Grammar::Node Grammar::drop() {
         node.kind = Drop::Kind::Table;
     }
     node.ifExists = consumeIf(Keyword::If);
-    if (node.ifExists)
+    if (node.ifExists) {
         expect(Keyword::Exists);
+    }
     do {
         Name dropped = name();
         if (node.kind == Drop::Kind::Index && consumeIf(Keyword::On)) {

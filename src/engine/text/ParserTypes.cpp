@@ -53,9 +53,11 @@ constexpr int kColumnLength = 1;
 constexpr int kConversionLength = 30;
 
 const TypeRow* typeNamed(std::string_view name) {
-    for (const TypeRow& row : kTypes)
-        if (sameWord(row.name, name))
+    for (const TypeRow& row : kTypes) {
+        if (sameWord(row.name, name)) {
             return &row;
+        }
+    }
     return nullptr;
 }
 
@@ -73,10 +75,12 @@ DataType Grammar::type(const TypeUse& use) {
     const Token& token = now();
     const std::string name = expectName();
     const TypeRow* row = typeNamed(name);
-    if (row == nullptr && use.ordinal > 0)
+    if (row == nullptr && use.ordinal > 0) {
         throw errors::typeMissing(use.ordinal, name, token.position);
-    if (row == nullptr)
+    }
+    if (row == nullptr) {
         throw errors::undefinedType(name, token.position);
+    }
     DataType type = row->type;
     const bool bracketed = row->size != Size::Nothing && consumeIf("(");
     switch (row->size) {
@@ -85,59 +89,71 @@ DataType Grammar::type(const TypeUse& use) {
     case Size::Length:
     case Size::LengthOrMax:
         type.length = use.defaultLength;
-        if (bracketed && row->size == Size::LengthOrMax && consumeIfWord("max"))
+        if (bracketed && row->size == Size::LengthOrMax && consumeIfWord("max")) {
             type.length = -1;
-        else if (bracketed)
+        } else if (bracketed) {
             type.length = length({use.kind, use.name.empty() ? name : use.name, use.ordinal, 0}, row->largest);
+        }
         break;
     case Size::Precision:
-        if (bracketed)
+        if (bracketed) {
             precision(type, use);
+        }
         break;
     case Size::Mantissa:
-        if (bracketed && size(kFloatMantissa) <= kRealMantissa)
+        if (bracketed && size(kFloatMantissa) <= kRealMantissa) {
             type.kind = Kind::Real;
+        }
         break;
     }
-    if (bracketed)
+    if (bracketed) {
         expect(")");
+    }
     return type;
 }
 
 /// A positive number of at most `largest`.
 int Grammar::size(int largest) {
     const Token& token = now();
-    if (!token.isNumber())
+    if (!token.isNumber()) {
         refuse();
+    }
     const long long number = expectInteger();
-    if (number < 1 || number > largest)
+    if (number < 1 || number > largest) {
         throw errors::invalidLength(valueOf(token), token.position);
+    }
     return static_cast<int>(number);
 }
 
 int Grammar::length(const TypeUse& use, int largest) {
     const Token& token = now();
     const int length = size(std::numeric_limits<int>::max());
-    if (length > kLongestText)
+    if (length > kLongestText) {
         throw errors::sizeBeyondAnyType(valueOf(token), use.kind, use.name, token.position);
-    if (length > largest)
+    }
+    if (length > largest) {
         throw errors::sizeExceeded(valueOf(token), use.kind, use.name, largest, token.position);
+    }
     return length;
 }
 
 void Grammar::precision(DataType& type, const TypeUse& use) {
     const Token& token = now();
     type.precision = size(std::numeric_limits<int>::max());
-    if (type.precision > kWidestDecimal)
+    if (type.precision > kWidestDecimal) {
         throw errors::precisionExceeded(use.ordinal, valueOf(token), token.position);
-    if (!consumeIf(","))
+    }
+    if (!consumeIf(",")) {
         return;
+    }
     const Token& scale = now();
-    if (!scale.isNumber())
+    if (!scale.isNumber()) {
         refuse();
+    }
     const long long digits = expectInteger();
-    if (digits > type.precision)
+    if (digits > type.precision) {
         throw errors::scaleOutOfRange(valueOf(scale), use.name, type.precision, scale.position);
+    }
     type.scale = static_cast<int>(digits);
 }
 

@@ -23,7 +23,7 @@ struct CalendarDate {
     std::string text() const;
 };
 
-constexpr std::int64_t ticksOfSecond = 300;
-constexpr std::int64_t ticksOfDay = ticksOfSecond * 60 * 60 * 24;
+constexpr std::int64_t kTicksOfSecond = 300;
+constexpr std::int64_t kTicksOfDay = kTicksOfSecond * 60 * 60 * 24;
 
 } // namespace engine

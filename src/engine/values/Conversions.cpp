@@ -24,7 +24,7 @@ struct IntegerKind {
     std::int64_t minimum, maximum;
 };
 
-constexpr std::array<IntegerKind, 5> integerKinds{{
+constexpr std::array<IntegerKind, 5> kIntegerKinds{{
     {Kind::Bit, "bit", 0, 1},
     {Kind::TinyInt, "tinyint", 0, 255},
     {Kind::SmallInt, "smallint", -32768, 32767},
@@ -33,7 +33,7 @@ constexpr std::array<IntegerKind, 5> integerKinds{{
 }};
 
 const IntegerKind& kindOf(const DataType& target) {
-    for (const IntegerKind& kind : integerKinds) {
+    for (const IntegerKind& kind : kIntegerKinds) {
         if (kind.kind == target.kind) {
             return kind;
         }

@@ -131,10 +131,10 @@ bool Pattern::matches(std::string_view text) const {
     if (!valid_) {
         return false;
     }
-    constexpr std::size_t none = static_cast<std::size_t>(-1);
+    constexpr std::size_t kNone = static_cast<std::size_t>(-1);
     std::size_t element = 0;
     std::size_t place = 0;
-    std::size_t many = none;
+    std::size_t many = kNone;
     std::size_t retry = 0;
     while (true) {
         if (element < elements_.size() && elements_[element].kind == Element::Kind::Many) {
@@ -156,7 +156,7 @@ bool Pattern::matches(std::string_view text) const {
                 continue;
             }
         }
-        if (many == none || retry >= text.size()) {
+        if (many == kNone || retry >= text.size()) {
             return false;
         }
         nextCharacter(text, retry);

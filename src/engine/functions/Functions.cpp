@@ -90,7 +90,7 @@ void callLike(sqlite3_context* context, int count, sqlite3_value** values) {
     sqlite3_result_int(context, like(text(0), text(1), count > 2 ? text(2) : std::string_view()) ? 1 : 0);
 }
 
-/// Gives what it is given: to the storage the result of a call is no constant.
+/// Returns its argument. The storage doesn't take the result of a call for a constant.
 void callLiteral(sqlite3_context* context, int /*count*/, sqlite3_value** values) {
     sqlite3_result_value(context, values[0]);
 }
@@ -107,7 +107,7 @@ void add(sqlite::Connection& connection, const char* name, std::size_t arguments
                                      [](void* owned) { delete static_cast<Registration*>(owned); }));
 }
 
-/// Without arguments as scalars: these two are called once a row and once a literal.
+/// For what is called once a row or once a literal: it reads the storage's values without making scalars of them.
 void addPlain(sqlite::Connection& connection, const char* name, int arguments, int flags,
               void (*function)(sqlite3_context*, int, sqlite3_value**)) {
     check(sqlite3_create_function_v2(connection.handle(), name, arguments, SQLITE_UTF8 | flags, nullptr, function,

@@ -122,8 +122,8 @@ Scalar dateAdd(FunctionContext& /*context*/, Arguments arguments) {
     return {};
 }
 
-/// How many borders of the part lie before a date: differences of these are what DATEDIFF counts.
-std::int64_t bordersBefore(const CalendarDate& date, Part part) {
+/// How many times the part has begun anew up to a date: DATEDIFF is the difference of two such numbers.
+std::int64_t beginningsUpTo(const CalendarDate& date, Part part) {
     const std::int64_t days = date.days();
     const std::int64_t seconds = ((days * 24 + date.hour) * 60 + date.minute) * 60 + date.second;
     switch (part) {
@@ -138,7 +138,7 @@ std::int64_t bordersBefore(const CalendarDate& date, Part part) {
     case Part::WeekDay:
         return days;
     case Part::Week:
-        return floorDivide(days + 1, kDaysOfWeek); // the first day counted from is a Monday, weeks begin on Sundays
+        return floorDivide(days + 1, kDaysOfWeek); // 1900-01-01 was a Monday, and weeks begin on Sundays
     case Part::Hour:
         return floorDivide(seconds, 3600);
     case Part::Minute:
@@ -153,8 +153,8 @@ std::int64_t bordersBefore(const CalendarDate& date, Part part) {
 
 Scalar dateDiff(FunctionContext& /*context*/, Arguments arguments) {
     const Part part = partOf(textAt(arguments, 0), "datediff");
-    const std::int64_t difference = bordersBefore(CalendarDate::stored(textAt(arguments, 2)), part) -
-                                    bordersBefore(CalendarDate::stored(textAt(arguments, 1)), part);
+    const std::int64_t difference = beginningsUpTo(CalendarDate::stored(textAt(arguments, 2)), part) -
+                                    beginningsUpTo(CalendarDate::stored(textAt(arguments, 1)), part);
     if (difference > std::numeric_limits<std::int32_t>::max() ||
         difference < std::numeric_limits<std::int32_t>::min()) {
         throw errors::dateDifferenceOverflow();
@@ -177,7 +177,7 @@ Scalar datePart(FunctionContext& /*context*/, Arguments arguments) {
     case Part::Day:
         return std::int64_t{date.day};
     case Part::Week:
-        return bordersBefore(date, part) - bordersBefore(newYear, part) + 1;
+        return beginningsUpTo(date, part) - beginningsUpTo(newYear, part) + 1;
     case Part::WeekDay:
         return date.days() + 1 - floorDivide(date.days() + 1, kDaysOfWeek) * kDaysOfWeek + 1;
     case Part::Hour:

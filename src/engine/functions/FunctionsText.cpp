@@ -26,7 +26,7 @@ std::vector<std::size_t> offsetsOf(std::string_view text) {
     return offsets;
 }
 
-/// Characters first to last - 1, whatever of them there is.
+/// The characters from `first` to `last` - 1, as far as the text has them.
 std::string slice(const std::string& text, std::int64_t first, std::int64_t last) {
     const auto offsets = offsetsOf(text);
     const auto size = static_cast<std::int64_t>(offsets.size()) - 1;

@@ -62,7 +62,7 @@ constexpr std::array kToggles{
     Toggle{"TORN_PAGE_DETECTION", "torn page detection"},
 };
 
-/// A setting of any other words, an option a line.
+/// A setting with values of its own; one that changes several options has a row for each.
 struct Choice {
     const char* setting;
     const char* value;

@@ -97,7 +97,7 @@ enum class Keyword : std::uint8_t {
     When,
     Where,
     With,
-    Reserved ///< may not name anything and stands in no statement
+    Reserved ///< any other reserved word: it names nothing, and no statement here has it
 };
 
 /// The keyword a word is, whatever its case; None for any other word.

@@ -54,7 +54,7 @@ AlterDatabase::Setting Grammar::databaseSetting() {
     return setting;
 }
 
-/// What becomes of the sessions that are in the way; none ever is.
+/// How sessions in the way would be ended. None ever is in the way, so this is read and ignored.
 void Grammar::termination() {
     if (consumeIfWord("NO_WAIT")) {
         return;
@@ -76,7 +76,7 @@ std::vector<DatabaseFile> Grammar::databaseFiles(bool log) {
     return files;
 }
 
-/// `(NAME = N'…', FILENAME = '…', SIZE = 2, FILEGROWTH = 10%)`; sizes are read and left to the storage.
+/// `(NAME = N'…', FILENAME = '…', SIZE = 2, FILEGROWTH = 10%)`; sizes are read and ignored.
 DatabaseFile Grammar::databaseFile(bool log) {
     constexpr std::array<std::string_view, 3> kSizes = {"SIZE", "MAXSIZE", "FILEGROWTH"};
     DatabaseFile file;

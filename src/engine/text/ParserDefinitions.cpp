@@ -111,7 +111,7 @@ void Grammar::clustering() {
     }
 }
 
-/// Where the server would lay the rows; one file holds all of them here.
+/// Where the server would put the rows. A database is one file here, so this is read and ignored.
 void Grammar::filegroup() {
     if (consumeIf(Keyword::On)) {
         expectName();
@@ -193,7 +193,7 @@ void Grammar::defaultOf(ColumnDefinition& column, std::string name) {
     column.defaultName = std::move(name);
 }
 
-/// One collation rules all texts; a script may say so and may not ask for another.
+/// All texts have one collation: a script may name it, any other is refused.
 void Grammar::collation() {
     const Token& token = now();
     const std::string name = expectName();
@@ -250,39 +250,6 @@ Grammar::Node Grammar::alter() {
     node.keys = std::move(elements.keys);
     refuseNull(node.added, node.keys, node.table.last());
     return node;
-}
-
-Grammar::Node Grammar::drop() {
-    Drop node;
-    expect(Keyword::Drop);
-    if (consumeIf(Keyword::Database)) {
-        node.kind = Drop::Kind::Database;
-    } else if (consumeIf(Keyword::Index)) {
-        node.kind = Drop::Kind::Index;
-    } else {
-        expect(Keyword::Table);
-        node.kind = Drop::Kind::Table;
-    }
-    node.ifExists = consumeIf(Keyword::If);
-    if (node.ifExists) {
-        expect(Keyword::Exists);
-    }
-    do {
-        Name dropped = name();
-        if (node.kind == Drop::Kind::Index && consumeIf(Keyword::On)) {
-            Name table = name();
-            table.pieces.push_back(dropped.last());
-            dropped = std::move(table);
-        }
-        node.names.push_back(std::move(dropped));
-    } while (consumeIf(","));
-    return node;
-}
-
-Grammar::Node Grammar::truncate() {
-    expect(Keyword::Truncate);
-    expect(Keyword::Table);
-    return Truncate{name()};
 }
 
 } // namespace engine

@@ -91,7 +91,7 @@ ExpressionPtr Grammar::condition() {
     return expression;
 }
 
-/// Operators of at least one precedence, by climbing: a chain is a loop, only brackets recurse.
+/// Operators of at least that precedence, by precedence climbing: a chain of them is a loop, only brackets recurse.
 ExpressionPtr Grammar::climb(int least) {
     const Measure measure(*this);
     auto left = operand(least);

@@ -163,7 +163,7 @@ TableSourcePtr Grammar::primarySource() {
         consume();
         source = tableSource();
         if (!std::holds_alternative<Join>(source->node)) {
-            refuse(); // brackets stand around joins alone
+            refuse(); // only a join may stand in brackets
         }
         expect(")");
     } else {

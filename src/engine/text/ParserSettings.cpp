@@ -80,7 +80,7 @@ std::string Grammar::optionValue() {
     return std::to_string(expectInteger());
 }
 
-/// BEGIN, COMMIT and ROLLBACK of a transaction, whose name is for the reader alone.
+/// BEGIN, COMMIT and ROLLBACK of a transaction, whose name has no effect.
 Grammar::Node Grammar::transaction(Transaction::Kind kind) {
     if (kind != Transaction::Kind::Begin) {
         consume();

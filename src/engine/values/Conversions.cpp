@@ -153,7 +153,7 @@ double toFloat(std::string_view text) {
     if (number.starts_with('+')) {
         number.remove_prefix(1);
     }
-    // No words such as "inf".
+    // from_chars would take words such as "inf" too.
     const bool plain = !doubleSign && number.find_first_not_of("0123456789.eE+-") == std::string_view::npos;
     double value = 0;
     const auto read = std::from_chars(number.data(), number.data() + number.size(), value);

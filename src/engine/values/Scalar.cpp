@@ -40,7 +40,7 @@ Scalar toBitValue(const Scalar& value) {
     return std::int64_t{numberOf(value) != 0.0};
 }
 
-/// Out of the range of a float it is infinite.
+/// Infinite outside the range of a float.
 double realOf(double number) {
     constexpr double kLargest = std::numeric_limits<float>::max();
     if (std::fabs(number) > kLargest) {

@@ -165,8 +165,9 @@ TEST_F(Functions, GiveTheServersValues) {
         {"case 2 when 1 then 'a' when 2 then 'b' end", "b"},
         {"case when null = null then 1 end", "NULL"},
     };
-    for (const Case& one : cases)
+    for (const Case& one : cases) {
         EXPECT_EQ(rows(std::string("select ") + one.expression), one.value) << one.expression;
+    }
 }
 
 TEST_F(Functions, ConditionsFollowTheDialect) {
@@ -187,9 +188,10 @@ TEST_F(Functions, ConditionsFollowTheDialect) {
         {"5 in (select 5)", "1"},
         {"1 = (select 1)", "1"},
     };
-    for (const Case& one : cases)
+    for (const Case& one : cases) {
         EXPECT_EQ(rows(std::string("select case when ") + one.expression + " then 1 else 0 end"), one.value)
             << one.expression;
+    }
 }
 
 TEST_F(Functions, RefusalsHaveTheServersWords) {

@@ -89,8 +89,9 @@ INSTANTIATE_TEST_SUITE_P(
 
 TEST(Lexer, AcceptsNamesOfTheGreatestLengthInCharacters) {
     std::string name;
-    for (int i = 0; i < 128; ++i)
+    for (int i = 0; i < 128; ++i) {
         name += "à";
+    }
     EXPECT_EQ(valueOf(tokenize("[" + name + "]")[0]), name);
     EXPECT_EQ(valueOf(tokenize(name)[0]), name);
 }
@@ -121,8 +122,9 @@ TEST(Keywords, AreFoundInAnyCaseAndNothingElseIs) {
     for (const char* word :
          {"",     "x",    "Version", "Description", "Type",   "Number",  "id",
           "Note", "Area", "name",    "filename",    "ultimo", "Via",     "Nome",
-          "Cab",  "log",  "cast",    "go",          "selec",  "selects", "a_word_that_is_longer_than_any_keyword"})
+          "Cab",  "log",  "cast",    "go",          "selec",  "selects", "a_word_that_is_longer_than_any_keyword"}) {
         EXPECT_EQ(keywordOf(word), Keyword::None) << word;
+    }
 }
 
 TEST(Shape, LeavesTheLiteralsOut) {

@@ -7,9 +7,6 @@
 
 namespace engine {
 
-/// False where the statement is none of these. Throws the errors of the one it is.
-bool define(ServerSession& session, const Statement& statement);
-
 void define(ServerSession& session, const CreateTable& create);    // 2714, 2705, 1779, 1911, 2744
 void define(ServerSession& session, const AlterTable& alter);      // 4902, 2705, 4901
 void define(ServerSession& session, const CreateIndex& create);    // 1088, 1911, 1913, 1505

@@ -41,6 +41,8 @@ struct Plan {
     /// Numbers whose digits give an expression its type: another run must have as many.
     std::vector<std::pair<int, DataType>> fixedDigits;
 
+    bool writes() const { return kind != Kind::Select; }
+
     explicit Plan(sqlite::Statement prepared) : statement(std::move(prepared)) {}
 };
 

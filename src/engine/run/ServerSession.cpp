@@ -3,6 +3,7 @@
 #include "engine/errors/BindErrors.h"
 #include "engine/errors/Error.h"
 #include "engine/run/BatchRun.h"
+#include "engine/run/StatementKinds.h"
 #include "engine/text/Lexer.h"
 #include "engine/text/Parser.h"
 #include "engine/values/Collation.h"
@@ -14,11 +15,6 @@ namespace engine {
 namespace {
 
 constexpr std::string_view kMaster = "master";
-
-bool mayBePlanned(const Statement& statement) {
-    return std::holds_alternative<Select>(statement.node) || std::holds_alternative<Insert>(statement.node) ||
-           std::holds_alternative<Update>(statement.node) || std::holds_alternative<Delete>(statement.node);
-}
 
 } // namespace
 
@@ -97,8 +93,10 @@ std::unique_ptr<Batch> ServerSession::begin(std::string_view text) {
         return std::make_unique<BatchRun>(*this, std::move(plan), std::move(shape));
     }
     BatchTree tree = parse(text);
-    const bool single = tree.statements.size() == 1 && mayBePlanned(*tree.statements.front());
-    return std::make_unique<BatchRun>(*this, std::move(tree), single ? std::optional(std::move(shape)) : std::nullopt);
+    const bool keepsPlan =
+        tree.statements.size() == 1 && kindOf(*tree.statements.front()).runBy == StatementKind::RunBy::Plan;
+    return std::make_unique<BatchRun>(*this, std::move(tree),
+                                      keepsPlan ? std::optional(std::move(shape)) : std::nullopt);
 }
 
 void ServerSession::beginTransaction() {

@@ -23,13 +23,13 @@ bool checkAll(ServerSession& session, const std::vector<StatementPtr>& statement
         return std::visit(
             [&](const auto& node) {
                 using Names = StatementKind::Names;
-                constexpr Names names = kKindOf<decltype(node)>.names;
-                if constexpr (names == Names::Checked) {
+                constexpr Names kNames = kKindOf<decltype(node)>.names;
+                if constexpr (kNames == Names::Checked) {
                     checkNames(session, *statement);
-                } else if constexpr (names == Names::OfItsStatements) {
+                } else if constexpr (kNames == Names::OfItsStatements) {
                     return checkAll(session, node.statements);
                 }
-                return names != Names::EndCheck;
+                return kNames != Names::EndCheck;
             },
             statement->node);
     });
@@ -100,11 +100,11 @@ bool BatchRun::runNext() {
         pending_.pop_back();
         std::visit(
             [&](const auto& node) {
-                constexpr StatementKind kind = kKindOf<decltype(node)>;
-                if constexpr (kind.runBy == StatementKind::RunBy::Batch) {
+                constexpr StatementKind kKind = kKindOf<decltype(node)>;
+                if constexpr (kKind.runBy == StatementKind::RunBy::Batch) {
                     enter(node);
                 } else {
-                    begin(kind.writes);
+                    begin(kKind.writes);
                     show(runStatement(*session_, statement, shape_, messages_));
                     shown = true;
                 }

@@ -147,7 +147,7 @@ bool isOn(const std::string& value) {
 }
 
 std::optional<Listing> databaseOption(ServerSession& session, const Execute& call, Messages& /*messages*/) {
-    if (session.instance().version() >= Instance::firstVersionWithoutDatabaseOptions) {
+    if (session.instance().version() >= Instance::kFirstVersionWithoutDatabaseOptions) {
         throw errors::procedureMissing(joined(call.procedure));
     }
     const Values values(call, {"@dbname", "@optname", "@optvalue"});

@@ -49,19 +49,19 @@ Outcome runStatement(ServerSession& session, const Statement& statement, const s
     Outcome outcome;
     std::visit(
         [&](const auto& node) {
-            constexpr RunBy by = kKindOf<decltype(node)>.runBy;
-            if constexpr (by == RunBy::Plan) {
+            constexpr RunBy kBy = kKindOf<decltype(node)>.runBy;
+            if constexpr (kBy == RunBy::Plan) {
                 outcome = runByPlan(session, statement, shape);
-            } else if constexpr (by == RunBy::Definition) {
+            } else if constexpr (kBy == RunBy::Definition) {
                 define(session, node);
-            } else if constexpr (by == RunBy::Procedure) {
+            } else if constexpr (kBy == RunBy::Procedure) {
                 if (auto listing = callProcedure(session, node, messages)) {
                     outcome.rows = std::make_unique<ListedRows>(std::move(*listing));
                 }
-            } else if constexpr (by == RunBy::Message) {
+            } else if constexpr (kBy == RunBy::Message) {
                 messages.push_back(messageOf(session, node));
             } else {
-                static_assert(by == RunBy::Batch);
+                static_assert(kBy == RunBy::Batch);
                 throw InternalError("control flow is run by its batch");
             }
         },

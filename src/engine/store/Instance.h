@@ -59,9 +59,9 @@ public:
     /// The first number of the version that the server plays. It is kept with the instance, whoever serves it.
     virtual int version() const = 0;
     virtual void setVersion(int version) = 0;
-    static constexpr int standardVersion = 8;
+    static constexpr int kStandardVersion = 8;
     /// From here on there is no sp_dboption any more.
-    static constexpr int firstVersionWithoutDatabaseOptions = 11;
+    static constexpr int kFirstVersionWithoutDatabaseOptions = 11;
 
     /// Options of one database, as sp_dboption sets them; see DatabaseOptions.h. Throws 15010 for an unknown database,
     /// 15011 and 15242 for an option.

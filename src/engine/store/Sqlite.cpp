@@ -12,8 +12,8 @@
 namespace engine::sqlite {
 namespace {
 
-constexpr std::chrono::milliseconds busyTimeout{10'000};
-constexpr std::chrono::milliseconds walRetryPause{5};
+constexpr std::chrono::milliseconds kBusyTimeout{10'000};
+constexpr std::chrono::milliseconds kWalRetryPause{5};
 
 /// What the system said when one of the files was last refused, 0 for nothing.
 int refusalOf(sqlite3_file* file) {
@@ -80,7 +80,7 @@ bool wasEmptied(const std::filesystem::path& file) {
 /// The change to the write-ahead log needs the file for itself for an instant, and the busy timeout doesn't cover it
 /// when two processes make the same database.
 void useWriteAheadLog(sqlite3* handle) {
-    const auto end = std::chrono::steady_clock::now() + busyTimeout;
+    const auto end = std::chrono::steady_clock::now() + kBusyTimeout;
     while (true) {
         const int code = sqlite3_exec(handle, "PRAGMA journal_mode=WAL", nullptr, nullptr, nullptr);
         if (code == SQLITE_OK) {
@@ -89,13 +89,13 @@ void useWriteAheadLog(sqlite3* handle) {
         if ((code & 0xff) != SQLITE_BUSY || std::chrono::steady_clock::now() >= end) {
             fail(handle);
         }
-        sqlite3_sleep(static_cast<int>(walRetryPause.count()));
+        sqlite3_sleep(static_cast<int>(kWalRetryPause.count()));
     }
 }
 
 void configure(sqlite3* handle) {
     check(handle, sqlite3_extended_result_codes(handle, 1));
-    check(handle, sqlite3_busy_timeout(handle, static_cast<int>(busyTimeout.count())));
+    check(handle, sqlite3_busy_timeout(handle, static_cast<int>(kBusyTimeout.count())));
     check(handle, sqlite3_create_collation_v2(handle, "TSQL", SQLITE_UTF8, nullptr, collate, nullptr));
     // A name in double quotes that isn't known must be refused, not read as a text.
     check(handle, sqlite3_db_config(handle, SQLITE_DBCONFIG_DQS_DML, 0, nullptr));

@@ -7,9 +7,10 @@ namespace {
 /// The rows that an UPDATE with sources writes: the target among them, joined to all others.
 void writeSources(Text& text, const bound::Update& update) {
     text += " FROM ";
-    if (update.targetInFrom < 0)
+    if (update.targetInFrom < 0) {
         text +=
             stored::qualifiedTable(update.table.schema, update.table.info->name) + " AS " + alias(update.table.number);
+    }
     bool first = update.targetInFrom >= 0;
     for (const bound::SourcePtr& source : update.from) {
         text += first ? "" : " CROSS JOIN ";
@@ -46,8 +47,9 @@ Text updateFrom(const bound::Update& update) {
 } // namespace
 
 Text update(const bound::Update& update) {
-    if (!update.from.empty())
+    if (!update.from.empty()) {
         return updateFrom(update);
+    }
     Text text("UPDATE " + stored::qualifiedTable(update.table.schema, update.table.info->name) + " AS " +
               alias(update.table.number) + " SET ");
     bool first = true;

@@ -29,8 +29,9 @@ protected:
         std::set<std::int64_t> reported;
         const auto take = [&] {
             const std::optional<std::string> line = writer.readLine();
-            if (line)
+            if (line) {
                 reported.insert(std::stoll(*line));
+            }
             return line.has_value();
         };
         for (int i = 0; i < before && take(); ++i) {
@@ -45,8 +46,9 @@ protected:
         std::set<std::int64_t> found;
         const auto batch = session->execute("select id from t");
         batch->nextResult();
-        while (batch->nextRow())
+        while (batch->nextRow()) {
             found.insert(batch->integer(0));
+        }
         return found;
     }
 

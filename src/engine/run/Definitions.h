@@ -25,10 +25,8 @@ template<class Change>
 void changeSchema(ServerSession& session, const TableInfo* table, const Change& change) {
     Database& database = session.current();
     try {
-        WriteTransaction transaction(database);
-        sqlite::Transaction whole(database.connection());
+        sqlite::Transaction transaction(database.connection());
         change();
-        whole.commit();
         transaction.commit();
     } catch (const sqlite::Failure& failure) {
         database.refresh();

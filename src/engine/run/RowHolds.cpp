@@ -78,7 +78,7 @@ std::unique_ptr<RowHold> ServerSession::holdRows(const Select& select) {
     auto hold = std::make_unique<HeldRows>(current_, table.info->name);
     try {
         // Under the write lock no other session is between finding the rows and taking them.
-        WriteTransaction transaction(*current_);
+        sqlite::Transaction transaction(current_->connection());
         const translate::Text text = translate::rowsOf(bound);
         sqlite::Statement rows(current_->connection(), text.sql());
         bindLiterals(rows, text.parameters(binder.parameters()), {nullptr, dayFirst});

@@ -105,7 +105,7 @@ void ServerSession::beginTransaction() {
 
 void ServerSession::takeBack(Database& database) {
     joined_.erase(&database);
-    database.rollback();
+    database.connection().rollback();
     database.catalog().settleIdentities();
     database.refresh();
 }
@@ -131,7 +131,7 @@ void ServerSession::prepareFor(Database& database, bool writes) {
     firstWrite_ = nullptr;
     if (writes && transactions_ > 0 && !database.connection().inTransaction()) {
         try {
-            database.begin();
+            database.connection().begin();
             firstWrite_ = &database;
             joined_.insert(&database);
         } catch (const sqlite::Failure& failure) {
@@ -153,7 +153,7 @@ void ServerSession::commitTransaction() {
     for (const auto& [key, database] : databases_) {
         try {
             if (database->connection().inTransaction()) {
-                database->commit();
+                database->connection().commit();
             }
         } catch (const sqlite::Failure& failure) {
             rollbackTransaction();

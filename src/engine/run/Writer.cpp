@@ -44,16 +44,15 @@ public:
 
 private:
     std::int64_t inTransaction() {
-        WriteTransaction transaction(database_);
-        std::optional<sqlite::Transaction> several; // an INSERT of many statements inside of the user's transaction
-        if (plan_.source) {
-            several.emplace(database_.connection());
+        std::optional<sqlite::Transaction> transaction;
+        // Inside of the user's transaction a single statement of the storage's needs none of its own.
+        if (plan_.source || !database_.connection().inTransaction()) {
+            transaction.emplace(database_.connection());
         }
         const std::int64_t rows = plan_.kind == Plan::Kind::Insert ? insert() : change();
-        if (several) {
-            several->commit();
+        if (transaction) {
+            transaction->commit();
         }
-        transaction.commit();
         return rows;
     }
 

@@ -127,6 +127,9 @@ Connection::Connection(const std::filesystem::path& file, bool create) {
 }
 
 Connection::~Connection() {
+    begin_.reset();
+    lock_.reset();
+    commit_.reset();
     sqlite3_close_v2(handle_);
 }
 
@@ -144,6 +147,40 @@ std::int64_t Connection::changes() const {
 
 std::int64_t Connection::lastRow() const {
     return sqlite3_last_insert_rowid(handle_);
+}
+
+void Connection::begin() {
+    if (!begin_) {
+        begin_ = std::make_unique<Statement>(*this, lock_ ? "BEGIN" : "BEGIN IMMEDIATE");
+    }
+    begin_->run();
+    if (!lock_) {
+        return;
+    }
+    try {
+        lock_->run();
+    } catch (...) {
+        rollback();
+        throw;
+    }
+}
+
+void Connection::commit() {
+    if (!commit_) {
+        commit_ = std::make_unique<Statement>(*this, "COMMIT");
+    }
+    commit_->run();
+}
+
+void Connection::rollback() noexcept {
+    if (inTransaction()) {
+        sqlite3_exec(handle_, "ROLLBACK", nullptr, nullptr, nullptr);
+    }
+}
+
+void Connection::lockBy(std::string_view text) {
+    lock_ = std::make_unique<Statement>(*this, text);
+    begin_.reset();
 }
 
 Statement::Statement(Connection& connection, std::string_view text) {
@@ -202,6 +239,11 @@ void Statement::reset() {
     sqlite3_reset(handle_);
 }
 
+void Statement::run() {
+    step();
+    reset();
+}
+
 int Statement::columns() const {
     return sqlite3_column_count(handle_);
 }
@@ -227,20 +269,30 @@ std::string_view Statement::text(int column) const {
 }
 
 Transaction::Transaction(Connection& connection) : connection_(connection), nested_(connection.inTransaction()) {
-    connection_.run(nested_ ? "SAVEPOINT nested" : "BEGIN IMMEDIATE");
+    if (nested_) {
+        connection_.run("SAVEPOINT nested");
+    } else {
+        connection_.begin();
+    }
 }
 
 Transaction::~Transaction() {
-    // A full disk and the like may have ended the transaction already.
-    if (!open_ || !connection_.inTransaction()) {
+    if (!open_) {
         return;
     }
-    const char* text = nested_ ? "ROLLBACK TO nested; RELEASE nested" : "ROLLBACK";
-    sqlite3_exec(connection_.handle(), text, nullptr, nullptr, nullptr);
+    if (!nested_) {
+        connection_.rollback();
+    } else if (connection_.inTransaction()) {
+        sqlite3_exec(connection_.handle(), "ROLLBACK TO nested; RELEASE nested", nullptr, nullptr, nullptr);
+    }
 }
 
 void Transaction::commit() {
-    connection_.run(nested_ ? "RELEASE nested" : "COMMIT");
+    if (nested_) {
+        connection_.run("RELEASE nested");
+    } else {
+        connection_.commit();
+    }
     open_ = false;
 }
 

@@ -24,6 +24,8 @@ private:
     int code_;
 };
 
+class Statement;
+
 class Connection {
 public:
     /// Opens a file with WAL, synchronous=FULL and a busy timeout; `create` makes a missing file (owner only).
@@ -39,8 +41,18 @@ public:
     std::int64_t changes() const;
     std::int64_t lastRow() const;
 
+    /// A transaction that writes; its lock is taken at once. Transaction below ends it whatever happens.
+    void begin();
+    void commit();
+    /// Never throws: a full disk and the like may have ended the transaction already.
+    void rollback() noexcept;
+    /// A statement that writes nothing in `main`, by which `begin` locks this database alone: BEGIN IMMEDIATE locks the
+    /// attached ones too, which another transaction of the same session may be writing.
+    void lockBy(std::string_view text);
+
 private:
     sqlite3* handle_ = nullptr;
+    std::unique_ptr<Statement> begin_, lock_, commit_; ///< prepared when first needed
 };
 
 class Statement {
@@ -58,6 +70,8 @@ public:
     /// True while there is a row.
     bool step();
     void reset();
+    /// To its end, for a text without rows.
+    void run();
 
     int columns() const;
     bool isNull(int column) const;
@@ -69,11 +83,13 @@ private:
     sqlite3_stmt* handle_ = nullptr;
 };
 
-/// BEGIN IMMEDIATE now, ROLLBACK at the end unless committed. Nested use is a savepoint.
+/// Begins now, rolls back at the end unless committed. Inside of another transaction it is a savepoint.
 class Transaction {
 public:
     explicit Transaction(Connection& connection);
     ~Transaction();
+    Transaction(const Transaction&) = delete;
+    Transaction& operator=(const Transaction&) = delete;
     void commit();
 
 private:

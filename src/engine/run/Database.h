@@ -1,6 +1,6 @@
 #pragma once
 
-// One database as one session uses it: its connection with all that hangs on it.
+// One database as one session uses it: its connection and what belongs to it.
 
 #include "engine/functions/Functions.h"
 #include "engine/run/StatementCache.h"
@@ -26,9 +26,9 @@ public:
     /// Before each statement: forgets the plans that a change of the schema made wrong.
     void refresh();
 
-    /// What the server says of a failure of the storage: the refusal of a function, or the error that the code stands
-    /// for. `table` is the one being written, with `verb` INSERT or UPDATE; nullptr for none.
-    /// Throws InternalError for what no statement of a user may cause.
+    /// Throws the server's error for a failure of the storage: the refusal of a function, or the error that the code
+    /// stands for. `table` is the one being written, with `verb` INSERT or UPDATE; nullptr for none.
+    /// Throws InternalError for what no user's statement may cause.
     [[noreturn]] void raise(const sqlite::Failure& failure, const TableInfo* table, const char* verb);
 
 private:

@@ -27,7 +27,7 @@ struct Plan {
     bool givesIdentity = false;              ///< the statement itself, under IDENTITY_INSERT
     std::optional<sqlite::Statement> source; ///< the SELECT of INSERT … SELECT
     std::vector<bound::Parameter> sourceParameters;
-    /// Finds the rows to be written, prepared when a hold of another session makes it needed.
+    /// Finds the rows to be written; prepared where another session holds rows.
     std::string rowsText;
     std::optional<sqlite::Statement> rows;
     std::vector<bound::Parameter> rowsParameters;

@@ -63,7 +63,7 @@ std::shared_ptr<Database> ServerSession::open(std::string_view name) {
     try {
         database = std::make_shared<Database>(*entry);
     } catch (const sqlite::Failure&) {
-        return nullptr; // registered, but its file can't be opened
+        return nullptr; // it is registered, but its file can't be opened
     }
     database->functions().fact = [this](std::string_view what, const Scalar& argument) { return fact(what, argument); };
     databases_.emplace(key, database);

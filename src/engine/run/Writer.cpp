@@ -102,7 +102,7 @@ private:
 
     std::int64_t change() {
         bindLiterals(plan_.statement, plan_.parameters, bindings_);
-        // Asked under the write lock, so that no hold can come in between.
+        // Asked under the write lock, so that no session can take a hold between the question and the write.
         if (database_.locks().anyHeldByOthers()) {
             if (!plan_.rows) {
                 plan_.rows.emplace(database_.connection(), plan_.rowsText);
@@ -144,7 +144,7 @@ private:
         }
     }
 
-    /// A failed insert has used its identity values up all the same.
+    /// The identity values of a failed insert aren't given again.
     void settle() {
         if (gave_) {
             database_.catalog().settleIdentities();

@@ -36,7 +36,7 @@ Range rangeOf(const DataType& type) {
     }
 }
 
-/// Whichever lies further on in the direction of the identity.
+/// The later one of two values in the direction that the identity counts.
 std::int64_t further(const ColumnInfo& identity, std::int64_t left, std::int64_t right) {
     return identity.increment < 0 ? std::min(left, right) : std::max(left, right);
 }

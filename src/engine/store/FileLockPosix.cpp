@@ -15,7 +15,7 @@ constexpr mode_t kOwnerOnly = 0600;
     throw std::filesystem::filesystem_error(what, file, std::error_code(errno, std::generic_category()));
 }
 
-/// Locks of the open file, not of the process: closing another descriptor of the file doesn't lose them.
+/// Locks that belong to the open file, not to the process: closing another descriptor of the file keeps them.
 struct flock request(short type, std::uint64_t place, std::uint64_t length) {
     struct flock lock {};
     lock.l_type = type;

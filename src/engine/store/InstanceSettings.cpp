@@ -10,7 +10,7 @@ namespace engine {
 
 namespace {
 
-constexpr std::string_view kVersionOption = "server version"; ///< none that a statement can reach
+constexpr std::string_view kVersionOption = "server version"; ///< sp_configure knows none of this name
 
 } // namespace
 

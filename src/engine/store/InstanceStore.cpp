@@ -54,7 +54,8 @@ Error databaseInUse(const std::string& name) {
     return {3702, "Cannot drop database \"" + name + "\" because it is currently in use."};
 }
 
-/// What of a database's files is there: the file itself for "", its log for "-wal", the log's index for "-shm".
+/// Removes files of a database where they exist: the file itself for "", its log for "-wal", the log's index for
+/// "-shm".
 void removeParts(const std::filesystem::path& database, std::initializer_list<const char*> endings) {
     for (const char* ending : endings) {
         std::filesystem::path part = database;
@@ -162,7 +163,7 @@ std::optional<DatabaseEntry> InstanceStore::find(std::string_view name) const {
     return entryOf(row);
 }
 
-/// The server names the folder's file in the error, as the statement wrote it.
+/// The error names the file as the statement wrote it.
 void InstanceStore::checkFolder(const std::string& serverPath) const {
     if (serverPath.find_first_of(kSeparators) == std::string::npos) {
         return;
@@ -180,7 +181,7 @@ InstanceStore::Place InstanceStore::placeOf(const std::string& name, const std::
     return {file, "", mapPath(file)};
 }
 
-/// An empty file that no database owns is what a process leaves that dies before it has registered its database.
+/// An empty file without a database is free: a process left it that died before it had registered its database.
 bool InstanceStore::isTaken(const std::filesystem::path& file) const {
     if (std::filesystem::exists(file) && !std::filesystem::is_empty(file)) {
         return true;
@@ -217,7 +218,7 @@ DatabaseEntry InstanceStore::createDatabase(const std::string& name, const std::
     if (isTaken(place.file)) {
         throw fileExists(fileName.empty() ? place.localName : fileName);
     }
-    removeParts(place.file, {"-wal", "-shm"}); // a kill amid a drop leaves them
+    removeParts(place.file, {"-wal", "-shm"}); // left where a process was killed while it dropped a database
     makeEmptyFile(place.file);
 
     sqlite::Statement freeId(registry_,

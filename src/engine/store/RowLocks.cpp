@@ -9,7 +9,7 @@
 namespace engine {
 namespace {
 
-/// The last byte says that a session uses the database; all others stand for rows.
+/// A lock on the last byte says that a session uses the database; all other bytes stand for rows.
 constexpr std::uint64_t kPresencePlace = FileLock::kEnd - 1;
 
 std::filesystem::path lockFile(const std::filesystem::path& database) {

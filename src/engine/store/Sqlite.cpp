@@ -15,7 +15,7 @@ namespace {
 constexpr std::chrono::milliseconds kBusyTimeout{10'000};
 constexpr std::chrono::milliseconds kWalRetryPause{5};
 
-/// What the system said when one of the files was last refused, 0 for nothing.
+/// The system's number of the last error of a file, 0 where it had none.
 int refusalOf(sqlite3_file* file) {
     int number = 0;
     if (file != nullptr && file->pMethods != nullptr) {
@@ -32,7 +32,7 @@ bool isTooLarge(sqlite3* handle) {
     return refusalOf(file) == EFBIG || refusalOf(log) == EFBIG;
 }
 
-/// The storage knows a full disk by itself; a file that has reached its largest size is one as well.
+/// SQLite reports a full disk by itself. A file at the limit of its size counts as a full disk too.
 Failure failureOf(sqlite3* handle) {
     const int code = sqlite3_extended_errcode(handle);
     const std::string text = sqlite3_errmsg(handle);
@@ -66,8 +66,8 @@ void makeFileOfOwner(const std::filesystem::path& file) {
     }
 }
 
-/// A database in use has its log beside it and is never empty. The change to the write-ahead log would wait in vain for
-/// those who use what was there before.
+/// A database in use is never empty, so an empty file with a log beside it was emptied by somebody else. Turning the
+/// write-ahead log on would wait in vain for the sessions that still use the old file.
 bool wasEmptied(const std::filesystem::path& file) {
     std::error_code missing;
     const auto beside = [&](const char* ending) {
@@ -77,8 +77,8 @@ bool wasEmptied(const std::filesystem::path& file) {
     return std::filesystem::file_size(file, missing) == 0 && (beside("-wal") || beside("-shm"));
 }
 
-/// The change to the write-ahead log needs the file for itself for an instant, and the busy timeout doesn't cover it
-/// when two processes make the same database.
+/// Turning the write-ahead log on needs an exclusive lock for a moment, and the busy timeout doesn't cover it when two
+/// processes make the same database.
 void useWriteAheadLog(sqlite3* handle) {
     const auto end = std::chrono::steady_clock::now() + kBusyTimeout;
     while (true) {

@@ -1,6 +1,6 @@
 #pragma once
 
-// The one door to SQLite: a connection and a statement that own their handles and answer in exceptions.
+// Connections, statements and transactions of SQLite. They own their handles and throw Failure.
 
 #include <cstdint>
 #include <filesystem>
@@ -14,7 +14,7 @@ struct sqlite3_stmt;
 
 namespace engine::sqlite {
 
-/// An error of the storage itself. `code` is the extended result code. Translated to the server's numbers above.
+/// An error of SQLite. `code` is the extended result code; StorageErrors.h gives the server's error for it.
 class Failure : public std::runtime_error {
 public:
     Failure(int code, const std::string& text) : std::runtime_error(text), code_(code) {}

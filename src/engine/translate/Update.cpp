@@ -24,8 +24,7 @@ std::string targetAlias(const bound::Update& update) {
     return alias(update.targetInFrom < 0 ? update.table.number : update.targetInFrom);
 }
 
-/// Target and sources are walked by a SELECT of their own, for the storage can't name the row numbers of several
-/// sources in an UPDATE.
+/// A SELECT reads target and sources, because SQLite's UPDATE can't name the row numbers of several sources.
 Text updateFrom(const bound::Update& update) {
     Text text("UPDATE " + stored::qualifiedTable(update.table.schema, update.table.info->name) + " AS target SET ");
     for (std::size_t i = 0; i < update.assignments.size(); ++i) {

@@ -83,7 +83,7 @@ TEST_F(Killing, AWriterLosesNoStatementThatReturnedAndLeavesNoHalfTransaction) {
     EXPECT_GT(reported.size(), static_cast<std::size_t>(kKills)) << "the writers hardly wrote";
 }
 
-/// The index of the storage's log is mapped memory: shortening its file may end whoever uses it, and no more.
+/// SQLite maps the index of its log: shortening that file may end a process that uses it, but no row is lost.
 TEST_F(Killing, AnEmptiedIndexOfTheLogLosesNoStatementThatReturned) {
     session.reset(); // this process must not have it mapped
     support::HelperProcess writer("engine_session_helper", {instance->folder().string(), "prova"});

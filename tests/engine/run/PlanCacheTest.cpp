@@ -37,7 +37,7 @@ protected:
             " '19991231')");
     }
 
-    /// The answer and the table after it; nothing stays of it.
+    /// The answer and the table after it; all is rolled back.
     std::string effect(Session& on, const std::string& text) {
         told(on, "begin transaction");
         std::string result = told(on, text);

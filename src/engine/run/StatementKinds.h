@@ -10,6 +10,8 @@
 
 namespace engine {
 
+class ServerSession;
+
 struct StatementKind {
     /// Whether it writes the current database and so joins the open transaction.
     bool writes;
@@ -24,7 +26,7 @@ struct StatementKind {
 
     enum class RunBy {
         Plan,       ///< bound, translated and prepared by the Planner; a batch of one such statement keeps its plan
-        Definition, ///< `define` of Definitions.h
+        Definition, ///< `define` below; gives no result
         Procedure,  ///< `callProcedure` of Procedures.h
         Message,    ///< its text goes to the client
         Batch       ///< decides which statements come next: `enter` of BatchRun
@@ -86,5 +88,18 @@ inline constexpr StatementKind kKindOf = std::get<KindOf<std::remove_cvref_t<Nod
 inline StatementKind kindOf(const Statement& statement) {
     return std::visit([](const auto& node) { return kKindOf<decltype(node)>; }, statement.node);
 }
+
+// Each in the source of its matter, Define….cpp.
+void define(ServerSession& session, const CreateTable& create);    // 2714, 2705, 1779, 1911, 2744
+void define(ServerSession& session, const AlterTable& alter);      // 4902, 2705, 4901
+void define(ServerSession& session, const CreateIndex& create);    // 1088, 1911, 1913, 1505
+void define(ServerSession& session, const Drop& drop);             // 3701, 1222
+void define(ServerSession& session, const Truncate& truncate);     // 4701, 1222
+void define(ServerSession& session, const CreateDatabase& create); // 1801, 5133
+void define(ServerSession& session, const AlterDatabase& alter);   // 5011
+void define(ServerSession& session, const Use& use);               // 911
+void define(ServerSession& session, const SetOption& option);      // 1088, 8107, 2743
+void define(ServerSession& session, const Reconfigure& reconfigure);
+void define(ServerSession& session, const Transaction& transaction); // 3902, 3903
 
 } // namespace engine

@@ -1,6 +1,5 @@
 #include "engine/run/StatementRun.h"
 
-#include "engine/run/Definitions.h"
 #include "engine/run/Planner.h"
 #include "engine/run/Procedures.h"
 #include "engine/run/StatementKinds.h"

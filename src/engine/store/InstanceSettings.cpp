@@ -10,7 +10,7 @@ namespace engine {
 
 namespace {
 
-constexpr std::string_view kVersionOption = "server version"; ///< sp_configure knows none of this name
+constexpr std::string_view kVersionOption = "server version"; ///< sp_configure has no option of this name
 
 } // namespace
 

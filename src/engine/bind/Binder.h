@@ -1,6 +1,7 @@
 #pragma once
 
 #include "engine/bind/BoundTree.h"
+#include "engine/functions/Functions.h"
 
 #include <string>
 #include <string_view>
@@ -112,7 +113,7 @@ private:
     // BinderCalls.cpp
     bound::ExpressionPtr aggregate(const Call& call, const std::string& name);
     bound::ExpressionPtr builtIn(const Call& call);
-    bound::ExpressionPtr argument(const Call& call, std::size_t place, char kind);
+    bound::ExpressionPtr argument(const Call& call, std::size_t place, FunctionParameter::Kind kind);
 
     // BinderConversions.cpp
     bound::ExpressionPtr convertTo(bound::ExpressionPtr value, const DataType& type, Purpose purpose,

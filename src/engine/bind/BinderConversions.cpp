@@ -1,5 +1,6 @@
 #include "engine/bind/Binder.h"
 #include "engine/bind/BoundMakers.h"
+#include "engine/functions/Operators.h"
 
 #include <algorithm>
 
@@ -8,8 +9,6 @@ namespace engine {
 namespace {
 
 using Kind = DataType::Kind;
-
-constexpr int kWidestDecimal = 38;
 
 int rank(Kind kind) {
     switch (kind) {
@@ -97,7 +96,7 @@ bound::ExpressionPtr Binder::convertTo(bound::ExpressionPtr value, const DataTyp
     const DataType from = value->type;
     const bool nullable = value->nullable;
     auto result =
-        bound::call("tsql_convert", type, std::move(value), number(encodeType(from)), number(encodeType(type)),
+        bound::call(operators::kConvert, type, std::move(value), number(encodeType(from)), number(encodeType(type)),
                     number(style.value_or(-1)), number(purpose == Purpose::Assignment ? 1 : 0));
     result->nullable = nullable;
     return result;

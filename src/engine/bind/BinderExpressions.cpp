@@ -1,6 +1,8 @@
 #include "engine/bind/Binder.h"
 #include "engine/bind/BoundMakers.h"
 #include "engine/errors/BindErrors.h"
+#include "engine/errors/TextErrors.h"
+#include "engine/functions/Operators.h"
 
 namespace engine {
 
@@ -166,7 +168,7 @@ bound::ExpressionPtr Binder::negated(bound::ExpressionPtr operand) {
         return result;
     }
     // Minus the smallest integer of a type is outside of the type.
-    result = bound::call("tsql_bigint", DataType{Kind::BigInt}, std::move(result));
+    result = bound::call(operators::kBigInt, DataType{Kind::BigInt}, std::move(result));
     return convertTo(std::move(result), type, Purpose::Cast);
 }
 
@@ -247,19 +249,19 @@ bound::ExpressionPtr Binder::arithmetic(Binary::Operator op, bound::ExpressionPt
     bound::ExpressionPtr result;
     const DataType wide{common.isInteger() ? Kind::BigInt : Kind::Float};
     if (op == Binary::Operator::Divide) {
-        result = bound::call("tsql_divide", wide, std::move(left), std::move(right),
+        result = bound::call(operators::kDivide, wide, std::move(left), std::move(right),
                              bound::constant(common.isInteger() ? "1" : "0", DataType{Kind::Int}));
     } else if (op == Binary::Operator::Modulo) {
-        result = bound::call("tsql_modulo", wide, std::move(left), std::move(right));
+        result = bound::call(operators::kModulo, wide, std::move(left), std::move(right));
     } else {
         result = bound::infix(operatorText(op), std::move(left), std::move(right), wide);
     }
     if (common.kind == Kind::Float) {
-        return bound::call("tsql_float", common, std::move(result));
+        return bound::call(operators::kFloat, common, std::move(result));
     }
     if (common.kind == Kind::BigInt) {
         result->type = DataType{Kind::Unknown};
-        return bound::call("tsql_bigint", common, std::move(result));
+        return bound::call(operators::kBigInt, common, std::move(result));
     }
     return convertTo(std::move(result), decimal ? decimalResult(op, leftType, rightType) : common, Purpose::Cast);
 }
@@ -272,9 +274,10 @@ bound::ExpressionPtr Binder::node(const Like& like) {
     };
     auto operand = asText(*like.operand);
     auto pattern = asText(*like.pattern);
-    auto result = like.escape ? bound::call("tsql_like", DataType{Kind::Bit}, std::move(operand), std::move(pattern),
-                                            asText(*like.escape))
-                              : bound::call("tsql_like", DataType{Kind::Bit}, std::move(operand), std::move(pattern));
+    auto result = like.escape
+                      ? bound::call(operators::kLike, DataType{Kind::Bit}, std::move(operand), std::move(pattern),
+                                    asText(*like.escape))
+                      : bound::call(operators::kLike, DataType{Kind::Bit}, std::move(operand), std::move(pattern));
     return negatedIf(like.negated, std::move(result));
 }
 

@@ -1,5 +1,5 @@
 #include "engine/bind/Binder.h"
-#include "engine/errors/BindErrors.h"
+#include "engine/errors/DefinitionErrors.h"
 #include "engine/run/Definitions.h"
 #include "engine/run/SessionTables.h"
 #include "engine/store/StorageErrors.h"
@@ -123,7 +123,7 @@ void makeUnique(ServerSession& session, const std::string& table, const std::str
 
 void addKey(ServerSession& session, const TableInfo& table, const KeyInfo& key) {
     if (!storedIndex(session.current(), table, key.name).empty()) {
-        throw errors::indexExists(table.name, key.name);
+        throw errors::indexExists(key.name, table.name);
     }
     makeUnique(session, table.name, key.name, translate::createKey(table, key));
     session.current().catalog().addKey(table.name, key);
@@ -198,7 +198,7 @@ void define(ServerSession& session, const CreateTable& create) {
 void define(ServerSession& session, const AlterTable& alter) {
     const TableInfo* found = definedTable(session, alter.table);
     if (found == nullptr) {
-        throw errors::missingTable(alter.table.last());
+        throw errors::missingTableToAlter(alter.table.last());
     }
     const TableInfo before = *found;
     changeSchema(session, &before, [&] {
@@ -216,13 +216,12 @@ void define(ServerSession& session, const AlterTable& alter) {
 void define(ServerSession& session, const CreateIndex& create) {
     const TableInfo* table = definedTable(session, create.table);
     if (table == nullptr) {
-        throw Error(1088, "Cannot find the object \"" + create.table.last() +
-                              "\" because it does not exist or you do not have permissions.");
+        throw errors::missingTableToChange(create.table.last());
     }
     Database& database = session.current();
     const std::string name = stored::indexName(table->name, create.name);
     if (!storedIndex(database, *table, create.name).empty()) {
-        throw errors::indexExists(table->name, create.name);
+        throw errors::indexExists(create.name, table->name);
     }
     std::string text = std::string(create.unique ? "CREATE UNIQUE INDEX " : "CREATE INDEX ") + stored::quoted(name) +
                        " ON " + stored::quoted(stored::tableName(table->name)) + " (";

@@ -1,6 +1,5 @@
 #include "engine/run/Definitions.h"
 
-#include "engine/errors/BindErrors.h"
 #include "engine/store/StoredNames.h"
 #include "engine/values/Collation.h"
 

@@ -1,7 +1,7 @@
 #include "engine/run/Planner.h"
 
 #include "engine/bind/BoundMakers.h"
-#include "engine/errors/BindErrors.h"
+#include "engine/errors/Error.h"
 #include "engine/run/SessionTables.h"
 #include "engine/run/StatementKinds.h"
 #include "engine/translate/SqlText.h"

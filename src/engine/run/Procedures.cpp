@@ -1,6 +1,7 @@
 #include "engine/run/Procedures.h"
 
-#include "engine/errors/BindErrors.h"
+#include "engine/errors/RunErrors.h"
+#include "engine/errors/TextErrors.h"
 #include "engine/text/DatabaseOptions.h"
 #include "engine/text/ServerOptions.h"
 #include "engine/values/Collation.h"
@@ -30,12 +31,12 @@ public:
                 const auto named = std::find_if(parameters.begin(), parameters.end(),
                                                 [&](const std::string& one) { return sameText(one, argument.name); });
                 if (named == parameters.end()) {
-                    throw Error(8145, argument.name + " is not a parameter for procedure " + procedure_ + ".");
+                    throw errors::unknownParameter(argument.name, procedure_);
                 }
                 place = static_cast<std::size_t>(named - parameters.begin());
             }
             if (place >= parameters.size()) {
-                throw Error(8144, "Procedure or function " + procedure_ + " has too many arguments specified.");
+                throw errors::tooManyArguments(procedure_);
             }
             values_[place++] = constant(*argument.value);
         }
@@ -53,7 +54,7 @@ public:
         try {
             return std::get<std::int64_t>(convert(values_[place], {typeOf(place), kInt, {}}));
         } catch (const Error&) {
-            throw Error(8114, "Error converting data type nvarchar to int.");
+            throw errors::parameterConversion("nvarchar", "int");
         }
     }
 
@@ -101,7 +102,7 @@ std::optional<Listing> configure(ServerSession& session, const Execute& call, Me
     const Values values(call, {"@configname", "@configvalue"});
     const std::vector<Instance::Option> options = session.instance().options();
     const bool advanced = std::any_of(options.begin(), options.end(), [](const Instance::Option& option) {
-        return option.name == showAdvancedOptions && option.running != 0;
+        return option.name == kShowAdvancedOptions && option.running != 0;
     });
     const std::string wanted = values.given(0) ? serverOption(values.text(0), advanced).name : std::string();
     Listing rows = optionRows();
@@ -143,7 +144,7 @@ bool isOn(const std::string& value) {
             return false;
         }
     }
-    throw Error(15241, "Usage: sp_dboption [dbname [,optname [,'true' | 'false']]]");
+    throw errors::databaseOptionUsage();
 }
 
 std::optional<Listing> databaseOption(ServerSession& session, const Execute& call, Messages& /*messages*/) {
@@ -213,7 +214,7 @@ std::optional<Listing> tables(ServerSession& session, const Execute& call, Messa
 std::optional<Listing> columns(ServerSession& session, const Execute& call, Messages& /*messages*/) {
     const Values values(call, {"@table_name", "@table_owner", "@table_qualifier", "@column_name"});
     if (!values.given(0)) {
-        throw Error(201, "Procedure or function 'sp_columns' expects parameter '@table_name', which was not supplied.");
+        throw errors::parameterMissing("sp_columns", "@table_name");
     }
     Listing rows;
     rows.columns = {column("TABLE_QUALIFIER", kName), column("TABLE_OWNER", kName), column("TABLE_NAME", kName),

@@ -1,7 +1,8 @@
 // Holding the rows that a SELECT finds for one session alone.
 
 #include "engine/bind/Binder.h"
-#include "engine/errors/BindErrors.h"
+#include "engine/errors/RunErrors.h"
+#include "engine/errors/StoreErrors.h"
 #include "engine/run/BatchRun.h"
 #include "engine/run/SessionTables.h"
 #include "engine/text/Parser.h"
@@ -38,17 +39,13 @@ private:
     std::vector<std::int64_t> rows_;
 };
 
-Error readOnlyCursor() {
-    return {16929, "The cursor is READ ONLY."};
-}
-
 /// The table whose rows a SELECT gives. The rows of joins, groups and the like are no rows of a table to hold.
 const bound::Table& heldTable(const bound::Select& select) {
     const bound::Core& core = select.cores.front();
     const bool plain = select.cores.size() == 1 && !core.distinct && !core.aggregated && core.from.size() == 1;
     const auto* table = plain ? std::get_if<bound::Table>(&core.from.front()->node) : nullptr;
     if (table == nullptr || table->schema != "main") {
-        throw readOnlyCursor();
+        throw errors::readOnlyCursor();
     }
     return *table;
 }
@@ -61,7 +58,7 @@ std::unique_ptr<RowHold> ServerSession::takeRows(std::string_view select) {
     prepareFor(*current_, false);
     const BatchTree tree = parse(select);
     if (tree.statements.size() != 1 || !std::holds_alternative<Select>(tree.statements.front()->node)) {
-        throw readOnlyCursor();
+        throw errors::readOnlyCursor();
     }
     return holdRows(std::get<Select>(tree.statements.front()->node));
 }

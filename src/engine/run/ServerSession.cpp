@@ -1,7 +1,6 @@
 #include "engine/run/ServerSession.h"
 
-#include "engine/errors/BindErrors.h"
-#include "engine/errors/Error.h"
+#include "engine/errors/RunErrors.h"
 #include "engine/run/BatchRun.h"
 #include "engine/run/StatementKinds.h"
 #include "engine/text/Lexer.h"
@@ -65,7 +64,7 @@ std::shared_ptr<Database> ServerSession::open(std::string_view name) {
     } catch (const sqlite::Failure&) {
         return nullptr; // it is registered, but its file can't be opened
     }
-    database->functions().fact = [this](std::string_view what, const Scalar& argument) { return fact(what, argument); };
+    database->functions().fact = [this](Fact fact, const Scalar& argument) { return this->fact(fact, argument); };
     databases_.emplace(key, database);
     return database;
 }
@@ -144,7 +143,7 @@ void ServerSession::prepareFor(Database& database, bool writes) {
 
 void ServerSession::commitTransaction() {
     if (transactions_ == 0) {
-        throw errors::noTransaction("COMMIT");
+        throw errors::nothingToCommit();
     }
     if (transactions_ > 1) {
         --transactions_;
@@ -167,7 +166,7 @@ void ServerSession::commitTransaction() {
 
 void ServerSession::rollbackTransaction() {
     if (transactions_ == 0) {
-        throw errors::noTransaction("ROLLBACK");
+        throw errors::nothingToRollBack();
     }
     transactions_ = 0;
     for (const auto& [key, database] : databases_) {

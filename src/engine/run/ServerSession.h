@@ -72,7 +72,7 @@ public:
 private:
     std::unique_ptr<Batch> begin(std::string_view text);
     std::unique_ptr<RowHold> takeRows(std::string_view select);
-    Scalar fact(std::string_view name, const Scalar& argument);
+    Scalar fact(Fact fact, const Scalar& argument);
     void stopBatch();
     std::unique_ptr<RowHold> holdRows(const Select& select);
     void takeBack(Database& database);

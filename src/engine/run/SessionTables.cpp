@@ -1,6 +1,6 @@
 #include "engine/run/SessionTables.h"
 
-#include "engine/errors/Error.h"
+#include "engine/errors/RunErrors.h"
 #include "engine/run/SystemTables.h"
 #include "engine/store/StoredNames.h"
 #include "engine/values/Collation.h"

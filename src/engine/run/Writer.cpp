@@ -1,7 +1,7 @@
 #include "engine/run/Writer.h"
 
-#include "engine/errors/BindErrors.h"
 #include "engine/errors/Error.h"
+#include "engine/errors/StoreErrors.h"
 #include "engine/store/StoredNames.h"
 #include "engine/translate/SqlText.h"
 

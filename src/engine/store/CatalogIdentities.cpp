@@ -1,4 +1,5 @@
 #include "engine/errors/Error.h"
+#include "engine/errors/ValueErrors.h"
 #include "engine/store/CatalogState.h"
 
 #include <algorithm>
@@ -7,10 +8,6 @@
 
 namespace engine {
 namespace {
-
-Error identityOverflow(const DataType& type) {
-    return {8115, "Arithmetic overflow error converting IDENTITY to data type " + toText(type) + "."};
-}
 
 struct Range {
     std::int64_t first, last;
@@ -61,7 +58,7 @@ std::int64_t Catalog::nextIdentity(const TableInfo& table) {
     }
     const Range range = rangeOf(identity.type);
     if (value < range.first || value > range.last) {
-        throw identityOverflow(identity.type);
+        throw errors::overflow("IDENTITY", toText(identity.type));
     }
     const std::int64_t next = value + identity.increment;
     state_->given[id] = next;

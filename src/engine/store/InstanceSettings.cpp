@@ -41,7 +41,7 @@ void InstanceStore::configure(const std::string& name, long long value) {
     sqlite::Transaction transaction(registry_);
     const std::vector<Option> all = readOptions();
     const bool advancedShown = std::any_of(
-        all.begin(), all.end(), [](const Option& o) { return o.name == showAdvancedOptions && o.running != 0; });
+        all.begin(), all.end(), [](const Option& o) { return o.name == kShowAdvancedOptions && o.running != 0; });
     const ServerOption& option = serverOption(name, advancedShown);
     checkServerOptionValue(option, value);
 

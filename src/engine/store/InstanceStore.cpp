@@ -1,6 +1,6 @@
 #include "engine/store/InstanceStore.h"
 
-#include "engine/errors/Error.h"
+#include "engine/errors/StoreErrors.h"
 #include "engine/store/Host.h"
 #include "engine/store/RowLocks.h"
 #include "engine/values/Collation.h"
@@ -40,19 +40,6 @@ constexpr std::array kSystemDatabases{
 };
 
 constexpr std::string_view kSeparators = "\\/:";
-
-Error fileExists(const std::string& file) {
-    return {5170, "Cannot create file '" + file +
-                      "' because it already exists. Change the file path or the file name, and retry the operation."};
-}
-
-Error systemDatabase(const std::string& name) {
-    return {3708, "Cannot drop the database '" + name + "' because it is a system database."};
-}
-
-Error databaseInUse(const std::string& name) {
-    return {3702, "Cannot drop database \"" + name + "\" because it is currently in use."};
-}
 
 /// Removes files of a database where they exist: the file itself for "", its log for "-wal", the log's index for
 /// "-shm".
@@ -216,7 +203,7 @@ DatabaseEntry InstanceStore::createDatabase(const std::string& name, const std::
     checkFolder(logName);
     const Place place = placeOf(name, fileName);
     if (isTaken(place.file)) {
-        throw fileExists(fileName.empty() ? place.localName : fileName);
+        throw errors::fileExists(fileName.empty() ? place.localName : fileName);
     }
     removeParts(place.file, {"-wal", "-shm"}); // left where a process was killed while it dropped a database
     makeEmptyFile(place.file);
@@ -238,10 +225,10 @@ void InstanceStore::dropDatabase(const std::string& name) {
         throw errors::cannotDrop("database", name);
     }
     if (entry->id <= static_cast<int>(kSystemDatabases.size())) {
-        throw systemDatabase(entry->name);
+        throw errors::systemDatabase(entry->name);
     }
     if (RowLocks::databaseInUse(entry->file)) {
-        throw databaseInUse(entry->name);
+        throw errors::databaseInUse(entry->name);
     }
     for (const char* text :
          {"DELETE FROM databases WHERE id = ?1", "DELETE FROM database_options WHERE database_id = ?1"}) {
@@ -257,7 +244,7 @@ void InstanceStore::dropDatabase(const std::string& name) {
 DatabaseEntry InstanceStore::needed(const std::string& name) const {
     std::optional<DatabaseEntry> entry = find(name);
     if (!entry) {
-        throw Error(15010, "The database '" + name + "' does not exist. Use sp_helpdb to show available databases.");
+        throw errors::databaseUnknown(name);
     }
     return *std::move(entry);
 }

@@ -1,6 +1,9 @@
 #include "engine/store/StorageErrors.h"
 
 #include "engine/errors/BindErrors.h"
+#include "engine/errors/StoreErrors.h"
+#include "engine/errors/TextErrors.h"
+#include "engine/errors/ValueErrors.h"
 #include "engine/store/StoredNames.h"
 #include "engine/values/Collation.h"
 
@@ -84,7 +87,7 @@ std::optional<Error> storageError(const sqlite::Failure& failure, const std::str
         break;
     }
     if (message == "integer overflow") {
-        return errors::overflow("bigint");
+        return errors::overflow("expression", "bigint");
     }
     if (message.starts_with("misuse of aggregate")) {
         return errors::aggregateMisplaced();

@@ -2,6 +2,7 @@
 
 #include "engine/NastyStatements.h"
 #include "engine/SessionFixture.h"
+#include "engine/errors/RunErrors.h"
 #include "engine/run/InternalErrors.h"
 #include "engine/store/Sqlite.h"
 
@@ -302,7 +303,7 @@ TEST_F(StatementErrors, WhatTheMachineRefusesIsNoInternalError) {
     EXPECT_EQ(answerOf(sqlite::Failure(SQLITE_IOERR, "disk I/O error")), 823);
     EXPECT_EQ(answerOf(sqlite::Failure(SQLITE_FULL, "database or disk is full")), 1105);
     EXPECT_EQ(answerOf(sqlite::Failure(SQLITE_BUSY, "database is locked")), 1222);
-    EXPECT_EQ(answerOf(Error(208, "x")), 208);
+    EXPECT_EQ(answerOf(errors::invalidObject("x")), 208);
 }
 
 } // namespace

@@ -17,9 +17,9 @@ public:
         const TableInfo* info;
         bool system = false; ///< one of the server's own tables, not to be written
     };
-    /// Throws 208.
+    /// Throws 208 for a name that no table has.
     virtual Found find(const Name& name) = 0;
-    /// The table, for which SET IDENTITY_INSERT is on, may be written with identity values of the statement's own.
+    /// Whether SET IDENTITY_INSERT is on for the table: a statement may then give its identity values.
     virtual bool takesIdentity(const TableInfo& table) = 0;
 };
 
@@ -42,7 +42,7 @@ public:
     const std::vector<bound::Parameter>& parameters() const { return parameters_; }
 
 private:
-    /// One table as the names of a statement see it.
+    /// A table that the statement's names may refer to.
     struct Visible {
         std::string qualifier; ///< alias, or the table's name
         int number = 0;

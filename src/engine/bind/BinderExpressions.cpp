@@ -43,8 +43,8 @@ const char* operatorText(Binary::Operator op) {
     return "";
 }
 
-/// The first and the last of the chain `a or b or c`, which the parser hangs to the left: taken from the top, they
-/// come in the order of the text without a call for each.
+/// The operands of `a or b or c` in the order of the text. The parser nests such a chain to the left; a loop over its
+/// links needs no recursion.
 std::vector<const Expression*> chainOf(const Binary& top) {
     std::vector<const Expression*> chain;
     const Binary* link = &top;
@@ -67,7 +67,7 @@ bound::ExpressionPtr negatedIf(bool negated, bound::ExpressionPtr condition) {
     return condition;
 }
 
-/// A tree as low as can be over a chain of conditions, so that a long one isn't a deep one.
+/// A balanced tree over a chain of conditions, so that a long chain isn't a deep expression.
 bound::ExpressionPtr balanced(const char* op, std::vector<bound::ExpressionPtr>& conditions, std::size_t begin,
                               std::size_t end) {
     if (end - begin == 1) {
@@ -114,7 +114,7 @@ bound::ExpressionPtr Binder::literal(const Literal& literal, bool negated) {
     result->node = bound::ParameterUse{static_cast<int>(parameters_.size())};
     result->type = typeOf(literal);
     result->nullable = false;
-    // Until it is known that the type goes no further than to the literal itself.
+    // Assumed until freeDigits is called.
     parameter.digitsMatter = result->type.kind == Kind::Decimal;
     parameters_.push_back(std::move(parameter));
     return result;
@@ -165,7 +165,7 @@ bound::ExpressionPtr Binder::negated(bound::ExpressionPtr operand) {
     if (!type.isInteger()) {
         return result;
     }
-    // The smallest integer has no opposite.
+    // Minus the smallest integer of a type is outside of the type.
     result = bound::call("tsql_bigint", DataType{Kind::BigInt}, std::move(result));
     return convertTo(std::move(result), type, Purpose::Cast);
 }
@@ -179,7 +179,7 @@ bound::ExpressionPtr Binder::node(const Binary& binary) {
         return balanced(operatorText(binary.op), conditions, 0, conditions.size());
     }
     if (binary.op < Binary::Operator::Equal) {
-        // Sums stay as they hang: their order decides where a text meets a number.
+        // Not balanced: in `a + b + 1` the order decides which operands are texts and which are numbers.
         const auto chain = chainOf(binary);
         bound::ExpressionPtr result = expression(*chain.front());
         for (std::size_t i = 1; i < chain.size(); ++i) {
@@ -199,7 +199,7 @@ bound::ExpressionPtr Binder::compare(const char* op, bound::ExpressionPtr left, 
     freeDigits(*left);
     freeDigits(*right);
     const auto meet = [&](bound::ExpressionPtr side) {
-        // Numbers compare among each other as they are, and so do texts of any length.
+        // Numbers of two types are compared without a conversion, and so are texts of two lengths.
         const bool alike = (side->type.isNumber() && common.isNumber()) || (side->type.isText() && common.isText());
         return alike ? std::move(side) : convertTo(std::move(side), comparable(common), Purpose::Cast);
     };
@@ -207,7 +207,7 @@ bound::ExpressionPtr Binder::compare(const char* op, bound::ExpressionPtr left, 
     return bound::infix(op, std::move(left), meet(std::move(right)), DataType{Kind::Bit});
 }
 
-/// Among decimals a whole literal is a decimal of just its digits.
+/// Next to a decimal, an integer literal counts as a decimal with as many digits as it has.
 DataType Binder::digitsOf(const bound::Expression& number) {
     bound::Parameter* literal = number.type.isInteger() ? bareLiteral(number) : nullptr;
     if (literal == nullptr) {
@@ -279,7 +279,7 @@ bound::ExpressionPtr Binder::node(const Like& like) {
 }
 
 bound::ExpressionPtr Binder::node(const Between& between) {
-    // Two comparisons: each side may meet the operand in another type.
+    // Two comparisons, since each bound may ask for another type of the operand.
     auto from = compare(">=", expression(*between.operand), expression(*between.low));
     auto to = compare("<=", expression(*between.operand), expression(*between.high));
     auto result = bound::infix("AND", std::move(from), std::move(to), DataType{Kind::Bit});

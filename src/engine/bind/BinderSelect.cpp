@@ -9,7 +9,7 @@ namespace engine {
 
 namespace {
 
-/// Puts a scope in force for as long as it lives.
+/// Makes a scope the present one while it lives.
 template<class Scope>
 class InScope {
 public:
@@ -23,7 +23,7 @@ private:
     Scope* before_;
 };
 
-/// Selects that the storage takes in one UNION.
+/// The most selects that SQLite takes in one UNION.
 constexpr std::size_t kMostCores = 500;
 
 bool isAllTables(const Name& starOf) {
@@ -45,7 +45,7 @@ bound::Select Binder::select(const Select& select, Scope* parent) {
     if (select.cores.size() > kMostCores) {
         throw errors::nestedTooDeep();
     }
-    // The scopes of all cores stay until ORDER BY is bound, in the last of them.
+    // ORDER BY is bound in the scope of the last core.
     Scope scope;
     for (const SelectCore& one : select.cores) {
         scope = Scope{};

@@ -14,7 +14,7 @@ namespace engine {
 
 namespace {
 
-/// A key's name belongs to its database, as a table's does.
+/// Whether a table or a key of the database has that name: they share one set of names.
 bool isObject(Catalog& catalog, const TableInfo& table, const std::string& name) {
     const auto hasKey = [&](const TableInfo& one) {
         return std::any_of(one.keys.begin(), one.keys.end(),
@@ -28,7 +28,7 @@ bool isObject(Catalog& catalog, const TableInfo& table, const std::string& name)
                        [&](const std::string& other) { return hasKey(*catalog.table(other)); });
 }
 
-/// As the server names what a script leaves without a name.
+/// A name like those that the server gives to keys without one.
 std::string keyName(const std::string& table, const KeyDefinition& key) {
     std::size_t hash = std::hash<std::string>()(table);
     for (const std::string& column : key.columns) {
@@ -89,7 +89,7 @@ KeyInfo keyOf(Catalog& catalog, TableInfo& table, const KeyDefinition& definitio
     return key;
 }
 
-/// A default as the storage keeps it: its value now.
+/// The present value of a default, as a literal of SQLite.
 std::string defaultLiteral(ServerSession& session, const ColumnDefinition& definition) {
     SessionTables finder(session);
     Binder binder(finder);
@@ -109,7 +109,7 @@ bool hasRows(Database& database, const TableInfo& table) {
     return any.step();
 }
 
-/// A unique index over rows that are there already; `name` as the server has it.
+/// Makes a unique index; rows that are there already may be against it. `name` is the one in the error.
 void makeUnique(ServerSession& session, const std::string& table, const std::string& name, const std::string& text) {
     try {
         session.current().connection().run(text);
@@ -129,7 +129,7 @@ void addKey(ServerSession& session, const TableInfo& table, const KeyInfo& key) 
     session.current().catalog().addKey(table.name, key);
 }
 
-/// Under NOT NULL the storage itself fills the old rows; a nullable column's old rows stay NULL whatever its default.
+/// SQLite fills the old rows where the column is NOT NULL. In a nullable column they stay NULL, whatever its default.
 void addColumn(ServerSession& session, const AlterTable& alter, const ColumnDefinition& definition) {
     Database& database = session.current();
     TableInfo table = *database.catalog().table(alter.table.last());

@@ -21,9 +21,9 @@ constexpr Range rangeOf() {
     return {std::numeric_limits<Integer>::min(), std::numeric_limits<Integer>::max()};
 }
 
-/// The values that an identity of the type may give; a bigint keeps room for the step behind its last one.
+/// The values that an identity of the type may give; a bigint keeps kRoom for the step behind its last one.
 Range rangeOf(const DataType& type) {
-    constexpr std::int64_t room = std::numeric_limits<std::int32_t>::max();
+    constexpr std::int64_t kRoom = std::numeric_limits<std::int32_t>::max();
     switch (type.kind) {
     case DataType::Kind::TinyInt:
         return rangeOf<std::uint8_t>();
@@ -32,11 +32,11 @@ Range rangeOf(const DataType& type) {
     case DataType::Kind::Int:
         return rangeOf<std::int32_t>();
     default:
-        return {rangeOf<std::int64_t>().first + room, rangeOf<std::int64_t>().last - room};
+        return {rangeOf<std::int64_t>().first + kRoom, rangeOf<std::int64_t>().last - kRoom};
     }
 }
 
-/// Whichever lies further on in the direction of the identity.
+/// The later one of two values in the direction that the identity counts.
 std::int64_t further(const ColumnInfo& identity, std::int64_t left, std::int64_t right) {
     return identity.increment < 0 ? std::min(left, right) : std::max(left, right);
 }

@@ -10,7 +10,7 @@ namespace engine {
 
 namespace {
 
-constexpr std::string_view versionOption = "server version"; ///< none that a statement can reach
+constexpr std::string_view kVersionOption = "server version"; ///< sp_configure has no option of this name
 
 } // namespace
 
@@ -62,14 +62,14 @@ void InstanceStore::reconfigure() {
 int InstanceStore::version() const {
     const std::scoped_lock guard(mutex_);
     sqlite::Statement row(registry_, "SELECT running FROM options WHERE name = ?1");
-    row.bind(1, versionOption);
-    return row.step() ? static_cast<int>(row.integer(0)) : standardVersion;
+    row.bind(1, kVersionOption);
+    return row.step() ? static_cast<int>(row.integer(0)) : kStandardVersion;
 }
 
 void InstanceStore::setVersion(int version) {
     const std::scoped_lock guard(mutex_);
     sqlite::Statement store(registry_, "INSERT OR REPLACE INTO options VALUES (?1, ?2, ?2)");
-    store.bind(1, versionOption);
+    store.bind(1, kVersionOption);
     store.bind(2, std::int64_t{version});
     store.step();
 }

@@ -41,29 +41,29 @@ StatementPtr Grammar::statement() {
 
 Grammar::Node Grammar::statementNode() {
     struct Row {
-        Keyword first;
+        std::string_view first; ///< a reserved word
         Node (Grammar::*parse)();
     };
-    static constexpr auto kStatements = std::to_array<Row>({{Keyword::Select, &Grammar::selectStatement},
-                                                            {Keyword::Insert, &Grammar::insert},
-                                                            {Keyword::Update, &Grammar::update},
-                                                            {Keyword::Delete, &Grammar::deleteRows},
-                                                            {Keyword::Create, &Grammar::create},
-                                                            {Keyword::Alter, &Grammar::alter},
-                                                            {Keyword::Drop, &Grammar::drop},
-                                                            {Keyword::Truncate, &Grammar::truncate},
-                                                            {Keyword::Use, &Grammar::use},
-                                                            {Keyword::Set, &Grammar::setOption},
-                                                            {Keyword::Exec, &Grammar::execute},
-                                                            {Keyword::Execute, &Grammar::execute},
-                                                            {Keyword::Reconfigure, &Grammar::reconfigure},
-                                                            {Keyword::Begin, &Grammar::begin},
-                                                            {Keyword::Commit, &Grammar::commit},
-                                                            {Keyword::Rollback, &Grammar::rollback},
-                                                            {Keyword::If, &Grammar::ifStatement},
-                                                            {Keyword::Print, &Grammar::print}});
+    static constexpr auto kStatements = std::to_array<Row>({{"SELECT", &Grammar::selectStatement},
+                                                            {"INSERT", &Grammar::insert},
+                                                            {"UPDATE", &Grammar::update},
+                                                            {"DELETE", &Grammar::deleteRows},
+                                                            {"CREATE", &Grammar::create},
+                                                            {"ALTER", &Grammar::alter},
+                                                            {"DROP", &Grammar::drop},
+                                                            {"TRUNCATE", &Grammar::truncate},
+                                                            {"USE", &Grammar::use},
+                                                            {"SET", &Grammar::setOption},
+                                                            {"EXEC", &Grammar::execute},
+                                                            {"EXECUTE", &Grammar::execute},
+                                                            {"RECONFIGURE", &Grammar::reconfigure},
+                                                            {"BEGIN", &Grammar::begin},
+                                                            {"COMMIT", &Grammar::commit},
+                                                            {"ROLLBACK", &Grammar::rollback},
+                                                            {"IF", &Grammar::ifStatement},
+                                                            {"PRINT", &Grammar::print}});
     for (const Row& row : kStatements)
-        if (at(row.first))
+        if (now().keyword != Keyword::None && sameWord(now().text, row.first))
             return (this->*row.parse)();
     refuse();
 }

@@ -57,7 +57,7 @@ void writeNode(Text& text, const bound::Call& call) {
         text += ')';
     };
     if (call.function == "tsql_avg_int") {
-        // Integers divide to an integer; no row at all divides nothing and stays NULL.
+        // A quotient of integers is an integer. Without rows the sum is NULL, and so is the average.
         text += '(';
         writeCall("sum");
         text += " / ";
@@ -113,7 +113,7 @@ void writeNode(Text& text, const bound::Subselect& subselect) {
             text += ')';
             return;
         }
-        // The storage would take the first of several rows in silence.
+        // SQLite would take the first of several rows and raise no error.
         text += "(SELECT CASE WHEN count(*) > 1 THEN tsql_too_many_rows() ELSE min(c0) END FROM (SELECT * FROM (";
         write(text, *subselect.select);
         text += ") LIMIT 2))";

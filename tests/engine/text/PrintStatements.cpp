@@ -179,12 +179,20 @@ struct Printer {
     }
 
     std::string operator()(const Print& node) const { return ListText("print").add(node.text).text(); }
+
+    /// A kind without a text of its own is its place among the kinds.
+    template<class Node>
+    std::string operator()(const Node& /*node*/) const {
+        return ListText("kind").add(std::to_string(index)).text();
+    }
+
+    std::size_t index;
 };
 
 } // namespace
 
 std::string print(const Statement& statement) {
-    return std::visit(Printer{}, statement.node);
+    return std::visit(Printer{statement.node.index()}, statement.node);
 }
 
 std::string print(const BatchTree& batch) {

@@ -16,16 +16,4 @@ inline ado::Recordset& RsCaselle() {
     return RsCondivisi(kPostoCaselle);
 }
 
-/// Every opener leaves a shared recordset closed for the next, also where an error stops it.
-class Restituzione {
-public:
-    explicit Restituzione(int posto) : posto_(posto) {}
-    Restituzione(const Restituzione&) = delete;
-    Restituzione& operator=(const Restituzione&) = delete;
-    ~Restituzione() { RilasciaRecordset(posto_); }
-
-private:
-    int posto_;
-};
-
 } // namespace vabo

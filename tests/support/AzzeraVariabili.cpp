@@ -25,7 +25,8 @@ void AzzeraVariabili() {
                                &SqlLavoro,         &Appoggio})
         testo->clear();
     for (double* numero :
-         {&IdAzienda, &IdAziendaLavoro, &IdAziendaScelta, &IdSede, &IdSedeCopia, &TentativiLogin, &CimaForm})
+         {&IdAzienda, &IdAziendaLavoro, &IdAziendaScelta, &IdSede, &IdSedeCopia, &TentativiLogin,
+          &IdProgettoScelto, &CimaForm})
         *numero = 0;
     ClienteDornavel = kFalso;
     ServerMancante = kFalso;

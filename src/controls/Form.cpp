@@ -93,8 +93,11 @@ void Form::setHelpContext(int form, int controls) {
 
 void Form::closeEvent(QCloseEvent* event) {
     event->ignore();
-    if (isVisible()) // the close of a window that another event has hidden meanwhile comes too late
+    // The close of a window that another event has hidden meanwhile comes too late; a form that takes no input isn't
+    // closed either.
+    if (isVisible() && isEnabled()) {
         UnloadMe();
+    }
 }
 
 void Form::nameForAssistiveTools() {

@@ -57,8 +57,7 @@ void BloccaSede(double sede, const std::string& data, Avanzamento& avanzamento) 
         const double hq2 = ContoHq2();
         const double hq1 = ContoHq1();
         return RigheSempreDefinitiveSede(
-            sede,
-            SempreDefinitive(hq2, hq1, ContiDefinitivi(kSenzaRegola, ContiBlocco, " idconto = ", kDueGiri)));
+            sede, SempreDefinitive(hq2, hq1, ContiDefinitivi(kSenzaRegola, ContiBlocco, " idconto = ", kDueGiri)));
     };
     ModificaTransazioni(kSenzaRegola, sempreDefinitive, kDefinisci, avanzamento);
 }

@@ -10,7 +10,8 @@ class Avanzamento;
 /// The final lock date of a branch as text; nothing where it has none.
 std::optional<std::string> LeggiDataSede(double sede);
 
-/// The date is ahead of the balance, which no branch can be unlocked before. Errors raise, of a text that is no date too.
+/// The date is ahead of the balance, which no branch can be unlocked before. Errors raise, of a text that is no date
+/// too.
 bool PrimaDelBilancio(const std::string& data);
 /// The same, or the balance date itself.
 bool NonDopoIlBilancio(const std::string& data);

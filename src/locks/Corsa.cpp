@@ -6,6 +6,13 @@
 
 namespace vabo {
 
+void Corsa::Nascondi(controls::ProgressBar& barra) {
+    QSizePolicy regola = barra.sizePolicy();
+    regola.setRetainSizeWhenHidden(true);
+    barra.setSizePolicy(regola);
+    barra.hide();
+}
+
 Corsa::Corsa(QWidget& form, controls::ProgressBar& barra) : ferma_(form), barra_(barra) {
     barra_.setValue(0);
     barra_.show();
@@ -15,7 +22,7 @@ Corsa::Corsa(QWidget& form, controls::ProgressBar& barra) : ferma_(form), barra_
 // What was clicked during the last statement has to come while the form still takes nothing.
 Corsa::~Corsa() {
     Mostra();
-    barra_.hide();
+    Nascondi(barra_);
 }
 
 void Corsa::Porta(double parte) {

@@ -16,6 +16,9 @@ namespace vabo {
 /// meanwhile is dropped.
 class Corsa : public Avanzamento {
 public:
+    /// The bar as it is between two runs: unseen, its room kept.
+    static void Nascondi(controls::ProgressBar& barra);
+
     Corsa(QWidget& form, controls::ProgressBar& barra);
     ~Corsa() override;
 

@@ -16,7 +16,7 @@ namespace vabo {
 Scegli_progetto_4::Scegli_progetto_4() : Form("Scegli_progetto_4"), ui_(std::make_unique<Ui::Scegli_progetto_4>()) {
     using controls::EndOfEntry;
     ui_->setupUi(this);
-    ui_->ProgressBar1->hide();
+    Corsa::Nascondi(*ui_->ProgressBar1);
     ui_->Combo1->setText(kNessunaScelta);
     chain({{ui_->Combo1, EndOfEntry::EnterOrTab, ui_->iddateend},
            {ui_->iddateend, EndOfEntry::EnterOrTab, [this] { ConfermaData(); }}});

@@ -20,7 +20,7 @@ namespace vabo {
 Scegli_sede_Pd::Scegli_sede_Pd() : Form("Scegli_sede_Pd"), ui_(std::make_unique<Ui::Scegli_sede_Pd>()) {
     using controls::EndOfEntry;
     ui_->setupUi(this);
-    ui_->ProgressBar1->hide();
+    Corsa::Nascondi(*ui_->ProgressBar1);
     ui_->Combo1->setText(kNessunaScelta);
     chain({{ui_->Combo1, EndOfEntry::EnterOrTab, ui_->DataInizio},
            {ui_->DataInizio, EndOfEntry::Enter, [this] { ConfermaData(); }}});

@@ -30,8 +30,8 @@ std::string RiapriProgetto(double progetto, const ado::Date& bilancio) {
 
 std::string ChiudiProgetto(double progetto, const ado::Date& data, const std::string& definitivi) {
     return std::string("update partitadoppia") + " set definito =-1 " + DelProgetto(progetto) + " and " +
-           " (datareport <" + DataSqlUnita(data) + " or datareport =" + DataSqlUnita(data) + ")" +
-           " and  (NOT EXISTS" + " (SELECT  * FROM  Partitadoppia AS B " + "  WHERE" +
+           " (datareport <" + DataSqlUnita(data) + " or datareport =" + DataSqlUnita(data) + ")" + " and  (NOT EXISTS" +
+           " (SELECT  * FROM  Partitadoppia AS B " + "  WHERE" +
            " (B.numerotransazione = partitadoppia.numerotransazione" + " and B.idsede = partitadoppia.idsede)" +
            " and (" + definitivi + ")))  ";
 }

@@ -70,8 +70,13 @@ TEST_F(ProjectLock, AVatRowMakesItsWholeTransactionDefinitiveWhateverTheProjectO
 
 TEST_F(ProjectLock, AMovementWithoutValueCountsInAnotherCurrencyAlone) {
     const auto riga = [](int id, libro::Numero depositi, libro::Numero prelievi, int valuta) {
-        return Riga{.id = id, .numero = id, .transazione = alle("2024-05-02"), .report = {}, .depositi = depositi,
-                    .prelievi = prelievi, .valuta = valuta};
+        return Riga{.id = id,
+                    .numero = id,
+                    .transazione = alle("2024-05-02"),
+                    .report = {},
+                    .depositi = depositi,
+                    .prelievi = prelievi,
+                    .valuta = valuta};
     };
     metti({riga(1, 1250, 1250, 1002), riga(2, 1250, 1250, 1001), riga(3, {}, 1250, 1002), riga(4, {}, {}, 1001),
            riga(5, 1250, 0, 1002), riga(6, 1250, {}, 1003)});
@@ -99,7 +104,8 @@ TEST_F(ProjectLock, RowsOfHeadquartersAccountsAreDefinitiveAndDontKeepTheirTrans
     bloccaProgetto("31/03/2024");
     EXPECT_EQ(definito(1) + report(2), "-1" + alle("2024-05-02"));
     EXPECT_EQ(definito(3) + report(3), "-1" + alle("2024-01-03")) << "closed by the date";
-    EXPECT_EQ(definito(5) + report(5), "0" + alle("2024-01-03")) << "its transaction has a definitive account elsewhere";
+    EXPECT_EQ(definito(5) + report(5), "0" + alle("2024-01-03"))
+        << "its transaction has a definitive account elsewhere";
 }
 
 TEST_F(ProjectLock, ATextThatIsNoDateLeavesOutWhatNeedsTheDate) {

@@ -21,7 +21,8 @@ protected:
     }
     /// A row of a transaction of its own, of that day.
     static Riga del(int id, const std::string& giorno, int definito) {
-        return {.id = id, .numero = id, .transazione = alle(giorno), .report = alle("2022-02-02"), .definito = definito};
+        return {
+            .id = id, .numero = id, .transazione = alle(giorno), .report = alle("2022-02-02"), .definito = definito};
     }
 };
 
@@ -44,9 +45,9 @@ TEST_F(BranchLock, RowsBetweenTheBalanceAndTheDateStayAsTheyWere) {
 }
 
 TEST_F(BranchLock, ABalanceAtTheEndOfAMonthClosesItsLastDay) {
-    const std::pair<const char*, const char*> bilanci[] = {
-        {"2024-01-31", "2024-02-01"}, {"2024-02-29", "2024-03-01"}, {"2023-02-28", "2023-03-01"},
-        {"2023-12-31", "2024-01-01"}, {"2024-04-30", "2024-05-01"}, {"2024-06-15", "2024-06-16"}};
+    const std::pair<const char*, const char*> bilanci[] = {{"2024-01-31", "2024-02-01"}, {"2024-02-29", "2024-03-01"},
+                                                           {"2023-02-28", "2023-03-01"}, {"2023-12-31", "2024-01-01"},
+                                                           {"2024-04-30", "2024-05-01"}, {"2024-06-15", "2024-06-16"}};
     for (const auto& [bilancio, giornoDopo] : bilanci) {
         SCOPED_TRACE(bilancio);
         esegui(std::string("update contatorepd set iddate = '") + bilancio + "'");
@@ -75,12 +76,15 @@ TEST_F(BranchLock, AVatRowMakesItsWholeTransactionDefinitiveAndLeavesItsReportAl
            {.id = 2, .transazione = alle("2024-05-03"), .report = alle("2024-06-01"), .competenza = kAltraSede},
            {.id = 3, .transazione = alle("2024-05-04"), .report = alle("2024-06-01"), .competenza = {}},
            {.id = 4, .numero = 1, .sede = 2, .transazione = alle("2024-05-02"), .definito = -1}});
-    Libro righe = {{.id = 1, .transazione = alle("2024-05-02"), .report = {}, .seziva = 2, .definito = -1},
-                   {.id = 2, .transazione = alle("2024-05-03"), .report = alle("2024-06-01"),
-                    .competenza = kAltraSede, .definito = -1},
-                   {.id = 3, .transazione = alle("2024-05-04"), .report = alle("2024-06-01"), .competenza = {},
-                    .definito = -1},
-                   {.id = 4, .numero = 1, .sede = 2, .transazione = alle("2024-05-02"), .definito = 0}};
+    Libro righe = {
+        {.id = 1, .transazione = alle("2024-05-02"), .report = {}, .seziva = 2, .definito = -1},
+        {.id = 2,
+         .transazione = alle("2024-05-03"),
+         .report = alle("2024-06-01"),
+         .competenza = kAltraSede,
+         .definito = -1},
+        {.id = 3, .transazione = alle("2024-05-04"), .report = alle("2024-06-01"), .competenza = {}, .definito = -1},
+        {.id = 4, .numero = 1, .sede = 2, .transazione = alle("2024-05-02"), .definito = 0}};
     bloccaSede("31/03/2024");
     EXPECT_EQ(letto(), testi(righe));
 }
@@ -138,8 +142,8 @@ TEST_F(BranchLock, AFailureStopsTheRunWhereItStandsAndASecondOnePutsItRight) {
                          {.id = 3, .numero = 3, .transazione = alle("2024-05-02"), .seziva = 1},
                          {.id = 4, .numero = 3, .transazione = alle("2024-05-02"), .competenza = kAltraSede},
                          {.id = 5, .numero = 5, .transazione = alle("2024-05-02"), .conto = 1166}};
-    const auto atteso = testi(dopoLaSede(righe, kSede, alle("2024-03-31"), alle(kBilancio), alle("2024-01-01"),
-                                         contiDelCampione()));
+    const auto atteso =
+        testi(dopoLaSede(righe, kSede, alle("2024-03-31"), alle(kBilancio), alle("2024-01-01"), contiDelCampione()));
     senzaGruppi();
     int tutte = 0;
     {

@@ -110,8 +110,8 @@ TEST_F(GuastoProgetto, AServerThatFallsSilentIsWaitedForOnceInARun) {
 class GuastoSede : public GuastoBlocchi {
 protected:
     GuastoSede() : GuastoBlocchi("Scegli_sede_Pd", "DataInizio") { riprendiAzienda(); }
-    const Testi atteso = testi(dopoLaSede(kRighe, kSede, alle("2024-03-31"), alle(kBilancio), alle("2024-01-01"),
-                                          contiDelCampione()));
+    const Testi atteso =
+        testi(dopoLaSede(kRighe, kSede, alle("2024-03-31"), alle(kBilancio), alle("2024-01-01"), contiDelCampione()));
     struct Consenso : platform::Dialogs {
         explicit Consenso(Testi& testi) : testi(testi) {}
         void message(const std::string& testo, platform::Icon /*icon*/) override { testi.push_back(testo); }

@@ -97,16 +97,21 @@ TEST_F(TwoPrograms, LoseNoRowThatIsPostedDuringTheirRun) {
     progetto->writeLine("via");
     sede->writeLine("via");
     for (int i = 1; i <= kRegistrate; ++i) {
-        scrivi(libro::inserimento({{.id = kRighe + i, .numero = 1000 + i, .transazione = alle("2024-05-02"),
-                                    .report = alle("2024-03-15"), .descrizione = "Registrata durante il blocco"}}));
+        scrivi(libro::inserimento({{.id = kRighe + i,
+                                    .numero = 1000 + i,
+                                    .transazione = alle("2024-05-02"),
+                                    .report = alle("2024-03-15"),
+                                    .descrizione = "Registrata durante il blocco"}}));
     }
     EXPECT_GT(std::stoi(progetto->readLine().value_or("0")), 40);
     EXPECT_GT(std::stoi(sede->readLine().value_or("0")), 40);
     const auto dopo = letto();
     ASSERT_EQ(dopo.size(), righe.size() + kRegistrate);
     for (std::size_t i = righe.size(); i < dopo.size(); ++i) {
-        Riga attesa = {.id = static_cast<int>(i) + 1, .numero = static_cast<int>(1001 + i - righe.size()),
-                       .transazione = alle("2024-05-02"), .report = alle("2024-03-15"),
+        Riga attesa = {.id = static_cast<int>(i) + 1,
+                       .numero = static_cast<int>(1001 + i - righe.size()),
+                       .transazione = alle("2024-05-02"),
+                       .report = alle("2024-03-15"),
                        .descrizione = "Registrata durante il blocco"};
         const std::string aperta = testo(attesa);
         attesa.definito = -1;
@@ -118,11 +123,10 @@ TEST_F(TwoPrograms, LoseNoRowThatIsPostedDuringTheirRun) {
 TEST_F(TwoPrograms, ATransactionPostedDuringTheProjectsLockIsSeenByThePassesThatCome) {
     senzaGruppi();
     const Libro righe = {{.id = 1, .numero = 1, .seziva = 1}, {.id = 2, .numero = 2}};
-    const Libro nuove = {{.id = 3, .numero = 3, .report = alle("2024-02-01"), .definito = 0},
-                         {.id = 4, .numero = 4, .transazione = alle("2024-02-10"), .report = alle("2024-06-01"),
-                          .seziva = 1},
-                         {.id = 5, .numero = 5, .transazione = alle("2024-05-10"), .report = alle("2024-06-01"),
-                          .definito = -1}};
+    const Libro nuove = {
+        {.id = 3, .numero = 3, .report = alle("2024-02-01"), .definito = 0},
+        {.id = 4, .numero = 4, .transazione = alle("2024-02-10"), .report = alle("2024-06-01"), .seziva = 1},
+        {.id = 5, .numero = 5, .transazione = alle("2024-05-10"), .report = alle("2024-06-01"), .definito = -1}};
     std::map<std::string, int> visti; // how often each end state came about
     bool ancora = true;
     for (int quando = 1; ancora; ++quando) {
@@ -142,7 +146,8 @@ TEST_F(TwoPrograms, ATransactionPostedDuringTheProjectsLockIsSeenByThePassesThat
         if (!registrate) {
             break;
         }
-        const auto definiti = lettura("select definito from partitadoppia where idautonumber > 2 order by idautonumber");
+        const auto definiti =
+            lettura("select definito from partitadoppia where idautonumber > 2 order by idautonumber");
         ASSERT_EQ(definiti.size(), 3U);
         ++visti[definiti[0] + " " + definiti[1] + " " + definiti[2]];
         ASSERT_EQ(letto().size(), 5U);
@@ -151,10 +156,10 @@ TEST_F(TwoPrograms, ATransactionPostedDuringTheProjectsLockIsSeenByThePassesThat
     for (const auto& [stato, volte] : visti) {
         stati.insert(stato);
     }
-    EXPECT_EQ(stati, (std::set<std::string>{"-1 -1 0",    // ahead of the reopening
-                                            "-1 -1 -1",   // ahead of the closing by date
-                                            "0 -1 -1",    // ahead of the VAT rows
-                                            "0 0 -1"}));  // behind them
+    EXPECT_EQ(stati, (std::set<std::string>{"-1 -1 0",   // ahead of the reopening
+                                            "-1 -1 -1",  // ahead of the closing by date
+                                            "0 -1 -1",   // ahead of the VAT rows
+                                            "0 0 -1"})); // behind them
 }
 
 } // namespace

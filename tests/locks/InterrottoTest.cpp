@@ -62,9 +62,8 @@ protected:
         scrivi("update ElencoSedi set idDatainvio = null where IdSede = 4");
     }
     std::string altroProgramma(int fatale) const {
-        support::HelperProcess altro("locks_runner",
-                                     {posto.driveC().root().string(), support::kCompany, GetParam().nome,
-                                      GetParam().id, kData, std::to_string(fatale)});
+        support::HelperProcess altro("locks_runner", {posto.driveC().root().string(), support::kCompany,
+                                                      GetParam().nome, GetParam().id, kData, std::to_string(fatale)});
         EXPECT_EQ(altro.readLine(), "pronto");
         altro.writeLine("via");
         return altro.readLine().value_or("ucciso");

@@ -22,10 +22,10 @@ std::string importo(const Numero& centesimi) {
 
 std::vector<std::string> colonne(const Riga& riga) {
     const auto momento = [](const Momento& valore) { return valore.value_or("NULL"); };
-    return {std::to_string(riga.id), numero(riga.numero),       numero(riga.sede),      momento(riga.transazione),
-            momento(riga.report),    numero(riga.conto),        numero(riga.progetto),  numero(riga.competenza),
-            riga.descrizione,        importo(riga.depositi),    importo(riga.prelievi), numero(riga.valuta),
-            importo(riga.depositi),  numero(riga.seziva),       numero(riga.definito)};
+    return {std::to_string(riga.id), numero(riga.numero),    numero(riga.sede),      momento(riga.transazione),
+            momento(riga.report),    numero(riga.conto),     numero(riga.progetto),  numero(riga.competenza),
+            riga.descrizione,        importo(riga.depositi), importo(riga.prelievi), numero(riga.valuta),
+            importo(riga.depositi),  numero(riga.seziva),    numero(riga.definito)};
 }
 
 /// The columns that go between quotes.

@@ -58,8 +58,15 @@ protected:
     }
     /// The accounts as the sample has them.
     static libro::Conti contiDelCampione() {
-        return {.hq1 = 1166, .hq2 = 1167, .c1 = 1051, .c2 = 1058, .c5 = 1059,
-                .c18 = 1060, .c19 = 1040, .c27 = 1250, .c29 = 1251};
+        return {.hq1 = 1166,
+                .hq2 = 1167,
+                .c1 = 1051,
+                .c2 = 1058,
+                .c5 = 1059,
+                .c18 = 1060,
+                .c19 = 1040,
+                .c27 = 1250,
+                .c29 = 1251};
     }
     static void bloccaProgetto(const std::string& data, int progetto = kProgetto) {
         SenzaBarra barra;

@@ -38,8 +38,8 @@ bool stessaTransazione(const Riga& una, const Riga& altra) {
 }
 
 bool sempreDefinitiva(const Riga& riga, const Conti& conti) {
-    return suUnConto(riga, definitivi(conti)) ||
-           suUnConto(riga, {conti.hq1.value_or(0), conti.hq2.value_or(0)}) || conIva(riga) || senzaValore(riga);
+    return suUnConto(riga, definitivi(conti)) || suUnConto(riga, {conti.hq1.value_or(0), conti.hq2.value_or(0)}) ||
+           conIva(riga) || senzaValore(riga);
 }
 
 /// Makes the whole transaction of each chosen row definitive.
@@ -70,16 +70,14 @@ Libro dopoIlProgetto(Libro libro, int progetto, const std::string& data, const s
         }
     }
     for (Riga& riga : libro) {
-        const bool esclusa = std::ranges::any_of(libro, [&](const Riga& altra) {
-            return stessaTransazione(riga, altra) && suUnConto(altra, bloccati);
-        });
+        const bool esclusa = std::ranges::any_of(
+            libro, [&](const Riga& altra) { return stessaTransazione(riga, altra) && suUnConto(altra, bloccati); });
         if (riga.progetto == progetto && riga.report && *riga.report <= data && !esclusa) {
             riga.definito = -1;
         }
     }
-    definisci(libro, true, [&](const Riga& riga) {
-        return riga.progetto == progetto && sempreDefinitiva(riga, conti);
-    });
+    definisci(libro, true,
+              [&](const Riga& riga) { return riga.progetto == progetto && sempreDefinitiva(riga, conti); });
     definisci(libro, true, [&](const Riga& riga) {
         return riga.progetto == progetto && riga.report == data && suUnConto(riga, bloccati);
     });

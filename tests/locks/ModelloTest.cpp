@@ -67,7 +67,9 @@ private:
                 .sede = senzaChiave && una(20) ? Numero() : numero(1, 3),
                 .transazione = momento(caso),
                 .report = momento(caso),
-                .conto = una(8) ? Numero() : una(6) ? Numero(0) : Numero(numero(101, 140)),
+                .conto = una(8)   ? Numero()
+                         : una(6) ? Numero(0)
+                                  : Numero(numero(101, 140)),
                 .progetto = una(10) ? Numero() : Numero(una(2) ? 10000003 : 10000004),
                 .competenza = una(10) ? Numero() : Numero(una(2) ? 4 : 5),
                 .descrizione = "Riga " + std::to_string(id),

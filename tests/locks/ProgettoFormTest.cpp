@@ -156,7 +156,8 @@ TEST_F(ProjectForm, ARunLocksAsksAndTellsNothingAndEmptiesTheForm) {
     digita("30/04/2024");
     gui.press(Qt::Key_Return);
     gui.press(Qt::Key_Return);
-    EXPECT_EQ(letto(), testi(dopoIlProgetto(righe, kProgetto, alle("2024-04-30"), alle(kBilancio), contiDelCampione())));
+    EXPECT_EQ(letto(),
+              testi(dopoIlProgetto(righe, kProgetto, alle("2024-04-30"), alle(kBilancio), contiDelCampione())));
     EXPECT_EQ(dataDelProgetto(), alle("2024-04-30"));
     aspettaVuota();
     EXPECT_EQ(IdProgettoScelto, 0);
@@ -167,7 +168,9 @@ TEST_F(ProjectForm, ARunLocksAsksAndTellsNothingAndEmptiesTheForm) {
 
 /// The bar's value, and whether the form is shut, at each statement.
 TEST_F(ProjectForm, TheBarTellsThePassesAndThenTheRows) {
-    metti({{.id = 1, .numero = 1, .seziva = 1}, {.id = 2, .numero = 2, .seziva = 1}, {.id = 3, .numero = 3, .seziva = 1},
+    metti({{.id = 1, .numero = 1, .seziva = 1},
+           {.id = 2, .numero = 2, .seziva = 1},
+           {.id = 3, .numero = 3, .seziva = 1},
            {.id = 4, .numero = 4, .transazione = alle("2024-03-31"), .report = alle("2024-03-31"), .conto = 1060}});
     apri();
     prendi(kProgetto);
@@ -221,12 +224,10 @@ TEST_F(ProjectForm, WhatTheUserDoesDuringARunIsDropped) {
             for (const char* nome : {"Command1", "Command4"}) {
                 QWidget& comando = gui.find(form, nome);
                 for (const QEvent::Type tipo : {QEvent::MouseButtonPress, QEvent::MouseButtonRelease}) {
-                    QCoreApplication::postEvent(&comando,
-                                                new QMouseEvent(tipo, comando.rect().center(), QCursor::pos(),
-                                                                Qt::LeftButton,
-                                                                tipo == QEvent::MouseButtonPress ? Qt::LeftButton
-                                                                                                 : Qt::NoButton,
-                                                                Qt::NoModifier));
+                    QCoreApplication::postEvent(
+                        &comando, new QMouseEvent(tipo, comando.rect().center(), QCursor::pos(), Qt::LeftButton,
+                                                  tipo == QEvent::MouseButtonPress ? Qt::LeftButton : Qt::NoButton,
+                                                  Qt::NoModifier));
                 }
             }
             gui.form(form).close();

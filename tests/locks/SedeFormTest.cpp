@@ -43,8 +43,9 @@ TEST_F(BranchForm, ListsTheBranchesByTownWithTheirStates) {
     esegui("update ElencoSedi set città = null where IdSede = 7");
     const support::StatementRecorder recorder;
     apri();
-    EXPECT_EQ(recorder.texts(), std::vector<std::string>{"Select E.idsede,E.città,S.descstato from elencosedi AS E left "
-                                                         "join stati AS S on E.idstato=S.idstato order by città"});
+    EXPECT_EQ(recorder.texts(),
+              std::vector<std::string>{"Select E.idsede,E.città,S.descstato from elencosedi AS E left "
+                                       "join stati AS S on E.idstato=S.idstato order by città"});
     EXPECT_THAT(voci(), testing::ElementsAre("   -   Albania", "La Paz   -   Bolivia", "Magazzino mobile   -   ",
                                              "Maputo   -   Mozambico", "Milano   -   Italia", "Nairobi   -   Kenya",
                                              "Roma   -   Italia", "Torino   -   Italia"));
@@ -55,8 +56,7 @@ TEST_F(BranchForm, ABranchPickedShowsItsDateReadyToBeTypedOver) {
     apri();
     const support::StatementRecorder recorder;
     prendi(kSede);
-    EXPECT_EQ(recorder.texts(),
-              std::vector<std::string>{"SELECT  iddatainvio From  elencosedi   Where  idsede = 4"});
+    EXPECT_EQ(recorder.texts(), std::vector<std::string>{"SELECT  iddatainvio From  elencosedi   Where  idsede = 4"});
     EXPECT_EQ(testo(), "31/03/2024");
     EXPECT_EQ(fuoco(), "DataInizio");
     EXPECT_TRUE(tuttoScelto());

@@ -15,11 +15,11 @@ using testing::ElementsAreArray;
 using Testi = std::vector<std::string>;
 
 const Testi kNoveConti = {
-    "SELECT  * From TabellaContiUtili where id = 1 ", "SELECT  * From TabellaContiUtili where id = 2 ",
-    "SELECT  * From TabellaContiUtili where id = 1 ", "SELECT  * From TabellaContiUtili where id = 1 ",
-    "SELECT  * From TabellaContiUtili where id =5 ",  "SELECT  * From TabellaContiUtili where id = 1 ",
-    "SELECT  * From TabellaContiUtili where id = 1 ", "SELECT  * From TabellaContiUtili where id = 1 ",
-    "SELECT  * From TabellaContiUtili where id = 1 ", "SELECT  IdGruppoVabo From conti where IdConto =1051",
+    "SELECT  * From TabellaContiUtili where id = 1 ",      "SELECT  * From TabellaContiUtili where id = 2 ",
+    "SELECT  * From TabellaContiUtili where id = 1 ",      "SELECT  * From TabellaContiUtili where id = 1 ",
+    "SELECT  * From TabellaContiUtili where id =5 ",       "SELECT  * From TabellaContiUtili where id = 1 ",
+    "SELECT  * From TabellaContiUtili where id = 1 ",      "SELECT  * From TabellaContiUtili where id = 1 ",
+    "SELECT  * From TabellaContiUtili where id = 1 ",      "SELECT  IdGruppoVabo From conti where IdConto =1051",
     "SELECT  IdGruppoVabo From conti where IdConto =1058", "SELECT  IdGruppoVabo From conti where IdConto =1051",
     "SELECT  IdGruppoVabo From conti where IdConto =1051", "SELECT  IdGruppoVabo From conti where IdConto =1059",
     "SELECT  IdGruppoVabo From conti where IdConto =1051", "SELECT  IdGruppoVabo From conti where IdConto =1051",
@@ -47,8 +47,12 @@ class LockTexts : public LibroAperto {};
 
 TEST_F(LockTexts, TheProjectsLockSendsTheseAndNoOther) {
     metti({{.id = 1, .numero = 70, .sede = 2, .seziva = 1},
-           {.id = 2, .numero = 71, .sede = 3, .transazione = libro::alle("2024-03-31"),
-            .report = libro::alle("2024-03-31"), .conto = 1060}});
+           {.id = 2,
+            .numero = 71,
+            .sede = 3,
+            .transazione = libro::alle("2024-03-31"),
+            .report = libro::alle("2024-03-31"),
+            .conto = 1060}});
     const support::StatementRecorder recorder;
     bloccaProgetto("31/03/2024");
     EXPECT_THAT(
@@ -118,8 +122,9 @@ TEST_F(LockTexts, TheBranchsLockSendsTheseAndNoOther) {
 }
 
 TEST_F(LockTexts, ThoseOfTheBranchsForm) {
-    EXPECT_EQ(ElencoSediDaBloccare(), "Select E.idsede,E.città,S.descstato from elencosedi AS E left join stati AS S on "
-                                      "E.idstato=S.idstato order by città");
+    EXPECT_EQ(ElencoSediDaBloccare(),
+              "Select E.idsede,E.città,S.descstato from elencosedi AS E left join stati AS S on "
+              "E.idstato=S.idstato order by città");
     EXPECT_EQ(DataBloccoSede(4), "SELECT  iddatainvio From  elencosedi   Where  idsede = 4");
 }
 

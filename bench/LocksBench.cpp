@@ -7,7 +7,7 @@
 #include "LockLedger.h"
 #include "Pairs.h"
 #include "ado/Drivers.h"
-#include "engine/Instance.h"
+#include "engine/store/Instance.h"
 #include "locks/Avanzamento.h"
 #include "locks/BloccoProgetto.h"
 #include "locks/BloccoSede.h"

@@ -5,8 +5,8 @@
 
 namespace vabo {
 
-/// The two shared recordsets of this console. The load reads the option rows through the first while a box that it sets
-/// writes through the second; only the box of the budget items takes the first one over.
+/// The two shared recordsets of this console. The load reads the options' rows through the first; a box that it sets
+/// writes through the second at the same time. Only the box of the budget items writes through the first, too.
 inline constexpr int kPostoOpzioni = 3;
 inline ado::Recordset& RsOpzioni() {
     return RsCondivisi(kPostoOpzioni);

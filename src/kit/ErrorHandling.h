@@ -6,13 +6,14 @@
 
 namespace vabo {
 
-/// Updates the current record. An update that fails raises in the caller, whose rule decides.
+/// Updates the current record. Errors raise; the caller's failure rule handles them.
 void AggiornaRecord(ado::Recordset& rs);
 
-/// Closes a shared recordset where it can and drops it.
+/// Closes and drops a shared recordset. A Close that fails is skipped.
 void RilasciaRecordset(int posto);
 
-/// Gives a shared recordset back at its end: every opener leaves it closed for the next, also where an error stops it.
+/// Closes and drops a shared recordset at the end of a scope, after an error too, so that it is closed for the next
+/// user.
 class Restituzione {
 public:
     explicit Restituzione(int posto) : posto_(posto) {}
@@ -24,7 +25,8 @@ private:
     int posto_;
 };
 
-/// Closes and drops all shared recordsets and DbLocale; the three long-lived connections stay. Always the empty text.
+/// Closes and drops all shared recordsets and DbLocale; DbControllo, DbAzienda and DbTemp stay open. Always returns the
+/// empty text.
 std::string ChiudiRecordset();
 
 } // namespace vabo

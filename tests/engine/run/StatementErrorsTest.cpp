@@ -29,7 +29,7 @@ protected:
         std::string answer;
     };
     void expect(const std::vector<Case>& cases) {
-        for (const Case& one : kCases) {
+        for (const Case& one : cases) {
             EXPECT_EQ(rows(one.text), one.answer) << one.text.substr(0, 200);
             EXPECT_EQ(rows("select 1"), "1") << "after " << one.text.substr(0, 200);
         }

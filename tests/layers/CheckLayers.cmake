@@ -1,4 +1,4 @@
-# Reads every source below ROOT and names each line that goes against the arrows of the house.
+# Reads every source below ROOT and reports each #include that goes against the layers.
 #   cmake -DROOT=<project> -P CheckLayers.cmake
 
 # What a folder of src may include.
@@ -9,11 +9,11 @@ set(allowed_controls controls/ platform/ ado/)
 set(allowed_state state/ ado/)
 set(allowed_kit kit/ state/ platform/ ado/)
 
-# The rooms of the engine, from the ground up: each may include itself and those before it.
+# The folders of the engine from the lowest up: each may include itself and those before it.
 set(engine_rooms errors values text store functions bind translate run)
 
 set(boxes "QMessageBox|QInputDialog|QFileDialog")
-# Spelt so that a search for the marks doesn't find this line.
+# Written with brackets so that a search for these words doesn't find this line.
 set(mark "(^|[^A-Za-z0-9_])(TO[D]O|FIX[M]E|X[X]X|HA[C]K)([^A-Za-z0-9_]|$)")
 set(findings "")
 set(unicode_files "")
@@ -22,7 +22,7 @@ macro(report file what)
     list(APPEND findings "${file}: ${what}")
 endmacro()
 
-# file(STRINGS) would take a bracket or a semicolon in a line for list syntax; includes have neither.
+# Only includes are read: file(STRINGS) takes a bracket or a semicolon in a line for list syntax, and they have neither.
 function(includes_of file result)
     file(STRINGS ${ROOT}/${file} lines REGEX "^[ \t]*#[ \t]*include[ \t]*[<\"]")
     set(names "")
@@ -33,7 +33,7 @@ function(includes_of file result)
     set(${result} "${names}" PARENT_SCOPE)
 endfunction()
 
-# Whether one of the folders of the list holds that header.
+# Whether the header is in one of the folders of the list.
 function(is_allowed header list result)
     set(${result} FALSE PARENT_SCOPE)
     foreach(entry IN LISTS list)

@@ -1,4 +1,4 @@
-# Lays down small houses, each with one line that goes against an arrow, and sees each refused for that line.
+# Writes small source trees, each with one line that goes against a rule, and tests that CheckLayers reports that line.
 #   cmake -DSCRIPT=<CheckLayers.cmake> -DFOLDER=<where to build them> -P CheckLayersTest.cmake
 
 set(failures "")
@@ -24,7 +24,7 @@ macro(check)
     string(REGEX REPLACE "[ \n]+" " " said "${said}") # messages are wrapped
 endmacro()
 
-# refused(<file> <line> <reason>): the sound house with that line added is refused with that reason.
+# refused(<file> <line> <reason>): the correct tree with that line added is reported with that reason.
 function(refused file line reason)
     sound_house()
     file(APPEND ${FOLDER}/${file} "${line}\n")

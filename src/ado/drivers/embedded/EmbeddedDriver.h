@@ -9,7 +9,8 @@
 
 namespace ado {
 
-/// The road to the embedded server. One instance object a folder, shared by all connections of the process.
+/// The driver of the embedded server. Each instance folder has one instance object, which all connections of the
+/// process share.
 class EmbeddedDriver : public Driver {
 public:
     EmbeddedDriver();

@@ -11,14 +11,14 @@ namespace {
 
 using support::kCompany;
 
-/// The whole road with the keyboard alone: the company can't be opened when the program starts, and the form comes.
-class RegistraStrade : public RegistraForm {
+/// From the start of the program with the keyboard alone: the company can't be opened, so the form appears.
+class RegistraTastiera : public RegistraForm {
 protected:
-    RegistraStrade() {
+    RegistraTastiera() {
         AzzeraVariabili();
         app::registerForms(gui.forms());
     }
-    /// The server knows the database, its file can't be opened any more.
+    /// Makes the database's file unreadable; the server still lists the database.
     void guasta() {
         const std::string file = workstation.value(
             "master", std::string("select filename from master.dbo.sysdatabases where name = '") + kCompany + "'");
@@ -39,12 +39,13 @@ private:
     std::filesystem::path posto_;
 };
 
-TEST_F(RegistraStrade, ACompanyLostBetweenStartAndLoginLeadsToTheForm) {
-    bool chiesto = false; // whether anybody has to log in, the last thing that the start asks
+TEST_F(RegistraTastiera, ACompanyLostBetweenStartAndLoginLeadsToTheForm) {
+    bool chiesto = false; // set when the start has read the table of users, its last statement
     bool guasto = false;
     ado::setStatementRecorder([&](const std::string& testo) {
-        if (chiesto && !std::exchange(guasto, true))
+        if (chiesto && !std::exchange(guasto, true)) {
             guasta();
+        }
         chiesto = chiesto || testo.find("AbilitazioneAccessi") != std::string::npos;
     });
     gui.forms().show("Avvio");
@@ -57,7 +58,7 @@ TEST_F(RegistraStrade, ACompanyLostBetweenStartAndLoginLeadsToTheForm) {
     EXPECT_EQ(fuoco(), "cboDSNList");
 }
 
-TEST_F(RegistraStrade, ACompanyOutOfReachFromTheBeginningLeadsToTheConsoleInstead) {
+TEST_F(RegistraTastiera, ACompanyOutOfReachFromTheBeginningLeadsToTheConsoleInstead) {
     guasta();
     gui.forms().show("Avvio");
     gui.waitForFront("Avvio_Azienda");
@@ -66,7 +67,7 @@ TEST_F(RegistraStrade, ACompanyOutOfReachFromTheBeginningLeadsToTheConsoleInstea
     EXPECT_EQ(DirittiUtente, kDirittiAvvioSenzaUtenti);
 }
 
-TEST_F(RegistraStrade, TheCompanyPutRightIsRegisteredByTheKeyboardAndTheConsoleComes) {
+TEST_F(RegistraTastiera, TheCompanyPutRightIsRegisteredByTheKeyboardAndTheConsoleComes) {
     guasta();
     gui.forms().show("About");
     gui.waitForFront(kForm);
@@ -105,7 +106,7 @@ TEST_F(RegistraStrade, TheCompanyPutRightIsRegisteredByTheKeyboardAndTheConsoleC
     EXPECT_EQ(PilaForm, std::vector<std::string>{"Avvio_Azienda"});
 }
 
-TEST_F(RegistraStrade, ClosingItLeadsToTheConsoleToo) {
+TEST_F(RegistraTastiera, ClosingItLeadsToTheConsoleToo) {
     guasta();
     gui.forms().show("About");
     gui.waitForFront(kForm);
@@ -115,35 +116,37 @@ TEST_F(RegistraStrade, ClosingItLeadsToTheConsoleToo) {
     EXPECT_EQ(DirittiUtente, kDirittiPrimaDelLogin);
 }
 
-/// Whatever is typed, the form stands or has done its work; boxes may come.
+/// Whatever is typed, the form stays open or the registration succeeds; boxes may come.
 class RegistraAttacco : public RegistraForm {
 protected:
     RegistraAttacco() {
         prima = utenti();
         apri();
     }
-    /// A text that reads as no user asks for the account that the program runs under.
+    /// Whether the field's text gives no user, which means a login with the account that the program runs under.
     bool NessunUtente() const { return ado::ConnectionString("UID=" + testo("txtUID") + ";").user().empty(); }
     Rows utenti() const {
         return workstation.rows(kCompany, "select * from AbilitazioneAccessi order by idautonumber");
     }
-    /// Typed letter by letter at first, the rest pasted at once; the former text goes.
+    /// Replaces the field's text: the first letters are typed, the rest is pasted.
     void scrivi(const std::string& nome, const std::string& testo) {
         constexpr std::size_t kBattute = 20;
         vaiA(nome);
         gui.press(Qt::Key_A, Qt::ControlModifier);
         gui.press(Qt::Key_Delete);
         gui.type(testo.substr(0, kBattute));
-        if (nome == "cboDrivers")
+        if (nome == "cboDrivers") {
             elenco(nome).lineEdit()->insert(QString::fromStdString(testo.substr(std::min(testo.size(), kBattute))));
-        else
+        } else {
             campo(nome).insert(QString::fromStdString(testo.substr(std::min(testo.size(), kBattute))));
+        }
     }
-    /// A registration that went through has closed the form.
+    /// Opens the form again where a successful registration has closed it.
     void riapri() {
         support::Gui::handleEvents();
-        if (gui.isVisible(kForm))
+        if (gui.isVisible(kForm)) {
             return;
+        }
         EXPECT_EQ(gui.visibleForms(), "Avvio_Azienda");
         workstation.putFile("C:\\vabo\\IndirizzoServer.txt", server + "\r\n");
         apri();
@@ -160,8 +163,9 @@ TEST_F(RegistraAttacco, NoUserAndNoPasswordButTheRightOnesPass) {
         for (const std::string& testo : support::attacks()) {
             messaggi.clear();
             scrivi(nome, testo);
-            if (NessunUtente())
+            if (NessunUtente()) {
                 continue;
+            }
             premi("txtServer");
             EXPECT_EQ(messaggi, std::vector<std::string>{"Wrong connection"}) << nome << " " << testo.substr(0, 60);
             EXPECT_EQ(fuoco(), "txtServer");

@@ -7,6 +7,9 @@
 #include "ado/Connection.h"
 #include "ado/drivers/odbc/OdbcConnection.h"
 
+#include <QCoreApplication>
+#include <QTimer>
+
 #include <cstdlib>
 #include <cstring>
 #include <fstream>
@@ -172,6 +175,11 @@ int main(int argc, char** argv) {
     if (benchmark::ReportUnrecognizedArguments(argc, argv)) {
         return 1;
     }
-    benchmark::RunSpecifiedBenchmarks();
-    return 0;
+    // All of it in one event, as the program does what follows a click.
+    const QCoreApplication application(argc, argv);
+    QTimer::singleShot(0, [] {
+        benchmark::RunSpecifiedBenchmarks();
+        QCoreApplication::quit();
+    });
+    return QCoreApplication::exec();
 }

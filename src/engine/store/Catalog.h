@@ -66,6 +66,8 @@ public:
     /// all processes and costs no write of its own; throws 8115 where the type is used up. A value given stays used up
     /// for this session whatever becomes of the transaction.
     std::int64_t nextIdentity(const TableInfo& table);
+    /// The session that was given values has ended.
+    void forgetGiven();
     /// After a failed statement or a rollback: the values given since are used up for everybody. Writes (in the open
     /// transaction, or else in one of its own) only where a rollback took one back.
     void settleIdentities();

@@ -201,16 +201,6 @@ static_assert(std::is_sorted(kWords.begin(), kWords.end()));
 static_assert(std::all_of(kWords.begin(), kWords.end(), [](auto word) { return word.size() <= kLongestWord; }));
 static_assert(static_cast<std::size_t>(Keyword::Writetext) == kWords.size());
 
-/// Where the words of each letter begin, and behind the last letter where they end.
-constexpr auto kBegins = [] {
-    std::array<std::size_t, 'Z' - 'A' + 2> begins{};
-    for (std::size_t letter = 0; letter < begins.size(); ++letter) {
-        begins.at(letter) = static_cast<std::size_t>(std::count_if(
-            kWords.begin(), kWords.end(), [&](auto word) { return word.front() < 'A' + static_cast<int>(letter); }));
-    }
-    return begins;
-}();
-
 } // namespace
 
 Keyword keywordOf(std::string_view word) {
@@ -219,12 +209,8 @@ Keyword keywordOf(std::string_view word) {
     std::array<char, kLongestWord> buffer{};
     std::transform(word.begin(), word.end(), buffer.begin(), upperLetter);
     const std::string_view capitals(buffer.data(), word.size());
-    if (capitals.front() < 'A' || capitals.front() > 'Z')
-        return Keyword::None;
-    const auto letter = static_cast<std::size_t>(capitals.front() - 'A');
-    const auto* const end = kWords.begin() + kBegins.at(letter + 1);
-    const auto* const found = std::lower_bound(kWords.begin() + kBegins.at(letter), end, capitals);
-    if (found == end || *found != capitals)
+    const auto* const found = std::lower_bound(kWords.begin(), kWords.end(), capitals);
+    if (found == kWords.end() || *found != capitals)
         return Keyword::None;
     return static_cast<Keyword>(found - kWords.begin() + 1);
 }

@@ -98,13 +98,6 @@ TEST_F(KeptDatabasesTest, AreNoneOfAFileThatTookTheirPlace) {
     EXPECT_EQ(nextRows(kRows), "6");
 }
 
-TEST_F(KeptDatabasesTest, AreNoneOfAFileThatWasEmptied) {
-    EXPECT_EQ(nextRows(kRows), "1");
-    session.reset();
-    fs::resize_file(file(), 0);
-    EXPECT_THROW(next(), Error);
-}
-
 TEST_F(KeptDatabasesTest, AreNoneOfAFolderThatHasGone) {
     EXPECT_EQ(nextRows(kRows), "1");
     session.reset();
@@ -124,7 +117,7 @@ TEST_F(KeptDatabasesTest, KeepNoSettingOfTheSessionBefore) {
 
 TEST_F(KeptDatabasesTest, KeepNoAnswerOfTheSessionBefore) {
     run("CREATE TABLE c (id int IDENTITY (1, 1) NOT NULL, n int NULL)");
-    EXPECT_EQ(nextRows("INSERT INTO c (n) VALUES (1) SELECT @@IDENTITY"), "\nid\n1");
+    EXPECT_EQ(nextRows("INSERT INTO c (n) VALUES (1) SELECT @@IDENTITY"), "\n1");
     EXPECT_EQ(nextRows("SELECT @@IDENTITY"), "NULL");
 }
 

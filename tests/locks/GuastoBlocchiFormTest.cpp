@@ -1,7 +1,7 @@
 // The two locks while the server goes: the project's skips what fails, the branch's tells it.
 
 #include "locks/BlocchiForm.h"
-#include "session/GuastoFixture.h"
+#include "session/FailureFixture.h"
 #include "support/HeardBoxes.h"
 #include "support/OneEvent.h"
 
@@ -25,18 +25,18 @@ protected:
         DbAzienda.Open(StringaAzienda);
     }
     /// Ahead of the statement of that number the server goes; the boxes that come meanwhile, Yes to the question.
-    void corri(int fatale, Guasto guastoQui) {
+    void corri(int fatale, Failure failure) {
         int inviate = 0;
         const support::SomebodyElse altro([&](const std::string& /*testo*/) {
             if (++inviate == fatale) {
-                guasto.avviene(guastoQui);
+                server.fail(failure);
             }
         });
         support::inOneEvent([this] { premi("Command1"); });
         tutte = inviate;
     }
 
-    ServerGuasto guasto{posto};
+    FailingServer server{posto};
     int tutte = 0;
 };
 
@@ -60,7 +60,7 @@ TEST_F(GuastoProgetto, AtWhateverStatementTheServerEndsNothingIsSaidAndASecondRu
     metti(kRighe);
     apri();
     scegli();
-    corri(0, Guasto::Spento);
+    corri(0, Failure::Ended);
     ASSERT_EQ(letto(), atteso);
     const int quante = tutte;
     ASSERT_GT(quante, 40);
@@ -68,11 +68,11 @@ TEST_F(GuastoProgetto, AtWhateverStatementTheServerEndsNothingIsSaidAndASecondRu
         SCOPED_TRACE(fatale);
         metti(kRighe);
         scegli();
-        corri(fatale, Guasto::Spento);
+        corri(fatale, Failure::Ended);
         aspettaVuota();
-        guasto.ripara();
+        server.repair();
         scegli();
-        corri(0, Guasto::Spento);
+        corri(0, Failure::Ended);
         ASSERT_EQ(letto(), atteso);
     }
     EXPECT_EQ(scatole.texts, Testi{});
@@ -88,19 +88,19 @@ TEST_F(GuastoProgetto, AServerThatFallsSilentIsWaitedForOnceInARun) {
     metti(righe);
     apri();
     scegli();
-    corri(0, Guasto::Spento);
+    corri(0, Failure::Ended);
     const int ultime = tutte - 20; // in the middle of the rows
     metti(righe);
     scegli();
     QElapsedTimer tempo;
     tempo.start();
-    corri(ultime, Guasto::Gelato);
+    corri(ultime, Failure::Frozen);
     constexpr qint64 kUnAttesa = 10'000; // one second, and as long again for the answer to its cancel
     EXPECT_LT(tempo.elapsed(), kUnAttesa);
     aspettaVuota();
-    guasto.ripara();
+    server.repair();
     scegli();
-    corri(0, Guasto::Spento);
+    corri(0, Failure::Ended);
     EXPECT_EQ(letto(),
               testi(dopoIlProgetto(righe, kProgetto, alle("2024-03-31"), alle(kBilancio), contiDelCampione())));
     EXPECT_EQ(scatole.texts, Testi{});
@@ -130,7 +130,7 @@ TEST_F(GuastoSede, AtWhateverStatementTheServerEndsItIsToldOnceAndASecondRunPuts
     apri();
     prendi(kSede);
     digita("31/03/2024");
-    corri(0, Guasto::Spento);
+    corri(0, Failure::Ended);
     ASSERT_EQ(letto(), atteso);
     const int quante = tutte;
     int taciute = 0;
@@ -140,17 +140,17 @@ TEST_F(GuastoSede, AtWhateverStatementTheServerEndsItIsToldOnceAndASecondRunPuts
         prendi(kSede);
         digita("31/03/2024");
         dette.clear();
-        corri(fatale, Guasto::Spento);
+        corri(fatale, Failure::Ended);
         EXPECT_LE(dette.size(), 1U);
         taciute += dette.empty() ? 1 : 0;
         EXPECT_TRUE(gui.form(form).isEnabled());
         EXPECT_FALSE(barra().isVisible());
         EXPECT_EQ(QGuiApplication::overrideCursor(), nullptr);
-        guasto.ripara();
+        server.repair();
         riprendiAzienda();
         prendi(kSede);
         digita("31/03/2024");
-        corri(0, Guasto::Spento);
+        corri(0, Failure::Ended);
         ASSERT_EQ(letto(), atteso);
     }
     EXPECT_EQ(taciute, 0) << "a branch isn't half locked in silence";

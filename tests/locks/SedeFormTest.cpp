@@ -223,26 +223,31 @@ TEST_F(BranchForm, ATextThatIsNoDateIsAskedForAndNothingElse) {
     EXPECT_EQ(testo(), "31/04/2024");
 }
 
-TEST_F(BranchForm, TheBarTellsThePassesAndThenTheRows) {
-    metti({{.id = 1, .numero = 1, .seziva = 1}, {.id = 2, .numero = 2, .seziva = 1}});
+TEST_F(BranchForm, TheBarTellsThePassesAndThenTheRowsInEveryRunAnew) {
+    metti({{.id = 1, .numero = 1, .seziva = 1},
+           {.id = 2, .numero = 2, .seziva = 1},
+           {.id = 3, .numero = 3, .seziva = 1}});
     apri();
-    prendi(kSede);
-    std::vector<double> passate, righe;
-    const support::SomebodyElse chiunque([&](const std::string& inviata) {
-        if (inviata.starts_with("update partitadoppia set definito = -1 ")) {
-            righe.push_back(barra().Value());
-        } else if (inviata.starts_with("update partita") || inviata.starts_with("select * from partitadoppia")) {
-            passate.push_back(barra().Value());
-        }
-        if (inviata.find("partitadoppia") != std::string::npos) {
-            EXPECT_TRUE(barra().isVisible());
-            EXPECT_FALSE(gui.form(form).isEnabled());
-        }
-    });
-    script.expectQuestion(domanda("31/03/2024"), true);
-    premi("Command1");
-    EXPECT_THAT(passate, testing::ElementsAre(0, 50, 100));
-    EXPECT_THAT(righe, testing::ElementsAre(0, 50));
+    for (int corsa = 1; corsa <= 2; ++corsa) {
+        prendi(kSede);
+        std::vector<double> passate, righe;
+        const auto dueDecimali = [this] { return std::round(barra().Value() * 100) / 100; };
+        const support::SomebodyElse chiunque([&](const std::string& inviata) {
+            if (inviata.starts_with("update partitadoppia set definito = -1 ")) {
+                righe.push_back(dueDecimali());
+            } else if (inviata.starts_with("update partita") || inviata.starts_with("select * from partitadoppia")) {
+                passate.push_back(dueDecimali());
+            }
+            if (inviata.find("partitadoppia") != std::string::npos) {
+                EXPECT_TRUE(barra().isVisible());
+                EXPECT_FALSE(gui.form(form).isEnabled());
+            }
+        });
+        script.expectQuestion(domanda("31/03/2024"), true);
+        premi("Command1");
+        EXPECT_THAT(passate, testing::ElementsAre(0, 50, 100)) << corsa;
+        EXPECT_THAT(righe, testing::ElementsAre(0, 33.33, 66.67));
+    }
 }
 
 TEST_F(BranchForm, AFailureIsToldAndTheFormStandsReadyForASecondRun) {

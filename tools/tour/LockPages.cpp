@@ -47,12 +47,12 @@ void agree(Tour& tour, const Page& page) {
     QMetaObject::invokeMethod(qApp, answer, Qt::QueuedConnection);
 }
 
-/// Runs the lock; its picture is taken with half of its rows done.
+/// Runs the lock; its picture is taken half-way.
 void run(Tour& tour, const Page& page) {
     bool taken = false;
     ado::setStatementRecorder([&](const std::string& /*text*/) {
         auto& bar = dynamic_cast<controls::ProgressBar&>(tour.control(page.form, "ProgressBar1"));
-        if (!taken && bar.isVisible() && bar.Value() > bar.Max() / 2 && bar.Value() < bar.Max()) {
+        if (!taken && bar.isVisible() && bar.Value() >= bar.Max() / 2 && bar.Value() < bar.Max()) {
             taken = true;
             tour.take(page.name + "-corsa", page.form);
         }

@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
 # Installs what is missing, builds, prepares the sample workstation and starts the program. Without a display it walks
-# all forms offscreen and says where their pictures are.
+# all forms offscreen and prints where their pictures are.
 set -euo pipefail
 cd "$(dirname "$0")"
 

@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
 # Installs what is missing, builds and runs all tests. Arguments go to ctest (./test.sh -R engine); VABO_PRESET picks
-# another preset than ci (VABO_PRESET=asan ./test.sh). The last line tells how many tests ran on each road to the server.
+# another preset than ci (VABO_PRESET=asan ./test.sh). The last line is the number of tests by label.
 set -euo pipefail
 cd "$(dirname "$0")"
 preset=${VABO_PRESET:-ci}

@@ -1,5 +1,5 @@
-// Opening the general tables console on a company with 20 000 accounts, against the bare statements that it sends, each
-// opened once on a connection that is there already. And one letter typed into a picker of that many accounts.
+// Opening the general tables console of a company with 20 000 accounts, compared with the statements that it sends,
+// each run once on an open connection. And typing one letter into a picker of that many accounts.
 
 #include "Pairs.h"
 #include "SampleDrive.h"
@@ -26,7 +26,7 @@ namespace {
 constexpr long kAccounts = 20'000;
 constexpr const char* kForm = "Avvio_Morlan";
 
-/// The program with its company taken up, on a drive C of its own.
+/// The program with its company taken up, with its own drive C.
 class Console {
 public:
     Console() {
@@ -38,16 +38,19 @@ public:
     ~Console() {
         program_.reset();
         vabo::ChiudiRecordset();
-        for (ado::Connection* connection : {&vabo::DbAzienda, &vabo::DbControllo, &vabo::DbTemp})
-            if (connection->IsOpen())
+        for (ado::Connection* connection : {&vabo::DbAzienda, &vabo::DbControllo, &vabo::DbTemp}) {
+            if (connection->IsOpen()) {
                 connection->Close();
+            }
+        }
     }
     Console(const Console&) = delete;
     Console& operator=(const Console&) = delete;
 
     controls::Form& open() {
-        if (!vabo::ApriForm(kForm, true))
+        if (!vabo::ApriForm(kForm, true)) {
             throw std::runtime_error("the console isn't there");
+        }
         QCoreApplication::processEvents();
         return *program_->forms().loaded(kForm);
     }
@@ -65,15 +68,16 @@ private:
     std::unique_ptr<app::Program> program_;
 };
 
-/// Its windows go before the toolkit's own statics do: at the end of main.
+/// Released at the end of main, since windows must be destroyed before the toolkit's static objects.
 std::unique_ptr<Console>& held() {
     static std::unique_ptr<Console> console;
     return console;
 }
 
 Console& console() {
-    if (!held())
+    if (!held()) {
         held() = std::make_unique<Console>();
+    }
     return *held();
 }
 
@@ -107,7 +111,7 @@ void OpenTheConsole(benchmark::State& state) {
 }
 BENCHMARK(OpenTheConsole)->Apply(bench::inPairs);
 
-/// The picker of the invoices' accounts on the screen: a hidden one takes no keys.
+/// The picker of the invoices' accounts, on the current tab, since a hidden one gets no keys.
 controls::DataCombo* pickerInFront() {
     auto* tabs = console().open().findChild<QWidget*>(QStringLiteral("SSTab1"));
     tabs->setProperty("currentIndex", 4);
@@ -147,8 +151,9 @@ BENCHMARK(OpenTheListOfAPicker)->Apply(bench::inPairs);
 
 int main(int argc, char** argv) {
     benchmark::Initialize(&argc, argv);
-    if (benchmark::ReportUnrecognizedArguments(argc, argv))
+    if (benchmark::ReportUnrecognizedArguments(argc, argv)) {
         return 1;
+    }
     benchmark::RunSpecifiedBenchmarks();
     held().reset();
 }

@@ -1,11 +1,11 @@
-// The data layer against raw SQLite on the same files, at the same durability. Each iteration runs both sides, so that
-// `ratio` compares two neighbours in time; read its median.
+// The data layer compared with SQLite on the same files, with the same durability. Each iteration runs both one after
+// the other, so that `ratio` compares the same moment; read its median.
 
 #include "Pairs.h"
 #include "ado/Connection.h"
 #include "ado/Drivers.h"
 #include "ado/Recordset.h"
-#include "engine/Instance.h"
+#include "engine/store/Instance.h"
 
 #include <sqlite3.h>
 
@@ -23,10 +23,10 @@ namespace fs = std::filesystem;
 constexpr int kUpdates = 200;
 constexpr int kRows = 100'000;
 constexpr int kColumns = 8;
-constexpr int kLongRow = 64; ///< a thousand rows of it, the most in one INSERT, are 64,000 values
+constexpr int kLongRow = 64; ///< columns; with a thousand rows, the most in one INSERT, 64,000 values
 
-/// An embedded server in a folder of its own, removed at the end. The folder is on the disk of the build tree, so that
-/// a commit costs what a commit costs.
+/// An embedded server in its own folder, removed at the end. The folder is on the disk of the build tree, not in
+/// memory, so that commits take their real time.
 class BenchServer {
 public:
     BenchServer() : folder_(fs::current_path() / ("bench-" + std::to_string(getpid()))) {
@@ -49,8 +49,9 @@ public:
 
     fs::path databaseFile() const {
         for (const auto& entry : fs::recursive_directory_iterator(folder_)) {
-            if (entry.path().filename() == "prova.mdf")
+            if (entry.path().filename() == "prova.mdf") {
                 return entry.path();
+            }
         }
         throw std::runtime_error("the database has no file");
     }
@@ -65,8 +66,9 @@ private:
 class RawDatabase {
 public:
     explicit RawDatabase(const fs::path& file) {
-        if (sqlite3_open(file.c_str(), &handle_) != SQLITE_OK)
+        if (sqlite3_open(file.c_str(), &handle_) != SQLITE_OK) {
             throw std::runtime_error(sqlite3_errmsg(handle_));
+        }
         run("PRAGMA journal_mode=WAL");
         run("PRAGMA synchronous=FULL");
         sqlite3_create_collation(handle_, "TSQL", SQLITE_UTF8, nullptr,
@@ -77,13 +79,15 @@ public:
     RawDatabase& operator=(const RawDatabase&) = delete;
 
     void run(const char* text) {
-        if (sqlite3_exec(handle_, text, nullptr, nullptr, nullptr) != SQLITE_OK)
+        if (sqlite3_exec(handle_, text, nullptr, nullptr, nullptr) != SQLITE_OK) {
             throw std::runtime_error(sqlite3_errmsg(handle_));
+        }
     }
     sqlite3_stmt* prepare(const char* text) {
         sqlite3_stmt* statement = nullptr;
-        if (sqlite3_prepare_v2(handle_, text, -1, &statement, nullptr) != SQLITE_OK)
+        if (sqlite3_prepare_v2(handle_, text, -1, &statement, nullptr) != SQLITE_OK) {
             throw std::runtime_error(sqlite3_errmsg(handle_));
+        }
         return statement;
     }
 
@@ -105,9 +109,10 @@ void RepeatedUpdateOfOneShape(benchmark::State& state) {
     int value = 0;
     for (auto _ : state) {
         const double ours = bench::seconds([&] {
-            for (int i = 0; i < kUpdates; ++i)
+            for (int i = 0; i < kUpdates; ++i) {
                 server.connection.Execute("update conti set saldo = " + std::to_string(++value) +
                                           " where id = " + std::to_string(1 + i % 100));
+            }
         });
         const double theirs = bench::seconds([&] {
             for (int i = 0; i < kUpdates; ++i) {
@@ -147,14 +152,15 @@ struct Checksum {
     double sum = 0;
 
     void add(const ado::Value& value) {
-        if (const auto* text = std::get_if<std::string>(&value.variant()))
+        if (const auto* text = std::get_if<std::string>(&value.variant())) {
             bytes += text->size();
-        else if (const auto* number = std::get_if<std::int32_t>(&value.variant()))
+        } else if (const auto* number = std::get_if<std::int32_t>(&value.variant())) {
             sum += *number;
-        else if (const auto* real = std::get_if<double>(&value.variant()))
+        } else if (const auto* real = std::get_if<double>(&value.variant())) {
             sum += *real;
-        else if (const auto* decimal = std::get_if<ado::Decimal>(&value.variant()))
+        } else if (const auto* decimal = std::get_if<ado::Decimal>(&value.variant())) {
             sum += decimal->toDouble();
+        }
     }
 };
 
@@ -169,13 +175,15 @@ void OpenAndReadRecordset(benchmark::State& state) {
             ado::Recordset rs;
             rs.Open("select * from righe", server.connection, ado::CursorType::Keyset, ado::LockType::Pessimistic);
             for (; !rs.EOF(); rs.MoveNext(), ++rows) {
-                for (int column = 0; column < kColumns; ++column)
+                for (int column = 0; column < kColumns; ++column) {
                     checksum.add(rs[column].Value());
+                }
             }
             rs.Close();
         });
-        if (rows != kRows)
+        if (rows != kRows) {
             state.SkipWithError("not all rows came");
+        }
         std::size_t bytes = 0;
         double sum = 0;
         const double theirs = bench::seconds([&] {
@@ -207,9 +215,9 @@ void OpenAndReadRecordset(benchmark::State& state) {
 }
 BENCHMARK(OpenAndReadRecordset)->Apply(bench::inPairs);
 
-/// Long statements of one kind: `ratio` is what an element costs in one of many against what it costs among the first
-/// thousand. Each statement has a shape of its own, so that no plan is there. The processor's time, for a statement of
-/// some milliseconds is interrupted where one of less isn't.
+/// Long statements of one kind: `ratio` is the time per element of a long statement divided by that of one of a
+/// thousand elements. Each statement has its own shape, so that none is in the plan cache. Processor time is measured,
+/// since long statements are interrupted by other processes more often.
 template<class Statement>
 void perElement(benchmark::State& state, const Statement& statement) {
     constexpr int kFew = 1000;
@@ -217,8 +225,9 @@ void perElement(benchmark::State& state, const Statement& statement) {
     server.connection.Execute("CREATE TABLE conti (id int NOT NULL PRIMARY KEY, saldo int NULL)");
     server.connection.Execute("INSERT INTO conti (id) VALUES (1), (2), (3)");
     std::string columns;
-    for (int i = 1; i < kLongRow; ++i)
+    for (int i = 1; i < kLongRow; ++i) {
         columns += ", c" + std::to_string(i) + " int NULL";
+    }
     server.connection.Execute("CREATE TABLE larga (c0 int NULL" + columns + ")");
     int runs = 0;
     const auto run = [&](int elements) {
@@ -240,8 +249,9 @@ void perElement(benchmark::State& state, const Statement& statement) {
 void InList(benchmark::State& state) {
     perElement(state, [](int elements, int run) {
         std::string text = "update conti set saldo = 1 where id in (0";
-        for (int i = run; i < elements; ++i)
+        for (int i = run; i < elements; ++i) {
             text += "," + std::to_string(i);
+        }
         return text + ")";
     });
 }
@@ -249,8 +259,9 @@ void InList(benchmark::State& state) {
 void CaseBranches(benchmark::State& state) {
     perElement(state, [](int elements, int run) {
         std::string text = "update conti set saldo = case id";
-        for (int i = run; i < elements; ++i)
+        for (int i = run; i < elements; ++i) {
             text += " when " + std::to_string(i) + " then " + std::to_string(i);
+        }
         return text + " end";
     });
 }
@@ -262,15 +273,17 @@ void InsertedValues(benchmark::State& state) {
             text += i % kLongRow > 0 ? "," : i > 0 ? "),(" : "(";
             text += i < 8 && (run >> i & 1U) != 0 ? "null" : std::to_string(i);
         }
-        for (int i = elements; i % kLongRow > 0; ++i)
+        for (int i = elements; i % kLongRow > 0; ++i) {
             text += ",0";
+        }
         return text + ")";
     });
 }
 
 void fewToMany(benchmark::internal::Benchmark* benchmark) {
-    for (const int elements : {1000, 4000, 16'000, 64'000})
+    for (const int elements : {1000, 4000, 16'000, 64'000}) {
         benchmark->Arg(elements);
+    }
     bench::inPairs(benchmark);
 }
 BENCHMARK(InList)->Apply(fewToMany);

@@ -1,6 +1,7 @@
 #pragma once
 
-// Two neighbours in time, ours and a raw one: what is read of them is the median of their ratios.
+// Pairs of measurements, the program's and a raw one, taken one after the other. The result is the median of their
+// ratios.
 
 #include <benchmark/benchmark.h>
 
@@ -23,7 +24,7 @@ inline void report(benchmark::State& state, double ours, double raw) {
     state.counters["raw_ms"] = raw * 1e3;
 }
 
-/// One pair a repetition, its aggregates alone in the report.
+/// One pair per repetition; only the aggregates are reported.
 inline void inPairs(benchmark::internal::Benchmark* benchmark) {
     benchmark->UseManualTime()->Unit(benchmark::kMillisecond)->Iterations(1)->Repetitions(kPairs);
     benchmark->ReportAggregatesOnly();

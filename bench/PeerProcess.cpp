@@ -1,6 +1,6 @@
 #include "PeerProcess.h"
 
-#include "engine/Instance.h"
+#include "engine/store/Instance.h"
 
 #include <array>
 #include <csignal>
@@ -26,8 +26,9 @@ PeerProcess::PeerProcess(const std::string& program)
 
 void PeerProcess::start(const std::string& program) {
     std::array<int, 2> ends{};
-    if (pipe(ends.data()) != 0)
+    if (pipe(ends.data()) != 0) {
         throw std::runtime_error("no pipe to the server");
+    }
     const std::string server = (folder_ / "server").string();
     process_ = fork();
     if (process_ == 0) {
@@ -40,11 +41,14 @@ void PeerProcess::start(const std::string& program) {
     }
     close(ends[1]);
     FILE* said = fdopen(ends[0], "r");
-    const bool told = said && std::fscanf(said, "port %d", &port_) == 1; // NOLINT(cert-err34-c): our own line
-    if (said)
+    const bool told =
+        said && std::fscanf(said, "port %d", &port_) == 1; // NOLINT(cert-err34-c): the line is the server's
+    if (said) {
         static_cast<void>(std::fclose(said));
-    if (!told)
+    }
+    if (!told) {
         throw std::runtime_error(program + " tells no port");
+    }
 }
 
 PeerProcess::~PeerProcess() {

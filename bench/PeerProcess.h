@@ -6,11 +6,11 @@
 
 namespace bench {
 
-/// The server of the wire protocol in a process of its own on a free port of the loopback, with a login "sa" and a
-/// database "prova". Process and folder end with the object.
+/// The server of the wire protocol in its own process, on a free port of the loopback, with a login "sa" and a database
+/// "prova". Process and folder are removed with the object.
 class PeerProcess {
 public:
-    /// `program` is the server's executable. Throws std::runtime_error when it doesn't start.
+    /// `program` is the server's executable. Throws std::runtime_error where it doesn't start.
     explicit PeerProcess(const std::string& program);
     ~PeerProcess();
     PeerProcess(const PeerProcess&) = delete;

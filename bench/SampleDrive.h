@@ -1,6 +1,6 @@
 #pragma once
 
-// The sample workstation of one benchmark's process, which the program then takes for its own.
+// The sample workstation for one benchmark's process, set by environment variables.
 
 #include "provision/Provision.h"
 
@@ -12,18 +12,20 @@
 
 namespace bench {
 
-/// This machine's name as a terminal's.
+/// This machine's name, cleaned as a terminal's name is.
 inline std::string terminalName() {
     std::array<char, 256> host{};
     gethostname(host.data(), host.size() - 1);
     std::string terminal(host.data());
     terminal = terminal.substr(0, terminal.find('.'));
-    for (char& c : terminal)
+    for (char& c : terminal) {
         c = c == '-' ? '_' : c;
+    }
     return terminal;
 }
 
-/// A folder that goes with the object. Data sources are its own, and windows stay off the screen.
+/// A drive C in a folder that is removed with the object. Its data sources are separate from the user's, and windows
+/// are offscreen.
 class SampleDrive {
 public:
     explicit SampleDrive(provision::Plan plan = {})

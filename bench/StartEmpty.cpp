@@ -1,4 +1,4 @@
-// The least that a Qt program can do: one window with two fields. It says how long it took since its parent called it.
+// A minimal Qt program: one window with two fields. It prints the time since its parent's call.
 
 #include <QApplication>
 #include <QLineEdit>
@@ -11,8 +11,9 @@
 #include <cstdlib>
 
 int main(int argc, char** argv) {
-    if (argc < 2)
+    if (argc < 2) {
         return 2;
+    }
     const long long called = std::atoll(argv[1]);
     QApplication application(argc, argv);
     QWidget window;

@@ -1,6 +1,6 @@
-// The program, started by the benchmark on a sample workstation: it tells on its standard output how long each taking
-// up of a company took and when the login stood on the screen, counted from the moment its parent called it, then goes
-// on into the console as the first user and ends.
+// The program, started by the benchmark with a sample workstation. It prints how long each taking up of a company took,
+// and the time from its parent's call to the login on the screen. Then it logs in as the first user, opens the company
+// console and ends.
 
 #include "app/Program.h"
 #include "session/TreatForms.h"
@@ -21,15 +21,17 @@ long long now() {
 }
 
 void tell(QtMsgType /*type*/, const QMessageLogContext& context, const QString& text) {
-    if (context.category && qstrcmp(context.category, "vabo.time") == 0)
+    if (context.category && qstrcmp(context.category, "vabo.time") == 0) {
         std::printf("%s\n", qPrintable(text));
+    }
 }
 
 } // namespace
 
 int main(int argc, char** argv) {
-    if (argc < 2)
+    if (argc < 2) {
         return 2;
+    }
     const long long called = std::atoll(argv[1]);
     qInstallMessageHandler(tell);
     app::Program program(argc, argv);
@@ -37,8 +39,9 @@ int main(int argc, char** argv) {
     QTimer::singleShot(0, &program.forms(), [&] {
         program.forms().show("Avvio");
         QCoreApplication::processEvents();
-        if (!program.forms().isLoaded("About"))
+        if (!program.forms().isLoaded("About")) {
             std::_Exit(1);
+        }
         std::printf("shown %lld\n", now() - called);
         vabo::ApriForm("Avvio_Azienda", true);
         std::fflush(stdout);

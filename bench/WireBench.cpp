@@ -1,6 +1,6 @@
-// The data layer over the wire against the shortest program of the data source interface, in one process, with the same
-// connection text, on the same server. `--pooled` lets the driver manager keep connections; without it the machine's
-// registry of drivers decides.
+// The data layer over the wire compared with the fewest ODBC calls for the same work, in one process, with the same
+// connection text, on the same server. With `--pooled` the driver manager keeps connections; without it the machine's
+// configuration decides.
 
 #include "Pairs.h"
 #include "PeerProcess.h"
@@ -16,7 +16,7 @@
 
 namespace {
 
-constexpr int kTurns = 10; ///< how often the two sides take turns in one pair
+constexpr int kTurns = 10; ///< how often the two alternate in one pair
 constexpr int kUpdates = 200 / kTurns;
 constexpr int kConnections = 100 / kTurns;
 
@@ -25,21 +25,22 @@ bench::PeerProcess& server() {
     return process;
 }
 
-/// What the data layer gives to the driver for its own connection text.
+/// The connection text that the data layer gives to the driver.
 std::string driverText() {
     return ado::odbc::driverText(ado::ConnectionString(server().connectionString()), "FreeTDS");
 }
 
 void needed(SQLRETURN code, const char* call) {
-    if (!SQL_SUCCEEDED(code))
+    if (!SQL_SUCCEEDED(code)) {
         throw std::runtime_error(std::string(call) + " failed");
+    }
 }
 
 SQLCHAR* narrow(std::string& text) {
     return reinterpret_cast<SQLCHAR*>(text.data());
 }
 
-/// Calls without a word more than the interface asks for.
+/// A connection with only the ODBC calls that are necessary.
 class RawConnection {
 public:
     RawConnection() { needed(SQLAllocHandle(SQL_HANDLE_DBC, ado::odbc::environment(), &handle_), "SQLAllocHandle"); }
@@ -79,7 +80,7 @@ private:
     SQLHANDLE handle_ = nullptr;
 };
 
-/// One pair: the two sides in turn, so that what disturbs the machine disturbs both.
+/// One pair: the two alternate, so that a disturbance of the machine affects both.
 template<typename Ours, typename Theirs>
 void takeTurns(benchmark::State& state, const Ours& ours, const Theirs& theirs) {
     double oursTook = 0, theirsTook = 0;
@@ -97,8 +98,9 @@ std::string update(int value) {
 void fill(ado::Connection& connection) {
     connection.Execute("IF OBJECT_ID('conti') IS NOT NULL DROP TABLE conti");
     connection.Execute("CREATE TABLE conti (id int NOT NULL PRIMARY KEY, saldo int NOT NULL)");
-    for (int id = 1; id <= 100; ++id)
+    for (int id = 1; id <= 100; ++id) {
         connection.Execute("INSERT INTO conti (id, saldo) VALUES (" + std::to_string(id) + ", 0)");
+    }
 }
 
 void RepeatedUpdate(benchmark::State& state) {
@@ -113,12 +115,14 @@ void RepeatedUpdate(benchmark::State& state) {
         takeTurns(
             state,
             [&] {
-                for (int i = 0; i < kUpdates; ++i)
+                for (int i = 0; i < kUpdates; ++i) {
                     connection.Execute(update(++value));
+                }
             },
             [&] {
-                for (int i = 0; i < kUpdates; ++i)
+                for (int i = 0; i < kUpdates; ++i) {
                     statement.run(update(++value));
+                }
             });
     }
 }
@@ -147,7 +151,8 @@ void ConnectAndDisconnect(benchmark::State& state) {
 }
 BENCHMARK(ConnectAndDisconnect)->Apply(bench::inPairs);
 
-/// A registry of drivers in which connections are kept for a minute, in place of the machine's.
+/// Sets a configuration of the driver manager, in the place of the machine's, in which connections are kept for a
+/// minute.
 void keepConnections() {
     std::ofstream(server().folder() / "odbcinst.ini")
         << "[ODBC]\nPooling=Yes\n[FreeTDS]\nDriver=libtdsodbc.so\nCPTimeout=60\n";
@@ -164,8 +169,9 @@ int main(int argc, char** argv) {
         ++argv;
     }
     benchmark::Initialize(&argc, argv);
-    if (benchmark::ReportUnrecognizedArguments(argc, argv))
+    if (benchmark::ReportUnrecognizedArguments(argc, argv)) {
         return 1;
+    }
     benchmark::RunSpecifiedBenchmarks();
     return 0;
 }

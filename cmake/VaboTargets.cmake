@@ -4,7 +4,7 @@ add_library(vabo_options INTERFACE)
 target_compile_features(vabo_options INTERFACE cxx_std_20)
 target_compile_options(vabo_options INTERFACE -Wall -Wextra -Wpedantic -Werror)
 if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU" AND CMAKE_CXX_COMPILER_VERSION VERSION_LESS 13)
-    # Where it optimises, this compiler sees overlaps in std::string that are not there.
+    # With optimisation this compiler reports overlaps in std::string that don't exist.
     target_compile_options(vabo_options INTERFACE $<$<NOT:$<CONFIG:Debug>>:-Wno-restrict>)
 endif()
 target_include_directories(vabo_options INTERFACE ${CMAKE_SOURCE_DIR}/src)
@@ -35,23 +35,26 @@ function(vabo_library name)
     endif()
 endfunction()
 
-# vabo_test(name SOURCES … LINKS …): one test executable and its ctest entry. With ROADS it has two entries, "embedded"
-# and "wire": one for each road to the server; with WIRE the second alone. What was tested is counted from the results
-# by tools/count-tests.sh.
+# vabo_test(name SOURCES … LINKS …): one test executable and its ctest entry. With BOTH_DRIVERS it has two entries, one
+# with each driver of the data layer, labelled "embedded" and "wire"; with WIRE the second alone. tools/count-tests.sh
+# counts from the results what was tested.
 function(vabo_test name)
-    cmake_parse_arguments(ARG "QT;ROADS;WIRE" "" "SOURCES;LINKS;LABELS" ${ARGN})
+    cmake_parse_arguments(ARG "QT;BOTH_DRIVERS;WIRE" "" "SOURCES;LINKS;LABELS" ${ARGN})
+    if(ARG_UNPARSED_ARGUMENTS)
+        message(FATAL_ERROR "vabo_test(${name}): unknown ${ARG_UNPARSED_ARGUMENTS}")
+    endif()
     add_executable(${name} ${ARG_SOURCES})
     target_link_libraries(${name} PRIVATE vabo_options ${ARG_LINKS} GTest::gtest GTest::gmock)
     target_include_directories(${name} PRIVATE ${CMAKE_SOURCE_DIR}/tests)
     if(ARG_QT)
         set_target_properties(${name} PROPERTIES AUTOMOC ON AUTOUIC ON)
     endif()
-    if(ARG_ROADS)
-        vabo_test_entry(${name} ${name} embedded --road=embedded)
+    if(ARG_BOTH_DRIVERS)
+        vabo_test_entry(${name} ${name} embedded --driver=embedded)
         string(REGEX REPLACE "_test$" "_wire_test" wire ${name})
-        vabo_test_entry(${wire} ${name} wire --road=wire)
+        vabo_test_entry(${wire} ${name} wire --driver=wire)
     elseif(ARG_WIRE)
-        vabo_test_entry(${name} ${name} wire --road=wire)
+        vabo_test_entry(${name} ${name} wire --driver=wire)
     elseif(ARG_LABELS)
         vabo_test_entry(${name} ${name} ${ARG_LABELS})
     else()

@@ -3,7 +3,7 @@
 # it, and lists the changes that no test noticed:
 #   tools/mutate.sh                       all changes of the subsystems
 #   tools/mutate.sh rights kit            all changes of two folders
-#   tools/mutate.sh session --sample 60   sixty of them, drawn by --seed
+#   tools/mutate.sh session --sample 60   sixty of them, chosen at random (--seed)
 # It works on a copy of the tree in build/mutate; the sources stay as they are. Not part of CI: it takes hours.
 set -euo pipefail
 cd "$(dirname "$0")/.."

@@ -1,5 +1,5 @@
 #!/usr/bin/env bash
-# Installs the Debian packages of one purpose: build, test or check. Does nothing where they are all there.
+# Installs the Debian packages for the given purposes (build, test, check, bench). Does nothing where none is missing.
 set -euo pipefail
 
 build=(g++ cmake ninja-build qt6-base-dev qt6-base-dev-tools libgl-dev qt6-translations-l10n libsqlite3-dev libicu-dev

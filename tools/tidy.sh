@@ -1,5 +1,5 @@
 #!/usr/bin/env bash
-# clang-tidy over every source that a built preset (ci unless named) compiles, or over the files given behind it.
+# Runs clang-tidy on every source that a built preset (ci unless named) compiles, or on the files named after the preset.
 set -euo pipefail
 cd "$(dirname "$0")/.."
 preset=${1:-ci}

@@ -5,8 +5,9 @@
 
 namespace ado {
 
-/// The value as its column keeps it: of the column's own type, or null. Texts go by the regional settings, numbers to
-/// whole ones half to even, an excess of trailing blanks is cut. Error -2147217887 for what doesn't go in.
+/// The value as its column stores it: of the column's type, or null. Texts are read by the regional settings, whole
+/// numbers are rounded half to even, trailing blanks beyond the column's length are cut. Raises error -2147217887 for a
+/// value that doesn't fit.
 Value coerced(const Value& value, const FieldDescription& column);
 
 } // namespace ado

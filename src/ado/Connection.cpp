@@ -18,11 +18,12 @@ StatementRecorder& recorder() {
     return current;
 }
 
-std::int64_t runToTheEnd(DriverConnection& road, const std::string& text) {
-    const auto result = road.run(text);
+std::int64_t runToTheEnd(DriverConnection& connection, const std::string& text) {
+    const auto result = connection.run(text);
     std::int64_t written = 0;
-    while (result->nextResult())
+    while (result->nextResult()) {
         written += std::max<std::int64_t>(result->affected(), 0);
+    }
     return written;
 }
 
@@ -33,22 +34,25 @@ void setStatementRecorder(StatementRecorder newRecorder) {
 }
 
 void recordStatement(const std::string& text) {
-    if (recorder())
+    if (recorder()) {
         recorder()(text);
+    }
     qCDebug(sqlCategory).noquote() << QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
 }
 
 Connection::~Connection() = default;
 
 void Connection::setConnectionString(const std::string& text) {
-    if (IsOpen())
+    if (IsOpen()) {
         throw Error(kObjectOpen);
+    }
     connectionString_ = text;
 }
 
 void Connection::Open() {
-    if (IsOpen())
+    if (IsOpen()) {
         throw Error(kObjectOpen);
+    }
     connect();
 }
 
@@ -57,10 +61,12 @@ void Connection::connect() {
     driver_ = driverFor(text).connect(text);
 }
 
-/// What was begun on the lost one, a recordset or a row held, stays with it and fails.
+/// Connects again where the server was lost. Recordsets and holds opened before keep the lost connection, and their
+/// next use of it fails.
 void Connection::reconnect() {
-    if (!driver_->alive())
+    if (!driver_->alive()) {
         connect();
+    }
 }
 
 void Connection::Open(const std::string& text) {
@@ -69,14 +75,16 @@ void Connection::Open(const std::string& text) {
 }
 
 void Connection::Close() {
-    if (!IsOpen())
+    if (!IsOpen()) {
         throw Error(kObjectClosed);
+    }
     driver_.reset();
 }
 
 std::int64_t Connection::Execute(const std::string& text) {
-    if (!IsOpen())
+    if (!IsOpen()) {
         throw Error(kObjectClosed);
+    }
     recordStatement(text);
     try {
         reconnect();
@@ -87,9 +95,10 @@ std::int64_t Connection::Execute(const std::string& text) {
     }
 }
 
-std::shared_ptr<DriverConnection> Connection::road() {
-    if (!IsOpen())
+std::shared_ptr<DriverConnection> Connection::driverConnection() {
+    if (!IsOpen()) {
         throw Error(kConnectionUnusable);
+    }
     reconnect();
     return driver_;
 }

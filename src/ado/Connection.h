@@ -11,7 +11,7 @@ namespace ado {
 
 class Recordset;
 
-/// A connection as the program knows it. Its text is kept after Close.
+/// A connection to a server. Its connection text is kept after Close.
 class Connection {
 public:
     Connection() = default;
@@ -20,23 +20,23 @@ public:
     ~Connection();
 
     const std::string& ConnectionString() const { return connectionString_; }
-    /// Error 3705 while open.
+    /// Raises error 3705 while open.
     void setConnectionString(const std::string& text);
 
-    /// Error 3705 while open; errors of driver and server.
+    /// Raises error 3705 while open, and errors of driver and server.
     void Open();
     void Open(const std::string& text);
-    /// Error 3704 when not open.
+    /// Raises error 3704 when not open.
     void Close();
     bool IsOpen() const { return driver_ != nullptr; }
 
-    // A connection that has lost its server says so once; its next use reaches the server that is back.
+    // Where the server is lost, the use that notices it raises; the next use connects again.
 
-    /// Runs a text to its end and gives the rows written; the first error raises. Error 3704 when closed.
+    /// Runs all statements of a text and returns how many rows they wrote. Raises the first error; 3704 when closed.
     std::int64_t Execute(const std::string& text);
 
-    /// For Recordset: the road below, alive as long as anybody uses it. Error 3709 when closed.
-    std::shared_ptr<DriverConnection> road();
+    /// For Recordset: the driver's connection, which lives as long as it is in use. Raises error 3709 when closed.
+    std::shared_ptr<DriverConnection> driverConnection();
 
 private:
     void connect();
@@ -46,7 +46,8 @@ private:
     std::shared_ptr<DriverConnection> driver_;
 };
 
-/// The one place every statement passes. The recorder sees each text before it is sent; tests set it.
+/// Every statement is passed to recordStatement before it is sent, which logs it and calls the recorder. Tests set the
+/// recorder.
 using StatementRecorder = std::function<void(const std::string&)>;
 void setStatementRecorder(StatementRecorder recorder);
 void recordStatement(const std::string& text);

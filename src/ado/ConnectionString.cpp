@@ -10,8 +10,8 @@ namespace ado {
 
 namespace {
 
-/// Up to the closing mark, which stands doubled inside; what follows up to the ";" doesn't count. Without a closing
-/// mark all the rest is the value.
+/// The value up to the closing mark, which is doubled inside the value. Text between the mark and the next ";" is
+/// ignored. Without a closing mark all the rest is the value.
 std::string takeMarked(std::string_view& rest, char close) {
     std::string value;
     rest.remove_prefix(1);
@@ -19,8 +19,9 @@ std::string takeMarked(std::string_view& rest, char close) {
         const char c = rest.front();
         rest.remove_prefix(1);
         if (c == close) {
-            if (!rest.starts_with(close))
+            if (!rest.starts_with(close)) {
                 break;
+            }
             rest.remove_prefix(1);
         }
         value += c;
@@ -30,12 +31,15 @@ std::string takeMarked(std::string_view& rest, char close) {
 }
 
 std::string takeValue(std::string_view& rest) {
-    while (!rest.empty() && isBlank(rest.front()))
+    while (!rest.empty() && isBlank(rest.front())) {
         rest.remove_prefix(1);
-    if (rest.starts_with('{'))
+    }
+    if (rest.starts_with('{')) {
         return takeMarked(rest, '}');
-    if (rest.starts_with('"') || rest.starts_with('\''))
+    }
+    if (rest.starts_with('"') || rest.starts_with('\'')) {
         return takeMarked(rest, rest.front());
+    }
     const std::string_view value = rest.substr(0, rest.find(';'));
     rest.remove_prefix(value.size());
     return std::string(trimmed(value));
@@ -51,19 +55,22 @@ ConnectionString::ConnectionString(std::string_view text) : text_(text) {
         if (rest.starts_with('=')) {
             rest.remove_prefix(1);
             std::string value = takeValue(rest);
-            if (!trimmed(key).empty())
+            if (!trimmed(key).empty()) {
                 pairs_.emplace_back(trimmed(key), std::move(value));
+            }
         }
-        if (!rest.empty())
+        if (!rest.empty()) {
             rest.remove_prefix(1);
+        }
     }
 }
 
 std::string ConnectionString::firstOf(std::initializer_list<std::string_view> names) const {
     for (const auto& [key, value] : pairs_) {
         const auto isThis = [&key = key](std::string_view name) { return sameName(key, name); };
-        if (std::ranges::any_of(names, isThis))
+        if (std::ranges::any_of(names, isThis)) {
             return value;
+        }
     }
     return {};
 }

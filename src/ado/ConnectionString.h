@@ -9,8 +9,8 @@
 
 namespace ado {
 
-/// The keys of a connection text in their order, read by any of their names. Values may stand in braces or quotes.
-/// Of a key that stands twice the first counts.
+/// The keys and values of a connection text. Values may be in braces or quotes. Where a key occurs twice, its first
+/// value counts.
 class ConnectionString {
 public:
     explicit ConnectionString(std::string_view text);
@@ -25,7 +25,7 @@ public:
     std::string password() const; ///< PWD, Password
 
 private:
-    /// The value of the first pair whose key is one of the names, empty where there is none.
+    /// The value of the first key that is one of the names; empty where there is none.
     std::string firstOf(std::initializer_list<std::string_view> names) const;
 
     std::string text_;

@@ -43,8 +43,9 @@ double serialNumber(Date date) {
 }
 
 Date fromSerialNumber(double number) {
-    if (!(number >= kFirstDay && number < kLastDay + 1))
+    if (!(number >= kFirstDay && number < kLastDay + 1)) {
         throw Error(kOverflow);
+    }
     double day = std::trunc(number);
     double millisecond = std::round(std::fabs(number - day) * kMillisecondsOfDay);
     if (millisecond >= kMillisecondsOfDay) {
@@ -55,17 +56,19 @@ Date fromSerialNumber(double number) {
 }
 
 double numberOfText(const std::string& text) {
-    if (const auto number = parseNumber(text))
+    if (const auto number = parseNumber(text)) {
         return *number;
+    }
     throw Error(kTypeMismatch);
 }
 
-/// nearbyint follows the rounding of the processor, half to even by default.
+/// nearbyint rounds as the processor is set, which is half to even by default.
 template<typename Integer>
 Integer toWhole(const Value& value) {
     const double rounded = std::nearbyint(toDouble(value));
-    if (!(rounded >= std::numeric_limits<Integer>::min() && rounded <= std::numeric_limits<Integer>::max()))
+    if (!(rounded >= std::numeric_limits<Integer>::min() && rounded <= std::numeric_limits<Integer>::max())) {
         throw Error(kOverflow);
+    }
     return static_cast<Integer>(rounded);
 }
 
@@ -77,21 +80,25 @@ std::string significant(double number, int digits) {
     return result;
 }
 
-/// unscaled / 10^scale without the zeros at its end.
+/// The text of unscaled / 10^scale without zeros at its end.
 std::string scaledText(std::int64_t unscaled, int scale) {
     std::string digits = std::to_string(unscaled);
     const bool negative = digits.front() == '-';
-    if (negative)
+    if (negative) {
         digits.erase(0, 1);
+    }
     const auto decimals = static_cast<std::size_t>(std::max(scale, 0));
-    if (digits.size() <= decimals)
+    if (digits.size() <= decimals) {
         digits.insert(0, decimals + 1 - digits.size(), '0');
+    }
     std::string fraction = digits.substr(digits.size() - decimals);
     digits.resize(digits.size() - decimals);
-    while (!fraction.empty() && fraction.back() == '0')
+    while (!fraction.empty() && fraction.back() == '0') {
         fraction.pop_back();
-    if (!fraction.empty())
+    }
+    if (!fraction.empty()) {
         digits += regionalSettings().decimalSeparator + fraction;
+    }
     return (negative ? "-" : "") + digits;
 }
 
@@ -128,18 +135,21 @@ std::uint8_t toByte(const Value& value) {
 
 bool toBoolean(const Value& value) {
     if (const auto* text = std::get_if<std::string>(&value.variant())) {
-        if (const auto truth = truthWord(*text))
+        if (const auto truth = truthWord(*text)) {
             return *truth;
+        }
     }
     return toDouble(value) != 0;
 }
 
 Date toDate(const Value& value) {
-    if (const auto* date = std::get_if<Date>(&value.variant()))
+    if (const auto* date = std::get_if<Date>(&value.variant())) {
         return *date;
+    }
     if (const auto* text = std::get_if<std::string>(&value.variant())) {
-        if (const auto date = parseDate(*text))
+        if (const auto date = parseDate(*text)) {
             return *date;
+        }
         throw Error(kTypeMismatch);
     }
     return fromSerialNumber(toDouble(value));

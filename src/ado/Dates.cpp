@@ -1,4 +1,4 @@
-// Dates as texts and texts as dates, by the regional settings.
+// Dates to texts and texts to dates, by the regional settings.
 
 #include "ado/Conversions.h"
 #include "ado/Error.h"
@@ -14,7 +14,7 @@ namespace ado {
 
 namespace {
 
-// The day that a time without a date stands on.
+// The day of a time without a date.
 constexpr std::int32_t kZeroDay = -25569;
 constexpr int kMillisecondsOfSecond = 1000;
 
@@ -25,7 +25,7 @@ std::optional<Date>& fixedToday() {
     return day;
 }
 
-/// A line's end is none: it ends no date.
+/// Line ends are no blanks here.
 bool isSpace(char c) {
     return c == ' ' || c == '\t';
 }
@@ -33,55 +33,64 @@ bool isSpace(char c) {
 struct Piece {
     int number = 0;
     int digits = 0;
-    char separator = 0; ///< what stands behind it, 0 at the end
+    char separator = 0; ///< the character after the number, 0 at the end
 };
 
-/// The numbers of one text and what divides them. Blanks around a separator don't count.
+/// The numbers of a text and their separators. Blanks around a separator are ignored.
 std::optional<std::vector<Piece>> pieces(std::string_view text) {
     std::vector<Piece> found;
     std::size_t at = 0;
     const auto skipBlanks = [&] {
-        while (at < text.size() && isSpace(text[at]))
+        while (at < text.size() && isSpace(text[at])) {
             ++at;
+        }
     };
     for (;;) {
         skipBlanks();
         Piece piece;
         for (; at < text.size() && isDigit(text[at]); ++at, ++piece.digits) {
-            if (piece.digits == 4)
+            if (piece.digits == 4) {
                 return std::nullopt;
+            }
             piece.number = piece.number * 10 + (text[at] - '0');
         }
-        if (piece.digits == 0)
+        if (piece.digits == 0) {
             return std::nullopt;
+        }
         const std::size_t end = at;
         skipBlanks();
-        if (at < text.size() && std::string_view("/-.:").find(text[at]) != std::string_view::npos)
+        if (at < text.size() && std::string_view("/-.:").find(text[at]) != std::string_view::npos) {
             piece.separator = text[at++];
-        else if (at < text.size() && at > end && isDigit(text[at]))
+        } else if (at < text.size() && at > end && isDigit(text[at])) {
             piece.separator = ' ';
+        }
         found.push_back(piece);
-        if (at == text.size())
+        if (at == text.size()) {
             return piece.separator == 0 ? std::optional(found) : std::nullopt;
-        if (piece.separator == 0)
+        }
+        if (piece.separator == 0) {
             return std::nullopt;
+        }
     }
 }
 
 std::optional<int> yearOf(const Piece& piece) {
-    if (piece.digits >= 3)
+    if (piece.digits >= 3) {
         return piece.number >= 100 ? std::optional(piece.number) : std::nullopt;
+    }
     return piece.number <= 29 ? 2000 + piece.number : 1900 + piece.number;
 }
 
 std::optional<Date> dateOf(std::optional<int> year, const Piece& month, const Piece& day) {
     using namespace std::chrono;
-    if (!year || month.digits > 2 || day.digits > 2)
+    if (!year || month.digits > 2 || day.digits > 2) {
         return std::nullopt;
+    }
     const year_month_day date(std::chrono::year(*year), std::chrono::month(static_cast<unsigned>(month.number)),
                               std::chrono::day(static_cast<unsigned>(day.number)));
-    if (!date.ok())
+    if (!date.ok()) {
         return std::nullopt;
+    }
     return Date{static_cast<std::int32_t>(sys_days(date).time_since_epoch().count()), 0};
 }
 
@@ -97,17 +106,18 @@ std::optional<Date> inOrder(Order order, const Piece& a, const Piece& b, const P
     return std::nullopt;
 }
 
-/// The order of the settings first; a date that doesn't exist in it is tried in the others.
+/// Read in the order of the regional settings, or where that gives no existing date in the other orders.
 std::optional<Date> fullDate(const Piece& a, const Piece& b, const Piece& c) {
     for (const Order order :
          {regionalSettings().dateOrder, Order::DayMonthYear, Order::MonthDayYear, Order::YearMonthDay}) {
-        if (const auto date = inOrder(order, a, b, c))
+        if (const auto date = inOrder(order, a, b, c)) {
             return date;
+        }
     }
     return dateOf(yearOf(a), c, b);
 }
 
-/// Day and month of the current year, or else month and year, whose first day is meant.
+/// Day and month of the current year, or else month and year, which give the month's first day.
 std::optional<Date> shortDate(const Piece& a, const Piece& b) {
     const int year = today().year();
     const bool dayFirst = regionalSettings().dateOrder == Order::DayMonthYear;
@@ -115,16 +125,18 @@ std::optional<Date> shortDate(const Piece& a, const Piece& b) {
     for (const auto& date :
          {dayFirst ? dateOf(year, b, a) : dateOf(year, a, b), dayFirst ? dateOf(year, a, b) : dateOf(year, b, a),
           dateOf(yearOf(b), a, first), dateOf(yearOf(a), b, first)}) {
-        if (date)
+        if (date) {
             return date;
+        }
     }
     return std::nullopt;
 }
 
 bool dividedBy(const std::vector<Piece>& parts, std::size_t from, std::size_t to, std::string_view separators) {
     for (std::size_t i = from; i + 1 < to; ++i) {
-        if (separators.find(parts[i].separator) == std::string_view::npos)
+        if (separators.find(parts[i].separator) == std::string_view::npos) {
             return false;
+        }
     }
     return true;
 }
@@ -133,48 +145,56 @@ enum class Half { None, Morning, Afternoon };
 
 std::optional<std::int32_t> timeOf(const std::vector<Piece>& parts, std::size_t from, Half half) {
     const std::size_t count = parts.size() - from;
-    if (count > 3 || (count < 2 && half == Half::None) || !dividedBy(parts, from, parts.size(), ":."))
+    if (count > 3 || (count < 2 && half == Half::None) || !dividedBy(parts, from, parts.size(), ":.")) {
         return std::nullopt;
+    }
     std::array<int, 3> units{};
     for (std::size_t i = 0; i < count; ++i) {
-        if (parts[from + i].digits > 2)
+        if (parts[from + i].digits > 2) {
             return std::nullopt;
+        }
         units[i] = parts[from + i].number;
     }
     auto& [hour, minute, second] = units;
     if (half != Half::None) {
-        if (hour > 12)
+        if (hour > 12) {
             return std::nullopt;
+        }
         hour = hour % 12 + (half == Half::Afternoon ? 12 : 0);
     }
-    if (hour > 23 || minute > 59 || second > 59)
+    if (hour > 23 || minute > 59 || second > 59) {
         return std::nullopt;
+    }
     return ((hour * 60 + minute) * 60 + second) * kMillisecondsOfSecond;
 }
 
 std::optional<Date> dateAlone(const std::vector<Piece>& parts, std::size_t count) {
-    if (!dividedBy(parts, 0, count, "/-. "))
+    if (!dividedBy(parts, 0, count, "/-. ")) {
         return std::nullopt;
-    if (count == 3)
+    }
+    if (count == 3) {
         return fullDate(parts[0], parts[1], parts[2]);
+    }
     return count == 2 ? shortDate(parts[0], parts[1]) : std::nullopt;
 }
 
 std::optional<Date> dateAndTime(const std::vector<Piece>& parts, Half half) {
     for (const std::size_t count : {std::size_t{3}, std::size_t{2}}) {
-        if (parts.size() <= count || parts[count - 1].separator != ' ')
+        if (parts.size() <= count || parts[count - 1].separator != ' ') {
             continue;
+        }
         auto date = dateAlone(parts, count);
         const auto time = timeOf(parts, count, half);
-        if (!date || !time)
+        if (!date || !time) {
             continue;
+        }
         date->millisecond = *time;
         return date;
     }
     return std::nullopt;
 }
 
-/// Writes the number of a month in place of its name, with separators around it; true when one stood there.
+/// Replaces a month's name by its number with separators around it. True where there was a name.
 void spellOutMonth(std::string& text) {
     static constexpr std::array<std::string_view, 12> kMonths = {"gennaio",   "febbraio", "marzo",    "aprile",
                                                                  "maggio",    "giugno",   "luglio",   "agosto",
@@ -230,8 +250,9 @@ std::string formatDay(Date date) {
 } // namespace
 
 Date today() {
-    if (fixedToday())
+    if (fixedToday()) {
         return *fixedToday();
+    }
     const std::time_t now = std::chrono::system_clock::to_time_t(std::chrono::system_clock::now());
     std::tm local{};
 #ifdef _WIN32
@@ -251,18 +272,22 @@ std::optional<Date> parseDate(std::string_view text) {
     const Half half = takeHalf(plain);
     spellOutMonth(plain);
     const auto parts = pieces(plain);
-    if (!parts)
+    if (!parts) {
         return std::nullopt;
-    if (const auto time = timeOf(*parts, 0, half))
+    }
+    if (const auto time = timeOf(*parts, 0, half)) {
         return Date{kZeroDay, *time};
-    if (const auto date = dateAndTime(*parts, half))
+    }
+    if (const auto date = dateAndTime(*parts, half)) {
         return date;
+    }
     return half == Half::None ? dateAlone(*parts, parts->size()) : std::nullopt;
 }
 
 std::string formatDate(Date date) {
-    if (date.day == kZeroDay)
+    if (date.day == kZeroDay) {
         return formatTime(date.millisecond);
+    }
     return date.millisecond == 0 ? formatDay(date) : formatDay(date) + " " + formatTime(date.millisecond);
 }
 

@@ -1,7 +1,7 @@
 #pragma once
 
-// What a road to a server must offer. Everything above is written once on top of it; where drivers differ they say so
-// in Capabilities.
+// The interface of a driver. Connection and Recordset are written once on top of it; where drivers differ there is a
+// function here (holdingHint, nameSources).
 
 #include "ado/ConnectionString.h"
 #include "ado/Error.h"
@@ -41,7 +41,7 @@ struct FieldDescription {
     std::string baseTable, baseColumn; ///< empty for an expression
 };
 
-/// The results of one text, walked once and forward.
+/// The results of one text, read once and only forward.
 class DriverResult {
 public:
     virtual ~DriverResult() = default;
@@ -58,11 +58,11 @@ public:
     virtual std::string_view text(int field) const = 0; ///< dates YYYY-MM-DD hh:mm:ss.mmm, decimals with a point
 };
 
-/// Rows held against all other connections. Writes to them go through it where the road needs that.
+/// Rows that no other connection can write while this object lives. Their own writes must go through `run`.
 class DriverHold {
 public:
     virtual ~DriverHold() = default;
-    /// The held rows as they are now, at their result: asked for once, read before anything else is run.
+    /// The held rows with their present values. To be called once, and read before `run` is called.
     virtual std::unique_ptr<DriverResult> rows() = 0;
     virtual std::unique_ptr<DriverResult> run(std::string_view text) = 0;
 };
@@ -71,16 +71,16 @@ class DriverConnection {
 public:
     virtual ~DriverConnection() = default;
     virtual std::unique_ptr<DriverResult> run(std::string_view text) = 0;
-    /// What stands behind the table in a SELECT given to `hold`; empty where it needs no word for it.
+    /// The hint that follows the table in a SELECT given to `hold`; empty where the driver needs none.
     virtual std::string holdingHint() const { return {}; }
-    /// Names the table and the columns that the fields of a selection come from, where its result didn't.
+    /// Fills in the table and the columns that the fields come from, where the driver's results don't tell them.
     virtual void nameSources(const std::string& /*statement*/, std::vector<FieldDescription>& /*fields*/) {}
-    /// Holds the rows that a SELECT on one table finds; throws at once when somebody else holds one (native 1222), a
-    /// server that tells it late when the rows are read.
+    /// Holds the rows that a SELECT on one table finds. Where another connection holds one, this throws at once (native
+    /// error 1222), or, with a server that tells it later, when the rows are read.
     virtual std::unique_ptr<DriverHold> hold(std::string_view select) = 0;
-    /// The identity given by this connection's last INSERT, 0 where none.
+    /// The identity value of this connection's last INSERT, 0 where there is none.
     virtual std::int64_t lastIdentity() = 0;
-    /// The columns of a table's primary key, none where it has none.
+    /// The columns of a table's primary key; none where it has no such key.
     virtual std::vector<std::string> primaryKey(const std::string& table) = 0;
     virtual bool alive() const = 0;
 };
@@ -89,7 +89,7 @@ class Driver {
 public:
     virtual ~Driver() = default;
     virtual const char* name() const = 0;
-    /// Throws Error: login refused, database or server not there.
+    /// Throws Error where the login is refused, or database or server can't be reached.
     virtual std::unique_ptr<DriverConnection> connect(const ConnectionString& text) = 0;
 };
 

@@ -29,8 +29,8 @@ std::string toUtf8(const fs::path& path) {
     return {text.begin(), text.end()};
 }
 
-/// A server's name as the name of one folder: "\" reads "$"; what means something to a file system is spelt in hex, so
-/// that no name leads out of the folder of the instances.
+/// A server's name as the name of one folder: "\" becomes "$", and other characters with a meaning to the file system
+/// are written in hex, so that no name gives a path outside the folder of the instances.
 std::string folderName(std::string_view server) {
     static constexpr std::string_view kHexDigits = "0123456789ABCDEF";
     static constexpr std::string_view kUnsafe = "/:*?\"<>|%";
@@ -38,12 +38,13 @@ std::string folderName(std::string_view server) {
     std::string name;
     for (const char c : server) {
         const auto byte = static_cast<unsigned char>(c);
-        if (c == '\\')
+        if (c == '\\') {
             name += '$';
-        else if (byte < 0x20 || kUnsafe.find(c) != std::string_view::npos || (onlyDots && c == '.'))
+        } else if (byte < 0x20 || kUnsafe.find(c) != std::string_view::npos || (onlyDots && c == '.')) {
             (name += '%').append({kHexDigits[byte >> 4U], kHexDigits[byte & 15U]});
-        else
+        } else {
             name += c;
+        }
     }
     return name;
 }
@@ -55,14 +56,16 @@ bool anyOf(std::string_view text, std::initializer_list<std::string_view> words)
 void checkProvider(const ConnectionString& text) {
     const std::string provider = text.provider();
     if (!provider.empty() &&
-        !anyOf(provider, {"SQLOLEDB", "SQLOLEDB.1", "SQLNCLI", "SQLNCLI10", "SQLNCLI11", "MSOLEDBSQL", "MSDASQL"}))
+        !anyOf(provider, {"SQLOLEDB", "SQLOLEDB.1", "SQLNCLI", "SQLNCLI10", "SQLNCLI11", "MSOLEDBSQL", "MSDASQL"})) {
         throw Error(kProviderNotFound);
+    }
 }
 
 void checkSecurity(const ConnectionString& text) {
     const auto security = text.value("Integrated Security");
-    if (security && !anyOf(*security, {"SSPI", "true", "yes", "false", "no"}))
+    if (security && !anyOf(*security, {"SSPI", "true", "yes", "false", "no"})) {
         throw Error(kMultipleStep);
+    }
 }
 
 Driver& embeddedDriver() {
@@ -86,17 +89,20 @@ fs::path mapServerPath(std::string_view path) {
 }
 
 fs::path instanceFolder(std::string_view server) {
-    if (!home().instances)
+    if (!home().instances) {
         return {};
+    }
     const fs::path instances = home().instances();
     const std::string name = folderName(server);
     const fs::path spelt = instances / fromUtf8(name);
     std::error_code ignored;
-    if (name.empty() || fs::exists(spelt, ignored))
+    if (name.empty() || fs::exists(spelt, ignored)) {
         return spelt;
+    }
     for (const fs::directory_entry& entry : fs::directory_iterator(instances, ignored)) {
-        if (sameName(toUtf8(entry.path().filename()), name))
+        if (sameName(toUtf8(entry.path().filename()), name)) {
             return entry.path();
+        }
     }
     return spelt;
 }

@@ -10,20 +10,20 @@ namespace ado {
 
 /// Where the embedded server finds its instances and its files. Set once by the workstation.
 struct EmbeddedHome {
-    std::function<std::filesystem::path()> instances; ///< the folder that holds one folder an instance
+    std::function<std::filesystem::path()> instances; ///< the folder with one subfolder for each instance
     std::function<std::filesystem::path(std::string_view)> mapPath;
 };
 
 void setEmbeddedHome(EmbeddedHome home);
 
-/// Where a path of the server's own lies on this machine.
+/// The path on this machine for a path as the embedded server's statements give it.
 std::filesystem::path mapServerPath(std::string_view path);
 
-/// The folder of the instance of that server name, whether it exists or not.
+/// The folder of the instance with that server name, whether it exists or not.
 std::filesystem::path instanceFolder(std::string_view server);
 
-/// The one rule of all configuration: a server whose instance folder exists is the embedded one, any other is ODBC's.
-/// Throws Error 3706 for a provider that nobody serves.
+/// The driver for a connection text: the embedded one where the server's instance folder exists, ODBC for all others.
+/// Nothing else configures it. Throws Error 3706 for an unknown provider.
 Driver& driverFor(const ConnectionString& text);
 
 } // namespace ado

@@ -62,15 +62,17 @@ Error::Error(int number, std::string description, std::string sqlState, int nati
       statement_(std::move(statement)) {}
 
 Error& Error::in(const std::string& place) {
-    if (!context_.empty())
+    if (!context_.empty()) {
         context_ += ", ";
+    }
     context_ += place;
     return *this;
 }
 
 Error& Error::during(const std::string& statement) {
-    if (statement_.empty())
+    if (statement_.empty()) {
         statement_ = statement;
+    }
     return *this;
 }
 

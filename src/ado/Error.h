@@ -5,7 +5,7 @@
 
 namespace ado {
 
-/// Numbers of the data layer's own refusals and of its classes of server errors.
+/// Numbers of the data layer's own errors and of its classes of server errors.
 enum ErrorNumber : int {
     kOverflow = 6,
     kTypeMismatch = 13,
@@ -32,10 +32,10 @@ enum ErrorNumber : int {
     kUnspecified = -2147467259
 };
 
-/// The one exception of the data layer. `description()` is what a user reads; the rest is for whoever searches.
+/// The exception of the data layer. `description()` is what the user reads; the rest helps to find the cause.
 class Error : public std::exception {
 public:
-    /// One of the data layer's own refusals, with its documented text.
+    /// One of the data layer's own errors, with its documented text.
     explicit Error(ErrorNumber number);
     Error(int number, std::string description);
     Error(int number, std::string description, std::string sqlState, int nativeError, std::string statement);
@@ -43,13 +43,13 @@ public:
     int number() const { return number_; }
     const std::string& description() const { return description_; }
     const std::string& sqlState() const { return sqlState_; }
-    int nativeError() const { return nativeError_; } ///< the server's own number, 0 where it had no part
+    int nativeError() const { return nativeError_; } ///< the server's number, 0 for errors that aren't the server's
     const std::string& statement() const { return statement_; }
     const std::string& context() const { return context_; }
 
-    /// Adds where it happened, innermost first, as the error rises.
+    /// Adds the place where it happened. Callers add theirs as the error passes them, so the innermost is first.
     Error& in(const std::string& place);
-    /// Keeps the statement that was refused; the innermost one stays.
+    /// Sets the statement that failed. Where it is set already, it stays.
     Error& during(const std::string& statement);
 
     const char* what() const noexcept override { return description_.c_str(); }

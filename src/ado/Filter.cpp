@@ -4,7 +4,7 @@
 #include "ado/Error.h"
 #include "ado/Names.h"
 #include "ado/Text.h"
-#include "engine/Collation.h"
+#include "engine/values/Collation.h"
 
 #include <algorithm>
 #include <array>
@@ -31,22 +31,24 @@ bool isText(FieldType type) {
     return type == FieldType::Char || type == FieldType::WChar;
 }
 
-/// The server's pattern for one in which `%` and `*` alone are wild.
+/// The server's pattern for one in which only `%` and `*` are wildcards.
 std::string serverPattern(std::string_view pattern) {
     std::string result;
     for (const char c : pattern) {
-        if (c == '[' || c == '_')
+        if (c == '[' || c == '_') {
             (result += '[').append({c, ']'});
-        else
+        } else {
             result += c == '*' ? '%' : c;
+        }
     }
     return result;
 }
 
-/// A date of a filter: year first where four digits begin it, else by the regional settings.
+/// A filter's date: with the year first where it begins with four digits, else by the regional settings.
 Date dateOf(std::string_view text) {
-    if (const auto date = parseDate(text))
+    if (const auto date = parseDate(text)) {
         return *date;
+    }
     throw Error(kWrongArguments);
 }
 
@@ -63,8 +65,9 @@ public:
 
 private:
     static void demand(bool kept) {
-        if (!kept)
+        if (!kept) {
             throw Error(kWrongArguments);
+        }
     }
 
     std::vector<Group> filter(int depth) {
@@ -88,8 +91,9 @@ private:
 
     std::vector<Group> part(int depth) {
         demand(depth < kDeepestBrackets);
-        if (!takeSign("("))
+        if (!takeSign("(")) {
             return {{comparison()}};
+        }
         std::vector<Group> groups = filter(depth + 1);
         demand(takeSign(")"));
         return groups;
@@ -101,12 +105,13 @@ private:
         result.op = comparisonOperator();
         const FieldType type = fields_[static_cast<std::size_t>(result.column)].type;
         skipBlanks();
-        if (rest_.starts_with('\''))
+        if (rest_.starts_with('\'')) {
             textValue(result, type);
-        else if (rest_.starts_with('#'))
+        } else if (rest_.starts_with('#')) {
             dateValue(result, type);
-        else
+        } else {
             numberValue(result, type);
+        }
         demand(rest_.empty() || isBlank(rest_.front()) || rest_.front() == ')');
         return result;
     }
@@ -140,8 +145,9 @@ private:
              {">", Operator::Greater},
              {"=", Operator::Equal}}};
         for (const auto& [sign, op] : kSigns) {
-            if (takeSign(sign))
+            if (takeSign(sign)) {
                 return op;
+            }
         }
         demand(takeWord("LIKE"));
         return Operator::Like;
@@ -171,8 +177,9 @@ private:
             demand(!rest_.empty());
             if (rest_.front() == '\'') {
                 rest_.remove_prefix(1);
-                if (!rest_.starts_with('\''))
+                if (!rest_.starts_with('\'')) {
                     return text;
+                }
             }
             text += rest_.front();
         }
@@ -200,14 +207,16 @@ private:
     }
 
     void skipBlanks() {
-        while (!rest_.empty() && isBlank(rest_.front()))
+        while (!rest_.empty() && isBlank(rest_.front())) {
             rest_.remove_prefix(1);
+        }
     }
 
     bool takeSign(std::string_view sign) {
         skipBlanks();
-        if (!rest_.starts_with(sign))
+        if (!rest_.starts_with(sign)) {
             return false;
+        }
         rest_.remove_prefix(sign.size());
         return true;
     }
@@ -216,8 +225,9 @@ private:
         skipBlanks();
         const std::string_view found = rest_.substr(0, word.size());
         const bool ends = rest_.size() <= word.size() || !isNamePart(rest_[word.size()]);
-        if (!ends || !sameName(found, word))
+        if (!ends || !sameName(found, word)) {
             return false;
+        }
         rest_.remove_prefix(word.size());
         return true;
     }
@@ -247,13 +257,15 @@ bool holds(Operator op, std::partial_ordering order) {
 }
 
 bool holds(const Comparison& comparison, const RowStore& rows, std::size_t row) {
-    if (rows.isNull(row, comparison.column))
+    if (rows.isNull(row, comparison.column)) {
         return false;
+    }
     switch (comparison.kind) {
     case Comparison::Kind::Text: {
         const std::string_view text = rows.text(row, comparison.column);
-        if (comparison.op == Operator::Like)
+        if (comparison.op == Operator::Like) {
             return engine::like(text, comparison.text);
+        }
         return holds(comparison.op, engine::compareTexts(text, comparison.text) <=> 0);
     }
     case Comparison::Kind::Date:
@@ -262,8 +274,9 @@ bool holds(const Comparison& comparison, const RowStore& rows, std::size_t row) 
         break;
     }
     const Value value = rows.value(row, comparison.column);
-    if (const auto* truth = std::get_if<bool>(&value.variant()))
+    if (const auto* truth = std::get_if<bool>(&value.variant())) {
         return holds(comparison.op, (*truth ? 1 : 0) <=> (comparison.number != 0 ? 1 : 0));
+    }
     return holds(comparison.op, toDouble(value) <=> comparison.number);
 }
 

@@ -8,7 +8,7 @@
 
 namespace ado {
 
-/// A filter as it was understood: groups of comparisons, of which one group must hold as a whole.
+/// A parsed filter: groups of comparisons. A row is shown where all comparisons of one group are true.
 ///
 ///     filter     = group { OR group }
 ///     group      = part { AND part }
@@ -18,10 +18,10 @@ namespace ado {
 ///     operator   = "<" | ">" | "<=" | ">=" | "<>" | "=" | LIKE
 ///     value      = number | 'text', quotes doubled | #date#
 ///
-/// `%` and `*` are wild in a text behind LIKE. Texts compare as on the server: case ignored, accents told apart.
+/// `%` and `*` are wildcards in a text after LIKE. Texts compare as on the server: case is ignored, accents aren't.
 class FilterExpression {
 public:
-    /// Error 3001 for everything that the grammar doesn't know, and for a value that its column can't be compared with.
+    /// Raises error 3001 for a text outside the grammar, and for a value that can't be compared with its column.
     FilterExpression(std::string_view text, const std::vector<FieldDescription>& fields);
 
     bool admits(const RowStore& rows, std::size_t row) const;
@@ -32,7 +32,7 @@ public:
         Operator op = Operator::Equal;
         enum class Kind { Number, Text, Date } kind = Kind::Number;
         double number = 0;
-        std::string text; ///< behind LIKE a pattern of the server's language
+        std::string text; ///< after LIKE a pattern of the server's language
         Date date;
     };
     using Group = std::vector<Comparison>;

@@ -1,4 +1,4 @@
-// The language's own Like, told from the server's: other wildcards, and case counts.
+// The program's Like. Unlike the server's it has other wildcards and is case-sensitive.
 
 #include "ado/Conversions.h"
 #include "ado/Error.h"
@@ -9,28 +9,31 @@ namespace {
 
 constexpr int kInvalidPattern = 93;
 
-/// One character of UTF-8 at a time; a stray byte is a character of its own.
+/// Takes one UTF-8 character; an invalid byte counts as a character.
 char32_t takeCharacter(std::string_view& text) {
     const auto lead = static_cast<unsigned char>(text.front());
     std::size_t size = lead < 0x80 ? 1 : lead >= 0xF0 ? 4 : lead >= 0xE0 ? 3 : lead >= 0xC0 ? 2 : 1;
     size = std::min(size, text.size());
     char32_t character = 0;
-    for (const char c : text.substr(0, size))
+    for (const char c : text.substr(0, size)) {
         character = character << 8U | static_cast<unsigned char>(c);
+    }
     text.remove_prefix(size);
     return character;
 }
 
-/// Whether a character is in the list behind "[", which is taken up to its "]".
+/// Whether a character is in the list after "["; takes the list up to its "]".
 bool takeList(std::string_view& pattern, char32_t character) {
     const auto end = pattern.find(']');
-    if (end == std::string_view::npos)
+    if (end == std::string_view::npos) {
         throw Error(kInvalidPattern, "Invalid pattern string");
+    }
     std::string_view list = pattern.substr(0, end);
     pattern.remove_prefix(end + 1);
     const bool negated = list.size() > 1 && list.front() == '!';
-    if (negated)
+    if (negated) {
         list.remove_prefix(1);
+    }
     bool found = false;
     while (!list.empty()) {
         const char32_t low = takeCharacter(list);
@@ -44,7 +47,7 @@ bool takeList(std::string_view& pattern, char32_t character) {
     return found != negated;
 }
 
-/// Whether the first element of the pattern takes the first character of the text; both are taken.
+/// Takes the first element of the pattern and the first character of the text, and returns whether they match.
 bool takeOne(std::string_view& text, std::string_view& pattern) {
     const char32_t element = takeCharacter(pattern);
     const char32_t character = takeCharacter(text);
@@ -66,8 +69,9 @@ bool matches(std::string_view text, std::string_view pattern) {
     std::string_view retryText, retryPattern;
     bool retry = false;
     for (;;) {
-        while (pattern.starts_with("[]"))
+        while (pattern.starts_with("[]")) {
             pattern.remove_prefix(2);
+        }
         if (pattern.starts_with('*')) {
             pattern.remove_prefix(1);
             retryText = text;
@@ -75,12 +79,15 @@ bool matches(std::string_view text, std::string_view pattern) {
             retry = true;
             continue;
         }
-        if (text.empty() && pattern.empty())
+        if (text.empty() && pattern.empty()) {
             return true;
-        if (!text.empty() && !pattern.empty() && takeOne(text, pattern))
+        }
+        if (!text.empty() && !pattern.empty() && takeOne(text, pattern)) {
             continue;
-        if (!retry || retryText.empty())
+        }
+        if (!retry || retryText.empty()) {
             return false;
+        }
         takeCharacter(retryText);
         text = retryText;
         pattern = retryPattern;

@@ -10,14 +10,15 @@ namespace {
 std::string doubled(std::string_view text, char mark) {
     std::string result;
     for (const char c : text) {
-        if (c == mark)
+        if (c == mark) {
             result += c;
+        }
         result += c;
     }
     return result;
 }
 
-/// The shortest digits that read back as the same number.
+/// The fewest digits that are read as the same number again.
 template<typename Real>
 std::string shortest(Real number) {
     char text[32];
@@ -36,12 +37,14 @@ std::string dateLiteral(Date date) {
 
 std::string scaled(std::int64_t unscaled, int scale) {
     std::string digits = std::to_string(unscaled);
-    if (scale <= 0)
+    if (scale <= 0) {
         return digits;
+    }
     const std::size_t begin = digits.front() == '-' ? 1 : 0;
     const auto decimals = static_cast<std::size_t>(scale);
-    if (digits.size() - begin <= decimals)
+    if (digits.size() - begin <= decimals) {
         digits.insert(begin, decimals + 1 - (digits.size() - begin), '0');
+    }
     return digits.insert(digits.size() - decimals, 1, '.');
 }
 
@@ -53,22 +56,23 @@ std::string quotedName(std::string_view name) {
 
 std::string literal(const Value& value, FieldType column) {
     const auto write = [&]<typename T>(const T& content) -> std::string {
-        if constexpr (std::is_same_v<T, std::monostate> || std::is_same_v<T, Null>)
+        if constexpr (std::is_same_v<T, std::monostate> || std::is_same_v<T, Null>) {
             return "NULL";
-        else if constexpr (std::is_same_v<T, bool>)
+        } else if constexpr (std::is_same_v<T, bool>) {
             return content ? "1" : "0";
-        else if constexpr (std::is_floating_point_v<T>)
+        } else if constexpr (std::is_floating_point_v<T>) {
             return shortest(content);
-        else if constexpr (std::is_same_v<T, Currency>)
+        } else if constexpr (std::is_same_v<T, Currency>) {
             return scaled(content.tenThousandths, 4);
-        else if constexpr (std::is_same_v<T, Decimal>)
+        } else if constexpr (std::is_same_v<T, Decimal>) {
             return scaled(content.unscaled, content.scale);
-        else if constexpr (std::is_same_v<T, Date>)
+        } else if constexpr (std::is_same_v<T, Date>) {
             return dateLiteral(content);
-        else if constexpr (std::is_same_v<T, std::string>)
+        } else if constexpr (std::is_same_v<T, std::string>) {
             return (column == FieldType::WChar ? "N'" : "'") + doubled(content, '\'') + "'";
-        else
+        } else {
             return std::to_string(content);
+        }
     };
     return std::visit(write, value.variant());
 }

@@ -21,8 +21,9 @@ QString unicode(std::string_view text) {
 } // namespace
 
 bool sameName(std::string_view left, std::string_view right) {
-    if (std::ranges::all_of(left, isAscii) && std::ranges::all_of(right, isAscii))
+    if (std::ranges::all_of(left, isAscii) && std::ranges::all_of(right, isAscii)) {
         return std::ranges::equal(left, right, {}, lower, lower);
+    }
     return unicode(left).compare(unicode(right), Qt::CaseInsensitive) == 0;
 }
 

@@ -4,7 +4,7 @@
 
 namespace ado {
 
-/// Names of fields and files are the same whatever their case.
+/// Whether two names of fields or files are the same, ignoring case.
 bool sameName(std::string_view left, std::string_view right);
 
 } // namespace ado

@@ -1,4 +1,4 @@
-// Numbers as texts and texts as numbers, by the regional settings.
+// Numbers to texts and texts to numbers, by the regional settings.
 
 #include "ado/Conversions.h"
 #include "ado/Text.h"
@@ -14,37 +14,43 @@ namespace {
 
 constexpr int kSignificantDigits = 15;
 
-/// Reads a number written by people: sign before or behind, brackets for a negative one, currency sign at either end.
+/// Reads a number as people write it: sign before or after it, brackets for a negative one, currency symbol at either
+/// end.
 class NumberReader {
 public:
     explicit NumberReader(std::string_view text) : rest_(text) {}
 
     std::optional<double> read() {
         signs(true);
-        if (!digits() || !exponent())
+        if (!digits() || !exponent()) {
             return std::nullopt;
+        }
         signs(false);
-        if (refused_ || !rest_.empty() || bracketOpen_)
+        if (refused_ || !rest_.empty() || bracketOpen_) {
             return std::nullopt;
+        }
         double number = 0;
         const auto end = plain_.data() + plain_.size();
         const auto [stop, error] = std::from_chars(plain_.data(), end, number);
-        if (error != std::errc() || stop != end)
+        if (error != std::errc() || stop != end) {
             return std::nullopt;
+        }
         return negative_ ? -number : number;
     }
 
 private:
     bool take(std::string_view piece) {
-        if (piece.empty() || !rest_.starts_with(piece))
+        if (piece.empty() || !rest_.starts_with(piece)) {
             return false;
+        }
         rest_.remove_prefix(piece.size());
         return true;
     }
 
     bool takeBlank() {
-        if (rest_.empty() || !isBlank(rest_.front()))
+        if (rest_.empty() || !isBlank(rest_.front())) {
             return false;
+        }
         rest_.remove_prefix(1);
         return true;
     }
@@ -60,33 +66,37 @@ private:
         currency_ = true;
     }
 
-    /// The one that opens is a sign, too.
+    /// The opening bracket also counts as the sign.
     bool takeBracket(bool ahead) {
-        if (!(ahead ? take("(") : bracketOpen_ && take(")")))
+        if (!(ahead ? take("(") : bracketOpen_ && take(")"))) {
             return false;
-        if (ahead)
+        }
+        if (ahead) {
             sign(true);
+        }
         bracketOpen_ = ahead;
         return true;
     }
 
-    /// What stands ahead of the digits or behind them.
+    /// The signs, symbols and blanks before the digits (`ahead`) or after them.
     void signs(bool ahead) {
         while (!rest_.empty()) {
-            if (takeBlank())
+            if (takeBlank()) {
                 continue;
-            if (take("-"))
+            }
+            if (take("-")) {
                 sign(true);
-            else if (take("+"))
+            } else if (take("+")) {
                 sign(false);
-            else if (take(regionalSettings().currencySymbol))
+            } else if (take(regionalSettings().currencySymbol)) {
                 currency();
-            else if (!takeBracket(ahead))
+            } else if (!takeBracket(ahead)) {
                 return;
+            }
         }
     }
 
-    /// At least one digit; groups may be of any length and stand before the decimal separator only.
+    /// At least one digit. Groups may have any length; their separators are accepted before the decimal separator only.
     bool digits() {
         const RegionalSettings& settings = regionalSettings();
         bool some = false, fraction = false;
@@ -98,23 +108,26 @@ private:
             } else if (c == settings.decimalSeparator && !fraction) {
                 plain_ += plain_.empty() ? "0." : ".";
                 fraction = true;
-            } else if (c != settings.thousandsSeparator || fraction)
+            } else if (c != settings.thousandsSeparator || fraction) {
                 break;
+            }
         }
         return some;
     }
 
     bool exponent() {
-        if (rest_.empty() || (rest_.front() != 'e' && rest_.front() != 'E'))
+        if (rest_.empty() || (rest_.front() != 'e' && rest_.front() != 'E')) {
             return true;
+        }
         std::string_view ahead = rest_.substr(1);
         std::string text = "e";
         if (!ahead.empty() && (ahead.front() == '-' || ahead.front() == '+')) {
             text += ahead.front();
             ahead.remove_prefix(1);
         }
-        if (ahead.empty() || !isDigit(ahead.front()))
+        if (ahead.empty() || !isDigit(ahead.front())) {
             return false;
+        }
         while (!ahead.empty() && isDigit(ahead.front())) {
             text += ahead.front();
             ahead.remove_prefix(1);
@@ -129,7 +142,7 @@ private:
     bool negative_ = false, signed_ = false, currency_ = false, bracketOpen_ = false, refused_ = false;
 };
 
-/// A number as its significant digits and the place of the point: 0.d1d2d3… × 10^point.
+/// A number as significant digits and the position of the point: 0.d1d2d3… × 10^point.
 struct Digits {
     std::string digits;
     int point = 0;
@@ -140,47 +153,55 @@ struct Digits {
         std::snprintf(text, sizeof text, "%.*e", kSignificantDigits - 1, std::fabs(number));
         const std::string_view written(text);
         const auto e = written.find('e');
-        for (const char c : written.substr(0, e))
-            if (isDigit(c))
+        for (const char c : written.substr(0, e)) {
+            if (isDigit(c)) {
                 digits += c;
+            }
+        }
         point = std::atoi(text + e + 1) + 1;
         negative = std::signbit(number);
         trim();
     }
 
-    /// Half away from zero.
+    /// Rounds half away from zero.
     void roundTo(int decimals) {
         const int kept = point + decimals;
-        if (kept >= static_cast<int>(digits.size()))
+        if (kept >= static_cast<int>(digits.size())) {
             return;
+        }
         const bool up = kept >= 0 && digits[static_cast<std::size_t>(kept)] >= '5';
         digits.resize(static_cast<std::size_t>(std::max(kept, 0)));
-        if (up)
+        if (up) {
             increment();
+        }
         trim();
     }
 
     std::string whole() const {
-        if (point <= 0)
+        if (point <= 0) {
             return "0";
+        }
         std::string text = digits.substr(0, static_cast<std::size_t>(point));
         text.resize(static_cast<std::size_t>(point), '0');
         return text;
     }
 
     std::string fraction() const {
-        if (point >= static_cast<int>(digits.size()))
+        if (point >= static_cast<int>(digits.size())) {
             return {};
-        if (point >= 0)
+        }
+        if (point >= 0) {
             return digits.substr(static_cast<std::size_t>(point));
+        }
         return std::string(static_cast<std::size_t>(-point), '0') + digits;
     }
 
 private:
     void increment() {
         auto place = digits.rbegin();
-        for (; place != digits.rend() && *place == '9'; ++place)
+        for (; place != digits.rend() && *place == '9'; ++place) {
             *place = '0';
+        }
         if (place != digits.rend()) {
             ++*place;
             return;
@@ -190,8 +211,9 @@ private:
     }
 
     void trim() {
-        while (!digits.empty() && digits.back() == '0')
+        while (!digits.empty() && digits.back() == '0') {
             digits.pop_back();
+        }
         if (digits.empty()) {
             point = 0;
             negative = false;
@@ -202,8 +224,9 @@ private:
 std::string grouped(const std::string& whole, char separator) {
     std::string text;
     for (std::size_t i = 0; i < whole.size(); ++i) {
-        if (i > 0 && (whole.size() - i) % 3 == 0)
+        if (i > 0 && (whole.size() - i) % 3 == 0) {
             text += separator;
+        }
         text += whole[i];
     }
     return text;
@@ -229,8 +252,9 @@ std::string formatFixed(double number, int decimals, bool grouping) {
     fraction.resize(static_cast<std::size_t>(std::max(decimals, 0)), '0');
     std::string text = digits.negative ? "-" : "";
     text += grouping ? grouped(digits.whole(), settings.thousandsSeparator) : digits.whole();
-    if (!fraction.empty())
+    if (!fraction.empty()) {
         text += settings.decimalSeparator + fraction;
+    }
     return text;
 }
 

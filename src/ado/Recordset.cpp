@@ -23,7 +23,7 @@ Field& Field::operator=(const ado::Value& value) {
     return *this;
 }
 
-// What is copied is the value, also onto the field itself.
+// Assigns the other field's value. An assignment to itself writes the value, too.
 Field& Field::operator=(const Field& other) { // NOLINT(bugprone-unhandled-self-assignment)
     return *this = other.Value();
 }
@@ -32,33 +32,38 @@ Recordset::Recordset() : state_(std::make_unique<State>()) {}
 Recordset::~Recordset() = default;
 
 void Recordset::Open(const std::string& source, Connection& connection, CursorType cursor, LockType lock, int options) {
-    if (IsOpen())
+    if (IsOpen()) {
         throw Error(kObjectOpen);
-    auto road = connection.road();
+    }
+    auto driverConnection = connection.driverConnection();
     state_->source = source;
     state_->cursorType = cursor;
     state_->lock = lock;
     state_->statement = statementOf(source, options);
-    state_->openOn(std::move(road));
-    if (IsOpen())
+    state_->openOn(std::move(driverConnection));
+    if (IsOpen()) {
         state_->notify();
+    }
 }
 
 void Recordset::Open(const std::string& source, const std::string& connectionString, CursorType cursor, LockType lock,
                      int options) {
-    if (IsOpen())
+    if (IsOpen()) {
         throw Error(kObjectOpen);
+    }
     auto connection = std::make_unique<Connection>();
     connection->Open(connectionString);
     Open(source, *connection, cursor, lock, options);
-    if (IsOpen())
+    if (IsOpen()) {
         state_->ownConnection = std::move(connection);
+    }
 }
 
 void Recordset::Close() {
     state_->demandOpen();
-    if (state_->edit != State::Edit::None)
+    if (state_->edit != State::Edit::None) {
         throw Error(kNotAllowedHere);
+    }
     state_->close();
 }
 
@@ -96,8 +101,9 @@ void Recordset::MovePrevious() {
 }
 
 void Recordset::Move(long rows) {
-    if (rows < 0)
+    if (rows < 0) {
         state_->demandBackwards();
+    }
     state_->move([rows](RowCursor& cursor) { cursor.move(rows); });
 }
 
@@ -115,15 +121,17 @@ Field Recordset::operator[](std::string_view name) {
     const auto& fields = state_->fields;
     const auto found =
         std::ranges::find_if(fields, [&](const FieldDescription& field) { return sameName(field.name, name); });
-    if (found == fields.end())
+    if (found == fields.end()) {
         throw Error(kItemNotFound).in(std::string(name));
+    }
     return {*this, static_cast<int>(found - fields.begin())};
 }
 
 Field Recordset::operator[](int index) {
     state_->demandOpen();
-    if (index < 0 || index >= FieldCount())
+    if (index < 0 || index >= FieldCount()) {
         throw Error(kItemNotFound);
+    }
     return {*this, index};
 }
 
@@ -147,8 +155,9 @@ const std::string& Recordset::Filter() const {
 void Recordset::setFilter(const std::string& filter) {
     state_->demandOpen();
     std::optional<FilterExpression> expression;
-    if (!filter.empty())
+    if (!filter.empty()) {
         expression.emplace(filter, state_->fields);
+    }
     state_->update();
     state_->filter = filter;
     state_->filterExpression = std::move(expression);
@@ -160,20 +169,24 @@ long Recordset::AbsolutePosition() const {
     constexpr long kUnknown = -1, kBof = -2, kEof = -3;
     state_->demandOpen();
     const RowCursor& cursor = state_->cursor;
-    if (state_->edit == State::Edit::Adding || cursor.count() == 0)
+    if (state_->edit == State::Edit::Adding || cursor.count() == 0) {
         return kUnknown;
-    if (cursor.bof())
+    }
+    if (cursor.bof()) {
         return kBof;
-    if (cursor.eof())
+    }
+    if (cursor.eof()) {
         return kEof;
+    }
     return RecordCount() < 0 ? kUnknown : cursor.position() + 1;
 }
 
 void Recordset::setAbsolutePosition(long position) {
     state_->demandBackwards();
     const long count = state_->cursor.count();
-    if (count > 0 && (position < 1 || position > count))
+    if (count > 0 && (position < 1 || position > count)) {
         throw Error(kWrongArguments);
+    }
     state_->move([position](RowCursor& cursor) { cursor.moveFromFirst(position - 1); });
 }
 
@@ -185,14 +198,16 @@ long Recordset::RecordCount() const {
 
 Value Recordset::ValueAt(long position, int column) const {
     state_->demandOpen();
-    if (column < 0 || column >= FieldCount())
+    if (column < 0 || column >= FieldCount()) {
         throw Error(kItemNotFound);
+    }
     return state_->rows.value(state_->cursor.rowAt(position - 1), column);
 }
 
 void Recordset::onChange(std::function<void()> listener) {
-    if (listener)
+    if (listener) {
         state_->listeners.push_back(std::move(listener));
+    }
 }
 
 } // namespace ado

@@ -8,7 +8,7 @@
 #include <string>
 #include <string_view>
 
-#undef EOF // the name is the recordset's here
+#undef EOF // the macro of <cstdio>; Recordset has a function of that name
 
 namespace ado {
 
@@ -17,15 +17,15 @@ enum class LockType { ReadOnly = 1, Pessimistic = 2, Optimistic = 3, BatchOptimi
 
 class Recordset;
 
-/// One column at the current row; valid while its recordset is open. An assignment is checked at once.
+/// One column of the current row; valid while its recordset is open. An assigned value is checked at once.
 class Field {
 public:
     const FieldDescription& description() const;
     const std::string& Name() const { return description().name; }
-    /// Error 3021 where there is no current row.
+    /// Raises error 3021 where there is no current row.
     ado::Value Value() const;
     operator ado::Value() const { return Value(); }
-    /// Errors 3021, 3251, -2147217887.
+    /// Raises errors 3021 (no current row), 3251 (read-only), -2147217887 (the value doesn't fit).
     Field& operator=(const ado::Value& value);
     Field& operator=(const Field& other);
     Field(const Field&) = default;
@@ -37,18 +37,19 @@ private:
     int index_;
 };
 
-/// The rows of one selection, kept on our side with their keys; edits go out as plain statements by key.
-/// Error numbers: 3704 closed, 3705 open, 3021 no current row, 3265 unknown field, 3251 read-only, 3219 not here.
+/// The rows of one selection, kept in memory with their keys. Edits are sent as UPDATE and INSERT statements that find
+/// the row by its key. Raises errors 3704 (closed), 3705 (open), 3021 (no current row), 3265 (unknown field), 3251
+/// (read-only), 3219 (not allowed in this state).
 class Recordset {
 public:
     Recordset();
     Recordset(const Recordset&) = delete;
     Recordset& operator=(const Recordset&) = delete;
-    ~Recordset(); ///< an open one is given up: pending edits are dropped, holds released
+    ~Recordset(); ///< drops a pending edit and releases held rows
 
     void Open(const std::string& source, Connection& connection, CursorType cursor = CursorType::ForwardOnly,
               LockType lock = LockType::ReadOnly, int options = -1);
-    /// On a connection of its own, closed with the recordset.
+    /// Opens a connection of its own, which is closed with the recordset.
     void Open(const std::string& source, const std::string& connectionString,
               CursorType cursor = CursorType::ForwardOnly, LockType lock = LockType::ReadOnly, int options = -1);
     void Close();
@@ -65,7 +66,7 @@ public:
     void MoveFromFirst(long rows); ///< from the first row
 
     int FieldCount() const;
-    Field operator[](std::string_view name); ///< the first of that name, in any case; Error 3265
+    Field operator[](std::string_view name); ///< the first of that name, in any case; raises 3265
     Field operator[](int index);
 
     void AddNew();
@@ -74,18 +75,18 @@ public:
     void Requery();
 
     const std::string& Filter() const;
-    /// Error 3001 and nothing changes where it can't be read.
+    /// Raises error 3001, with nothing changed, for a text that isn't a filter.
     void setFilter(const std::string& filter);
 
-    long AbsolutePosition() const; ///< from 1; -1 unknown or empty, -2 BOF, -3 EOF
+    long AbsolutePosition() const; ///< counted from 1; -1 unknown or empty, -2 BOF, -3 EOF
     void setAbsolutePosition(long position);
     long RecordCount() const; ///< -1 on forward-only and dynamic cursors
 
-    /// For controls that draw many rows: a value by place (from 1, as the filter leaves them) and column, without
-    /// moving. Error 3021 where there is no such row.
+    /// For controls that draw many rows: the value at a position (counted from 1 among the rows that the filter admits)
+    /// and column, without a move. Raises error 3021 where there is no such row.
     ado::Value ValueAt(long position, int column) const;
 
-    /// Told after every change of row, of rows or of filter, so that a control can follow.
+    /// Adds a function to be called after every change of the current row, of the rows or of the filter.
     void onChange(std::function<void()> listener);
 
 private:

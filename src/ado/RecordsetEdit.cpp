@@ -8,55 +8,62 @@
 namespace ado {
 
 void Recordset::State::demandEditable() {
-    if (lock == LockType::ReadOnly || !edits().tellsRowsApart())
+    if (lock == LockType::ReadOnly || !edits().tellsRowsApart()) {
         throw Error(kNotUpdatable);
+    }
 }
 
 const RowStatements& Recordset::State::edits() {
-    if (statements)
+    if (statements) {
         return *statements;
-    if (!selectsPlainRows(statement))
+    }
+    if (!selectsPlainRows(statement)) {
         throw Error(kNotUpdatable);
-    road->nameSources(statement, fields);
+    }
+    driverConnection->nameSources(statement, fields);
     const auto table = RowStatements::baseTable(fields);
-    if (!table)
+    if (!table) {
         throw Error(kNotUpdatable);
+    }
     const bool byIdentity = std::ranges::any_of(fields, &FieldDescription::identity);
-    statements.emplace(fields, *table, byIdentity ? std::vector<std::string>() : road->primaryKey(*table));
+    statements.emplace(fields, *table, byIdentity ? std::vector<std::string>() : driverConnection->primaryKey(*table));
     return *statements;
 }
 
-/// While rows are held, their writes go through the hold.
+/// While a row is held, its writes must go through the hold.
 std::unique_ptr<DriverResult> Recordset::State::send(const std::string& text) {
     recordStatement(text);
-    return hold ? hold->run(text) : road->run(text);
+    return hold ? hold->run(text) : driverConnection->run(text);
 }
 
 void Recordset::State::assign(int column, const Value& value) {
     demandOpen();
-    if (!onRow())
+    if (!onRow()) {
         throw Error(kNoCurrentRecord);
+    }
     demandEditable();
     const auto place = static_cast<std::size_t>(column);
     const FieldDescription& field = fields[place];
-    if (field.identity || field.baseColumn.empty())
+    if (field.identity || field.baseColumn.empty()) {
         throw Error(kMultipleStep).in(field.name);
+    }
     Value fitting = coerced(value, field);
     if (edit == Edit::None) {
-        if (lock == LockType::Pessimistic)
+        if (lock == LockType::Pessimistic) {
             holdRow();
+        }
         assigned.assign(fields.size(), std::nullopt);
         edit = Edit::Changing;
     }
     assigned[place] = std::move(fitting);
 }
 
-/// What another program wrote since the row was read is seen before it can be written over.
+/// Holds the row and reads it again, so that what another program wrote meanwhile isn't overwritten unseen.
 void Recordset::State::holdRow() {
-    const std::string select = edits().select(rows, cursor.row(), road->holdingHint());
+    const std::string select = edits().select(rows, cursor.row(), driverConnection->holdingHint());
     try {
         recordStatement(select);
-        hold = road->hold(select);
+        hold = driverConnection->hold(select);
         readHeldRow();
     } catch (Error& error) {
         hold.reset();
@@ -67,14 +74,17 @@ void Recordset::State::holdRow() {
 
 void Recordset::State::readHeldRow() {
     std::vector<FieldDescription> columns;
-    for (const int column : edits().readColumns())
+    for (const int column : edits().readColumns()) {
         columns.push_back(fields[static_cast<std::size_t>(column)]);
+    }
     RowStore found(columns);
     found.fetch(*hold->rows());
-    if (found.rows() == 0)
+    if (found.rows() == 0) {
         throw Error(kRowChanged);
-    for (int i = 0; i < static_cast<int>(columns.size()); ++i)
+    }
+    for (int i = 0; i < static_cast<int>(columns.size()); ++i) {
         rows.replace(cursor.row(), edits().readColumns()[static_cast<std::size_t>(i)], found.value(0, i));
+    }
 }
 
 void Recordset::State::addNew() {
@@ -88,12 +98,14 @@ void Recordset::State::addNew() {
 
 void Recordset::State::update() {
     demandOpen();
-    if (edit == Edit::None)
+    if (edit == Edit::None) {
         return;
-    if (edit == Edit::Adding)
+    }
+    if (edit == Edit::Adding) {
         storeNewRow();
-    else
+    } else {
         storeChanges();
+    }
     endEdit();
     notify();
 }
@@ -103,17 +115,20 @@ void Recordset::State::storeChanges() {
     try {
         const auto result = send(text);
         std::int64_t written = 0;
-        while (result->nextResult())
+        while (result->nextResult()) {
             written += std::max<std::int64_t>(result->affected(), 0);
-        if (written == 0)
+        }
+        if (written == 0) {
             throw Error(kRowChanged);
+        }
     } catch (Error& error) {
         error.during(text);
         throw;
     }
     for (std::size_t i = 0; i < assigned.size(); ++i) {
-        if (assigned[i])
+        if (assigned[i]) {
             rows.replace(cursor.row(), static_cast<int>(i), *assigned[i]);
+        }
     }
 }
 
@@ -129,10 +144,11 @@ void Recordset::State::storeNewRow() {
     }
     std::vector<Value> row;
     for (std::size_t i = 0; i < fields.size(); ++i) {
-        if (fields[i].identity)
-            row.emplace_back(static_cast<std::int32_t>(road->lastIdentity()));
-        else
+        if (fields[i].identity) {
+            row.emplace_back(static_cast<std::int32_t>(driverConnection->lastIdentity()));
+        } else {
             row.push_back(assigned[i].value_or(Null{}));
+        }
     }
     rows.append(row);
     cursor.added(rows.rows() - 1);
@@ -140,8 +156,9 @@ void Recordset::State::storeNewRow() {
 
 void Recordset::State::cancelUpdate() {
     demandOpen();
-    if (edit == Edit::None)
+    if (edit == Edit::None) {
         throw Error(kNotAllowedHere);
+    }
     endEdit();
     notify();
 }

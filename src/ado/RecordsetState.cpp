@@ -7,34 +7,38 @@
 namespace ado {
 
 void Recordset::State::demandOpen() const {
-    if (!open)
+    if (!open) {
         throw Error(kObjectClosed);
+    }
 }
 
 void Recordset::State::demandBackwards() const {
     demandOpen();
-    if (cursorType == CursorType::ForwardOnly)
+    if (cursorType == CursorType::ForwardOnly) {
         throw Error(kNotAllowedHere);
+    }
 }
 
-void Recordset::State::openOn(std::shared_ptr<DriverConnection> newRoad) {
-    road = std::move(newRoad);
+void Recordset::State::openOn(std::shared_ptr<DriverConnection> newConnection) {
+    driverConnection = std::move(newConnection);
     filter.clear();
     filterExpression.reset();
     open = fetch();
-    if (!open)
-        road.reset();
+    if (!open) {
+        driverConnection.reset();
+    }
 }
 
-/// Runs the statement to its end and takes its first selection; false where it has none.
+/// Runs the statement to its end and reads its first result with rows; false where there is none.
 bool Recordset::State::fetch() {
     recordStatement(statement);
     bool selected = false;
     try {
-        const auto result = road->run(statement);
+        const auto result = driverConnection->run(statement);
         while (result->nextResult()) {
-            if (selected || !result->hasRows())
+            if (selected || !result->hasRows()) {
                 continue;
+            }
             selected = true;
             fields = result->fields();
             statements.reset();
@@ -51,8 +55,9 @@ bool Recordset::State::fetch() {
 
 void Recordset::State::requery() {
     demandOpen();
-    if (edit != Edit::None)
+    if (edit != Edit::None) {
         throw Error(kNotAllowedHere);
+    }
     fetch();
     notify();
 }
@@ -65,7 +70,7 @@ void Recordset::State::close() {
     rows = RowStore();
     fields.clear();
     cursor.showAll(0);
-    road.reset();
+    driverConnection.reset();
     ownConnection.reset();
 }
 
@@ -76,25 +81,29 @@ void Recordset::State::applyFilter() {
     }
     std::vector<std::uint32_t> admitted;
     for (std::size_t row = 0; row < rows.rows(); ++row) {
-        if (filterExpression->admits(rows, row))
+        if (filterExpression->admits(rows, row)) {
             admitted.push_back(static_cast<std::uint32_t>(row));
+        }
     }
     cursor.showOnly(std::move(admitted));
 }
 
 void Recordset::State::notify() const {
-    const auto told = listeners; // one may join while they are told
-    for (const auto& listener : told)
+    const auto told = listeners; // a copy, since a listener may add another one
+    for (const auto& listener : told) {
         listener();
+    }
 }
 
 Value Recordset::State::value(int column) const {
     demandOpen();
-    if (!onRow())
+    if (!onRow()) {
         throw Error(kNoCurrentRecord);
+    }
     const auto place = static_cast<std::size_t>(column);
-    if (edit != Edit::None && assigned[place])
+    if (edit != Edit::None && assigned[place]) {
         return *assigned[place];
+    }
     return edit == Edit::Adding ? Value(Null{}) : rows.value(cursor.row(), column);
 }
 

@@ -14,10 +14,10 @@
 
 namespace ado {
 
-/// What a recordset is inside: its selection, where it stands in it, and the one edit that may be pending.
-/// RecordsetState.cpp opens and reads, RecordsetEdit.cpp writes.
+/// The state of a recordset: its selection, its position, and the edit that may be pending. RecordsetState.cpp opens
+/// and reads, RecordsetEdit.cpp writes.
 struct Recordset::State {
-    // What was asked for.
+    // The arguments of Open.
     std::string source;
     CursorType cursorType = CursorType::ForwardOnly;
     LockType lock = LockType::ReadOnly;
@@ -27,7 +27,7 @@ struct Recordset::State {
     // The selection.
     bool open = false;
     std::unique_ptr<Connection> ownConnection;
-    std::shared_ptr<DriverConnection> road;
+    std::shared_ptr<DriverConnection> driverConnection;
     std::vector<FieldDescription> fields;
     RowStore rows;
     RowCursor cursor;
@@ -41,7 +41,7 @@ struct Recordset::State {
     std::unique_ptr<DriverHold> hold;
     std::optional<RowStatements> statements; ///< made at the first edit
 
-    void openOn(std::shared_ptr<DriverConnection> newRoad);
+    void openOn(std::shared_ptr<DriverConnection> newConnection);
     bool fetch();
     void close();
     void requery();

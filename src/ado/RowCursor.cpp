@@ -22,8 +22,9 @@ void RowCursor::showOnly(std::vector<std::uint32_t> rows) {
 }
 
 void RowCursor::added(std::size_t row) {
-    if (filtered_)
+    if (filtered_) {
         shown_.push_back(static_cast<std::uint32_t>(row));
+    }
     position_ = count_++;
 }
 
@@ -32,8 +33,9 @@ std::size_t RowCursor::row() const {
 }
 
 std::size_t RowCursor::rowAt(long position) const {
-    if (position < 0 || position >= count_)
+    if (position < 0 || position >= count_) {
         throw Error(kNoCurrentRecord);
+    }
     const auto place = static_cast<std::size_t>(position);
     return filtered_ ? shown_[place] : place;
 }
@@ -48,8 +50,9 @@ void RowCursor::last() {
 void RowCursor::move(long rows) {
     const bool leavesBackwards = bof() && rows <= 0;
     const bool leavesForwards = eof() && rows >= 0;
-    if (leavesBackwards || leavesForwards)
+    if (leavesBackwards || leavesForwards) {
         throw Error(kNoCurrentRecord);
+    }
     place(position_ + std::clamp(rows, -count_ - 1, count_ + 1));
 }
 
@@ -59,8 +62,9 @@ void RowCursor::moveFromFirst(long rows) {
 }
 
 void RowCursor::demandRows() const {
-    if (count_ == 0)
+    if (count_ == 0) {
         throw Error(kNoCurrentRecord);
+    }
 }
 
 void RowCursor::place(long position) {

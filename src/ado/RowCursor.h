@@ -6,22 +6,22 @@
 
 namespace ado {
 
-/// Where a recordset stands among its rows, or among those that a filter leaves. Moves raise 3021 where the table of
-/// states says so; what overshoots sets BOF or EOF.
+/// The position of a recordset among its rows, or among those that a filter admits. A move beyond the first or last row
+/// sets BOF or EOF; a further one in that direction, and one without rows, raises 3021.
 class RowCursor {
 public:
-    /// All of `rows`, from the first.
+    /// Shows that many rows and goes to the first.
     void showAll(std::size_t rows);
-    /// These alone, from the first.
+    /// Shows only these rows of the store and goes to the first.
     void showOnly(std::vector<std::uint32_t> rows);
-    /// One more row of the store, shown behind all others and current.
+    /// Shows one more row of the store, after all others, and goes to it.
     void added(std::size_t row);
 
     bool bof() const { return count_ == 0 || position_ < 0; }
     bool eof() const { return count_ == 0 || position_ >= count_; }
     bool onRow() const { return position_ >= 0 && position_ < count_; }
     long count() const { return count_; }
-    std::size_t row() const; ///< its place in the store; only where there is one
+    std::size_t row() const; ///< the current row's place in the store; only to be called where there is a current row
     long position() const { return position_; }
     std::size_t rowAt(long position) const; ///< the place in the store of a shown row, from 0; raises 3021
 
@@ -35,9 +35,9 @@ private:
     void place(long position);
 
     bool filtered_ = false;
-    std::vector<std::uint32_t> shown_; ///< where filtered
+    std::vector<std::uint32_t> shown_; ///< places in the store, only where filtered
     long count_ = 0;
-    long position_ = 0; ///< from 0; -1 before the first, count behind the last
+    long position_ = 0; ///< from 0; -1 before the first row, count_ after the last
 };
 
 } // namespace ado

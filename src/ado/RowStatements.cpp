@@ -18,20 +18,21 @@ std::vector<int> identityOf(const Fields& fields) {
     return found == fields.end() ? std::vector<int>{} : std::vector<int>{static_cast<int>(found - fields.begin())};
 }
 
-/// Nothing where one of the names isn't among the fields.
+/// The places of these columns among the fields; none where one of them is missing.
 std::vector<int> placesOf(const std::vector<std::string>& columns, const Fields& fields) {
     std::vector<int> places;
     for (const std::string& column : columns) {
         const auto found = std::ranges::find_if(
             fields, [&](const FieldDescription& field) { return sameName(field.baseColumn, column); });
-        if (found == fields.end())
+        if (found == fields.end()) {
             return {};
+        }
         places.push_back(static_cast<int>(found - fields.begin()));
     }
     return places;
 }
 
-/// What "=" can tell apart for certain: no single precision numbers, no binaries, no texts without a limit.
+/// The columns that "=" compares reliably: no single precision numbers, no binaries, no texts of unlimited length.
 std::vector<int> comparablePlaces(const Fields& fields) {
     std::vector<int> places;
     for (std::size_t i = 0; i < fields.size(); ++i) {
@@ -39,8 +40,9 @@ std::vector<int> comparablePlaces(const Fields& fields) {
         const bool text = field.type == FieldType::Char || field.type == FieldType::WChar;
         const bool vague =
             field.type == FieldType::Single || field.type == FieldType::Binary || (text && field.length < 0);
-        if (!vague && !field.baseColumn.empty())
+        if (!vague && !field.baseColumn.empty()) {
             places.push_back(static_cast<int>(i));
+        }
     }
     return places;
 }
@@ -50,10 +52,12 @@ std::vector<int> comparablePlaces(const Fields& fields) {
 std::optional<std::string> RowStatements::baseTable(const Fields& fields) {
     std::optional<std::string> table;
     for (const FieldDescription& field : fields) {
-        if (field.baseTable.empty())
+        if (field.baseTable.empty()) {
             continue;
-        if (table && !sameName(*table, field.baseTable))
+        }
+        if (table && !sameName(*table, field.baseTable)) {
             return std::nullopt;
+        }
         table = field.baseTable;
     }
     return table;
@@ -62,21 +66,25 @@ std::optional<std::string> RowStatements::baseTable(const Fields& fields) {
 RowStatements::RowStatements(const Fields& fields, const std::string& table, const std::vector<std::string>& primaryKey)
     : fields_(fields), table_(quotedName(table)) {
     key_ = identityOf(fields);
-    if (key_.empty())
+    if (key_.empty()) {
         key_ = placesOf(primaryKey, fields);
-    if (key_.empty())
+    }
+    if (key_.empty()) {
         key_ = comparablePlaces(fields);
+    }
     for (std::size_t i = 0; i < fields.size(); ++i) {
-        if (!fields[i].baseColumn.empty())
+        if (!fields[i].baseColumn.empty()) {
             readColumns_.push_back(static_cast<int>(i));
+        }
     }
 }
 
 std::string RowStatements::insert(const Assignments& values) const {
     std::string columns, literals;
     for (std::size_t i = 0; i < values.size(); ++i) {
-        if (!values[i])
+        if (!values[i]) {
             continue;
+        }
         addPiece(columns, ", ", quotedName(fields_[i].baseColumn));
         addPiece(literals, ", ", literal(*values[i], fields_[i].type));
     }
@@ -87,17 +95,19 @@ std::string RowStatements::insert(const Assignments& values) const {
 std::string RowStatements::update(const Assignments& values, const RowStore& rows, std::size_t row) const {
     std::string assignments;
     for (std::size_t i = 0; i < values.size(); ++i) {
-        if (values[i])
+        if (values[i]) {
             addPiece(assignments, ", ",
                      quotedName(fields_[i].baseColumn) + " = " + literal(*values[i], fields_[i].type));
+        }
     }
     return "UPDATE " + table_ + " SET " + assignments + where(rows, row);
 }
 
 std::string RowStatements::select(const RowStore& rows, std::size_t row, const std::string& hint) const {
     std::string columns;
-    for (const int place : readColumns_)
+    for (const int place : readColumns_) {
         addPiece(columns, ", ", quotedName(fields_[static_cast<std::size_t>(place)].baseColumn));
+    }
     return "SELECT " + columns + " FROM " + table_ + hint + where(rows, row);
 }
 

@@ -9,26 +9,26 @@
 
 namespace ado {
 
-/// One value for each field of a recordset, nothing where the field wasn't assigned.
+/// One value for each field of a recordset; none where the field wasn't assigned.
 using Assignments = std::vector<std::optional<Value>>;
 
-/// The statements by which one table's rows are edited: which table, by which columns a row is found.
+/// The statements that edit the rows of one table, and the key columns that find a row.
 class RowStatements {
 public:
-    /// Nothing where the fields aren't the columns of one table.
+    /// The table of the fields; none where they don't belong to exactly one.
     static std::optional<std::string> baseTable(const std::vector<FieldDescription>& fields);
 
-    /// The key is the identity, else `primaryKey` where the fields have all of it, else all values.
+    /// The key is the identity; else `primaryKey`, where the fields include all of it; else all values that can be
+    /// compared.
     RowStatements(const std::vector<FieldDescription>& fields, const std::string& table,
                   const std::vector<std::string>& primaryKey);
 
-    /// False where nothing tells one row from another: then there is no statement for it.
+    /// False where there is no key, so that rows can't be edited.
     bool tellsRowsApart() const { return !key_.empty(); }
 
     std::string insert(const Assignments& values) const;
     std::string update(const Assignments& values, const RowStore& rows, std::size_t row) const;
-    /// All columns of the one row, in the order of the fields that `readColumns` gives.
-    /// `hint` stands behind the table.
+    /// Reads the row's columns in the order of `readColumns`. `hint` follows the table.
     std::string select(const RowStore& rows, std::size_t row, const std::string& hint) const;
     const std::vector<int>& readColumns() const { return readColumns_; }
 

@@ -11,17 +11,18 @@ namespace ado {
 
 namespace {
 
-constexpr double kLargestSureWhole = 1e15; // up to here a double tells every whole number
+constexpr double kLargestSureWhole = 1e15; // a double holds every whole number up to here
 constexpr int kLargestPower = 15;
 
 int digitsAt(std::string_view text, std::size_t from, std::size_t count) {
     int number = 0;
-    for (const char c : text.substr(std::min(from, text.size()), count))
+    for (const char c : text.substr(std::min(from, text.size()), count)) {
         number = number * 10 + (c - '0');
+    }
     return number;
 }
 
-/// YYYY-MM-DD hh:mm:ss.mmm, perhaps without the time.
+/// Reads YYYY-MM-DD hh:mm:ss.mmm; the time may be missing.
 Date readDate(std::string_view text) {
     using namespace std::chrono;
     const year_month_day date(year(digitsAt(text, 0, 4)), month(static_cast<unsigned>(digitsAt(text, 5, 2))),
@@ -36,20 +37,26 @@ std::int64_t readUnscaled(std::string_view text, int scale) {
     std::int64_t number = 0;
     int decimals = -1;
     for (const char c : text) {
-        if (c == '.')
+        if (c == '.') {
             decimals = 0;
-        if (c < '0' || c > '9')
+        }
+        if (c < '0' || c > '9') {
             continue;
-        if (decimals >= scale)
+        }
+        if (decimals >= scale) {
             break;
-        if (__builtin_mul_overflow(number, 10, &number) || __builtin_add_overflow(number, c - '0', &number))
+        }
+        if (__builtin_mul_overflow(number, 10, &number) || __builtin_add_overflow(number, c - '0', &number)) {
             throw Error(kOverflow);
-        if (decimals >= 0)
+        }
+        if (decimals >= 0) {
             ++decimals;
+        }
     }
     for (int missing = scale - std::max(decimals, 0); missing > 0; --missing) {
-        if (__builtin_mul_overflow(number, 10, &number))
+        if (__builtin_mul_overflow(number, 10, &number)) {
             throw Error(kOverflow);
+        }
     }
     return text.starts_with('-') ? -number : number;
 }
@@ -64,12 +71,13 @@ int scaleOf(const FieldDescription& field) {
     return field.type == FieldType::Currency ? 4 : field.type == FieldType::Decimal ? field.scale : 0;
 }
 
-/// A decimal without its point: by its digits where they are more than a double keeps.
+/// A decimal without its point, read from its text where it has more digits than a double holds.
 std::int64_t unscaled(const DriverResult& result, int field, int scale) {
     if (scale <= kLargestPower) {
         const double number = result.real(field) * powerOfTen(scale);
-        if (std::fabs(number) < kLargestSureWhole)
+        if (std::fabs(number) < kLargestSureWhole) {
             return std::llround(number);
+        }
     }
     return readUnscaled(result.text(field), scale);
 }
@@ -77,21 +85,24 @@ std::int64_t unscaled(const DriverResult& result, int field, int scale) {
 } // namespace
 
 RowStore::RowStore(const std::vector<FieldDescription>& fields) {
-    for (const FieldDescription& field : fields)
+    for (const FieldDescription& field : fields) {
         columns_.push_back({field.type, scaleOf(field)});
+    }
 }
 
 void RowStore::fetch(DriverResult& result) {
     const int count = static_cast<int>(columns_.size());
     while (result.nextRow()) {
-        for (int field = 0; field < count; ++field)
+        for (int field = 0; field < count; ++field) {
             cells_.push_back(read(result, field));
+        }
     }
 }
 
 void RowStore::append(const std::vector<Value>& row) {
-    for (const Value& value : row)
+    for (const Value& value : row) {
         cells_.push_back(toCell(value));
+    }
 }
 
 void RowStore::replace(std::size_t row, int column, const Value& value) {
@@ -109,8 +120,9 @@ RowStore::Cell RowStore::textCell(std::string_view text) {
 
 RowStore::Cell RowStore::read(const DriverResult& result, int field) {
     Cell cell;
-    if (result.isNull(field))
+    if (result.isNull(field)) {
         return cell;
+    }
     const Column& column = columns_[static_cast<std::size_t>(field)];
     switch (column.type) {
     case FieldType::Boolean:
@@ -158,12 +170,13 @@ RowStore::Cell RowStore::toCell(const Value& value) {
             cell.real = static_cast<double>(content);
         } else if constexpr (!std::is_same_v<T, std::monostate> && !std::is_same_v<T, Null>) {
             cell.kind = Kind::Integer;
-            if constexpr (std::is_same_v<T, Currency>)
+            if constexpr (std::is_same_v<T, Currency>) {
                 cell.integer = content.tenThousandths;
-            else if constexpr (std::is_same_v<T, Decimal>)
+            } else if constexpr (std::is_same_v<T, Decimal>) {
                 cell.integer = content.unscaled;
-            else
+            } else {
                 cell.integer = content;
+            }
         }
     };
     std::visit(write, value.variant());
@@ -177,8 +190,9 @@ std::string_view RowStore::text(std::size_t row, int column) const {
 
 Value RowStore::value(std::size_t row, int column) const {
     const Cell& found = cell(row, column);
-    if (found.kind == Kind::Null)
+    if (found.kind == Kind::Null) {
         return Null{};
+    }
     const Column& description = columns_[static_cast<std::size_t>(column)];
     switch (description.type) {
     case FieldType::Boolean:

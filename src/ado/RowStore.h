@@ -10,22 +10,22 @@
 
 namespace ado {
 
-/// The rows of a selection on our side: cells of 16 bytes in one block, their texts behind one another in another.
+/// The rows of a selection in memory: cells of 16 bytes in one block, and their texts in another.
 class RowStore {
 public:
     RowStore() = default;
     explicit RowStore(const std::vector<FieldDescription>& fields);
 
-    /// Reads the present result to its end.
+    /// Reads all rows of the present result.
     void fetch(DriverResult& result);
     void append(const std::vector<Value>& row);
-    /// `value` is of the type of its column or null.
+    /// `value` must have the column's type or be null.
     void replace(std::size_t row, int column, const Value& value);
 
     std::size_t rows() const { return columns_.empty() ? 0 : cells_.size() / columns_.size(); }
     bool isNull(std::size_t row, int column) const { return cell(row, column).kind == Kind::Null; }
     Value value(std::size_t row, int column) const;
-    /// The characters of a text cell where they lie.
+    /// The characters of a text cell, not copied.
     std::string_view text(std::size_t row, int column) const;
 
 private:

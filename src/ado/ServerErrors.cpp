@@ -36,8 +36,9 @@ static_assert(std::ranges::is_sorted(kClasses, {}, &ServerErrorClass::nativeErro
 
 Error serverError(int nativeError, const std::string& text) {
     const auto found = std::ranges::lower_bound(kClasses, nativeError, {}, &ServerErrorClass::nativeError);
-    if (found == kClasses.end() || found->nativeError != nativeError)
+    if (found == kClasses.end() || found->nativeError != nativeError) {
         return {kUnspecified, text, "HY000", nativeError, {}};
+    }
     return {found->number, text, found->sqlState, nativeError, {}};
 }
 

@@ -6,8 +6,8 @@
 
 namespace ado {
 
-/// A refusal of the server in the data layer's terms: the server's own text, the class and the SQLSTATE of its number.
-/// The same for every road, so that a caller meets one number whichever server answered.
+/// A server's error as an error of the data layer: with the server's own text, and the class and the SQLSTATE of its
+/// number. All drivers use it, so that an error has the same number with each of them.
 Error serverError(int nativeError, const std::string& text);
 
 } // namespace ado

@@ -5,12 +5,12 @@
 
 namespace ado {
 
-/// What a recordset's source stands for in the server's language: the name of one table alone (`T`, `[T]`, `dbo.T`) is
-/// the whole table, all else is the text itself. With `options` 2 the text is a table's name whatever it looks like.
+/// The statement for a recordset's source: for the name of a table (`T`, `[T]`, `dbo.T`) a SELECT of the whole table,
+/// else the text itself. With `options` 2 any text is taken for a table's name.
 std::string statementOf(std::string_view source, int options);
 
-/// Whether rows of that text can be one table's rows: nothing in it joins, groups or makes rows distinct. Texts, quoted
-/// names and comments don't count.
+/// Whether the rows of that statement can be rows of one table: nothing in it joins, groups or makes rows distinct.
+/// Keywords inside texts, quoted names and comments are ignored.
 bool selectsPlainRows(std::string_view statement);
 
 } // namespace ado

@@ -1,6 +1,6 @@
 #pragma once
 
-// Kinds of ASCII characters, blanks around a text and lists of pieces, for all that reads or writes texts.
+// Kinds of ASCII characters, trimming and lists of pieces.
 
 #include <algorithm>
 #include <string>
@@ -19,7 +19,7 @@ constexpr bool isDigit(char c) {
 constexpr char lower(char c) {
     return c >= 'A' && c <= 'Z' ? static_cast<char>(c + ('a' - 'A')) : c;
 }
-/// What a name may begin with: a letter of any language or an underscore.
+/// Whether a name may begin with it: a letter of any language or an underscore.
 constexpr bool isNameStart(char c) {
     return (lower(c) >= 'a' && lower(c) <= 'z') || c == '_' || static_cast<unsigned char>(c) >= 0x80;
 }
@@ -37,10 +37,11 @@ constexpr std::string_view trimmed(std::string_view text, std::string_view blank
                                            : text.substr(begin, text.find_last_not_of(blanks) - begin + 1);
 }
 
-/// Adds a piece to a list of pieces with dividers between them.
+/// Appends a piece, after a divider where the list isn't empty.
 inline void addPiece(std::string& list, std::string_view divider, std::string_view piece) {
-    if (!list.empty())
+    if (!list.empty()) {
         list += divider;
+    }
     list += piece;
 }
 

@@ -12,7 +12,7 @@ struct Null {
     bool operator==(const Null&) const = default;
 };
 
-/// A day of the Gregorian calendar and a time on it.
+/// A day of the Gregorian calendar and a time of day.
 struct Date {
     std::int32_t day = 0;         ///< days since 1970-01-01
     std::int32_t millisecond = 0; ///< since midnight
@@ -21,7 +21,7 @@ struct Date {
 
     /// Throws Error 13 for a day that doesn't exist.
     static Date of(int year, int month, int day, int hour = 0, int minute = 0, int second = 0, int millisecond = 0);
-    /// Months and days past their end roll over, as a date built from its parts does.
+    /// Months and days past their end are carried over: month 13 is January of the next year.
     static Date rolling(int year, int month, int day);
     int year() const;
     int month() const;

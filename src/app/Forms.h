@@ -4,7 +4,7 @@
 
 namespace app {
 
-/// Gives every form of the program its factory under its name.
+/// Registers the factory of every form of the program under the form's name.
 void registerForms(controls::FormRegistry& registry);
 
 } // namespace app

@@ -3,7 +3,7 @@
 #include "app/Forms.h"
 #include "controls/Mark.h"
 #include "controls/QtDialogs.h"
-#include "engine/Host.h"
+#include "engine/store/Host.h"
 #include "platform/Workstation.h"
 
 #include <QLibraryInfo>
@@ -13,10 +13,11 @@ namespace app {
 
 Program::Program(int& argc, char** argv, controls::style::Scheme scheme) : application_(argc, argv) {
     engine::refuseTooLargeFiles();
-    // The hidden start form stands until the end of the process.
+    // Between two forms only the hidden start form may be left, which must not end the process.
     QApplication::setQuitOnLastWindowClosed(false);
-    if (italian_.load(QStringLiteral("qtbase_it"), QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
+    if (italian_.load(QStringLiteral("qtbase_it"), QLibraryInfo::path(QLibraryInfo::TranslationsPath))) {
         QApplication::installTranslator(&italian_);
+    }
     controls::style::install(application_, scheme);
     QApplication::setWindowIcon(controls::Mark::icon());
 

@@ -30,8 +30,9 @@ int CheckBox::Value() const {
 }
 
 void CheckBox::setValue(int value) {
-    if (value < 0 || value >= static_cast<int>(kStates.size()))
+    if (value < 0 || value >= static_cast<int>(kStates.size())) {
         throw invalidPropertyValue();
+    }
     setCheckState(kStates[static_cast<std::size_t>(value)]);
 }
 

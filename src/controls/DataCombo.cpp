@@ -45,14 +45,15 @@ DataCombo::DataCombo(QWidget* parent) : QComboBox(parent), list_(new ListModel(t
     UserInput::watch();
     lineEdit()->installEventFilter(this);
     connect(this, &QComboBox::activated, this, &DataCombo::picked);
-    // Queued: after a pick of the search the text is set once more.
+    // Queued, since after a pick in the search the completer sets the text again.
     connect(this, &QComboBox::activated, this, &DataCombo::selectWhole, Qt::QueuedConnection);
     connect(&FocusTracker::instance(), &FocusTracker::moved, this, &DataCombo::followFocus);
 }
 
 void DataCombo::setRowSource(DataControl* source) {
-    if (source_ != nullptr)
+    if (source_ != nullptr) {
         source_->disconnect(this);
+    }
     source_ = source;
     if (source_ != nullptr) {
         const auto refill = [this] { source_->byUser([this] { ReFill(); }); };
@@ -82,16 +83,18 @@ void DataCombo::setText(const std::string& text) {
 
 void DataCombo::restoreChosen() {
     completer()->popup()->hide();
-    if (currentText() == chosen_)
+    if (currentText() == chosen_) {
         return;
+    }
     setEditText(chosen_);
     selectWhole();
 }
 
-// As when the focus comes: typing starts anew.
+// The whole text is selected, as when the focus comes, so that typing replaces it.
 void DataCombo::selectWhole() {
-    if (hasFocus())
+    if (hasFocus()) {
         lineEdit()->selectAll();
+    }
 }
 
 bool DataCombo::TabStop() const {
@@ -122,9 +125,10 @@ void DataCombo::setBoundText(const std::string& key) {
 }
 
 void DataCombo::picked(int row) {
-    // Leaving the field with a text that stands in the list isn't a pick.
-    if (leaving_)
+    // When the field is left, the toolkit emits this for a text that is in the list, which isn't a pick.
+    if (leaving_) {
         return;
+    }
     pickedRow_ = row;
     chosen_ = list_->textAt(row);
     emit Click(List);
@@ -134,17 +138,17 @@ void DataCombo::keyPressEvent(QKeyEvent* event) {
     switch (event->key()) {
     case Qt::Key_Return:
     case Qt::Key_Enter:
-        event->ignore(); // an Enter in the text belongs to the form
+        event->ignore(); // the form handles Enter
         return;
     case Qt::Key_Up:
     case Qt::Key_Down:
     case Qt::Key_PageUp:
     case Qt::Key_PageDown:
-        showPopup(); // no row is picked unseen
+        showPopup(); // shows the list instead of picking the next row in the closed one
         return;
     case Qt::Key_Escape:
         restoreChosen();
-        event->ignore(); // the form may have something to leave
+        event->ignore(); // the form may handle Esc, too
         return;
     default:
         QComboBox::keyPressEvent(event);
@@ -160,14 +164,15 @@ void DataCombo::inputMethodEvent(QInputMethodEvent* event) {
 void DataCombo::highlightOnlyMatch() {
     QAbstractItemView* found = completer()->popup();
     const QAbstractItemModel* matches = completer()->completionModel();
-    if (!found->isVisible() || matches->rowCount() != 1)
+    if (!found->isVisible() || matches->rowCount() != 1) {
         return;
-    const QSignalBlocker quiet(completer()); // the text stays as it was typed
+    }
+    const QSignalBlocker quiet(completer()); // or the completer would put the row's text into the field
     found->setCurrentIndex(matches->index(0, 0));
 }
 
-// The keys that end the search; true where they have done their work. Other keys, and Enter on a highlighted row, are
-// the completer's.
+// The keys that end the search. Returns true where the key has been handled; the completer handles all other keys, and
+// Enter on a highlighted row.
 bool DataCombo::keyInSearch(const QKeyEvent& key) {
     QAbstractItemView& found = *completer()->popup();
     const bool plain = UserInput::isPlain(key);
@@ -177,13 +182,15 @@ bool DataCombo::keyInSearch(const QKeyEvent& key) {
         restoreChosen();
         return true;
     case Qt::Key_Tab:
-        if (plain && !highlighted)
+        if (plain && !highlighted) {
             return false;
+        }
         break;
     case Qt::Key_Return:
     case Qt::Key_Enter:
-        if (plain && highlighted)
+        if (plain && highlighted) {
             return false;
+        }
         break;
     default:
         return false;
@@ -231,7 +238,7 @@ void DataCombo::hidePopup() {
     selectWhole();
 }
 
-// As wide as the longest text by its letters: to measure thousands of texts would take too long.
+// Estimates the width from the number of letters, since measuring thousands of texts would take too long.
 void DataCombo::widenPopup() {
     const int letters = static_cast<int>(list_->longest());
     const int wanted = letters * QFontMetrics(view()->font()).averageCharWidth() + kPopupPadding +
@@ -240,15 +247,17 @@ void DataCombo::widenPopup() {
 }
 
 bool DataCombo::eventFilter(QObject* watched, QEvent* event) {
-    if (watched == lineEdit() && event->type() == QEvent::MouseButtonPress)
+    if (watched == lineEdit() && event->type() == QEvent::MouseButtonPress) {
         emit Click(Edit);
+    }
     if (watched == lineEdit() && event->type() == QEvent::MouseButtonRelease && selectAtRelease_) {
         selectAtRelease_ = false;
         lineEdit()->selectAll();
     }
     if (watched == completer()->popup() && event->type() == QEvent::KeyPress &&
-        keyInSearch(static_cast<const QKeyEvent&>(*event)))
+        keyInSearch(static_cast<const QKeyEvent&>(*event))) {
         return true;
+    }
     return QComboBox::eventFilter(watched, event);
 }
 

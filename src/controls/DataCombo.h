@@ -10,12 +10,12 @@ namespace controls {
 
 class ListModel;
 
-/// A field with a list over the rows of a data control: it shows ListField and gives BoundColumn. A pick doesn't move
-/// the source's current row.
+/// A field with a list of the rows of a data control: it shows ListField, and BoundText is the row's BoundColumn. A
+/// pick doesn't move the source's current row.
 ///
-/// Typing searches the list and picks nothing. Enter or Tab on a row that is highlighted in what was found is a pick;
-/// what alone is found is highlighted. A text that wasn't picked gives way to the one that the form or a pick has put
-/// there: when the field is left, at Esc, and before an Enter reaches the form.
+/// Typing searches the list and picks nothing. Enter or Tab on a highlighted row of the search's list is a pick; a row
+/// that is the only one found is highlighted. A text that was typed and not picked is replaced by the last one set by
+/// the form or picked: when the field is left, at Esc, and before an Enter reaches the form.
 class DataCombo : public QComboBox {
     Q_OBJECT
 public:
@@ -29,19 +29,18 @@ public:
     void setRowSource(DataControl* source);
     /// Rebuilds the list; the text stays.
     void ReFill();
-    /// Repaints.
     void Refresh() { repaint(); }
 
     std::string Text() const { return currentText().toStdString(); }
-    /// Any text, in the list or not.
+    /// Shows any text, in the list or not.
     void setText(const std::string& text);
-    /// The bound column of the first row that the text stands for, empty where none does.
+    /// The bound column of the row picked, or else of the first row with the present text; empty where there is none.
     std::string BoundText() const;
-    /// Shows the row of this key; the empty text where there is none.
+    /// Shows the row with this key; the empty text where there is none.
     void setBoundText(const std::string& key);
     /// Takes back what was typed and not picked, and closes the search.
     void restoreChosen();
-    /// Whether Tab stops here; a click does so always.
+    /// Whether Tab sets the focus here. A click always does.
     bool TabStop() const;
     void setTabStop(bool stops);
 
@@ -49,7 +48,7 @@ public:
 
 signals:
     void GotFocus();
-    void LostFocus(); ///< only when the focus moves within the program
+    void LostFocus(); ///< only when the focus moves to another control of the program
     void Click(int area);
 
 protected:
@@ -72,8 +71,8 @@ private:
 
     DataControl* source_ = nullptr;
     ListModel* list_;
-    int pickedRow_ = -1; ///< tells rows of one text apart
-    QString chosen_;     ///< the text of the last pick or of the form
+    int pickedRow_ = -1; ///< tells rows with the same text apart
+    QString chosen_;     ///< the text last picked or set by the form
     bool leaving_ = false;
     bool selectAtRelease_ = false;
 };

@@ -30,8 +30,9 @@ void DataControl::Refresh() {
     auto fresh = std::make_unique<ado::Recordset>();
     try {
         fresh->Open(RecordSource, ConnectionString, ado::CursorType::Static, ado::LockType::Optimistic);
-        if (!fresh->IsOpen())
+        if (!fresh->IsOpen()) {
             throw ado::Error(ado::kObjectClosed);
+        }
     } catch (...) {
         emit refreshed();
         throw;
@@ -44,14 +45,16 @@ void DataControl::Refresh() {
 }
 
 ado::Recordset& DataControl::Recordset() {
-    if (recordset_ == nullptr)
+    if (recordset_ == nullptr) {
         throw objectNotSet();
+    }
     return *recordset_;
 }
 
 void DataControl::follow() {
-    if (recordset_ == nullptr)
+    if (recordset_ == nullptr) {
         return;
+    }
     if (!recordset_->IsOpen() || recordset_->Filter() != filter_ || recordset_->RecordCount() != count_) {
         filter_ = recordset_->IsOpen() ? recordset_->Filter() : std::string();
         count_ = recordset_->IsOpen() ? recordset_->RecordCount() : 0;

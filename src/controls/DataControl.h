@@ -11,8 +11,8 @@
 
 namespace controls {
 
-/// The source of the lists and grids of a form: a connection text, a record source, and the recordset that Refresh
-/// makes of them. Never visible.
+/// The source of lists and grids of a form: a connection text, a record source, and the recordset that Refresh opens
+/// with them. Never visible.
 class DataControl : public QWidget {
     Q_OBJECT
 public:
@@ -22,15 +22,16 @@ public:
     std::string ConnectionString;
     std::string RecordSource;
 
-    /// Takes both texts and refreshes.
+    /// Sets both texts and refreshes.
     void load(const std::string& connection, const std::string& source);
-    /// Closes and opens anew: a new recordset, unfiltered, on its first row. What fails raises and leaves none.
+    /// Closes the recordset and opens a new one, unfiltered, on its first row. Where that fails it raises, and there is
+    /// no recordset.
     void Refresh();
-    /// Error 91 before the first Refresh and after one that failed.
+    /// Raises error 91 before the first Refresh and after one that failed.
     ado::Recordset& Recordset();
     bool hasRecordset() const { return recordset_ != nullptr; }
 
-    /// What a user does in a control that is bound to this one. An error becomes the signal Error.
+    /// Runs what a user does in a control bound to this one. An error is emitted as the signal Error.
     void byUser(const std::function<void()>& act);
 
 signals:

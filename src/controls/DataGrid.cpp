@@ -30,8 +30,9 @@ void DataGrid::Column::setVisible(bool visible) {
 void DataGrid::Column::setWidth(int twips) {
     grid_->model_->column(index_).twips = twips;
     setVisible(twips > 0);
-    if (twips > 0)
+    if (twips > 0) {
         grid_->setColumnWidth(index_, twips / kTwipsInAPixel);
+    }
     grid_->shareWidth();
 }
 
@@ -86,11 +87,12 @@ DataGrid::DataGrid(QWidget* parent) : QTableView(parent), model_(new RecordsetMo
 }
 
 void DataGrid::setDataSource(DataControl* source) {
-    if (DataControl* former = model_->source())
+    if (DataControl* former = model_->source()) {
         former->disconnect(this);
+    }
     model_->setSource(source);
     if (source != nullptr) {
-        // After the model's own connections: the rows are there when the grid follows.
+        // Connected after the model, so that the model has its rows when the grid follows.
         connect(source, &DataControl::refreshed, this, &DataGrid::showAllColumns);
         connect(source, &DataControl::refreshed, this, &DataGrid::followRecordset);
         connect(source, &DataControl::moved, this, &DataGrid::followRecordset);
@@ -136,29 +138,33 @@ void DataGrid::followRecordset() {
         return;
     }
     const int row = pastTheEnd ? model_->rowCount() - 1 : static_cast<int>(place) - 1;
-    if (currentIndex().row() != row)
+    if (currentIndex().row() != row) {
         setCurrentIndex(model_->index(row, visibleColumn()));
+    }
 }
 
 int DataGrid::visibleColumn() const {
     int column = std::max(0, currentIndex().column());
-    while (column < model_->columnCount() - 1 && isColumnHidden(column))
+    while (column < model_->columnCount() - 1 && isColumnHidden(column)) {
         ++column;
+    }
     return column;
 }
 
-// From a column that isn't seen the arrows lead nowhere.
+// The arrow keys don't work while the current column is hidden.
 void DataGrid::leaveHiddenColumn() {
     const QScopedValueRollback following(following_, true);
     const QModelIndex current = currentIndex();
-    if (current.isValid() && isColumnHidden(current.column()))
+    if (current.isValid() && isColumnHidden(current.column())) {
         setCurrentIndex(model_->index(current.row(), visibleColumn()));
+    }
 }
 
 void DataGrid::currentChanged(const QModelIndex& current, const QModelIndex& previous) {
     QTableView::currentChanged(current, previous);
-    if (following_ || !current.isValid() || current.row() == previous.row())
+    if (following_ || !current.isValid() || current.row() == previous.row()) {
         return;
+    }
     takeRow();
     followRecordset();
 }
@@ -166,11 +172,12 @@ void DataGrid::currentChanged(const QModelIndex& current, const QModelIndex& pre
 void DataGrid::takeRow() {
     const int row = currentIndex().row();
     DataControl* source = model_->source();
-    if (row >= 0 && source->Recordset().AbsolutePosition() != row + 1)
+    if (row >= 0 && source->Recordset().AbsolutePosition() != row + 1) {
         source->byUser([&] { source->Recordset().setAbsolutePosition(row + 1); });
+    }
 }
 
-/// Where the recordset stands, from 1; below 1 on no row.
+/// The recordset's position, counted from 1; below 1 where there is no current row.
 long DataGrid::position() const {
     DataControl* source = model_->source();
     const bool open = source != nullptr && source->hasRecordset() && source->Recordset().IsOpen();
@@ -213,7 +220,7 @@ void DataGrid::mousePressEvent(QMouseEvent* event) {
     }
 }
 
-// A row under a button that is held down is gone to as well.
+// Moving with the button held down changes the row, too.
 void DataGrid::mouseMoveEvent(QMouseEvent* event) {
     const long before = position();
     QTableView::mouseMoveEvent(event);
@@ -233,8 +240,9 @@ void DataGrid::mouseReleaseEvent(QMouseEvent* event) {
 
 void DataGrid::mouseDoubleClickEvent(QMouseEvent* event) {
     QTableView::mouseDoubleClickEvent(event);
-    if (model_->rowCount() == 0)
+    if (model_->rowCount() == 0) {
         emit DblClick();
+    }
 }
 
 void DataGrid::fillWidth() {
@@ -244,26 +252,31 @@ void DataGrid::fillWidth() {
 
 void DataGrid::shareWidth() {
     int twips = 0;
-    for (int i = 0; i < ColumnCount(); ++i)
+    for (int i = 0; i < ColumnCount(); ++i) {
         twips += isColumnHidden(i) ? 0 : model_->column(i).twips;
-    if (!fillsWidth_ || twips == 0)
+    }
+    if (!fillsWidth_ || twips == 0) {
         return;
+    }
     const double growth = std::max(1.0, viewport()->width() * kTwipsInAPixel / static_cast<double>(twips));
     int widest = -1;
-    int owed = 0; // what captions took beyond their column's share
+    int owed = 0; // pixels that captions need beyond their column's share
     for (int i = 0; i < ColumnCount(); ++i) {
-        if (isColumnHidden(i) || model_->column(i).twips == 0)
+        if (isColumnHidden(i) || model_->column(i).twips == 0) {
             continue;
+        }
         const int share = static_cast<int>(model_->column(i).twips * growth / kTwipsInAPixel);
         const int caption = horizontalHeader()->sectionSizeHint(i);
         setColumnWidth(i, std::max(share, caption));
         owed += std::max(0, caption - share);
-        if (widest < 0 || columnWidth(i) > columnWidth(widest))
+        if (widest < 0 || columnWidth(i) > columnWidth(widest)) {
             widest = i;
+        }
     }
-    if (widest >= 0)
+    if (widest >= 0) {
         setColumnWidth(widest, std::max({columnWidth(widest) - owed, horizontalHeader()->sectionSizeHint(widest),
                                          model_->column(widest).twips / kTwipsInAPixel}));
+    }
 }
 
 bool DataGrid::isInSight(const QSize& viewport) const {
@@ -281,7 +294,7 @@ void DataGrid::resizeEvent(QResizeEvent* event) {
     }
 }
 
-// Its row is paler while the keys go elsewhere.
+// The current row is drawn paler while the grid doesn't have the focus.
 void DataGrid::initViewItemOption(QStyleOptionViewItem* option) const {
     QTableView::initViewItemOption(option);
     option->state.setFlag(QStyle::State_Active, hasFocus() || state() == EditingState);

@@ -10,19 +10,19 @@ namespace controls {
 
 /// One row of a grid's layout.
 struct ColumnLayout {
-    int place;           ///< from 0
+    int place;           ///< of the column, counted from 0
     const char* caption; ///< null keeps the field's name
     int twips;           ///< 15 to a pixel; 0 hides the column
     Qt::Alignment alignment = Qt::AlignLeft;
 };
 
-/// A grid over the rows of a data control. Its current row and the recordset's are one; only past the end it stands on
-/// its last row, which a click or Enter then makes current. Each refresh of the source makes the columns anew: every
-/// field visible, under its own name, open to edits.
+/// A grid of the rows of a data control. Its current row is the recordset's; only where that is past its end the grid
+/// is on its last row, which a click or Enter then makes current. Each refresh of the source resets the columns: every
+/// field is visible, has its own name as caption and can be edited.
 class DataGrid : public QTableView {
     Q_OBJECT
 public:
-    /// One column, by its place from 0.
+    /// One column, by its place counted from 0.
     class Column {
     public:
         void setLocked(bool locked);
@@ -35,7 +35,7 @@ public:
         bool Visible() const;
         int Width() const;
         std::string Caption() const;
-        /// What the current row shows. Error 3021 without one.
+        /// The text of the current row. Raises error 3021 where there is none.
         std::string Text() const;
         ado::Value Value() const;
 
@@ -50,22 +50,22 @@ public:
 
     void setDataSource(DataControl* source);
     int ColumnCount() const { return model_->columnCount(); }
-    /// Error 9 for a column that isn't there.
+    /// Raises error 9 for a column that doesn't exist.
     Column Columns(int index);
-    /// Locks every column and sets those of the layout; the others keep what they have. Error 9 for a column that isn't
-    /// there, with the rows of the layout ahead of it set.
+    /// Locks every column and sets those of the layout; the others stay as they are. Raises error 9 for a column that
+    /// doesn't exist, after setting the ones before it.
     void lay(std::span<const ColumnLayout> layout);
-    /// Columns of a layout grow in proportion where the grid is wider than they are together, and none is narrower than
-    /// its caption.
+    /// From now on columns that were given a width grow in proportion where the grid is wider than their sum, and none
+    /// is narrower than its caption.
     void fillWidth();
 
 signals:
-    void DblClick(); ///< or Enter, on a row; a double click on a grid without rows as well
-    void Click();    ///< of the left button, on a row or beside the rows; or Space in a locked column
-    /// The user has gone to a row, which is current now: to another one, or to the same with a press or Space. No move
-    /// in code tells this.
+    void DblClick(); ///< a double click or Enter on a row, or a double click on a grid without rows
+    void Click();    ///< of the left button, on or beside the rows; or Space in a locked column
+    /// The user has gone to a row, which is current now: to another one, or by a press or Space to the same. Not
+    /// emitted for moves in code.
     void RowPicked();
-    /// A key goes down, once however long it is held, before the grid does its own with it.
+    /// A key was pressed; emitted once, however long it is held, and before the grid handles the key.
     void KeyDown(int key, Qt::KeyboardModifiers modifiers);
 
 protected:
@@ -92,7 +92,7 @@ private:
 
     RecordsetModel* model_;
     bool following_ = false;
-    bool pressed_ = false; ///< the left button went down here and hasn't come up
+    bool pressed_ = false; ///< the left button was pressed on the grid and not yet released
     bool fillsWidth_ = false;
 };
 

@@ -5,7 +5,7 @@
 
 namespace controls {
 
-/// A form that takes no input while it lives. The focus is afterwards where it was.
+/// Disables a form for the length of a scope, and then sets the focus where it was.
 class Disabled {
 public:
     explicit Disabled(QWidget& form) : form_(form), focus_(form.focusWidget()) { form_.setEnabled(false); }

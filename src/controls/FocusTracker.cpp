@@ -7,8 +7,9 @@ namespace controls {
 
 FocusTracker& FocusTracker::instance() {
     static QPointer<FocusTracker> tracker;
-    if (tracker.isNull())
+    if (tracker.isNull()) {
         tracker = new FocusTracker(qApp);
+    }
     return *tracker;
 }
 
@@ -17,12 +18,14 @@ FocusTracker::FocusTracker(QObject* parent) : QObject(parent) {
 }
 
 void FocusTracker::follow(QWidget* now) {
-    if (now == nullptr || now == last_)
+    if (now == nullptr || now == last_) {
         return;
+    }
     const QWidget* window = now->window();
     const bool inAForm = qobject_cast<const QDialog*>(window) == nullptr && window->windowType() != Qt::Popup;
-    if (!inAForm)
+    if (!inAForm) {
         return;
+    }
     QWidget* from = last_;
     last_ = now;
     emit moved(from, now);

@@ -6,16 +6,16 @@
 
 namespace controls {
 
-/// Tells moves of the focus from control to control inside the program's forms. A box or another program in front is no
-/// move: coming back to the same control tells nothing.
+/// Emits a signal when the focus moves from one control of the program's forms to another. A message box or another
+/// program in between doesn't count: coming back to the same control emits nothing.
 class FocusTracker : public QObject {
     Q_OBJECT
 public:
-    /// One for the application, which owns it.
+    /// The one of the application, which owns it.
     static FocusTracker& instance();
 
 signals:
-    void moved(QWidget* from, QWidget* to); ///< `from` is null at first
+    void moved(QWidget* from, QWidget* to); ///< `from` is null the first time
 
 private:
     explicit FocusTracker(QObject* parent);

@@ -15,21 +15,23 @@ namespace controls {
 
 namespace {
 
-/// A window that the system hasn't shown yet can't paint.
+/// Waits until the system shows the window, since it can't paint earlier.
 void waitUntilExposed(const QWidget& form) {
     constexpr int kLongestMilliseconds = 1000;
     constexpr int kSliceMilliseconds = 20;
     const QDeadlineTimer deadline(kLongestMilliseconds);
     const QWindow* window = form.windowHandle();
-    while (window != nullptr && !window->isExposed() && !deadline.hasExpired())
+    while (window != nullptr && !window->isExposed() && !deadline.hasExpired()) {
         QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents, kSliceMilliseconds);
+    }
 }
 
 QString spokenName(QString caption) {
     caption.remove(QLatin1Char('&'));
     caption = caption.trimmed();
-    while (caption.endsWith(QLatin1Char(':')))
+    while (caption.endsWith(QLatin1Char(':'))) {
         caption = caption.chopped(1).trimmed();
+    }
     return caption;
 }
 
@@ -41,9 +43,10 @@ Form::Form(const char* name) {
 }
 
 void Form::runLoad() {
-    // Outside a dialog Enter presses a button only where it is told to.
-    for (auto* button : findChildren<QPushButton*>())
+    // Without this, Enter presses buttons only in a QDialog.
+    for (auto* button : findChildren<QPushButton*>()) {
         button->setAutoDefault(true);
+    }
     nameForAssistiveTools();
     run([this] { Load(); });
 }
@@ -59,8 +62,9 @@ void Form::runUnload() {
 }
 
 void Form::run(const std::function<void()>& event) {
-    if (!unloaded_)
+    if (!unloaded_) {
         guarded(event);
+    }
 }
 
 void Form::chain(std::vector<KeyRow> rows) {
@@ -69,8 +73,9 @@ void Form::chain(std::vector<KeyRow> rows) {
 }
 
 void Form::Refresh() {
-    if (!isVisible())
+    if (!isVisible()) {
         return;
+    }
     waitUntilExposed(*this);
     repaint();
     QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
@@ -93,17 +98,22 @@ void Form::setHelpContext(int form, int controls) {
 
 void Form::closeEvent(QCloseEvent* event) {
     event->ignore();
-    if (isVisible()) // the close of a window that another event has hidden meanwhile comes too late
+    if (isVisible()) { // ignored where another event has hidden the window meanwhile
         UnloadMe();
+    }
 }
 
 void Form::nameForAssistiveTools() {
-    for (const QLabel* label : findChildren<QLabel*>())
-        if (label->buddy() != nullptr && label->buddy()->accessibleName().isEmpty())
+    for (const QLabel* label : findChildren<QLabel*>()) {
+        if (label->buddy() != nullptr && label->buddy()->accessibleName().isEmpty()) {
             label->buddy()->setAccessibleName(spokenName(label->text()));
-    for (auto* button : findChildren<QAbstractButton*>())
-        if (button->accessibleName().isEmpty())
+        }
+    }
+    for (auto* button : findChildren<QAbstractButton*>()) {
+        if (button->accessibleName().isEmpty()) {
             button->setAccessibleName(spokenName(button->text()));
+        }
+    }
 }
 
 } // namespace controls

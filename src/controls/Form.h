@@ -11,9 +11,9 @@
 
 namespace controls {
 
-/// A window of the program. Its life: made at first use, Load, visible, Activate each time it becomes the program's
-/// active form, Unload. Its objectName is its name. What it keeps dies with its unload; a form may be unloaded from
-/// its own events, it is deleted once they are over.
+/// A window of the program. It is created at first use, then come Load, showing, Activate each time it becomes the
+/// program's active form, and Unload. Its objectName is its name. An unload deletes the object, so its members live
+/// only from load to unload. A form may be unloaded in one of its own events; it is deleted when that is over.
 class Form : public QWidget {
     Q_OBJECT
 public:
@@ -21,7 +21,7 @@ public:
 
     std::string Name() const { return objectName().toStdString(); }
 
-    // For whoever hosts the forms: each runs its event behind the guard.
+    // For FormRegistry: each runs the form's event under the guard.
     void runLoad();
     void runActivate();
     void runUnload();
@@ -33,29 +33,31 @@ protected:
     virtual void Activate() {}
     virtual void Unload() {}
 
-    /// The handler of one event of a control: errors end the event with a box, and an unloaded form gets none.
+    /// Connects a handler to an event of a control. An error ends the event with a box; an unloaded form gets no
+    /// events.
     template<typename Sender, typename Owner, typename... Values, typename Handler>
     void on(Sender* sender, void (Owner::*signal)(Values...), Handler handler) {
         connect(sender, signal, this, [this, handler](Values... values) {
             run([&] {
-                if constexpr (std::is_invocable_v<Handler, Values...>)
+                if constexpr (std::is_invocable_v<Handler, Values...>) {
                     handler(values...);
-                else
+                } else {
                     handler();
+                }
             });
         });
     }
-    /// The order of entry: which keys end a field and what happens then.
+    /// Sets the order of entry: which keys end a field and what happens then.
     void chain(std::vector<KeyRow> rows);
 
-    /// Paints at once, so that the texts can be read while a long step runs.
+    /// Paints at once, so that the texts are visible while a long step runs.
     void Refresh();
     void Hide();
     void UnloadMe();
-    /// The help topics of the form and of each of its controls.
+    /// Sets the help topics of the form and of each of its controls.
     void setHelpContext(int form, int controls);
-    /// A window of much to show: its size comes from the screen and not from its contents, and where the user leaves it
-    /// it stands at its next showing.
+    /// For a large form: its size is taken from the screen instead of its contents, and at its next load it gets the
+    /// place and size that the user left it with.
     void takeScreen() { takesScreen_ = true; }
 
     void closeEvent(QCloseEvent* event) override;

@@ -11,12 +11,12 @@ namespace controls {
 namespace {
 
 constexpr double kPartOfTheScreen = 0.9;
-constexpr QSize kLeast(1000, 0);      // where the screen is narrow, all of it
-constexpr QSize kLargest(1600, 1100); // more makes a grid's rows too long to follow
+constexpr QSize kLeast(1000, 0);      // a narrower screen is filled
+constexpr QSize kLargest(1600, 1100); // in wider grids a row is hard to follow
 
 void centre(Form& form) {
     const QRect place = form.screen()->availableGeometry();
-    form.adjustSize(); // which stops short of a small screen's edges
+    form.adjustSize(); // never larger than two thirds of the screen, hence the resize below
     const QSize wanted = form.takesScreen() ? (place.size() * kPartOfTheScreen).expandedTo(kLeast).boundedTo(kLargest)
                                             : form.size().expandedTo(form.sizeHint());
     form.resize(wanted.boundedTo(place.size()));
@@ -27,20 +27,22 @@ void centre(Form& form) {
 } // namespace
 
 void FormRegistry::Gone::operator()(Form* form) const {
-    // It may be unloaded from one of its own events: it goes when they are over, and nobody finds it until then.
+    // The form may be unloaded in one of its own events, so it is deleted after them. Without its name it can't be
+    // found meanwhile.
     form->setObjectName(QString());
     form->hide();
     form->deleteLater();
 }
 
 FormRegistry::FormRegistry() {
-    // Queued: while windows come and go, only the last one counts.
+    // Queued, since only the last of several quick changes counts.
     connect(qApp, &QGuiApplication::focusWindowChanged, this, &FormRegistry::followWindows, Qt::QueuedConnection);
 }
 
 FormRegistry::~FormRegistry() {
-    for (auto& [name, form] : forms_)
+    for (auto& [name, form] : forms_) {
         delete form.release();
+    }
 }
 
 void FormRegistry::add(std::string name, Factory factory) {
@@ -48,17 +50,20 @@ void FormRegistry::add(std::string name, Factory factory) {
 }
 
 bool FormRegistry::show(std::string_view name) {
-    if (factories_.find(name) == factories_.end())
+    if (factories_.find(name) == factories_.end()) {
         return false;
+    }
     Form* form = load(name);
-    if (form == nullptr)
+    if (form == nullptr) {
         return true; // its own Load has unloaded it
+    }
     if (form->isUnloading()) {
         wantedAgain_.emplace(name);
         return true;
     }
-    if (form->isMinimized())
+    if (form->isMinimized()) {
         form->showNormal();
+    }
     form->setVisible(true);
     form->activateWindow();
     activate(*form);
@@ -70,59 +75,70 @@ bool FormRegistry::makeVisible(std::string_view name) {
 }
 
 Form* FormRegistry::load(std::string_view name) {
-    if (Form* form = loaded(name))
+    if (Form* form = loaded(name)) {
         return form;
+    }
     Holder& holder = forms_[std::string(name)];
     holder = Holder(factories_.find(name)->second().release());
     const QPointer<Form> form = holder.get();
     form->runLoad();
-    if (loaded(name) != form || form.isNull())
+    if (loaded(name) != form || form.isNull()) {
         return nullptr;
+    }
     place(*form);
     return form;
 }
 
 void FormRegistry::place(Form& form) const {
     const auto left = places_.find(form.Name());
-    if (left == places_.end() || !form.restoreGeometry(left->second))
+    if (left == places_.end() || !form.restoreGeometry(left->second)) {
         centre(form);
+    }
 }
 
 void FormRegistry::activate(Form& form) {
-    if (active_ == &form)
+    if (active_ == &form) {
         return;
+    }
     active_ = &form;
     form.runActivate();
 }
 
 void FormRegistry::followWindows() {
     auto* form = qobject_cast<Form*>(QApplication::activeWindow());
-    if (form != nullptr && form->isVisible() && loaded(form->Name()) == form)
+    if (form != nullptr && form->isVisible() && loaded(form->Name()) == form) {
         activate(*form);
+    }
 }
 
 void FormRegistry::hide(std::string_view name) {
     Form* form = loaded(name);
-    if (form == nullptr)
+    if (form == nullptr) {
         return;
-    if (active_ == form)
+    }
+    if (active_ == form) {
         active_ = nullptr;
+    }
     form->hide();
 }
 
 void FormRegistry::unload(std::string_view name) {
     Form* form = loaded(name);
-    if (form == nullptr || form->isUnloading())
+    if (form == nullptr || form->isUnloading()) {
         return;
+    }
     const std::string own(name);
     form->runUnload();
-    if (active_ == form)
+    if (active_ == form) {
         active_ = nullptr;
-    if (form->takesScreen())
+    }
+    if (form->takesScreen()) {
         places_.insert_or_assign(own, form->saveGeometry());
+    }
     forms_.erase(own);
-    if (wantedAgain_.erase(own) > 0)
+    if (wantedAgain_.erase(own) > 0) {
         show(own);
+    }
 }
 
 bool FormRegistry::isLoaded(std::string_view name) const {

@@ -16,7 +16,7 @@
 
 namespace controls {
 
-/// The forms by name: a single instance each, made on first use. Names are compared exactly.
+/// The forms by name: a single instance each, created on first use. Names are compared exactly.
 class FormRegistry : public QObject, public platform::FormHost {
     Q_OBJECT
 public:
@@ -33,9 +33,9 @@ public:
     void unload(std::string_view name) override;
     bool isLoaded(std::string_view name) const override;
 
-    /// Null where it isn't loaded.
+    /// The form of that name; null where it isn't loaded.
     Form* loaded(std::string_view name) const;
-    /// The form that has last become active and still stands on the screen.
+    /// The form that became active last and is still visible.
     Form* active() const { return active_; }
 
 private:
@@ -51,8 +51,8 @@ private:
 
     std::map<std::string, Factory, std::less<>> factories_;
     std::map<std::string, Holder, std::less<>> forms_;
-    std::map<std::string, QByteArray, std::less<>> places_; ///< where forms that take the screen were left
-    std::set<std::string, std::less<>> wantedAgain_;        ///< shown by their own Unload
+    std::map<std::string, QByteArray, std::less<>> places_; ///< place and size of unloaded forms with takeScreen
+    std::set<std::string, std::less<>> wantedAgain_;        ///< forms shown during their own Unload
     QPointer<Form> active_;
 };
 

@@ -5,11 +5,11 @@
 
 namespace controls {
 
-/// The error's own description in a box.
+/// Shows the error's own description in a box.
 void tellError(const std::exception& error);
 
-/// Runs one event. An error that no rule took becomes a box with its description, and the event ends; the end of the
-/// process passes. False when an error ended it.
+/// Runs the code of one event. An error that no failure rule handled ends it with a box that shows the description;
+/// then the result is false. The end of the process isn't caught.
 template<typename Event>
 bool guarded(Event&& event) {
     try {

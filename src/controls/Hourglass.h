@@ -4,7 +4,7 @@
 
 namespace controls {
 
-/// The hourglass pointer while it lives.
+/// Shows the hourglass pointer for the length of a scope.
 class Hourglass {
 public:
     Hourglass() { QGuiApplication::setOverrideCursor(Qt::WaitCursor); }

@@ -14,7 +14,7 @@ ItemCombo::ItemCombo(QWidget* parent) : QComboBox(parent) {
     UserInput::watch();
 }
 
-// The first item of an empty list would be picked by itself.
+// The base class picks the first item that is added to an empty list.
 void ItemCombo::addItem(const std::string& text, std::int32_t data) {
     const int picked = currentIndex();
     QComboBox::addItem(QString::fromStdString(text), data);

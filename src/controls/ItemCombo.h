@@ -7,8 +7,8 @@
 
 namespace controls {
 
-/// A list of texts, each with a number of its own. Nothing is picked unseen: the keys that would change the pick open
-/// the list, and letters go to it there.
+/// A list of texts, each with its own number. Nothing is picked while the list is closed: the keys that would do so
+/// open it, and letters open it and search there.
 class ItemCombo : public QComboBox {
     Q_OBJECT
 public:
@@ -16,17 +16,17 @@ public:
 
     void addItem(const std::string& text, std::int32_t data);
 
-    /// From 0; -1 while none is picked.
+    /// The place of the item picked, counted from 0; -1 while none is picked.
     int ListIndex() const { return currentIndex(); }
-    /// Of the item picked. Error 381 where none is.
+    /// The number of the item picked. Raises error 381 where none is.
     std::int32_t ItemData() const;
-    /// The item's, or the text for none.
+    /// The text of the item picked, or the one shown while none is.
     std::string Text() const;
-    /// Picks none and shows this text.
+    /// Picks no item and shows this text.
     void setText(const std::string& text);
 
 signals:
-    void Click(); ///< the user has picked an item, the same one included
+    void Click(); ///< the user has picked an item, also where it is the same one
 
 protected:
     void keyPressEvent(QKeyEvent* event) override;

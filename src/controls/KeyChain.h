@@ -14,10 +14,10 @@ namespace controls {
 /// Which keys end the entry of a field. Enter is Return or the keypad's Enter.
 enum class EndOfEntry { Enter, EnterOrTab };
 
-/// One field of a form's chain: what happens at the end of its entry.
+/// One field of a form's chain and what happens at the end of its entry.
 struct KeyRow {
     KeyRow(QWidget* field, EndOfEntry keys, std::function<void()> handler);
-    /// Nothing but the move to the next field of the chain.
+    /// Only moves the focus to the next field of the chain.
     KeyRow(QWidget* field, EndOfEntry keys, QWidget* next);
 
     QWidget* field;
@@ -25,11 +25,11 @@ struct KeyRow {
     std::function<void()> handler;
 };
 
-/// The order of entry of a form as one table of fields. Keys that no row names stay what they are to the field.
+/// The order of entry of a form as one table of fields. The field itself handles all keys that no row names.
 class KeyChain : public QObject {
     Q_OBJECT
 public:
-    /// `run` runs each handler: the guard of the form's events.
+    /// `run` runs each handler, under the guard of the form's events.
     using Runner = std::function<void(const std::function<void()>&)>;
     KeyChain(QObject* parent, Runner run, std::vector<KeyRow> rows);
 

@@ -8,9 +8,11 @@ namespace {
 
 int fieldIndex(ado::Recordset& rows, const std::string& name) {
     const QString wanted = QString::fromStdString(name);
-    for (int i = 0; i < rows.FieldCount(); ++i)
-        if (QString::fromStdString(rows[i].Name()).compare(wanted, Qt::CaseInsensitive) == 0)
+    for (int i = 0; i < rows.FieldCount(); ++i) {
+        if (QString::fromStdString(rows[i].Name()).compare(wanted, Qt::CaseInsensitive) == 0) {
             return i;
+        }
+    }
     throw ado::Error(ado::kItemNotFound);
 }
 
@@ -22,8 +24,9 @@ void ListModel::fill(DataControl* source, const std::string& textField, const st
     beginResetModel();
     source_ = nullptr;
     endResetModel();
-    if (source == nullptr || !source->hasRecordset() || !source->Recordset().IsOpen())
+    if (source == nullptr || !source->hasRecordset() || !source->Recordset().IsOpen()) {
         return;
+    }
     text_ = fieldIndex(source->Recordset(), textField);
     key_ = fieldIndex(source->Recordset(), keyField);
     beginResetModel();
@@ -57,35 +60,41 @@ std::string ListModel::keyAt(int row) const {
 int ListModel::rowOfText(const QString& text) const {
     const std::string wanted = text.toStdString();
     const int count = rowCount();
-    for (int row = 0; row < count; ++row)
-        if (read(row, text_) == wanted)
+    for (int row = 0; row < count; ++row) {
+        if (read(row, text_) == wanted) {
             return row;
+        }
+    }
     return -1;
 }
 
 int ListModel::rowOfKey(const std::string& key) const {
     const int count = rowCount();
-    for (int row = 0; row < count; ++row)
-        if (read(row, key_) == key)
+    for (int row = 0; row < count; ++row) {
+        if (read(row, key_) == key) {
             return row;
+        }
+    }
     return -1;
 }
 
 qsizetype ListModel::longest() const {
     std::size_t longest = 0;
     const int count = rowCount();
-    for (int row = 0; row < count; ++row)
+    for (int row = 0; row < count; ++row) {
         longest = std::max(longest, read(row, text_).size());
+    }
     return static_cast<qsizetype>(longest);
 }
 
 QVariant ListModel::data(const QModelIndex& index, int role) const {
-    if (!index.isValid() || (role != Qt::DisplayRole && role != Qt::EditRole))
+    if (!index.isValid() || (role != Qt::DisplayRole && role != Qt::EditRole)) {
         return {};
+    }
     try {
         return rows() == nullptr ? QVariant() : QVariant(textAt(index.row()));
     } catch (const ado::Error&) {
-        return {}; // a row that has gone meanwhile
+        return {}; // the row doesn't exist any more
     }
 }
 

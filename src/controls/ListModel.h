@@ -8,19 +8,20 @@
 
 namespace controls {
 
-/// The list of a combo: one text and one key per row of a data control, read where they are. Nothing is copied, so that
-/// a list of many thousand rows costs nothing until it is seen.
+/// The list of a combo: one text and one key per row of a data control. They are read from its recordset when needed
+/// and not copied, so that a list of many thousand rows costs nothing until it is shown.
 class ListModel : public QAbstractListModel {
     Q_OBJECT
 public:
     explicit ListModel(QObject* parent);
 
-    /// Shows the rows that the source has now. Error 3265 for a field that isn't there. Null is an empty list.
+    /// Shows the rows that the source has now; none for a null source. Raises error 3265 for a field that doesn't
+    /// exist.
     void fill(DataControl* source, const std::string& textField, const std::string& keyField);
 
     QString textAt(int row) const;
     std::string keyAt(int row) const;
-    /// The first row of that text or key, -1 where there is none.
+    /// The first row with that text or key, -1 where there is none.
     int rowOfText(const QString& text) const;
     int rowOfKey(const std::string& key) const;
     /// The length of the longest text, in bytes.

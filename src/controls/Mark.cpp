@@ -15,7 +15,7 @@ struct Bar {
     double x, top;
     const char* colour;
 };
-// In hundredths of the side; all bars stand on one line.
+// In hundredths of the side; all bars end on the same line at the bottom.
 constexpr std::array kBars = {Bar{22, 54, "#9cc7e3"}, Bar{43, 24, "#ffffff"}, Bar{64, 40, "#c9e1f1"}};
 constexpr double kBarWidth = 14, kFoot = 78, kCorner = 18, kBarCorner = 2;
 

@@ -5,7 +5,7 @@
 
 namespace controls {
 
-/// The product's mark, drawn sharp at any scale: the columns of a ledger on a rounded square.
+/// The product's logo, drawn sharp at any scale: three bars on a rounded square.
 class Mark : public QWidget {
     Q_OBJECT
 public:

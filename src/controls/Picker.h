@@ -9,24 +9,25 @@ namespace controls {
 class DataCombo;
 class DataControl;
 
-/// A combo over a list of its own, and the key of what was picked in it. The key is the form's: two pickers may share
-/// one, and a form sets it as it likes.
+/// A combo, the data control of its list, and the key of the row picked. The key is a variable of the form, which may
+/// set it, too; two pickers may share one.
 class Picker : public QObject {
     Q_OBJECT
 public:
-    /// The list's fields: what is shown, and the key, a number.
+    /// `textField` is the field shown, `keyField` the key, a number.
     Picker(DataCombo& combo, DataControl& list, const char* textField, const char* keyField, double& key);
 
     DataCombo& combo() const { return *combo_; }
     double& key() const { return *key_; }
 
-    /// Reads the list anew; the text stays.
+    /// Reads the list again; the text in the field stays.
     void load(const std::string& connection, const std::string& source);
-    /// From here on Delete, in the text and in the list that opens while one types, empties text and key.
+    /// From now on the key Delete clears text and key, in the field and in the list of the search.
     void clearWithDelete();
 
 signals:
-    /// A pick in the list; the key is that row's. A row whose key isn't a number is told in a box, and picks nothing.
+    /// A row was picked and its key set. For a row whose key isn't a number a box is shown instead, and nothing is
+    /// picked.
     void Picked();
 
 protected:

@@ -19,9 +19,10 @@ ProgressBar::ProgressBar(QWidget* parent) : QProgressBar(parent) {
 }
 
 void ProgressBar::setValue(double value) {
-    const bool inside = value >= kLowest && value <= kHighest; // false for what is no number
-    if (!inside)
+    const bool inside = value >= kLowest && value <= kHighest; // false for NaN
+    if (!inside) {
         throw invalidPropertyValue();
+    }
     value_ = value;
     QProgressBar::setValue(static_cast<int>(std::lround(value)));
 }

@@ -11,10 +11,10 @@ public:
     explicit ProgressBar(QWidget* parent = nullptr);
 
     double Value() const { return value_; }
-    /// Error 380 outside 0 to 100; the bar stays as it was.
+    /// Raises error 380 outside 0 to 100; the bar stays as it was.
     void setValue(double value);
     double Max() const { return maximum(); }
-    /// One step on, in single precision. A step that would reach the end begins again at 0.
+    /// Adds a step, in single precision. Where that would reach the end, the bar goes back to 0.
     void advance(double step);
 
 private:

@@ -28,19 +28,19 @@ QString titleOr(const std::string& title) {
     return title.empty() ? applicationTitle() : QString::fromStdString(title);
 }
 
-/// Whether Esc and the close button are the last button, or a box is left by its buttons alone.
+/// Whether Esc and the close button mean the last button, or only the buttons close the box.
 enum class Leaving { ByEscToo, ByButtonsAlone };
 
-/// Without an icon nothing stands beside the text: the room that is kept there goes, and the buttons are below its
-/// middle.
+/// For a box without an icon: removes the space that is kept for it and centres the buttons.
 void fillRoomOfIcon(QMessageBox& box) {
     auto* grid = qobject_cast<QGridLayout*>(box.layout());
     if (QLayoutItem* room = grid != nullptr ? grid->itemAtPosition(0, 0) : nullptr; room && room->spacerItem()) {
         grid->removeItem(room);
         delete room;
     }
-    if (auto* buttons = box.findChild<QDialogButtonBox*>())
+    if (auto* buttons = box.findChild<QDialogButtonBox*>()) {
         buttons->setCenterButtons(true);
+    }
 }
 
 /// Shows a box with its buttons; true when the first one was chosen.
@@ -53,18 +53,21 @@ bool ask(const std::string& text, QMessageBox::Icon icon, const QStringList& cap
     QList<QPushButton*> buttons;
     for (const QString& caption : captions) {
         const bool first = buttons.isEmpty();
-        // A button that refuses would be taken for the one of Esc.
+        // The toolkit lets Esc press a button with the role of refusing, so that role is given only where Esc may
+        // close.
         const auto other = escToo ? QMessageBox::RejectRole : QMessageBox::ActionRole;
         buttons.append(box.addButton(caption, first ? QMessageBox::YesRole : other));
         buttons.last()->setObjectName(caption);
     }
     box.setDefaultButton(buttons.first());
-    if (icon == QMessageBox::NoIcon)
+    if (icon == QMessageBox::NoIcon) {
         fillRoomOfIcon(box);
-    if (escToo)
+    }
+    if (escToo) {
         box.setEscapeButton(buttons.last());
-    else
+    } else {
         box.setWindowFlags(Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint);
+    }
     box.exec();
     return box.clickedButton() == buttons.first();
 }
@@ -100,14 +103,17 @@ std::string QtDialogs::folder(const std::string& title) {
     box.setOption(QFileDialog::ShowDirsOnly);
     box.setLabelText(QFileDialog::Accept, kOk);
     box.setLabelText(QFileDialog::Reject, kAnnulla);
-    if (box.exec() != QDialog::Accepted)
+    if (box.exec() != QDialog::Accepted) {
         return {};
+    }
     const QString chosen = box.selectedFiles().value(0);
     const QString inside = QDir(root).relativeFilePath(chosen);
-    if (inside == QLatin1String("."))
+    if (inside == QLatin1String(".")) {
         return "C:\\";
-    if (inside.startsWith(QLatin1String("..")) || QDir::isAbsolutePath(inside))
+    }
+    if (inside.startsWith(QLatin1String("..")) || QDir::isAbsolutePath(inside)) {
         return QDir::toNativeSeparators(chosen).toStdString();
+    }
     return "C:\\" + QString(inside).replace(QLatin1Char('/'), QLatin1Char('\\')).toStdString();
 }
 

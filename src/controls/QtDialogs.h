@@ -4,14 +4,14 @@
 
 namespace controls {
 
-/// The boxes as windows, over the form in front. Their buttons read Italian, their texts stand as they are.
+/// The boxes as windows, above the active form. Their buttons are Italian; their texts are shown as they are.
 class QtDialogs : public platform::Dialogs {
 public:
     void message(const std::string& text, platform::Icon icon) override;
     bool question(const std::string& text) override;
     bool confirm(const std::string& text) override;
     std::string input(const std::string& prompt, const std::string& title, const std::string& proposed) override;
-    /// A folder of drive C as a path of that drive, any other as the system writes it.
+    /// A folder of drive C is returned as a path of that drive, any other as the system writes it.
     std::string folder(const std::string& title) override;
 };
 

@@ -8,15 +8,17 @@ namespace controls {
 RecordsetModel::RecordsetModel(QObject* parent) : QAbstractTableModel(parent) {}
 
 void RecordsetModel::setSource(DataControl* source) {
-    if (source_ != nullptr)
+    if (source_ != nullptr) {
         source_->disconnect(this);
+    }
     source_ = source;
     if (source_ != nullptr) {
         connect(source_, &DataControl::refreshed, this, &RecordsetModel::makeColumns);
         connect(source_, &DataControl::rowsChanged, this, &RecordsetModel::showRows);
         connect(source_, &DataControl::moved, this, [this] {
-            if (rowCount() > 0)
+            if (rowCount() > 0) {
                 emit dataChanged(index(0, 0), index(rowCount() - 1, columnCount() - 1));
+            }
         });
         connect(source_, &QObject::destroyed, this, [this] {
             source_ = nullptr;
@@ -34,9 +36,11 @@ ado::Recordset* RecordsetModel::recordset() const {
 void RecordsetModel::makeColumns() {
     beginResetModel();
     columns_.clear();
-    if (ado::Recordset* rows = recordset())
-        for (int i = 0; i < rows->FieldCount(); ++i)
+    if (ado::Recordset* rows = recordset()) {
+        for (int i = 0; i < rows->FieldCount(); ++i) {
             columns_.push_back({.caption = QString::fromStdString((*rows)[i].Name())});
+        }
+    }
     endResetModel();
 }
 
@@ -46,15 +50,17 @@ void RecordsetModel::showRows() {
 }
 
 RecordsetModel::Column& RecordsetModel::column(int index) {
-    if (index < 0 || index >= columnCount())
+    if (index < 0 || index >= columnCount()) {
         throw subscriptOutOfRange();
+    }
     return columns_[static_cast<std::size_t>(index)];
 }
 
 void RecordsetModel::columnChanged(int index) {
     emit headerDataChanged(Qt::Horizontal, index, index);
-    if (rowCount() > 0)
+    if (rowCount() > 0) {
         emit dataChanged(this->index(0, index), this->index(rowCount() - 1, index));
+    }
 }
 
 std::string RecordsetModel::text(int row, int column) const {
@@ -72,42 +78,50 @@ int RecordsetModel::columnCount(const QModelIndex& parent) const {
 }
 
 QVariant RecordsetModel::data(const QModelIndex& index, int role) const {
-    if (!index.isValid() || recordset() == nullptr)
+    if (!index.isValid() || recordset() == nullptr) {
         return {};
+    }
     const Column& column = columns_[static_cast<std::size_t>(index.column())];
-    if (role == Qt::TextAlignmentRole)
+    if (role == Qt::TextAlignmentRole) {
         return QVariant::fromValue(column.alignment | Qt::AlignVCenter);
-    if (role != Qt::DisplayRole && role != Qt::EditRole && role != Qt::ToolTipRole)
+    }
+    if (role != Qt::DisplayRole && role != Qt::EditRole && role != Qt::ToolTipRole) {
         return {};
+    }
     try {
         return QString::fromStdString(text(index.row(), index.column()));
     } catch (const ado::Error&) {
-        return {}; // a row that has gone meanwhile
+        return {}; // the row doesn't exist any more
     }
 }
 
 QVariant RecordsetModel::headerData(int section, Qt::Orientation orientation, int role) const {
-    if (orientation != Qt::Horizontal || section < 0 || section >= columnCount())
+    if (orientation != Qt::Horizontal || section < 0 || section >= columnCount()) {
         return {};
+    }
     const Column& column = columns_[static_cast<std::size_t>(section)];
-    if (role == Qt::DisplayRole)
+    if (role == Qt::DisplayRole) {
         return column.caption;
-    if (role == Qt::TextAlignmentRole)
+    }
+    if (role == Qt::TextAlignmentRole) {
         return QVariant::fromValue(column.alignment | Qt::AlignVCenter);
+    }
     return {};
 }
 
 Qt::ItemFlags RecordsetModel::flags(const QModelIndex& index) const {
     Qt::ItemFlags flags = QAbstractTableModel::flags(index);
-    if (index.isValid() && !columns_[static_cast<std::size_t>(index.column())].locked)
+    if (index.isValid() && !columns_[static_cast<std::size_t>(index.column())].locked) {
         flags |= Qt::ItemIsEditable;
+    }
     return flags;
 }
 
 bool RecordsetModel::setData(const QModelIndex& index, const QVariant& value, int role) {
     ado::Recordset* rows = recordset();
-    if (rows == nullptr || !index.isValid() || role != Qt::EditRole)
+    if (rows == nullptr || !index.isValid() || role != Qt::EditRole) {
         return false;
+    }
     bool written = false;
     source_->byUser([&] {
         rows->setAbsolutePosition(index.row() + 1);

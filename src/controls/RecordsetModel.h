@@ -8,7 +8,8 @@
 
 namespace controls {
 
-/// The rows of a data control as a grid draws them, read where they are: nothing is copied and nothing moves.
+/// The rows of a data control for a grid. They are read from its recordset without copying and without moving its
+/// current row.
 class RecordsetModel : public QAbstractTableModel {
     Q_OBJECT
 public:
@@ -16,16 +17,16 @@ public:
         QString caption;
         Qt::Alignment alignment = Qt::AlignLeft;
         bool locked = false;
-        int twips = 0; ///< as a layout has set it; 0 where none has
+        int twips = 0; ///< as last set; 0 where it hasn't been set
     };
 
     explicit RecordsetModel(QObject* parent);
 
     void setSource(DataControl* source);
     DataControl* source() const { return source_; }
-    /// Error 9 for a column that isn't there.
+    /// Raises error 9 for a column that doesn't exist.
     Column& column(int index);
-    /// After a caption or an alignment has changed.
+    /// To be called after a caption or an alignment has changed.
     void columnChanged(int index);
     std::string text(int row, int column) const;
 

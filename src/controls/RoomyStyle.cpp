@@ -38,12 +38,13 @@ QColor buttonFill(const QStyleOption& option) {
     constexpr int kHover = 104;
     constexpr int kPressed = 112;
     const QColor plain = option.palette.color(QPalette::Button);
-    if (has(option, QStyle::State_Sunken) || has(option, QStyle::State_On))
+    if (has(option, QStyle::State_Sunken) || has(option, QStyle::State_On)) {
         return plain.darker(kPressed);
+    }
     return has(option, QStyle::State_MouseOver) && has(option, QStyle::State_Enabled) ? plain.darker(kHover) : plain;
 }
 
-/// The arrow of a list, pointing down in the middle of its place.
+/// A list's arrow, pointing down, in the middle of `place`.
 void drawArrow(QPainter& painter, const QStyleOption& option, const QRect& place) {
     constexpr double kHalfWidth = 4.5;
     constexpr double kHalfHeight = 2.5;
@@ -58,13 +59,14 @@ void drawArrow(QPainter& painter, const QStyleOption& option, const QRect& place
     painter.restore();
 }
 
-/// A box of a check box: empty, ticked or greyed.
+/// The square of a check box: empty, ticked or greyed.
 void drawCheckBox(QPainter& painter, const QStyleOption& option) {
     const bool on = has(option, QStyle::State_On);
     const bool greyed = has(option, QStyle::State_NoChange);
     drawFrame(painter, option, option.palette.color(QPalette::Base), has(option, QStyle::State_HasFocus));
-    if (!on && !greyed)
+    if (!on && !greyed) {
         return;
+    }
     const QRectF box(option.rect);
     const auto at = [&](double x, double y) { return box.topLeft() + QPointF(x * box.width(), y * box.height()); };
     painter.save();
@@ -72,10 +74,11 @@ void drawCheckBox(QPainter& painter, const QStyleOption& option) {
     QPen pen(option.palette.color(on ? QPalette::Text : QPalette::PlaceholderText), 2);
     pen.setCapStyle(Qt::RoundCap);
     painter.setPen(pen);
-    if (on)
+    if (on) {
         painter.drawPolyline(QPolygonF{at(0.25, 0.5), at(0.43, 0.7), at(0.75, 0.3)});
-    else
+    } else {
         painter.drawLine(at(0.28, 0.5), at(0.72, 0.5));
+    }
     painter.restore();
 }
 
@@ -107,7 +110,7 @@ int RoomyStyle::pixelMetric(PixelMetric metric, const QStyleOption* option, cons
     case PM_HeaderMargin:
         return kCellPadding;
     case PM_FocusFrameHMargin:
-        return kCellPadding - 1; // one more is the base style's own
+        return kCellPadding - 1; // the base style adds one
     default:
         return QProxyStyle::pixelMetric(metric, option, widget);
     }
@@ -115,20 +118,24 @@ int RoomyStyle::pixelMetric(PixelMetric metric, const QStyleOption* option, cons
 
 int RoomyStyle::styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
                           QStyleHintReturn* more) const {
-    if (hint == SH_DialogButtonBox_ButtonsHaveIcons)
+    if (hint == SH_DialogButtonBox_ButtonsHaveIcons) {
         return 0;
+    }
     return QProxyStyle::styleHint(hint, option, widget, more);
 }
 
 QSize RoomyStyle::sizeFromContents(ContentsType type, const QStyleOption* option, const QSize& contents,
                                    const QWidget* widget) const {
     QSize size = QProxyStyle::sizeFromContents(type, option, contents, widget);
-    if (type == CT_LineEdit || type == CT_ComboBox || type == CT_PushButton)
+    if (type == CT_LineEdit || type == CT_ComboBox || type == CT_PushButton) {
         size.setHeight(std::max(size.height(), kControlHeight));
-    if (type == CT_PushButton)
+    }
+    if (type == CT_PushButton) {
         size.rwidth() += kButtonPadding;
-    if (type == CT_ItemViewItem)
+    }
+    if (type == CT_ItemViewItem) {
         size.setHeight(std::max(size.height(), kRowHeight));
+    }
     return size;
 }
 
@@ -142,7 +149,7 @@ QRect RoomyStyle::subControlRect(ComplexControl control, const QStyleOptionCompl
     if (control == CC_ComboBox && (part == SC_ComboBoxArrow || part == SC_ComboBoxEditField)) {
         QRect arrow = option->rect;
         arrow.setLeft(arrow.right() - kArrowWidth);
-        // The field of an editable one brings its own padding.
+        // The text field of an editable combo has its own padding.
         const auto* combo = qstyleoption_cast<const QStyleOptionComboBox*>(option);
         const int padding = combo != nullptr && combo->editable ? 0 : kTextPadding;
         const QRect field = option->rect.adjusted(2 + padding, 2, -kArrowWidth, -2);
@@ -156,8 +163,9 @@ void RoomyStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* opt
     const bool focused = has(*option, State_HasFocus);
     if (element == PE_PanelLineEdit) {
         const auto* field = qstyleoption_cast<const QStyleOptionFrame*>(option);
-        if (field != nullptr && field->lineWidth > 0)
+        if (field != nullptr && field->lineWidth > 0) {
             drawFrame(*painter, *option, option->palette.color(QPalette::Base), focused);
+        }
     } else if (element == PE_PanelButtonCommand && !isFlat(*option)) {
         drawFrame(*painter, *option, buttonFill(*option), focused);
     } else if (element == PE_IndicatorCheckBox) {

@@ -4,8 +4,8 @@
 
 namespace controls {
 
-/// The drawing of fields, buttons and lists: more room than the base style gives, one kind of frame for all, and all
-/// colours from the palette, so that it is right in light and dark.
+/// Draws fields, buttons and lists with more space than the base style, one kind of frame for all, and colours from the
+/// palette only, so that light and dark schemes both look right.
 class RoomyStyle : public QProxyStyle {
 public:
     RoomyStyle();

@@ -36,14 +36,17 @@ QPalette palette(const Colours& colours) {
         {QPalette::Link, colours.accent},
         {QPalette::Mid, colours.border},
         {QPalette::BrightText, colours.accentText}};
-    for (const auto& [role, colour] : roles)
+    for (const auto& [role, colour] : roles) {
         palette.setColor(role, QColor(colour));
+    }
     palette.setColor(QPalette::Inactive, QPalette::Highlight, QColor(colours.pale));
     palette.setColor(QPalette::Inactive, QPalette::HighlightedText, QColor(colours.text));
-    for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText})
+    for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText}) {
         palette.setColor(QPalette::Disabled, role, QColor(colours.disabled));
-    for (const auto role : {QPalette::Base, QPalette::Button})
+    }
+    for (const auto role : {QPalette::Base, QPalette::Button}) {
         palette.setColor(QPalette::Disabled, role, QColor(colours.window));
+    }
     return palette;
 }
 

@@ -14,7 +14,8 @@ TextBox::TextBox(QWidget* parent) : QLineEdit(parent) {
 void TextBox::followFocus(QWidget* from, QWidget* to) {
     if (to == this) {
         selectAll();
-        // The press that brought the focus puts the caret somewhere; the whole text is selected again at its release.
+        // A mouse press that sets the focus also sets the caret and ends the selection, so the text is selected again
+        // when the button is released.
         selectAtRelease_ = QApplication::mouseButtons() != Qt::NoButton;
         emit GotFocus();
     } else if (from == this) {
@@ -24,8 +25,9 @@ void TextBox::followFocus(QWidget* from, QWidget* to) {
 
 void TextBox::mouseReleaseEvent(QMouseEvent* event) {
     QLineEdit::mouseReleaseEvent(event);
-    if (selectAtRelease_ && !hasSelectedText())
+    if (selectAtRelease_ && !hasSelectedText()) {
         selectAll();
+    }
     selectAtRelease_ = false;
 }
 

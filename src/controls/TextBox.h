@@ -6,7 +6,7 @@
 
 namespace controls {
 
-/// A field of one line. The whole text is selected whenever the field gets the focus, so that typing replaces it.
+/// A field of one line. Its whole text is selected whenever it gets the focus, so that typing replaces it.
 class TextBox : public QLineEdit {
     Q_OBJECT
 public:
@@ -14,13 +14,13 @@ public:
 
     std::string Text() const { return text().toStdString(); }
     using QLineEdit::setText;
-    /// Cut at the field's greatest length.
+    /// Shows the text, cut at the field's greatest length.
     void setText(const std::string& text) { setText(QString::fromStdString(text)); }
     void setText(const char* text) { setText(QString::fromUtf8(text)); }
 
 signals:
     void GotFocus();
-    void LostFocus(); ///< only when the focus moves within the program
+    void LostFocus(); ///< only when the focus moves to another control of the program
 
 protected:
     void mouseReleaseEvent(QMouseEvent* event) override;

@@ -30,8 +30,9 @@ struct Release {
 Release last;
 
 bool isRepeatedEnter(const QEvent& event) {
-    if (event.type() != QEvent::KeyPress)
+    if (event.type() != QEvent::KeyPress) {
         return false;
+    }
     const auto& key = static_cast<const QKeyEvent&>(event);
     return (key.key() == Qt::Key_Return || key.key() == Qt::Key_Enter) && UserInput::isRepeat(key);
 }
@@ -49,15 +50,17 @@ bool UserInput::isPlain(const QKeyEvent& key) {
 
 void UserInput::watch() {
     static QPointer<UserInput> filter;
-    if (!filter.isNull())
+    if (!filter.isNull()) {
         return;
+    }
     filter = new UserInput(qApp);
     qApp->installEventFilter(filter);
 }
 
 bool UserInput::eventFilter(QObject* watched, QEvent* event) {
-    if (!isInput(event->type()))
+    if (!isInput(event->type())) {
         return false;
+    }
     if (event->type() == QEvent::KeyRelease) {
         const auto& key = static_cast<const QKeyEvent&>(*event);
         last = {key.key(), key.timestamp()};

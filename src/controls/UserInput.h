@@ -6,16 +6,16 @@ class QKeyEvent;
 
 namespace controls {
 
-/// Which keys and clicks count, everywhere in the program. Enter acts once for each time the key goes down: what a held
-/// key repeats is dropped, so that no command and no store runs again by itself. A control that isn't on the screen
-/// takes none: the second click of a quick double click still arrives when the first has hidden its form.
+/// Drops keys and clicks that must not count, everywhere in the program. Enter acts once for each time the key is
+/// pressed: the repeats of a held key are dropped, so that no command and no store runs again. A control that isn't
+/// visible gets no input: the second click of a double click may arrive after the first has hidden the form.
 class UserInput : public QObject {
     Q_OBJECT
 public:
-    /// From the first call on, for the life of the application.
+    /// Starts this with the first call, for the life of the application.
     static void watch();
-    /// Whether a held key has sent this press. X tells of each repeat as a release and a press at one moment, and only
-    /// where both wait in the queue does the toolkit mark them.
+    /// Whether a held key has sent this press. X sends each repeat as a release and a press with the same time, and the
+    /// toolkit marks them as repeats only where both are in its queue.
     static bool isRepeat(const QKeyEvent& press);
     /// A key alone, or the same one on the number pad.
     static bool isPlain(const QKeyEvent& key);

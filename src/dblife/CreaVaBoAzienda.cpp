@@ -15,7 +15,7 @@ namespace {
 struct Opzione {
     const char* nome;
     const char* valore;
-    const char* istruzione; ///< the same behaviour behind ALTER DATABASE … SET
+    const char* istruzione; ///< the same option, as it follows ALTER DATABASE … SET
 };
 
 constexpr std::array<Opzione, 18> kOpzioni = {{
@@ -52,7 +52,7 @@ void CreaDatabase(const std::string& nome, const std::string& fileDati, const st
            " , SIZE = 2, FILEGROWTH = 10%) COLLATE Latin1_General_CI_AS");
 }
 
-/// False where the server answers that it has no such procedure.
+/// False where the server has no such procedure; any other error is skipped.
 bool EseguiProcedura(const std::string& testo) {
     bool manca = false;
     salta([&] {
@@ -66,15 +66,17 @@ bool EseguiProcedura(const std::string& testo) {
     return !manca;
 }
 
-/// A server that has lost the procedure is told by statements instead, all options in the same order.
+/// Sets all options in the order of the table. Newer servers don't have sp_dboption any more and get statements
+/// instead.
 void ImpostaOpzioni(const std::string& nome, const std::string& inizioDellaPrima) {
     std::string inizio = inizioDellaPrima;
     bool conProcedura = true;
     for (const Opzione& opzione : kOpzioni) {
         conProcedura = conProcedura && EseguiProcedura(inizio + "sp_dboption N'" + nome + "', N'" + opzione.nome +
                                                        "', N'" + opzione.valore + "'");
-        if (!conProcedura)
+        if (!conProcedura) {
             Esegui("ALTER DATABASE [" + nome + "] SET " + opzione.istruzione);
+        }
         inizio = " ";
     }
 }
@@ -114,7 +116,7 @@ void CreaDatabaseControllo() {
     Esegui("sp_configure 'query timeout',0 RECONFIGURE");
     CreaDatabase("VaBoDatiTemp", "'" + cartella + "VaBoDatiTemp.mdf'", "'" + cartella + "VaBoDatiTemp.ldf'");
     ImpostaOpzioni("VaBoDatiTemp", " ");
-    // Without a folder: the server places the control database itself.
+    // No folder in these names: the server stores the control database in its own folder.
     CreaDatabase("VaBoDatiAzienda", "N'VaBoDatiAzienda.mdf'", "N'VaBoDatiAzienda.ldf'");
     ImpostaOpzioni("VaBoDatiAzienda", "  ");
     salta([] { DbTemp.Close(); });

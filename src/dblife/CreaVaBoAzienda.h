@@ -2,9 +2,9 @@
 
 namespace vabo {
 
-/// Creates the temporary and the control database of the local instance, and the two tables of the latter, where they
-/// are missing. Uses DbTemp, which must be closed, and leaves it closed. Reports nothing: what failed shows when the
-/// databases are opened.
+/// Creates on the local instance what is missing of the temporary database, the control database and the latter's two
+/// tables. Uses DbTemp, which must be closed, and leaves it closed. Raises and returns nothing: a failure is noticed
+/// when the databases are opened.
 void CreaDatabaseControllo();
 
 } // namespace vabo

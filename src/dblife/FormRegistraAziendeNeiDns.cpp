@@ -17,7 +17,7 @@ namespace {
 
 const QString kNessuna = QStringLiteral("(nessuno)");
 
-/// The wait may be long where no server answers.
+/// With an hourglass, since a server that doesn't answer may take long.
 bool Prova(const std::string& stringa) {
     const controls::Hourglass clessidra;
     return ConnessioneValida(stringa);
@@ -58,8 +58,9 @@ void FormRegistraAziendeNeiDns::CollegaCampi() {
 void FormRegistraAziendeNeiDns::Load() {
     PrendiAziendaScelta();
     for (QWidget* campo : std::initializer_list<QWidget*>{ui_->txtUID, ui_->txtPWD, ui_->cboDrivers, ui_->txtServer,
-                                                          ui_->txtDatabase, ui_->Nome_Odbc, ui_->Nome_Az})
+                                                          ui_->txtDatabase, ui_->Nome_Odbc, ui_->Nome_Az}) {
         campo->setEnabled(true);
+    }
     GetDSNsAndDrivers();
     MostraCampi(CampiIniziali());
     NomeDsn = ui_->Nome_Odbc->Text();
@@ -73,8 +74,9 @@ void FormRegistraAziendeNeiDns::GetDSNsAndDrivers() {
     ui_->cboDSNList->clear();
     ui_->cboDSNList->addItem(kNessuna);
     salta([this] {
-        for (const std::string& nome : platform::dataSources().names())
+        for (const std::string& nome : platform::dataSources().names()) {
             ui_->cboDSNList->addItem(QString::fromStdString(nome));
+        }
     });
     ui_->cboDSNList->setCurrentIndex(0);
 }
@@ -106,11 +108,12 @@ void FormRegistraAziendeNeiDns::ScegliFonte() {
 }
 
 void FormRegistraAziendeNeiDns::ScegliDriver() {
-    if (!IsEmptyValue(ui_->cboDrivers->currentText().toStdString()))
+    if (!IsEmptyValue(ui_->cboDrivers->currentText().toStdString())) {
         VaiA(*ui_->txtServer);
+    }
 }
 
-// With a data source chosen, driver and server are locked: the entry goes on behind them.
+// Where a data source is chosen, driver and server are locked and the focus skips them.
 void FormRegistraAziendeNeiDns::LasciaPassword() {
     QWidget& seguente = ui_->cboDrivers->isEnabled() ? static_cast<QWidget&>(*ui_->cboDrivers) : *ui_->txtDatabase;
     seguente.setFocus(Qt::TabFocusReason);
@@ -118,8 +121,9 @@ void FormRegistraAziendeNeiDns::LasciaPassword() {
 
 void FormRegistraAziendeNeiDns::ProvaServer() {
     const CampiAzienda campi = Campi();
-    if (IsEmptyValue(campi.Database) && IsEmptyValue(campi.Server))
+    if (IsEmptyValue(campi.Database) && IsEmptyValue(campi.Server)) {
         return;
+    }
     StringaBase = StringaServer(campi);
     StringaDb = StringaBase;
     if (!Prova(StringaBase)) {
@@ -131,11 +135,12 @@ void FormRegistraAziendeNeiDns::ProvaServer() {
     ui_->txtDatabase->setFocus(Qt::TabFocusReason);
 }
 
-// From the row of the registry on, failing statements are skipped.
+// From ScriviPrimaRiga on failing statements are skipped.
 void FormRegistraAziendeNeiDns::Registra() {
     const CampiAzienda campi = Campi();
-    if (IsEmptyValue(campi.Database) || IsEmptyValue(campi.Server))
+    if (IsEmptyValue(campi.Database) || IsEmptyValue(campi.Server)) {
         return;
+    }
     NomeDsn = campi.Fonte;
     if (!ApriConnessione(campi)) {
         platform::dialogs().message("La connessione \n" + StringaDb + "\n non è valida");
@@ -147,13 +152,15 @@ void FormRegistraAziendeNeiDns::Registra() {
     UnloadMe();
 }
 
-// A test, the pointer file, the connection that stays: what was written before a failure stands.
+// Tests the server, writes the pointer file and opens the connection that the form keeps. The file stays as written
+// where the last step fails.
 bool FormRegistraAziendeNeiDns::ApriConnessione(const CampiAzienda& campi) {
     const controls::Hourglass clessidra;
     StringaDb.clear();
     StringaBase = StringaServer(campi);
-    if (!ConnessioneValida(StringaBase))
+    if (!ConnessioneValida(StringaBase)) {
         return false;
+    }
     ScriviIndirizzoServer(StringaBase);
     StringaDb = PezzoDatabase(campi);
     return riesce([this] { connessione_.Open(StringaBase + StringaDb); });

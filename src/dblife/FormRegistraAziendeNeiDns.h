@@ -14,14 +14,15 @@ namespace vabo {
 
 struct CampiAzienda;
 
-/// Tests a server, stores the way to it and registers the data sources of the company and of the local databases.
+/// Tests a server, writes its connection text to the pointer files and registers the data sources of the company and of
+/// the local databases.
 class FormRegistraAziendeNeiDns : public controls::Form {
     Q_OBJECT
 public:
     FormRegistraAziendeNeiDns();
     ~FormRegistraAziendeNeiDns() override;
 
-    /// Fills the list of data sources: none, then those that exist.
+    /// Fills the list of data sources: first the entry for none, then those that exist.
     void GetDSNsAndDrivers();
 
 protected:
@@ -40,7 +41,7 @@ private:
     bool ApriConnessione(const CampiAzienda& campi);
 
     std::unique_ptr<Ui::FormRegistraAziendeNeiDns> ui_;
-    ado::Connection connessione_; ///< open from a registration until the form goes
+    ado::Connection connessione_; ///< opened by a registration, closed when the form is unloaded
     std::string StringaBase;      ///< the connection text without a database
     std::string StringaDb;        ///< its part with the database
 };

@@ -23,7 +23,7 @@ std::string Oppure(const std::string& testo, const char* altrimenti) {
 
 } // namespace
 
-// A copy of the number: the choice of the console stays what it is.
+// ApriAzienda changes the number it is given: a copy, so that IdAziendaScelta stays as it is.
 void PrendiAziendaScelta() {
     double id = IdAziendaScelta;
     salta([&] { ApriAzienda(id); });
@@ -65,7 +65,7 @@ void ScriviNomeServer(const std::string& server) {
     ScriviFileTesto("C:\\vabo\\NomeServer.txt", server);
 }
 
-// The registry lies in the control database: a company's own has no such table, and then there is nothing to write.
+// Only the control database has this table; in a company's own database all statements fail and are skipped.
 void ScriviPrimaRiga(const CampiAzienda& campi, ado::Connection& connessione) {
     ado::Recordset& rs = RsCondivisi(kPostoRegistro);
     salta([&] {
@@ -74,19 +74,21 @@ void ScriviPrimaRiga(const CampiAzienda& campi, ado::Connection& connessione) {
     });
     salta([&] { rs.MoveFirst(); });
     const std::array<std::pair<const char*, std::string>, 6> valori = {{
-        {"Stringa_connessione_sql", "VaBoDati"}, // the word, not a connection
+        {"Stringa_connessione_sql", "VaBoDati"}, // this word, not a connection text
         {"Nserver", campi.Server},
         {"DBname", campi.Database},
         {"NomeAzienda", campi.Azienda},
         {"nRoot", Oppure(campi.Utente, "")},
         {"nPassw", Oppure(campi.Password, "")},
     }};
-    for (const auto& [colonna, valore] : valori)
+    for (const auto& [colonna, valore] : valori) {
         salta([&, colonna = colonna, &valore = valore] { rs[colonna] = valore; });
+    }
     salta([&] { rs.Update(); });
 }
 
-// The local server's name is read anew for each use: on a new workstation the first answer isn't the one that stays.
+// The local server's name is read anew for each registration: on a new workstation the first call returns another name
+// than the later ones, which find the file that it has written.
 void RegistraFonti(const CampiAzienda& campi) {
     const std::string descrizione = "Dati " + campi.Azienda;
     RegistraDueVolte({.NomeDsn = NomeDsn,

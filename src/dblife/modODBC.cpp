@@ -16,8 +16,9 @@ constexpr const char* kDriverSqlServer = "SQL Server";
 constexpr qsizetype kLunghezzaNome = 30;
 
 std::string Driver(std::int32_t tipo) {
-    if (tipo == kTipoAccess)
+    if (tipo == kTipoAccess) {
         return kDriverAccess;
+    }
     return tipo == kTipoSqlServer ? kDriverSqlServer : "";
 }
 
@@ -25,7 +26,7 @@ std::string NomeTagliato(const std::string& nome) {
     return QString::fromStdString(nome).left(kLunghezzaNome).toStdString();
 }
 
-/// The attributes are divided by control characters: a value that holds one would bring keys of its own.
+/// Control characters become blanks: they separate the attributes, so a value could add attributes of its own.
 std::string Valore(std::string testo) {
     const auto controllo = [](char c) { return static_cast<unsigned char>(c) < ' ' || c == '\x7f'; };
     std::ranges::replace_if(testo, controllo, ' ');
@@ -38,7 +39,7 @@ std::string Chiuso(const std::string& attributo) {
 
 } // namespace
 
-// The registry keeps the values of both calls: the first writes what the second doesn't name.
+// Both calls are needed: the entry keeps the values of both, and only the first one writes the key Database.
 std::int32_t RegistraOdbc(std::int16_t richiesta, std::int32_t tipo, const FonteOdbc& fonte) {
     const std::string nome = Valore(NomeTagliato(fonte.NomeDsn));
     const std::string descrizione = "Description=" + Valore(fonte.Descrizione);
@@ -47,8 +48,9 @@ std::int32_t RegistraOdbc(std::int16_t richiesta, std::int32_t tipo, const Fonte
     const std::string perOdbc =
         Chiuso("DSN=" + nome) + Chiuso(descrizione) + Chiuso(server) + Chiuso("DBQ=" + database);
     const std::string perDao = descrizione + "\rOemToAnsi=No\r" + server + "\rDatabase=" + database;
-    if (!riesce([&] { platform::dataSources().registerDatabase(nome, kDriverSqlServer, true, perDao); }))
+    if (!riesce([&] { platform::dataSources().registerDatabase(nome, kDriverSqlServer, true, perDao); })) {
         return 0;
+    }
     return platform::dataSources().configure(richiesta, Driver(tipo), perOdbc);
 }
 

@@ -1,6 +1,6 @@
 #pragma once
 
-// The registration of a data source. Other programs reach the databases by the fixed names of their data sources.
+// The registration of data sources. Other programs reach the databases by the data sources' fixed names.
 
 #include <cstdint>
 #include <functional>
@@ -16,21 +16,21 @@ inline constexpr std::int32_t kTipoSqlServer = 2; ///< "SQL Server"
 
 /// A data source as it is asked for. User and password aren't stored.
 struct FonteOdbc {
-    std::string NomeDsn = {}; ///< its first 30 characters count
+    std::string NomeDsn = {}; ///< cut to its first 30 characters
     std::string Database = {}, Descrizione = {}, Server = {}, Utente = {}, Password = {};
 };
 
-/// Registers the database under the name. The result is that of the configuration: 1 when it was done, 0 when not, and
-/// 0 where the registration ahead of it fails. Raises nothing.
+/// Registers the database under the name, then sends the request to configure it. Returns the result of the latter, 1
+/// for success and 0 for failure; 0 also where the registration fails. Raises nothing.
 std::int32_t RegistraOdbc(std::int16_t richiesta, std::int32_t tipo, const FonteOdbc& fonte);
 std::int32_t RegistraOdbc(std::int16_t richiesta, std::int32_t tipo, const std::string& NomeDsn,
                           const std::string& Database, const std::string& Descrizione, const std::string& Server,
                           const std::string& Utente, const std::string& Password);
 
-/// First the request to add, then the one to configure, of a SQL Server's database: so that an existing data source
-/// gets the new values. Failures are skipped.
+/// Registers a SQL Server's database twice, with the request to add and with the one to configure, so that an existing
+/// data source gets the new values too. Failures are skipped.
 void RegistraDueVolte(const FonteOdbc& fonte);
-/// The same with the server's name asked for each time.
+/// The same, but `server` is called for the server's name before each of the two.
 void RegistraDueVolte(FonteOdbc fonte, const std::function<std::string()>& server);
 
 } // namespace vabo

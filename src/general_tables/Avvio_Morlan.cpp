@@ -25,7 +25,7 @@ Avvio_Morlan::Avvio_Morlan() : Form("Avvio_Morlan"), ui_(std::make_unique<Ui::Av
     CollegaTrattamento();
     ui_->SSTab1->setFocus();
     for (auto* freccia : ui_->SSTab1->tabBar()->findChildren<QToolButton*>()) {
-        freccia->setFocusPolicy(Qt::NoFocus); // the keys have the tabs themselves
+        freccia->setFocusPolicy(Qt::NoFocus); // the keyboard changes tabs on the tab bar
     }
     takeScreen();
 }
@@ -49,8 +49,8 @@ void Avvio_Morlan::CollegaComandi() {
        [] { StampaReportAccess(PercorsoFileLocale, "AccessoMorlan", kAnteprima); });
 }
 
-// The first two lists raise; a failure in them is told and ends the load, with the general switches unread. What comes
-// after them skips the failing statement.
+// An error while the first two lists load is shown and ends the load; the general switches stay unread then. After the
+// lists failing statements are skipped.
 void Avvio_Morlan::Load() {
     CaricaTassiEBadge();
     if (!controls::guarded([this] {
@@ -73,7 +73,7 @@ void Avvio_Morlan::MostraNomeDatabase() {
     ui_->Combo8->addItem(QString::fromStdString(NomeDatabase));
 }
 
-// Without a rule of its own: an error ends it where it stands, and what it hasn't reached stays as it is.
+// No failure rule here: an error ends the procedure, and the boxes not reached yet stay as they are.
 void Avvio_Morlan::CaricaOpzioni() {
     MostraNomeDatabase();
     CaricaSedeAmministrativa(Mostra("Check6"));

@@ -22,8 +22,8 @@ class Avvio_Morlan;
 
 namespace vabo {
 
-/// The general tables console: the settings of a company database that the accounting program obeys, on six tabs, and
-/// the ways to the other forms. Every click writes at once; there is nothing to save and nothing to undo.
+/// The general tables console: on six tabs the settings of a company database that the accounting program reads, and
+/// buttons that open the other forms. Every click writes to the database at once; there is no saving and no undo.
 class Avvio_Morlan : public controls::Form {
     Q_OBJECT
 public:
@@ -36,12 +36,12 @@ protected:
     void keyPressEvent(QKeyEvent* event) override;
 
 private:
-    /// One of the four pickers of accounts. A pick in its list and Enter store, Delete takes the account away, Esc
-    /// leaves the row that was chosen in the grid.
+    /// One of the four pickers of accounts. A pick in its list or Enter stores, Delete clears the account, Esc ends the
+    /// change of the row that was chosen in the grid.
     struct Selettore {
         controls::Picker* conto;
         controls::DataGrid* griglia;
-        QWidget* cornice; ///< shown while a row is changed, null where nothing shows it
+        QWidget* cornice; ///< visible only while a row is changed; null where there is no such frame
         double* riga;
         std::function<void(OrdineFatture)> salva;
     };
@@ -105,7 +105,7 @@ private:
     double IdContoFattura = 0; ///< shared by the tabs 4 and 5
     double IdRigaFattura = 0;
     int TabellaCorrente = 0;   ///< which table tab 2 shows, 0 to 3
-    long PosizioneGriglia = 0; ///< where the chosen row stands in its grid, from 1
+    long PosizioneGriglia = 0; ///< of the chosen row in its grid, counted from 1
     double IdTrattamentoStandard = 0;
 };
 

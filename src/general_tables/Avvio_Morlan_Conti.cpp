@@ -27,8 +27,8 @@ const TabellaAltriConti& AltriConti(int tabella) {
     return kAltriConti.at(static_cast<std::size_t>(tabella));
 }
 
-/// Whether a grid's field holds a name to show, one greater than zero: a number counts as a number, any other text is
-/// greater, and a null isn't.
+/// Whether the field "is greater than zero", which stands for "has a name": null isn't, a number is compared, any other
+/// text is where it isn't empty.
 bool ConNome(const ado::Value& valore) {
     if (valore.isNull()) {
         return false;
@@ -64,7 +64,7 @@ void Avvio_Morlan::CollegaConti() {
     chain(std::move(tasti));
     ui_->DCBItems3->setTabStop(false);
     ui_->DCBitems4->setTabStop(false);
-    // Seen only while a row is being changed.
+    // Visible only while a row is changed.
     ui_->Frame6->hide();
     ui_->Frame2->hide();
 
@@ -80,7 +80,7 @@ void Avvio_Morlan::CollegaConti() {
     on(ui_->DataGrid11, &controls::DataGrid::DblClick, [this] { ScegliContoFattura(); });
     on(ui_->DataGridPersonale, &controls::DataGrid::DblClick, [this] { ScegliContoPersonale(); });
     on(ui_->Command8, &QPushButton::clicked, [this] {
-        ui_->DCBItem1->restoreChosen(); // its mnemonic doesn't leave the picker
+        ui_->DCBItem1->restoreChosen(); // pressed by its mnemonic, the button doesn't take the focus from the picker
         SalvaUtile();
     });
     on(ui_->Command18, &QPushButton::clicked, [this] { GiraTabella(); });
@@ -101,7 +101,7 @@ void Avvio_Morlan::keyPressEvent(QKeyEvent* event) {
     }
 }
 
-// Nothing is stored, and nothing stays chosen that a later Enter could store.
+// Stores nothing, and clears row and account so that a later Enter can't store them.
 void Avvio_Morlan::LasciaRiga(const Selettore& selettore) {
     *selettore.riga = 0;
     selettore.conto->key() = 0;
@@ -126,7 +126,8 @@ void Avvio_Morlan::ScegliContoUtile() {
     if (IsEmptyValue(id)) {
         return;
     }
-    // From here on failing statements are skipped. A row without an account leaves the one chosen before.
+    // From here on failing statements are skipped. For a row without an account the one chosen before stays in
+    // IdContoUtile.
     salta([&] { IdRiga = ado::toDouble(id); });
     salta([&] { PosizioneGriglia = ui_->tabella_conti_utili->Recordset().AbsolutePosition(); });
     ui_->Frame6->show();
@@ -155,7 +156,7 @@ void Avvio_Morlan::SalvaUtile() {
     ui_->DataGrid2->setFocus();
     ui_->Frame6->hide();
     ui_->Command8->setEnabled(true);
-    // One row below the stored one: the position counts from 1, the move from the first row.
+    // Ends one row below the stored one: the position counts from 1, the move from the first row.
     salta([this] { ui_->tabella_conti_utili->Recordset().MoveFromFirst(PosizioneGriglia); });
 }
 
@@ -173,7 +174,7 @@ void Avvio_Morlan::CaricaAltriConti() {
     ImpostaGrigliaAltriConti();
 }
 
-// The first turn shows the number that it leaves, the others the one that they bring.
+// Controllo shows the new table's number, except on the change from table 0 to 1, which leaves it at 0.
 void Avvio_Morlan::GiraTabella() {
     const int lasciata = TabellaCorrente;
     TabellaCorrente = (lasciata + 1) % static_cast<int>(kAltriConti.size());
@@ -211,7 +212,7 @@ void Avvio_Morlan::ProvaESalvaAltro() {
     SalvaAltro();
 }
 
-// Without a rule.
+// No failure rule here: errors reach the guard of the event.
 void Avvio_Morlan::SalvaAltro() {
     if (IsEmptyValue(IdRiga)) {
         return;
@@ -258,7 +259,7 @@ void Avvio_Morlan::MostraContoFattura(controls::DataGrid& griglia, controls::Dat
     IdContoFattura = ado::toDouble(griglia.Columns(4).Value());
 }
 
-// Without a rule until the last step; the form comes back from an error too.
+// No failure rule here: errors reach the guard of the event. The form is enabled again after an error too.
 void Avvio_Morlan::SalvaFattura(OrdineFatture ordine) {
     {
         const controls::Disabled disabilitata(*this);
@@ -299,7 +300,7 @@ void Avvio_Morlan::ScegliContoPersonale() {
     ui_->DCBitems4->setFocus();
 }
 
-// Failing statements are skipped. The grid goes on showing the old account until the console opens again.
+// Failing statements are skipped. The grid isn't refreshed: it shows the old account until the console is opened again.
 void Avvio_Morlan::SalvaPersonale() {
     if (IsEmptyValue(IdRiga)) {
         return;

@@ -51,7 +51,7 @@ constexpr std::array<Colonna, 8> kPersonale = {{{0, kNomeDelCampo, 0},
 
 } // namespace
 
-// The position counts from 1 and the move from the first row: a grid comes to stand one row below the chosen one.
+// A grid ends one row below the chosen one: the position counts from 1, the move from the first row.
 
 void Avvio_Morlan::ImpostaGrigliaContiUtili() {
     ui_->DataGrid2->lay(kContiUtili);

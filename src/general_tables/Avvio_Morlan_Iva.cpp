@@ -24,13 +24,13 @@ void Avvio_Morlan::MostraTrattamento(const Regola& regola) {
     regola([this] { ui_->Sigla->setText(SiglaTrattamento(IdTrattamentoStandard)); });
 }
 
-// Failing statements are skipped: a rate that can't be shown leaves the box as it was.
+// Failing statements are skipped: where a rate can't be shown, its field stays as it was.
 void Avvio_Morlan::CaricaTrattamento() {
     salta([this] { IdTrattamentoStandard = LeggiAliquotaStandard(); });
     MostraTrattamento(kSaltando);
 }
 
-// Without a rule: a treatment whose rate can't be shown stops here, before anything is written.
+// No failure rule here: a treatment whose rate can't be shown raises before anything is written.
 void Avvio_Morlan::ScegliTrattamento() {
     constexpr double kPrimoTrattamento = 2;
     if (IdTrattamentoStandard < kPrimoTrattamento) {

@@ -10,7 +10,7 @@ namespace vabo {
 
 namespace {
 
-/// The two sources of exchange rates share a row: ticking one takes the tick from the other.
+/// The two sources of exchange rates share a row: ticking one clears the other.
 constexpr std::array<std::pair<std::string_view, std::string_view>, 2> kEsclusive = {
     {{"Check10", "Check11"}, {"Check11", "Check10"}}};
 
@@ -27,7 +27,8 @@ controls::CheckBox& Avvio_Morlan::Casella(std::string_view nome) const {
     return *findChild<controls::CheckBox*>(QString::fromLatin1(nome.data(), static_cast<qsizetype>(nome.size())));
 }
 
-// The other box's own handler then writes 0 into the same row: a change straight from one source to the other leaves 0.
+// Clearing the other box runs its handler, which writes 0 to the shared row. So a change from one source to the other,
+// without clearing the first, stores 0.
 void Avvio_Morlan::ScriviCasella(const Opzione& opzione) {
     const int valore = Casella(opzione.casella).Value();
     SalvaOpzione(opzione, valore);

@@ -16,7 +16,6 @@ ado::Recordset& Apri(const Opzione& opzione) {
     return rs;
 }
 
-/// The stored number times -1.
 int Negato(const ado::Value& salvato) {
     return ado::toInteger(ado::Value(-ado::toDouble(salvato)));
 }
@@ -76,7 +75,7 @@ void CaricaSoloDiLoco(const MostraCasella& mostra) {
     rs.Close();
 }
 
-// The box's handler drops the recordset that is opened here: it is asked for anew each time.
+// RsOpzioni() instead of a reference: the box's handler drops the recordset that is opened here.
 void CaricaBudgetOng(const MostraCasella& mostra) {
     const Opzione& opzione = OpzioneDi("Check7");
     if (Apri(opzione).EOF()) {

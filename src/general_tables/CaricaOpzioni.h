@@ -6,27 +6,29 @@
 
 namespace vabo {
 
-// What the console reads when it opens. A box that is set runs its own handler while the row is still open here.
+// What the console reads when it opens. Setting a box runs its Click handler while the recordset here is still open.
 // Errors raise.
 
-/// Sets a box; it raises where the number is none of a box's values.
+/// Sets a box. Raises for any other value than 0, 1 and 2.
 using MostraCasella = std::function<void(int)>;
 
-/// What row 8 of TabellaUilityConti says, created where it is missing.
+/// The setting in row 8 of TabellaUilityConti, which is created where it is missing.
 enum class TassiDiCambio { Nessuno, InforEuro, BancaDItalia };
 TassiDiCambio LeggiTassiDiCambio();
 
-/// The row found by its description, created where it is missing; then the box isn't set.
+/// Sets the box from the row that is found by its description. A missing row is created, and the box stays as it is.
 void CaricaSedeAmministrativa(const MostraCasella& mostra);
 
-/// Row 7 of TabellaUilityConti, created where it is missing; a null leaves the box.
+/// Sets the box from row 7 of TabellaUilityConti, which is created where it is missing. For null the box stays as it
+/// is.
 void CaricaSoloDiLoco(const MostraCasella& mostra);
 
-/// Row 5 of TabellaUilityConti, created where it is missing. It closes its recordset once more at its end, which raises
-/// where that has been closed already: after a new row, and after a box that has changed.
+/// Sets the box from row 5 of TabellaUilityConti, which is created where it is missing. The Close at its end raises
+/// where the recordset is closed already: when the row was created, and when the box changed (its handler drops the
+/// recordset).
 void CaricaBudgetOng(const MostraCasella& mostra);
 
-/// A numbered row of datiGenerali; a missing one leaves the box and isn't created.
+/// Sets the box from a numbered row of datiGenerali. A missing row isn't created, and the box stays as it is.
 void CaricaOpzione(const Opzione& opzione, const MostraCasella& mostra);
 
 } // namespace vabo

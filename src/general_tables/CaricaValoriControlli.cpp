@@ -8,7 +8,7 @@
 
 namespace vabo {
 
-// An error leaves with what stands, the empty text.
+// An error ends the procedure with the empty text.
 std::string LeggiCampo(const std::string& tabella, const std::string& campo, const std::string& campoChiave,
                        double valore) {
     std::string risultato;

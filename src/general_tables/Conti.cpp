@@ -9,7 +9,7 @@
 
 namespace vabo {
 
-// Without a rule of its own.
+// No failure rule here: errors reach the caller.
 std::int32_t LeggiGruppoVabo(double idConto) {
     ado::Connection connessione;
     connessione.Open(StringaAzienda);

@@ -23,7 +23,7 @@ bool RigaConNumero(const Opzione& opzione) {
     return opzione.tabella == Opzione::Tabella::TabellaUilityConti;
 }
 
-/// Not the one that is found by its description: when that is made it gets nothing else.
+/// False for the row that is found by its description. Only the description is written when that one is created.
 bool RigaConId(const Opzione& opzione) {
     return opzione.riga != 0;
 }
@@ -32,7 +32,7 @@ const char* ColonnaValore(const Opzione& opzione) {
     return RigaConNumero(opzione) ? "Lunghezza" : "Contatore";
 }
 
-/// The numbered rows of datiGenerali go through a shared recordset, the others through one of their own.
+/// True for the numbered rows of datiGenerali; the others are written through a local recordset.
 bool RecordsetCondiviso(const Opzione& opzione) {
     return !RigaConNumero(opzione) && RigaConId(opzione);
 }
@@ -57,7 +57,8 @@ void ScriviOpzione(Regola&& regola, ado::Recordset& rs, const Opzione& opzione, 
     regola([&] { rs.Close(); });
 }
 
-// Failing statements are skipped. The load sets this box while the same recordset is open: it is taken over as it is.
+// Failing statements are skipped. The load may have this recordset open, with a new row not yet stored: that row is
+// stored first.
 void SalvaBudgetOng(const Opzione& opzione, int valore) {
     ado::Recordset& rs = RsOpzioni();
     salta([&] { rs.Update(); });

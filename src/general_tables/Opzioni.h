@@ -6,20 +6,20 @@
 
 namespace vabo {
 
-/// One box of the console and the row that it stands for.
+/// One box of the console and the row that stores it.
 struct Opzione {
     enum class Tabella { DatiGenerali, TabellaUilityConti };
 
     std::string_view casella;
     Tabella tabella;
     int riga;                ///< id of the row; 0 where the row is found by its description
-    int valoreSpuntata;      ///< what a ticked box writes; an unticked one writes 0
-    const char* descrizione; ///< of a row that is created, none where it stays unset
+    int valoreSpuntata;      ///< what a ticked box writes; a cleared one writes 0
+    const char* descrizione; ///< written when the row is created; null: not written
     bool ignoraErrori;
 };
 
-/// The numbered rows of datiGenerali don't get their id written: the database gives it. Those of TabellaUilityConti do.
-/// Rows 8 and 9 of TabellaUilityConti are the ones that don't hold the negated box.
+/// When a row of datiGenerali is created, the database gives its id; for a row of TabellaUilityConti the id is written.
+/// The value stored is -1 for a ticked box, but -2 for Check11, which shares row 8 with Check10, and 1 for Check12.
 inline constexpr std::array<Opzione, 12> kOpzioni = {{
     {"Check1", Opzione::Tabella::DatiGenerali, 8, -1, "Gestione Note di Debito", false},
     {"Check2", Opzione::Tabella::DatiGenerali, 6, -1, nullptr, false},
@@ -40,12 +40,13 @@ const Opzione& OpzioneDi(std::string_view casella);
 /// The statement that finds the row of an option.
 std::string TestoOpzione(const Opzione& opzione);
 
-/// Stores what the box shows (1 ticked, 0 not; the 2 of a stored -2 goes back as it came), creating the row where it is
-/// missing; a row that is found by its description is created without a value. Under the option's own rule: errors
-/// raise, or the failing statement is skipped.
+/// Stores the value of a box (0 cleared, 1 ticked; 2 comes from a stored -2 and is stored as -2 again). A missing row
+/// is created; the one that is found by its description is created without a value. Errors raise, or failing statements
+/// are skipped, as `ignoraErrori` says.
 void SalvaOpzione(const Opzione& opzione, int casella);
 
-/// Row 9, created where it is missing. False on the pass that creates it.
+/// Whether row 9 of TabellaUilityConti holds 1. Creates the row where it is missing and then returns false, whatever it
+/// stores.
 bool UsaBadge();
 
 } // namespace vabo

@@ -22,10 +22,10 @@ struct Livello {
     const char* descrizione;
     const char* domanda;
     int standard;
-    int proposta; ///< also what an unusable answer becomes
+    int proposta; ///< also stored for an answer that can't be used
 };
 
-// The sub-account has four characters in the standard chart and three in an own one.
+// The sub-account has four characters in the standard chart and three in a company's own one.
 constexpr std::array<Livello, 3> kLivelli = {{
     {2, "Mastro", "Lunghezza del campo Mastro ", 3, 3},
     {3, "Conto", "Lunghezza del campo Conto ", 2, 2},
@@ -49,7 +49,7 @@ void ScriviEChiudi(int id, const ado::Value& lunghezza, const char* descrizione)
     RsCaselle().Close();
 }
 
-/// The answer goes in as typed; the database converts it.
+/// The answer is stored as the text that was typed; the data layer converts it.
 ado::Value LunghezzaChiesta(const Livello& livello) {
     Appoggio = platform::dialogs().input(livello.domanda, "Lunghezza", std::to_string(livello.proposta));
     if (!ado::isNumeric(Appoggio) || IsEmptyValue(Appoggio)) {

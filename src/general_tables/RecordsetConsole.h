@@ -5,8 +5,8 @@
 
 namespace vabo {
 
-/// The two shared recordsets of this console. The load reads the option rows through the first while a box that it sets
-/// writes through the second; only the box of the budget items takes the first one over.
+/// The two shared recordsets of this console. The load reads the options' rows through the first; a box that it sets
+/// writes through the second at the same time. Only the box of the budget items writes through the first, too.
 inline constexpr int kPostoOpzioni = 3;
 inline ado::Recordset& RsOpzioni() {
     return RsCondivisi(kPostoOpzioni);
@@ -16,7 +16,8 @@ inline ado::Recordset& RsCaselle() {
     return RsCondivisi(kPostoCaselle);
 }
 
-/// Every opener leaves a shared recordset closed for the next, also where an error stops it.
+/// Closes and drops a shared recordset at the end of a scope, after an error too, so that it is closed for the next
+/// user.
 class Restituzione {
 public:
     explicit Restituzione(int posto) : posto_(posto) {}

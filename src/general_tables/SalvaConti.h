@@ -4,24 +4,25 @@
 
 namespace vabo {
 
-/// The one row of TabellaContiUtili that takes any account.
+/// The row of TabellaContiUtili that accepts any account.
 inline constexpr double kRigaSenzaProvaEconomica = 2;
 
-/// A purpose whose description speaks of "econo…" takes only economic accounts.
+/// Whether the account may be stored: where the description contains "econo", in any case, only economic accounts may.
 bool ContoAmmesso(const std::string& descrizione, double idConto);
 
-/// Points a row of TabellaContiUtili to an account and copies the account's group. Failing statements are skipped.
+/// Writes an account and its group to a row of TabellaContiUtili. Failing statements are skipped.
 void SalvaContoUtile(double idRiga, double idConto);
 
-/// The same in one of the four tables of the second tab. Errors raise.
+/// The same for a row of one of the four tables of the second tab. Errors raise.
 void SalvaAltroConto(int tabella, double idRiga, double idConto);
 
-/// The same in BusteTabellaContiUtili. Failing statements are skipped.
+/// The same for a row of BusteTabellaContiUtili. Failing statements are skipped.
 void SalvaContoPersonale(double idRiga, double idConto);
 
 enum class OrdineFatture { Invio, Elenco };
 
-/// Three statements on ivaTabellaContiUtili; the project comes last on Enter and second on a pick. Errors raise.
+/// Writes account, group and project to a row of ivaTabellaContiUtili, one statement each; the project is written last
+/// after Enter, and second after a pick in the list. Errors raise.
 void SalvaContoFattura(double idRiga, double idConto, OrdineFatture ordine);
 
 } // namespace vabo

@@ -8,7 +8,7 @@ const TabellaAltriConti& Tabella(int tabella) {
     return kAltriConti.at(static_cast<std::size_t>(tabella));
 }
 
-/// Accounts of the general project that are no headings and don't stand in the table of the exclusion.
+/// The accounts of the general project that aren't headings and aren't used in the table `esclusa`.
 std::string ElencoConti(const std::string& esclusa) {
     return std::string("SELECT ") + " Conti.IdConto," + " Conti.NomeConto + ' ' + Conti.Contoreport as NomeConto" +
            " FROM conti " + "  Where  " + " (IDProgetto = 10000001)" + " and  not" + " (contoreport  Like '%" + ".0" +

@@ -5,12 +5,12 @@
 
 namespace vabo {
 
-/// One of the four tables that share the second tab, in the order in which they are turned.
+/// One of the four tables of the second tab. Command18 goes through them in this order.
 struct TabellaAltriConti {
     const char* nome;
-    const char* chiave;          ///< as the store writes it behind "where"
+    const char* chiave;          ///< the condition up to the number, with "where", as the stores write it
     const char* etichetta;       ///< of Label14 after a store
-    const char* etichettaGirata; ///< of Label14 when the turn arrives here
+    const char* etichettaGirata; ///< of Label14 when Command18 has changed to this table
     const char* successiva;      ///< caption of Command18
 };
 
@@ -25,15 +25,16 @@ inline constexpr std::array<TabellaAltriConti, 4> kAltriConti = {{
      "Tabella Conti Anagrafiche"},
 }};
 
-/// Sources of the four grids.
+/// The statements of the four grids.
 std::string TestoContiUtili();
 std::string TestoContiIva();
 std::string TestoContiPersonale();
 std::string TestoAltriConti(int tabella);
-/// What takes the place of an empty source after a store; its refresh fails.
+/// The statement used after a store where the grid's recordset is at EOF; the server refuses it, so the load fails.
 std::string TestoAltriContiRipiego(int tabella);
 
-/// The accounts on offer in the four pickers. The exclusion is of another table than the one the picker serves.
+/// The statements of the four pickers' lists of accounts. What they leave out is used in another table than the one
+/// that the picker stores into.
 std::string ElencoContiUtili();
 std::string ElencoAltriConti();
 std::string ElencoContiPersonale();

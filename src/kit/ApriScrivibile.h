@@ -6,7 +6,7 @@
 
 namespace vabo {
 
-/// The way every recordset that may be written is opened: keyset cursor, pessimistic locking.
+/// Opens a recordset that may be written: keyset cursor, pessimistic locking.
 void ApriScrivibile(ado::Recordset& rs, const std::string& testo, ado::Connection& connessione);
 
 } // namespace vabo

@@ -10,20 +10,20 @@
 
 namespace vabo {
 
-/// What is written for a field that counts as nothing: the field as it stands, 0, the empty text, or nothing at all.
+/// What is written for a field of which IsEmptyValue is true: the field as it is, 0, the empty text, or nothing.
 enum class SeVuoto { ComeSta, Zero, Testo, Salta };
 
-/// A column of a row and the field that goes into it.
+/// A column of a row and the value for it.
 struct Colonna {
     const char* nome;
     ado::Value valore;
     SeVuoto vuoto = SeVuoto::ComeSta;
 };
 
-/// None where nothing is written.
+/// The value to be written; none where the column isn't written.
 std::optional<ado::Value> DaScrivere(const Colonna& colonna);
 
-/// Puts the fields into the current row, each a statement of the rule.
+/// Assigns the values to the current row, each assignment as one statement under the rule.
 template<typename Regola>
 void ScriviColonne(Regola&& regola, ado::Recordset& rs, std::initializer_list<Colonna> colonne) {
     for (const Colonna& colonna : colonne) {
@@ -33,8 +33,8 @@ void ScriviColonne(Regola&& regola, ado::Recordset& rs, std::initializer_list<Co
     }
 }
 
-/// Opens the row of a key to be written, or a new one where the key is empty. `dove` stands between the statement and
-/// the key.
+/// Opens the row with that key for writing, or adds a new one where the key is empty. `dove` is the text between the
+/// statement and the key.
 template<typename Regola>
 void ApriRiga(Regola&& regola, ado::Recordset& rs, ado::Connection& connessione, const std::string& testo,
               const std::string& dove, double chiave) {
@@ -47,8 +47,8 @@ void ApriRiga(Regola&& regola, ado::Recordset& rs, ado::Connection& connessione,
     }
 }
 
-/// Columns that a later version brought, one statement each. A database that has them refuses the statement, and the
-/// refusal is skipped.
+/// Adds columns that a later version introduced, by one statement each. Where the database has a column already its
+/// statement fails, which is skipped.
 void AggiungiColonne(ado::Connection& connessione, std::initializer_list<const char*> istruzioni);
 
 } // namespace vabo

@@ -5,7 +5,7 @@
 
 namespace vabo {
 
-// To be repeated while the error state stays set; but a state that is set is an error raised, which leaves at once.
+// Updates once. It was to be repeated while an error is pending, but an error leaves as an exception here.
 void AggiornaRecord(ado::Recordset& rs) {
     rs.Update();
 }
@@ -13,16 +13,19 @@ void AggiornaRecord(ado::Recordset& rs) {
 // Failing statements are skipped.
 void RilasciaRecordset(int posto) {
     const std::unique_ptr<ado::Recordset> rs = RsCondivisi.Ritira(posto);
-    if (rs && rs->IsOpen())
+    if (rs && rs->IsOpen()) {
         salta([&] { rs->Close(); });
+    }
 }
 
 // Failing statements are skipped.
 std::string ChiudiRecordset() {
-    for (int posto = 1; posto <= RecordsetCondivisi::kNumero; ++posto)
+    for (int posto = 1; posto <= RecordsetCondivisi::kNumero; ++posto) {
         RilasciaRecordset(posto);
-    if (DbLocale && DbLocale->IsOpen())
+    }
+    if (DbLocale && DbLocale->IsOpen()) {
         salta([] { DbLocale->Close(); });
+    }
     DbLocale.reset();
     return {};
 }

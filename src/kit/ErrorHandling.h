@@ -6,13 +6,14 @@
 
 namespace vabo {
 
-/// Updates the current record. An update that fails raises in the caller, whose rule decides.
+/// Updates the current record. Errors raise; the caller's failure rule handles them.
 void AggiornaRecord(ado::Recordset& rs);
 
-/// Closes a shared recordset where it can and drops it.
+/// Closes and drops a shared recordset. A Close that fails is skipped.
 void RilasciaRecordset(int posto);
 
-/// Closes and drops all shared recordsets and DbLocale; the three long-lived connections stay. Always the empty text.
+/// Closes and drops all shared recordsets and DbLocale; DbControllo, DbAzienda and DbTemp stay open. Always returns the
+/// empty text.
 std::string ChiudiRecordset();
 
 } // namespace vabo

@@ -6,7 +6,7 @@
 
 namespace vabo {
 
-/// What counts as nothing: zero, false, null, the empty text, one blank, texts and dates of zeros. Never fails.
+/// True for zero, false, null, the empty text, a single blank, and for texts and dates of zeros. Raises nothing.
 bool IsEmptyValue(const ado::Value& valore);
 bool IsEmptyValue(double valore);
 bool IsEmptyValue(const std::string& valore);

@@ -6,9 +6,9 @@
 namespace vabo {
 
 std::string PulisciNome(std::string& testo) {
-    constexpr std::string_view vietati = " ,/\\'&@\"-+!=?^$#()[]*";
+    constexpr std::string_view kVietati = " ,/\\'&@\"-+!=?^$#()[]*";
     std::replace_if(
-        testo.begin(), testo.end(), [&](char c) { return vietati.find(c) != std::string_view::npos; }, '_');
+        testo.begin(), testo.end(), [&](char c) { return kVietati.find(c) != std::string_view::npos; }, '_');
     return testo;
 }
 

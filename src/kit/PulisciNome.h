@@ -4,8 +4,8 @@
 
 namespace vabo {
 
-/// Replaces blanks and punctuation by underscores, in place, and gives the same text back. It is the only cleaning that
-/// a name gets before it enters a statement, and it takes the quotes out.
+/// Replaces blanks and punctuation by underscores, in place, and returns the text. Quotes are among them, which is all
+/// that keeps a typed name from changing the statement it is put into.
 std::string PulisciNome(std::string& testo);
 
 } // namespace vabo

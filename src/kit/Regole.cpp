@@ -8,7 +8,6 @@
 namespace vabo {
 
 namespace {
-// Off unless a logging rule turns it on.
 Q_LOGGING_CATEGORY(kSaltati, "vabo.skipped", QtWarningMsg)
 } // namespace
 
@@ -18,15 +17,17 @@ std::string Descrizione(const std::exception& errore) {
 
 namespace regole {
 
-// The statement stays out of it: it may hold a password.
+// Without the statement's text, which may hold a password.
 void Saltato(const std::exception& errore) {
-    if (!kSaltati().isInfoEnabled())
+    if (!kSaltati().isInfoEnabled()) {
         return;
+    }
     QString testo = QString::fromStdString(Descrizione(errore));
     if (const auto* dati = dynamic_cast<const ado::Error*>(&errore)) {
         testo += QStringLiteral(" (%1)").arg(dati->number());
-        if (!dati->context().empty())
+        if (!dati->context().empty()) {
             testo += QStringLiteral(" in %1").arg(QString::fromStdString(dati->context()));
+        }
     }
     qCInfo(kSaltati).noquote() << testo;
 }

@@ -1,7 +1,7 @@
 #pragma once
 
-// The three rules of failure: skip the statement (salta, vera), tell and end (oFine), go to a step of recovery
-// (riesce). A procedure names its rule in its first lines; nothing else catches.
+// The three rules of failure: skip the failing statement (salta, vera), show the error and end the process (oFine), or
+// go on with a step of recovery (riesce). A procedure names its rule in its first lines; nothing else catches errors.
 
 #include "platform/Process.h"
 
@@ -15,7 +15,7 @@ namespace vabo {
 std::string Descrizione(const std::exception& errore);
 
 namespace regole {
-void Saltato(const std::exception& errore); ///< tells the logging category vabo.skipped
+void Saltato(const std::exception& errore); ///< logs to the category vabo.skipped, which is off by default
 [[noreturn]] void Fine(const std::exception& errore);
 } // namespace regole
 
@@ -40,7 +40,7 @@ bool vera(Prova&& prova) {
     }
 }
 
-/// Whether a statement went well; where it failed the caller goes to its step of recovery.
+/// Whether a statement succeeded; where it failed the caller goes on with its step of recovery.
 template<typename Istruzione>
 bool riesce(Istruzione&& istruzione) {
     try {
@@ -52,11 +52,11 @@ bool riesce(Istruzione&& istruzione) {
     }
 }
 
-/// For a procedure that runs under the rule of its caller: skip what fails, or let it rise.
+/// Arguments for a procedure that runs under its caller's rule: skip what fails, or let errors reach the caller.
 inline constexpr auto kSaltando = [](auto&& istruzione) { salta(istruzione); };
 inline constexpr auto kSenzaRegola = [](auto&& istruzione) { istruzione(); };
 
-/// The error's own description in a box, then the end of the process.
+/// Shows an error's own description in a box and ends the process.
 template<typename Procedura>
 void oFine(Procedura&& procedura) {
     try {

@@ -4,8 +4,8 @@
 
 namespace vabo {
 
-/// For a grid that has just been refreshed and stands on its first row: so many rows forward, 0 for none. A move that
-/// fails is skipped. `Dati` is the data control of the grid.
+/// Moves a grid that was just refreshed, and is at its first row, forward by that many rows. A move that fails is
+/// skipped. `Dati` is the grid's data control.
 template<typename Dati>
 void Riposiziona(Dati& dati, long righe) {
     if (righe != 0) {

@@ -9,8 +9,9 @@ namespace vabo {
 void StampaReportAccess(const std::string& percorso, const std::string& report, std::int16_t vista) {
     std::unique_ptr<platform::ReportApplication> programma;
     salta([&] { programma = platform::automation().createObject("Access.Application"); });
-    if (!programma)
+    if (!programma) {
         return;
+    }
     salta([&] { programma->OpenCurrentDatabase(percorso); });
     salta([&] { programma->OpenReport(report, vista); });
     salta([&] { programma->Maximize(); });

@@ -9,7 +9,7 @@ inline constexpr const char* kTitolo = "Tlv - Aldane Works Software Solutions";
 
 /// "1.2.3"
 std::string NumeroDiVersione();
-/// A name with the version behind it.
+/// The name, followed by the version.
 std::string ConVersione(const std::string& nome);
 
 } // namespace vabo

@@ -4,7 +4,7 @@
 
 namespace vabo {
 
-/// Whether a stored value is that number. A comparison with null raises nothing and is false.
+/// Whether a stored value equals that number; false for null.
 bool Uguale(const ado::Value& valore, double numero);
 
 } // namespace vabo

@@ -10,7 +10,7 @@ namespace {
 
 constexpr int kCannotCreateObject = 429;
 
-/// A machine on which no application can be driven.
+/// For a machine on which no application can be driven.
 class NoAutomation : public Automation {
 public:
     std::unique_ptr<ReportApplication> createObject(const std::string& /*progId*/) override {
@@ -23,8 +23,9 @@ std::unique_ptr<Automation> present;
 } // namespace
 
 Automation& automation() {
-    if (!present)
+    if (!present) {
         present = std::make_unique<NoAutomation>();
+    }
     return *present;
 }
 

@@ -1,7 +1,7 @@
 #pragma once
 
-// The user's own file of data sources, by the interface that the installer of ODBC offers; one source file a system
-// implements it.
+// The user's own file of ODBC data sources, through ODBC's installer interface. Each operating system has one source
+// file that implements it.
 
 #include <string>
 #include <utility>
@@ -9,7 +9,7 @@
 
 namespace platform::machine {
 
-/// Keys and their values. Keys know no case.
+/// Keys and their values. The case of keys doesn't matter.
 using DataSourceValues = std::vector<std::pair<std::string, std::string>>;
 
 /// Whether a data source may have that name.
@@ -17,10 +17,10 @@ bool isDataSourceName(const std::string& name);
 
 bool hasDataSource(const std::string& name);
 
-/// Gives a data source these values; what else the file holds keeps its values. Whoever looks, even after a kill, finds
-/// the old file or the new one, and a file that holds the values already isn't touched. Control characters become
-/// blanks, blanks at the ends are dropped. Throws std::runtime_error where a line gets too long for the file or it
-/// can't be written; nothing has changed then.
+/// Writes these values of a data source; everything else in the file stays. The file is replaced as a whole, so that a
+/// kill leaves the old or the new one, and isn't written where it has the values already. In values, control characters
+/// become blanks, and blanks at the ends are cut. Throws std::runtime_error, with nothing changed, where a line gets
+/// too long for the file or the file can't be written.
 void writeDataSource(const std::string& name, const DataSourceValues& values);
 
 } // namespace platform::machine

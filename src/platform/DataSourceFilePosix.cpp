@@ -24,23 +24,25 @@ namespace fs = std::filesystem;
 
 namespace {
 
-/// The library reads lines of that many bytes, line feed included; a rest would be read as a line of its own.
+/// The library reads lines of that many bytes, line feed included; it would read the rest of a longer one as another
+/// line.
 constexpr std::size_t kLongestLine = 999;
 
-/// The library takes any path with that piece for its file of drivers.
+/// A path with one of these texts is taken by the library for its file of drivers.
 constexpr std::array kDriversPieces{"odbcinst", "ODBCINST"};
 
 bool isControl(char c) {
     return static_cast<unsigned char>(c) < ' ' || c == '\x7f';
 }
 
-/// A value as the file gives it back.
+/// A value as it is read again from the file.
 std::string storable(std::string value) {
     std::ranges::replace_if(value, isControl, ' ');
     return std::string(ado::trimmed(value, " "));
 }
 
-/// Where the driver manager looks for it: it asks the user's record for the home, not the environment.
+/// Where the driver manager looks for the file: it takes the home folder from the user database, not from the
+/// environment.
 fs::path userFile() {
     fs::path file;
     if (const char* chosen = std::getenv("ODBCINI"); chosen != nullptr && *chosen != '\0') {
@@ -50,35 +52,39 @@ fs::path userFile() {
     }
     const bool isDrivers = std::ranges::any_of(
         kDriversPieces, [&](const char* piece) { return file.string().find(piece) != std::string::npos; });
-    if (file.empty() || isDrivers)
+    if (file.empty() || isDrivers) {
         throw std::runtime_error("The file of data sources can't be kept in \"" + file.string() + "\".");
+    }
     return fs::weakly_canonical(file);
 }
 
-/// Nothing where there is no such value. The library keeps its answers for some seconds, whatever happens to the file
-/// meanwhile, by all that was asked, the default included: a default that is new is answered by the file.
+/// Nothing where there is no such value. The library caches its answers for some seconds, even where the file changes.
+/// Its cache includes the default value in the key, so a default that was never used before makes it read the file.
 std::optional<std::string> valueIn(const fs::path& file, const std::string& name, const std::string& key) {
     static std::atomic<unsigned long> questions = 0;
     const std::string none = "\x01" + std::to_string(++questions);
     std::array<char, kLongestLine + 1> value{};
     const int length = SQLGetPrivateProfileString(name.c_str(), key.c_str(), none.c_str(), value.data(),
                                                   static_cast<int>(value.size()), file.c_str());
-    if (length < 0 || value.data() == none)
+    if (length < 0 || value.data() == none) {
         return std::nullopt;
+    }
     return value.data();
 }
 
-/// What the file doesn't hold yet.
+/// The values that the file doesn't hold yet.
 DataSourceValues missingIn(const fs::path& file, const std::string& name, const DataSourceValues& values) {
     DataSourceValues missing;
-    // Asking makes the file where there is none.
+    // Reading a value would create the file where there is none.
     const bool exists = fs::exists(file);
     for (const auto& [key, value] : values) {
         const std::string stored = storable(value);
-        if (key.size() + stored.size() + std::string_view("=\n").size() > kLongestLine)
+        if (key.size() + stored.size() + std::string_view("=\n").size() > kLongestLine) {
             throw std::runtime_error("The value of " + key + " is too long for a data source.");
-        if (!exists || valueIn(file, name, key) != stored)
+        }
+        if (!exists || valueIn(file, name, key) != stored) {
             missing.emplace_back(key, stored);
+        }
     }
     return missing;
 }
@@ -100,19 +106,22 @@ bool hasDataSource(const std::string& name) {
     return fs::exists(file) && valueIn(file, name, "Driver").has_value();
 }
 
-// The library writes the whole file anew for every value: it writes to a copy, which then takes the file's place.
+// The library rewrites the file for every value. It is given a copy, which then replaces the file at once.
 void writeDataSource(const std::string& name, const DataSourceValues& values) {
     const fs::path file = userFile();
     const DataSourceValues missing = missingIn(file, name, values);
-    if (missing.empty())
+    if (missing.empty()) {
         return;
+    }
     const QTemporaryDir folder;
     const fs::path copy = fs::path(folder.path().toStdString()) / "odbc.ini";
-    if (fs::exists(file))
+    if (fs::exists(file)) {
         fs::copy_file(file, copy);
+    }
     for (const auto& [key, value] : missing) {
-        if (!SQLWritePrivateProfileString(name.c_str(), key.c_str(), value.c_str(), copy.c_str()))
+        if (!SQLWritePrivateProfileString(name.c_str(), key.c_str(), value.c_str(), copy.c_str())) {
             throw std::runtime_error("The data source " + name + " can't be written.");
+        }
     }
     replaceFile(file, bytesOf(copy), fs::status(copy).permissions());
 }

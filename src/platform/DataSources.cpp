@@ -13,8 +13,9 @@ std::unique_ptr<DataSources> present;
 } // namespace
 
 DataSources& dataSources() {
-    if (!present)
+    if (!present) {
         present = std::make_unique<OdbcDataSources>();
+    }
     return *present;
 }
 

@@ -14,20 +14,20 @@ public:
     static constexpr std::int16_t kConfigure = 2;
 
     virtual ~DataSources() = default;
-    /// All names in the registry's own order; none where there is no registry.
+    /// All names in the registry's order; none where there is no registry.
     virtual std::vector<std::string> names() = 0;
-    /// Enters a data source or gives an existing one new values. The attributes are "Key=value", divided by carriage
-    /// returns. Throws std::runtime_error where the driver is unknown, the name isn't allowed or the registry can't be
-    /// written; the registry is then as it was. `silent` asks for no dialogs, of which there are none anyway.
+    /// Adds a data source or gives an existing one new values. The attributes are "Key=value", separated by carriage
+    /// returns. Throws std::runtime_error, with the registry unchanged, where the driver is unknown, the name isn't
+    /// allowed or the registry can't be written. `silent` has no effect: no dialogs are shown.
     virtual void registerDatabase(const std::string& name, const std::string& driver, bool silent,
                                   const std::string& attributes) = 0;
-    /// kAdd enters the data source that the attribute DSN names, or gives it new values; kConfigure does so only where
-    /// it exists. The attributes are "Key=value", each closed by a zero character. 1 when it was done, 0 when not.
+    /// kAdd adds the data source named by the attribute DSN, or gives it new values; kConfigure does so only where it
+    /// exists. The attributes are "Key=value", each ended by a zero character. Returns 1 for success and 0 for failure.
     virtual std::int32_t configure(std::int16_t request, const std::string& driver, const std::string& attributes) = 0;
 };
 
 DataSources& dataSources();
-/// Takes the place of this machine's registry, which comes back with nothing.
+/// Sets another registry in the place of this machine's own; null sets that one again.
 void setDataSources(std::unique_ptr<DataSources> dataSources);
 
 } // namespace platform

@@ -10,8 +10,9 @@ std::unique_ptr<Dialogs> present;
 }
 
 Dialogs& dialogs() {
-    if (!present)
+    if (!present) {
         throw std::logic_error("No dialogs were set.");
+    }
     return *present;
 }
 

@@ -8,17 +8,17 @@ namespace platform {
 
 enum class Icon { None, Stop };
 
-/// All boxes that ask or tell. `controls` implements it with windows, tests with a script. Texts are shown as they
-/// are, line breaks included; without a title the application's own shows.
+/// All message, question, input and folder boxes. `controls` implements them with windows, tests with a script. Texts
+/// are shown as they are, line breaks included; an empty title means the application's name.
 class Dialogs {
 public:
     virtual ~Dialogs() = default;
     virtual void message(const std::string& text, Icon icon = Icon::None) = 0;
     virtual bool question(const std::string& text) = 0; ///< Yes and No
     virtual bool confirm(const std::string& text) = 0;  ///< OK and Cancel
-    /// Nothing typed and Cancel are both the empty text.
+    /// The text typed; empty after Cancel, too.
     virtual std::string input(const std::string& prompt, const std::string& title, const std::string& proposed) = 0;
-    /// A folder, empty when none was chosen.
+    /// The path of a folder; empty where none was chosen.
     virtual std::string folder(const std::string& title) = 0;
 };
 

@@ -19,12 +19,12 @@ namespace fs = std::filesystem;
 
 namespace {
 
-enum Number { FileNotFound = 53, DeviceError = 57, EndOfFile = 62, Denied = 70, AccessError = 75, PathNotFound = 76 };
+enum Number { kFileNotFound = 53, kDeviceError = 57, kEndOfFile = 62, kDenied = 70, kAccessError = 75, kPathNotFound = 76 };
 
 constexpr std::array kWords{
-    std::pair{FileNotFound, "File not found"},        std::pair{DeviceError, "Device I/O error"},
-    std::pair{EndOfFile, "Input past end of file"},   std::pair{Denied, "Permission denied"},
-    std::pair{AccessError, "Path/File access error"}, std::pair{PathNotFound, "Path not found"},
+    std::pair{kFileNotFound, "File not found"},        std::pair{kDeviceError, "Device I/O error"},
+    std::pair{kEndOfFile, "Input past end of file"},   std::pair{kDenied, "Permission denied"},
+    std::pair{kAccessError, "Path/File access error"}, std::pair{kPathNotFound, "Path not found"},
 };
 
 bool isSeparator(char c) {
@@ -35,28 +35,32 @@ QString folded(const std::string& name) {
     return QString::fromStdString(name).toCaseFolded();
 }
 
-/// The names on the road from the drive's root, `.` and `..` taken away; nothing for a place that isn't on drive C.
+/// The parts of a path from the drive's root on, with `.` and `..` resolved; nothing for a path that isn't on drive C.
 std::optional<std::vector<std::string>> namesOf(std::string_view path) {
     if (path.size() >= 2 && path[1] == ':') {
-        if (path[0] != 'C' && path[0] != 'c')
+        if (path[0] != 'C' && path[0] != 'c') {
             return std::nullopt;
+        }
         path.remove_prefix(2);
     } else if (path.size() >= 2 && isSeparator(path[0]) && isSeparator(path[1])) {
-        return std::nullopt; // another machine's share
+        return std::nullopt; // a share of another machine
     }
-    if (path.find('\0') != std::string_view::npos)
+    if (path.find('\0') != std::string_view::npos) {
         return std::nullopt;
+    }
 
     std::vector<std::string> names;
     while (!path.empty()) {
         std::size_t length = 0;
-        while (length < path.size() && !isSeparator(path[length]))
+        while (length < path.size() && !isSeparator(path[length])) {
             ++length;
+        }
         const std::string name(path.substr(0, length));
         path.remove_prefix(std::min(length + 1, path.size()));
         if (name == "..") {
-            if (!names.empty())
+            if (!names.empty()) {
                 names.pop_back();
+            }
         } else if (!name.empty() && name != ".") {
             names.push_back(name);
         }
@@ -64,62 +68,72 @@ std::optional<std::vector<std::string>> namesOf(std::string_view path) {
     return names;
 }
 
-/// The entry of that name: the exact spelling first, else the first in another case.
+/// The folder's entry of that name: the one spelt exactly so, else the first that differs only in case.
 fs::path entryOf(const fs::path& folder, const std::string& name) {
     std::error_code ignored;
-    if (fs::exists(fs::symlink_status(folder / name, ignored)))
+    if (fs::exists(fs::symlink_status(folder / name, ignored))) {
         return folder / name;
+    }
     const QString wanted = folded(name);
     std::string found;
     for (fs::directory_iterator entry(folder, ignored), end; entry != end; entry.increment(ignored)) {
         const std::string candidate = entry->path().filename().string();
-        if ((found.empty() || candidate < found) && folded(candidate) == wanted)
+        if ((found.empty() || candidate < found) && folded(candidate) == wanted) {
             found = candidate;
+        }
     }
     return folder / (found.empty() ? name : found);
 }
 
 std::optional<fs::path> find(const fs::path& root, std::string_view path) {
     const auto names = namesOf(path);
-    if (!names)
+    if (!names) {
         return std::nullopt;
+    }
     fs::path place = root;
-    for (const std::string& name : *names)
+    for (const std::string& name : *names) {
         place = entryOf(place, name);
+    }
     return place;
 }
 
-/// What the run-time says of a file whose reading, writing or removing the system refused.
+/// The error for a file that the system refused to read, write or remove.
 FileError refusal(const fs::path& file, std::error_code reason) {
     std::error_code ignored;
-    if (reason == std::errc::no_such_file_or_directory || reason == std::errc::not_a_directory)
-        return FileError(fs::is_directory(file.parent_path(), ignored) ? FileNotFound : PathNotFound);
-    if (reason == std::errc::filename_too_long)
-        return FileError(PathNotFound);
-    if (reason == std::errc::permission_denied || reason == std::errc::operation_not_permitted)
-        return FileError(Denied);
+    if (reason == std::errc::no_such_file_or_directory || reason == std::errc::not_a_directory) {
+        return FileError(fs::is_directory(file.parent_path(), ignored) ? kFileNotFound : kPathNotFound);
+    }
+    if (reason == std::errc::filename_too_long) {
+        return FileError(kPathNotFound);
+    }
+    if (reason == std::errc::permission_denied || reason == std::errc::operation_not_permitted) {
+        return FileError(kDenied);
+    }
     if (reason == std::errc::is_a_directory || reason == std::errc::file_exists ||
-        reason == std::errc::read_only_file_system)
-        return FileError(AccessError);
-    return FileError(DeviceError);
+        reason == std::errc::read_only_file_system) {
+        return FileError(kAccessError);
+    }
+    return FileError(kDeviceError);
 }
 
 std::error_code lastError() {
     return {errno, std::generic_category()};
 }
 
-/// Up to the first line break or the end of the file; nothing when there is no byte at all. What goes on behind the
-/// most that a line can hold is garbage, which stays unread however much it is.
+/// The text up to the first line break or the end of the file; nothing for an empty file. At most 64 KB are read,
+/// however large the file is.
 std::optional<std::string> readLine(std::istream& file) {
     constexpr std::size_t kLongestLine = 65'536;
     std::string line(kLongestLine, '\0');
     file.read(line.data(), static_cast<std::streamsize>(line.size()));
     line.resize(static_cast<std::size_t>(file.gcount()));
-    if (line.empty())
+    if (line.empty()) {
         return std::nullopt;
+    }
     line.resize(std::min(line.find('\n'), line.size()));
-    if (!line.empty() && line.back() == '\r')
+    if (!line.empty() && line.back() == '\r') {
         line.pop_back();
+    }
     return line;
 }
 
@@ -129,16 +143,18 @@ FileError::FileError(int number) : number_(number) {}
 
 const char* FileError::what() const noexcept {
     for (const auto& [number, words] : kWords) {
-        if (number == number_)
+        if (number == number_) {
             return words;
+        }
     }
     return "Application-defined or object-defined error";
 }
 
 fs::path DriveC::real(std::string_view path) const {
-    if (auto place = find(root_, path))
+    if (auto place = find(root_, path)) {
         return *place;
-    throw FileError(PathNotFound);
+    }
+    throw FileError(kPathNotFound);
 }
 
 bool DriveC::exists(std::string_view path) const {
@@ -163,27 +179,33 @@ std::string DriveC::firstLine(std::string_view path) const {
     const fs::path place = real(path);
     std::error_code reason;
     const fs::file_status status = fs::status(place, reason);
-    if (!fs::exists(status))
+    if (!fs::exists(status)) {
         throw refusal(place, reason ? reason : make_error_code(std::errc::no_such_file_or_directory));
-    if (!fs::is_regular_file(status))
-        throw FileError(AccessError);
+    }
+    if (!fs::is_regular_file(status)) {
+        throw FileError(kAccessError);
+    }
     errno = 0;
     std::ifstream file(place, std::ios::binary);
-    if (!file)
+    if (!file) {
         throw refusal(place, lastError());
+    }
     const auto line = readLine(file);
-    if (file.bad())
-        throw FileError(DeviceError);
-    if (!line)
-        throw FileError(EndOfFile);
-    return QString::fromStdString(*line).toStdString(); // what is no UTF-8 becomes U+FFFD
+    if (file.bad()) {
+        throw FileError(kDeviceError);
+    }
+    if (!line) {
+        throw FileError(kEndOfFile);
+    }
+    return QString::fromStdString(*line).toStdString(); // invalid UTF-8 becomes U+FFFD
 }
 
 void DriveC::writeLine(std::string_view path, std::string_view line) const {
     const fs::path place = real(path);
     std::error_code ignored;
-    if (fs::is_directory(place, ignored))
-        throw FileError(AccessError);
+    if (fs::is_directory(place, ignored)) {
+        throw FileError(kAccessError);
+    }
     try {
         machine::replaceFile(place, std::string(line) + "\r\n");
     } catch (const std::system_error& error) {
@@ -194,10 +216,12 @@ void DriveC::writeLine(std::string_view path, std::string_view line) const {
 void DriveC::remove(std::string_view path) const {
     const fs::path place = real(path);
     std::error_code reason;
-    if (fs::is_directory(place, reason))
-        throw FileError(AccessError);
-    if (fs::remove(place, reason))
+    if (fs::is_directory(place, reason)) {
+        throw FileError(kAccessError);
+    }
+    if (fs::remove(place, reason)) {
         return;
+    }
     throw refusal(place, reason ? reason : make_error_code(std::errc::no_such_file_or_directory));
 }
 
@@ -206,8 +230,9 @@ void DriveC::makeFolder(std::string_view path) const {
     try {
         machine::makePrivateFolder(place);
     } catch (const std::system_error& error) {
-        if (error.code() == std::errc::no_such_file_or_directory)
-            throw FileError(PathNotFound);
+        if (error.code() == std::errc::no_such_file_or_directory) {
+            throw FileError(kPathNotFound);
+        }
         throw refusal(place, error.code());
     }
 }

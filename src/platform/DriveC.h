@@ -6,7 +6,7 @@
 
 namespace platform {
 
-/// A file of drive C that can't be reached: number and words of the run-time (53 "File not found", 76 "Path not found",
+/// A file of drive C that can't be reached, with number and text (53 "File not found", 76 "Path not found",
 /// 70 "Permission denied", 75 "Path/File access error", 62 "Input past end of file", 57 "Device I/O error").
 class FileError : public std::exception {
 public:
@@ -18,25 +18,26 @@ private:
     int number_;
 };
 
-/// Drive C of the workstation. `C:\vabo` and `C:\Vabo` are one folder; names are found whatever their case; new files
-/// get the spelling of the writer and are for the owner alone.
+/// Drive C of the workstation. Names are found whatever their case, so `C:\vabo` and `C:\Vabo` are one folder. New
+/// files get the spelling of the writer and can be read and written by their owner only.
 class DriveC {
 public:
     explicit DriveC(std::filesystem::path root) : root_(std::move(root)) {}
 
     const std::filesystem::path& root() const { return root_; }
-    /// Where a path of the drive (`C:\vabo\x.txt`, `\` or `/`, any case) lies; what doesn't exist keeps its spelling.
+    /// The system's path for a path of the drive (`C:\vabo\x.txt`, with `\` or `/`, in any case). Parts that don't
+    /// exist keep their spelling.
     std::filesystem::path real(std::string_view path) const;
     bool exists(std::string_view path) const;
     bool isFile(std::string_view path) const;
     bool isFolder(std::string_view path) const;
 
-    /// The first line without its end, CRLF or LF. Throws FileError; 62 for an empty file.
+    /// The first line without its line break, CRLF or LF. Throws FileError, with number 62 for an empty file.
     std::string firstLine(std::string_view path) const;
-    /// Replaces the whole file by one line and CRLF, at once: a kill leaves the old or the new. Throws FileError.
+    /// Replaces the whole file by one line and CRLF. A kill leaves the old file or the new one. Throws FileError.
     void writeLine(std::string_view path, std::string_view line) const;
     void remove(std::string_view path) const;
-    /// One folder; FileError 75 where it exists.
+    /// Creates one folder. Throws FileError, with number 75 where it exists.
     void makeFolder(std::string_view path) const;
 
 private:

@@ -9,8 +9,9 @@ FormHost* present = nullptr;
 }
 
 FormHost& formHost() {
-    if (present == nullptr)
+    if (present == nullptr) {
         throw std::logic_error("No form host was set.");
+    }
     return *present;
 }
 

@@ -4,13 +4,13 @@
 
 namespace platform {
 
-/// What modules without widgets ask of the windows: forms are known by name alone.
+/// What modules without widgets do with forms, which they know by name only.
 class FormHost {
 public:
     virtual ~FormHost() = default;
-    /// Loads the form on first use and shows it. False when no form of that name is built.
+    /// Loads the form on first use and shows it. False where there is no form of that name.
     virtual bool show(std::string_view name) = 0;
-    /// Makes it visible again, loading it where it was unloaded.
+    /// Shows the form again; loads it where it was unloaded.
     virtual bool makeVisible(std::string_view name) = 0;
     virtual void hide(std::string_view name) = 0;
     virtual void unload(std::string_view name) = 0;

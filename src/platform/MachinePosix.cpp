@@ -22,8 +22,9 @@ namespace {
 class Descriptor {
 public:
     Descriptor(int number, const char* what) : number_(number) {
-        if (number_ < 0)
+        if (number_ < 0) {
             fail(what);
+        }
     }
     Descriptor(const Descriptor&) = delete;
     Descriptor& operator=(const Descriptor&) = delete;
@@ -34,7 +35,7 @@ private:
     int number_;
 };
 
-/// A new file beside the one to replace; what is left unfinished is taken away again.
+/// A new file in the folder of the one to be replaced. It is removed where it doesn't replace that one.
 class TemporarySibling {
 public:
     explicit TemporarySibling(const fs::path& folder)
@@ -42,30 +43,36 @@ public:
     TemporarySibling(const TemporarySibling&) = delete;
     TemporarySibling& operator=(const TemporarySibling&) = delete;
     ~TemporarySibling() {
-        if (!kept_)
+        if (!kept_) {
             ::unlink(name_.c_str());
+        }
     }
 
     void permit(fs::perms permissions) const {
-        if (::fchmod(descriptor_.number(), static_cast<mode_t>(permissions & fs::perms::mask)) != 0)
+        if (::fchmod(descriptor_.number(), static_cast<mode_t>(permissions & fs::perms::mask)) != 0) {
             fail("permit");
+        }
     }
 
     void write(std::string_view bytes) const {
         while (!bytes.empty()) {
             const ssize_t written = ::write(descriptor_.number(), bytes.data(), bytes.size());
-            if (written < 0 && errno != EINTR)
+            if (written < 0 && errno != EINTR) {
                 fail("write");
-            if (written > 0)
+            }
+            if (written > 0) {
                 bytes.remove_prefix(static_cast<std::size_t>(written));
+            }
         }
-        if (::fsync(descriptor_.number()) != 0)
+        if (::fsync(descriptor_.number()) != 0) {
             fail("sync");
+        }
     }
 
     void takeThePlaceOf(const fs::path& file) {
-        if (::rename(name_.c_str(), file.c_str()) != 0)
+        if (::rename(name_.c_str(), file.c_str()) != 0) {
             fail("rename");
+        }
         kept_ = true;
     }
 
@@ -77,8 +84,9 @@ private:
 
 void syncFolder(const fs::path& folder) {
     const Descriptor descriptor(::open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC), "open folder");
-    if (::fsync(descriptor.number()) != 0)
+    if (::fsync(descriptor.number()) != 0) {
         fail("sync folder");
+    }
 }
 
 std::string environment(const char* name) {
@@ -87,8 +95,9 @@ std::string environment(const char* name) {
 }
 
 fs::path home() {
-    if (const std::string folder = environment("HOME"); !folder.empty())
+    if (const std::string folder = environment("HOME"); !folder.empty()) {
         return folder;
+    }
     const passwd* entry = ::getpwuid(::getuid());
     return entry == nullptr ? fs::path("/") : fs::path(entry->pw_dir);
 }
@@ -97,8 +106,9 @@ fs::path home() {
 
 std::string hostName() {
     std::array<char, 256> buffer{};
-    if (::gethostname(buffer.data(), buffer.size() - 1) != 0)
+    if (::gethostname(buffer.data(), buffer.size() - 1) != 0) {
         return {};
+    }
     return buffer.data();
 }
 
@@ -108,16 +118,18 @@ fs::path programFile() {
 }
 
 fs::path driveC() {
-    if (const std::string folder = environment("VABO_DRIVE_C"); !folder.empty())
+    if (const std::string folder = environment("VABO_DRIVE_C"); !folder.empty()) {
         return fs::absolute(folder).lexically_normal();
+    }
     const fs::path data = environment("XDG_DATA_HOME");
     return (data.is_absolute() ? data : home() / ".local" / "share") / "vabo" / "c";
 }
 
 void replaceFile(const fs::path& file, std::string_view bytes, fs::perms permissions) {
-    // A rename would pass over a file that its owner has closed to writing.
-    if (::access(file.c_str(), W_OK) != 0 && errno != ENOENT)
+    // Without this check the rename would replace a file that its owner has made read-only.
+    if (::access(file.c_str(), W_OK) != 0 && errno != ENOENT) {
         fail("access");
+    }
     TemporarySibling sibling(file.parent_path());
     sibling.permit(permissions);
     sibling.write(bytes);
@@ -126,8 +138,9 @@ void replaceFile(const fs::path& file, std::string_view bytes, fs::perms permiss
 }
 
 void makePrivateFolder(const fs::path& folder) {
-    if (::mkdir(folder.c_str(), S_IRWXU) != 0)
+    if (::mkdir(folder.c_str(), S_IRWXU) != 0) {
         fail("mkdir");
+    }
 }
 
 } // namespace platform::machine

@@ -4,9 +4,9 @@
 
 namespace platform {
 
-/// The data sources of this machine's ODBC; new ones are the user's own. The name "SQL Server" of a driver stands for
-/// the one that connections to a server use (see ado/drivers/odbc/OdbcDriverName.h), and what that driver needs to
-/// know goes into the entry, so that any program connects by the name alone.
+/// The data sources of this machine's ODBC; new ones are entered for the user, not for the machine. "SQL Server" as the
+/// name of a driver means the driver that connections to a server use (see ado/drivers/odbc/OdbcDriverName.h). The
+/// settings that this driver needs are entered too, so that any program can connect by the data source's name alone.
 class OdbcDataSources : public DataSources {
 public:
     std::vector<std::string> names() override;

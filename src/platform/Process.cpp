@@ -15,7 +15,8 @@ void TerminaProcesso() {
         replacement();
         throw ProcessEnded{};
     }
-    // At once and from anywhere: no form is unloaded, no destructor runs. What the server returned is on the disk.
+    // Ends at once, from any place: no form is unloaded and no destructor runs. Nothing is lost, since a statement that
+    // has returned is on the server's disk.
     std::fflush(nullptr);
     std::_Exit(EXIT_SUCCESS);
 }

@@ -4,13 +4,13 @@
 
 namespace platform {
 
-/// The one way to end the program. It doesn't return.
+/// Ends the program. There is no other way.
 [[noreturn]] void TerminaProcesso();
 
-/// What a replaced end throws, so that the caller's road is left as the end of the process would leave it.
+/// Thrown by a replaced end, so that no code of the caller runs after it, as at the end of the process.
 struct ProcessEnded {};
 
-/// Tests: instead of ending, tell `ended` and throw ProcessEnded. An empty function restores the real end.
+/// For tests: TerminaProcesso then calls `ended` and throws ProcessEnded. An empty function restores the real end.
 void replaceEnd(std::function<void()> ended);
 
 } // namespace platform

@@ -6,15 +6,18 @@ namespace platform {
 
 namespace {
 
-/// A separator as one byte: the many blanks and apostrophes of Unicode are the plain ones.
+/// A separator as one byte: Unicode's many kinds of blanks and apostrophes become the ASCII ones.
 char separator(const QString& text, char otherwise) {
-    if (text.isEmpty())
+    if (text.isEmpty()) {
         return otherwise;
+    }
     const QChar c = text.front();
-    if (c.isSpace())
+    if (c.isSpace()) {
         return ' ';
-    if (c == QChar(u'\u2019'))
+    }
+    if (c == QChar(u'\u2019')) {
         return '\'';
+    }
     return c.unicode() < 0x80 ? c.toLatin1() : otherwise;
 }
 
@@ -23,8 +26,9 @@ ado::RegionalSettings::DateOrder dateOrder(const QString& format) {
     const auto day = format.indexOf('d');
     const auto month = format.indexOf('M');
     const auto year = format.indexOf('y');
-    if (year < month)
+    if (year < month) {
         return Order::YearMonthDay;
+    }
     return month < day ? Order::MonthDayYear : Order::DayMonthYear;
 }
 
@@ -48,8 +52,9 @@ ado::RegionalSettings regionalSettingsOf(const QLocale& locale) {
     const QString shortDate = locale.dateFormat(QLocale::ShortFormat);
     settings.dateSeparator = dateSeparator(shortDate, settings.dateSeparator);
     settings.dateOrder = dateOrder(shortDate);
-    if (const QString symbol = locale.currencySymbol(); !symbol.isEmpty())
+    if (const QString symbol = locale.currencySymbol(); !symbol.isEmpty()) {
         settings.currencySymbol = symbol.toStdString();
+    }
     return settings;
 }
 

@@ -6,13 +6,14 @@
 
 namespace platform {
 
-/// The system's locale, Italian where the system has none ("C", "POSIX").
+/// This locale, or Italian where the system has none ("C", "POSIX").
 QLocale localeOr(const QLocale& system);
 
-/// How that locale writes numbers and dates, as far as single characters go; what it doesn't tell stays Italian.
+/// How the locale writes numbers and dates. Separators are single characters; where the locale doesn't define one, the
+/// Italian one is used.
 ado::RegionalSettings regionalSettingsOf(const QLocale& locale);
 
-/// Makes the locale the one of the data layer and of Qt.
+/// Sets the locale of the data layer and of Qt.
 void useLocale(const QLocale& locale);
 
 } // namespace platform

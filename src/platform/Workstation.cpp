@@ -16,7 +16,7 @@ constexpr const char* kInstances = "C:\\vabo\\istanze";
 
 std::optional<Workstation> present;
 
-/// For the server: a place that isn't on drive C is one that no folder leads to.
+/// The system's path for the server. A path that isn't on drive C becomes one in a folder that doesn't exist.
 std::filesystem::path serverPath(std::string_view path) {
     const DriveC& drive = workstation().driveC;
     try {
@@ -33,8 +33,9 @@ std::string terminalName(const std::string& hostName) {
 }
 
 Workstation& workstation() {
-    if (!present)
+    if (!present) {
         takeRealWorkstation();
+    }
     return *present;
 }
 

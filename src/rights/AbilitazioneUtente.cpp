@@ -36,23 +36,25 @@ std::string Istruzione(const std::string& utente, const std::string& password) {
         separatore = ",";
     }
     testo += std::string(" from ") + " AbilitazioneAccessi" + " where " + " NomeUtente = '" + utente + "'";
-    if (!IsEmptyValue(password))
+    if (!IsEmptyValue(password)) {
         testo += std::string(" and ") + " PaswUtente = '" + password + "'";
+    }
     return testo;
 }
 
 void Rifiuta() {
     TentativiLogin += 1;
     platform::dialogs().message("Utente non abilitato! ");
-    if (TentativiLogin < 4)
+    if (TentativiLogin < 4) {
         return;
+    }
     platform::dialogs().message("Non è possibile riprovare! ");
     platform::formHost().unload("About");
 }
 
 } // namespace
 
-// Without a rule of its own.
+// No failure rule here: errors reach the caller.
 void CaricaAbilitazione(const std::string& NomeUtente, const std::string& PaswUtente) {
     if (IsEmptyValue(NomeUtente) || IsEmptyValue(PaswUtente)) {
         Rifiuta();
@@ -67,8 +69,9 @@ void CaricaAbilitazione(const std::string& NomeUtente, const std::string& PaswUt
         return;
     }
     Diritti diritti;
-    for (const auto& [colonna, flag] : kColonne)
+    for (const auto& [colonna, flag] : kColonne) {
         diritti.*flag = ado::toBoolean(rs[colonna]) ? kVero : kFalso;
+    }
     DirittiUtente = diritti;
     ChiudiRecordset();
 }

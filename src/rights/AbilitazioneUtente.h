@@ -6,7 +6,7 @@
 
 namespace vabo {
 
-/// The fixed rows of DirittiUtente; all others come from a row of the table of users.
+/// The rights that don't come from a row of the table of users.
 inline constexpr Diritti kDirittiPrimaDelLogin{.Disabilita = kVero};
 inline constexpr Diritti kDirittiAvvioSenzaUtenti{.Administrator = kVero,
                                                   .A_Inserisci = kVero,
@@ -18,15 +18,15 @@ inline constexpr Diritti kDirittiAvvioSenzaUtenti{.Administrator = kVero,
                                                   .A_PFinanza = kVero,
                                                   .A_Synchro = kVero,
                                                   .A_EmettiPagamenti = kVero};
-/// The login meets an empty table: unlike the start it sets A_Progetta too.
+/// The login form finds the table of users empty: as at the start, and A_Progetta too.
 inline constexpr Diritti kDirittiLoginSenzaUtenti = [] {
     Diritti diritti = kDirittiAvvioSenzaUtenti;
     diritti.A_Progetta = kVero;
     return diritti;
 }();
 
-/// Puts the rights of that user into DirittiUtente, all or nothing. Whoever isn't found counts as a failed attempt and
-/// is told so; the fourth closes the login form. Errors of the database rise.
+/// Sets DirittiUtente to the rights of that user, all of them or, on failure, none. An unknown user gets a message and
+/// counts as a failed attempt; the fourth closes the login form. Raises ado::Error.
 void CaricaAbilitazione(const std::string& NomeUtente, const std::string& PaswUtente);
 
 } // namespace vabo

@@ -8,7 +8,7 @@ namespace vabo {
 
 inline constexpr const char* kNonAbilitato = "Utente non abilitato!\nContattare l'amministratore di sistema";
 
-/// Whether the user has the right; who hasn't is told so.
+/// Whether the user has the right; shows `testo` in a box where not.
 bool Permesso(Flag diritto, const std::string& testo = kNonAbilitato);
 
 } // namespace vabo

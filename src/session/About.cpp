@@ -50,8 +50,9 @@ void About::Load() {
     setWindowTitle(QString::fromStdString(ConVersione(kTitolo)));
     PreparaLogin();
     Controlla_server();
-    if (ServerMancante != kFalso)
+    if (ServerMancante != kFalso) {
         return;
+    }
     ApriDatiLogin();
     ui_->Label1->setText(QString::fromStdString(TestoDatabase()));
     ui_->PswLabels_0->setText(QStringLiteral("Password :"));
@@ -62,8 +63,9 @@ void About::Load() {
 }
 
 void About::Controlla_server() {
-    if (ServerRisponde())
+    if (ServerRisponde()) {
         return;
+    }
     UnloadMe();
     ApriForm("FormRegistraAziendeNeiDns", true);
 }
@@ -75,14 +77,16 @@ void About::Activate() {
         platform::formHost().show("Avvio_Azienda");
         return;
     }
-    for (auto* campo : {ui_->txtPassword, ui_->txtPassword1, ui_->txtUserName})
+    for (auto* campo : {ui_->txtPassword, ui_->txtPassword1, ui_->txtUserName}) {
         campo->clear();
+    }
     ui_->txtUserName->setFocus();
 }
 
 void About::ConfermaNome() {
-    if (IsEmptyValue(Normalizza(*ui_->txtUserName)))
+    if (IsEmptyValue(Normalizza(*ui_->txtUserName))) {
         return;
+    }
     ui_->txtPassword->setEnabled(true);
     ui_->txtPassword->setFocus();
 }
@@ -96,7 +100,8 @@ void About::ConfermaPrimaPassword() {
     ui_->txtPassword->setFocus();
 }
 
-// Also the second entry of a first password; when the two differ, the run goes on as a login by the name alone.
+// Also runs at the second entry of a first password. Where the two differ, both fields are cleared and the login goes
+// on with the name and an empty password.
 void About::ControllaPassword() {
     const std::string ripetuta = Normalizza(*ui_->txtPassword);
     const std::string prima = ui_->txtPassword1->Text();
@@ -109,7 +114,7 @@ void About::ControllaPassword() {
         platform::dialogs().message("Wrong password, retry!");
         ChiediPassword();
     }
-    // A name may have been changed since its Enter: it never reaches a statement as it was typed.
+    // Normalised again: the name may have been changed after its Enter, and quotes must not reach the statement.
     const std::string utente = Normalizza(*ui_->txtUserName);
     const std::string password = ui_->txtPassword->Text();
     switch (ControllaLogin(utente, password, IdUtenteNuovo)) {

@@ -14,14 +14,14 @@ class About;
 
 namespace vabo {
 
-/// The login: a name, then a password, each ended by Enter. Who has no password yet sets one here, typed twice.
+/// The login: a name, then a password, each ended by Enter. A user without a password sets one here, typed twice.
 class About : public controls::Form {
     Q_OBJECT
 public:
     About();
     ~About() override;
 
-    /// Gives way to the form of the data sources where the company can't be reached.
+    /// Where the company can't be reached, closes this form and opens the one of the data sources.
     void Controlla_server();
 
 protected:
@@ -39,7 +39,7 @@ private:
     void Entra();
 
     std::unique_ptr<Ui::About> ui_;
-    double IdUtenteNuovo = 0; ///< who is setting a first password, whoever stands in the field meanwhile
+    double IdUtenteNuovo = 0; ///< the user who sets a first password; the name in the field may change meanwhile
     std::string NomeUtenteNuovo;
 };
 

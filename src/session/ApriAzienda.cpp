@@ -20,8 +20,8 @@
 
 #include <set>
 
-// Failing statements are skipped throughout, and a failing test counts as true. The terminal's name and the number
-// travel from step to step; what is written to the globals on the way are the outputs.
+// In the whole file failing statements are skipped and a failing test counts as true. The steps hand the terminal's
+// name and the company's number to each other as parameters; they write the globals only for others to read.
 
 namespace vabo {
 
@@ -36,7 +36,7 @@ enum class Esito { Aperta, DaRipiegare, SenzaRiga };
     platform::TerminaProcesso();
 }
 
-/// A failed call counts as no.
+/// False also where the question fails.
 bool DatabasePresente() {
     bool presente = false;
     salta([&] { presente = EsisteDatabase(); });
@@ -59,7 +59,7 @@ bool NumeroDiPartenza(double& id) {
 
 void StringheDiPartenza() {
     salta([] { StringaAzienda = ConnessioneAzienda(); });
-    // Stands only for a company without a database; no semicolon ahead of the last key.
+    // This text stays only for a company without a database. The semicolon before DATABase is missing on purpose.
     StringaAzienda = "Provider=SQLOLEDB;Data Source=" + NomeServer + ";Integrated Security=SSPI" + "DATABase=vabodati";
 }
 
@@ -72,8 +72,8 @@ void AggiungiTerminale(ado::Recordset& rs, const std::string& terminale, double 
     salta([&] { rs.Close(); });
 }
 
-/// Neither a row nor a number. The recordset stands at its end, so what is written to it fails: the terminal gets no
-/// row.
+/// The terminal has neither a row nor a number. The recordset is at EOF, so these assignments fail and are skipped: no
+/// row is made for the terminal.
 void TerminaleSenzaNumero(ado::Recordset& rs, const std::string& terminale) {
     const bool nessuna = IsEmptyValue(PrimaAziendaSuServer());
     if (nessuna && !IsEmptyValue(terminale)) {
@@ -88,7 +88,7 @@ void TerminaleSenzaNumero(ado::Recordset& rs, const std::string& terminale) {
     salta([&] { rs.Close(); });
 }
 
-/// The number in the terminal's row; a terminal without a row keeps the given one, and gets a row for it.
+/// The company's number from the terminal's row. Without a row the given number is returned and stored in a new row.
 double NumeroDelTerminale(const std::string& terminale, double numero) {
     ado::Recordset rs;
     salta([&] {
@@ -116,8 +116,9 @@ double RisolviConTerminale(const std::string& terminale) {
 }
 
 void ScriviUltimo(const std::string& terminale, const std::string& numero) {
-    if (IsEmptyValue(terminale))
+    if (IsEmptyValue(terminale)) {
         return;
+    }
     salta([&] {
         DbControllo.Execute("update link_programmaTerminale set ultimo = " + numero + " where  " +
                             " nometerminale = '" + terminale + "'");
@@ -131,15 +132,17 @@ double RegistraScelta(const std::string& terminale, double numero) {
     return NumeroDelTerminale(terminale, numero);
 }
 
-/// An empty column keeps the value of the company before.
+/// An empty column leaves the global as it is, with the value of the company taken up before.
 void PrendiTesto(ado::Recordset& rs, const char* colonna, std::string& globale) {
-    if (vera([&] { return !IsEmptyValue(rs[colonna]); }))
+    if (vera([&] { return !IsEmptyValue(rs[colonna]); })) {
         salta([&] { globale = ado::toText(rs[colonna]); });
+    }
 }
 
 void CreaCartellaFile() {
-    for (const char* cartella : {"C:\\", "C:\\Vabo", "C:\\Vabo\\Files"})
+    for (const char* cartella : {"C:\\", "C:\\Vabo", "C:\\Vabo\\Files"}) {
         salta([&] { platform::workstation().driveC.makeFolder(cartella); });
+    }
     CartellaFile = "C:\\Vabo\\Files";
 }
 
@@ -153,24 +156,28 @@ void ComponiStringhe(ado::Recordset& rs, double& numero) {
     IdAziendaLavoro = numero;
     StringaAzienda += NomeDatabase + ";";
     StringaAziendaCopia = StringaAzienda;
-    Leggi_ServerLocal(); // its text serves nothing here, the file that it may write does
+    Leggi_ServerLocal(); // for the pointer file that it may write; the text isn't used
     salta([&] { PercorsoFileLocale = std::string("C:\\Vabo\\Files") + "\\" + Pezzo(rs["tlv_sql"]); });
     salta([&] { FileLocale = Pezzo(rs["tlv_sql"]); });
-    if (IsEmptyValue(FileLocale))
+    if (IsEmptyValue(FileLocale)) {
         FileLocale = LinguaCorrente == "EN" ? "tlv_locale_sqlEN.mdb" : "tlv_locale_sql.mdb";
+    }
 }
 
 Esito AziendaSenzaDatabase(ado::Recordset& rs, double& id, double& numero) {
     PrendiTesto(rs, "NomeAzienda", NomeAzienda);
     PrendiTesto(rs, "nRoot", UtenteDb);
     PrendiTesto(rs, "nPassw", PasswordDb);
-    if (vera([&] { return !IsEmptyValue(rs["tlv_sql"]); }))
+    if (vera([&] { return !IsEmptyValue(rs["tlv_sql"]); })) {
         salta([&] { PercorsoFileLocale = "C:\\Vabo\\Files\\" + Pezzo(rs["tlv_sql"]); });
-    for (double* uscita : {&IdAzienda, &IdAziendaLavoro, &id, &numero})
+    }
+    for (double* uscita : {&IdAzienda, &IdAziendaLavoro, &id, &numero}) {
         salta([&] { *uscita = ado::toDouble(rs["id"]); });
+    }
     salta([&] { rs.Close(); });
-    if (!DatabasePresente()) // of the company before
+    if (!DatabasePresente()) { // NomeDatabase is still that of the company taken up before
         return Esito::DaRipiegare;
+    }
     ChiudiRecordset();
     return Esito::Aperta;
 }
@@ -186,8 +193,9 @@ Esito Concludi(ado::Recordset& rs) {
     salta([] { DbAzienda.Close(); });
     salta([] { DbControllo.Close(); });
     RiapriDbAzienda();
-    if (IsEmptyValue(NomeDatabase) || !DatabasePresente())
+    if (IsEmptyValue(NomeDatabase) || !DatabasePresente()) {
         return Esito::DaRipiegare;
+    }
     NomeDsn = "Tlv_server";
     RegistraFonti({.Driver = "SQL Server",
                    .Server = NomeServer,
@@ -211,13 +219,15 @@ Esito AziendaConDatabase(ado::Recordset& rs, const std::string& terminale, doubl
     CreaCartellaFile();
     ComponiStringhe(rs, numero);
     salta([] { DbAzienda.Close(); });
-    if (!DatabasePresente())
+    if (!DatabasePresente()) {
         return Esito::DaRipiegare;
+    }
     RiapriDbAzienda();
     return Concludi(rs);
 }
 
-/// `numero` is the company looked up: the terminal's row may have led away from `id`.
+/// One attempt to take up `id`. On return `numero` is the company that was looked up: the terminal's row may name
+/// another one than `id`.
 Esito Passata(double& id, double& numero) {
     StringheDiPartenza();
     const std::string terminale = PulisciNome(NomeTerminale);
@@ -225,8 +235,9 @@ Esito Passata(double& id, double& numero) {
     IdAzienda = id;
     IdAziendaLavoro = id;
     numero = id;
-    if (IsEmptyValue(numero))
+    if (IsEmptyValue(numero)) {
         IdAziendaLavoro = numero = RisolviConTerminale(terminale);
+    }
     IdAziendaLavoro = numero = RegistraScelta(terminale, numero);
     ado::Recordset rs;
     salta([&] {
@@ -239,18 +250,21 @@ Esito Passata(double& id, double& numero) {
         return Esito::SenzaRiga;
     }
     salta([] { LinguaCorrente = LeggiLinguaClient(""); });
-    if (vera([&] { return IsEmptyValue(rs["DBname"]); }))
+    if (vera([&] { return IsEmptyValue(rs["DBname"]); })) {
         return AziendaSenzaDatabase(rs, id, numero);
-    // The language is asked of the local server, whose text goes through this work string where it has no file.
+    }
+    // Appoggio, not `terminale`: LeggiLinguaClient overwrites it with the local server's connection text where the
+    // pointer file is missing, and the next statement uses what it holds.
     return AziendaConDatabase(rs, Appoggio, numero);
 }
 
-/// The one search on the server: it runs anew for each use of its answer. It finds the same company each time, so a
-/// number that was tried is the end.
+/// Replaces `id` by the first company of the server. Each assignment searches anew. The search always
+/// finds the same company: where it was tried before, the process ends.
 void RipiegaSullaPrima(double& id, const std::set<double>& provati) {
     const double prima = PrimaAziendaSuServer();
-    if (IsEmptyValue(prima) || provati.contains(prima))
+    if (IsEmptyValue(prima) || provati.contains(prima)) {
         FineConMessaggio("Non è possibile caricare il DataBase");
+    }
     IdAzienda = PrimaAziendaSuServer();
     IdAziendaLavoro = PrimaAziendaSuServer();
     id = PrimaAziendaSuServer();
@@ -261,16 +275,18 @@ void RipiegaSullaPrima(double& id, const std::set<double>& provati) {
 void ApriAzienda(double& id) {
     QElapsedTimer tempo;
     tempo.start();
-    if (!NumeroDiPartenza(id))
+    if (!NumeroDiPartenza(id)) {
         return;
+    }
     std::set<double> provati;
     double numero = 0;
     for (Esito esito = Passata(id, numero); esito != Esito::Aperta; esito = Passata(id, numero)) {
         provati.insert(numero);
         RipiegaSullaPrima(id, provati);
         provati.insert(id);
-        if (esito == Esito::SenzaRiga)
+        if (esito == Esito::SenzaRiga) {
             salta([] { DbControllo.Close(); });
+        }
     }
     qCDebug(kTempo, "ApriAzienda %.3f ms", static_cast<double>(tempo.nsecsElapsed()) / 1e6);
 }

@@ -20,13 +20,13 @@ std::string NomeIstanzaLocale() {
     return NomeTerminale + "\\sqlexpress";
 }
 
-/// Places count from 1, 0 is nowhere.
+/// The place of `pezzo`, counted from 1; 0 where it isn't found.
 std::size_t Posto(std::string_view testo, std::string_view pezzo) {
     const std::size_t indice = testo.find(pezzo);
     return indice == std::string_view::npos ? 0 : indice + 1;
 }
 
-/// What follows the place, up to the next semicolon or the end.
+/// The text from that place on, up to the next semicolon or the end.
 std::string Frammento(std::string_view testo, std::size_t posto) {
     testo.remove_prefix(posto);
     return std::string(testo.substr(0, testo.find(';')));
@@ -47,7 +47,7 @@ bool ApriDatabaseTemp() {
 
 } // namespace
 
-// Without a rule of its own: callers depend on the error.
+// No failure rule here: callers need the error.
 std::string LeggiConnessioneServer() {
     std::string connessione = Disco().firstLine("C:\\vabo\\IndirizzoServer.txt");
     NomeServer = Disco().firstLine("C:\\vabo\\NomeServer.txt");
@@ -68,8 +68,9 @@ std::string StringaServerLocale(const std::string& server) {
 
 std::string Leggi_ServerLocal() {
     std::string connessione;
-    if (riesce([&] { connessione = Disco().firstLine("C:\\vabo\\Leggi_ServerLocal.txt"); }))
+    if (riesce([&] { connessione = Disco().firstLine("C:\\vabo\\Leggi_ServerLocal.txt"); })) {
         return connessione;
+    }
     Appoggio = StringaServerLocale(NomeIstanzaLocale());
     salta([] { ScriviFileTesto("C:\\Vabo\\IndirizzoServerLocal.txt", Appoggio); });
     return Appoggio;
@@ -78,11 +79,13 @@ std::string Leggi_ServerLocal() {
 std::string LeggiNomeServerLocal() {
     std::string nome;
     const bool letto = riesce([&] {
-        for (int lettura = 0; lettura < 2; ++lettura) // the second reading counts
+        for (int lettura = 0; lettura < 2; ++lettura) { // read twice; the second reading counts
             nome = Disco().firstLine("C:\\vabo\\NomeServerLocal.txt");
+        }
     });
-    if (letto)
+    if (letto) {
         return nome;
+    }
     salta([] { ScriviFileTesto("C:\\Vabo\\Leggi_ServerLocal.txt", NomeIstanzaLocale()); });
     salta([] { ScriviFileTesto("C:\\Vabo\\NomeServerLocal.txt", NomeIstanzaLocale()); });
     return NomeTerminale;
@@ -97,29 +100,34 @@ std::string LeggiUtenteServer() {
         chiave = 11;
     }
     const std::size_t dopoLaChiave = posto + chiave - 1;
-    if (dopoLaChiave < Appoggio.size() && Appoggio[dopoLaChiave] == ';')
+    if (dopoLaChiave < Appoggio.size() && Appoggio[dopoLaChiave] == ';') {
         return {};
+    }
     return Frammento(Appoggio, posto);
 }
 
 std::string LeggiPasswordServer() {
     const std::string connessione = LeggiConnessioneServer();
     std::size_t posto = Posto(connessione, ";PWD=");
-    if (posto == 0)
+    if (posto == 0) {
         posto = Posto(connessione, ";Password=");
+    }
     SqlLavoro = connessione.empty() ? std::string() : connessione.substr(connessione.size() - 1);
-    if (SqlLavoro == ";") // the end of the whole text, not the end of the key
+    if (SqlLavoro == ";") { // the last character of the whole text, not the value of the key
         return {};
+    }
     return Frammento(connessione, posto);
 }
 
-// What can't be opened is created once; the second failure is the failure of the whole.
+// A temporary database that can't be opened is created, and opened once more.
 bool ApriDbTemp() {
     salta([] { DbTemp.Close(); });
-    if (!ServerLocaleRisponde())
+    if (!ServerLocaleRisponde()) {
         return false;
-    if (ApriDatabaseTemp())
+    }
+    if (ApriDatabaseTemp()) {
         return true;
+    }
     CreaDatabaseControllo();
     return ServerLocaleRisponde() && ApriDatabaseTemp();
 }

@@ -1,7 +1,7 @@
 #pragma once
 
-// The pointer files of the workstation, and the connection texts made of them. Nothing is kept from one call to the
-// next: a file changed on the disk counts at the next use.
+// The pointer files of the workstation, and the connection texts made of them. Each call reads the files anew, so a
+// changed file takes effect at the next call.
 
 #include <string>
 
@@ -10,31 +10,31 @@ namespace vabo {
 /// The text that reaches the server, without a database; leaves the server's name in NomeServer. A pointer file that
 /// can't be read raises platform::FileError.
 std::string LeggiConnessioneServer();
-/// The same for the control database and for the database NomeDatabase. They raise alike.
+/// The same text with the control database, and with the database NomeDatabase. Raise the same error.
 std::string ConnessioneControllo();
 std::string ConnessioneAzienda();
 
-/// The text that reaches the local instance. Where its file can't be read, the default text, which is written to
-/// another file, never to the one that was looked for. Never raises.
+/// The text that reaches the local instance, from Leggi_ServerLocal.txt. Where that can't be read, the default text,
+/// which is also written to IndirizzoServerLocal.txt (not to the file that was read). Raises nothing.
 std::string Leggi_ServerLocal();
-/// The local instance's name. Where its file can't be read both local files are written, and this call still answers
-/// with the bare terminal name. Never raises.
+/// The local instance's name. Where its file can't be read, both local files are written with the default name, but
+/// this call still returns the bare terminal name. Raises nothing.
 std::string LeggiNomeServerLocal();
-/// A local text for that server: user and password under their local keys, both empty.
+/// The connection text for a local server, with its keys "ID utente" and "Password" empty.
 std::string StringaServerLocale(const std::string& server);
 
-/// Pieces of the server text, key included; empty where the user is empty, or the text ends with a semicolon.
-/// They overwrite Appoggio and SqlLavoro.
+/// User and password of the server text, each with its key. The user is empty where its value is; the password is empty
+/// where the whole text ends with a semicolon. They overwrite Appoggio and SqlLavoro.
 std::string LeggiUtenteServer();
 std::string LeggiPasswordServer();
 
 /// Opens DbTemp, creating what is missing on the local instance once. False when it can't be opened.
 bool ApriDbTemp();
 
-/// The file holds that one line afterwards. Raises platform::FileError.
+/// Replaces the file by that one line. Raises platform::FileError.
 void ScriviFileTesto(const std::string& percorso, const std::string& testo);
 
-/// Town of the branch, its number in IdSede and IdSedeCopia. Empty where it can't be read.
+/// The town of the branch, empty where it can't be read. Puts the branch's number into IdSede and IdSedeCopia.
 std::string LeggiSede();
 
 } // namespace vabo

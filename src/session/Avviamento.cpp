@@ -51,8 +51,9 @@ void RiconosciDornavel() {
 }
 
 void ApriSedeDiAvvio() {
-    if (ServerMancante != kFalso)
+    if (ServerMancante != kFalso) {
         return;
+    }
     salta([] { DbAzienda.Open(ConnessioneAzienda()); });
     IndirizzoVabodatiCopia = IndirizzoVabodati;
     LeggiSede();
@@ -74,8 +75,9 @@ bool ServeLogin() {
     ado::Recordset& rs = RsCondivisi(2);
     salta([&] { ApriScrivibile(rs, "AbilitazioneAccessi", DbAzienda); });
     const bool nessuno = vera([&] { return rs.EOF(); });
-    if (nessuno)
+    if (nessuno) {
         DirittiUtente = kDirittiAvvioSenzaUtenti;
+    }
     ChiudiRecordset();
     return !nessuno;
 }

@@ -1,7 +1,7 @@
 #pragma once
 
-// What the start form does besides showing itself: first it finds and takes up a company, then it prepares the server
-// and decides between login and console. Failing statements are skipped.
+// What the start form does besides showing itself: it finds and takes up a company, prepares the server and decides
+// between login and console. Failing statements are skipped.
 
 #include <string>
 
@@ -12,22 +12,23 @@ std::string TestoVersione();
 /// "DataBase :   " and the company's name.
 std::string TestoDatabase();
 
-/// Machine name, company of the terminal, the company taken up. Without server or pointer files, a box and the end.
+/// Reads the machine's name and takes up the terminal's company. Without a server or pointer files a box appears and
+/// the process ends.
 void PrendiAziendaDelTerminale();
 
-/// Sets ClienteDornavel by the company's name; capitals don't count as the word.
+/// Sets ClienteDornavel where the company's name holds the word, which is compared case-sensitively.
 void RiconosciDornavel();
 
 /// Opens the company once more and reads its branch, unless the server was found missing.
 void ApriSedeDiAvvio();
 
-/// Reads the language of the client, again wherever the temporary database may just have been made.
+/// Reads the language of the client. Called again after each step that may create the temporary database.
 void PrendiLingua();
 
-/// Server options, data file of the company, temporary database, in this order.
+/// Sets the server's options, reads where the company's data file is and opens the temporary database, in this order.
 void PreparaServer();
 
-/// Whether anybody has to log in. An empty or unreadable table of users gives the rights of a start without login.
+/// Whether the login form is needed. An empty or unreadable table of users sets the rights of a start without login.
 bool ServeLogin();
 
 } // namespace vabo

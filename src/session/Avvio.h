@@ -10,8 +10,8 @@ class Avvio;
 
 namespace vabo {
 
-/// The start: finds and opens the company while a small window says so, prepares the server, then gives way to the
-/// login or, where there are no users, to the company console. It stays loaded, hidden, as long as the program runs.
+/// The start: a small window while the company is opened and the server prepared. It then hides and opens the login or,
+/// where there are no users, the company console. It stays loaded as long as the program runs.
 class Avvio : public controls::Form {
     Q_OBJECT
 public:

@@ -22,8 +22,9 @@ constexpr const char* kElencoAziende =
     "from link_programma Order by id";
 
 void RiapriDbLocale() {
-    if (!DbLocale)
+    if (!DbLocale) {
         DbLocale = std::make_unique<ado::Connection>();
+    }
     salta([] { DbLocale->Close(); });
     salta([] { DbLocale->Open(StringaLocale); });
 }
@@ -80,8 +81,9 @@ void Avvio_Azienda::CaricaElenco() {
 }
 
 void Avvio_Azienda::ScegliAzienda(int area) {
-    if (area != controls::DataCombo::List)
+    if (area != controls::DataCombo::List) {
         return;
+    }
     IdAziendaScelta = ado::toDouble(ui_->DataCombo1->BoundText());
     ApriAzienda(IdAziendaScelta);
     LeggiSede();
@@ -93,8 +95,9 @@ void Avvio_Azienda::ScegliAzienda(int area) {
 
 void Avvio_Azienda::ApriUtenti() {
     if (Permesso(DirittiUtente.Administrator, "Utente non abilitato! Contattare l'amministratore di sistema") &&
-        ApriForm("Login", true))
+        ApriForm("Login", true)) {
         UnloadMe();
+    }
 }
 
 void Avvio_Azienda::MostraAziendaAperta() {

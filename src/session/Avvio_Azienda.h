@@ -10,8 +10,8 @@ class Avvio_Azienda;
 
 namespace vabo {
 
-/// The hub of the console: the list of companies and the three ways on. It is the bottom of the form stack; each of its
-/// Loads takes up the company anew.
+/// The company console: the list of companies and the three buttons that lead to other forms. It is the bottom of the
+/// form stack. Each Load takes up the company anew.
 class Avvio_Azienda : public controls::Form {
     Q_OBJECT
 public:

@@ -17,12 +17,13 @@ std::string RigaAzienda(double numero) {
     return std::string("Select * from link_programma ") + " where  " + " id = " + ado::plainNumber(numero);
 }
 
-/// The number of the first row, where it isn't empty.
+/// Sets IdAziendaLavoro to the number in the first row, where it isn't empty.
 void PrendiNumero(const std::string& testo, const char* colonna) {
     ado::Recordset rs;
     ApriScrivibile(rs, testo, DbControllo);
-    if (!rs.EOF() && !IsEmptyValue(rs[colonna]))
+    if (!rs.EOF() && !IsEmptyValue(rs[colonna])) {
         IdAziendaLavoro = ado::toDouble(rs[colonna]);
+    }
     rs.Close();
 }
 
@@ -32,8 +33,9 @@ std::int32_t CercaAziendaTerminale() {
     PrendiNumero(std::string("Select * from link_programmaTerminale") + " where  " + " Nometerminale like '" +
                      NomeTerminale + "'",
                  "Ultimo");
-    if (IsEmptyValue(IdAziendaLavoro))
+    if (IsEmptyValue(IdAziendaLavoro)) {
         PrendiNumero(std::string("Select * from link_programma ") + " order by dbname  ", "id");
+    }
     IdAzienda = IdAziendaLavoro;
     const std::int32_t numero = ado::toLong(IdAziendaLavoro);
     DbControllo.Close();
@@ -44,7 +46,7 @@ void LeggiNumero(ado::Recordset& rs, const char* colonna, double& numero) {
     salta([&] { numero = ado::toDouble(rs[colonna]); });
 }
 
-/// No number is held: the terminal's row gives it, or else the lowest company.
+/// IdAziendaLavoro is empty: takes the number from the terminal's row, or else the lowest company.
 void CercaUltima(ado::Recordset& rs) {
     salta([&] {
         ApriScrivibile(rs,
@@ -63,10 +65,11 @@ void CercaUltima(ado::Recordset& rs) {
         LeggiNumero(rs, "Ultimo", IdAzienda);
     }
     salta([&] { rs.Close(); });
-    if (!IsEmptyValue(IdAziendaLavoro))
+    if (!IsEmptyValue(IdAziendaLavoro)) {
         salta([&] { ApriScrivibile(rs, RigaAzienda(IdAziendaLavoro), DbControllo); });
-    else
+    } else {
         salta([&] { ApriScrivibile(rs, RigaAzienda(PrimaAziendaSuServer()), DbControllo); });
+    }
     LeggiNumero(rs, "id", IdAzienda);
 }
 
@@ -79,8 +82,9 @@ std::string PrimoDatabaseAzienda() {
         rs.Open("SELECT * FROM master.dbo.sysdatabases where name like 'vabodati%' and not name like '%azienda%'",
                 server);
     });
-    if (vera([&] { return !rs.EOF(); }))
+    if (vera([&] { return !rs.EOF(); })) {
         salta([&] { nome = ado::toText(rs["NAME"]); });
+    }
     salta([&] { rs.Close(); });
     salta([&] { server.Close(); });
     return nome;
@@ -88,7 +92,7 @@ std::string PrimoDatabaseAzienda() {
 
 } // namespace
 
-// The error's own description, then the end of the process.
+// An error is shown with its own description and ends the process.
 std::int32_t AziendaTerminale() {
     if (IsEmptyValue(NomeTerminale)) {
         platform::dialogs().message("Carica Nome PC");
@@ -130,8 +134,9 @@ std::int32_t PrimaAziendaSuServer() {
     std::int32_t numero = 0;
     ado::Recordset rs;
     salta([&] { ApriScrivibile(rs, "Select * from link_programma where  dbname='" + nome + "'", DbControllo); });
-    if (vera([&] { return !rs.EOF(); }))
+    if (vera([&] { return !rs.EOF(); })) {
         salta([&] { numero = ado::toLong(rs["id"]); });
+    }
     salta([&] { rs.Close(); });
     return numero;
 }
@@ -142,7 +147,7 @@ void CancellaTerminaliVuoti() {
     });
 }
 
-// Without a rule of its own.
+// No failure rule here: errors reach the caller.
 bool EsisteDatabase() {
     ado::Connection server;
     server.Open(LeggiConnessioneServer());
@@ -154,7 +159,7 @@ bool EsisteDatabase() {
     return esiste;
 }
 
-// An error leaves the procedure with what stands.
+// An error ends the procedure; what was set before it stays.
 bool LeggiIndirizzoMdf() {
     IndirizzoMdf.clear();
     bool riga = false;
@@ -164,10 +169,12 @@ bool LeggiIndirizzoMdf() {
         ado::Recordset rs;
         rs.Open("Select * from link_programma where dbname like '" + NomeDatabase + "'", controllo,
                 ado::CursorType::Keyset, ado::LockType::Optimistic);
-        if (rs.EOF())
+        if (rs.EOF()) {
             return;
-        if (!IsEmptyValue(rs["IndirizzoMdf"]))
+        }
+        if (!IsEmptyValue(rs["IndirizzoMdf"])) {
             IndirizzoMdf = ado::toText(rs["IndirizzoMdf"]);
+        }
         riga = true;
     });
     return riga;

@@ -7,24 +7,26 @@
 
 namespace vabo {
 
-/// The company of this workstation at start; by default the first by the name of its database. Zero, told in a box,
-/// without a machine name. Any failure is shown and ends the process: it is the first contact with the server.
+/// The company of this workstation at the start; where it has none, the first by the name of its database. Without a
+/// machine name a box and zero. Any other failure is shown and ends the process, since this is the first contact with
+/// the server.
 std::int32_t AziendaTerminale();
 
-/// The company of this workstation, or what IdAziendaLavoro already holds; by default the lowest number. Never raises.
+/// The company in IdAziendaLavoro; where that is empty, the one of this workstation; where there is none, the lowest
+/// number. Raises nothing.
 std::int32_t UltimaAziendaTerminale();
 
-/// The number of the first company database of the server, zero where there is none. Leaves DbControllo open. Never
-/// raises.
+/// The number of the first company database of the server, zero where there is none. Leaves DbControllo open. Raises
+/// nothing.
 std::int32_t PrimaAziendaSuServer();
 
-/// Drops the rows of terminals without a name. Never raises.
+/// Deletes the rows of terminals without a name. Raises nothing.
 void CancellaTerminaliVuoti();
 
 /// Whether the server has NomeDatabase. Raises ado::Error and platform::FileError.
 bool EsisteDatabase();
 
-/// Fills IndirizzoMdf for NomeDatabase; whether the company has a row. Never raises.
+/// Sets IndirizzoMdf for NomeDatabase. Returns whether the company has a row. Raises nothing.
 bool LeggiIndirizzoMdf();
 
 } // namespace vabo

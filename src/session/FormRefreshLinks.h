@@ -10,7 +10,7 @@ class Avvio;
 
 namespace vabo {
 
-/// What is seen while the linked tables are pointed at another company; it looks like the start form.
+/// Shown while the linked tables are set to another company; it looks like the start form.
 class FormRefreshLinks : public controls::Form {
     Q_OBJECT
 public:

@@ -29,8 +29,9 @@ void AggiungiRiga(ado::Recordset& rs, const std::string& lingua, std::string& ri
     salta([&] { rs.AddNew(); });
     salta([&] { rs["id"] = 1; });
     salta([&] { rs["lingua"] = "IT"; });
-    if (!IsEmptyValue(lingua))
+    if (!IsEmptyValue(lingua)) {
         salta([&] { rs["lingua"] = lingua; });
+    }
     salta([&] { rs.Update(); });
     PrendiColonna(rs, risultato);
 }
@@ -46,18 +47,20 @@ void CambiaRiga(ado::Recordset& rs, const std::string& lingua, std::string& risu
 // Failing statements are skipped.
 std::string LeggiLinguaClient(const std::string& lingua) {
     std::string risultato = "IT";
-    if (!IsEmptyValue(lingua) && !CodiceValido(lingua))
+    if (!IsEmptyValue(lingua) && !CodiceValido(lingua)) {
         return risultato;
+    }
     salta([] { ApriDbTemp(); });
     salta([] { DbTemp.Execute("Create table LinguaClient (id int null, Lingua Nvarchar(2) Null )"); });
     ado::Recordset& rs = RsCondivisi(2);
     salta([&] { ApriScrivibile(rs, "select * from LinguaClient where id = 1", DbTemp); });
-    if (vera([&] { return rs.EOF(); }))
+    if (vera([&] { return rs.EOF(); })) {
         AggiungiRiga(rs, lingua, risultato);
-    else if (!IsEmptyValue(lingua))
+    } else if (!IsEmptyValue(lingua)) {
         CambiaRiga(rs, lingua, risultato);
-    else if (vera([&] { return !IsEmptyValue(rs["Lingua"]); }))
+    } else if (vera([&] { return !IsEmptyValue(rs["Lingua"]); })) {
         PrendiColonna(rs, risultato);
+    }
     RilasciaRecordset(2);
     LinguaCorrente = risultato;
     return risultato;

@@ -19,26 +19,29 @@ namespace {
 
 std::string IstruzioneLogin(const std::string& utente, const std::string& password) {
     std::string testo = std::string("select * from AbilitazioneAccessi") + " where " + " NomeUtente = '" + utente + "'";
-    if (!IsEmptyValue(password))
+    if (!IsEmptyValue(password)) {
         testo += std::string(" and ") + " PaswUtente = '" + password + "'";
+    }
     return testo;
 }
 
-/// A null is not true.
+/// False for null.
 bool Vero(const ado::Value& valore) {
     return !valore.isNull() && ado::toBoolean(valore);
 }
 
 EsitoLogin ControllaRiga(ado::Recordset& rs, const std::string& password, double& IdUtenteNuovo) {
     if (IsEmptyValue(password)) {
-        if (!IsEmptyValue(rs["PaswUtente"]))
+        if (!IsEmptyValue(rs["PaswUtente"])) {
             return EsitoLogin::Rifiutato;
+        }
         IdUtenteNuovo = ado::toDouble(rs["IdAutonumber"]);
         return EsitoLogin::PrimaPassword;
     }
-    // The server's comparison is looser in case and trailing blanks.
-    if (Pezzo(rs["PaswUtente"]) != password)
+    // Compared again here: the server ignores case and trailing blanks.
+    if (Pezzo(rs["PaswUtente"]) != password) {
         return EsitoLogin::Rifiutato;
+    }
     return Vero(rs["Disabilita"]) ? EsitoLogin::Disabilitato : EsitoLogin::Riconosciuto;
 }
 
@@ -48,13 +51,14 @@ void PreparaLogin() {
     DirittiUtente = kDirittiPrimaDelLogin;
     NomeTerminale = platform::workstation().machineName;
     const std::string percorso = "C:\\Vabo\\IndirizzoServerLocal.txt";
-    if (vera([&] { return !platform::workstation().driveC.exists(percorso); }))
+    if (vera([&] { return !platform::workstation().driveC.exists(percorso); })) {
         salta([&] { ScriviFileTesto(percorso, StringaServerLocale(LeggiNomeServerLocal())); });
+    }
     IdAziendaScelta = 0;
     ApriAzienda(IdAziendaScelta);
 }
 
-// Any failure is the answer.
+// Any failure means no.
 bool ServerRisponde() {
     const bool risponde = !IsEmptyValue(StringaAzienda) && riesce([] {
         ado::Connection prova;
@@ -78,15 +82,16 @@ bool LoginSenzaUtenti() {
     ado::Recordset& rs = RsCondivisi(2);
     salta([&] { rs.Open("AbilitazioneAccessi", DbAzienda, ado::CursorType::Dynamic, ado::LockType::ReadOnly); });
     const bool nessuno = vera([&] { return rs.EOF(); });
-    if (nessuno)
+    if (nessuno) {
         DirittiUtente = kDirittiLoginSenzaUtenti;
-    else
+    } else {
         TentativiLogin = 0;
+    }
     ChiudiRecordset();
     return nessuno;
 }
 
-// Blanks are underscores by then: there is none left to trim.
+// No trimming: PulisciNome has made underscores of the blanks.
 std::string Normalizzato(const std::string& testo) {
     std::string pulito = testo;
     return Minuscolo(PulisciNome(pulito));
@@ -119,16 +124,18 @@ bool ContaTentativo() {
     ChiudiRecordset();
     TentativiLogin += 1;
     platform::dialogs().message("User not allowed! ");
-    if (TentativiLogin < 4)
+    if (TentativiLogin < 4) {
         return false;
+    }
     platform::dialogs().message("It is no more possible to try! ");
     return true;
 }
 
 // Without a rule of its own.
 void SalvaPrimaPassword(double& IdUtenteNuovo, const std::string& password) {
-    if (IsEmptyValue(IdUtenteNuovo))
+    if (IsEmptyValue(IdUtenteNuovo)) {
         return;
+    }
     Sql = std::string("update AbilitazioneAccessi") + " set PaswUtente = '" + Minuscolo(password) + "'" +
           " where idautonumber =  " + ado::plainNumber(IdUtenteNuovo);
     DbAzienda.Execute(Sql);

@@ -1,47 +1,51 @@
 #pragma once
 
-// The login without its screen: what its Load prepares, and what it makes of a name and a password.
+// The rules of the login, without its form: what Load prepares, and how a name and a password are checked.
 
 #include <string>
 
 namespace vabo {
 
-/// The rights of nobody, the machine's name, the local pointer file where it is missing, the terminal's company.
+/// Sets the rights of a user who isn't logged in, reads the machine's name, writes the local pointer file where it is
+/// missing, and takes up the terminal's company.
 void PreparaLogin();
 
-/// Whether StringaAzienda can be opened; sets ServerMancante.
+/// Whether StringaAzienda can be opened. Sets ServerMancante to the opposite.
 bool ServerRisponde();
 
-/// DbAzienda, the data folder and the branch. Failing statements are skipped.
+/// Opens DbAzienda, reads the data folder and the branch. Failing statements are skipped.
 void ApriDatiLogin();
 
-/// Whether the table of users is empty or can't be read; then everything is allowed.
+/// Whether the table of users is empty or can't be read. Then all rights are set, otherwise the failed attempts are set
+/// to zero.
 bool LoginSenzaUtenti();
 
-/// A name or password as it is stored and compared: no punctuation, lower case.
+/// A name or password as it is stored and compared: lower case, underscores in the place of blanks and punctuation.
 std::string Normalizzato(const std::string& testo);
 
 enum class EsitoLogin {
     Rifiutato,     ///< counts as an attempt
-    PrimaPassword, ///< the user has none yet
+    PrimaPassword, ///< the user has no password yet
     Disabilitato,
     Riconosciuto
 };
 
-/// Checks normalised texts against the table of users. With PrimaPassword, `IdUtenteNuovo` takes the user's number.
-/// Errors of the database rise.
+/// Checks normalised texts against the table of users. With PrimaPassword, `IdUtenteNuovo` is set to the user's number.
+/// Raises ado::Error.
 EsitoLogin ControllaLogin(const std::string& utente, const std::string& password, double& IdUtenteNuovo);
 
-/// Loads the rights of a user just recognised and notes who came in.
+/// Loads the rights of a recognised user, sets the failed attempts to zero and NomeUtenteLogin to the name.
 void EntraUtente(const std::string& utente, const std::string& password);
 
-/// The same behind a first password, which is stored before. No attempt is cleared and nobody is noted on this road.
+/// Stores a first password and loads the user's rights. Unlike EntraUtente it leaves the failed attempts and
+/// NomeUtenteLogin as they are.
 void EntraConPrimaPassword(double& IdUtenteNuovo, const std::string& utente, const std::string& password);
 
-/// Counts a failure and tells it. True after the fourth: the login form has to go.
+/// Counts a failed attempt and shows a box. True from the fourth on: the login form has to close.
 bool ContaTentativo();
 
-/// Stores the first password of that user, whose number becomes zero; nothing for nobody. Errors of the database rise.
+/// Stores the first password of that user and sets the number to zero. Does nothing where the number is empty. Raises
+/// ado::Error.
 void SalvaPrimaPassword(double& IdUtenteNuovo, const std::string& password);
 
 } // namespace vabo

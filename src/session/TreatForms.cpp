@@ -21,12 +21,12 @@ Q_LOGGING_CATEGORY(kForme, "vabo.forms", QtWarningMsg)
 constexpr const char* kConsole = "Avvio_Azienda";
 
 struct RigaForm {
-    std::string_view nome; ///< asked for, letter for letter
+    std::string_view nome; ///< as the asker gives it, compared letter for letter
     std::string_view form;
     bool siRiattiva;
 };
 
-// The server folder dialog answers to two names, and only to the first when it is to come back.
+// Two names open the server folder dialog; only under the first it is shown again when the form above it closes.
 constexpr std::array<RigaForm, 15> kForm = {{
     {"caricasedecentrale", "caricasedecentrale", true},
     {"CondizioniPagamento", "CondizioniPagamento", true},
@@ -93,8 +93,9 @@ bool ApriForm(const std::string& nome, bool ricorda) {
         CimaForm = 0;
         PilaForm = {nome};
     }
-    if (MostraForm(nome))
+    if (MostraForm(nome)) {
         return true;
+    }
     qCInfo(kForme).noquote() << "no such form:" << QString::fromStdString(nome);
     CimaForm = cima;
     PilaForm = pila;
@@ -109,13 +110,14 @@ void ApriDa(const std::string& form, const std::string& nome) {
 
 void ChiudiForm() {
     CimaForm -= 1;
-    if (CimaForm < 0 || IsEmptyValue(CimaForm))
+    if (CimaForm < 0 || IsEmptyValue(CimaForm)) {
         CimaForm = 0;
+    }
     RidimensionaPila();
     RiattivaForm(NomeInCima());
 }
 
-// The top alone is looked at, whatever lies under it.
+// Looks at the top only; the form may also be further down.
 bool FormInCima(const std::string& nome) {
     Appoggio = NomeInCima();
     return Minuscolo(Appoggio) == Minuscolo(nome);

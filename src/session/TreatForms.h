@@ -1,7 +1,7 @@
 #pragma once
 
-// Navigation from form to form, by name: what is opened goes on a stack (PilaForm, CimaForm), what closes gives way to
-// the one below. The company console is the bottom.
+// Navigation from form to form, by name. A form that is opened goes on a stack (PilaForm, CimaForm); when it closes,
+// the one below is shown again. The company console is the bottom.
 
 #include <string>
 
@@ -11,17 +11,17 @@ namespace vabo {
 /// False where the form doesn't exist; then the stack is as it was.
 bool ApriForm(const std::string& nome, bool ricorda);
 
-/// A form's command that leads to another, which is remembered: where that one exists the first is hidden, and else it
-/// stays, so that nobody is left before an empty screen.
+/// Opens another form, which goes on the stack, and hides the one that asks for it. Where the other doesn't exist, the
+/// asking form stays visible, since there would be no window left.
 void ApriDa(const std::string& form, const std::string& nome);
 
-/// For the Unload of every form that was opened: the one below comes back.
+/// Takes a form off the stack and shows the one below. To be called in the Unload of every form that is opened.
 void ChiudiForm();
 
 /// Whether that form is on top of the stack, whatever its case. Leaves the top's name in Appoggio.
 bool FormInCima(const std::string& nome);
 
-/// The stack of a console just loaded: the console alone.
+/// Sets the stack to the company console alone, as it is when the console is loaded.
 void AzzeraPilaForm();
 
 } // namespace vabo

@@ -22,8 +22,9 @@ double CimaForm;
 
 ado::Recordset& RecordsetCondivisi::operator()(int posto) {
     std::unique_ptr<ado::Recordset>& rs = elenco_.at(static_cast<std::size_t>(posto - 1));
-    if (!rs)
+    if (!rs) {
         rs = std::make_unique<ado::Recordset>();
+    }
     return *rs;
 }
 

@@ -1,7 +1,7 @@
 #pragma once
 
-// All global state of the console, for the life of the process. Zero or empty at its start. It knows the data layer
-// alone, so that the kit and all modules can share it.
+// The global state of the console: zero or empty at the start, kept for the life of the process. It includes headers of
+// the data layer only, so that the kit and all modules can include it.
 
 #include "ado/Connection.h"
 #include "ado/Recordset.h"
@@ -37,13 +37,13 @@ struct Diritti {
     bool operator==(const Diritti&) const = default;
 };
 
-/// 23 recordsets that forms borrow for one operation; ChiudiRecordset takes them all back.
+/// 23 recordsets that forms use for one operation each; ChiudiRecordset closes and drops them all.
 class RecordsetCondivisi {
 public:
     static constexpr int kNumero = 23;
-    /// Made on first use. Places count from 1.
+    /// Created on first use. Places count from 1.
     ado::Recordset& operator()(int posto);
-    /// Takes it out, or nothing where none was made: the next use makes a new one.
+    /// Removes and returns it; null where it hasn't been created. The next use creates a new one.
     std::unique_ptr<ado::Recordset> Ritira(int posto);
 
 private:
@@ -51,7 +51,7 @@ private:
 };
 
 extern ado::Connection DbAzienda, DbControllo, DbTemp;
-/// Made on first use, dropped by ChiudiRecordset.
+/// Created on first use, dropped by ChiudiRecordset.
 extern std::unique_ptr<ado::Connection> DbLocale;
 extern RecordsetCondivisi RsCondivisi;
 

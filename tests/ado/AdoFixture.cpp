@@ -24,8 +24,9 @@ std::vector<std::string> Contract::rowsOf(const std::string& statement) {
     rs.Open(statement, connection);
     for (; !rs.EOF(); rs.MoveNext()) {
         std::string row;
-        for (int i = 0; i < rs.FieldCount(); ++i)
+        for (int i = 0; i < rs.FieldCount(); ++i) {
             row += (i == 0 ? "" : "|") + display(rs[i]);
+        }
         rows.push_back(row);
     }
     return rows;

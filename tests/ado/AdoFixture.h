@@ -12,13 +12,13 @@
 
 namespace ado::test {
 
-/// What every road owes: a connection to a fresh server with a table of four towns and a table of one column for each
-/// type.
+/// The contract of every driver: a connection to a new server with a table of four towns and a table with one column of
+/// each type.
 class Contract : public ::testing::Test {
 protected:
     void SetUp() override;
 
-    /// The rows of a statement as texts, fields divided by "|", null as "-".
+    /// The rows of a statement as texts: fields separated by "|", null as "-".
     std::vector<std::string> rowsOf(const std::string& statement);
     std::string cell(const std::string& statement);
 

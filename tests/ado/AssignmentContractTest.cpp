@@ -16,13 +16,13 @@ class Assigning : public Contract {};
 struct Assignment {
     const char* column;
     Value value;
-    std::optional<Value> kept; ///< nothing: refused
+    std::optional<Value> kept; ///< nothing where the value is refused
 };
 
 const std::optional<Value> kRefused;
 
 const Assignment kAssignments[] = {
-    // Texts go by the regional settings.
+    // Texts are read by the regional settings.
     {"doppio", "2,5", 2.5},
     {"doppio", "2.5", 25.0},
     {"doppio", "abc", kRefused},
@@ -42,7 +42,7 @@ const Assignment kAssignments[] = {
     {"logico", "Vero", true},
     {"logico", "0", false},
     {"logico", "forse", kRefused},
-    // Numbers round half to even and stay in their range.
+    // Numbers are rounded half to even and must be within their range.
     {"intero", 2.5, 2},
     {"intero", -1.5, -2},
     {"intero", 2147483647.4, 2147483647},
@@ -68,7 +68,7 @@ const Assignment kAssignments[] = {
     {"singolo", std::nan(""), kRefused},
     {"intero", std::nan(""), kRefused},
     {"decimale", std::nan(""), kRefused},
-    // Truth is -1 as a number, any other number than 0 as truth.
+    // true is -1 as a number; any number but 0 is true.
     {"logico", 2, true},
     {"logico", -1, true},
     {"logico", 0.0, false},
@@ -76,13 +76,13 @@ const Assignment kAssignments[] = {
     {"intero", false, 0},
     {"doppio", true, -1.0},
     {"ottetto", true, kRefused},
-    // Dates are numbers of days, within the server's centuries.
+    // Dates convert to numbers of days; they must be within the server's range.
     {"doppio", Date::of(1900, 1, 1, 12), 2.5},
     {"data", 38053.5, Date::of(2004, 3, 7, 12)},
     {"data", Date::of(1752, 12, 31), kRefused},
     {"data", Date::of(1753, 1, 1), Date::of(1753, 1, 1)},
     {"testo", Date::of(2004, 3, 7), "07/03/2004"},
-    // Texts have a length in characters; an excess of blanks is cut.
+    // The length of a text counts in characters; blanks beyond it are cut.
     {"testo", "dieci aaaa", "dieci aaaa"},
     {"testo", "undici aaaa", kRefused},
     {"testo", "perchéàèìò", "perchéàèìò"},
@@ -96,7 +96,7 @@ const Assignment kAssignments[] = {
     {"stretto", "undici aaaa", kRefused},
     {"fisso", "abcd", kRefused},
     {"fisso", "abc", "abc"},
-    // Null goes in everywhere, and what was never set is null.
+    // Every column accepts null, and an empty value is stored as null.
     {"intero", Null{}, Null{}},
     {"testo", Null{}, Null{}},
     {"data", Value(), Null{}},

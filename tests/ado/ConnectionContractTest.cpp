@@ -49,18 +49,20 @@ TEST_F(ConnectionContract, ExecuteGivesTheRowsWritten) {
 TEST_F(ConnectionContract, ABatchWithNothingToDoIsAnsweredAtOnce) {
     for (const char* text :
          {"IF NOT EXISTS (SELECT name FROM master.dbo.sysdatabases WHERE name = N'Vabodati') CREATE DATABASE Vabodati",
-          "-- nothing", ";"})
+          "-- nothing", ";"}) {
         EXPECT_EQ(connection.Execute(text), 0) << text;
+    }
 }
 
 TEST_F(ConnectionContract, NoStatementIsCutAtACharacterOfNoValue) {
     using namespace std::string_literals;
     EXPECT_TRUE(raises(kSyntaxOrColumn, [&] { connection.Execute("update Comuni set cap = '9'\0 where id = 1"s); }));
     const auto write = [&] { connection.Execute("update Comuni set cap = '8' where nome <> 'a\0b'"s); };
-    if (support::capabilities().nulInTexts)
+    if (support::capabilities().nulInTexts) {
         EXPECT_NO_THROW(write());
-    else
+    } else {
         EXPECT_TRUE(raises(kSyntaxOrColumn, write));
+    }
     EXPECT_EQ(cell("select count(*) from Comuni where cap = '9'"), "0");
 }
 

@@ -22,10 +22,11 @@ TEST_P(NumberTexts, ReadByItalianSettings) {
     const auto& [text, number] = GetParam();
     EXPECT_EQ(parseNumber(text), number) << text;
     EXPECT_EQ(isNumeric(text), number.has_value()) << text;
-    if (number)
+    if (number) {
         EXPECT_EQ(toDouble(text), *number) << text;
-    else
+    } else {
         EXPECT_TRUE(raises(kTypeMismatch, [&, t = text] { toDouble(t); })) << text;
+    }
 }
 
 INSTANTIATE_TEST_SUITE_P(Table, NumberTexts,

@@ -23,10 +23,11 @@ TEST_P(DateTexts, ReadByItalianSettings) {
     const auto& [text, date] = GetParam();
     EXPECT_EQ(parseDate(text), date) << text;
     EXPECT_EQ(isDate(text), date.has_value()) << text;
-    if (date)
+    if (date) {
         EXPECT_EQ(toDate(text), *date) << text;
-    else
+    } else {
         EXPECT_TRUE(raises(kTypeMismatch, [&, t = text] { toDate(t); })) << text;
+    }
 }
 
 std::optional<Date> day(int year, int month, int dayOfMonth) {

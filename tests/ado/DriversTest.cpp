@@ -3,7 +3,7 @@
 #include "ado/Connection.h"
 #include "ado/ConnectionString.h"
 #include "ado/ExpectError.h"
-#include "engine/Instance.h"
+#include "engine/store/Instance.h"
 #include "support/TemporaryFolder.h"
 
 #include <filesystem>
@@ -40,8 +40,9 @@ TEST_F(Drivers, AServerWithAFolderIsTheEmbeddedOne) {
 }
 
 TEST_F(Drivers, AnyOtherServerGoesOverTheNetwork) {
-    for (const char* text : {"Server=ALTRA", "Server=", "", "DATABase=x", "Server=SEDE", "Server=SEDE\\sqlexpress2"})
+    for (const char* text : {"Server=ALTRA", "Server=", "", "DATABase=x", "Server=SEDE", "Server=SEDE\\sqlexpress2"}) {
         EXPECT_EQ(driverOf(text), "odbc") << text;
+    }
 }
 
 TEST_F(Drivers, AServerThatIsNotThereIsOutOfReach) {
@@ -79,8 +80,9 @@ TEST_F(Drivers, AnUnknownKindOfSecurityIsRefused) {
     EXPECT_TRUE(raises(kMultipleStep, [] {
         driverOf("Provider=SQLOLEDB;Data Source=SEDE\\sqlexpress;Integrated Security=SSPIDATABase=vabodati");
     }));
-    for (const char* known : {"SSPI", "sspi", "true", "Yes", "false", "no"})
+    for (const char* known : {"SSPI", "sspi", "true", "Yes", "false", "no"}) {
         EXPECT_EQ(driverOf(std::string("Server=SEDE\\sqlexpress;Integrated Security=") + known), "embedded");
+    }
 }
 
 TEST_F(Drivers, WithoutAHomeThereIsNoEmbeddedServer) {

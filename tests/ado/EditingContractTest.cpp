@@ -111,7 +111,7 @@ TEST_F(Editing, EveryTypeIsWrittenSoThatItReadsBack) {
               "[stretto], [testo]) VALUES (0, 255, -32768, -9000000000, 0.1, -0.05, -0.0005, CONVERT(DATETIME, "
               "'2004-03-07 08:05:09.000', 121), 'a''b', N'perché ''sì''')"});
     recorder.clear();
-    // All values are the key here: each must find itself again.
+    // All values are the key here: the statement must find the row by each of them.
     rs["ottetto"] = 7;
     rs.Update();
     ASSERT_EQ(recorder.texts().size(), 1U);

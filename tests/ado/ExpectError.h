@@ -20,11 +20,13 @@ inline std::optional<Error> errorOf(const std::function<void()>& work) {
 
 inline ::testing::AssertionResult raises(int number, const std::function<void()>& work) {
     const auto error = errorOf(work);
-    if (!error)
+    if (!error) {
         return ::testing::AssertionFailure() << "nothing was raised, expected " << number;
-    if (error->number() != number)
+    }
+    if (error->number() != number) {
         return ::testing::AssertionFailure()
                << "raised " << error->number() << " \"" << error->description() << "\", expected " << number;
+    }
     return ::testing::AssertionSuccess();
 }
 

@@ -20,7 +20,7 @@ FieldDescription field(const char* name, FieldType type) {
     return description;
 }
 
-/// Five rows, told by the letters of the field `riga`.
+/// Five rows, identified by the letter in the field `riga`.
 class Rows {
 public:
     Rows()
@@ -41,8 +41,9 @@ public:
         const FilterExpression expression(filter, fields);
         std::string letters;
         for (std::size_t row = 0; row < store.rows(); ++row) {
-            if (expression.admits(store, row))
+            if (expression.admits(store, row)) {
                 letters += store.text(row, 0);
+            }
         }
         return letters;
     }

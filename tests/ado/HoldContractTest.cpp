@@ -149,8 +149,9 @@ TEST_F(Holding, BindsOtherProcessesAndEndsWithTheirs) {
     expectRefused([&] { connection.Execute("update Comuni set abitanti = 6 where id = 1"); });
     helper.kill();
     const auto write = [&] { connection.Execute("update Comuni set abitanti = 7 where id = 1"); };
-    for (int tries = 0; !support::capabilities().holdEndsAtOnceWithItsProcess && tries < 10000 && errorOf(write);)
+    for (int tries = 0; !support::capabilities().holdEndsAtOnceWithItsProcess && tries < 10000 && errorOf(write);) {
         ++tries;
+    }
     write();
     EXPECT_EQ(cell("select cap, abitanti from Comuni where id = 1"), "11111|7");
 }

@@ -1,4 +1,4 @@
-// The other program of a test: it holds and writes rows of the same server as it is told, line by line.
+// The other program of a test: it holds and writes rows of the same server, following commands line by line.
 
 #include "ado/Connection.h"
 #include "ado/Drivers.h"
@@ -54,14 +54,16 @@ private:
 } // namespace
 
 int main(int argc, char** argv) {
-    if (argc != 3)
+    if (argc != 3) {
         return 2;
+    }
     const std::filesystem::path instances = argv[1];
     ado::setEmbeddedHome(
         {[instances] { return instances; }, [instances](std::string_view path) { return instances / path; }});
     Helper helper(argv[2]);
     std::cout << "ready" << std::endl;
-    for (std::string line; std::getline(std::cin, line);)
+    for (std::string line; std::getline(std::cin, line);) {
         std::cout << helper.answer(line) << std::endl;
+    }
     return 0;
 }

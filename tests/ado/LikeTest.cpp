@@ -37,8 +37,9 @@ INSTANTIATE_TEST_SUITE_P(
 
 TEST(LanguageLikeLimits, ManyWildcardsStayCheap) {
     std::string pattern;
-    for (int i = 0; i < 200; ++i)
+    for (int i = 0; i < 200; ++i) {
         pattern += "*a";
+    }
     EXPECT_FALSE(matches(std::string(5000, 'a') + "b", pattern));
 }
 

@@ -16,7 +16,7 @@ struct MoveCase {
     At state;
     void (*move)(Recordset&);
     bool error;
-    long position; ///< behind it
+    long position; ///< after the move
 };
 
 const MoveCase kMoves[] = {
@@ -58,14 +58,17 @@ TEST_F(Moving, FollowsTheTableOfStates) {
     for (const MoveCase& step : kMoves) {
         Recordset rs;
         open(rs, step.state == At::Empty ? "select * from Comuni where id = 0" : "select * from Comuni order by id");
-        if (step.state == At::Bof)
+        if (step.state == At::Bof) {
             rs.MovePrevious();
-        if (step.state == At::Eof)
+        }
+        if (step.state == At::Eof) {
             rs.Move(99);
-        if (step.error)
+        }
+        if (step.error) {
             EXPECT_TRUE(raises(kNoCurrentRecord, [&] { step.move(rs); })) << step.name;
-        else
+        } else {
             step.move(rs);
+        }
         EXPECT_EQ(rs.AbsolutePosition(), step.position) << step.name;
         EXPECT_EQ(rs.BOF(), step.position == -2 || step.position == -1) << step.name;
         EXPECT_EQ(rs.EOF(), step.position == -3 || step.position == -1) << step.name;
@@ -76,8 +79,9 @@ TEST_F(Moving, PastTheLastRowIsTheEndAndOnceMoreRaises) {
     Recordset rs;
     open(rs);
     int rows = 0;
-    for (; !rs.EOF(); rs.MoveNext())
+    for (; !rs.EOF(); rs.MoveNext()) {
         ++rows;
+    }
     EXPECT_EQ(rows, 4);
     EXPECT_TRUE(raises(kNoCurrentRecord, [&] { rs["nome"].Value(); }));
     EXPECT_TRUE(raises(kNoCurrentRecord, [&] { rs.MoveNext(); }));

@@ -1,4 +1,4 @@
-// What a program meets when the server behind the wire isn't there, goes away or falls silent.
+// What happens when the server behind the wire doesn't exist, ends or stops answering.
 
 #include "ado/Connection.h"
 #include "ado/Drivers.h"
@@ -47,7 +47,7 @@ protected:
         connection.Execute("insert into Prova (n) values (1)");
     }
 
-    test::TestServer server{support::Road::Wire};
+    test::TestServer server{support::TestedDriver::Wire};
     support::Peer& peer = server.peer();
     Connection connection;
 };
@@ -133,8 +133,8 @@ TEST_F(OdbcFailures, AServerThatEndsInTheMiddleOfAResultGivesAnError) {
         const std::string many = std::to_string(n / 2);
         connection.Execute("insert into Prova (n, t) select n + " + many + ", replicate('x', 200) from Prova");
     }
-    auto road = connection.road();
-    const auto result = road->run("select a.t, b.t, c.n from Prova a, Prova b, Prova c");
+    auto driverConnection = connection.driverConnection();
+    const auto result = driverConnection->run("select a.t, b.t, c.n from Prova a, Prova b, Prova c");
     ASSERT_TRUE(result->nextResult());
     ASSERT_TRUE(result->nextRow());
     peer.kill();
@@ -144,8 +144,8 @@ TEST_F(OdbcFailures, AServerThatEndsInTheMiddleOfAResultGivesAnError) {
     });
     ASSERT_TRUE(error);
     EXPECT_EQ(error->description(), kLinkFailure);
-    EXPECT_FALSE(road->alive());
-    road.reset();
+    EXPECT_FALSE(driverConnection->alive());
+    driverConnection.reset();
     peer.restart();
     connection.Close();
     expectWorks(connection);
@@ -154,20 +154,23 @@ TEST_F(OdbcFailures, AServerThatEndsInTheMiddleOfAResultGivesAnError) {
 TEST_F(OdbcFailures, ConnectionsKeptForLaterAreNotTrustedWhenTheirServerWasAnother) {
     fill(connection);
     Connection more[3];
-    for (Connection& one : more)
+    for (Connection& one : more) {
         one.Open(text());
-    for (Connection& one : more)
+    }
+    for (Connection& one : more) {
         one.Close();
+    }
     connection.Close();
     peer.kill();
     peer.restart();
-    for (Connection& one : more)
+    for (Connection& one : more) {
         expectWorks(one);
+    }
 }
 
 TEST_F(OdbcFailures, AHoldWhoseServerEndedIsGivenUpWithoutWaiting) {
     fill(connection);
-    auto hold = connection.road()->hold("SELECT n FROM Prova WITH (UPDLOCK, ROWLOCK) WHERE n = 1");
+    auto hold = connection.driverConnection()->hold("SELECT n FROM Prova WITH (UPDLOCK, ROWLOCK) WHERE n = 1");
     peer.kill();
     EXPECT_TRUE(errorOf([&] { hold->run("update Prova set n = 1")->nextResult(); }));
     hold.reset();
@@ -180,8 +183,9 @@ TEST_F(OdbcFailures, NamesAndPasswordsOfAnyCharactersArriveAsTheyAre) {
     for (const std::string password : {"a;b", "{a", "a}b", " a ", "a=b", "è'\"€", "PWD=x;UID=y"}) {
         server.addLogin("giulia rossi", password);
         std::string quoted;
-        for (const char c : password)
+        for (const char c : password) {
             quoted += c == '}' ? "}}" : std::string(1, c);
+        }
         std::string other = server.connectionString();
         other.replace(other.find("UID=sa;PWD=segreta"), 18, "UID=giulia rossi;PWD={" + quoted + "}");
         EXPECT_FALSE(errorOf([&] { Connection().Open(other); })) << password;
@@ -194,8 +198,9 @@ TEST(OdbcDrivers, WithoutARegisteredDriverTheRegistrySpeaks) {
         ::setenv("ODBCSYSINI", "/nonexistent", 1);
         ::setenv("ODBCINI", "/nonexistent/odbc.ini", 1);
         const auto error = errorOf([] { Connection().Open("Driver=SQL Server;Server=127.0.0.1;UID=sa;PWD=x"); });
-        if (error)
+        if (error) {
             std::fprintf(stderr, "%d %s\n", error->number(), error->description().c_str());
+        }
         std::exit(error ? 0 : 1);
     };
     EXPECT_EXIT(open(), ::testing::ExitedWithCode(0), "-2147467259 .*SQL Server");

@@ -1,4 +1,5 @@
-// How long a connection waits for what somebody else holds: told by what it sends, since no test waits for it.
+// How long a connection waits for rows that another one holds. The tests look at the statements sent instead of
+// waiting.
 
 #include "ado/Recordset.h"
 #include "ado/TestServer.h"
@@ -17,17 +18,18 @@ namespace {
 std::vector<std::string>* heard = nullptr;
 QtMessageHandler others = nullptr;
 
-/// What goes over the wire while it lives, from the log of the driver.
+/// The texts sent over the wire while this object lives, read from the driver's log.
 class SentTexts {
 public:
     SentTexts() {
         QLoggingCategory::setFilterRules(QStringLiteral("vabo.odbc.debug=true"));
         heard = &texts_;
         others = qInstallMessageHandler([](QtMsgType type, const QMessageLogContext& context, const QString& message) {
-            if (QLatin1String(context.category) == QLatin1String("vabo.odbc"))
+            if (QLatin1String(context.category) == QLatin1String("vabo.odbc")) {
                 heard->push_back(message.toStdString());
-            else
+            } else {
                 others(type, context, message);
+            }
         });
     }
     ~SentTexts() {
@@ -56,7 +58,7 @@ protected:
         connection.Execute("insert into Prova (n) values (1), (2)");
     }
 
-    test::TestServer server{support::Road::Wire};
+    test::TestServer server{support::TestedDriver::Wire};
     Connection connection;
 };
 
@@ -86,8 +88,9 @@ TEST_F(OdbcHolds, OnlyAHeldRowIsRefusedAtOnce) {
 
 TEST_F(OdbcHolds, TheLastOfSeveralHoldsEndsTheirTransaction) {
     Recordset first, second;
-    for (Recordset* rs : {&first, &second})
+    for (Recordset* rs : {&first, &second}) {
         rs->Open("select * from Prova order by n", connection, CursorType::Keyset, LockType::Pessimistic);
+    }
     second.MoveNext();
     const SentTexts sent;
     first["n"] = 7;

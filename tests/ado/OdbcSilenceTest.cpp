@@ -1,4 +1,4 @@
-// How often a server that doesn't answer is waited for.
+// How often the program waits for a server that doesn't answer.
 
 #include "ado/Connection.h"
 #include "ado/ExpectError.h"
@@ -29,13 +29,14 @@ protected:
 
     static constexpr const char* kRest = ";UID=sa;PWD=x;Connect Timeout=1";
     support::SilentServer silent;
-    test::TestServer server{support::Road::Wire};
+    test::TestServer server{support::TestedDriver::Wire};
 };
 
 TEST_F(OdbcSilence, WithinOneEventIsWaitedForOnce) {
     inOneEvent([&] {
-        for (int i = 0; i < 3; ++i)
+        for (int i = 0; i < 3; ++i) {
             expectSilence();
+        }
     });
     EXPECT_EQ(silent.callers(), 1);
 }
@@ -74,7 +75,7 @@ TEST_F(OdbcSilence, ARefusalIsNoSilenceAndTheNextLoginTriesAgain) {
     });
 }
 
-// The driver asks for the port of a named instance sixteen times, one second each, whatever a login may take.
+// The driver asks sixteen times for the port of a named instance, one second each, whatever the time-out of the login.
 TEST_F(OdbcSilence, AnInstanceWhosePortNobodyTellsIsWaitedForOnce) {
     const support::SilentResolver resolver;
     const auto tellsOutOfReach = [&] {
@@ -108,8 +109,9 @@ TEST_F(OdbcSilence, OfAStatementIsRememberedToo) {
 }
 
 TEST_F(OdbcSilence, OutsideOfAnyEventLoopIsWaitedForEachTime) {
-    for (int i = 0; i < 2; ++i)
+    for (int i = 0; i < 2; ++i) {
         expectSilence();
+    }
     EXPECT_EQ(silent.callers(), 2);
 }
 

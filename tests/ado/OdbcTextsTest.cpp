@@ -31,8 +31,9 @@ TEST(OdbcDriverName, TakesTheNameAsItStandsElseMicrosoftsNewestElseFreeTds) {
         {"SQLite3", {"FreeTDS", "SQLite3"}, "SQLite3"},
         {"Altro", {"FreeTDS"}, "Altro"},
     };
-    for (const Resolution& one : resolutions)
+    for (const Resolution& one : resolutions) {
         EXPECT_EQ(resolveDriver(one.name, one.registered), one.resolved);
+    }
 }
 
 TEST(OdbcDriverName, OneThatNoManagerCouldHoldIsRefused) {
@@ -66,8 +67,9 @@ TEST(OdbcText, CarriesServerDatabaseUserAndWhatTheDriverNeeds) {
          "TrustServerCertificate=Yes;"},
         {"Server=S;UID=sa;PWD={a;b}}c}", "SQL Server", "DRIVER={SQL Server};SERVER=S;UID=sa;PWD={a;b}}c};"},
     };
-    for (const Text& text : texts)
+    for (const Text& text : texts) {
         EXPECT_EQ(driverText(ConnectionString(text.given), text.driver), text.sent);
+    }
 }
 
 TEST(OdbcPatience, IsHalfForWhatOnlyReads) {
@@ -75,14 +77,15 @@ TEST(OdbcPatience, IsHalfForWhatOnlyReads) {
     EXPECT_EQ(patience(" \r\n\tselect 1", 15), 7);
     EXPECT_EQ(patience("select 1", 1), 1);
     for (const char* writing : {"update Comuni set cap = '' where id in (select 1)", "CREATE DATABASE Vabodati", "",
-                                "sel", "IF NOT EXISTS (SELECT 1) CREATE DATABASE x"})
+                                "sel", "IF NOT EXISTS (SELECT 1) CREATE DATABASE x"}) {
         EXPECT_EQ(patience(writing, 15), 15) << writing;
+    }
 }
 
 struct Sources {
     const char* statement;
     Names fields;
-    const char* expected; ///< table.column of each field, "-" where it has none
+    const char* expected; ///< table.column of each field, "-" where there is none
 };
 
 TEST(OdbcSources, AreReadFromTheStatement) {
@@ -104,13 +107,15 @@ TEST(OdbcSources, AreReadFromTheStatement) {
     };
     for (const Sources& one : table) {
         std::vector<FieldDescription> fields;
-        for (const std::string& name : one.fields)
+        for (const std::string& name : one.fields) {
             fields.emplace_back().name = name;
+        }
         nameSources(one.statement, fields);
         std::string read;
-        for (const FieldDescription& field : fields)
+        for (const FieldDescription& field : fields) {
             read +=
                 (read.empty() ? "" : " ") + (field.baseTable.empty() ? "-" : field.baseTable + "." + field.baseColumn);
+        }
         EXPECT_EQ(read, one.expected) << one.statement;
     }
 }

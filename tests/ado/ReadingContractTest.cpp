@@ -131,8 +131,9 @@ TEST_F(Reading, EveryTypeOfTheServerHasItsOwn) {
 TEST_F(Reading, ANullIsNullInEveryType) {
     Recordset rs;
     open(rs, "Tipi");
-    for (int i = 1; i < rs.FieldCount(); ++i)
+    for (int i = 1; i < rs.FieldCount(); ++i) {
         EXPECT_TRUE(rs[i].Value().isNull()) << rs[i].Name();
+    }
 }
 
 TEST_F(Reading, ColumnsDescribeThemselves) {

@@ -18,7 +18,7 @@ void showValue(const Town& town, std::ostream& os) {
     os << town.id << " " << town.name;
 }
 
-/// What the table must be, kept beside the recordset by the plainest rules.
+/// The expected content of the table, computed by simple rules.
 struct Model {
     std::vector<Town> rows;
     std::size_t at = 0;
@@ -41,9 +41,10 @@ struct Model {
 
 std::vector<Town> readTowns(Recordset& rs) {
     std::vector<Town> towns;
-    for (; !rs.EOF(); rs.MoveNext())
+    for (; !rs.EOF(); rs.MoveNext()) {
         towns.push_back({std::get<std::int32_t>(rs["id"].Value().variant()),
                          std::get<std::string>(rs["nome"].Value().variant()), rs["abitanti"].Value()});
+    }
     return towns;
 }
 
@@ -70,8 +71,9 @@ void step(Recordset& rs, Model& model) {
     enum { kAssign, kAdd, kUpdate, kCancel, kMove, kSteps };
     switch (*rc::gen::inRange(0, static_cast<int>(kSteps))) {
     case kAssign:
-        if (model.onRow())
+        if (model.onRow()) {
             assign(rs, model, anyName().substr(0, 20), anyPeople());
+        }
         break;
     case kAdd:
         model.settle();
@@ -85,8 +87,9 @@ void step(Recordset& rs, Model& model) {
         rs.Update();
         break;
     case kCancel:
-        if (model.adding || model.editing)
+        if (model.adding || model.editing) {
             rs.CancelUpdate();
+        }
         model.adding = model.editing = false;
         break;
     default:
@@ -103,7 +106,7 @@ TEST(RecordsetProperty, AnyEditsLeaveTheTableThatAPlainListWouldBe) {
     const test::TestServer server;
     Connection connection;
     connection.Open(server.connectionString());
-    int tables = 0; // a fresh one for each run, also behind a failed one
+    int tables = 0; // a new table for each run, since a failed run leaves its own
     EXPECT_TRUE(rc::check("edits", [&] {
         const std::string table = "Liste" + std::to_string(++tables);
         connection.Execute(
@@ -114,8 +117,9 @@ TEST(RecordsetProperty, AnyEditsLeaveTheTableThatAPlainListWouldBe) {
         Recordset rs;
         rs.Open("select * from " + table + " order by id", connection, CursorType::Keyset, lock);
         const int steps = *rc::gen::inRange(0, 40);
-        for (int i = 0; i < steps; ++i)
+        for (int i = 0; i < steps; ++i) {
             step(rs, model);
+        }
         model.settle();
         rs.Update();
         RC_ASSERT(rs.RecordCount() == static_cast<long>(model.rows.size()));

@@ -12,7 +12,7 @@
 namespace ado {
 namespace {
 
-/// One column of given texts, as a road would bring them.
+/// One column of given texts, as a driver's result.
 class Texts : public DriverResult {
 public:
     Texts(FieldDescription field, std::vector<std::optional<std::string>> rows)

@@ -1,8 +1,8 @@
-// Whatever a statement is, it has its rows or its error, and the connection answers the next one.
+// Every statement gives rows or an error, and the connection can run the next one.
 
 #include "ado/AdoFixture.h"
-#include "engine/InternalErrors.h"
-#include "engine/Sqlite.h"
+#include "engine/run/InternalErrors.h"
+#include "engine/store/Sqlite.h"
 
 #include <sys/resource.h>
 
@@ -13,13 +13,14 @@ using test::Contract;
 
 class StatementErrorsContract : public Contract {
 protected:
-    /// The server's number of the error, 0 where there was none.
+    /// The server's error number, 0 where there was no error.
     int refusalOf(const std::string& statement) {
         try {
-            if (statement.starts_with("select"))
-                rowsOf(statement); // errors of a value come with its row
-            else
+            if (statement.starts_with("select")) {
+                rowsOf(statement); // an error of a value is raised when its row is read
+            } else {
                 connection.Execute(statement);
+            }
         } catch (const Error& error) {
             return error.nativeError();
         }
@@ -75,13 +76,14 @@ TEST_F(StatementErrorsContract, ASessionNeverWaitsForItself) {
     for (const char* statement :
          {"use master", "create table m (a int null)", "select a from Vabodati.dbo.t", "begin transaction",
           "insert into m (a) values (1)", "use Vabodati", "update t set a = 2", "use master",
-          "insert into m (a) select a from Vabodati.dbo.t", "use Vabodati", "commit"})
+          "insert into m (a) select a from Vabodati.dbo.t", "use Vabodati", "commit"}) {
         EXPECT_EQ(refusalOf(statement), 0) << statement;
+    }
     EXPECT_EQ(cell("select a from t"), "2");
     EXPECT_EQ(cell("select count(*) from master.dbo.m"), "2");
 }
 
-/// A table that the server's catalog knows and its storage has lost.
+/// A table that is in the server's catalog but not in its storage any more.
 TEST_F(StatementErrorsContract, AnInternalErrorOfTheServerIsTheStatementsOwn) {
     constexpr int kInternal = 8630;
     connection.Execute("create table g (a int null)");
@@ -93,7 +95,7 @@ TEST_F(StatementErrorsContract, AnInternalErrorOfTheServerIsTheStatementsOwn) {
     EXPECT_EQ(cell("select 1"), "1");
 }
 
-/// No file of a process grows beyond so many bytes while it lives. Process 0 is the test's own.
+/// While this object lives no file of a process can grow beyond that many bytes. Process 0 is the test itself.
 class LargestFile {
 public:
     LargestFile(long long process, rlim_t bytes) : process_(static_cast<pid_t>(process)) {
@@ -114,7 +116,7 @@ TEST_F(StatementErrorsContract, AFileAtItsLargestSizeIsAFullDisk) {
     constexpr int kDiskFull = 1105;
     connection.Execute("create table t (a nvarchar(4000) null)");
     const std::string insert = "insert into t (a) values ('" + std::string(4000, 'x') + "')";
-    const long long process = support::road() == support::Road::Wire ? server.peer().pid() : 0;
+    const long long process = support::testedDriver() == support::TestedDriver::Wire ? server.peer().pid() : 0;
     int written = 0;
     {
         constexpr rlim_t kLimit = 1'000'000;
@@ -138,10 +140,11 @@ TEST_F(StatementErrorsContract, AFileAtItsLargestSizeIsAFullDisk) {
 TEST_F(StatementErrorsContract, AFullDiskAtTheCommitTakesTheTransactionBack) {
     constexpr int kDiskFull = 1105;
     connection.Execute("create table t (a nvarchar(4000) null)");
-    const long long process = support::road() == support::Road::Wire ? server.peer().pid() : 0;
+    const long long process = support::testedDriver() == support::TestedDriver::Wire ? server.peer().pid() : 0;
     connection.Execute("begin transaction");
-    for (int i = 0; i < 50; ++i)
+    for (int i = 0; i < 50; ++i) {
         connection.Execute("insert into t (a) values ('" + std::string(4000, 'x') + "')");
+    }
     {
         constexpr rlim_t kLimit = 150'000;
         const LargestFile limit(process, kLimit);
@@ -159,14 +162,14 @@ TEST_F(StatementErrorsContract, AFullDiskLeavesNoHalfOfATransaction) {
     constexpr int kNoTransaction = 3902;
     connection.Execute("create table t (a nvarchar(4000) null)");
     const std::string insert = "insert into t (a) values ('" + std::string(4000, 'x') + "')";
-    const long long process = support::road() == support::Road::Wire ? server.peer().pid() : 0;
+    const long long process = support::testedDriver() == support::TestedDriver::Wire ? server.peer().pid() : 0;
     connection.Execute("begin transaction");
     connection.Execute(insert);
     int refusal = 0;
     {
         constexpr rlim_t kLimit = 300'000;
         const LargestFile limit(process, kLimit);
-        // More than the cache of the storage holds, so that it has to write before the commit.
+        // More data than the storage's cache holds, so that it must write before the commit.
         connection.Execute("create table n (i int null)");
         connection.Execute("insert into n (i) values (1), (2), (3), (4), (5), (6), (7), (8), (9), (10)");
         refusal = refusalOf("insert into t (a) select replicate('y', 4000) from n as p, n as q, n as r");

@@ -1,7 +1,7 @@
 #include "ado/TestServer.h"
 
 #include "ado/Drivers.h"
-#include "engine/Instance.h"
+#include "engine/store/Instance.h"
 
 namespace ado::test {
 
@@ -15,15 +15,16 @@ engine::InstanceOptions options(const fs::path& drive) {
 
 } // namespace
 
-TestServer::TestServer(support::Road road) {
+TestServer::TestServer(support::TestedDriver driver) {
     fs::create_directories(instances());
     const auto created = engine::Instance::create(instance(), options(folder_.path()));
     created->addLogin("sa", "segreta");
     created->createDatabase("Vabodati", "", "");
-    if (road == support::Road::Wire)
+    if (driver == support::TestedDriver::Wire) {
         peer_ = std::make_unique<support::Peer>(instance(), folder_.path());
-    else
+    } else {
         setEmbeddedHome({[this] { return instances(); }, options(folder_.path()).mapPath});
+    }
 }
 
 TestServer::~TestServer() {

@@ -1,8 +1,8 @@
 #pragma once
 
 #include "support/Peer.h"
-#include "support/Road.h"
 #include "support/TemporaryFolder.h"
+#include "support/TestedDriver.h"
 
 #include <filesystem>
 #include <memory>
@@ -11,21 +11,21 @@
 
 namespace ado::test {
 
-/// A server of its own for one test, at the end of a road, with a login "sa" and an empty database Vabodati.
+/// A server for one test, reached by one driver, with a login "sa" and an empty database Vabodati.
 class TestServer {
 public:
-    explicit TestServer(support::Road road = support::road());
+    explicit TestServer(support::TestedDriver driver = support::testedDriver());
     TestServer(const TestServer&) = delete;
     TestServer& operator=(const TestServer&) = delete;
     ~TestServer();
 
     std::string connectionString(const std::string& database = "Vabodati") const;
-    /// What another process needs to reach it: arguments of the helper executable.
+    /// The arguments with which the helper executable reaches this server.
     std::vector<std::string> helperArguments() const { return {instances().string(), connectionString()}; }
 
     void addLogin(const std::string& user, const std::string& password) const;
     std::filesystem::path databaseFile() const { return instance() / "Vabodati.mdf"; }
-    /// The process behind the wire. On no other road.
+    /// The server process. Only with the wire driver.
     support::Peer& peer() { return *peer_; }
 
 private:

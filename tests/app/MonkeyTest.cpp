@@ -28,7 +28,7 @@ bool oneIn(Random& random, int times) {
     return std::uniform_int_distribution<int>(1, times)(random) == 1;
 }
 
-/// Keys and close buttons at every box that opens, and at the forms behind it, until one of its buttons takes it away.
+/// Sends keys and close events to every box that opens, and to the forms behind it, until one of its buttons closes it.
 class BoxMonkey : public QObject {
 public:
     explicit BoxMonkey(Random& random) : random_(random) {
@@ -40,38 +40,45 @@ public:
     ~BoxMonkey() override { platform::setDialogs(nullptr); }
 
     bool eventFilter(QObject* watched, QEvent* event) override {
-        if (event->type() == QEvent::Show && qobject_cast<QDialog*>(watched) != nullptr)
+        if (event->type() == QEvent::Show && qobject_cast<QDialog*>(watched) != nullptr) {
             QMetaObject::invokeMethod(
                 this, [this] { answer(); }, Qt::QueuedConnection);
+        }
         return false;
     }
 
 private:
     void answer() {
         const QPointer<QWidget> box = QApplication::activeModalWidget();
-        if (box.isNull())
+        if (box.isNull()) {
             return;
+        }
         clickBehind(*box);
-        if (oneIn(random_, 2) && box)
+        if (oneIn(random_, 2) && box) {
             box->close();
-        if (oneIn(random_, 2) && box && box->isVisible())
+        }
+        if (oneIn(random_, 2) && box && box->isVisible()) {
             QTest::keyClick(box->windowHandle(), Qt::Key_Escape);
-        if (!box || !box->isVisible())
+        }
+        if (!box || !box->isVisible()) {
             return;
+        }
         QList<QPushButton*> buttons = box->findChildren<QPushButton*>();
         QTest::mouseClick(oneOf(random_, buttons), Qt::LeftButton);
     }
 
-    /// On every button of the forms, which the box keeps from them.
+    /// Clicks on every button of the forms, which the modal box must keep from them.
     static void clickBehind(const QWidget& box) {
         for (const QWidget* form : QApplication::topLevelWidgets()) {
-            if (form == &box || !form->isVisible())
+            if (form == &box || !form->isVisible()) {
                 continue;
+            }
             QWindow* window = form->windowHandle();
             for (const auto* button : form->findChildren<QPushButton*>()) {
                 const QPoint place = button->mapTo(form, button->rect().center());
-                if (button->isVisible() && QRect({}, window->size()).contains(place))
+                if (button->isVisible() && QRect({}, window->size()).contains(place)) {
                     QTest::mouseClick(window, Qt::LeftButton, {}, place);
+                }
             }
         }
     }
@@ -87,18 +94,20 @@ constexpr std::array kKeys = {Qt::Key_Return, Qt::Key_Return, Qt::Key_Enter, Qt:
 constexpr std::array kMnemonics = {Qt::Key_A, Qt::Key_B, Qt::Key_C, Qt::Key_D, Qt::Key_E,
                                    Qt::Key_M, Qt::Key_P, Qt::Key_S, Qt::Key_T};
 
-/// Somebody who presses anything, anywhere, also what has just gone from the screen.
+/// Presses any key or button at random, also in windows that were just closed.
 class Monkey : public FormTest {
 protected:
     Monkey() { vabo::DirittiUtente.Administrator = vabo::kVero; }
 
-    /// From the console, the login or the form of the data sources.
+    /// Starts with the console, the login or the form of the data sources.
     void start() {
-        for (const char* form : {"Avvio_Morlan", "FormRegistraAziendeNeiDns", "About", "Avvio_Azienda"})
+        for (const char* form : {"Avvio_Morlan", "FormRegistraAziendeNeiDns", "About", "Avvio_Azienda"}) {
             gui.forms().unload(form);
+        }
         Gui::handleEvents();
-        for (const char* form : {"Avvio_Azienda", "About", "FormRegistraAziendeNeiDns"})
+        for (const char* form : {"Avvio_Azienda", "About", "FormRegistraAziendeNeiDns"}) {
             gui.forms().unload(form);
+        }
         Gui::handleEvents();
         vabo::NomeTerminale = support::kTerminalName;
         constexpr std::array kFirst = {"Avvio_Azienda", "Avvio_Azienda", "Avvio_Azienda", "About"};
@@ -111,7 +120,7 @@ protected:
         Gui::handleEvents();
     }
 
-    /// What a step does, in words.
+    /// Does one step and returns its description.
     std::string step() {
         QWidget* form = oneOfTheForms();
         switch (std::uniform_int_distribution<int>(0, 9)(random)) {
@@ -121,8 +130,9 @@ protected:
         case 2:
             return press(oneOf(random, kMnemonics), Qt::AltModifier);
         case 3:
-            if (!oneIn(random, 3))
+            if (!oneIn(random, 3)) {
                 return "nothing";
+            }
             return close(*form);
         case 4:
             return keyTo(*form);
@@ -138,14 +148,17 @@ protected:
 private:
     QWidget* oneOfTheForms() {
         std::vector<QWidget*> forms;
-        for (const char* name : {"Avvio_Azienda", "About", "FormRegistraAziendeNeiDns", "Avvio_Morlan"})
-            if (controls::Form* loaded = gui.forms().loaded(name))
+        for (const char* name : {"Avvio_Azienda", "About", "FormRegistraAziendeNeiDns", "Avvio_Morlan"}) {
+            if (controls::Form* loaded = gui.forms().loaded(name)) {
                 forms.push_back(loaded);
+            }
+        }
         return oneOf(random, forms);
     }
     std::string press(Qt::Key key, Qt::KeyboardModifiers modifiers) {
-        if (QWindow* window = QGuiApplication::focusWindow())
+        if (QWindow* window = QGuiApplication::focusWindow()) {
             QTest::keyClick(window, key, modifiers);
+        }
         return "key " + std::to_string(key);
     }
     QPushButton* button(const QWidget& form) {
@@ -154,14 +167,16 @@ private:
     }
     static std::string close(const QWidget& form) {
         const std::string name = form.objectName().toStdString();
-        if (form.windowHandle() != nullptr)
+        if (form.windowHandle() != nullptr) {
             form.windowHandle()->close();
+        }
         return "close " + name;
     }
     std::string keyTo(const QWidget& form) {
         const std::string name = form.objectName().toStdString();
-        if (QPushButton* target = button(form))
+        if (QPushButton* target = button(form)) {
             QTest::keyClick(target, oneIn(random, 2) ? Qt::Key_Return : Qt::Key_Space);
+        }
         return "key to a button of " + name;
     }
     std::string clickOn(const QWidget& form) {
@@ -169,13 +184,14 @@ private:
         const QPointer<QWidget> target = oneIn(random, 3) ? oneOf(random, controls) : button(form);
         const std::string what =
             form.objectName().toStdString() + "." + (target ? target->objectName().toStdString() : "");
-        for (int clicks = oneIn(random, 2) ? 2 : 1; clicks > 0 && target; --clicks)
+        for (int clicks = oneIn(random, 2) ? 2 : 1; clicks > 0 && target; --clicks) {
             QTest::mouseClick(target, Qt::LeftButton);
+        }
         return "click on " + what;
     }
 };
 
-// Only what closes the console or the login leaves nothing on the screen.
+// Only closing the console or the login may leave no window.
 TEST_F(Monkey, NoOrderOfKeysAndClicksLeavesTheProgramWithoutAWindow) {
     SCOPED_TRACE("seed " + std::to_string(seed));
     constexpr int kSteps = 300;
@@ -185,12 +201,14 @@ TEST_F(Monkey, NoOrderOfKeysAndClicksLeavesTheProgramWithoutAWindow) {
         const std::string before = gui.visibleForms();
         steps.push_back(before + ": " + step());
         Gui::handleEvents();
-        if (!gui.visibleForms().empty())
+        if (!gui.visibleForms().empty()) {
             continue;
+        }
         const bool lastOneClosed = (before == "Avvio_Azienda" || before == "About") && !gui.forms().isLoaded(before);
         std::string story;
-        for (const std::string& each : steps)
+        for (const std::string& each : steps) {
             story += each + "\n";
+        }
         EXPECT_TRUE(lastOneClosed) << story << testing::PrintToString(vabo::PilaForm);
         steps.clear();
         start();

@@ -21,7 +21,7 @@ namespace {
 using support::Gui;
 using testing::ElementsAre;
 
-/// A form with the combo and a field behind it.
+/// A form with the combo and a field after it.
 class DataCombo : public DataFixture {
 protected:
     DataCombo() {
@@ -49,14 +49,14 @@ protected:
     }
     controls::DataCombo& combo() { return gui.find<controls::DataCombo>("F", "combo"); }
 
-    /// Types, and gives back the search list that opens.
+    /// Types, and returns the search list that opens.
     QAbstractItemView& search(const std::string& letters) {
         gui.type(letters);
         QAbstractItemView* found = combo().completer()->popup();
         Gui::waitFor("the search", [&] { return found->isVisible(); });
         return *found;
     }
-    /// A text of the form's, selected as the focus selects it.
+    /// Sets a text as the form does, and selects it as the focus does.
     void choose(const std::string& text) {
         combo().setText(text);
         combo().lineEdit()->selectAll();
@@ -407,10 +407,12 @@ TEST_F(DataCombo, TheFocusSelectsTheWholeText) {
 
 TEST_F(DataCombo, AListOfThousandsIsWholeAndOpens) {
     std::string values;
-    for (int i = 0; i < 1000; ++i)
+    for (int i = 0; i < 1000; ++i) {
         values += (i == 0 ? "('Voce " : ", ('Voce ") + std::to_string(i) + "')";
-    for (int i = 0; i < 5; ++i)
+    }
+    for (int i = 0; i < 5; ++i) {
         workstation.run(support::kCompany, "insert into frutta (nome) values " + values);
+    }
     source.Refresh();
     EXPECT_EQ(combo().count(), 5005);
     gui.press(Qt::Key_Down);

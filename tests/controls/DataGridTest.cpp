@@ -26,10 +26,11 @@ protected:
     long position() { return source.Recordset().AbsolutePosition(); }
     QPoint middleOf(int row) const { return grid.visualRect(grid.model()->index(row, 1)).center(); }
     void lockAll() {
-        for (int i = 0; i < grid.ColumnCount(); ++i)
+        for (int i = 0; i < grid.ColumnCount(); ++i) {
             grid.Columns(i).setLocked(true);
+        }
     }
-    /// What the grid has told so far: "row 2", the current one, or "click", "double", "key 68".
+    /// The signals of the grid so far: "row 2" (the current one), "click", "double", "key 68".
     std::vector<std::string>& told() {
         if (!listening_) {
             listening_ = true;
@@ -85,8 +86,9 @@ TEST_F(DataGrid, PastTheEndItStandsOnItsLastRow) {
 TEST_F(DataGrid, ChoosingTheRowOnWhichItStandsPastTheEndMakesItCurrent) {
     std::vector<std::string> chosen;
     QObject::connect(&grid, &controls::DataGrid::DblClick, [&] { chosen.push_back(grid.Columns(0).Text()); });
-    for (int i = 0; i < 3; ++i)
+    for (int i = 0; i < 3; ++i) {
         grid.Columns(i).setLocked(true);
+    }
     const auto passTheEnd = [&] {
         source.Recordset().MoveLast();
         source.Recordset().MoveNext();
@@ -178,8 +180,9 @@ constexpr std::array<controls::ColumnLayout, 2> kLayout = {
 
 TEST_F(DataGrid, ALayoutIsATableOfColumnsAndLocksEveryOne) {
     grid.lay(kLayout);
-    for (int i = 0; i < grid.ColumnCount(); ++i)
+    for (int i = 0; i < grid.ColumnCount(); ++i) {
         EXPECT_TRUE(grid.Columns(i).Locked()) << i;
+    }
     EXPECT_FALSE(grid.Columns(0).Visible());
     EXPECT_EQ(grid.Columns(0).Caption(), "Codice");
     EXPECT_EQ(grid.Columns(2).Caption(), "Prezzo\r\nal chilo");
@@ -238,7 +241,7 @@ TEST_F(DataGrid, AColumnThatFillsItsGridShowsItsWholeCaption) {
     grid.Columns(2).setWidth(3000);
     grid.resize(500, 300);
     EXPECT_GE(grid.columnWidth(1), grid.horizontalHeader()->sectionSizeHint(1));
-    // The widest gives what the caption took; each share is cut to whole pixels.
+    // The widest column gets narrower by what the caption needs; each share is cut to whole pixels.
     EXPECT_NEAR(grid.columnWidth(1) + grid.columnWidth(2), grid.viewport()->width(), 2);
 }
 
@@ -287,8 +290,9 @@ TEST_F(DataGrid, ATextThatTheColumnRefusesIsTheErrorEvent) {
 TEST_F(DataGrid, EnterAndADoubleClickAreOne) {
     int chosen = 0;
     QObject::connect(&grid, &controls::DataGrid::DblClick, [&] { ++chosen; });
-    for (int i = 0; i < 3; ++i)
+    for (int i = 0; i < 3; ++i) {
         grid.Columns(i).setLocked(true);
+    }
     const QPoint second = grid.visualRect(grid.model()->index(1, 1)).center();
     QTest::mouseClick(grid.viewport(), Qt::LeftButton, {}, second);
     QTest::mouseDClick(grid.viewport(), Qt::LeftButton, {}, second);

@@ -148,8 +148,9 @@ TEST_F(FormRegistry, AnUnloadInsideTheUnloadIsOne) {
 TEST_F(FormRegistry, AFormShownInItsOwnUnloadIsMadeAnew) {
     int unloads = 0;
     add("A", {.unload = [&](RecordedForm&) {
-            if (++unloads == 1)
+            if (++unloads == 1) {
                 gui.forms().makeVisible("A");
+            }
         }});
     gui.forms().show("A");
     gui.forms().unload("A");

@@ -16,7 +16,7 @@ namespace {
 
 using support::Gui;
 
-/// A form with a button that does what the test says.
+/// A form with a button whose action each test sets.
 class Form : public testing::Test {
 protected:
     Form() {
@@ -30,8 +30,9 @@ protected:
             field->setObjectName("field");
             button->setObjectName("button");
             label->setBuddy(field);
-            for (QWidget* each : std::initializer_list<QWidget*>{label, field, button})
+            for (QWidget* each : std::initializer_list<QWidget*>{label, field, button}) {
                 layout->addWidget(each);
+            }
             form->on(button, &QPushButton::clicked, [this, shown = form.get()] { clicked(*shown); });
             return form;
         });

@@ -14,7 +14,7 @@ namespace {
 
 using support::Gui;
 
-/// Two pickers of one key on a form.
+/// Two pickers on a form that share one key.
 class Picker : public DataFixture {
 protected:
     Picker() {

@@ -25,18 +25,21 @@ struct Seen {
     std::vector<std::string> buttons;
 };
 
-/// Runs `ask`, looks at the box that it opens and lets `answer` handle it.
+/// Runs `ask`, records the box that it opens and calls `answer` with it.
 template<typename Ask>
 auto withBox(Seen& seen, const std::function<void(QDialog&)>& answer, Ask ask) {
     const auto look = [&seen, answer] {
         auto* box = qobject_cast<QDialog*>(QApplication::activeModalWidget());
         ASSERT_NE(box, nullptr) << "no box came";
         seen.title = box->windowTitle().toStdString();
-        if (const auto* message = qobject_cast<QMessageBox*>(box))
+        if (const auto* message = qobject_cast<QMessageBox*>(box)) {
             seen.text = message->text().toStdString();
-        for (const auto* button : box->findChildren<QAbstractButton*>())
-            if (button->isVisible() && !button->text().isEmpty())
+        }
+        for (const auto* button : box->findChildren<QAbstractButton*>()) {
+            if (button->isVisible() && !button->text().isEmpty()) {
                 seen.buttons.push_back(button->text().toStdString());
+            }
+        }
         answer(*box);
     };
     QMetaObject::invokeMethod(qApp, look, Qt::QueuedConnection);
@@ -105,7 +108,7 @@ INSTANTIATE_TEST_SUITE_P(Keys, QtDialogsAnswer,
                                          Answer{"ConfirmEsc", &controls::QtDialogs::confirm, Qt::Key_Escape, false}),
                          [](const auto& info) { return info.param.what; });
 
-/// What a user tries before pressing a button of the box; true where it is still there after each.
+/// Tries to close the box without its buttons; true where it stays open each time.
 bool staysThere(QDialog& box) {
     pressKey(box, Qt::Key_Escape);
     const bool afterEsc = box.isVisible();
@@ -154,7 +157,7 @@ TEST_F(QtDialogs, TheCloseButtonIsCancelWhereThereIsCancel) {
 
 TEST_F(QtDialogs, AMessageGoesByEscAndByItsCloseButton) {
     bool gone = false;
-    for (const bool esc : {true, false})
+    for (const bool esc : {true, false}) {
         withBox(
             seen,
             [&](QDialog& box) {
@@ -166,6 +169,7 @@ TEST_F(QtDialogs, AMessageGoesByEscAndByItsCloseButton) {
                 EXPECT_TRUE(gone);
                 return 0;
             });
+    }
 }
 
 TEST_F(QtDialogs, AQuestionHasYesAndNoInItalian) {
@@ -197,7 +201,7 @@ TEST_F(QtDialogs, AnInputProposesATextAndGivesBackWhatStandsThere) {
     EXPECT_THAT(seen.buttons, testing::UnorderedElementsAre("OK", "Annulla"));
 }
 
-/// A desktop that wants pictures on the buttons of boxes.
+/// A desktop style that puts icons on the buttons of boxes.
 class DesktopWithPictures : public QProxyStyle {
 public:
     int styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,

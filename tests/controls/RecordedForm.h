@@ -8,12 +8,12 @@
 
 class RecordedForm;
 
-/// What a test wants done in the events of a form.
+/// What a test does in the events of a form.
 struct FormEvents {
     std::function<void(RecordedForm&)> load{}, activate{}, unload{};
 };
 
-/// A form that writes its events down, and does in them what the test says.
+/// A form that records its events and runs the test's functions in them.
 class RecordedForm : public controls::Form {
 public:
     using Events = FormEvents;
@@ -38,8 +38,9 @@ protected:
 private:
     void happen(const char* event, const std::function<void(RecordedForm&)>& act) {
         log_.push_back(Name() + "." + event);
-        if (act)
+        if (act) {
             act(*this);
+        }
     }
 
     std::vector<std::string>& log_;

@@ -15,12 +15,13 @@ namespace {
 using support::Gui;
 using testing::ElementsAre;
 
-/// A form with two fields that write their moves of focus down.
+/// A form with two fields that record when they get and lose the focus.
 class TextBox : public testing::Test {
 protected:
     TextBox() {
-        for (const char* form : {"A", "B"})
+        for (const char* form : {"A", "B"}) {
             gui.forms().add(form, [this, form] { return make(form); });
+        }
         gui.forms().show("A");
         gui.waitForFront("A");
         field("first").setFocus();

@@ -59,8 +59,9 @@ const std::string kTerminals =
 
 std::vector<std::string> allStatements() {
     std::vector<std::string> all = {"sp_configure 'query timeout',0 RECONFIGURE", kCreateTemporary};
-    for (const auto& [option, value] : kOptions)
+    for (const auto& [option, value] : kOptions) {
         all.push_back(" sp_dboption N'VaBoDatiTemp', N'" + option + "', N'" + value + "'");
+    }
     all.push_back(kCreateControl);
     std::string start = "  ";
     for (const auto& [option, value] : kOptions) {
@@ -141,7 +142,8 @@ TEST_F(CreaVaBoAzienda, TheOptionsAreSetOnEveryRun) {
     EXPECT_EQ(recorder.holding("sp_dboption").size(), 2 * kOptions.size());
 }
 
-/// What such a server is told, letter for letter: one question a database, then its options by statements.
+/// The statements sent to such a server, letter for letter: one call of the procedure for each database, then its
+/// options as statements.
 const std::vector<std::string> kWithoutProcedure = {
     "sp_configure 'query timeout',0 RECONFIGURE",
     kCreateTemporary,
@@ -197,7 +199,7 @@ TEST_F(CreaVaBoAzienda, AServerWithoutTheProcedureIsToldByStatements) {
 
 class CreaVaBoAziendaOn : public CreaVaBoAzienda, public testing::WithParamInterface<int> {};
 
-// On a server of before and of after the procedure's end.
+// On a server that has the procedure, and on one that doesn't have it any more.
 INSTANTIATE_TEST_SUITE_P(Version, CreaVaBoAziendaOn, testing::Values(8, 11));
 
 TEST_P(CreaVaBoAziendaOn, TheOptionsBecomeTheSame) {
@@ -235,8 +237,9 @@ TEST_P(CreaVaBoAziendaOn, TheOptionsBecomeTheSame) {
                               " DROP DATABASE VaBoDatiTemp");
     workstation.run("master", "DROP DATABASE vabodatiazienda");
     CreaDatabaseControllo();
-    for (const char* database : {"VaBoDatiTemp", "VaBoDatiAzienda"})
+    for (const char* database : {"VaBoDatiTemp", "VaBoDatiAzienda"}) {
         EXPECT_EQ(workstation.databaseOptions(database), expected) << database;
+    }
 }
 
 TEST_F(CreaVaBoAzienda, AnotherRefusalLeavesTheProcedureInPlace) {

@@ -1,4 +1,4 @@
-// The form of the data sources before a server that fails.
+// The form of the data sources with a server that fails.
 
 #include "RegistraFormFixture.h"
 #include "session/GuastoFixture.h"
@@ -8,7 +8,8 @@ namespace {
 
 class GuastoRegistra : public RegistraForm {
 protected:
-    /// A connection text is made of the fields as they are typed: a shorter wait may stand behind the server.
+    /// A server's name for the form's field, followed by a shorter time-out: the fields go into the connection text as
+    /// typed.
     static std::string conAttesa(const std::string& server) { return server + ";Connect Timeout=1"; }
     void apriSulServer() {
         apri();
@@ -17,19 +18,21 @@ protected:
         metti("txtPWD", campi().Password);
     }
     void avviene(Guasto cosa) {
-        if (cosa == Guasto::Muto)
+        if (cosa == Guasto::Muto) {
             metti("txtServer", conAttesa(guasto.muto.server()));
-        else if (cosa == Guasto::PortaSbagliata)
+        } else if (cosa == Guasto::PortaSbagliata) {
             metti("txtServer", kServerSpento);
-        else if (cosa == Guasto::PasswordSbagliata)
+        } else if (cosa == Guasto::PasswordSbagliata) {
             metti("txtPWD", "inverno");
-        else
+        } else {
             guasto.avviene(cosa);
+        }
         guasto_ = cosa;
     }
     void ripara() {
-        if (guasto_ == Guasto::Spento || guasto_ == Guasto::Gelato)
+        if (guasto_ == Guasto::Spento || guasto_ == Guasto::Gelato) {
             guasto.ripara();
+        }
         metti("txtServer", conAttesa(workstation.serverName()));
         metti("txtPWD", campi().Password);
     }
@@ -85,8 +88,9 @@ TEST_F(GuastoRegistra, AServerThatEndsOnceItIsOpenKeepsNothingFromBeingRegistere
     apriSulServer();
     int inviate = 0;
     ado::setStatementRecorder([&](const std::string& /*testo*/) {
-        if (++inviate == 1)
+        if (++inviate == 1) {
             guasto.avviene(Guasto::Spento);
+        }
     });
     premi("cmdCancel");
     ado::setStatementRecorder({});

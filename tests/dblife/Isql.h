@@ -2,8 +2,8 @@
 
 #include "ado/ConnectionString.h"
 #include "support/Processes.h"
-#include "support/Road.h"
 #include "support/TestWorkstation.h"
+#include "support/TestedDriver.h"
 
 #include <QStandardPaths>
 
@@ -14,11 +14,11 @@
 
 namespace vabo {
 
-/// Where the server is another process: an embedded one is nobody else's.
+/// Only with the wire driver, since no other program can reach an embedded server.
 struct OverTheWire {
     OverTheWire() {
-        constexpr std::array kArguments{"", "--road=wire"};
-        support::chooseRoad(static_cast<int>(kArguments.size()), kArguments.data());
+        constexpr std::array kArguments{"", "--driver=wire"};
+        support::chooseTestedDriver(static_cast<int>(kArguments.size()), kArguments.data());
     }
 };
 
@@ -26,7 +26,7 @@ inline std::string isqlProgram() {
     return QStandardPaths::findExecutable("isql").toStdString();
 }
 
-/// What the driver manager's own client answers to a statement, logged in as the server's connection text tells.
+/// The output of isql for a statement, logged in with user and password of the server's connection text.
 inline std::string answer(const std::string& server, const std::string& dataSource, const std::string& statement) {
     const ado::ConnectionString login(server);
     support::HelperProcess isql(isqlProgram(), {dataSource, login.user(), login.password(), "-b", "-d|"});
@@ -35,7 +35,7 @@ inline std::string answer(const std::string& server, const std::string& dataSour
     return isql.readAll();
 }
 
-/// Each of the three data sources leads to its database.
+/// Expects that each of the three data sources connects to its database.
 inline void expectEachDatabase(const support::TestWorkstation& workstation, const std::string& server) {
     const struct {
         const char* dataSource;
@@ -49,8 +49,9 @@ inline void expectEachDatabase(const support::TestWorkstation& workstation, cons
     };
     for (const auto& one : cases) {
         std::string expected;
-        for (const auto& row : workstation.rows(one.database, one.statement))
+        for (const auto& row : workstation.rows(one.database, one.statement)) {
             expected += row[0] + "|" + row[1] + "\n";
+        }
         ASSERT_FALSE(expected.empty()) << one.dataSource;
         EXPECT_EQ(answer(server, one.dataSource, one.statement), expected) << one.dataSource;
     }

@@ -1,4 +1,4 @@
-// After a registration in the form another program reaches the databases.
+// After a registration in the form another program can connect to the databases.
 
 #include "dblife/Isql.h"
 #include "dblife/RegistraFormFixture.h"
@@ -16,7 +16,7 @@ class IsqlRegistra : private OverTheWire, public RegistraForm {};
 TEST_F(IsqlRegistra, ReadsEachDatabaseOnceTheFormHasRegisteredIt) {
     LeggiLinguaClient("");
     apri();
-    platform::setDataSources(nullptr); // the machine's own, which knows none of them yet
+    platform::setDataSources(nullptr); // the machine's own registry, which has none of them yet
     ASSERT_THAT(platform::dataSources().names(), testing::Each(testing::Not(testing::StartsWith("Tlv_"))));
     gui.click(kForm, "cmdCancel");
     aspettaConsole();

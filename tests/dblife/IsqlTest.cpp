@@ -1,4 +1,4 @@
-// Another program reaches the databases by the names of their data sources alone.
+// Another program can connect to the databases by the names of their data sources.
 
 #include "dblife/Isql.h"
 

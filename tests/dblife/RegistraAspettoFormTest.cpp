@@ -10,20 +10,23 @@ namespace {
 
 using support::kCompany;
 
-/// What the form shows and where its keys lead.
+/// What the form shows, and how the keys move the focus.
 class RegistraAspetto : public RegistraForm {
 protected:
     std::string suggerimento(const char* nome) const { return gui.find(kForm, nome).toolTip().toStdString(); }
     std::string etichettaDi(const char* nome) const {
-        for (const QLabel* etichetta : gui.form(kForm).findChildren<QLabel*>())
-            if (etichetta->buddy() == &gui.find(kForm, nome))
+        for (const QLabel* etichetta : gui.form(kForm).findChildren<QLabel*>()) {
+            if (etichetta->buddy() == &gui.find(kForm, nome)) {
                 return etichetta->text().toStdString();
+            }
+        }
         return "nessuna";
     }
     void scegliFonte(const std::string& nome) {
         vaiA("cboDSNList");
-        while (testo("cboDSNList") != nome)
+        while (testo("cboDSNList") != nome) {
             gui.press(Qt::Key_Down);
+        }
     }
 };
 
@@ -55,8 +58,9 @@ TEST_F(RegistraAspetto, EveryControlHasASpokenName) {
         {"cboDrivers", "Driver"},     {"txtServer", "Server"},     {"txtDatabase", "Database"},
         {"Nome_Odbc", "Fonte Odbc"},  {"Nome_Az", "Nome Azienda"}, {"cmdCancel", "Registra"},
         {"Command1", "Chiudi"}};
-    for (const auto& [nome, detto] : nomi)
+    for (const auto& [nome, detto] : nomi) {
         EXPECT_EQ(gui.find(kForm, nome).accessibleName().toStdString(), detto) << nome;
+    }
 }
 
 TEST_F(RegistraAspetto, OpensWithTheCompanysData) {
@@ -71,8 +75,9 @@ TEST_F(RegistraAspetto, OpensWithTheCompanysData) {
     EXPECT_EQ(testo("Nome_Odbc"), "Tlv_Server");
     EXPECT_EQ(NomeDsn, "Tlv_Server");
     for (const char* nome : {"txtUID", "txtPWD", "cboDrivers", "txtServer", "txtDatabase", "Nome_Odbc", "Nome_Az",
-                             "cboDSNList", "cmdCancel", "Command1"})
+                             "cboDSNList", "cmdCancel", "Command1"}) {
         EXPECT_TRUE(abilitato(nome)) << nome;
+    }
 }
 
 TEST_F(RegistraAspetto, OpensWithDefaultsWhereThereIsNoCompany) {
@@ -92,9 +97,10 @@ TEST_F(RegistraAspetto, ListsTheDataSourcesBehindNone) {
     fonti.names = {"Zeta", "Tlv_server", "alfa"};
     apri();
     ASSERT_EQ(elenco("cboDSNList").count(), 4);
-    for (int i = 0; i < 4; ++i)
+    for (int i = 0; i < 4; ++i) {
         EXPECT_EQ(elenco("cboDSNList").itemText(i).toStdString(),
                   (std::vector<std::string>{"(nessuno)", "Zeta", "Tlv_server", "alfa"}[static_cast<std::size_t>(i)]));
+    }
     EXPECT_EQ(elenco("cboDSNList").currentIndex(), 0);
 }
 
@@ -124,8 +130,9 @@ TEST_F(RegistraAspetto, ADataSourceLocksServerAndDriverAtWhatTheyShow) {
     EXPECT_EQ(testo("txtServer"), campi().Server);
     EXPECT_EQ(testo("cboDrivers"), "SQL Server");
     EXPECT_EQ(testo("Nome_Odbc"), "Tlv_Server");
-    for (const char* nome : {"txtUID", "txtPWD", "txtDatabase", "Nome_Odbc", "Nome_Az", "cmdCancel"})
+    for (const char* nome : {"txtUID", "txtPWD", "txtDatabase", "Nome_Odbc", "Nome_Az", "cmdCancel"}) {
         EXPECT_TRUE(abilitato(nome)) << nome;
+    }
     gui.press(Qt::Key_Home);
     EXPECT_EQ(testo("cboDSNList"), "(nessuno)");
     EXPECT_TRUE(abilitato("txtServer"));

@@ -173,9 +173,11 @@ TEST_F(RegistraAziende, ARefusedDataSourceStopsNoOther) {
     fonti.refusesRegistration = true;
     RegistraFonti(campi());
     std::vector<std::string> chieste;
-    for (const std::string& chiamata : registrazioni(campi(), NomeDsn, NomeAzienda))
-        if (chiamata.rfind("register", 0) == 0)
+    for (const std::string& chiamata : registrazioni(campi(), NomeDsn, NomeAzienda)) {
+        if (chiamata.rfind("register", 0) == 0) {
             chieste.push_back(chiamata);
+        }
+    }
     EXPECT_EQ(fonti.calls(), chieste);
 }
 

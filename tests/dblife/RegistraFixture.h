@@ -10,10 +10,10 @@
 
 namespace vabo {
 
-/// A server that refuses: nobody listens at that port of the loopback.
+/// A server that refuses connections: nothing listens on that port of the loopback.
 inline constexpr const char* kServerSpento = "127.0.0.1,9";
 
-/// What the registry is asked for one data source, entered and then configured.
+/// The calls of the registry for one data source: added, then configured.
 inline std::vector<std::string> registrazione(const std::string& fonte, const std::string& database,
                                               const std::string& descrizione, const std::string& server) {
     const std::string perDao =
@@ -28,7 +28,7 @@ inline std::vector<std::string> registrazione(const std::string& fonte, const st
     return chiamate;
 }
 
-/// The registry of companies, which a company's own database doesn't have.
+/// Creates the registry of companies, which a company's own database doesn't have.
 inline constexpr const char* kCreaRegistro =
     "create table link_programma (id int identity (1, 1) not null, NomeAzienda varchar(255) null, "
     "Stringa_connessione_sql nvarchar(255) null, Nserver nvarchar(250) null, dbname nvarchar(50) null, "
@@ -36,11 +36,11 @@ inline constexpr const char* kCreaRegistro =
 inline constexpr const char* kLeggiRegistro =
     "select Stringa_connessione_sql, Nserver, dbname, NomeAzienda, nRoot, Npassw from link_programma order by id";
 
-/// The sample workstation with a registry of data sources that remembers what it was asked.
+/// The sample workstation with a registry of data sources that records its calls.
 template<typename Base>
 class ConFonti : public Base {
 protected:
-    /// The sample's own way to its first company.
+    /// The fields that reach the sample's first company.
     CampiAzienda campi() const {
         const ado::ConnectionString stringa(this->server);
         return {.Driver = "SQL Server",
@@ -52,14 +52,16 @@ protected:
                 .Azienda = "Onlus"};
     }
     std::string serverLocale() const { return this->workstation.driveC().firstLine("C:\\vabo\\NomeServerLocal.txt"); }
-    /// All that one registration asks of the registry.
+    /// All calls of the registry for one registration.
     std::vector<std::string> registrazioni(const CampiAzienda& campi, const std::string& fonte,
                                            const std::string& nomeAzienda) const {
         std::vector<std::string> tutte;
-        for (const auto& una : {registrazione(fonte, campi.Database, "Dati " + campi.Azienda, campi.Server),
-                                registrazione("Tlv_Temp", "VaBoDatiTemp", "Dati " + campi.Azienda, serverLocale()),
-                                registrazione("Tlv_Azienda", "VaBoDatiAzienda", "Dati " + nomeAzienda, serverLocale())})
+        for (const auto& una :
+             {registrazione(fonte, campi.Database, "Dati " + campi.Azienda, campi.Server),
+              registrazione("Tlv_Temp", "VaBoDatiTemp", "Dati " + campi.Azienda, serverLocale()),
+              registrazione("Tlv_Azienda", "VaBoDatiAzienda", "Dati " + nomeAzienda, serverLocale())}) {
             tutte.insert(tutte.end(), una.begin(), una.end());
+        }
         return tutte;
     }
     Rows registro(const char* database = support::kCompany) const {

@@ -11,7 +11,8 @@ namespace vabo {
 
 inline constexpr const char* kForm = "FormRegistraAziendeNeiDns";
 
-/// The form over the first sample company. What it comes back to is a bare form, until a test wants the console.
+/// The form with the first sample company. The form below it on the stack is an empty one, unless a test adds the
+/// console.
 class RegistraForm : public ConFonti<FormTest> {
 protected:
     RegistraForm() {
@@ -49,7 +50,7 @@ protected:
     }
     std::string indirizzo() const { return *workstation.fileText("C:\\vabo\\IndirizzoServer.txt"); }
     std::string nomeServer() const { return *workstation.fileText("C:\\vabo\\NomeServer.txt"); }
-    /// The form is as it was, and so is the workstation.
+    /// Expects form and workstation as they were.
     void aspettaNienteDiFatto() {
         EXPECT_EQ(gui.visibleForms(), kForm);
         EXPECT_EQ(indirizzo(), server + "\r\n");

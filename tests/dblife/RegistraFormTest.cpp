@@ -6,10 +6,10 @@ namespace {
 using support::kCompany;
 using support::kOtherCompany;
 
-/// The test of a server from its field.
+/// The test of a server, which Enter in a field starts.
 using RegistraProva = RegistraForm;
 
-/// The registration.
+/// The registration of a company.
 class Registra : public RegistraForm {
 protected:
     Registra() { apri(); }

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "engine/Error.h"
+#include "engine/errors/Error.h"
 
 #include <gtest/gtest.h>
 

@@ -1,8 +1,8 @@
 #pragma once
 
-#include "engine/Error.h"
-#include "engine/Instance.h"
-#include "engine/Session.h"
+#include "engine/errors/Error.h"
+#include "engine/run/Session.h"
+#include "engine/store/Instance.h"
 #include "support/TemporaryFolder.h"
 
 #include <gtest/gtest.h>

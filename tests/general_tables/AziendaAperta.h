@@ -13,7 +13,7 @@
 
 namespace vabo {
 
-/// The first sample company, taken up, an administrator at work.
+/// The first sample company, taken up, with an administrator logged in.
 class AziendaAperta : public testing::Test {
 protected:
     AziendaAperta() {

@@ -12,7 +12,7 @@ namespace {
 
 constexpr int kNessunErrore = 0;
 
-/// What one reading did: the box it set, if it set one, and the error that ended it.
+/// The result of one function: the value that it set the box to, where it did, and the error that ended it.
 struct Lettura {
     std::optional<int> casella = std::nullopt;
     int errore = kNessunErrore;
@@ -24,7 +24,7 @@ std::ostream& operator<<(std::ostream& out, const Lettura& lettura) {
                << lettura.errore;
 }
 
-/// One stored number: the row and the column that hold it, and who reads it.
+/// One stored number: its row and column, and the function that reads it.
 struct Numero {
     const char* casella;
     const char* colonna;
@@ -95,7 +95,7 @@ TEST_F(CaricaOpzioniTest, EachBoxShowsItsNumberNegatedAndReadsItOnce) {
     }
 }
 
-// Null times -1 is null, and a box takes no null; only one of them is asked for it first.
+// Null times -1 is null, which a box doesn't accept. Only one of the functions checks for null before.
 TEST_F(CaricaOpzioniTest, ANullNumberGoesIntoNoBox) {
     for (const Numero& numero : numeri()) {
         SCOPED_TRACE(numero.casella);

@@ -1,4 +1,4 @@
-// The general tables console while its server fails: some stores skip what fails, the others tell it.
+// The general tables console while its server fails: some stores skip the failing statements, others show the error.
 
 #include "MorlanFixture.h"
 #include "general_tables/Opzioni.h"
@@ -22,16 +22,18 @@ constexpr const char* kGriglie[] = {"DataGrid2", "DataGrid4", "DataGrid11", "Dat
 class GuastoMorlan : public MorlanForm {
 protected:
     GuastoMorlan() { riprendiAzienda(); }
-    /// All that the console writes.
+    /// All tables that the console writes.
     std::vector<Riga> tutto() const {
         std::vector<Riga> righe;
-        for (const std::string tabella : kTabelle)
-            for (const Riga& riga : posto.rows(support::kCompany, "select * from " + tabella + " order by 1"))
+        for (const std::string tabella : kTabelle) {
+            for (const Riga& riga : posto.rows(support::kCompany, "select * from " + tabella + " order by 1")) {
                 righe.push_back(riga);
+            }
+        }
         return righe;
     }
     void premi(const char* bottone) { gui.click("Avvio_Morlan", bottone); }
-    /// The boxes that come meanwhile; the console stands and takes input when they have gone.
+    /// The boxes shown while `lavoro` runs. The console must be visible and enabled afterwards.
     std::vector<std::string> scatoleDurante(const std::function<void()>& lavoro) const {
         std::vector<std::string> testi;
         {
@@ -47,13 +49,15 @@ protected:
     /// How many rows each list and grid shows.
     std::map<std::string, int> liste() const {
         std::map<std::string, int> quante;
-        for (const char* nome : {"DCBItem1", "DCBitem2", "DCBItems3", "DCBitems4", "DCBitem5"})
+        for (const char* nome : {"DCBItem1", "DCBitem2", "DCBItems3", "DCBitems4", "DCBitem5"}) {
             quante[nome] = combo(nome).count();
-        for (const char* nome : kGriglie)
+        }
+        for (const char* nome : kGriglie) {
             quante[nome] = righe(nome);
+        }
         return quante;
     }
-    /// By the way that the pointer files tell now.
+    /// Takes up the company again with the present pointer files.
     void riprendiAzienda() {
         DbAzienda.Close();
         StringaAzienda = ConnessioneAzienda() + ";";
@@ -72,8 +76,9 @@ TEST_P(GuastoAlCaricamento, IsToldOnceAndTheConsoleComesUpEmpty) {
     EXPECT_EQ(scatoleDurante([this] { apri(); }), Testi{GetParam() == Guasto::Gelato ? kMuto : kCaduto});
     EXPECT_EQ(spuntate(), "");
     EXPECT_EQ(combo("DCBItem1").count(), 0);
-    for (const char* nome : kGriglie)
+    for (const char* nome : kGriglie) {
         EXPECT_EQ(righe(nome), 0) << nome;
+    }
     guasto.ripara();
     riapri();
     EXPECT_GT(righe("DataGrid2"), 0);
@@ -81,7 +86,7 @@ TEST_P(GuastoAlCaricamento, IsToldOnceAndTheConsoleComesUpEmpty) {
 
 INSTANTIATE_TEST_SUITE_P(Di, GuastoAlCaricamento, testing::Values(Guasto::Spento, Guasto::Gelato), kNomeDelGuasto);
 
-// A box that the load sets has an event of its own, which tells its own failure.
+// A check box that the load sets runs its own handler, which may show an error of its own.
 TEST_F(GuastoMorlan, AtWhateverStatementOfTheLoadTheServerEndsTheLoadAndOneBoxAtMostTellIt) {
     int tutte = 0;
     ado::setStatementRecorder([&](const std::string& /*testo*/) { ++tutte; });
@@ -93,15 +98,16 @@ TEST_F(GuastoMorlan, AtWhateverStatementOfTheLoadTheServerEndsTheLoadAndOneBoxAt
         SCOPED_TRACE(fatale);
         int inviate = 0;
         ado::setStatementRecorder([&](const std::string& /*testo*/) {
-            if (++inviate == fatale)
+            if (++inviate == fatale) {
                 guasto.avviene(Guasto::Spento);
+            }
         });
         const Testi dette = scatoleDurante([this] { riapri(); });
         ado::setStatementRecorder({});
         ASSERT_GE(inviate, fatale);
         EXPECT_THAT(dette, testing::AnyOf(Testi{}, Testi{kCaduto}, Testi{kCaduto, kIrraggiungibile}));
         guasto.ripara();
-        riprendiAzienda(); // the loss may not have been met yet
+        riprendiAzienda(); // the program may not have noticed the loss yet
     }
     EXPECT_EQ(tutto(), prima);
     riapri();
@@ -122,8 +128,9 @@ TEST_F(GuastoMorlan, InTheMiddleOfWhateverAnswerOfTheLoadTheWireIsCutAListIsWhol
         SCOPED_TRACE(prova);
         filo->cutAfter(tutti * prova / kProve);
         EXPECT_LE(scatoleDurante([this] { riapri(); }).size(), 2U);
-        for (const auto& [nome, quante] : liste())
+        for (const auto& [nome, quante] : liste()) {
             EXPECT_THAT(quante, testing::AnyOf(0, intere.at(nome))) << nome;
+        }
         filo->mend();
     }
     EXPECT_EQ(tutto(), prima);
@@ -158,7 +165,7 @@ struct Salvataggio {
     const char* griglia;
     const char* riga;
     const char* selettore;
-    Testi scatole; ///< that tell of it
+    Testi scatole; ///< shown for the failure
 };
 std::ostream& operator<<(std::ostream& out, const Salvataggio& uno) {
     return out << uno.nome;
@@ -189,7 +196,7 @@ INSTANTIATE_TEST_SUITE_P(Di, GuastoNelSalvataggio,
                                          Salvataggio{"Personale", 5, "DataGridPersonale", "3", "DCBitems4", {}}),
                          [](const auto& info) { return info.param.nome; });
 
-// Lists and grids have connections of their own: they are back as soon as their server is.
+// Lists and grids open connections of their own, so they work again as soon as their server does.
 TEST_F(GuastoMorlan, TheTurnOfTheOtherAccountsTellsItAndTheNextOneShowsItsTableAgain) {
     apri();
     scheda(2);

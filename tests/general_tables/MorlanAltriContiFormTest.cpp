@@ -11,8 +11,9 @@ protected:
         scheda(2);
     }
     void gira(int volte = 1) {
-        for (int i = 0; i < volte; ++i)
+        for (int i = 0; i < volte; ++i) {
             gui.click("Avvio_Morlan", "Command18");
+        }
     }
     std::string voce(const std::string& id) const {
         return valore("select NomeConto + ' ' + Contoreport from conti where IdConto = " + id);
@@ -223,7 +224,7 @@ TEST_F(MorlanAltriConti, ANullGroupStopsTheStoreWithItsMessage) {
 
 TEST_F(MorlanAltriConti, APositionPastTheEndOfTheTableBringsTheSourceThatFails) {
     gira();
-    // "Trattenute sindacali", last by description, has place 12 of 12: the next table ends before that.
+    // "Trattenute sindacali", the last by description, is row 12 of 12; the next table has fewer rows.
     scegli("DataGrid4", "4");
     griglia("DataGrid4").selectRow(righe("DataGrid4") - 1);
     scegli("DataGrid4", cella("DataGrid4", righe("DataGrid4") - 1, 0));
@@ -245,8 +246,9 @@ TEST_F(MorlanAltriConti, APositionPastTheEndOfTheTableBringsTheSourceThatFails) 
 TEST_F(MorlanAltriConti, WithAnEmptyGridADoubleClickTellsTheError) {
     const char* const tabelle[] = {"tipoanagrafica", "bustetabellacontiutili", "tabellacontiutiliTransfersHQ",
                                    "tabellacontiutilicontributi"};
-    for (const char* tabella : tabelle)
+    for (const char* tabella : tabelle) {
         esegui(std::string("delete from ") + tabella);
+    }
     riapri();
     scheda(2);
     for (const char* tabella : tabelle) {

@@ -1,4 +1,4 @@
-// What is typed on the general tables console stands in no statement: those sent are the same as without it.
+// Nothing typed on the general tables console gets into a statement: the statements sent are the same as without it.
 
 #include "MorlanFixture.h"
 #include "support/Attacks.h"
@@ -10,27 +10,29 @@ namespace {
 
 class MorlanAttacchi : public MorlanForm {
 protected:
-    /// Every so many, of all kinds: a store reads its grid anew, which takes its time.
+    /// Some attacks of each kind. Not all, since each store reads its grid again, which is slow.
     static std::vector<std::string> alcuni() {
         constexpr std::size_t kPasso = 9;
         const std::vector<std::string> tutti = support::attacks();
         std::vector<std::string> scelti = {"'; delete from conti --", "0 where 1=1 --"};
-        for (std::size_t i = 0; i < tutti.size(); i += kPasso)
+        for (std::size_t i = 0; i < tutti.size(); i += kPasso) {
             scelti.push_back(tutti[i]);
+        }
         return scelti;
     }
     static void incolla(QLineEdit& campo, const std::string& testo) {
         campo.clear();
         campo.insert(QString::fromStdString(testo));
     }
-    /// The statements of a row that is chosen and stored with Enter, with that text in the picker meanwhile.
+    /// The statements sent when a row is chosen, that text typed into the picker, and Enter pressed.
     std::vector<std::string> salvando(const char* griglia, const char* riga, const char* selettore,
                                       const std::string* digitato = nullptr) {
         const support::StatementRecorder recorder;
         scegli(griglia, riga);
         EXPECT_EQ(fuoco(), selettore);
-        if (digitato != nullptr)
+        if (digitato != nullptr) {
             incolla(*combo(selettore).lineEdit(), *digitato);
+        }
         gui.press(Qt::Key_Return);
         return recorder.texts();
     }
@@ -53,9 +55,10 @@ TEST_P(MorlanAttacchiAlSelettore, AStoreSendsWhatItSendsWithoutThem) {
     const auto prima = conti();
     const auto attese = salvando(griglia, riga, selettore);
     ASSERT_FALSE(attese.empty());
-    for (const std::string& attacco : alcuni())
+    for (const std::string& attacco : alcuni()) {
         EXPECT_EQ(salvando(griglia, riga, selettore, &attacco), attese)
             << testing::PrintToString(attacco.substr(0, 60));
+    }
     EXPECT_EQ(conti(), prima);
 }
 
@@ -74,12 +77,13 @@ TEST_F(MorlanAttacchi, APickedTreatmentSendsWhatItSendsWithoutThemInItsFields) {
         prendi("DCBitem5", "Imponibile 10%");
         return recorder.texts();
     };
-    prendendo(); // the row holds it from now on
+    prendendo(); // once without counting, so that the row has this account each time after
     const auto attese = prendendo();
     ASSERT_FALSE(attese.empty());
     for (const std::string& attacco : alcuni()) {
-        for (const char* campo : {"Aliquota", "Detrazione", "Sigla"})
+        for (const char* campo : {"Aliquota", "Detrazione", "Sigla"}) {
             incolla(controllo<QLineEdit>(campo), attacco);
+        }
         EXPECT_EQ(prendendo(), attese) << testing::PrintToString(attacco.substr(0, 60));
     }
     EXPECT_EQ(posto.rows(support::kCompany, "select idTipo, Aliquota, Sigla, Detrazione from IvaAliquotaStandard"),

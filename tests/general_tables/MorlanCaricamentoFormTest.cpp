@@ -3,19 +3,19 @@
 namespace vabo {
 namespace {
 
-/// The console after a load that ended before its last step. What the load hasn't reached has neither a connection nor
-/// a source, and a refresh of it fails; no store says more of it than the error does.
+/// The console after a load that ended before its last step. Data controls that the load didn't reach have neither
+/// connection text nor source, so that their refresh fails; a store shows only that error.
 class MorlanCaricamento : public MorlanForm {
 protected:
     static constexpr const char* kSenzaSorgente = "Server does not exist or access denied.";
     static constexpr const char* kSenzaColonne = "Subscript out of range";
 
-    /// The ticked box of the budget items ends the reading of the options at its row.
+    /// The box of the budget items is ticked, which ends the reading of the options at its row with an error.
     void apriFinoAlBudget() {
         esegui("update TabellaUilityConti set Lunghezza = -1 where id = 5");
         apri();
     }
-    /// The list of the third tab can't be read: none of the options, and none of the grids.
+    /// The second list can't be read: the load ends before all options and grids.
     void apriFinoAgliElenchi() {
         esegui("drop table tabellacontiutili");
         script.expectMessage("Invalid object name 'tabellacontiutili'.");

@@ -11,7 +11,7 @@ protected:
         scheda(1);
     }
     Riga conto(int id) const { return MorlanForm::conto("TabellaContiUtili", "ID", id); }
-    /// What the list of the picker calls an account.
+    /// The text of an account in the picker's list.
     std::string voce(const std::string& id) const {
         return valore("select NomeConto + ' ' + Contoreport from conti where IdConto = " + id);
     }
@@ -72,9 +72,11 @@ TEST_F(MorlanContiUtili, AfterTheLastRowTheGridStaysThere) {
 TEST_F(MorlanContiUtili, TheChosenRowStaysInSightWhenItsFrameOpens) {
     auto& vista = griglia("DataGrid2");
     int ultima = 0;
-    for (int riga = 0; riga < righe("DataGrid2"); ++riga)
-        if (vista.viewport()->rect().contains(vista.visualRect(vista.model()->index(riga, 1))))
+    for (int riga = 0; riga < righe("DataGrid2"); ++riga) {
+        if (vista.viewport()->rect().contains(vista.visualRect(vista.model()->index(riga, 1)))) {
             ultima = riga;
+        }
+    }
     const int prima = vista.viewport()->height();
     scegli("DataGrid2", cella("DataGrid2", ultima, 0));
     support::Gui::handleEvents();

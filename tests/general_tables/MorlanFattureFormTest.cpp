@@ -200,8 +200,9 @@ TEST_F(MorlanFatture, TheSameTableByWayOfTheThirdTabShowsTheChangeAtOnce) {
     scegli("DataGrid4", "3");
     prendi("DCBitem2", voce("1052"));
     bool visto = false;
-    for (int r = 0; r < righe("DataGrid4"); ++r)
+    for (int r = 0; r < righe("DataGrid4"); ++r) {
         visto = visto || (cella("DataGrid4", r, 0) == "3" && cella("DataGrid4", r, 3) == nome("1052"));
+    }
     EXPECT_TRUE(visto);
 }
 
@@ -275,8 +276,9 @@ TEST_F(MorlanFatture, OneEnterTakesWhatTheSearchHasFoundAndStoresIt) {
 TEST_F(MorlanFatture, TheListOfInvoicesHoldsDebtsAndCreditsAlone) {
     const auto offerti = posto.rows(support::kCompany, kElencoContiFatture);
     ASSERT_EQ(combo("DCBItems3").count(), static_cast<int>(offerti.size()));
-    for (std::size_t i = 0; i < offerti.size(); ++i)
+    for (std::size_t i = 0; i < offerti.size(); ++i) {
         EXPECT_EQ(combo("DCBItems3").itemText(static_cast<int>(i)).toStdString(), offerti[i][1]);
+    }
 }
 
 } // namespace

@@ -18,7 +18,7 @@
 
 namespace vabo {
 
-/// The general tables console over the first sample company. What it comes back to is a bare form.
+/// The general tables console with the first sample company. The form below it on the stack is an empty one.
 class MorlanForm : public AziendaAperta {
 protected:
     MorlanForm() {
@@ -59,7 +59,7 @@ protected:
         return pagina.search(nome, lettere);
     }
     void tornaDavanti() const { pagina.comeToFront(); }
-    /// Both columns that point a row to its account.
+    /// The two columns with a row's account and its group.
     Riga conto(const std::string& tabella, const std::string& chiave, int id) const {
         return riga("select idconto, idconto1 from " + tabella + " where " + chiave + " = " + std::to_string(id));
     }

@@ -13,7 +13,7 @@ namespace {
 
 class MorlanFrame : public MorlanForm {
 protected:
-    /// A form of that name that pops the stack when it goes, as every tracked form does.
+    /// Adds a form of that name whose Unload takes it off the stack, as that of every form on the stack does.
     void costruisci(const char* nome) {
         gui.forms().add(nome, [this, nome] {
             return std::make_unique<RecordedForm>(nome, eventi,
@@ -31,7 +31,7 @@ protected:
     }
 
     std::vector<std::string> eventi;
-    bool clessidra = false; ///< whether the hourglass was up while the form loaded
+    bool clessidra = false; ///< whether the hourglass was shown while the form loaded
 };
 
 struct Comando {
@@ -59,8 +59,9 @@ TEST_F(MorlanFrame, SixTabsUnderTheTitle) {
                                       "Tabella Gestione Iva e Fatturazione",
                                       "Personale"};
     ASSERT_EQ(schede.count(), 6);
-    for (int i = 0; i < schede.count(); ++i)
+    for (int i = 0; i < schede.count(); ++i) {
         EXPECT_EQ(schede.tabText(i), didascalie[i]);
+    }
     EXPECT_EQ(testo("Label21"), "Morlan");
     EXPECT_EQ(testo("Command39"), "Tabelle Morlan");
     EXPECT_EQ(controllo<QComboBox>("Combo8").currentText().toStdString(), support::kCompany);
@@ -73,8 +74,9 @@ TEST_F(MorlanFrame, EveryCaptionIsAsItsUsersKnowIt) {
         {"Frame15", "Gestione Caselle Budget Items"},
         {"Frame5", "Tabella Generale Conti per le registrazioni di Fatture"},
     };
-    for (const auto& [nome, titolo] : gruppi)
+    for (const auto& [nome, titolo] : gruppi) {
         EXPECT_EQ(controllo<QGroupBox>(nome).title(), titolo);
+    }
     // box, its caption, the title of the group around it
     const char* const caselle[][3] = {
         {"Check1", "Gestisci Note Di Debito", "Gestione Note di Debito"},
@@ -97,8 +99,9 @@ TEST_F(MorlanFrame, EveryCaptionIsAsItsUsersKnowIt) {
         EXPECT_EQ(gruppo->title(), titolo);
     }
     EXPECT_EQ(testo("Command31"), "Definizione del Piano dei Conti utilizzato");
-    for (const Comando& comando : kComandi)
+    for (const Comando& comando : kComandi) {
         EXPECT_EQ(testo(comando.bottone), comando.didascalia);
+    }
 }
 
 TEST_F(MorlanFrame, EveryButtonHasAMnemonicOfItsOwn) {
@@ -154,10 +157,12 @@ TEST_F(MorlanFrame, EveryPickerHasItsLabel) {
                                                              {"DCBitem5", "Trattamento Iva Standard"},
                                                              {"Descrizione", "Descrizione"},
                                                              {"tipoanagrafe", "Tipo conto"}};
-    for (const auto& [nome, didascalia] : etichette)
+    for (const auto& [nome, didascalia] : etichette) {
         EXPECT_EQ(gui.find("Avvio_Morlan", nome).accessibleName(), didascalia) << nome;
-    for (const char* nome : {"DCBItem1", "DCBitem2", "DCBItems3", "DCBitems4"})
+    }
+    for (const char* nome : {"DCBItem1", "DCBitem2", "DCBItems3", "DCBitems4"}) {
         EXPECT_EQ(combo(nome).Text(), "Seleziona");
+    }
 }
 
 TEST_F(MorlanFrame, TheEditFramesShowOnlyWhileARowIsChanged) {
@@ -171,7 +176,7 @@ TEST_F(MorlanFrame, TheLoadSendsItsStatementsInTheirOrderAndNoOther) {
     const support::StatementRecorder recorder;
     apri();
     std::vector<std::string> inviate = recorder.texts();
-    // What the data layer composes of its own when a box that is set rewrites its row.
+    // Without the data layer's own statements, which a box that is set sends to write its row.
     std::erase_if(inviate, [](const std::string& t) { return t.starts_with("SELECT [") || t.starts_with("UPDATE ["); });
     EXPECT_EQ(inviate, (std::vector<std::string>{"select * from TabellaUilityConti where id = 8",
                                                  "select * from TabellaUilityConti where id = 8", // the box it sets
@@ -227,8 +232,9 @@ TEST_F(MorlanFrame, AfterTheFirstTwoListsFailuresAreSilent) {
 }
 
 TEST_F(MorlanFrame, EachCommandOpensItsFormAndTheConsoleComesBack) {
-    for (const Comando& comando : kComandi)
+    for (const Comando& comando : kComandi) {
         costruisci(comando.form);
+    }
     apri();
     for (const Comando& comando : kComandi) {
         SCOPED_TRACE(comando.bottone);
@@ -245,7 +251,7 @@ TEST_F(MorlanFrame, EachCommandOpensItsFormAndTheConsoleComesBack) {
     }
 }
 
-/// A program that has no form but the console.
+/// A program whose only form is the console.
 class MorlanAlone : public AziendaAperta {
 protected:
     MorlanAlone() {
@@ -315,7 +321,7 @@ TEST_F(MorlanFrame, TheReportIsShownInPrintPreview) {
 
 struct Layout {
     const char* griglia;
-    std::vector<std::pair<std::string, int>> colonne; ///< caption and width in twips of those that are seen
+    std::vector<std::pair<std::string, int>> colonne; ///< caption and width in twips of the visible ones
 };
 
 TEST_F(MorlanFrame, TheGridsShowTheirColumnsAndTakeNoText) {
@@ -332,8 +338,9 @@ TEST_F(MorlanFrame, TheGridsShowTheirColumnsAndTakeNoText) {
         for (int i = 0; i < griglia(nome).ColumnCount(); ++i) {
             const auto colonna = griglia(nome).Columns(i);
             EXPECT_TRUE(colonna.Locked()) << i;
-            if (colonna.Visible())
+            if (colonna.Visible()) {
                 viste.emplace_back(colonna.Caption(), colonna.Width());
+            }
         }
         EXPECT_EQ(viste, colonne);
     }

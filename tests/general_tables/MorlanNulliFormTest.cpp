@@ -10,8 +10,8 @@
 namespace vabo {
 namespace {
 
-/// A null in each column that the console reads. A comparison with null is false and raises nothing; a null that has to
-/// go into a number or a box raises "Invalid use of Null", which the load skips and the events tell.
+/// A null in each column that the console reads. A comparison with null is false and raises nothing. Where a null is
+/// assigned to a number or a box it raises "Invalid use of Null", which the load skips and the events show.
 class MorlanNulli : public MorlanForm {
 protected:
     std::vector<Riga> tabella(const std::string& nome) const {
@@ -20,7 +20,7 @@ protected:
     std::vector<std::string> trattamento() const {
         return {combo("DCBitem5").Text(), testo("Aliquota"), testo("Detrazione"), testo("Sigla")};
     }
-    /// Whatever their order on the form.
+    /// The names as a set, since their order on the form doesn't matter.
     static std::set<std::string> nomi(const std::string& elenco) {
         std::istringstream parole(elenco);
         return {std::istream_iterator<std::string>(parole), {}};
@@ -89,8 +89,9 @@ TEST_F(MorlanNulli, ABoxWritesOverANull) {
     esegui("update datiGenerali set Contatore = null where id = 15");
     esegui("update TabellaUilityConti set Lunghezza = null where id = 9");
     apri();
-    for (const char* nome : {"Check13", "Check12"})
+    for (const char* nome : {"Check13", "Check12"}) {
         controllo<controls::CheckBox>(nome).setValue(1);
+    }
     EXPECT_EQ(valore("select Contatore from datiGenerali where id = 15"), "-1");
     EXPECT_EQ(valore("select Lunghezza from TabellaUilityConti where id = 9"), "1");
 }
@@ -172,13 +173,13 @@ constexpr Griglia kAltri = {2, "DataGrid4", "2", "tipoanagrafe", "DCBitem2", "ti
 constexpr Griglia kFatture = {4, "DataGrid11", "3", nullptr, "DCBItems3", "ivaTabellaContiUtili", "ID"};
 constexpr Griglia kBuste = {5, "DataGridPersonale", "3", nullptr, "DCBitems4", "bustetabellacontiutili", "Id"};
 
-/// A null, and what choosing the row and Enter make of it.
+/// A null, and the result of choosing its row and pressing Enter.
 struct Scelta {
     const char* comando;
     const Griglia& griglia;
     const char* descritta;
-    const char* mostrato; ///< an account's number stands for its name
-    const char* scatola;  ///< what Enter tells, "" for nothing
+    const char* mostrato; ///< the account's number is used as its name
+    const char* scatola;  ///< the box that Enter shows, "" for none
     const char* conto;
     const char* gruppo;
 };
@@ -201,8 +202,9 @@ TEST_P(MorlanNulliNellaRiga, ItCanBeChosenAndStored) {
     }
     EXPECT_EQ(combo(g.selettore).Text(), mostrato);
     EXPECT_EQ(fuoco(), g.selettore);
-    if (*scelta.scatola != '\0')
+    if (*scelta.scatola != '\0') {
         script.expectMessage(scelta.scatola);
+    }
     gui.press(Qt::Key_Return);
     EXPECT_TRUE(script.allShown());
     EXPECT_EQ(conto(g.tabella, g.chiave, std::stoi(g.riga)), (Riga{scelta.conto, scelta.gruppo}));
@@ -226,7 +228,7 @@ INSTANTIATE_TEST_SUITE_P(
         Scelta{"update gruppivabo set dettagli = null where idgruppo = 39", kUtili, kBanca, "1150", "", "1150", "39"},
         Scelta{"update progetti set Type = null, Number = null", kUtili, kBanca, "1150", "", "1150", "39"}));
 
-// An error is told. A name and an account that are null leave what stood there.
+// Errors are shown. Where name and account are null, the former ones stay.
 INSTANTIATE_TEST_SUITE_P(
     AltriConti, MorlanNulliNellaRiga,
     testing::Values(Scelta{"update tipoanagrafica set TipoAnagrafe = null where IdTipoAnagrafica = 2", kAltri, "",
@@ -268,8 +270,9 @@ INSTANTIATE_TEST_SUITE_P(
 
 TEST_F(MorlanNulli, ARowWhoseKeyCountsAsNothingIsNotChosen) {
     const Griglia griglie[] = {kUtili, kAltri, kFatture, kBuste};
-    for (const Griglia& g : griglie)
+    for (const Griglia& g : griglie) {
         esegui(std::string("update ") + g.tabella + " set " + g.chiave + " = 0 where " + g.chiave + " = " + g.riga);
+    }
     apri();
     for (const Griglia& g : griglie) {
         SCOPED_TRACE(g.nome);

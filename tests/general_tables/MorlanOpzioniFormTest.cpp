@@ -25,8 +25,9 @@ TEST_F(MorlanOpzioni, TheBoxesShowWhatTheRowsHold) {
     esegui("update TabellaUilityConti set Lunghezza = 1 where id = 9");
     apri();
     for (const char* nome :
-         {"Check1", "Check2", "Check3", "Check4", "Check5", "Check6", "Check13", "Check9", "Check10", "Check12"})
+         {"Check1", "Check2", "Check3", "Check4", "Check5", "Check6", "Check13", "Check9", "Check10", "Check12"}) {
         EXPECT_EQ(casella(nome), 1) << nome;
+    }
     EXPECT_EQ(casella("Check7"), 0);
     EXPECT_EQ(casella("Check11"), 0);
     EXPECT_EQ(righe("DataGrid11"), 10);

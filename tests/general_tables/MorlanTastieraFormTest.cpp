@@ -3,7 +3,7 @@
 namespace vabo {
 namespace {
 
-/// The whole road with the keyboard alone, from the company console to the rows of the tables.
+/// From the company console to the rows of the tables with the keyboard alone.
 class MorlanTastiera : public MorlanForm {
 protected:
     MorlanTastiera() {
@@ -16,18 +16,20 @@ protected:
     /// Presses a key until that control has the focus.
     void vaiA(const std::string& nome, Qt::Key tasto = Qt::Key_Tab) {
         constexpr int kPiuDelleFermate = 60;
-        for (int i = 0; i < kPiuDelleFermate && fuoco() != nome; ++i)
+        for (int i = 0; i < kPiuDelleFermate && fuoco() != nome; ++i) {
             gui.press(tasto);
+        }
         ASSERT_EQ(fuoco(), nome);
     }
-    /// From anywhere on the form, to the tabs and along them.
+    /// Goes from anywhere on the form to the tab bar and along it to that tab.
     void vaiAllaScheda(int numero) {
         vaiA("qt_tabwidget_tabbar");
         auto& schede = controllo<QTabWidget>("SSTab1");
-        while (schede.currentIndex() != numero)
+        while (schede.currentIndex() != numero) {
             gui.press(schede.currentIndex() < numero ? Qt::Key_Right : Qt::Key_Left);
+        }
     }
-    /// Types into the picker and takes the first account that is found.
+    /// Types into the picker and picks the first account that is found.
     void cercaEPrendi(const std::string& nome, const std::string& lettere) {
         ASSERT_EQ(fuoco(), nome);
         gui.type(lettere);

@@ -93,8 +93,9 @@ TEST_F(PianoDeiContiTest, AnAnswerThatIsNoNumberReachesNoStatement) {
     const auto attese = definendo("");
     const auto altre = posto.rows(support::kCompany, "select * from TabellaUilityConti where id > 5 order by id");
     for (const std::string& risposta : support::attacks()) {
-        if (risposta == "-1" || risposta == "1e308") // the only numbers among them
+        if (risposta == "-1" || risposta == "1e308") { // the only numbers among them
             continue;
+        }
         EXPECT_EQ(definendo(risposta), attese) << testing::PrintToString(risposta.substr(0, 60));
         EXPECT_EQ(lunghezze(), (Riga{"-1", "3", "2", "3", "0"}));
     }

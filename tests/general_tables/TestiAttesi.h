@@ -4,7 +4,7 @@
 
 namespace vabo {
 
-// The statements of the grids and of the lists, letter for letter, as they have to go out.
+// The statements of the grids and of the lists, letter for letter as they must be sent.
 
 inline constexpr const char* kTestoContiUtili =
     "SELECT T.ID, T.Description, C.NomeConto, P.Type, P.Number,T.idconto,T.idconto1,gruppivabo.idgruppo, "
@@ -36,7 +36,7 @@ inline constexpr std::array<const char*, 4> kTestiAltriConti = {
     "T.idconto1 = gruppivabo.idgruppo order by T.Description",
 };
 
-/// In the place of an empty source after a store: the lone quotes make the server refuse it.
+/// Used after a store where the grid's recordset is at EOF. The server refuses it because of the unpaired quotes.
 inline constexpr std::array<const char*, 4> kTestiDiRipiego = {
     "SELECT T.Id, T.description, T.idconto, \" as NomeConto, T.idconto1,\" as idgruppo, \" as dettagli FROM "
     "tipoanagrafica order by T.Description",

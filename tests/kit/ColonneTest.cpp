@@ -14,7 +14,7 @@ namespace {
 using namespace vabo;
 using Row = std::vector<std::string>;
 
-/// A table of three rows that an older version made.
+/// A table of three rows that an older version created.
 class Colonne : public testing::Test {
 protected:
     Colonne() {
@@ -109,7 +109,7 @@ TEST_F(Colonne, ColumnsAreAddedOnceAndTheirRefusalIsSilent) {
     EXPECT_EQ(workstation.value(support::kCompany, "select tipo from voci where id = 2"), "Uso");
 }
 
-/// What a grid stands on.
+/// A data control with a recordset, as a grid has it.
 struct Control {
     ado::Recordset& Recordset() const {
         if (rows == nullptr) {

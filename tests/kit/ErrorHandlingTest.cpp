@@ -45,15 +45,17 @@ TEST_F(ErrorHandling, AnUpdateThatFailsRaisesInItsCaller) {
 }
 
 TEST_F(ErrorHandling, ChiudiRecordsetGivesBackAllSharedRecordsetsAndDbLocale) {
-    for (int posto = 1; posto <= RecordsetCondivisi::kNumero; ++posto)
+    for (int posto = 1; posto <= RecordsetCondivisi::kNumero; ++posto) {
         RsCondivisi(posto).Open("select * from Sede", DbAzienda);
+    }
     DbLocale = std::make_unique<ado::Connection>();
     DbLocale->Open(server);
 
     EXPECT_EQ(ChiudiRecordset(), "");
 
-    for (int posto = 1; posto <= RecordsetCondivisi::kNumero; ++posto)
+    for (int posto = 1; posto <= RecordsetCondivisi::kNumero; ++posto) {
         EXPECT_FALSE(RsCondivisi(posto).IsOpen()) << posto;
+    }
     EXPECT_EQ(DbLocale, nullptr);
 }
 

@@ -49,8 +49,9 @@ TEST(IsEmptyValue, GoesByTheTypeOfTheValue) {
         {"text", ado::Value("x"), false},
         {"no text", ado::Value(""), true},
     };
-    for (const Case& c : cases)
+    for (const Case& c : cases) {
         EXPECT_EQ(IsEmptyValue(c.value), c.empty) << c.what;
+    }
 }
 
 class EmptyText : public testing::TestWithParam<const char*> {};

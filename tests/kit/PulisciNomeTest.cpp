@@ -13,8 +13,9 @@ std::string cleaned(std::string text) {
 }
 
 TEST(PulisciNome, ReplacesEachForbiddenCharacterByAnUnderscore) {
-    for (const char c : std::string(" ,/\\'&@\"-+!=?^$#()[]*"))
+    for (const char c : std::string(" ,/\\'&@\"-+!=?^$#()[]*")) {
         EXPECT_EQ(cleaned(std::string("a") + c + "b"), "a_b") << "character " << c;
+    }
 }
 
 TEST(PulisciNome, LeavesAllOtherPrintableCharacters) {
@@ -36,8 +37,9 @@ TEST(PulisciNome, CleansWholeNames) {
         {"a.b;c:d<e>f|g%h_i`j~k{l}", "a.b;c:d<e>f|g%h_i`j~k{l}"},
         {"ʼ’＇", "ʼ’＇"},
     };
-    for (const auto& [text, expected] : cases)
+    for (const auto& [text, expected] : cases) {
         EXPECT_EQ(cleaned(text), expected);
+    }
 }
 
 TEST(PulisciNome, ChangesItsArgumentAndGivesItBack) {

@@ -18,8 +18,9 @@ struct Journal {
 
     void note(const std::string& call) {
         calls.push_back(call);
-        if (!failing.empty() && call.starts_with(failing))
+        if (!failing.empty() && call.starts_with(failing)) {
             throw std::runtime_error(failing);
+        }
     }
 };
 

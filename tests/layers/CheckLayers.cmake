@@ -1,4 +1,4 @@
-# Reads every source below ROOT and names each line that goes against the arrows of the house.
+# Reads every source below ROOT and reports each #include that goes against the layers.
 #   cmake -DROOT=<project> -P CheckLayers.cmake
 
 # What a folder of src may include.
@@ -9,8 +9,11 @@ set(allowed_controls controls/ platform/ ado/)
 set(allowed_state state/ ado/)
 set(allowed_kit kit/ state/ platform/ ado/)
 
+# The folders of the engine from the lowest up: each may include itself and those before it.
+set(engine_rooms errors values text store functions bind translate run)
+
 set(boxes "QMessageBox|QInputDialog|QFileDialog")
-# Spelt so that a search for the marks doesn't find this line.
+# Written with brackets so that a search for these words doesn't find this line.
 set(mark "(^|[^A-Za-z0-9_])(TO[D]O|FIX[M]E|X[X]X|HA[C]K)([^A-Za-z0-9_]|$)")
 set(findings "")
 set(unicode_files "")
@@ -19,7 +22,7 @@ macro(report file what)
     list(APPEND findings "${file}: ${what}")
 endmacro()
 
-# file(STRINGS) would take a bracket or a semicolon in a line for list syntax; includes have neither.
+# Only includes are read: file(STRINGS) takes a bracket or a semicolon in a line for list syntax, and they have neither.
 function(includes_of file result)
     file(STRINGS ${ROOT}/${file} lines REGEX "^[ \t]*#[ \t]*include[ \t]*[<\"]")
     set(names "")
@@ -30,7 +33,7 @@ function(includes_of file result)
     set(${result} "${names}" PARENT_SCOPE)
 endfunction()
 
-# Whether one of the folders of the list holds that header.
+# Whether the header is in one of the folders of the list.
 function(is_allowed header list result)
     set(${result} FALSE PARENT_SCOPE)
     foreach(entry IN LISTS list)
@@ -41,12 +44,26 @@ function(is_allowed header list result)
     endforeach()
 endfunction()
 
+macro(check_room file room header)
+    if("${file}" MATCHES "^src/engine/([^/]*)/")
+        set(own_room ${CMAKE_MATCH_1})
+        list(FIND engine_rooms ${own_room} from)
+        list(FIND engine_rooms ${room} to)
+        if(from LESS 0 OR to LESS 0 OR to GREATER from)
+            report(${file} "the engine's ${own_room} may not include ${header}")
+        endif()
+    endif()
+endmacro()
+
 macro(check_quoted file folder header)
     if(DEFINED allowed_${folder})
         is_allowed("${header}" "${allowed_${folder}}" permitted)
         if(NOT permitted)
             report(${file} "${folder} may not include ${header}")
         endif()
+    endif()
+    if("${header}" MATCHES "^engine/([^/]*)/")
+        check_room(${file} ${CMAKE_MATCH_1} ${header})
     endif()
     if("${header}" MATCHES "^app/" AND NOT "${folder}" STREQUAL "app")
         report(${file} "only app includes ${header}")
@@ -76,6 +93,9 @@ endmacro()
 file(GLOB_RECURSE sources RELATIVE ${ROOT} ${ROOT}/src/*.h ${ROOT}/src/*.cpp)
 foreach(file IN LISTS sources)
     string(REGEX REPLACE "^src/([^/]+)/.*$" "\\1" folder "${file}")
+    if("${file}" MATCHES "^src/engine/[^/]*$")
+        report(${file} "a source of the engine stands in one of its rooms")
+    endif()
     includes_of(${file} headers)
     foreach(header IN LISTS headers)
         string(SUBSTRING "${header}" 0 1 kind)

@@ -61,42 +61,47 @@ std::string toUtf8(std::u16string_view text) {
     for (std::size_t i = 0; i < text.size(); ++i) {
         char32_t c = text[i];
         const bool high = c >= 0xD800 && c < 0xDC00;
-        if (high && i + 1 < text.size() && text[i + 1] >= 0xDC00 && text[i + 1] < 0xE000)
+        if (high && i + 1 < text.size() && text[i + 1] >= 0xDC00 && text[i + 1] < 0xE000) {
             c = 0x10000 + ((c - 0xD800) << 10) + (text[++i] - 0xDC00);
-        else if (c >= 0xD800 && c < 0xE000)
+        } else if (c >= 0xD800 && c < 0xE000) {
             c = kReplacement;
+        }
         appendUtf8(out, c);
     }
     return out;
 }
 
 std::string ByteReader::ucs2(std::size_t characters) {
-    if (characters > left() / 2)
+    if (characters > left() / 2) {
         throw ProtocolError("text ends early");
+    }
     std::u16string text(characters, u'\0');
     std::generate(text.begin(), text.end(), [this] { return static_cast<char16_t>(u16()); });
     return toUtf8(text);
 }
 
 ByteWriter& ByteWriter::ucs2(std::string_view text) {
-    for (const char16_t c : toUtf16(text))
+    for (const char16_t c : toUtf16(text)) {
         u16(c);
+    }
     return *this;
 }
 
 ByteWriter& ByteWriter::shortText(std::string_view text) {
     const std::u16string wide = toUtf16(text).substr(0, 255);
     u8(static_cast<std::uint8_t>(wide.size()));
-    for (const char16_t c : wide)
+    for (const char16_t c : wide) {
         u16(c);
+    }
     return *this;
 }
 
 ByteWriter& ByteWriter::longText(std::string_view text) {
     const std::u16string wide = toUtf16(text).substr(0, 4000);
     u16(static_cast<std::uint16_t>(wide.size()));
-    for (const char16_t c : wide)
+    for (const char16_t c : wide) {
         u16(c);
+    }
     return *this;
 }
 

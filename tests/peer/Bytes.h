@@ -1,6 +1,6 @@
 #pragma once
 
-// Little-endian bytes of the wire, read within bounds and written in order.
+// Reads and writes the protocol's little-endian bytes; reading is checked for bounds.
 
 #include <cstdint>
 #include <span>
@@ -13,7 +13,7 @@ namespace peer {
 
 using Bytes = std::vector<std::uint8_t>;
 
-/// What the other side sent is no message of the protocol. The connection ends.
+/// The other side sent something that isn't a message of the protocol. The connection is closed.
 class ProtocolError : public std::runtime_error {
 public:
     using std::runtime_error::runtime_error;
@@ -34,16 +34,18 @@ public:
         return static_cast<std::uint16_t>(two[0] << 8 | two[1]);
     }
     std::span<const std::uint8_t> take(std::size_t count) {
-        if (count > left())
+        if (count > left()) {
             throw ProtocolError("message ends early");
+        }
         const auto piece = bytes_.subspan(place_, count);
         place_ += count;
         return piece;
     }
-    /// Another place of the same message.
+    /// The bytes at another place of the same message.
     std::span<const std::uint8_t> at(std::size_t offset, std::size_t count) const {
-        if (offset > bytes_.size() || count > bytes_.size() - offset)
+        if (offset > bytes_.size() || count > bytes_.size() - offset) {
             throw ProtocolError("offset outside the message");
+        }
         return bytes_.subspan(offset, count);
     }
     std::string ucs2(std::size_t characters);
@@ -52,8 +54,9 @@ private:
     std::uint64_t number(std::size_t count) {
         std::uint64_t value = 0;
         const auto piece = take(count);
-        for (std::size_t i = 0; i < count; ++i)
+        for (std::size_t i = 0; i < count; ++i) {
             value |= static_cast<std::uint64_t>(piece[i]) << (8 * i);
+        }
         return value;
     }
 
@@ -76,23 +79,24 @@ public:
         bytes.insert(bytes.end(), piece.begin(), piece.end());
         return *this;
     }
-    /// UTF-16 without a length.
+    /// UTF-16 without its length.
     ByteWriter& ucs2(std::string_view text);
-    /// Length in characters as one byte, then UTF-16; cut where it doesn't fit.
+    /// The length in characters as one byte, then UTF-16; cut where the length doesn't fit.
     ByteWriter& shortText(std::string_view text);
     /// The same with a length of two bytes.
     ByteWriter& longText(std::string_view text);
 
 private:
     ByteWriter& number(std::uint64_t value, std::size_t count) {
-        for (std::size_t i = 0; i < count; ++i)
+        for (std::size_t i = 0; i < count; ++i) {
             bytes.push_back(static_cast<std::uint8_t>(value >> (8 * i)));
+        }
         return *this;
     }
 };
 
 std::u16string toUtf16(std::string_view text);
-/// Lone surrogates become U+FFFD.
+/// Unpaired surrogates become U+FFFD.
 std::string toUtf8(std::u16string_view text);
 
 } // namespace peer

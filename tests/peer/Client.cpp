@@ -33,8 +33,9 @@ void Client::serve() {
         if (message->type == PacketType::PreLogin) {
             channel_.write(packets(PacketType::Response, answerPreLogin(message->body), login_.packetSize));
         } else if (message->type == PacketType::Login) {
-            if (!logIn(*message))
+            if (!logIn(*message)) {
                 return;
+            }
         } else if (session_) {
             answer(*message);
         } else {
@@ -45,11 +46,13 @@ void Client::serve() {
 
 std::optional<Message> Client::receive() {
     while (true) {
-        if (auto message = reader_.next())
+        if (auto message = reader_.next()) {
             return message;
+        }
         const Bytes bytes = channel_.read();
-        if (bytes.empty())
+        if (bytes.empty()) {
             return std::nullopt;
+        }
         reader_.feed(bytes);
     }
 }
@@ -58,8 +61,9 @@ bool Client::logIn(const Message& message) {
     login_ = readLogin(message.body);
     tokens_ = TokenWriter(login_.version);
     try {
-        if (login_.integrated || login_.user.empty())
+        if (login_.integrated || login_.user.empty()) {
             throw engine::errors::loginFailed(login_.user);
+        }
         session_ = engine::Session::open(instance_, {login_.user, login_.password, login_.database});
     } catch (const engine::Error& error) {
         report(error);
@@ -98,24 +102,28 @@ void Client::answer(const Message& message) {
         refuse(4002, "The incoming tabular data stream (TDS) protocol stream is incorrect.");
         break;
     }
-    if (stopped_)
+    if (stopped_) {
         statementDone({done::kAttention, 0});
+    }
     flush(true);
 }
 
 void Client::skipHeaders(ByteReader& in) const {
-    if (!login_.atLeast72() || in.left() < 4)
+    if (!login_.atLeast72() || in.left() < 4) {
         return;
+    }
     const std::uint32_t length = in.u32();
-    if (length < 4)
+    if (length < 4) {
         throw ProtocolError("headers of an impossible length");
+    }
     in.take(length - 4);
 }
 
 void Client::batchMessage(ByteReader in) {
     run(in.ucs2(in.left() / 2));
-    if (!held_) // nothing ran, and the client waits for an end all the same
+    if (!held_) { // no statement ran, but the client waits for an end
         statementDone({done::kFinal, 0});
+    }
 }
 
 void Client::run(std::string_view text) {
@@ -125,8 +133,9 @@ void Client::run(std::string_view text) {
         for (bool more = true; more && !stopped_;) {
             try {
                 more = batch->nextResult();
-                if (more)
+                if (more) {
                     runResult(*batch);
+                }
             } catch (const engine::Error& error) {
                 report(error);
                 more = error.reach() == engine::Error::Reach::Statement;
@@ -135,13 +144,15 @@ void Client::run(std::string_view text) {
     } catch (const engine::Error& error) {
         report(error);
     }
-    if (session_->database() != before)
+    if (session_->database() != before) {
         tokens_.databaseChanged(session_->database(), before);
+    }
 }
 
 void Client::runResult(engine::Batch& batch) {
-    for (const auto& message : batch.messages())
+    for (const auto& message : batch.messages()) {
         tokens_.message(message.number, message.text);
+    }
     if (!batch.hasRows()) {
         const bool counted = batch.affected() >= 0;
         statementDone(
@@ -158,8 +169,9 @@ void Client::runResult(engine::Batch& batch) {
             stopped_ = askedToStop();
         }
     }
-    if (!stopped_)
+    if (!stopped_) {
         statementDone({done::kCount, rows});
+    }
 }
 
 void Client::report(const engine::Error& error) {
@@ -173,8 +185,9 @@ void Client::refuse(int number, std::string_view text) {
 }
 
 void Client::releaseHeld() {
-    if (held_)
+    if (held_) {
         tokens_.statementDone(static_cast<std::uint16_t>(held_->status | done::kMore), held_->rows);
+    }
     held_.reset();
 }
 
@@ -190,12 +203,14 @@ void Client::procedureMessage(ByteReader in) {
         refuse(2812, engine::errors::procedureMissing(call.name).what());
         return;
     }
-    if (!text.batch.empty())
+    if (!text.batch.empty()) {
         run(text.batch);
+    }
     releaseHeld();
     tokens_.returnStatus(0);
-    if (text.handle)
+    if (text.handle) {
         tokens_.returnValue("", *text.handle);
+    }
     tokens_.procedureDone(done::kFinal);
 }
 
@@ -215,13 +230,15 @@ void Client::transactionMessage(ByteReader in) {
 }
 
 bool Client::askedToStop() {
-    if (!channel_.waiting())
+    if (!channel_.waiting()) {
         return false;
+    }
     const Bytes bytes = channel_.read();
     reader_.feed(bytes);
     const auto message = reader_.next();
-    if (message && message->type != PacketType::Attention)
+    if (message && message->type != PacketType::Attention) {
         throw ProtocolError("a request before the answer to the last one");
+    }
     return bytes.empty() || message;
 }
 
@@ -233,8 +250,9 @@ void Client::flush(bool last) {
     Bytes& bytes = tokens_.bytes();
     const std::size_t room = login_.packetSize - kHeaderBytes;
     const std::size_t whole = last ? bytes.size() : bytes.size() / room * room;
-    if (whole == 0 && !last)
+    if (whole == 0 && !last) {
         return;
+    }
     channel_.write(packets(PacketType::Response, std::span(bytes).first(whole), login_.packetSize, last));
     bytes.erase(bytes.begin(), bytes.begin() + static_cast<std::ptrdiff_t>(whole));
 }

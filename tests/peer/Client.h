@@ -1,7 +1,7 @@
 #pragma once
 
-#include "engine/Instance.h"
-#include "engine/Session.h"
+#include "engine/run/Session.h"
+#include "engine/store/Instance.h"
 #include "peer/Login.h"
 #include "peer/Packets.h"
 #include "peer/Tokens.h"
@@ -13,22 +13,22 @@
 
 namespace peer {
 
-/// The other end of a connection. `read` waits for bytes and gives none at its end.
+/// The other end of a connection. `read` waits for bytes and returns none at the end.
 class Channel {
 public:
     virtual ~Channel() = default;
     virtual Bytes read() = 0;
     virtual void write(std::span<const std::uint8_t> bytes) = 0;
-    /// Whether bytes have come that nobody read yet.
+    /// Whether bytes have arrived that aren't read yet.
     virtual bool waiting() = 0;
 };
 
-/// One client from its first byte to its last.
+/// One client's connection from its first byte to its last.
 class Client {
 public:
     Client(Channel& channel, std::shared_ptr<engine::Instance> instance);
 
-    /// Serves until the client leaves. Throws ProtocolError for garbage.
+    /// Serves until the client disconnects. Throws ProtocolError for invalid bytes.
     void serve();
 
 private:
@@ -49,7 +49,7 @@ private:
     void report(const engine::Error& error);
     void refuse(int number, std::string_view text);
     void statementDone(Done done);
-    void releaseHeld(); ///< more follows
+    void releaseHeld(); ///< sends it, marked as followed by more
 
     void skipHeaders(ByteReader& in) const;
     bool askedToStop();
@@ -61,7 +61,7 @@ private:
     PacketReader reader_;
     LoginRecord login_;
     TokenWriter tokens_{0x71000001};
-    std::optional<Done> held_; ///< the last statement's end, until it is known whether more follows
+    std::optional<Done> held_; ///< the last statement's end, not sent until it is known whether more follows
     bool stopped_ = false;
     std::map<std::int32_t, std::string> prepared_;
     std::int32_t lastPrepared_ = 0;

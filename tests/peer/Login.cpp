@@ -28,11 +28,13 @@ std::string textAt(const ByteReader& record, std::size_t offset, std::size_t cha
 LoginRecord readLogin(std::span<const std::uint8_t> message) {
     ByteReader in(message);
     LoginRecord login;
-    if (in.u32() > message.size())
+    if (in.u32() > message.size()) {
         throw ProtocolError("login record longer than its message");
+    }
     login.version = in.u32();
-    if (login.version < kOldestVersion)
+    if (login.version < kOldestVersion) {
         throw ProtocolError("protocol version too old");
+    }
     login.version = std::min(login.version, kNewestVersion);
     login.packetSize = std::clamp<std::uint32_t>(in.u32(), 512, 32767);
     in.take(12); // program version, process, connection
@@ -45,8 +47,9 @@ LoginRecord readLogin(std::span<const std::uint8_t> message) {
     for (std::string* field : fields) {
         const std::uint16_t offset = in.u16();
         const std::uint16_t characters = in.u16();
-        if (field)
+        if (field) {
             *field = textAt(in, offset, characters, field == &login.password);
+        }
     }
     return login;
 }

@@ -6,7 +6,7 @@
 
 namespace peer {
 
-/// What a client says of itself before it may ask anything.
+/// The first message of a client, with the user and the settings of the connection.
 struct LoginRecord {
     std::uint32_t version = 0; ///< 0x71000001 … 0x74000004
     std::uint32_t packetSize = 4096;
@@ -19,7 +19,7 @@ struct LoginRecord {
 /// Throws ProtocolError for a record that points outside itself or asks for a version before 7.1.
 LoginRecord readLogin(std::span<const std::uint8_t> message);
 
-/// The answer to a pre-login: our version, and that nothing is encrypted here.
+/// The answer to a pre-login: the server's version, and that it doesn't encrypt.
 Bytes answerPreLogin(std::span<const std::uint8_t> message);
 
 } // namespace peer

@@ -36,25 +36,31 @@ std::optional<Message> PacketReader::next() {
         const PacketType type = knownType(buffer_[0]);
         const std::uint8_t status = buffer_[1];
         const std::size_t length = static_cast<std::size_t>(buffer_[2]) << 8 | buffer_[3];
-        if (length < kHeaderBytes || length > kLargestPacket)
+        if (length < kHeaderBytes || length > kLargestPacket) {
             throw ProtocolError("packet of an impossible length");
-        if (type_ && *type_ != type)
+        }
+        if (type_ && *type_ != type) {
             throw ProtocolError("packets of two messages mixed");
-        if (buffer_.size() < length)
+        }
+        if (buffer_.size() < length) {
             return std::nullopt;
-        if (body_.size() + length > kLargestMessage)
+        }
+        if (body_.size() + length > kLargestMessage) {
             throw ProtocolError("message too long");
+        }
         const auto packet = buffer_.begin() + static_cast<std::ptrdiff_t>(length);
         body_.insert(body_.end(), buffer_.begin() + kHeaderBytes, packet);
         buffer_.erase(buffer_.begin(), packet);
         type_ = type;
-        if (!(status & kEndOfMessage))
+        if (!(status & kEndOfMessage)) {
             continue;
+        }
         Message message{type, std::move(body_)};
         body_ = {};
         type_.reset();
-        if (!(status & kIgnoreMessage))
+        if (!(status & kIgnoreMessage)) {
             return message;
+        }
     }
     return std::nullopt;
 }

@@ -27,7 +27,7 @@ struct Message {
     Bytes body;
 };
 
-/// Puts messages together from whatever pieces the network gives. Throws ProtocolError for what is none.
+/// Puts messages together from the pieces that the network delivers. Throws ProtocolError for invalid ones.
 class PacketReader {
 public:
     void feed(std::span<const std::uint8_t> bytes);
@@ -40,7 +40,7 @@ private:
     Bytes body_;
 };
 
-/// A message cut into packets of the agreed size; with `whole` false more of it follows.
+/// A message cut into packets of the agreed size; with `whole` false more of the message follows.
 Bytes packets(PacketType type, std::span<const std::uint8_t> body, std::size_t packetSize, bool whole = true);
 
 } // namespace peer

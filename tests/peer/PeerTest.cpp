@@ -1,6 +1,6 @@
-// The wire from the server's side: what is put together, what is refused.
+// The server's side of the protocol: which messages it accepts and refuses.
 
-#include "engine/Instance.h"
+#include "engine/store/Instance.h"
 #include "peer/Client.h"
 #include "peer/Procedures.h"
 #include "peer/Wire.h"
@@ -77,8 +77,9 @@ TEST(LoginRecords, TellWhoAsks) {
 
 TEST(LoginRecords, CutShortOrPointingOutsideThemselvesAreRefused) {
     const Bytes whole = login("sa", "segreta", "Vabodati");
-    for (std::size_t length = 0; length < whole.size(); ++length)
+    for (std::size_t length = 0; length < whole.size(); ++length) {
         EXPECT_THROW(readLogin(std::span(whole).first(length)), ProtocolError) << length;
+    }
     Bytes outside = whole;
     outside[40] = outside[41] = 0xFF;
     EXPECT_THROW(readLogin(outside), ProtocolError);
@@ -90,8 +91,9 @@ TEST(LoginRecords, CutShortOrPointingOutsideThemselvesAreRefused) {
 TEST(PreLogins, AreToldThatNothingIsEncrypted) {
     const Bytes answer = answerPreLogin(Bytes{0xFF});
     ByteReader in(answer);
-    while (in.u8() != 1)
+    while (in.u8() != 1) {
         in.u32();
+    }
     const std::size_t offset = in.u16BigEndian();
     EXPECT_EQ(in.at(offset, in.u16BigEndian())[0], 2);
     EXPECT_THROW(answerPreLogin(Bytes{0, 0, 200, 0, 6}), ProtocolError);
@@ -117,7 +119,7 @@ TEST(Calls, OfPreparedTextsBecomeBatches) {
     EXPECT_TRUE(procedureText({"sp_cursoropen", {}}, prepared, last).unknown);
 }
 
-/// A client that sends what it was given and then leaves.
+/// A client that sends the given bytes and then disconnects.
 class Script : public Channel {
 public:
     explicit Script(std::vector<Bytes> sent) : sent_(std::move(sent)) {}

@@ -23,8 +23,9 @@ void setNumber(Argument& argument, std::string text) {
 
 void setText(Argument& argument, std::string text) {
     std::string quoted = "N'";
-    for (const char c : text)
+    for (const char c : text) {
         quoted += c == '\'' ? "''" : std::string(1, c);
+    }
     argument.literal = quoted + "'";
     argument.text = std::move(text);
 }
@@ -71,8 +72,9 @@ void readWideText(ByteReader& in, Argument& argument) {
     const std::uint16_t largest = in.u16();
     in.take(5);
     if (largest == 0xFFFF) {
-        if (in.u64() == ~0ULL)
+        if (in.u64() == ~0ULL) {
             return;
+        }
         Bytes bytes;
         while (const std::uint32_t chunk = in.u32()) {
             const auto piece = in.take(chunk);
@@ -82,24 +84,27 @@ void readWideText(ByteReader& in, Argument& argument) {
         return;
     }
     const std::uint16_t length = in.u16();
-    if (length != 0xFFFF)
+    if (length != 0xFFFF) {
         setText(argument, in.ucs2(length / 2));
+    }
 }
 
 void readLongWideText(ByteReader& in, Argument& argument) {
     in.u32();
     in.take(5);
     const std::uint32_t length = in.u32();
-    if (length != 0xFFFFFFFF)
+    if (length != 0xFFFFFFFF) {
         setText(argument, in.ucs2(length / 2));
+    }
 }
 
 void readNarrowText(ByteReader& in, Argument& argument) {
     in.u16();
     in.take(5);
     const std::uint16_t length = in.u16();
-    if (length == 0xFFFF)
+    if (length == 0xFFFF) {
         return;
+    }
     const auto bytes = in.take(length);
     setText(argument, {bytes.begin(), bytes.end()});
 }
@@ -147,16 +152,19 @@ std::string filled(const std::string& text, const std::vector<Argument>& argumen
             continue;
         }
         std::size_t end = i + 1;
-        while (end < text.size() && (std::isalnum(static_cast<unsigned char>(text[end])) || text[end] == '_'))
+        while (end < text.size() && (std::isalnum(static_cast<unsigned char>(text[end])) || text[end] == '_')) {
             ++end;
+        }
         const std::string name = text.substr(i, end - i);
         const Argument* found = nullptr;
         for (std::size_t k = first; k < arguments.size(); ++k) {
-            if (arguments[k].name == name)
+            if (arguments[k].name == name) {
                 found = &arguments[k];
+            }
         }
-        if (!found && place < arguments.size())
+        if (!found && place < arguments.size()) {
             found = &arguments[place++];
+        }
         out += found ? found->literal : name;
         i = end - 1;
     }
@@ -186,15 +194,17 @@ ProcedureCall readProcedureCall(ByteReader& in) {
     const std::uint16_t length = in.u16();
     if (length == 0xFFFF) {
         const std::uint16_t number = in.u16();
-        if (number == 0 || number >= std::size(kKnown))
+        if (number == 0 || number >= std::size(kKnown)) {
             throw ProtocolError("unknown procedure number");
+        }
         call.name = kKnown[number];
     } else {
         call.name = in.ucs2(length);
     }
     in.u16();
-    while (in.left() > 0)
+    while (in.left() > 0) {
         call.arguments.push_back(readArgument(in));
+    }
     return call;
 }
 
@@ -216,8 +226,9 @@ ProcedureText procedureText(const ProcedureCall& call, std::map<std::int32_t, st
     } else if (call.name == "sp_prepare" || call.name == "sp_prepexec") {
         result.handle = ++last;
         prepared[last] = text(2);
-        if (call.name == "sp_prepexec")
+        if (call.name == "sp_prepexec") {
             result.batch = filled(text(2), arguments, 3);
+        }
     } else if (call.name == "sp_execute") {
         result.batch = filled(prepared[handle()], arguments, 1);
     } else if (call.name == "sp_unprepare") {
@@ -226,9 +237,10 @@ ProcedureText procedureText(const ProcedureCall& call, std::map<std::int32_t, st
         result.unknown = true;
     } else {
         result.batch = "EXEC " + call.name;
-        for (const auto& argument : arguments)
+        for (const auto& argument : arguments) {
             result.batch += (&argument == &arguments.front() ? " " : ", ") +
                             (argument.name.empty() ? "" : argument.name + " = ") + argument.literal;
+        }
     }
     return result;
 }

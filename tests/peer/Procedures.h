@@ -9,24 +9,24 @@
 
 namespace peer {
 
-/// A remote procedure call as it came, its values as literals of the dialect.
+/// A remote procedure call as received, with its values as literals of the dialect.
 struct ProcedureCall {
-    std::string name; ///< the well-known numbers are given their names
+    std::string name; ///< for calls by a well-known number the name of that procedure
     struct Argument {
         std::string name;
         std::string literal;
-        std::string text; ///< the bare value
+        std::string text; ///< the value without quotes
     };
     std::vector<Argument> arguments;
 };
 
-/// Throws ProtocolError for a type that no client of ours sends.
+/// Throws ProtocolError for types that aren't supported.
 ProcedureCall readProcedureCall(ByteReader& in);
 
-/// What a call means as a batch. Prepared texts are kept by their handles.
+/// A call translated to a batch. Prepared texts are kept by their handles.
 struct ProcedureText {
     std::string batch;
-    std::optional<std::int32_t> handle; ///< to be told to the client
+    std::optional<std::int32_t> handle; ///< to be returned to the client
     bool unknown = false;
 };
 

@@ -1,4 +1,4 @@
-// The types of the dialect on the wire: what a column announces and how its values are written.
+// The dialect's types in the protocol: how columns are described and values written.
 
 #include "peer/Tokens.h"
 
@@ -15,7 +15,7 @@ namespace {
 using Kind = engine::DataType::Kind;
 
 constexpr int kLongestCharacters = 4000;
-constexpr std::uint16_t kPartial = 0xFFFF; // "max": the value comes in chunks
+constexpr std::uint16_t kPartial = 0xFFFF; // "max": the value is sent in chunks
 constexpr std::uint8_t kNText = 0x63;
 
 int integerBytes(Kind kind) {
@@ -59,20 +59,21 @@ WireDate wireDate(std::string_view text) {
     return {days, static_cast<std::uint32_t>((millis * 3 + 5) / 10)};
 }
 
-/// The digits of a decimal without its point, as a magnitude.
+/// The digits of a decimal without point and sign.
 unsigned long long magnitude(std::string_view text, bool& negative) {
     unsigned long long value = 0;
     negative = false;
     for (const char c : text) {
-        if (c == '-')
+        if (c == '-') {
             negative = true;
-        else if (c >= '0' && c <= '9')
+        } else if (c >= '0' && c <= '9') {
             value = value * 10 + static_cast<unsigned>(c - '0');
+        }
     }
     return value;
 }
 
-/// The code page of the collation, with "?" for what it hasn't.
+/// The text in the collation's code page, with "?" for characters that it doesn't have.
 std::string toCodePage(std::string_view text) {
     static constexpr char16_t kUpper[32] = {0x20AC, 0,      0x201A, 0x0192, 0x201E, 0x2026, 0x2020, 0x2021,
                                             0x02C6, 0x2030, 0x0160, 0x2039, 0x0152, 0,      0x017D, 0,
@@ -81,19 +82,21 @@ std::string toCodePage(std::string_view text) {
     std::string out;
     for (const char16_t c : toUtf16(text)) {
         const auto* upper = std::find(std::begin(kUpper), std::end(kUpper), c);
-        if (c < 0x80 || (c >= 0xA0 && c < 0x100))
+        if (c < 0x80 || (c >= 0xA0 && c < 0x100)) {
             out += static_cast<char>(c);
-        else
+        } else {
             out += upper == std::end(kUpper) ? '?' : static_cast<char>(0x80 + (upper - std::begin(kUpper)));
+        }
     }
     return out;
 }
 
-/// Bytes behind a length of two bytes.
+/// Bytes after their length as two bytes.
 void writeNarrow(ByteWriter& out, bool null, const std::string& bytes) {
     out.u16(null ? kPartial : static_cast<std::uint16_t>(bytes.size()));
-    for (const char byte : null ? std::string() : bytes)
+    for (const char byte : null ? std::string() : bytes) {
         out.u8(static_cast<std::uint8_t>(byte));
+    }
 }
 
 } // namespace
@@ -128,8 +131,9 @@ void TokenWriter::typeInfo(const engine::DataType& type) {
         return;
     case Kind::Char:
     case Kind::VarChar:
-        if (unlimited(type))
+        if (unlimited(type)) {
             break;
+        }
         out_.u8(type.kind == Kind::Char ? 0xAF : 0xA7).u16(static_cast<std::uint16_t>(std::max(1, type.length)));
         out_.raw(kCollation);
         return;
@@ -166,8 +170,9 @@ void TokenWriter::value(const engine::Batch& batch, int column, const engine::Da
         const int bytes = integerBytes(type.kind);
         const auto number = static_cast<std::uint64_t>(batch.integer(column));
         out_.u8(static_cast<std::uint8_t>(bytes));
-        for (int i = 0; i < bytes; ++i)
+        for (int i = 0; i < bytes; ++i) {
             out_.u8(static_cast<std::uint8_t>(number >> (8 * i)));
+        }
         return;
     }
     case Kind::Real:
@@ -185,8 +190,9 @@ void TokenWriter::value(const engine::Batch& batch, int column, const engine::Da
         bool negative = false;
         unsigned long long digits = magnitude(batch.text(column), negative);
         out_.u8(static_cast<std::uint8_t>(bytes)).u8(negative ? 0 : 1);
-        for (int i = 1; i < bytes; ++i, digits = i <= 8 ? digits >> 8 : 0)
+        for (int i = 1; i < bytes; ++i, digits = i <= 8 ? digits >> 8 : 0) {
             out_.u8(static_cast<std::uint8_t>(digits));
+        }
         return;
     }
     case Kind::DateTime: {
@@ -203,8 +209,9 @@ void TokenWriter::value(const engine::Batch& batch, int column, const engine::Da
         return;
     case Kind::Char:
     case Kind::VarChar:
-        if (unlimited(type))
+        if (unlimited(type)) {
             break;
+        }
         writeNarrow(out_, null, toCodePage(batch.text(column)));
         return;
     case Kind::NChar:
@@ -218,19 +225,23 @@ void TokenWriter::value(const engine::Batch& batch, int column, const engine::Da
         out_.u16(null ? kPartial : static_cast<std::uint16_t>(bytes));
     } else if (atLeast72()) {
         out_.u64(null ? ~0ULL : bytes);
-        if (null)
+        if (null) {
             return;
-        if (bytes > 0)
+        }
+        if (bytes > 0) {
             out_.u32(static_cast<std::uint32_t>(bytes));
+        }
     } else if (null) {
         out_.u8(0);
     } else {
         out_.u8(16).raw(Bytes(24, 0)).u32(static_cast<std::uint32_t>(bytes)); // a text pointer and its time stamp
     }
-    for (const char16_t c : wide)
+    for (const char16_t c : wide) {
         out_.u16(c);
-    if (unlimited(type) && atLeast72())
+    }
+    if (unlimited(type) && atLeast72()) {
         out_.u32(0);
+    }
 }
 
 } // namespace peer

@@ -1,6 +1,6 @@
 #include "peer/Server.h"
 
-#include "engine/Instance.h"
+#include "engine/store/Instance.h"
 #include "peer/Client.h"
 
 #include <algorithm>
@@ -34,9 +34,9 @@ public:
     Bytes read() override {
         Bytes bytes(16384);
         ssize_t count = 0;
-        do
+        do {
             count = ::recv(handle_, bytes.data(), bytes.size(), 0);
-        while (count < 0 && errno == EINTR);
+        } while (count < 0 && errno == EINTR);
         bytes.resize(count > 0 ? static_cast<std::size_t>(count) : 0);
         return bytes;
     }
@@ -44,10 +44,12 @@ public:
     void write(std::span<const std::uint8_t> bytes) override {
         while (!bytes.empty()) {
             const ssize_t count = ::send(handle_, bytes.data(), bytes.size(), MSG_NOSIGNAL);
-            if (count < 0 && errno == EINTR)
+            if (count < 0 && errno == EINTR) {
                 continue;
-            if (count <= 0)
+            }
+            if (count <= 0) {
                 throw ProtocolError("the client has gone");
+            }
             bytes = bytes.subspan(static_cast<std::size_t>(count));
         }
     }
@@ -85,21 +87,25 @@ Server::Server(std::filesystem::path instanceFolder, std::filesystem::path drive
     state_->folder = std::move(instanceFolder);
     state_->options.mapPath = [drive = std::move(driveC)](std::string_view path) { return onDrive(drive, path); };
     state_->listener = ::socket(AF_INET, SOCK_STREAM | SOCK_CLOEXEC, 0);
-    if (state_->listener < 0)
+    if (state_->listener < 0) {
         fail("socket");
+    }
     sockaddr_in address{};
     address.sin_family = AF_INET;
     address.sin_addr.s_addr = htonl(INADDR_LOOPBACK);
     address.sin_port = htons(static_cast<std::uint16_t>(port));
     const int yes = 1;
     ::setsockopt(state_->listener, SOL_SOCKET, SO_REUSEADDR, &yes, sizeof yes);
-    if (::bind(state_->listener, reinterpret_cast<sockaddr*>(&address), sizeof address) < 0)
+    if (::bind(state_->listener, reinterpret_cast<sockaddr*>(&address), sizeof address) < 0) {
         fail("bind");
-    if (::listen(state_->listener, 64) < 0)
+    }
+    if (::listen(state_->listener, 64) < 0) {
         fail("listen");
+    }
     socklen_t length = sizeof address;
-    if (::getsockname(state_->listener, reinterpret_cast<sockaddr*>(&address), &length) < 0)
+    if (::getsockname(state_->listener, reinterpret_cast<sockaddr*>(&address), &length) < 0) {
         fail("getsockname");
+    }
     state_->port = ntohs(address.sin_port);
 }
 
@@ -114,10 +120,12 @@ std::uint16_t Server::port() const {
 void Server::serve() {
     while (true) {
         const int handle = ::accept4(state_->listener, nullptr, nullptr, SOCK_CLOEXEC);
-        if (handle < 0 && errno == EINTR)
+        if (handle < 0 && errno == EINTR) {
             continue;
-        if (handle < 0)
+        }
+        if (handle < 0) {
             fail("accept");
+        }
         std::thread([handle, folder = state_->folder, options = state_->options] {
             Socket socket(handle);
             try {

@@ -6,10 +6,10 @@
 
 namespace peer {
 
-/// Listens on a port of 127.0.0.1 and serves each client on a thread of its own, over one instance folder.
+/// Listens on a port of 127.0.0.1 and serves one instance folder, each client in its own thread.
 class Server {
 public:
-    /// `port` 0: a free one.
+    /// `port` 0 means any free one.
     Server(std::filesystem::path instanceFolder, std::filesystem::path driveC, int port = 0);
     ~Server();
     Server(const Server&) = delete;

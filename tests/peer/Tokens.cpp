@@ -11,8 +11,9 @@ constexpr std::string_view kServerName = "PEER";
 void TokenWriter::loginAcknowledged() {
     ByteWriter body;
     body.u8(1);
-    for (int shift = 24; shift >= 0; shift -= 8)
+    for (int shift = 24; shift >= 0; shift -= 8) {
         body.u8(static_cast<std::uint8_t>(version_ >> shift));
+    }
     body.shortText("Microsoft SQL Server").u8(10).u8(50).u8(0x06).u8(0x40);
     out_.u8(0xAD).u16(static_cast<std::uint16_t>(body.bytes.size())).raw(body.bytes);
 }
@@ -72,8 +73,9 @@ void TokenWriter::columns(std::span<const engine::ResultColumn> columns) {
 
 void TokenWriter::row(const engine::Batch& batch, std::span<const engine::ResultColumn> columns) {
     out_.u8(0xD1);
-    for (int i = 0; i < static_cast<int>(columns.size()); ++i)
+    for (int i = 0; i < static_cast<int>(columns.size()); ++i) {
         value(batch, i, columns[static_cast<std::size_t>(i)].type);
+    }
 }
 
 void TokenWriter::doneToken(std::uint8_t token, std::uint16_t status, std::uint64_t rows) {

@@ -1,9 +1,9 @@
 #pragma once
 
-// The tokens of a response, in the words of the agreed protocol version.
+// The tokens of a response in the agreed protocol version.
 
-#include "engine/DataType.h"
-#include "engine/Session.h"
+#include "engine/run/Session.h"
+#include "engine/values/DataType.h"
 #include "peer/Bytes.h"
 
 #include <span>
@@ -12,7 +12,7 @@
 
 namespace peer {
 
-/// Latin1_General_CI_AS as the wire names it.
+/// Latin1_General_CI_AS as the protocol writes it.
 inline constexpr std::uint8_t kCollation[5] = {0x09, 0x04, 0xD0, 0x00, 0x34};
 
 namespace done {

@@ -1,6 +1,6 @@
 #pragma once
 
-// What a client sends, made by hand: for the tests of the server's side and for the seeds of its fuzzing.
+// Messages of a client, for the tests of the server's side and for the seeds of its fuzz target.
 
 #include "peer/Packets.h"
 

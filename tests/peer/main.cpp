@@ -1,4 +1,4 @@
-// A server of the wire protocol over one embedded instance, for the tests alone.
+// A server of the wire protocol for one embedded instance, used by the tests only.
 
 #include "peer/Server.h"
 

@@ -28,7 +28,7 @@ using Entry = std::map<std::string, std::string>;
 constexpr const char* kDriver = "SQL Server";
 constexpr const char* kForOthers = "[Magazzino]\nDriver=Altro\nServer=a;b\nNota=x = y\n\n[ODBC]\nTrace=0\n\n";
 
-/// A file of data sources of the test's own.
+/// A file of data sources for one test.
 class DataSourcesTest : public testing::Test {
 protected:
     DataSourcesTest() { support::useDataSourceFile(file); }
@@ -38,16 +38,17 @@ protected:
         std::ifstream in(file);
         return {std::istreambuf_iterator<char>(in), {}};
     }
-    /// The lines below each heading, as any reader of such a file takes them.
+    /// The lines below each heading, as programs read such a file.
     std::map<std::string, Entry> entries() const {
         std::map<std::string, Entry> all;
         std::string name;
         std::istringstream lines(text());
         for (std::string line; std::getline(lines, line);) {
-            if (line.starts_with('['))
+            if (line.starts_with('[')) {
                 all[name = line.substr(1, line.find(']') - 1)];
-            else if (const auto equal = line.find('='); equal != std::string::npos)
+            } else if (const auto equal = line.find('='); equal != std::string::npos) {
                 all[name][line.substr(0, equal)] = line.substr(equal + 1);
+            }
         }
         return all;
     }
@@ -56,13 +57,14 @@ protected:
         const auto found = all.find(name);
         return found == all.end() ? Entry{} : found->second;
     }
-    /// What an entry of the server's driver holds beside these values.
+    /// These values, with those that an entry of the server's driver holds besides.
     static Entry withDriver(Entry values) {
         const std::string driver = ado::odbc::resolveDriver(kDriver, ado::odbc::registeredDrivers());
         values["Driver"] = driver;
         std::istringstream settings(ado::odbc::driverSettings(driver));
-        for (std::string setting; std::getline(settings, setting, ';');)
+        for (std::string setting; std::getline(settings, setting, ';');) {
             values[setting.substr(0, setting.find('='))] = setting.substr(setting.find('=') + 1);
+        }
         return values;
     }
     static void enter(const std::string& name, const std::string& attributes = "Server=uno") {
@@ -137,8 +139,9 @@ TEST_F(DataSourcesTest, ConfiguringNeedsAnEntry) {
 
 TEST_F(DataSourcesTest, AnyOtherRequestAnUnknownDriverAndAMissingNameDoNothing) {
     put(kForOthers);
-    for (const std::int16_t request : std::initializer_list<std::int16_t>{0, 3, 4})
+    for (const std::int16_t request : std::initializer_list<std::int16_t>{0, 3, 4}) {
         EXPECT_EQ(configure(request, "DSN=Magazzino|SERVER=uno|"), 0) << request;
+    }
     EXPECT_EQ(configure(DataSources::kAdd, "DSN=Tlv_Temp|", "Microsoft Access Driver (*.mdb)"), 0);
     EXPECT_EQ(configure(DataSources::kAdd, "DSN=Tlv_Temp|", ""), 0);
     EXPECT_EQ(configure(DataSources::kAdd, "SERVER=uno|"), 0);
@@ -213,7 +216,7 @@ TEST_F(DataSourcesTest, WhatStandsAlreadyIsNotWritten) {
 
 TEST_F(DataSourcesTest, WhatOtherProgramsDoToTheFileIsSeenAtOnce) {
     enter("Tlv_server", "Server=uno");
-    enter("Tlv_server", "Server=uno"); // which only looks
+    enter("Tlv_server", "Server=uno"); // which only reads
     std::string changed = text();
     changed.replace(changed.find("uno"), 3, "due");
     put(changed);
@@ -240,13 +243,14 @@ TEST_F(DataSourcesTest, PermissionsAndLinksOfTheFileStay) {
 TEST_F(DataSourcesTest, NothingButTheFileIsLeftBehind) {
     enter("Tlv_server");
     std::vector<std::string> left;
-    for (const auto& each : fs::directory_iterator(folder.path()))
+    for (const auto& each : fs::directory_iterator(folder.path())) {
         left.push_back(each.path().filename());
+    }
     EXPECT_THAT(left, ElementsAre("odbc.ini"));
 }
 
 TEST_F(DataSourcesTest, AFileThatCantBeKeptIsAFailure) {
-    // The library would take the second one for its file of drivers.
+    // The library would use the second path for its file of drivers.
     for (const fs::path& place : {support::nowhere() / "odbc.ini", folder.path() / "odbcinst" / "odbc.ini"}) {
         support::useDataSourceFile(place);
         EXPECT_THROW(enter("Tlv_server"), std::runtime_error) << place;

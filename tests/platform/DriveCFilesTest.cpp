@@ -15,7 +15,7 @@ using platform::FileError;
 
 namespace {
 
-/// What came of it: "ok", or number and words of the refusal.
+/// The result of `work`: "ok", or number and text of its error.
 template<typename Work>
 std::string outcome(Work&& work) {
     try {
@@ -46,8 +46,9 @@ protected:
     }
     std::vector<std::string> names(const char* folder) const {
         std::vector<std::string> all;
-        for (const auto& entry : fs::directory_iterator(root() / folder))
+        for (const auto& entry : fs::directory_iterator(root() / folder)) {
             all.push_back(entry.path().filename().string());
+        }
         return all;
     }
     std::string firstLineOutcome(const char* path) const {
@@ -114,8 +115,9 @@ TEST_F(DriveCFiles, ACharacterCutAtTheEndOf64KilobytesIsReadAsBroken) {
 
 TEST_F(DriveCFiles, GarbageIsReadAsSomething) {
     std::string garbage;
-    for (int i = 0; i < 100'000; ++i)
+    for (int i = 0; i < 100'000; ++i) {
         garbage += static_cast<char>((i * 7919) % 256);
+    }
     put("vabo/x.txt", garbage);
     EXPECT_NO_THROW(drive_.firstLine("C:\\vabo\\x.txt"));
 }

@@ -1,4 +1,4 @@
-// Writes two long lines in turn into one file, until it is killed: line_writer <root> <path>
+// Writes two long lines alternately to one file, until it is killed: line_writer <root> <path>
 
 #include "platform/DriveC.h"
 
@@ -6,13 +6,15 @@
 #include <string>
 
 int main(int argc, char** argv) {
-    if (argc != 3)
+    if (argc != 3) {
         return 2;
+    }
     const platform::DriveC drive(argv[1]);
     const std::string lines[] = {std::string(200'000, 'a'), std::string(300'000, 'b')};
     for (long round = 0;; ++round) {
         drive.writeLine(argv[2], lines[round % 2]);
-        if (round == 3)
+        if (round == 3) {
             std::cout << "running" << std::endl;
+        }
     }
 }

@@ -1,4 +1,4 @@
-// Says what the program knows of the machine it really runs on.
+// Prints what the program knows of the machine that it runs on.
 
 #include "ado/Conversions.h"
 #include "ado/Drivers.h"

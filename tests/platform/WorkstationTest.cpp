@@ -16,15 +16,17 @@ namespace {
 using Environment = std::map<std::string, std::string>;
 using Facts = std::map<std::string, std::string>;
 
-/// What a process finds that is started with this environment.
+/// The output of the probe when it is started with this environment.
 Facts probe(Environment environment) {
-    for (const char* name : {"VABO_DRIVE_C", "XDG_DATA_HOME", "LC_ALL", "LANG", "LC_NUMERIC", "LANGUAGE"})
+    for (const char* name : {"VABO_DRIVE_C", "XDG_DATA_HOME", "LC_ALL", "LANG", "LC_NUMERIC", "LANGUAGE"}) {
         environment.try_emplace(name, "");
+    }
     support::HelperProcess helper("workstation_probe", {}, environment);
     std::istringstream lines(helper.readAll());
     Facts facts;
-    for (std::string line; std::getline(lines, line);)
+    for (std::string line; std::getline(lines, line);) {
         facts[line.substr(0, line.find(' '))] = line.substr(line.find(' ') + 1);
+    }
     return facts;
 }
 

@@ -154,7 +154,7 @@ TEST_F(AbilitazioneUtente, AnApostropheInTheNameSurfacesAsAnErrorOfTheDatabase) 
     EXPECT_EQ(DirittiUtente, kDirittiPrimaDelLogin);
 }
 
-/// The table as another program might have made it: with flags that may be null.
+/// The table as another program might have created it: its flags may be null.
 class NullRight : public OneRight {
 protected:
     NullRight() {

@@ -10,7 +10,7 @@ namespace {
 
 using namespace vabo;
 
-/// The login form, with boxes that anybody may meet on the way.
+/// The login form, where any boxes may come.
 class AboutFormAttack : public FormTest {
 protected:
     AboutFormAttack() {
@@ -24,20 +24,22 @@ protected:
     Rows users() const {
         return workstation.rows(support::kCompany, "select * from AbilitazioneAccessi order by idautonumber");
     }
-    /// Typed letter by letter as far as a field holds, the rest pasted at once.
+    /// Types the text as far as the field's length, and pastes the rest.
     void put(const std::string& text) {
         constexpr std::size_t kTyped = 60;
         gui.type(text.substr(0, kTyped));
-        if (auto* field = qobject_cast<QLineEdit*>(QApplication::focusWidget()); field != nullptr)
+        if (auto* field = qobject_cast<QLineEdit*>(QApplication::focusWidget()); field != nullptr) {
             field->insert(QString::fromStdString(text.substr(std::min(text.size(), kTyped))));
+        }
         gui.press(Qt::Key_Return);
     }
     void attack(const std::string& user, const std::string& password) {
         TentativiLogin = 0;
         gui.find<QLineEdit>("About", "txtUserName").setFocus();
         put(user);
-        if (gui.focus() == "About.txtPassword")
+        if (gui.focus() == "About.txtPassword") {
             put(password);
+        }
         EXPECT_EQ(gui.visibleForms(), "About")
             << testing::PrintToString(user.substr(0, 60)) << " / " << testing::PrintToString(password.substr(0, 60));
     }
@@ -47,22 +49,25 @@ protected:
 };
 
 TEST_F(AboutFormAttack, NoneGetsInByTheName) {
-    for (const std::string& text : support::attacks())
+    for (const std::string& text : support::attacks()) {
         attack(text, "primaver");
+    }
     EXPECT_EQ(users(), before);
     EXPECT_EQ(DirittiUtente, kDirittiPrimaDelLogin);
 }
 
 TEST_F(AboutFormAttack, NoneGetsInByThePassword) {
-    for (const std::string& text : support::attacks())
+    for (const std::string& text : support::attacks()) {
         attack("amministratore", text);
+    }
     EXPECT_EQ(users(), before);
     EXPECT_EQ(DirittiUtente, kDirittiPrimaDelLogin);
 }
 
 TEST_F(AboutFormAttack, NoneGetsInByBothFields) {
-    for (const std::string& text : support::attacks())
+    for (const std::string& text : support::attacks()) {
         attack(text, text);
+    }
     EXPECT_EQ(users(), before);
     EXPECT_EQ(DirittiUtente, kDirittiPrimaDelLogin);
 }

@@ -1,4 +1,4 @@
-// What is typed into the other fields while a user sets a first password.
+// What happens when other fields are changed while a user sets a first password.
 
 #include "session/FormFixture.h"
 #include "support/Attacks.h"
@@ -11,15 +11,17 @@ namespace {
 using namespace vabo;
 using support::kCompany;
 
-/// Whether both values stand between the quotes of the statement, with nothing in them that could end one.
+/// Whether both values are inside the quotes of the statement and contain nothing that could end a quote.
 bool isHarmless(const std::string& statement) {
     const std::string begin = "select * from AbilitazioneAccessi where  NomeUtente = '";
     const std::string between = "' and  PaswUtente = '";
-    if (!statement.starts_with(begin) || !statement.ends_with('\''))
+    if (!statement.starts_with(begin) || !statement.ends_with('\'')) {
         return false;
+    }
     std::string values = statement.substr(begin.size(), statement.size() - begin.size() - 1);
-    if (const auto place = values.find(between); place != std::string::npos)
+    if (const auto place = values.find(between); place != std::string::npos) {
         values.replace(place, between.size(), "_");
+    }
     return values.find_first_of(" ,/\\'&@\"-+!=?^$#()[]*") == std::string::npos;
 }
 
@@ -42,7 +44,7 @@ protected:
         return workstation.value(kCompany,
                                  "select idautonumber from AbilitazioneAccessi where NomeUtente = 'nuovo_utente'");
     }
-    /// Pasted: a field takes as much as it holds.
+    /// Pastes a text; the field cuts it at its length.
     void paste(const char* name, const std::string& text) {
         auto& field = gui.find<QLineEdit>("About", name);
         field.clear();
@@ -53,7 +55,7 @@ protected:
         paste(field, text);
         gui.press(Qt::Key_Return);
     }
-    /// Up to the first entry of the new user's password; two entries that differ lead there as well.
+    /// Goes to the first entry of the new user's password. After two entries that differ the form is there already.
     void begin() {
         TentativiLogin = 0;
         if (!gui.find("About", "txtPassword1").isVisible()) {
@@ -73,10 +75,11 @@ protected:
         workstation.run(kCompany, "update AbilitazioneAccessi set PaswUtente = null where NomeUtente = 'nuovo_utente'");
         EXPECT_EQ(users(), before) << "no other row";
     }
-    /// Nothing that was typed stands in a statement as it was typed.
+    /// Expects that no statement contains the text as typed.
     static void expectHarmless(const support::StatementRecorder& recorder) {
-        for (const std::string& text : recorder.holding("AbilitazioneAccessi"))
+        for (const std::string& text : recorder.holding("AbilitazioneAccessi")) {
             EXPECT_TRUE(isHarmless(text)) << text;
+        }
     }
 
     support::HeardBoxes boxes;
@@ -126,9 +129,11 @@ TEST_F(AboutFormFirstPassword, AnAttackAsEitherEntryIsNoStatement) {
 
 TEST_F(AboutFormFirstPassword, ANameChangedAtEachStepNeitherGetsThePasswordNorTheRights) {
     std::vector<std::string> attacks = {"x' or Administrator=1 --", "amministratore", "contabile"};
-    for (const std::string& attack : support::attacks())
-        if (attack.size() <= 25 && attack.find('\'') != std::string::npos)
-            attacks.push_back(attack); // the field holds it whole
+    for (const std::string& attack : support::attacks()) {
+        if (attack.size() <= 25 && attack.find('\'') != std::string::npos) {
+            attacks.push_back(attack); // not cut by the field
+        }
+    }
     ASSERT_GT(attacks.size(), 20U);
     for (const std::string& attack : attacks) {
         begin();

@@ -19,7 +19,7 @@ protected:
     bool visible(const char* control) { return gui.find("About", control).isVisible(); }
     QLineEdit& field(const char* name) { return gui.find<QLineEdit>("About", name); }
 
-    /// The keyboard alone, from the field that has the focus.
+    /// Types and presses Enter in the field that has the focus.
     void enter(const std::string& text) {
         gui.type(text);
         gui.press(Qt::Key_Return);
@@ -33,8 +33,9 @@ protected:
                                  "select PaswUtente from AbilitazioneAccessi where NomeUtente = '" + user + "'");
     }
     void refuse(int times) {
-        for (int i = 0; i < times; ++i)
+        for (int i = 0; i < times; ++i) {
             script.expectMessage("User not allowed! ");
+        }
     }
     void expectIn() {
         EXPECT_EQ(gui.visibleForms(), "Avvio_Azienda");
@@ -52,14 +53,16 @@ TEST_F(AboutForm, PresentsTheProgram) {
     EXPECT_EQ(gui.text("About", "lblLabels"), "User Name");
     EXPECT_EQ(gui.text("About", "PswLabels_0"), "Password :");
     EXPECT_EQ(gui.text("About", "Command8"), "Chiudi il programma");
-    for (const char* name : {"lblProductName", "lblCompanyProduct", "Label1", "Frame1", "Picture1"})
+    for (const char* name : {"lblProductName", "lblCompanyProduct", "Label1", "Frame1", "Picture1"}) {
         EXPECT_TRUE(visible(name)) << name;
+    }
 }
 
 TEST_F(AboutForm, TheListsOfDrivesFoldersAndFilesAreHidden) {
     show();
-    for (const char* name : {"Drive1", "Dir1", "File1"})
+    for (const char* name : {"Drive1", "Dir1", "File1"}) {
         EXPECT_FALSE(visible(name)) << name;
+    }
 }
 
 TEST_F(AboutForm, StartsAtTheNameWithThePasswordDisabled) {
@@ -92,8 +95,9 @@ TEST_F(AboutForm, TheFieldsTakeOnlySoMuchAndHidePasswords) {
 TEST_F(AboutForm, EveryControlHasTheHelpTopic) {
     show();
     EXPECT_EQ(gui.form("About").property("HelpContextID").toInt(), 44);
-    for (const char* name : {"txtUserName", "txtPassword", "txtPassword1", "Command8", "Label21"})
+    for (const char* name : {"txtUserName", "txtPassword", "txtPassword1", "Command8", "Label21"}) {
         EXPECT_EQ(gui.find("About", name).property("HelpContextID").toInt(), 44) << name;
+    }
 }
 
 TEST_F(AboutForm, TheKeyboardAloneLogsIn) {
@@ -173,7 +177,7 @@ TEST_F(AboutForm, AnUnknownNameAndAnEmptyPasswordAreRefusedAlike) {
     refuse(2);
     login("nessuno", "primavera");
     enter("amministratore");
-    gui.press(Qt::Key_Delete); // the former password stands there, selected
+    gui.press(Qt::Key_Delete); // the former password is still in the field, selected
     enter("");
     EXPECT_EQ(TentativiLogin, 2);
     EXPECT_TRUE(gui.isVisible("About"));
@@ -183,8 +187,9 @@ TEST_F(AboutForm, TheFourthFailureClosesTheForm) {
     show();
     refuse(4);
     script.expectMessage("It is no more possible to try! ");
-    for (int i = 0; i < 4; ++i)
+    for (int i = 0; i < 4; ++i) {
         login("amministratore", "estate");
+    }
     EXPECT_EQ(gui.visibleForms(), "");
     EXPECT_FALSE(gui.forms().isLoaded("About"));
 }
@@ -192,8 +197,9 @@ TEST_F(AboutForm, TheFourthFailureClosesTheForm) {
 TEST_F(AboutForm, AnotherShowingForgetsTheAttempts) {
     show();
     refuse(4);
-    for (int i = 0; i < 3; ++i)
+    for (int i = 0; i < 3; ++i) {
         login("amministratore", "estate");
+    }
     gui.forms().unload("About");
     show();
     EXPECT_EQ(TentativiLogin, 0);
@@ -325,7 +331,7 @@ TEST_F(AboutForm, WritesTheLocalPointerFileWhereItIsMissing) {
 }
 
 TEST_F(AboutForm, ACompanyOutOfReachGivesWayToTheFormOfTheDataSources) {
-    // The database is known to the server, its file can't be opened.
+    // The server lists the database, but its file can't be opened.
     const std::string file = workstation.value(
         "master", std::string("select filename from master.dbo.sysdatabases where name = '") + kCompany + "'");
     workstation.putFile(file, "no database");

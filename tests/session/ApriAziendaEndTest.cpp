@@ -1,4 +1,4 @@
-// The roads on which no company can be taken up.
+// Cases in which no company can be taken up.
 
 #include "session/ApriAzienda.h"
 #include "session/SessionFixture.h"

@@ -1,4 +1,4 @@
-// The roads on which the wanted company gives way to the first one of the server.
+// Cases in which the first company of the server is taken up instead of the wanted one.
 
 #include "session/ApriAzienda.h"
 #include "session/ApriDbSede.h"
@@ -15,8 +15,8 @@ using support::kOtherCompany;
 
 class ApriAziendaFallback : public SessionTest {
 protected:
-    // The temporary database stands on this server too, and its name is one that the search finds: on a workstation in
-    // use it is younger than the companies.
+    // Creates the temporary database. It is on this server too, and the search for companies' databases finds it by its
+    // name. Here, as on a workstation in use, it is created after the companies' databases.
     ApriAziendaFallback() { EXPECT_TRUE(ApriDbTemp()); }
     long searches(const support::StatementRecorder& recorder) const {
         return static_cast<long>(recorder.holding("Select * from link_programma where  dbname='").size());

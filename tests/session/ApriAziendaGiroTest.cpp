@@ -1,4 +1,4 @@
-// Rows without a database on a server that has no database of a company: the search finds such a row again and again.
+// Rows without a database on a server without any company's database: the search finds such a row each time.
 
 #include "platform/Process.h"
 #include "session/ApriAzienda.h"
@@ -25,14 +25,17 @@ std::ostream& operator<<(std::ostream& out, const Righe& righe) {
 class ApriAziendaGiro : public SessionTest, public testing::WithParamInterface<Righe> {
 protected:
     ApriAziendaGiro() {
-        // The temporary database has a name that the search finds: it stands on another server here.
+        // The search would find the temporary database by its name: it is on another server here.
         workstation.putFile("C:\\vabo\\Leggi_ServerLocal.txt", "Server=127.0.0.1,9;\r\n");
         noCompanyDatabases();
         control("delete from link_programma");
-        for (const char* database : GetParam().databases)
+        for (const char* database : GetParam().databases) {
             control(std::string("insert into link_programma (NomeAzienda, dbname) values ('x', ") + database + ")");
-        for (const auto& row : workstation.rows(support::kControlDatabase, "select id from link_programma order by id"))
+        }
+        for (const auto& row :
+             workstation.rows(support::kControlDatabase, "select id from link_programma order by id")) {
             numbers.push_back(std::stod(row.front()));
+        }
     }
     /// How often each company was looked up until the end.
     std::map<std::string, int> lookUpsUntilTheEnd(double id) {
@@ -40,10 +43,12 @@ protected:
         int statements = 0;
         const support::SomebodyElse hears([&](const std::string& text) {
             constexpr int kFarTooMany = 500;
-            if (++statements == kFarTooMany)
+            if (++statements == kFarTooMany) {
                 platform::TerminaProcesso();
-            if (text.starts_with("Select * from link_programma  where   id = "))
+            }
+            if (text.starts_with("Select * from link_programma  where   id = ")) {
                 ++lookUps[text];
+            }
         });
         script.expectMessage("Non è possibile caricare il DataBase");
         EXPECT_TRUE(end.endedBy([&] { ApriAzienda(id); }));
@@ -53,8 +58,9 @@ protected:
     void expectEachLookedUpOnce(double id) {
         const auto lookUps = lookUpsUntilTheEnd(id);
         EXPECT_FALSE(lookUps.empty());
-        for (const auto& [text, times] : lookUps)
+        for (const auto& [text, times] : lookUps) {
             EXPECT_EQ(times, 1) << text;
+        }
     }
 
     std::vector<double> numbers;
@@ -65,8 +71,9 @@ TEST_P(ApriAziendaGiro, WithoutANumberIsWalkedOnce) {
 }
 
 TEST_P(ApriAziendaGiro, IsWalkedOnceFromEachRow) {
-    for (const double number : numbers)
+    for (const double number : numbers) {
         expectEachLookedUpOnce(number);
+    }
 }
 
 TEST_P(ApriAziendaGiro, IsWalkedOnceFromANumberWithoutARow) {
@@ -88,20 +95,22 @@ INSTANTIATE_TEST_SUITE_P(Righe, ApriAziendaGiro,
                                          Righe{"GoneAndBlank", {"'VaBoDatiAurora'", "' '"}}),
                          [](const auto& test) { return std::string(test.param.name); });
 
-/// The terminal's row can't be written: what is looked up is never the number that was asked for.
+/// The terminal's row can't be written: the number read from it is never the one asked for.
 TEST_F(SessionTest, ATerminalsRowThatNobodyCanChangeIsWalkedOnceToo) {
     workstation.putFile("C:\\vabo\\Leggi_ServerLocal.txt", "Server=127.0.0.1,9;\r\n");
     noCompanyDatabases();
     control("update link_programma set dbname = '' where dbname = 'VaBoDatiPonte'");
     setTerminal(support::kTerminalName, idOf(support::kCompany));
     int statements = 0;
-    // Somebody else takes each change back before it is read.
+    // Another process undoes each change before it is read.
     const support::SomebodyElse hears([&](const std::string& text) {
         constexpr int kFarTooMany = 500;
-        if (++statements == kFarTooMany)
+        if (++statements == kFarTooMany) {
             platform::TerminaProcesso();
-        if (text.starts_with("Select * from link_programmaTerminale"))
+        }
+        if (text.starts_with("Select * from link_programmaTerminale")) {
             control("update link_programmaTerminale set ultimo = " + textOf(idOf(support::kCompany)));
+        }
     });
     double id = idOf("");
     script.expectMessage("Non è possibile caricare il DataBase");

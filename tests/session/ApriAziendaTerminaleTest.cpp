@@ -1,4 +1,4 @@
-// What becomes of the terminal's row while a company is taken up, and what is read from it.
+// How the terminal's row is written and read while a company is taken up.
 
 #include "session/ApriAzienda.h"
 #include "session/ApriDbSede.h"
@@ -41,18 +41,18 @@ TEST_F(ApriAziendaTerminale, ATerminalAndAServerWithoutACompanySendTheirStatemen
     const support::StatementRecorder recorder;
     EXPECT_TRUE(end.endedBy([&] { ApriAzienda(id); }));
     EXPECT_EQ(recorder.texts(),
-              (Texts{// which company it is
+              (Texts{// AziendaTerminale
                      "delete from link_programmaTerminale where Nometerminale = N'' or Nometerminale is null",
                      "Select * from link_programmaTerminale where   Nometerminale like 'POSTO_7'",
                      "Select * from link_programma  order by dbname  ",
-                     // which it was the last time
+                     // UltimaAziendaTerminale
                      kDeleteBlank, kLastOfTerminal, kFirstDatabase, "Select * from link_programma where  dbname=''",
                      "Select * from link_programma  where   id = 0", kDeleteBlank,
                      // the number from the terminal's row
                      "delete from link_programmaTerminale where nometerminale is null", kReadTerminal,
-                     // the choice recorded, and read back
+                     // the choice is written and read again
                      kClearTerminal, setTo(0), kReadTerminal,
-                     // the company, and the way back
+                     // the company, then the fallback
                      "Select * from link_programma  where   id = 0", kFirstDatabase,
                      "Select * from link_programma where  dbname=''"}));
 }
@@ -61,10 +61,11 @@ TEST_F(ApriAziendaTerminale, TheChoiceIsReadBackFromTheTerminalsRow) {
     setTerminal("POSTO_7", idOf(kCompany));
     double id = idOf(kCompany);
     const double other = idOf(kOtherCompany);
-    // Another process chooses between the writing and the reading.
+    // Another process writes its choice between the two.
     const support::SomebodyElse somebody([&](const std::string& text) {
-        if (text == kReadTerminal)
+        if (text == kReadTerminal) {
             control("update link_programmaTerminale set ultimo = " + textOf(other));
+        }
     });
     ApriAzienda(id);
     EXPECT_EQ(IdAziendaLavoro, other);
@@ -78,11 +79,12 @@ TEST_F(ApriAziendaTerminale, WithoutANumberTheTerminalsRowIsReadOnceMore) {
     setTerminal("POSTO_7", 0);
     Texts heard;
     bool meanwhile = false;
-    // Another process chooses ahead of that reading.
+    // Another process writes its choice before that reading.
     const support::SomebodyElse somebody([&](const std::string& text) {
         heard.push_back(text);
-        if (text != kReadTerminal || meanwhile)
+        if (text != kReadTerminal || meanwhile) {
             return;
+        }
         meanwhile = true;
         control("update link_programmaTerminale set ultimo = 42");
     });
@@ -92,7 +94,7 @@ TEST_F(ApriAziendaTerminale, WithoutANumberTheTerminalsRowIsReadOnceMore) {
     EXPECT_EQ(std::count(heard.begin(), heard.end(), setTo(42)), 1) << "the number just read is the choice";
 }
 
-// Neither a row nor a number: the recordset stands at its end, so nothing that is written to it is stored.
+// With neither a row nor a number the recordset is at EOF, so nothing assigned to it is stored.
 TEST_F(ApriAziendaTerminale, WithoutANumberItGetsNoRowBeforeACompanyIsFound) {
     ASSERT_TRUE(ApriDbTemp());
     LeggiLinguaClient("");
@@ -100,12 +102,14 @@ TEST_F(ApriAziendaTerminale, WithoutANumberItGetsNoRowBeforeACompanyIsFound) {
     setTerminal("POSTO_7", 0);
     Texts heard;
     bool meanwhile = false;
-    // While the choice is recorded the terminal's row goes and the first company comes.
+    // While the choice is written, another process deletes the terminal's row and adds the first company.
     const support::SomebodyElse somebody([&](const std::string& text) {
-        if (meanwhile)
+        if (meanwhile) {
             heard.push_back(text);
-        if (meanwhile || !text.starts_with("update link_programmaTerminale"))
+        }
+        if (meanwhile || !text.starts_with("update link_programmaTerminale")) {
             return;
+        }
         meanwhile = true;
         control("delete from link_programmaTerminale");
         control("insert into link_programma (NomeAzienda, dbname) values ('Aurora', 'VaBoDatiAurora')");
@@ -116,19 +120,19 @@ TEST_F(ApriAziendaTerminale, WithoutANumberItGetsNoRowBeforeACompanyIsFound) {
     EXPECT_EQ(terminals(), (Rows{{"POSTO_7", textOf(id)}}));
     const std::string aurora = "Select * from link_programma where  dbname='VaBoDatiAurora'";
     Texts expected = {setTo(0), kReadTerminal,
-                      // is there a company, and which: written to no row
+                      // whether there is a company, and which; no row is written
                       kFirstDatabase, aurora, kFirstDatabase, aurora,
-                      // number zero isn't one, the first company is taken
+                      // zero isn't a company, so the first one is taken
                       "Select * from link_programma  where   id = 0", kFirstDatabase, aurora, kFirstDatabase, aurora,
                       kFirstDatabase, aurora, kFirstDatabase, aurora,
-                      // the pass that has a number adds the row
+                      // this attempt has a number and adds the row
                       kClearTerminal, setTo(id), kReadTerminal};
     ASSERT_GT(heard.size(), expected.size() + 1);
     EXPECT_EQ(Texts(heard.begin(), heard.begin() + static_cast<long>(expected.size())), expected);
     EXPECT_TRUE(heard[expected.size()].starts_with("INSERT")) << heard[expected.size()];
 }
 
-// The text of the local server that has no pointer file goes through the work string that named the terminal.
+// Where the local server has no pointer file, its connection text overwrites Appoggio, which held the terminal's name.
 TEST_F(ApriAziendaTerminale, WithoutALocalPointerFileTheLastUpdateNamesTheLocalServerInsteadOfTheTerminal) {
     removeFile("C:\\vabo\\Leggi_ServerLocal.txt");
     double id = idOf(kCompany);

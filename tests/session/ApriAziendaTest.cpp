@@ -1,11 +1,11 @@
-// The roads on which the wanted company is taken up.
+// Cases in which the wanted company is taken up.
 
 #include "session/ApriAzienda.h"
 
 #include "session/ApriDbSede.h"
 #include "session/LinguaClient.h"
 #include "session/SessionFixture.h"
-#include "support/Road.h"
+#include "support/TestedDriver.h"
 
 #include <filesystem>
 #include <set>
@@ -198,8 +198,9 @@ TEST_F(ApriAziendaTest, TheFolderOfTheLocalFilesIsMadeAndNoOther) {
         std::set<std::string> found;
         const auto drive = workstation.driveC().real("C:\\");
         for (const auto& entry : std::filesystem::recursive_directory_iterator(drive)) {
-            if (entry.is_directory())
+            if (entry.is_directory()) {
                 found.insert(entry.path().string());
+            }
         }
         return found;
     };

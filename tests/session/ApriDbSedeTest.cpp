@@ -112,7 +112,7 @@ TEST_F(ApriDbSede, CutsUserAndPasswordWithTheirKeysOutOfTheServerText) {
         {"", "", ""},
     };
     for (const Fragment& c : cases) {
-        // an empty first line needs its line break to be one
+        // an empty line needs its line break: an empty file raises
         serverText(c.text);
         EXPECT_EQ(LeggiUtenteServer(), c.user) << c.text;
         EXPECT_EQ(Appoggio, c.text);

@@ -1,6 +1,6 @@
 #include "session/Avviamento.h"
 
-#include "engine/Error.h"
+#include "engine/errors/Error.h"
 #include "rights/AbilitazioneUtente.h"
 #include "session/SessionFixture.h"
 

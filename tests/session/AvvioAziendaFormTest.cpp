@@ -26,7 +26,7 @@ protected:
         gui.waitForFront("Avvio_Azienda");
     }
     controls::DataCombo& list() { return gui.find<controls::DataCombo>("Avvio_Azienda", "DataCombo1"); }
-    /// A form of that name that pops the stack when it goes, as every tracked form does.
+    /// Adds a form of that name whose Unload takes it off the stack, as that of every form on the stack does.
     void build(const char* name) {
         gui.forms().add(name, [this, name] {
             return std::make_unique<RecordedForm>(name, log,
@@ -34,7 +34,7 @@ protected:
         });
     }
     void pick(const std::string& database) { gui.pick("Avvio_Azienda", "DataCombo1", companyName(database)); }
-    /// What the registry is asked when that company's main data source is configured.
+    /// The registry's call that configures that company's main data source.
     std::vector<std::string> configurationOf(const std::string& database) const {
         const auto both = registrazione("Tlv_Server", database, "Dati " + companyName(database), NomeServer);
         return {both[2], both[3]};
@@ -88,7 +88,7 @@ TEST_F(AvvioAziendaForm, AChoiceThatGaveWayBecomesTheTerminals) {
 }
 
 TEST_F(AvvioAziendaForm, WithoutANumberOfTheTerminalItShowsTheCompanyByItsName) {
-    // A name that counts as none: no company is taken up, and its row leads to none.
+    // "0" counts as an empty name, so no company is taken up.
     NomeTerminale = "0";
     setTerminal("0", 0);
     noCompanyDatabases();

@@ -24,8 +24,9 @@ TEST_F(AvvioForm, SaysWhatItDoesWithVersionAndDatabase) {
 TEST_F(AvvioForm, HasItsControlsUnderTheirNames) {
     gui.forms().show("Avvio");
     for (const char* name :
-         {"lblVersion", "Label1", "Picture1", "ProgressBar1", "Nome", "Please", "lblCompanyProduct", "Label2"})
+         {"lblVersion", "Label1", "Picture1", "ProgressBar1", "Nome", "Please", "lblCompanyProduct", "Label2"}) {
         EXPECT_NO_THROW(gui.find("Avvio", name)) << name;
+    }
 }
 
 TEST_F(AvvioForm, GivesWayToTheLoginAndStaysLoaded) {
@@ -66,8 +67,9 @@ TEST_F(AvvioForm, ATableOfUsersThatCanNotBeReadLeadsToTheConsoleToo) {
 TEST_F(AvvioForm, TheDatabaseCanBeReadBeforeTheSlowSteps) {
     bool seen = false;
     ado::setStatementRecorder([&](const std::string& text) {
-        if (text.find("min memory per query") == std::string::npos)
+        if (text.find("min memory per query") == std::string::npos) {
             return;
+        }
         seen = gui.isVisible("Avvio") && gui.text("Avvio", "Label1") == "DataBase :   " + companyName();
     });
     gui.forms().show("Avvio");

@@ -8,7 +8,7 @@
 #include <string>
 #include <vector>
 
-/// The program's forms on the sample workstation, as after the start of the process.
+/// The program's forms with the sample workstation, as at the start of the process.
 class FormTest : public SessionTest {
 protected:
     FormTest() {
@@ -22,6 +22,6 @@ protected:
         return controlValue("select NomeAzienda from link_programma where dbname = '" + database + "'");
     }
 
-    std::vector<std::string> log; ///< of recorded forms, which it outlives
+    std::vector<std::string> log; ///< of recorded forms; declared before them, so that it is destroyed later
     support::Gui gui;
 };

@@ -16,8 +16,9 @@ TEST_F(FormRefreshLinksForm, ShowsTheVersionAndNothingElseHappens) {
 TEST_F(FormRefreshLinksForm, HasTheControlsOfTheStartForm) {
     gui.forms().show("FormRefreshLinks");
     for (const char* name :
-         {"lblVersion", "Label1", "Picture1", "ProgressBar1", "Nome", "Please", "lblCompanyProduct", "Label2"})
+         {"lblVersion", "Label1", "Picture1", "ProgressBar1", "Nome", "Please", "lblCompanyProduct", "Label2"}) {
         EXPECT_NO_THROW(gui.find("FormRefreshLinks", name)) << name;
+    }
 }
 
 } // namespace

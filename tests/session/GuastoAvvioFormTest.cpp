@@ -67,7 +67,7 @@ TEST_P(GuastoAllAvvio, KeepsTheTemporaryDatabaseShutWithoutAWord) {
 
 INSTANTIATE_TEST_SUITE_P(Di, GuastoAllAvvio, testing::ValuesIn(kGuasti), kNomeDelGuasto);
 
-// One process is both servers: what befalls the process befalls both.
+// Both servers are one process: a failure of the process affects both.
 INSTANTIATE_TEST_SUITE_P(Di, GuastoLocale,
                          testing::Values(Guasto::Muto, Guasto::PortaSbagliata, Guasto::PasswordSbagliata),
                          kNomeDelGuasto);

@@ -1,4 +1,4 @@
-// The company console while its server fails, and what brings it back to work.
+// The company console while its server fails, and how it works again.
 
 #include "controls/DataCombo.h"
 #include "session/GuastoFormFixture.h"
@@ -22,7 +22,8 @@ protected:
         gui.waitForFront("Avvio_Azienda");
     }
     void scegli(const char* database) { gui.pick("Avvio_Azienda", "DataCombo1", companyName(database)); }
-    /// What a pick runs, without the toolkit around it: what stands for the end of the process can't pass through that.
+    /// Runs the handler of a pick directly, since the exception for the end of the process can't pass through the
+    /// toolkit.
     bool finisceScegliendo(const std::string& nome) {
         auto& elenco = gui.find<controls::DataCombo>("Avvio_Azienda", "DataCombo1");
         elenco.setText(nome);

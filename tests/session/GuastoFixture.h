@@ -15,7 +15,7 @@
 
 namespace vabo {
 
-/// What befalls the way to the server.
+/// The kinds of failure of the connection to the server.
 enum class Guasto { Spento, Gelato, Muto, PortaSbagliata, PasswordSbagliata };
 
 inline constexpr Guasto kGuasti[] = {Guasto::Spento, Guasto::Gelato, Guasto::Muto, Guasto::PortaSbagliata,
@@ -31,17 +31,16 @@ inline std::ostream& operator<<(std::ostream& out, Guasto guasto) {
 }
 
 inline constexpr const char* kIrraggiungibile = "Server does not exist or access denied.";
-/// What a connection says whose server has gone meanwhile, and what one that waited in vain for an answer.
+/// The errors of a connection whose server was lost, and of one whose server didn't answer in time.
 inline constexpr const char* kCaduto = "Communication link failure";
 inline constexpr const char* kMuto = "Timeout expired";
 
-/// What the user is told of it where the error's own description is shown.
+/// The error's description that the user sees.
 inline const char* Descrizione(Guasto guasto) {
     return guasto == Guasto::PasswordSbagliata ? "Login failed for user 'sa'." : kIrraggiungibile;
 }
 
-/// The server behind the wire of a test's workstation, to be broken and put right. Whoever waits for it gives up after
-/// one second.
+/// Breaks and repairs the server behind the wire of a test's workstation. Its time-out is one second.
 class ServerGuasto {
 public:
     explicit ServerGuasto(const support::TestWorkstation& posto) : posto_(posto) {
@@ -72,27 +71,31 @@ public:
     }
 
     void ripara() {
-        if (guasto_ == Guasto::Spento)
+        if (guasto_ == Guasto::Spento) {
             posto_.peer().restart();
-        if (guasto_ == Guasto::Gelato)
+        }
+        if (guasto_ == Guasto::Gelato) {
             posto_.peer().thaw();
-        for (const auto& [file, testo] : prima_)
+        }
+        for (const auto& [file, testo] : prima_) {
             posto_.putFile(file, testo);
+        }
         prima_.clear();
     }
 
-    /// Every pointer file with what is in it.
+    /// Every pointer file with its text.
     std::map<std::string, std::string> puntatori() const {
         std::map<std::string, std::string> tutti;
         for (const auto& voce : std::filesystem::directory_iterator(posto_.driveC().real("C:\\vabo"))) {
             const std::string nome = voce.path().filename().string();
-            if (voce.is_regular_file())
+            if (voce.is_regular_file()) {
                 tutti[nome] = *posto_.fileText("C:\\vabo\\" + nome);
+            }
         }
         return tutti;
     }
 
-    /// Between the program and its server from here on, for as long as it lives.
+    /// Puts a CutWire between the program and its server, for as long as the result lives.
     std::unique_ptr<support::CutWire> filo() {
         auto filo = std::make_unique<support::CutWire>(posto_.peer().port());
         cambia(QString::fromStdString(posto_.serverName()), QString::fromStdString(filo->server()));
@@ -102,7 +105,7 @@ public:
     support::SilentServer muto;
 
 private:
-    /// In the texts of both servers, and back again when it is put right.
+    /// Replaces a part of the connection texts of both servers; the repair restores it.
     void cambia(const QString& da, const QString& a) {
         for (const char* file : {"C:\\vabo\\IndirizzoServer.txt", "C:\\vabo\\Leggi_ServerLocal.txt"}) {
             const std::string testo = *posto_.fileText(file);
@@ -116,7 +119,7 @@ private:
     std::map<std::string, std::string> prima_;
 };
 
-/// The name of each test of a family of failures.
+/// The name of each test that is parameterised by a failure.
 inline const auto kNomeDelGuasto = [](const auto& info) { return std::string(Nome(info.param)); };
 
 } // namespace vabo

@@ -11,15 +11,17 @@ namespace vabo {
 
 inline constexpr const char* kNonCaricabile = "Non è possibile caricare il DataBase";
 
-/// The program's forms over a server that will fail.
+/// The program's forms with a server that can fail.
 class GuastoForm : public FormTest {
 protected:
-    /// The process anew: what stands on the disk is all that is left.
+    /// As if the process started anew: only what is on the disk stays.
     void ricomincia() {
-        // The form of the data sources gives way to the console.
-        for (const char* form : {"FormRegistraAziendeNeiDns", "Avvio_Morlan", "Avvio_Azienda", "About", "Avvio"})
-            if (gui.forms().isLoaded(form))
+        // In this order, since closing the form of the data sources opens the console.
+        for (const char* form : {"FormRegistraAziendeNeiDns", "Avvio_Morlan", "Avvio_Azienda", "About", "Avvio"}) {
+            if (gui.forms().isLoaded(form)) {
                 gui.forms().unload(form);
+            }
+        }
         support::Gui::handleEvents();
         AzzeraVariabili();
     }
@@ -31,12 +33,13 @@ protected:
         ado::setStatementRecorder({});
         return inviate;
     }
-    /// The server ends as statement number `fatale` goes out, counting from 1.
+    /// Ends the server when statement number `fatale`, counted from 1, is sent.
     void spegniAllIstruzione(int fatale, const std::function<void()>& lavoro) {
         int inviate = 0;
         ado::setStatementRecorder([&](const std::string& /*testo*/) {
-            if (++inviate == fatale)
+            if (++inviate == fatale) {
                 guasto.avviene(Guasto::Spento);
+            }
         });
         lavoro();
         ado::setStatementRecorder({});

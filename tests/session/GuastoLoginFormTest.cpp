@@ -1,4 +1,4 @@
-// The login while the server behind it fails.
+// The login while its server fails.
 
 #include "session/GuastoFormFixture.h"
 #include "session/TreatForms.h"

@@ -4,7 +4,7 @@
 #include "session/RegoleLogin.h"
 #include "session/SessionFixture.h"
 #include "support/Attacks.h"
-#include "support/Road.h"
+#include "support/TestedDriver.h"
 
 #include <optional>
 
@@ -24,7 +24,7 @@ protected:
     Rows users() const { return workstation.rows(kCompany, "select * from AbilitazioneAccessi order by idautonumber"); }
     std::string tables() const { return workstation.value(kCompany, "select count(*) from sysobjects"); }
 
-    /// What the login makes of the two fields; nothing where the database refused the statement.
+    /// The result of the login with these two fields; nothing where the database refused the statement.
     std::optional<EsitoLogin> outcome(const std::string& user, const std::string& password) {
         double newUser = 0;
         try {
@@ -62,14 +62,16 @@ TEST_F(LoginAttack, NoneGetsInByTheName) {
 }
 
 TEST_F(LoginAttack, NoneGetsInByThePassword) {
-    for (const std::string& attack : support::attacks())
+    for (const std::string& attack : support::attacks()) {
         expectOutside("amministratore", attack);
+    }
     expectNothingDamaged();
 }
 
 TEST_F(LoginAttack, NoneGetsInByBothFields) {
-    for (const std::string& attack : support::attacks())
+    for (const std::string& attack : support::attacks()) {
         expectOutside(attack, attack);
+    }
     expectNothingDamaged();
 }
 

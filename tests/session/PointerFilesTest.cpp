@@ -1,4 +1,4 @@
-// What a damaged pointer file does to each of its readers.
+// How each reader of a pointer file handles a damaged one.
 
 #include "platform/DriveC.h"
 #include "session/ApriAzienda.h"

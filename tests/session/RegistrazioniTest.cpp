@@ -1,4 +1,4 @@
-// The data sources that the taking up of a company registers.
+// The data sources that are registered when a company is taken up.
 
 #include "dblife/RegistraFixture.h"
 #include "session/ApriAzienda.h"
@@ -21,8 +21,9 @@ protected:
     }
     static Texts joined(std::initializer_list<Texts> parts) {
         Texts all;
-        for (const Texts& part : parts)
+        for (const Texts& part : parts) {
             all.insert(all.end(), part.begin(), part.end());
+        }
         return all;
     }
     /// The three of a company, in their order.
@@ -104,10 +105,12 @@ TEST_F(Registrazioni, TakeNoKeyFromACompanysName) {
     const auto bytes = workstation.fileText("C:\\odbc.ini");
     ASSERT_TRUE(bytes.has_value());
     EXPECT_THAT(*bytes, testing::HasSubstr("\nDescription=Dati Onlus Database=master;UID=sa PWD=x Port=9\n"));
-    for (const char* line : {"\nDatabase=VaBoDatiAurora\n", "\nDatabase=VaBoDatiTemp\n"})
+    for (const char* line : {"\nDatabase=VaBoDatiAurora\n", "\nDatabase=VaBoDatiTemp\n"}) {
         EXPECT_THAT(*bytes, testing::HasSubstr(line));
-    for (const char* line : {"\nDatabase=master", "\nUID=", "\nPWD=", "\nPort="})
+    }
+    for (const char* line : {"\nDatabase=master", "\nUID=", "\nPWD=", "\nPort="}) {
         EXPECT_THAT(*bytes, testing::Not(testing::HasSubstr(line)));
+    }
 }
 
 TEST_F(Registrazioni, StandInTheUsersFile) {

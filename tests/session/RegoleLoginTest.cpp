@@ -127,7 +127,7 @@ TEST_F(RegoleLogin, AFirstPasswordTakesBackTheSharedRecordsetsThoughItsUserIsRef
     double number = numberOf("nuovo_utente");
     RsCondivisi(4).Open("select * from Sede", DbAzienda);
     script.expectMessage("Utente non abilitato! ");
-    EntraConPrimaPassword(number, "0", "inverno"); // a name that counts as none
+    EntraConPrimaPassword(number, "0", "inverno"); // "0" counts as an empty name
     EXPECT_EQ(passwordOf("nuovo_utente"), "inverno");
     EXPECT_FALSE(RsCondivisi(4).IsOpen());
 }

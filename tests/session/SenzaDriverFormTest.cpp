@@ -1,4 +1,4 @@
-// A workstation on which no driver is registered that could reach the server.
+// A workstation without a registered driver for the server.
 
 #include "session/ApriDbSede.h"
 #include "session/FormFixture.h"
@@ -10,10 +10,10 @@
 namespace vabo {
 namespace {
 
-// The driver manager's own words.
+// The driver manager's text.
 constexpr const char* kSenzaDriver = "Can't open lib 'SQL Server' : file not found";
 
-/// The driver manager reads an empty folder. Of this whole process: it looks for its registry once.
+/// Gives the driver manager an empty folder as its configuration, for the whole process, since it looks for it once.
 class SenzaDriver : public FormTest {
 protected:
     static void SetUpTestSuite() {

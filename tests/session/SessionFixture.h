@@ -13,7 +13,7 @@
 #include <string>
 #include <vector>
 
-/// The sample workstation with the terminal's name known, as the start form leaves it.
+/// The sample workstation with the terminal's name set, as after the start form.
 class SessionTest : public testing::Test {
 protected:
     SessionTest() {
@@ -39,11 +39,11 @@ protected:
     }
     void drop(const std::string& database) const { workstation.run("master", "DROP DATABASE [" + database + "]"); }
     void create(const std::string& database) const { workstation.run("master", "CREATE DATABASE [" + database + "]"); }
-    /// The server knows the database still, its file is none any more.
+    /// Overwrites the database's file with these bytes; the server still lists the database.
     void breakDatabase(const std::string& database, const std::string& bytes) const {
         const std::string file =
             workstation.value("master", "select filename from master.dbo.sysdatabases where name = '" + database + "'");
-        // A file without a folder of its own stands where the server placed it.
+        // A name without a drive is a path of this system, where the server has put the file.
         const std::filesystem::path place = file.starts_with('/') ? file : workstation.driveC().real(file).string();
         ASSERT_TRUE(std::filesystem::is_regular_file(place)) << file;
         std::ofstream(place, std::ios::binary) << bytes;

@@ -7,8 +7,8 @@
 
 namespace support {
 
-/// Texts that somebody types who wants to get in without a password or to do harm: quotes, comments, unions, control
-/// characters, long texts, letters that only look alike. More than two hundred, none of them twice.
+/// Texts that an attacker may type as name or password: quotes, comments, unions, control characters, long texts,
+/// letters that look like others. More than two hundred, all different.
 inline std::vector<std::string> attacks() {
     const std::vector<std::string> shapes = {"'",
                                              "''",
@@ -122,8 +122,9 @@ inline std::vector<std::string> attacks() {
     for (const std::string& shape : shapes) {
         for (const std::string_view quote : quotes) {
             std::string text;
-            for (const char c : shape)
+            for (const char c : shape) {
                 c == '\'' ? text.append(quote) : text.append(1, c);
+            }
             all.insert(text);
         }
     }

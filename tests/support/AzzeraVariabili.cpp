@@ -8,8 +8,9 @@ namespace vabo {
 void AzzeraVariabili() {
     ChiudiRecordset();
     for (ado::Connection* connessione : {&DbAzienda, &DbControllo, &DbTemp}) {
-        if (connessione->IsOpen())
+        if (connessione->IsOpen()) {
             connessione->Close();
+        }
         connessione->setConnectionString("");
     }
     for (std::string* testo : {&StringaAzienda,    &StringaAziendaCopia,
@@ -22,11 +23,13 @@ void AzzeraVariabili() {
                                &CartellaFile,      &PercorsoFileLocale,
                                &FileLocale,        &LinguaCorrente,
                                &NomeUtenteLogin,   &Sql,
-                               &SqlLavoro,         &Appoggio})
+                               &SqlLavoro,         &Appoggio}) {
         testo->clear();
+    }
     for (double* numero :
-         {&IdAzienda, &IdAziendaLavoro, &IdAziendaScelta, &IdSede, &IdSedeCopia, &TentativiLogin, &CimaForm})
+         {&IdAzienda, &IdAziendaLavoro, &IdAziendaScelta, &IdSede, &IdSedeCopia, &TentativiLogin, &CimaForm}) {
         *numero = 0;
+    }
     ClienteDornavel = kFalso;
     ServerMancante = kFalso;
     DirittiUtente = {};

@@ -2,7 +2,7 @@
 
 namespace vabo {
 
-/// All global state as at the start of the process, which a test or the next one in its process begins with.
+/// Sets all global state as at the start of the process, so that each test of a process begins with the same.
 void AzzeraVariabili();
 
 } // namespace vabo

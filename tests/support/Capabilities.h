@@ -4,15 +4,15 @@
 
 namespace support {
 
-/// Something that a road offers, or the reason why it doesn't.
+/// Something that a driver with its server offers, or the reason why it doesn't.
 struct Capability {
     const char* missing = nullptr;
     explicit operator bool() const { return missing == nullptr; }
 };
 
-/// Where a road may differ from the embedded one, and why.
+/// How a driver may differ from the embedded one, and why.
 struct Capabilities {
-    /// Behind the table in the SELECT that holds a row: a server of the network holds rows by hints alone.
+    /// The hint after the table in the SELECT that holds a row, which a server of the network needs.
     const char* holdingHint = "";
     Capability fieldsTellTheirSource;
     Capability holdEndsAtOnceWithItsProcess;
@@ -33,7 +33,7 @@ inline constexpr Capabilities kWireCapabilities{
 
 } // namespace support
 
-/// Skips the running test, in the reason's words, on a road that doesn't offer what the test is about.
+/// Skips the running test, with the reason as its message, where the driver doesn't offer what the test needs.
 #define VABO_NEEDS(capability)                                                                                         \
     if (!(capability))                                                                                                 \
     GTEST_SKIP() << (capability).missing

@@ -1,4 +1,4 @@
-// What the test command tells at its end.
+// The last line of the test command: how many tests ran.
 
 #include "support/Processes.h"
 #include "support/TemporaryFolder.h"
@@ -15,7 +15,7 @@ namespace {
 
 class CountTests : public testing::Test {
 protected:
-    /// The results of one executable, as the test framework writes them: a sum over all, then one a group.
+    /// Writes the results of one executable as the test framework does: a sum of all groups, then one of each.
     void put(const std::string& file, const std::string& groups) const {
         const fs::path path = build.path() / "test-results" / file;
         fs::create_directories(path.parent_path());
@@ -32,14 +32,14 @@ protected:
     support::TemporaryFolder build;
 };
 
-TEST_F(CountTests, SumsUpTheGroupsOfEachRoad) {
+TEST_F(CountTests, SumsUpTheGroupsOfEachLabel) {
     put("embedded/one_test.xml", group("7", "0") + group("30", "0"));
     put("embedded/two_test.xml", group("4", "0"));
     put("wire/one_wire_test.xml", group("7", "2") + group("30", "1"));
     EXPECT_EQ(line(), "embedded: 41 tests (0 skipped), wire: 34 tests (3 skipped)\n");
 }
 
-TEST_F(CountTests, ARoadThatWasNotRunIsNotTold) {
+TEST_F(CountTests, ALabelThatWasNotRunIsNotTold) {
     put("wire/one_wire_test.xml", group("7", "0"));
     EXPECT_EQ(line(), "wire: 7 tests (0 skipped)\n");
 }

@@ -11,7 +11,7 @@ namespace support {
 
 namespace {
 
-/// A caller and the server on the other side.
+/// The sockets to a caller and, for it, to the server.
 struct Pair {
     int caller;
     int server;
@@ -25,8 +25,9 @@ void hangUp(const Pair& pair) {
 bool sendAll(int to, const char* bytes, ssize_t count) {
     while (count > 0) {
         const ssize_t sent = ::send(to, bytes, static_cast<std::size_t>(count), MSG_NOSIGNAL);
-        if (sent <= 0)
+        if (sent <= 0) {
             return false;
+        }
         bytes += sent;
         count -= sent;
     }
@@ -41,7 +42,7 @@ CutWire::CutWire(int port) : server_(port), listener_(loopback::listener()), por
 
 CutWire::~CutWire() {
     over_ = true;
-    ::close(loopback::call(port_)); // so that it looks up
+    ::close(loopback::call(port_)); // a call ends the thread's wait, so that it sees the end
     thread_.join();
     ::close(listener_);
 }
@@ -59,20 +60,23 @@ void CutWire::mend() {
 
 void CutWire::run() {
     std::vector<Pair> pairs;
-    bool cut = false; // of this turn, whoever mends the wire meanwhile
-    // False where the connection has ended.
+    bool cut = false; // a copy for this turn, since the test may mend the wire meanwhile
+    // Passes what has arrived; false where the connection has ended.
     const auto pass = [&](int from, int to, bool answer) {
         std::array<char, 4096> bytes{};
         ssize_t count = ::recv(from, bytes.data(), bytes.size(), 0);
-        if (count <= 0)
+        if (count <= 0) {
             return false;
+        }
         if (const long limit = limit_; answer && limit >= 0) {
             count = std::min<ssize_t>(count, limit - passed_);
-            if (passed_ + count >= limit)
+            if (passed_ + count >= limit) {
                 cut_ = cut = true;
+            }
         }
-        if (answer)
+        if (answer) {
             passed_ += count;
+        }
         return sendAll(to, bytes.data(), count);
     };
     while (!over_) {
@@ -88,27 +92,31 @@ void CutWire::run() {
             const Pair& pair = pairs[i];
             const bool stands = !cut && (waiting[1 + 2 * i].revents == 0 || pass(pair.caller, pair.server, false)) &&
                                 (waiting[2 + 2 * i].revents == 0 || pass(pair.server, pair.caller, true));
-            if (stands)
+            if (stands) {
                 kept.push_back(pair);
-            else
+            } else {
                 hangUp(pair);
+            }
         }
         pairs = std::move(kept);
         if (cut) {
-            for (const Pair& pair : pairs)
+            for (const Pair& pair : pairs) {
                 hangUp(pair);
+            }
             pairs.clear();
         }
         if (waiting[0].revents != 0) {
             const Pair pair{loopback::accept(listener_), loopback::call(server_)};
-            if (cut || pair.server < 0)
+            if (cut || pair.server < 0) {
                 hangUp(pair);
-            else
+            } else {
                 pairs.push_back(pair);
+            }
         }
     }
-    for (const Pair& pair : pairs)
+    for (const Pair& pair : pairs) {
         hangUp(pair);
+    }
 }
 
 } // namespace support

@@ -6,9 +6,9 @@
 
 namespace support {
 
-/// A wire on loopback between callers and a server there, which can be cut: behind a number of bytes of the server's
-/// answers all connections end, and whoever calls then is hung up on, until it is mended. An answer that
-/// nobody reads holds up all others.
+/// A proxy on loopback between callers and a server, which can be cut: after a number of bytes of the server's answers
+/// all connections are closed, and so are new ones, until it is mended. It has one thread, so an answer that isn't read
+/// blocks all others.
 class CutWire {
 public:
     explicit CutWire(int port);
@@ -16,14 +16,14 @@ public:
     CutWire(const CutWire&) = delete;
     CutWire& operator=(const CutWire&) = delete;
 
-    /// As connection texts name it: address and port.
+    /// Address and port, as a connection text names them.
     std::string server() const { return "127.0.0.1," + std::to_string(port_); }
 
-    /// Counts anew and cuts once so many bytes have come from the server.
+    /// Sets the count to zero, and cuts when that many bytes have come from the server.
     void cutAfter(long bytes);
-    /// Counts anew, and lets everything pass.
+    /// Sets the count to zero, and lets everything pass.
     void mend();
-    /// Bytes that have come from the server since it counts.
+    /// Bytes that have come from the server since the count was set to zero.
     long passed() const { return passed_; }
 
 private:

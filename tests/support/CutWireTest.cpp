@@ -12,7 +12,7 @@
 namespace support {
 namespace {
 
-/// A server at one end of the wire, a caller at the other.
+/// A server at one end of the proxy, a caller at the other.
 class CutWires : public testing::Test {
 protected:
     ~CutWires() override {
@@ -30,22 +30,25 @@ protected:
     void answer(const std::string& text) const {
         ASSERT_EQ(::send(server_, text.data(), text.size(), 0), static_cast<ssize_t>(text.size()));
     }
-    /// Up to so many bytes, or up to the end of the connection.
+    /// Reads that many bytes, or up to the end of the connection.
     std::string heard(std::size_t bytes) const {
         std::string text;
         std::array<char, 64> piece{};
         while (text.size() < bytes) {
             const ssize_t count = ::recv(caller_, piece.data(), piece.size(), 0);
-            if (count <= 0)
+            if (count <= 0) {
                 break;
+            }
             text.append(piece.data(), static_cast<std::size_t>(count));
         }
         return text;
     }
     void hangUp() {
-        for (int* end : {&caller_, &server_})
-            if (*end >= 0)
+        for (int* end : {&caller_, &server_}) {
+            if (*end >= 0) {
                 ::close(std::exchange(*end, -1));
+            }
+        }
     }
 
 private:

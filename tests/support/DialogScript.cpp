@@ -49,8 +49,9 @@ DialogScript::DialogScript() {
 
 DialogScript::~DialogScript() {
     platform::setDialogs(nullptr);
-    for (const Box& box : expected_)
+    for (const Box& box : expected_) {
         ADD_FAILURE() << "A box didn't come: " << box.kind << " \"" << box.text << '"' << box.details;
+    }
 }
 
 void DialogScript::expectMessage(const std::string& text, std::optional<platform::Icon> icon) {

@@ -9,9 +9,9 @@
 
 namespace support {
 
-/// The boxes that a test expects, in their order, each with its answer. While it lives it is the one who answers: a
-/// box that isn't the next expected fails the test with its text and gets a safe answer (No, Cancel, nothing), so
-/// that nothing ever waits; one that didn't come fails the test at the end of the script's life.
+/// The boxes that a test expects, in their order, each with its answer. While the object lives it answers all boxes, so
+/// that no test waits. A box that isn't the next expected one fails the test with its text and is answered with No,
+/// Cancel or nothing. An expected box that didn't come fails the test when the object is destroyed.
 ///
 ///     DialogScript script;
 ///     script.expectQuestion("Vuoi uscire?", true);
@@ -34,7 +34,7 @@ public:
     bool allShown() const { return expected_.empty(); }
 
 private:
-    /// A box as a reader of a failure wants to see it, and what to say to it.
+    /// A box as a failure shows it, and its answer.
     struct Box {
         std::string kind;
         std::string text;    ///< text, prompt or title

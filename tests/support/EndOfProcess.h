@@ -4,7 +4,8 @@
 
 namespace support {
 
-/// While it lives, the end of the process throws platform::ProcessEnded instead, and is counted.
+/// While this object lives, TerminaProcesso throws platform::ProcessEnded instead of ending the process, and is
+/// counted.
 class EndOfProcess {
 public:
     EndOfProcess() {
@@ -16,7 +17,7 @@ public:
 
     int ended() const { return ended_; }
 
-    /// Runs `work` and tells whether it ended the process.
+    /// Runs `work` and returns whether it ended the process.
     template<typename Work>
     bool endedBy(Work&& work) {
         try {

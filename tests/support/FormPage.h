@@ -11,7 +11,7 @@
 
 namespace support {
 
-/// One form of a test, with what a user sees and does there. It needn't be loaded yet.
+/// One form in a test: what a user sees and does there. It needn't be loaded yet.
 class FormPage {
 public:
     FormPage(Gui& gui, std::string form) : gui_(&gui), form_(std::move(form)) {}
@@ -23,34 +23,34 @@ public:
     controls::DataGrid& grid(const std::string& name) const { return control<controls::DataGrid>(name); }
     controls::DataCombo& combo(const std::string& name) const { return control<controls::DataCombo>(name); }
 
-    /// Loads the form where it isn't, and waits until the keyboard reaches it.
+    /// Loads the form where it isn't loaded, and waits until it has the keyboard.
     void show() const;
-    /// The platform without a screen doesn't give the front back to the form when a list closes.
+    /// Makes the form the active window again, which the offscreen platform doesn't do when a list closes.
     void comeToFront() const;
     void turnTo(const std::string& tabs, int number) const;
 
     std::string text(const std::string& name) const { return gui_->text(form_, name); }
-    /// Seen once its tab is turned to.
+    /// Whether a control is visible when its tab is the current one.
     bool isShown(const std::string& name) const;
     int box(const std::string& name) const { return control<controls::CheckBox>(name).Value(); }
-    /// The boxes that are ticked, one blank between them.
+    /// The names of the ticked boxes, separated by blanks.
     std::string tickedBoxes() const;
-    /// The control that has the focus, of this form or another; Gui::focus says of which.
+    /// The control that has the focus, in this form or another; Gui::focus gives the form, too.
     std::string focus() const;
 
     int rows(const std::string& grid) const { return this->grid(grid).model()->rowCount(); }
     std::string cell(const std::string& grid, int row, int column) const;
-    /// The first column of the row on which the grid stands, empty where it stands on none.
+    /// The first column of the grid's current row, empty where there is none.
     std::string currentRow(const std::string& grid) const;
     bool currentRowIsInSight(const std::string& grid) const;
-    /// Goes to the row whose first column holds that id, and takes it with Enter.
+    /// Goes to the row whose first column is that id, and presses Enter there.
     void choose(const std::string& grid, const std::string& id) const;
 
-    /// Takes a row of a combo's list.
+    /// Picks a row of a combo's list.
     void pick(const std::string& combo, const std::string& row) const;
-    /// Types into the combo that has the focus; the list of what was found stays open.
+    /// Types into the combo, which must have the focus; the list of the rows found stays open.
     QAbstractItemView& search(const std::string& combo, const std::string& letters) const;
-    /// The same; the list closes with nothing taken.
+    /// The same, then closes the list without a pick.
     void typeWithoutPick(const std::string& combo, const std::string& letters) const;
 
 private:

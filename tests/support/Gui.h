@@ -14,11 +14,11 @@
 
 namespace support {
 
-/// What a user does at the forms of one test: keys and mouse at controls that are named as the forms name them. A
-/// control that isn't there, or that a user couldn't reach, ends the test with the names that there are.
+/// What a user does with the forms of one test: keys and mouse on controls, by the names that the forms give them. A
+/// control that doesn't exist or that a user can't reach ends the test with a list of the names that exist.
 class Gui {
 public:
-    /// The host of the program's forms while it lives. The real forms: app::registerForms(gui.forms()).
+    /// The host of the program's forms while this object lives. app::registerForms(gui.forms()) adds the real forms.
     Gui();
     Gui(const Gui&) = delete;
     Gui& operator=(const Gui&) = delete;
@@ -26,38 +26,39 @@ public:
 
     controls::FormRegistry& forms() { return forms_; }
 
-    /// The loaded form of that name. Throws std::runtime_error, as all that follow.
+    /// The loaded form of that name. This and all functions below throw std::runtime_error where there is none.
     controls::Form& form(const std::string& name) const;
     bool isVisible(const std::string& form) const;
-    /// The names of the visible forms, in order, one blank between them.
+    /// The names of the visible forms, sorted, separated by blanks.
     std::string visibleForms() const;
 
     template<typename Control = QWidget>
     Control& find(const std::string& form, const std::string& control) const {
         auto* found = dynamic_cast<Control*>(&widget(form, control));
-        if (found == nullptr)
+        if (found == nullptr) {
             throw std::runtime_error(form + "." + control + " is of another kind");
+        }
         return *found;
     }
-    /// As it is seen: without the mark of a mnemonic.
+    /// As it is displayed, without the mark of a mnemonic.
     std::string text(const std::string& form, const std::string& label) const;
-    /// The mnemonics of the push buttons that are to be seen, sorted; '-' for a button without one.
+    /// The mnemonics of the visible push buttons, sorted; '-' for a button without one.
     std::string mnemonics(const std::string& form) const;
-    /// "form.control" that has the focus, empty where none has.
+    /// "form.control" of the control with the focus, empty where none has it.
     std::string focus() const;
 
-    /// Keys to whatever has the focus: the keyboard alone.
+    /// Types keys into the control that has the focus.
     void type(const std::string& text);
     void press(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier);
-    /// Into a field, whatever has the focus.
+    /// Types into a field, whichever control has the focus.
     void typeInto(const std::string& form, const std::string& control, const std::string& text);
     void click(const std::string& form, const std::string& control);
-    /// Opens the list with the arrow key, goes to that row and takes it with Enter.
+    /// Opens the list with the arrow key, goes to that row and presses Enter.
     void pick(const std::string& form, const std::string& combo, const std::string& row);
 
-    /// Until that form is the one that the keyboard reaches.
+    /// Waits until that form has the keyboard.
     void waitForFront(const std::string& form) const;
-    /// Lets events be handled until the condition holds; fails the test when it never does.
+    /// Handles events until the condition is true; fails the test where it doesn't become true in time.
     static void waitFor(const std::string& what, const std::function<bool()>& condition);
     static void handleEvents();
 

@@ -2,7 +2,7 @@
 
 #include "controls/Style.h"
 #include "support/Environment.h"
-#include "support/Road.h"
+#include "support/TestedDriver.h"
 
 #include <QApplication>
 
@@ -12,16 +12,17 @@ namespace {
 
 QtMessageHandler failing = nullptr;
 
-/// What the offscreen platform says of every popup is no warning about the program.
+/// Ignores a warning that the offscreen platform gives for every popup.
 void passOver(QtMsgType type, const QMessageLogContext& context, const QString& message) {
-    if (!message.startsWith(QLatin1String("This plugin does not support ")))
+    if (!message.startsWith(QLatin1String("This plugin does not support "))) {
         failing(type, context, message);
+    }
 }
 
 } // namespace
 
 int main(int argc, char** argv) {
-    support::chooseRoad(argc, argv);
+    support::chooseTestedDriver(argc, argv);
     support::prepareProcess();
     testing::InitGoogleTest(&argc, argv);
     QApplication application(argc, argv);

@@ -8,7 +8,7 @@
 
 namespace support {
 
-/// While it lives any box may come: each gets the safe answer (No, Cancel, nothing), and its text is kept.
+/// While this object lives any box may come: it keeps their texts and answers No, Cancel or nothing.
 class HeardBoxes {
 public:
     HeardBoxes() { platform::setDialogs(std::make_unique<Safe>(texts)); }

@@ -7,7 +7,7 @@
 
 namespace support {
 
-/// What the program's logging categories say while it lives.
+/// Collects what the program logs while this object lives.
 class LogLines {
 public:
     LogLines() : before_(qInstallMessageHandler(&LogLines::take)) { lines().clear(); }

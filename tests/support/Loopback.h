@@ -6,7 +6,7 @@
 #include <sys/socket.h>
 #include <unistd.h>
 
-/// Sockets on loopback, as few as tests need.
+/// The few functions for sockets on loopback that tests need.
 namespace support::loopback {
 
 inline sockaddr_in address(int port) {
@@ -17,14 +17,15 @@ inline sockaddr_in address(int port) {
     return place;
 }
 
-/// Listens on a port of the system's choice; it doesn't block.
+/// A non-blocking socket that listens on a port chosen by the system.
 inline int listener() {
     constexpr int kCallers = 64;
     const int handle = ::socket(AF_INET, SOCK_STREAM | SOCK_CLOEXEC | SOCK_NONBLOCK, 0);
     sockaddr_in place = address(0);
     if (handle < 0 || ::bind(handle, reinterpret_cast<sockaddr*>(&place), sizeof place) < 0 ||
-        ::listen(handle, kCallers) < 0)
+        ::listen(handle, kCallers) < 0) {
         throw std::runtime_error("No place to listen on loopback.");
+    }
     return handle;
 }
 
@@ -35,17 +36,18 @@ inline int portOf(int listener) {
     return ntohs(place.sin_port);
 }
 
-/// The next caller, -1 where there is none.
+/// The connection of the next caller, -1 where there is none.
 inline int accept(int listener) {
     return ::accept4(listener, nullptr, nullptr, SOCK_CLOEXEC);
 }
 
-/// Calls that port; -1 where nobody listens.
+/// Connects to that port; -1 where nothing listens there.
 inline int call(int port) {
     const int handle = ::socket(AF_INET, SOCK_STREAM | SOCK_CLOEXEC, 0);
     sockaddr_in place = address(port);
-    if (::connect(handle, reinterpret_cast<sockaddr*>(&place), sizeof place) == 0)
+    if (::connect(handle, reinterpret_cast<sockaddr*>(&place), sizeof place) == 0) {
         return handle;
+    }
     ::close(handle);
     return -1;
 }

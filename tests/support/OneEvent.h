@@ -7,8 +7,7 @@
 
 namespace support {
 
-/// Runs `work` as the program runs what follows one click: within one turn of its event loop, which then waits for
-/// something new.
+/// Runs `work` as the program handles one click: in one turn of the event loop, which then waits for the next event.
 inline void inOneEvent(const std::function<void()>& work) {
     QEventLoop loop;
     QTimer::singleShot(0, &loop, [&] {

@@ -16,8 +16,9 @@ void Peer::start(int port) {
     process_ = std::make_unique<HelperProcess>(
         "vabo-peer", std::vector<std::string>{instance_.string(), driveC_.string(), std::to_string(port)});
     const std::string line = process_->readLine().value_or("nothing");
-    if (!line.starts_with("port "))
+    if (!line.starts_with("port ")) {
         throw std::runtime_error("The peer says: " + line);
+    }
     port_ = std::stoi(line.substr(5));
 }
 

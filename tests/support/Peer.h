@@ -8,22 +8,22 @@
 
 namespace support {
 
-/// A server of the wire protocol over one instance, on loopback, in a process of its own that ends with the object.
+/// A server of the wire protocol for one instance, on loopback, in a process of its own that ends with this object.
 class Peer {
 public:
-    /// The folder of the instance, and the folder that its paths "C:\…" lie in.
+    /// The folder of the instance, and the folder for its paths "C:\…".
     Peer(std::filesystem::path instance, std::filesystem::path driveC);
 
-    /// As connection texts name it: address and port.
+    /// Address and port, as a connection text names them.
     std::string server() const { return "127.0.0.1," + std::to_string(port_); }
     int port() const { return port_; }
 
     long long pid() const { return process_->pid(); }
     void kill() { process_->kill(); }
-    /// Holds the process still, and lets it go on.
+    /// Stops the process, and lets it continue.
     void freeze() const;
     void thaw() const;
-    /// After `kill`: the same databases on the same port.
+    /// After `kill`: starts it again with the same databases on the same port.
     void restart() { start(port_); }
 
 private:

@@ -11,7 +11,7 @@ namespace support {
 
 namespace {
 
-constexpr int kPatience = 30'000; // milliseconds; only a hang is that slow
+constexpr int kPatience = 30'000; // milliseconds; only a process that hangs takes longer
 
 QString pathOf(const std::string& program) {
     const QString name = QString::fromStdString(program);
@@ -24,20 +24,23 @@ HelperProcess::HelperProcess(const std::string& program, const std::vector<std::
                              const std::map<std::string, std::string>& environment) {
     QProcessEnvironment all = QProcessEnvironment::systemEnvironment();
     for (const auto& [name, value] : environment) {
-        if (value.empty())
+        if (value.empty()) {
             all.remove(QString::fromStdString(name));
-        else
+        } else {
             all.insert(QString::fromStdString(name), QString::fromStdString(value));
+        }
     }
     QStringList list;
-    for (const std::string& argument : arguments)
+    for (const std::string& argument : arguments) {
         list << QString::fromStdString(argument);
+    }
     process_.setProcessEnvironment(all);
     process_.setProcessChannelMode(QProcess::ForwardedErrorChannel);
-    process_.setChildProcessModifier([] { ::prctl(PR_SET_PDEATHSIG, SIGKILL); }); // whatever way the test ends
+    process_.setChildProcessModifier([] { ::prctl(PR_SET_PDEATHSIG, SIGKILL); }); // however the test ends
     process_.start(pathOf(program), list);
-    if (!process_.waitForStarted(kPatience))
+    if (!process_.waitForStarted(kPatience)) {
         ADD_FAILURE() << program << " doesn't start: " << process_.errorString().toStdString();
+    }
 }
 
 HelperProcess::~HelperProcess() {
@@ -57,8 +60,9 @@ std::optional<std::string> HelperProcess::readLine() {
             return std::nullopt;
         }
     }
-    if (!process_.canReadLine())
+    if (!process_.canReadLine()) {
         return std::nullopt;
+    }
     return process_.readLine().trimmed().toStdString();
 }
 
@@ -68,8 +72,9 @@ std::string HelperProcess::readAll() {
 }
 
 void HelperProcess::kill() {
-    if (process_.state() == QProcess::NotRunning)
+    if (process_.state() == QProcess::NotRunning) {
         return;
+    }
     process_.kill();
     process_.waitForFinished(kPatience);
 }

@@ -9,11 +9,11 @@
 
 namespace support {
 
-/// Another process for a test to talk with, line by line. It never outlives the object.
+/// A process that a test exchanges lines with. It ends with this object at the latest.
 class HelperProcess {
 public:
-    /// `program` is an executable of this build, by its name, or a path. `environment` is added to the test's own; an
-    /// empty value takes a variable away. Fails the test when it doesn't start.
+    /// `program` is the name of an executable of this build, or a path. `environment` is added to the test's own; an
+    /// empty value removes a variable. Fails the test where the process doesn't start.
     explicit HelperProcess(const std::string& program, const std::vector<std::string>& arguments = {},
                            const std::map<std::string, std::string>& environment = {});
     HelperProcess(const HelperProcess&) = delete;
@@ -22,12 +22,13 @@ public:
 
     long long pid() const { return process_.processId(); }
     void writeLine(const std::string& line);
-    /// The next line of its output; nothing when it ended without one. Fails the test when none comes in half a minute.
+    /// The next line of its output; nothing where it ended without one. Fails the test where none comes in half a
+    /// minute.
     std::optional<std::string> readLine();
     std::string readAll();
-    /// At once, as a power cut would end it, and reaped.
+    /// Kills the process and waits for its end.
     void kill();
-    /// Closes its input and waits. The exit code; -1 when it was killed or crashed.
+    /// Closes its input and waits for its end. Returns the exit code, -1 where it was killed or crashed.
     int finish();
 
 private:

@@ -42,7 +42,7 @@ TEST(Processes, AllOutputCanBeReadAtOnce) {
 }
 
 TEST(Processes, AHelperDiesWithATestThatCrashes) {
-    std::array<int, 2> ends{}; // at its end once nobody has it open any more
+    std::array<int, 2> ends{}; // reading from it ends when no process has it open any more
     ASSERT_EQ(::pipe(ends.data()), 0);
     const pid_t test = ::fork();
     if (test == 0) {

@@ -10,8 +10,8 @@
 
 namespace support {
 
-/// A registry that only remembers what it was asked. In the attributes a carriage return reads "|" and a zero
-/// character "~".
+/// A registry of data sources that only records its calls. In the attributes a carriage return is shown as "|" and a
+/// zero character as "~".
 ///
 ///     RecordedDataSources registry;
 ///     RegistraOdbc(1, 2, "Tlv_Temp", …);
@@ -26,7 +26,7 @@ public:
     const std::vector<std::string>& calls() const { return calls_; }
     void forget() { calls_.clear(); }
 
-    std::vector<std::string> names;   ///< what it holds
+    std::vector<std::string> names;   ///< the data sources in the registry
     bool refusesRegistration = false; ///< registerDatabase throws
     std::int32_t result = 1;          ///< of configure
 
@@ -39,8 +39,9 @@ private:
                               const std::string& attributes) override {
             owner_.calls_.push_back("register " + name + ", " + driver + (silent ? ": " : ", asking: ") +
                                     readable(attributes));
-            if (owner_.refusesRegistration)
+            if (owner_.refusesRegistration) {
                 throw std::runtime_error("The driver isn't there.");
+            }
         }
         std::int32_t configure(std::int16_t request, const std::string& driver,
                                const std::string& attributes) override {
@@ -51,8 +52,9 @@ private:
 
     private:
         static std::string readable(std::string attributes) {
-            for (char& c : attributes)
+            for (char& c : attributes) {
                 c = c == '\r' ? '|' : c == '\0' ? '~' : c;
+            }
             return attributes;
         }
         RecordedDataSources& owner_;

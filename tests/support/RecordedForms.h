@@ -9,8 +9,8 @@
 
 namespace support {
 
-/// Stands in for the windows while it lives: keeps what was asked of them, in order ("show About"), and builds every
-/// form but those named as missing.
+/// The form host while this object lives. It has no windows, but records the calls in order ("show About"). Every form
+/// exists except those named to `miss`.
 class RecordedForms : public platform::FormHost {
 public:
     RecordedForms() { platform::setFormHost(this); }

@@ -31,7 +31,7 @@ TEST(StatementRecorder, HearsNothingAfterItsEnd) {
     EXPECT_TRUE(later.texts().empty());
 }
 
-TEST(EndOfProcess, IsCountedAndLeavesTheCallersRoad) {
+TEST(EndOfProcess, IsCountedAndUnwindsTheCaller) {
     EndOfProcess end;
     bool goneOn = false;
     EXPECT_TRUE(end.endedBy([&] {

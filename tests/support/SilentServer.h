@@ -6,7 +6,7 @@
 
 namespace support {
 
-/// A place on loopback where every caller gets through to somebody who never says a word.
+/// A server on loopback that accepts connections and never answers.
 class SilentServer {
 public:
     SilentServer() = default;
@@ -14,14 +14,15 @@ public:
     SilentServer(const SilentServer&) = delete;
     SilentServer& operator=(const SilentServer&) = delete;
 
-    /// As connection texts name it: address and port.
+    /// Address and port, as a connection text names them.
     std::string server() const { return "127.0.0.1," + std::to_string(loopback::portOf(listener_)); }
 
-    /// How many have called since this was last asked.
+    /// How many have connected since the last call of this function.
     int callers() const {
         int count = 0;
-        for (int caller = loopback::accept(listener_); caller >= 0; caller = loopback::accept(listener_), ++count)
+        for (int caller = loopback::accept(listener_); caller >= 0; caller = loopback::accept(listener_), ++count) {
             ::close(caller);
+        }
         return count;
     }
 

@@ -8,7 +8,8 @@
 
 namespace support {
 
-/// Hears every statement ahead of the server, as somebody does who works on the same tables meanwhile.
+/// Calls a function before each statement is sent. Tests use it to change the same tables in between, as another user
+/// would.
 class SomebodyElse {
 public:
     explicit SomebodyElse(std::function<void(const std::string&)> hears) {

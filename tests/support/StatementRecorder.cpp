@@ -29,8 +29,9 @@ std::vector<std::string> StatementRecorder::holding(const std::string& part) con
 bool StatementRecorder::sentInOrder(const std::vector<std::string>& texts) const {
     auto next = texts.begin();
     for (const std::string& sent : texts_) {
-        if (next != texts.end() && sent == *next)
+        if (next != texts.end() && sent == *next) {
             ++next;
+        }
     }
     return next == texts.end();
 }

@@ -5,7 +5,7 @@
 
 namespace support {
 
-/// Keeps the text of every statement that the data layer sends while it lives.
+/// Records the text of every statement that the data layer sends while this object lives.
 class StatementRecorder {
 public:
     StatementRecorder();
@@ -15,11 +15,11 @@ public:
 
     const std::vector<std::string>& texts() const { return texts_; }
     void clear() { texts_.clear(); }
-    /// How often exactly this text was sent.
+    /// How often this text was sent.
     long count(const std::string& text) const;
-    /// The texts that hold `part`, in their order.
+    /// The texts that contain `part`, in their order.
     std::vector<std::string> holding(const std::string& part) const;
-    /// Whether all of these were sent, in this order, others between them or not.
+    /// Whether all of these were sent in this order; others may be between them.
     bool sentInOrder(const std::vector<std::string>& texts) const;
 
 private:

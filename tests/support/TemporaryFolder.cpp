@@ -22,17 +22,19 @@ fs::path base() {
 
 TemporaryFolder::TemporaryFolder() {
     QTemporaryDir folder(QString::fromStdString((base() / "vabo-test-XXXXXX").string()));
-    if (!folder.isValid())
+    if (!folder.isValid()) {
         throw std::runtime_error("No temporary folder: " + folder.errorString().toStdString());
-    folder.setAutoRemove(false); // Qt's own removal stops at folders that a test has closed
+    }
+    folder.setAutoRemove(false); // Qt's removal fails for folders that a test has made unreadable
     path_ = folder.path().toStdString();
 }
 
 TemporaryFolder::~TemporaryFolder() {
     std::error_code ignored;
     for (fs::recursive_directory_iterator entry(path_, ignored), end; entry != end; entry.increment(ignored)) {
-        if (entry->is_directory(ignored) && !entry->is_symlink(ignored))
+        if (entry->is_directory(ignored) && !entry->is_symlink(ignored)) {
             fs::permissions(entry->path(), fs::perms::owner_all, ignored);
+        }
     }
     fs::remove_all(path_, ignored);
 }

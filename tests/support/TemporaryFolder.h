@@ -4,8 +4,8 @@
 
 namespace support {
 
-/// A folder for one test, empty at first, gone with the object. It lies in memory where the machine has room there, so
-/// that tests don't wait for a disk.
+/// A folder for one test, empty at first, removed with this object. It is in memory where the machine has space for it,
+/// so that tests don't wait for a disk.
 class TemporaryFolder {
 public:
     TemporaryFolder();

@@ -1,14 +1,14 @@
 // The main of every test executable without windows.
 
 #include "support/Environment.h"
-#include "support/Road.h"
+#include "support/TestedDriver.h"
 
 #include <QCoreApplication>
 
 #include <gtest/gtest.h>
 
 int main(int argc, char** argv) {
-    support::chooseRoad(argc, argv);
+    support::chooseTestedDriver(argc, argv);
     support::prepareProcess();
     testing::InitGoogleTest(&argc, argv);
     const QCoreApplication application(argc, argv);

@@ -1,10 +1,10 @@
 #include "support/TestWorkstation.h"
 
 #include "ado/Drivers.h"
-#include "engine/Instance.h"
+#include "engine/store/Instance.h"
 #include "support/AzzeraVariabili.h"
 #include "support/Environment.h"
-#include "support/Road.h"
+#include "support/TestedDriver.h"
 
 #include <QString>
 
@@ -31,13 +31,15 @@ void makePresent(const platform::Workstation& workstation) {
 } // namespace
 
 TestWorkstation::TestWorkstation(DriveC content) {
-    if (content == DriveC::Sample)
+    if (content == DriveC::Sample) {
         fs::copy(VABO_TEST_TEMPLATE, folder_.path(), fs::copy_options::recursive);
+    }
     makePresent(workstationOn(folder_.path()));
     useDataSourceFile(dataSourceFile());
     instance_ = ado::instanceFolder(kLocalServerName);
-    if (content == DriveC::Sample && road() == Road::Wire)
+    if (content == DriveC::Sample && testedDriver() == TestedDriver::Wire) {
         moveServerBehindTheWire();
+    }
 }
 
 void TestWorkstation::moveServerBehindTheWire() {
@@ -46,13 +48,15 @@ void TestWorkstation::moveServerBehindTheWire() {
     instance_ = moved;
     peer_ = std::make_unique<Peer>(instance_, folder_.path());
     for (const fs::directory_entry& file : fs::directory_iterator(driveC().real("C:\\vabo"))) {
-        if (!file.is_regular_file())
+        if (!file.is_regular_file()) {
             continue;
+        }
         const std::string path = "C:\\vabo\\" + file.path().filename().string();
         QString text = QString::fromStdString(fileText(path).value());
         text.replace(kLocalServerName, QString::fromStdString(peer_->server()));
-        if (!capabilities().integratedSecurity)
+        if (!capabilities().integratedSecurity) {
             text.replace("ID utente=;Password=;", kServerLogin);
+        }
         putFile(path, text.toStdString());
     }
 }
@@ -62,8 +66,9 @@ std::string TestWorkstation::serverName() const {
 }
 
 Peer& TestWorkstation::peer() const {
-    if (!peer_)
-        throw std::logic_error("No server process on this road.");
+    if (!peer_) {
+        throw std::logic_error("The embedded driver has no server process.");
+    }
     return *peer_;
 }
 
@@ -82,8 +87,9 @@ const platform::DriveC& TestWorkstation::driveC() const {
 
 std::optional<std::string> TestWorkstation::fileText(std::string_view path) const {
     std::ifstream file(driveC().real(path), std::ios::binary);
-    if (!file)
+    if (!file) {
         return std::nullopt;
+    }
     return std::string(std::istreambuf_iterator<char>(file), {});
 }
 
@@ -108,8 +114,9 @@ std::vector<TestWorkstation::Row> TestWorkstation::rows(const std::string& datab
         const int columns = static_cast<int>(batch->columns().size());
         while (batch->hasRows() && batch->nextRow()) {
             Row& row = all.emplace_back();
-            for (int column = 0; column < columns; ++column)
+            for (int column = 0; column < columns; ++column) {
                 row.emplace_back(batch->isNull(column) ? "NULL" : batch->text(column));
+            }
         }
     }
     return all;

@@ -5,7 +5,7 @@
 #include "ado/Recordset.h"
 #include "state/variabili.h"
 #include "support/Environment.h"
-#include "support/Road.h"
+#include "support/TestedDriver.h"
 
 #include <gtest/gtest.h>
 
@@ -35,9 +35,9 @@ TEST(TestWorkstation, IsTheProgramsOwn) {
               workstation.value(support::kCompany, "select count(*) from stati"));
 }
 
-TEST(TestWorkstation, ReachesItsServerOnTheRoadOfTheRun) {
+TEST(TestWorkstation, ReachesItsServerByTheDriverOfTheRun) {
     const TestWorkstation workstation;
-    const char* expected = support::road() == support::Road::Wire ? "odbc" : "embedded";
+    const char* expected = support::testedDriver() == support::TestedDriver::Wire ? "odbc" : "embedded";
     for (const char* file : {"C:\\vabo\\IndirizzoServer.txt", "C:\\vabo\\Leggi_ServerLocal.txt"}) {
         const std::string text = workstation.driveC().firstLine(file);
         EXPECT_STREQ(ado::driverFor(ado::ConnectionString(text)).name(), expected) << file;
@@ -49,12 +49,13 @@ TEST(TestWorkstation, ReachesItsServerOnTheRoadOfTheRun) {
 
 TEST(TestWorkstation, OverTheWireNoFileNamesTheEmbeddedServer) {
     const TestWorkstation workstation;
-    const bool embedded = support::road() == support::Road::Embedded;
+    const bool embedded = support::testedDriver() == support::TestedDriver::Embedded;
     EXPECT_EQ(fs::is_directory(ado::instanceFolder(support::kLocalServerName)), embedded);
     int naming = 0;
     for (const fs::directory_entry& entry : fs::directory_iterator(workstation.driveC().real("C:\\vabo"))) {
-        if (!entry.is_regular_file())
+        if (!entry.is_regular_file()) {
             continue;
+        }
         const auto text = workstation.fileText("C:\\vabo\\" + entry.path().filename().string());
         naming += text->find(support::kLocalServerName) != std::string::npos ? 1 : 0;
     }

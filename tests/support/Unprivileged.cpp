@@ -16,14 +16,16 @@ namespace {
 constexpr uid_t kNobody = 65534;
 
 void check(int result, const char* what) {
-    if (result != 0)
+    if (result != 0) {
         throw std::system_error(errno, std::generic_category(), what);
+    }
 }
 
 void give(const fs::path& tree) {
     check(::lchown(tree.c_str(), kNobody, kNobody), "chown");
-    for (const auto& entry : fs::recursive_directory_iterator(tree))
+    for (const auto& entry : fs::recursive_directory_iterator(tree)) {
         check(::lchown(entry.path().c_str(), kNobody, kNobody), "chown");
+    }
 }
 
 void becomeNobody() {
@@ -34,8 +36,9 @@ void becomeNobody() {
 
 std::string outcome(const std::function<std::string()>& work, bool root) {
     try {
-        if (root)
+        if (root) {
             becomeNobody();
+        }
         return work();
     } catch (const std::exception& error) {
         return std::string("threw: ") + error.what();
@@ -47,8 +50,9 @@ std::string outcome(const std::function<std::string()>& work, bool root) {
 std::string readAll(int descriptor) {
     std::string all;
     std::array<char, 4096> buffer{};
-    for (ssize_t got = 0; (got = ::read(descriptor, buffer.data(), buffer.size())) > 0;)
+    for (ssize_t got = 0; (got = ::read(descriptor, buffer.data(), buffer.size())) > 0;) {
         all.append(buffer.data(), static_cast<std::size_t>(got));
+    }
     return all;
 }
 
@@ -56,8 +60,9 @@ std::string readAll(int descriptor) {
 
 std::string unprivileged(const fs::path& tree, const std::function<std::string()>& work) {
     const bool root = ::geteuid() == 0;
-    if (root)
+    if (root) {
         give(tree);
+    }
     std::array<int, 2> ends{};
     check(::pipe(ends.data()), "pipe");
     const pid_t child = ::fork();

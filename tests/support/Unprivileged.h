@@ -6,8 +6,8 @@
 
 namespace support {
 
-/// Runs `work` in a child process that permission bits bind, even where the tests run as root: there the child is
-/// another user, to whom `tree` is given. Gives back what `work` gave, or how the child died.
+/// Runs `work` in a child process whose access is limited by file permissions, also where the tests run as root: the
+/// child then runs as another user, who gets `tree`. Returns the result of `work`, or how the child ended.
 std::string unprivileged(const std::filesystem::path& tree, const std::function<std::string()>& work);
 
 } // namespace support

@@ -24,8 +24,9 @@ void handle(QtMsgType type, const QMessageLogContext& /*context*/, const QString
         std::fprintf(stderr, "%s\n", text.c_str());
         return;
     }
-    if (!ExpectedWarning::takes(text))
+    if (!ExpectedWarning::takes(text)) {
         ADD_FAILURE() << "Unexpected warning: " << text;
+    }
 }
 
 } // namespace
@@ -40,16 +41,18 @@ ExpectedWarning::ExpectedWarning(std::string part) : part_(std::move(part)) {
 
 ExpectedWarning::~ExpectedWarning() {
     std::erase(expected(), this);
-    if (seen_ == 0)
+    if (seen_ == 0) {
         ADD_FAILURE() << "A warning didn't come: " << part_;
+    }
 }
 
 bool ExpectedWarning::takes(const std::string& text) {
     const auto taker = std::find_if(expected().begin(), expected().end(), [&](const ExpectedWarning* warning) {
         return text.find(warning->part_) != std::string::npos;
     });
-    if (taker == expected().end())
+    if (taker == expected().end()) {
         return false;
+    }
     ++(*taker)->seen_;
     return true;
 }

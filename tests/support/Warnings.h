@@ -4,10 +4,10 @@
 
 namespace support {
 
-/// Makes Qt's warnings and worse fail the running test unless an ExpectedWarning takes them.
+/// From now on Qt's warnings and errors fail the running test, unless an ExpectedWarning expects them.
 void installWarningHandler();
 
-/// While it lives, warnings that hold `part` are expected. One that never comes fails the test.
+/// While this object lives, warnings that contain `part` are expected. Where none comes the test fails.
 class ExpectedWarning {
 public:
     explicit ExpectedWarning(std::string part);
@@ -15,7 +15,7 @@ public:
     ExpectedWarning& operator=(const ExpectedWarning&) = delete;
     ~ExpectedWarning();
 
-    /// Whether one of those alive expects this text.
+    /// Whether one of the living objects expects this text.
     static bool takes(const std::string& text);
 
 private:

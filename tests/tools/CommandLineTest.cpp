@@ -51,8 +51,9 @@ TEST(ProvisionCommand, RefusesWhatItDoesNotUnderstand) {
         {folder, "second"},
         {"--terminal", "A"},
     };
-    for (const auto& arguments : wrong)
+    for (const auto& arguments : wrong) {
         EXPECT_EQ(provisionWith(arguments).code, 1) << testing::PrintToString(arguments);
+    }
     EXPECT_TRUE(fs::is_empty(driveC.path()));
 }
 
@@ -60,6 +61,7 @@ TEST(ProvisionCommand, ExplainsItself) {
     const Answer help = provisionWith({"--help"});
     EXPECT_EQ(help.code, 0);
     for (const char* const word :
-         {"--terminal", "--ledger", "--accounts", "VABO_DRIVE_C", "amministratore   password primavera"})
+         {"--terminal", "--ledger", "--accounts", "VABO_DRIVE_C", "amministratore   password primavera"}) {
         EXPECT_THAT(help.words, HasSubstr(word));
+    }
 }

@@ -1,6 +1,6 @@
 #include "provision/Provision.h"
 
-#include "engine/Error.h"
+#include "engine/errors/Error.h"
 #include "provision/PointerFiles.h"
 #include "provision/Sql.h"
 #include "support/TemporaryFolder.h"
@@ -31,11 +31,12 @@ void writeFile(const fs::path& file, std::string_view bytes) {
     std::ofstream(file, std::ios::binary) << bytes;
 }
 
-/// All that could change of what lies in a folder.
+/// Time and bytes of every file in a folder.
 std::map<std::string, std::pair<fs::file_time_type, std::string>> snapshot(const fs::path& folder) {
     std::map<std::string, std::pair<fs::file_time_type, std::string>> found;
-    for (const fs::directory_entry& entry : fs::recursive_directory_iterator(folder))
+    for (const fs::directory_entry& entry : fs::recursive_directory_iterator(folder)) {
         found[entry.path().string()] = {entry.last_write_time(), entry.is_regular_file() ? bytesOf(entry.path()) : ""};
+    }
     return found;
 }
 
@@ -75,8 +76,9 @@ TEST(Provision, WritesEveryPointerFileAsOneLine) {
         {"IndirizzoServerVabo.txt", "C:\\vabo\\Server\r\n"},
         {"DirectoryBackup.txt", "C:\\vabo\\Server\\Backup\r\n"},
     };
-    for (const auto& [name, line] : expected)
+    for (const auto& [name, line] : expected) {
         EXPECT_EQ(bytesOf(vabo / name), line) << name;
+    }
     EXPECT_EQ(provision::pointerFiles("x").size(), expected.size());
 }
 
@@ -172,7 +174,7 @@ TEST(Provision, LeavesOtherFoldersOfTheDriveAlone) {
 TEST(Provision, MakesAgainWhatAnInterruptedRunLeft) {
     const support::TemporaryFolder driveC;
     layDown(smallPlan(driveC.path()));
-    // As if the run had been cut off: the databases half filled, another terminal's instance beside them.
+    // As after an interrupted run: half filled databases, and the instance of another terminal beside them.
     writeFile(driveC.path() / "vabo" / "provision.txt", "vabo-provision 1, unfinished: --terminal OTHER\r\n");
     provision::run(*openSession(driveC.path(), provision::kFirstDatabase), "DROP TABLE partitadoppia");
     fs::remove(driveC.path() / "vabo" / "NomeServer.txt");
@@ -219,8 +221,9 @@ TEST(Provision, RefusesAPlanThatCanNotBe) {
         {{root, "POSTO_7", -1, 0}, "a ledger has no rows or at least two"},
         {{root, "POSTO_7", 10, -1}, "a chart can't have less than no accounts"},
     };
-    for (const Case& refused : cases)
+    for (const Case& refused : cases) {
         EXPECT_EQ(refusal(refused.plan), refused.words);
+    }
     EXPECT_TRUE(fs::is_empty(root));
 }
 

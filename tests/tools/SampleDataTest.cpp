@@ -1,4 +1,4 @@
-#include "engine/Error.h"
+#include "engine/errors/Error.h"
 #include "provision/Scripts.h"
 #include "provision/Sql.h"
 #include "tools/SampleWorkstation.h"
@@ -148,13 +148,14 @@ TEST(SampleData, KeepsPostalCodesAsNumbersWithoutLeadingZeros) {
 }
 
 TEST(SampleData, HasUsersWhoMayAndWhoMayNot) {
-    for (const auto database : {kAurora, kPonte})
+    for (const auto database : {kAurora, kPonte}) {
         EXPECT_THAT(sample().texts(database,
                                    "SELECT NomeUtente + '|' + ISNULL(PaswUtente, '') + '|' + CONVERT(nvarchar(1), "
                                    "Administrator) + CONVERT(nvarchar(1), Disabilita) FROM AbilitazioneAccessi "
                                    "ORDER BY idautonumber"),
                     ElementsAre("amministratore|primavera|10", "contabile|estate24|00", "nuovo_utente||00",
                                 "disabilitato|autunno|01"));
+    }
 }
 
 TEST(SampleData, HasAChartOfHeadingsAndAccountsInFourClasses) {
@@ -235,23 +236,26 @@ TEST(SampleData, HasAnOrdinaryRateAndRowsThatCanNotBeTheStandard) {
 TEST(SampleData, HasKeysThatRefuseTheSameRowTwice) {
     for (const char* const statement :
          {"INSERT INTO conti (IdConto) VALUES (1001)", "INSERT INTO TabellaUilityConti (id) VALUES (5)",
-          "INSERT INTO DirectoryHQ (IdAutonumber) VALUES (1)", "INSERT INTO Sede (idsede) VALUES (1)"})
+          "INSERT INTO DirectoryHQ (IdAutonumber) VALUES (1)", "INSERT INTO Sede (idsede) VALUES (1)"}) {
         EXPECT_EQ(errorOf(kAurora, statement), 2627) << statement;
+    }
     for (const char* const statement :
          {"INSERT INTO stati (IdStato) VALUES (999)", "INSERT INTO progetti (ID) VALUES (999)",
-          "INSERT INTO datiGenerali (id) VALUES (999)"})
+          "INSERT INTO datiGenerali (id) VALUES (999)"}) {
         EXPECT_EQ(errorOf(kAurora, statement), 544) << statement;
+    }
 }
 
 TEST(SampleData, GrowsTheChartToTheAccountsOfThePlan) {
     const SampleWorkstation grown(0, 2000);
     EXPECT_EQ(grown.number(kAurora, "SELECT COUNT(*) FROM conti"), 2000);
     EXPECT_EQ(grown.number(kPonte, "SELECT COUNT(*) FROM conti"), 2000);
-    for (int master = 1; master <= 4; ++master)
+    for (int master = 1; master <= 4; ++master) {
         EXPECT_THAT(grown.number(kAurora, "SELECT COUNT(*) FROM conti WHERE IDProgetto = 10000001 AND idmastro = " +
                                               std::to_string(master)),
                     Gt(400))
             << master;
+    }
     EXPECT_EQ(grown.number(kAurora,
                            "SELECT COUNT(*) FROM conti WHERE IdConto > 100000 AND (idchiave LIKE '%.0' OR NOT EXISTS "
                            "(SELECT * FROM gruppivabo WHERE gruppivabo.idgruppo = conti.IdGruppoVabo))"),

@@ -15,7 +15,7 @@ std::int64_t count(std::string_view database, const std::string& condition) {
     return SampleWorkstation::shared().number(database, "SELECT COUNT(*) FROM partitadoppia WHERE " + condition);
 }
 
-/// Large enough that every kind of row is among them.
+/// Large enough to contain every kind of row.
 const SampleWorkstation& largeLedger() {
     static const SampleWorkstation sample(5000);
     return sample;
@@ -41,11 +41,12 @@ TEST(SampleLedger, HasExactlyTheRowsOfThePlanAndATenthInTheSecondCompany) {
 }
 
 TEST(SampleLedger, BalancesEveryTransaction) {
-    for (const auto database : {kAurora, kPonte})
+    for (const auto database : {kAurora, kPonte}) {
         EXPECT_THAT(largeLedger().texts(database,
                                         "SELECT numerotransazione FROM partitadoppia GROUP BY numerotransazione, "
                                         "idsede HAVING SUM(importodepositi) <> SUM(importoprelievi)"),
                     IsEmpty());
+    }
 }
 
 TEST(SampleLedger, HasTransactionsOfTwoToFiveRowsEachOnOneDay) {
@@ -79,8 +80,9 @@ TEST(SampleLedger, HasRowsOfEveryKindThatTheLocksTellApart) {
     EXPECT_GT(countLarge("datareport > datatransazione"), 0);
     EXPECT_GT(countLarge("idsede <> idsedecompetenza"), 0);
     for (const char* const table :
-         {"TabellaContiUtili WHERE ID IN (1, 2, 5, 18)", "tabellacontiutiliTransfersHQ WHERE Id <= 2"})
+         {"TabellaContiUtili WHERE ID IN (1, 2, 5, 18)", "tabellacontiutiliTransfersHQ WHERE Id <= 2"}) {
         EXPECT_GT(countLarge("idconto IN (SELECT idconto FROM " + std::string(table) + ")"), 0) << table;
+    }
 }
 
 TEST(SampleLedger, UsesAllBranchesAndProjects) {
@@ -97,10 +99,11 @@ TEST(SampleLedger, PointsAtAccountsProjectsAndBranchesThatExist) {
              "NOT EXISTS (SELECT * FROM progetti WHERE progetti.ID = partitadoppia.idprogettorendiconto)",
              "NOT EXISTS (SELECT * FROM ElencoSedi WHERE ElencoSedi.IdSede = partitadoppia.idsede)",
              "NOT EXISTS (SELECT * FROM ElencoSedi WHERE ElencoSedi.IdSede = partitadoppia.idsedecompetenza)",
-             "seziva > 0 AND NOT EXISTS (SELECT * FROM IvaSezionale WHERE IvaSezionale.idautonumber = partitadoppia.seziva)"})
+             "seziva > 0 AND NOT EXISTS (SELECT * FROM IvaSezionale WHERE IvaSezionale.idautonumber = partitadoppia.seziva)"}) {
             EXPECT_EQ(
                 largeLedger().number(database, std::string("SELECT COUNT(*) FROM partitadoppia WHERE ") + condition), 0)
                 << condition;
+        }
     }
 }
 

@@ -1,6 +1,6 @@
 #include "tools/SampleWorkstation.h"
 
-#include "engine/Instance.h"
+#include "engine/store/Instance.h"
 #include "platform/DriveC.h"
 #include "provision/Sql.h"
 

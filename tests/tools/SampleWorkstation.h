@@ -1,6 +1,6 @@
 #pragma once
 
-#include "engine/Session.h"
+#include "engine/run/Session.h"
 #include "provision/Provision.h"
 #include "support/TemporaryFolder.h"
 
@@ -10,7 +10,7 @@
 #include <string_view>
 #include <vector>
 
-/// A workstation with a small ledger, laid down once for all tests that only look at it.
+/// A workstation with a small ledger, created once for all tests that only read it.
 class SampleWorkstation {
 public:
     explicit SampleWorkstation(long ledgerRows = 200, long accounts = 0);
@@ -30,6 +30,6 @@ private:
     long ledgerRows_, accounts_;
 };
 
-/// Opens a database of the workstation that was laid down in that drive C.
+/// Opens a database of the workstation in that drive C.
 std::unique_ptr<engine::Session> openSession(const std::filesystem::path& driveC, std::string_view database,
                                              std::string_view password = provision::kServerPassword);

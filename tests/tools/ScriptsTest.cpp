@@ -1,6 +1,6 @@
 #include "provision/Scripts.h"
 
-#include "engine/Parser.h"
+#include "engine/text/Parser.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>

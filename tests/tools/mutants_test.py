@@ -1,4 +1,4 @@
-"""What the search for changes finds in a source, and what it leaves alone."""
+"""Which changes are found in a source, and which places aren't changed."""
 
 import sys
 import unittest

@@ -1,6 +1,6 @@
 """The changes that one source offers: one operator, literal, statement or condition each.
 
-Found in the text alone, with comments and literals masked; what doesn't compile is sorted out by the compiler.
+Found in the text only, with comments and literals masked. The compiler rejects those that don't compile.
 """
 
 import re
@@ -9,7 +9,7 @@ from dataclasses import dataclass
 
 @dataclass(frozen=True)
 class Mutant:
-    """The characters [begin, end) of the source become `text`. `line` counts from 1."""
+    """Replaces the characters [begin, end) of the source by `text`. `line` counts from 1."""
 
     begin: int
     end: int
@@ -26,7 +26,7 @@ LITERAL = re.compile(
     re.DOTALL | re.MULTILINE | re.VERBOSE,
 )
 
-# Binary operators stand between blanks in a formatted source, template brackets don't.
+# In formatted sources binary operators have blanks around them, template brackets don't.
 SWAPPED = {
     " == ": " != ",
     " != ": " == ",
@@ -76,7 +76,7 @@ def closing(text, place):
 
 
 def statement_end(text, place):
-    """The place behind the ";" that ends the statement begun at `place`, or -1."""
+    """The place after the ";" that ends the statement which begins at `place`, or -1."""
     at = place
     while at < len(text):
         if text[at] in "([{":
@@ -137,7 +137,7 @@ def statements(text):
 
 
 def mutants(source):
-    """All changes of a source, in the order of their places."""
+    """All changes of a source, ordered by place."""
     text, texts = masked(source)
     found = set()
     for begin, end, new, kind in [*operators(text), *literals(source, text, texts), *conditions(text), *statements(text)]:

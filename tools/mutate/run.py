@@ -1,4 +1,4 @@
-"""Builds a copy of the tree, measures which test runs which line, and tries every drawn change against those tests."""
+"""Builds a copy of the tree, measures which test runs which line, and runs these tests with each chosen change."""
 
 import argparse
 import json
@@ -22,7 +22,7 @@ LAYERS = {"app", "controls", "platform", "ado", "engine"}
 
 
 def copy_tree():
-    """Brings the copy to the state of the tracked files; what is equal keeps its time, so that it isn't built again."""
+    """Copies the tracked files that differ. The others keep their time, so that they aren't built again."""
     listed = subprocess.run(["git", "ls-files"], cwd=TOP, check=True, capture_output=True, text=True).stdout
     names = {name for name in listed.split("\n") if name}
     for old in [path for path in COPY.rglob("*") if path.is_file() and COPY / "build" not in path.parents]:
@@ -39,7 +39,7 @@ def copy_tree():
 
 
 def instrument(sources):
-    """The chosen sources tell which of their lines ran, and no warning of a changed source counts."""
+    """Compiles the chosen sources so that they count which lines run, and without warnings, which changes may cause."""
     lists = COPY / "src" / "CMakeLists.txt"
     names = " ".join(f'"${{CMAKE_SOURCE_DIR}}/{name}"' for name in sources)
     libraries = "vabo_modules vabo_forms controls platform ado engine"
@@ -64,7 +64,7 @@ def build(targets=()):
 
 
 class Entry:
-    """One entry of ctest: its command, its environment, and what it took when nothing was changed."""
+    """One entry of ctest: its command, its environment, and its time without any change."""
 
     def __init__(self, described):
         properties = {each["name"]: each["value"] for each in described.get("properties", [])}
@@ -97,7 +97,7 @@ def entries():
 
 
 def lines_of(counters):
-    """(source, line) of every line that ran, from the counters that one test left behind."""
+    """(source, line) of every line that ran, from the counter files of one test."""
     ran = set()
     for counter in Path(counters).rglob("*.gcda"):
         built = Path("/") / counter.relative_to(counters)
@@ -126,8 +126,8 @@ def measure(entry):
 
 
 def covering(mutant, name, tests, known_lines):
-    """The entries that run the line of the change, those of its folder first, then by their time. A line without code
-    counts as its whole source."""
+    """The entries that run the line of the change: those of its folder first, then ordered by time. For a line without
+    code the entries that run any line of its source."""
     place = (str(COPY / name), mutant.line)
     if place in known_lines:
         found = [entry for entry in tests if place in entry.ran]
@@ -138,7 +138,7 @@ def covering(mutant, name, tests, known_lines):
 
 
 def verdict(mutant, name, tests, known_lines):
-    """killed, survived or invalid, and by what."""
+    """killed, survived or invalid, and the reason."""
     found = covering(mutant, name, tests, known_lines)
     if not found:
         return "survived", "no test runs it"

@@ -38,13 +38,15 @@ std::string dataFile(const Company& company) {
 void fillCompany(engine::Session& session, const Company& company, const Plan& plan) {
     Transaction transaction(session);
     runScript(session, "company.sql");
-    if (company.grown)
+    if (company.grown) {
         runScript(session, "additions.sql");
+    }
     addStates(session);
     for (const std::string_view rows :
          {std::string_view("comuni.sql"), std::string_view("comune_a_tutte.sql"), std::string_view("conti.sql"),
-          std::string_view("conti_di_sistema.sql"), company.script})
+          std::string_view("conti_di_sistema.sql"), company.script}) {
         runScript(session, rows);
+    }
     addProjectAccounts(session);
     growChart(session, plan.accounts);
     transaction.commit();

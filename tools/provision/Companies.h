@@ -1,6 +1,6 @@
 #pragma once
 
-#include "engine/Session.h"
+#include "engine/run/Session.h"
 #include "provision/Provision.h"
 
 #include <array>
@@ -9,26 +9,26 @@
 
 namespace provision {
 
-/// One of the sample companies: how it stands in the registry, and what its database is filled from.
+/// One of the sample companies: its row in the registry, and what its database is filled with.
 struct Company {
     std::string_view name, database;
-    std::string_view localFile; ///< its Jet file, a name alone: the file itself is never made
-    std::string_view script;    ///< its own rows
-    bool grown;                 ///< whether its database has the columns that came later
-    long ledgerShare;           ///< one row in so many of the plan's
+    std::string_view localFile; ///< the name of its Jet file, which isn't created
+    std::string_view script;    ///< the script with its own rows
+    bool grown;                 ///< whether its database has the columns of later versions
+    long ledgerShare;           ///< it gets the plan's number of ledger rows divided by this
     std::uint64_t seed;
 };
 
 const std::array<Company, 2>& companies();
 
-/// Where the data file of a company lies on the server.
+/// The path of a company's data file on the server.
 std::string dataFile(const Company& company);
 
 /// Fills an empty company database: tables, fixed rows, states, accounts and ledger.
 void fillCompany(engine::Session& session, const Company& company, const Plan& plan);
 
-/// Makes the tables of the registry and enters the companies, to be reached on that server. No terminal is entered: a
-/// terminal enters itself when it first takes up a company.
+/// Creates the tables of the registry and adds the companies with that server. No terminal is added: the program adds
+/// it when a company is first taken up there.
 void fillRegistry(engine::Session& session, std::string_view server);
 
 } // namespace provision

@@ -3,7 +3,7 @@
 #include <array>
 #include <string_view>
 
-/// The folders of drive C that an installation makes, parents first.
+/// The folders of drive C that an installation creates, parents first.
 namespace provision::folders {
 
 inline constexpr std::string_view kRoot = "C:\\vabo";

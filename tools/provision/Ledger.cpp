@@ -21,7 +21,7 @@ constexpr std::string_view kColumns =
     "numerotransazione, idsede, datatransazione, datareport, idconto, idprogettorendiconto, idsedecompetenza, "
     "Descrizione, importodepositi, importoprelievi, idvaluta, importovaluta, seziva, definito";
 
-/// Days from which and to which the ledger runs, and the last balance between them.
+/// The first and last day of the ledger, and the day of the last balance between them.
 struct Period {
     sys_days first, balance, last;
 };
@@ -40,10 +40,11 @@ Period periodOf(engine::Session& session) {
     return {balance - std::chrono::days(730), balance, balance + std::chrono::days(365)};
 }
 
-/// When the rows are reported: mostly at once, some days later now and then, a few not yet.
+/// The day on which rows are reported: mostly the same day, sometimes some days later, for a few not yet.
 std::optional<sys_days> reportDay(Random& random, sys_days day) {
-    if (random.oneIn(20))
+    if (random.oneIn(20)) {
         return std::nullopt;
+    }
     return random.oneIn(3) ? day + std::chrono::days(random.below(45)) : day;
 }
 
@@ -58,15 +59,16 @@ void write(RowWriter& writer, const Place& place, std::string_view description, 
     writer.integer(place.number).integer(place.branch).date(place.day);
     place.reported ? writer.date(*place.reported) : writer.null();
     writer.integer(line.account).integer(line.project).integer(place.competence).text(description);
-    if (line.withoutAmount)
+    if (line.withoutAmount) {
         writer.null().null();
-    else
+    } else {
         writer.cents(line.debit).cents(line.credit);
+    }
     writer.integer(line.currency).cents(line.foreignAmount).integer(line.vatSection);
     writer.integer(place.definitive ? -1 : 0).endRow();
 }
 
-/// The ledger on its way: numbers run on branch by branch, days run on through the period.
+/// Writes the ledger. Transactions are numbered for each branch, and their days go through the period.
 class Writing {
 public:
     Writing(engine::Session& session, long rows, std::uint64_t seed)
@@ -84,8 +86,9 @@ public:
         Transaction transaction(session_);
         RowWriter writer(session_, "partitadoppia", kColumns);
         const long end = written_ + kRowsPerTransaction;
-        while (written_ < end && !done())
+        while (written_ < end && !done()) {
             writeTransaction(writer);
+        }
         writer.finish();
         transaction.commit();
     }
@@ -95,14 +98,15 @@ public:
 private:
     void writeTransaction(RowWriter& writer) {
         const LedgerTransaction transaction = draftTransaction(random_, accounts_, rows_ - written_);
-        // The headquarters keep half of the books; a branch's costs may fall to another.
+        // The headquarters write half of the transactions; the costs of a branch may belong to another one.
         const std::size_t branch = random_.oneIn(2) ? 0 : static_cast<std::size_t>(random_.below(count()));
         const auto competence = random_.oneIn(10) ? static_cast<std::size_t>(random_.below(count())) : branch;
         const sys_days day = period_.first + (period_.last - period_.first) * written_ / rows_;
         const Place place{++numbers_[branch],      branches_[branch],     branches_[competence], day,
                           reportDay(random_, day), day <= period_.balance};
-        for (const LedgerLine& line : transaction.lines)
+        for (const LedgerLine& line : transaction.lines) {
             write(writer, place, transaction.description, line);
+        }
         written_ += static_cast<long>(transaction.lines.size());
     }
 
@@ -113,18 +117,20 @@ private:
     LedgerAccounts accounts_;
     Period period_;
     std::vector<std::int64_t> branches_;
-    std::vector<std::int64_t> numbers_; ///< last transaction of each branch
+    std::vector<std::int64_t> numbers_; ///< number of the last transaction of each branch
     long rows_, written_ = 0;
 };
 
 } // namespace
 
 void addLedger(engine::Session& session, long rows, std::uint64_t seed) {
-    if (rows == 0)
+    if (rows == 0) {
         return;
+    }
     Writing writing(session, rows, seed);
-    while (!writing.done())
+    while (!writing.done()) {
         writing.writePart();
+    }
     run(session, "UPDATE contatorepd SET ultimatransazione = " + std::to_string(writing.lastNumber()));
 }
 

@@ -11,7 +11,8 @@ namespace {
 
 constexpr std::int64_t kGeneralProject = 10000001;
 constexpr std::array<std::int64_t, 3> kForeignCurrencies = {1002, 1003, 1004};
-constexpr std::array<std::int64_t, 4> kForeignRates = {109, 131, 7150, 14580}; ///< hundredths for one of ours
+constexpr std::array<std::int64_t, 4> kForeignRates = {109, 131, 7150,
+                                                       14580}; ///< hundredths for one unit of the own currency
 
 struct Draft {
     Random& random;
@@ -27,13 +28,14 @@ struct Draft {
         return result.lines.emplace_back(LedgerLine{.account = account, .project = project, .credit = cents});
     }
 
-    /// A charge and its project: of the general one, or of a project's own accounts.
+    /// A charge and its project: the general one, or one with its own accounts.
     struct Charge {
         std::int64_t account, project;
     };
     Charge charge() {
-        if (accounts.projects.empty() || random.oneIn(4))
+        if (accounts.projects.empty() || random.oneIn(4)) {
             return {random.among(accounts.charges), kGeneralProject};
+        }
         const auto& project = random.among(accounts.projects);
         return {random.among(project.charges), project.id};
     }
@@ -101,8 +103,9 @@ void foreignPayment(Draft& draft) {
     };
     inCurrency(draft.debit(charge.account, charge.project, amount), foreign);
     inCurrency(draft.credit(draft.random.among(draft.accounts.cash), charge.project, amount), foreign);
-    if (!draft.random.oneIn(3))
+    if (!draft.random.oneIn(3)) {
         return;
+    }
     LedgerLine& difference = draft.debit(draft.accounts.exchangeLoss, charge.project, 0);
     inCurrency(difference, 1 + draft.random.below(500));
     difference.withoutAmount = draft.random.oneIn(2);
@@ -153,8 +156,9 @@ constexpr std::array kKinds = {
 
 constexpr int kAllWeights = [] {
     int sum = 0;
-    for (const Kind& kind : kKinds)
+    for (const Kind& kind : kKinds) {
         sum += kind.weight;
+    }
     return sum;
 }();
 
@@ -162,8 +166,9 @@ const Kind& pickKind(Random& random) {
     std::int64_t place = random.below(kAllWeights);
     for (const Kind& kind : kKinds) {
         place -= kind.weight;
-        if (place < 0)
+        if (place < 0) {
             return kind;
+        }
     }
     return kKinds.front();
 }
@@ -198,11 +203,12 @@ LedgerAccounts LedgerAccounts::read(engine::Session& session) {
     accounts.insurancePayable = named(session, "Debiti v/Inps");
     accounts.insuranceCharge = named(session, "C/Inps - oneri");
     accounts.exchangeLoss = named(session, "Perdite su cambi");
-    for (const std::int64_t project : integers(session, "SELECT ID FROM progetti WHERE ID > 10000001 ORDER BY ID"))
+    for (const std::int64_t project : integers(session, "SELECT ID FROM progetti WHERE ID > 10000001 ORDER BY ID")) {
         accounts.projects.push_back(
             {project, integers(session, "SELECT IdConto FROM conti WHERE idmastro = 4 AND NOT idchiave LIKE '%.0'"
                                         " AND IDProgetto = " +
                                             std::to_string(project) + " ORDER BY IdConto")});
+    }
     return accounts;
 }
 
@@ -212,8 +218,9 @@ LedgerTransaction draftTransaction(Random& random, const LedgerAccounts& account
         Draft draft{random, accounts, {kind.description, {}}};
         kind.fill(draft);
         const long over = mostLines - static_cast<long>(draft.result.lines.size());
-        if (over == 0 || over >= 2)
+        if (over == 0 || over >= 2) {
             return draft.result;
+        }
     }
 }
 

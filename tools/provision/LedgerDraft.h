@@ -1,6 +1,6 @@
 #pragma once
 
-#include "engine/Session.h"
+#include "engine/run/Session.h"
 #include "provision/Random.h"
 
 #include <cstdint>
@@ -9,7 +9,7 @@
 
 namespace provision {
 
-/// The accounts that the ledger posts to, by the part they play.
+/// The accounts of the ledger's transactions, by their purpose.
 struct LedgerAccounts {
     std::vector<std::int64_t> banks, cash, charges, income, payables, receivables, wages, transfers, summary;
     std::int64_t vatOnPurchases = 0, vatOnSales = 0, wagesPayable = 0, taxPayable = 0, insurancePayable = 0,
@@ -29,7 +29,7 @@ struct LedgerLine {
     std::int64_t debit = 0, credit = 0;
     std::int64_t currency = 1001, foreignAmount = 0;
     std::int64_t vatSection = 0;
-    bool withoutAmount = false; ///< both amounts stay null: a movement of another currency alone
+    bool withoutAmount = false; ///< both amounts are null: a movement in another currency only
 };
 
 struct LedgerTransaction {
@@ -37,7 +37,8 @@ struct LedgerTransaction {
     std::vector<LedgerLine> lines;
 };
 
-/// One transaction of believable kind. It has at most `mostLines` lines, two at least, and leaves no single line over.
+/// One realistic transaction of two to `mostLines` lines. It never has mostLines - 1, since a single line couldn't be a
+/// transaction.
 LedgerTransaction draftTransaction(Random& random, const LedgerAccounts& accounts, long mostLines);
 
 } // namespace provision

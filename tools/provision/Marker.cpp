@@ -18,16 +18,20 @@ Marker::Marker(const platform::DriveC& drive, const Plan& plan)
               std::to_string(plan.accounts)) {}
 
 Marker::State Marker::read() const {
-    if (!drive_.isFile(kFile))
+    if (!drive_.isFile(kFile)) {
         return State::Absent;
+    }
     const std::string line = drive_.firstLine(kFile);
-    if (line.starts_with(kUnfinished))
+    if (line.starts_with(kUnfinished)) {
         return State::Unfinished;
-    if (!line.starts_with(kFinished))
+    }
+    if (!line.starts_with(kFinished)) {
         throw Refused(drive_.real(kFile).string() + " was not written by this version of the program");
+    }
     const std::string made = line.substr(kFinished.size());
-    if (made != values_)
+    if (made != values_) {
         throw Refused(drive_.real(folders::kRoot).string() + " was laid down with other values: " + made);
+    }
     return State::Finished;
 }
 

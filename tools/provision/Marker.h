@@ -5,21 +5,21 @@
 
 namespace provision {
 
-/// The line in `C:\vabo\provision.txt` that tells our work from anybody else's, and done from half done.
+/// The line in `C:\vabo\provision.txt` that marks a folder as this program's work, finished or unfinished.
 class Marker {
 public:
     enum class State { Absent, Unfinished, Finished };
 
     Marker(const platform::DriveC& drive, const Plan& plan);
 
-    /// What stands on the drive. Throws Refused when it was made by another version or, finished, by another plan.
+    /// The state of the drive. Throws Refused where it was made by another version or, if finished, by another plan.
     State read() const;
     void writeUnfinished() const;
     void writeFinished() const;
 
 private:
     const platform::DriveC& drive_;
-    std::string values_; ///< the plan's, as they stand in the line
+    std::string values_; ///< of the plan, as written in the line
 };
 
 } // namespace provision

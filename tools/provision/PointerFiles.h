@@ -6,12 +6,12 @@
 
 namespace provision {
 
-/// A file of one line through which a workstation finds its servers and folders.
+/// A file of one line by which a workstation finds its servers and folders.
 struct PointerFile {
     std::string path, line;
 };
 
-/// All that an installer writes for a workstation whose server and local instance are one.
+/// The files that an installer writes for a workstation whose server is also its local instance.
 std::vector<PointerFile> pointerFiles(std::string_view server);
 
 } // namespace provision

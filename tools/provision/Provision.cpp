@@ -1,7 +1,7 @@
 #include "provision/Provision.h"
 
-#include "engine/Instance.h"
-#include "engine/Session.h"
+#include "engine/run/Session.h"
+#include "engine/store/Instance.h"
 #include "platform/DriveC.h"
 #include "provision/Companies.h"
 #include "provision/Folders.h"
@@ -19,14 +19,18 @@ namespace fs = std::filesystem;
 namespace {
 
 void check(const Plan& plan) {
-    if (plan.driveC.empty())
+    if (plan.driveC.empty()) {
         throw Refused("no folder for drive C is given");
-    if (plan.terminal.empty() || plan.terminal.find_first_of("\\/$; ") != std::string::npos)
+    }
+    if (plan.terminal.empty() || plan.terminal.find_first_of("\\/$; ") != std::string::npos) {
         throw Refused("'" + plan.terminal + "' can't be the name of a terminal");
-    if (plan.ledgerRows < 0 || plan.ledgerRows == 1)
+    }
+    if (plan.ledgerRows < 0 || plan.ledgerRows == 1) {
         throw Refused("a ledger has no rows or at least two");
-    if (plan.accounts < 0)
+    }
+    if (plan.accounts < 0) {
         throw Refused("a chart can't have less than no accounts");
+    }
 }
 
 std::string instanceFolder(const Plan& plan) {
@@ -35,31 +39,37 @@ std::string instanceFolder(const Plan& plan) {
     return std::string(folders::kInstances) + "\\" + server;
 }
 
-/// Folders of the owner alone, missing parents included.
+/// Creates folders that only the owner can access, with missing parents.
 void makeFolders(const platform::DriveC& drive) {
-    if (fs::create_directories(drive.root()))
+    if (fs::create_directories(drive.root())) {
         fs::permissions(drive.root(), fs::perms::owner_all);
-    if (!drive.isFolder(folders::kRoot))
+    }
+    if (!drive.isFolder(folders::kRoot)) {
         drive.makeFolder(folders::kRoot);
+    }
 }
 
 void removeUnfinished(const platform::DriveC& drive) {
-    for (const std::string_view folder : folders::kAll)
+    for (const std::string_view folder : folders::kAll) {
         fs::remove_all(drive.real(folder));
+    }
 }
 
-/// Only the names of what was made are looked at: looking into a database could write to its files.
+/// Checks only that files and folders exist, since opening a database could write to its files.
 void checkWhole(const platform::DriveC& drive, const Plan& plan) {
     const auto demand = [&drive](const std::string& path, bool there) {
-        if (!there)
+        if (!there) {
             throw Refused(drive.real(path).string() + " is missing; remove " + drive.real(folders::kRoot).string() +
                           " to have all of it made again");
+        }
     };
-    for (const PointerFile& file : pointerFiles(serverName(plan.terminal)))
+    for (const PointerFile& file : pointerFiles(serverName(plan.terminal))) {
         demand(file.path, drive.isFile(file.path));
+    }
     demand(instanceFolder(plan), drive.isFolder(instanceFolder(plan)));
-    for (const Company& company : companies())
+    for (const Company& company : companies()) {
         demand(dataFile(company), drive.isFile(dataFile(company)));
+    }
 }
 
 void createDatabases(engine::Session& master) {
@@ -82,15 +92,17 @@ void makeInstance(const platform::DriveC& drive, const Plan& plan) {
     };
     createDatabases(*session(""));
     fillRegistry(*session("VaBoDatiAzienda"), serverName(plan.terminal));
-    for (const Company& company : companies())
+    for (const Company& company : companies()) {
         fillCompany(*session(company.database), company, plan);
+    }
 }
 
-/// They hold passwords.
+/// Makes the files readable by the owner only, since they contain passwords.
 void keepForOwner(const fs::path& folder) {
-    for (const fs::directory_entry& entry : fs::recursive_directory_iterator(folder))
+    for (const fs::directory_entry& entry : fs::recursive_directory_iterator(folder)) {
         fs::permissions(entry.path(),
                         entry.is_directory() ? fs::perms::owner_all : fs::perms::owner_read | fs::perms::owner_write);
+    }
 }
 
 } // namespace
@@ -108,17 +120,20 @@ Outcome layDown(const Plan& plan) {
         checkWhole(drive, plan);
         return Outcome::AlreadyThere;
     }
-    if (state == Marker::State::Absent && drive.exists(folders::kRoot) && !fs::is_empty(drive.real(folders::kRoot)))
+    if (state == Marker::State::Absent && drive.exists(folders::kRoot) && !fs::is_empty(drive.real(folders::kRoot))) {
         throw Refused(drive.real(folders::kRoot).string() + " was made by somebody else and is left alone");
+    }
 
     makeFolders(drive);
     marker.writeUnfinished();
     removeUnfinished(drive);
-    for (const std::string_view folder : folders::kAll)
+    for (const std::string_view folder : folders::kAll) {
         drive.makeFolder(folder);
+    }
     makeInstance(drive, plan);
-    for (const PointerFile& file : pointerFiles(serverName(plan.terminal)))
+    for (const PointerFile& file : pointerFiles(serverName(plan.terminal))) {
         drive.writeLine(file.path, file.line);
+    }
     keepForOwner(drive.real(folders::kRoot));
     marker.writeFinished();
     return Outcome::Made;

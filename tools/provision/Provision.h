@@ -7,26 +7,26 @@
 
 namespace provision {
 
-/// What is to be laid down. Two plans that are equal give the same rows, byte for byte.
+/// What is to be created. Equal plans give the same rows, byte for byte.
 struct Plan {
-    std::filesystem::path driveC; ///< the folder that stands for drive C; made where it is missing
-    std::string terminal;         ///< the terminal's name as the console writes it: no punctuation but the underscore
-    long ledgerRows = 20000;      ///< ledger rows of the first company, a tenth of it in the second; 0, or at least 2
+    std::filesystem::path driveC; ///< the folder used as drive C; created where it is missing
+    std::string terminal;         ///< the terminal's name as the console writes it, with underscores for punctuation
+    long ledgerRows = 20000;      ///< of the first company; a tenth of it in the second. 0, or at least 2
     long accounts = 0;            ///< grows each chart to at least this many accounts; 0 leaves the chart as it is
 };
 
 enum class Outcome { Made, AlreadyThere };
 
-/// A plan that can't be carried out, in words for the user: a folder that somebody else made, other values than before.
+/// A plan that can't be carried out: the folder wasn't made by this program, or with other values. The text is for the
+/// user.
 class Refused : public std::runtime_error {
 public:
     using std::runtime_error::runtime_error;
 };
 
-/// Lays a workstation down: drive C with its pointer files, one instance that serves as server and as local instance,
-/// the registry of companies and two companies with their data. What stands there already, made by the same plan, is
-/// left untouched; what an interrupted run left is made again. Throws Refused, std::filesystem::filesystem_error and
-/// engine::Error.
+/// Creates a workstation: drive C with its pointer files, one instance that is both server and local instance, the
+/// registry of companies and two companies with their data. A finished workstation of the same plan isn't changed; an
+/// unfinished one is made again. Throws Refused, std::filesystem::filesystem_error and engine::Error.
 Outcome layDown(const Plan& plan);
 
 /// The name of the instance: terminal, "\sqlexpress".

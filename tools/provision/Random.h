@@ -4,7 +4,7 @@
 
 namespace provision {
 
-/// The same numbers on every machine and with every library (splitmix64).
+/// Random numbers (splitmix64) that are the same on every machine and with every library.
 class Random {
 public:
     explicit Random(std::uint64_t seed) : state_(seed) {}

@@ -9,16 +9,18 @@ namespace provision {
 std::string_view script(std::string_view name) {
     const auto& all = scripts();
     const auto found = std::ranges::find(all, name, &Script::name);
-    if (found == all.end())
+    if (found == all.end()) {
         throw std::out_of_range("no script " + std::string(name));
+    }
     return found->text;
 }
 
 std::vector<std::string_view> batches(std::string_view script) {
     std::vector<std::string_view> found;
     const auto keep = [&found](std::string_view batch) {
-        if (batch.find_first_not_of(" \r\n") != std::string_view::npos)
+        if (batch.find_first_not_of(" \r\n") != std::string_view::npos) {
             found.push_back(batch);
+        }
     };
     std::size_t begin = 0;
     std::size_t line = 0;

@@ -11,15 +11,17 @@ namespace provision {
 
 namespace {
 
-constexpr int kRowsPerStatement = 20; // longer statements cost more a row than they save
+constexpr int kRowsPerStatement = 20; // with more the time per row grows again
 
 template<typename Read>
 auto firstColumn(engine::Session& session, std::string_view select, Read read) {
     std::vector<decltype(read(std::declval<engine::Batch&>()))> values;
     const auto batch = session.execute(select);
-    while (batch->nextResult())
-        while (batch->hasRows() && batch->nextRow())
+    while (batch->nextResult()) {
+        while (batch->hasRows() && batch->nextRow()) {
             values.push_back(read(*batch));
+        }
+    }
     return values;
 }
 
@@ -32,8 +34,9 @@ void run(engine::Session& session, std::string_view text) {
 }
 
 void runScript(engine::Session& session, std::string_view name) {
-    for (const std::string_view batch : batches(script(name)))
+    for (const std::string_view batch : batches(script(name))) {
         run(session, batch);
+    }
 }
 
 std::vector<std::int64_t> integers(engine::Session& session, std::string_view select) {
@@ -48,8 +51,9 @@ std::string literal(std::string_view text) {
     std::string written = "N'";
     for (const char character : text) {
         written += character;
-        if (character == '\'')
+        if (character == '\'') {
             written += character;
+        }
     }
     return written += '\'';
 }
@@ -60,8 +64,9 @@ RowWriter::RowWriter(engine::Session& session, std::string_view table, std::stri
 }
 
 std::string& RowWriter::next() {
-    if (inRow_)
+    if (inRow_) {
         return statement_ += ", ";
+    }
     inRow_ = true;
     statement_ += rows_ == 0 ? head_ : ", ";
     return statement_ += '(';
@@ -103,13 +108,15 @@ RowWriter& RowWriter::null() {
 void RowWriter::endRow() {
     statement_ += ')';
     inRow_ = false;
-    if (++rows_ == kRowsPerStatement)
+    if (++rows_ == kRowsPerStatement) {
         finish();
+    }
 }
 
 void RowWriter::finish() {
-    if (rows_ > 0)
+    if (rows_ > 0) {
         run(session_, statement_);
+    }
     statement_.clear();
     rows_ = 0;
 }
@@ -119,12 +126,13 @@ Transaction::Transaction(engine::Session& session) : session_(session) {
 }
 
 Transaction::~Transaction() {
-    if (!open_)
+    if (!open_) {
         return;
+    }
     try {
         run(session_, "ROLLBACK TRANSACTION");
     } catch (const std::exception&) {
-        // The error that left the transaction open is the one to tell.
+        // The error that left the transaction open is the one that the caller gets.
     }
 }
 

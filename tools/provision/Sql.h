@@ -1,6 +1,6 @@
 #pragma once
 
-#include "engine/Session.h"
+#include "engine/run/Session.h"
 
 #include <chrono>
 #include <cstdint>
@@ -10,7 +10,7 @@
 
 namespace provision {
 
-/// Runs a text to its end, its rows unread.
+/// Runs all statements of a text without reading their rows.
 void run(engine::Session& session, std::string_view text);
 /// Runs one of the scripts, batch by batch.
 void runScript(engine::Session& session, std::string_view name);
@@ -22,10 +22,10 @@ std::vector<std::string> texts(engine::Session& session, std::string_view select
 /// A text as a literal: N'…'.
 std::string literal(std::string_view text);
 
-/// Writes many rows of one table, several a statement. finish() writes what is left.
+/// Writes many rows of one table, several per statement. finish() writes the remaining ones.
 class RowWriter {
 public:
-    /// Columns as they stand between the brackets of an INSERT.
+    /// `columns` as between the brackets of an INSERT.
     RowWriter(engine::Session& session, std::string_view table, std::string_view columns);
 
     RowWriter& integer(std::int64_t value);
@@ -45,7 +45,7 @@ private:
     bool inRow_ = false;
 };
 
-/// A transaction that is left behind without commit() is rolled back.
+/// A transaction, which is rolled back where commit() isn't called.
 class Transaction {
 public:
     explicit Transaction(engine::Session& session);

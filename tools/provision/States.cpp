@@ -37,8 +37,9 @@ std::string currencyOf(const icu::Locale& place) {
     std::array<UChar, 4> code{};
     ucurr_forLocale(place.getName(), code.data(), static_cast<std::int32_t>(code.size()), &status);
     std::string text;
-    if (U_SUCCESS(status))
+    if (U_SUCCESS(status)) {
         icu::UnicodeString(code.data()).toUTF8String(text);
+    }
     return text;
 }
 
@@ -48,25 +49,29 @@ State stateOf(const char* code) {
     UErrorCode status = U_ZERO_ERROR;
     if (const icu::Region* region = icu::Region::getInstance(code, status); U_SUCCESS(status)) {
         state.number = region->getNumericCode();
-        if (const icu::Region* area = region->getContainingRegion(URGN_SUBCONTINENT))
+        if (const icu::Region* area = region->getContainingRegion(URGN_SUBCONTINENT)) {
             state.area = italianName(icu::Locale("und", area->getRegionCode()));
+        }
     }
     return state;
 }
 
 std::vector<State> allStates() {
     std::vector<State> states;
-    for (const char* const* code = icu::Locale::getISOCountries(); *code != nullptr; ++code)
+    for (const char* const* code = icu::Locale::getISOCountries(); *code != nullptr; ++code) {
         states.push_back(stateOf(*code));
+    }
 
     UErrorCode status = U_ZERO_ERROR;
     const std::unique_ptr<icu::Collator> order(icu::Collator::createInstance(icu::Locale::getItaly(), status));
-    if (U_FAILURE(status))
+    if (U_FAILURE(status)) {
         throw std::runtime_error("no Italian order of names on this machine");
+    }
     std::ranges::sort(states, [&order](const State& left, const State& right) {
         const bool leftIsItaly = left.code == "IT";
-        if (leftIsItaly != (right.code == "IT"))
+        if (leftIsItaly != (right.code == "IT")) {
             return leftIsItaly;
+        }
         UErrorCode comparing = U_ZERO_ERROR;
         return order->compareUTF8(left.name, right.name, comparing) == UCOL_LESS;
     });
@@ -87,14 +92,16 @@ void addStates(engine::Session& session) {
         writer.text(state.name);
         textOrNull(writer, state.currency).text(state.code).text(state.code3).integer(state.number);
         textOrNull(writer, state.area).endRow();
-        if (!state.area.empty())
+        if (!state.area.empty()) {
             areas.insert(state.area);
+        }
     }
     writer.finish();
 
     RowWriter areaWriter(session, "ZoneGeografiche", "Descrizione");
-    for (const std::string& area : areas)
+    for (const std::string& area : areas) {
         areaWriter.text(area).endRow();
+    }
     areaWriter.finish();
 }
 

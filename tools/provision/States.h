@@ -1,6 +1,6 @@
 #pragma once
 
-#include "engine/Session.h"
+#include "engine/run/Session.h"
 
 namespace provision {
 

@@ -1,4 +1,4 @@
-// vabo-provision: lays a sample workstation down, for trying the console and for measuring it.
+// vabo-provision: creates a sample workstation, to try the console and to measure it.
 
 #include "kit/PulisciNome.h"
 #include "platform/Workstation.h"
@@ -40,8 +40,9 @@ public:
 long number(std::string_view option, std::string_view text) {
     long value = 0;
     const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), value);
-    if (error != std::errc() || end != text.data() + text.size())
+    if (error != std::errc() || end != text.data() + text.size()) {
         throw Usage(std::string(option) + " needs a number, not '" + std::string(text) + "'");
+    }
     return value;
 }
 
@@ -50,23 +51,26 @@ provision::Plan planOf(std::span<char* const> arguments) {
     for (std::size_t index = 0; index < arguments.size(); ++index) {
         const std::string_view argument = arguments[index];
         const auto value = [&]() -> std::string_view {
-            if (++index == arguments.size())
+            if (++index == arguments.size()) {
                 throw Usage(std::string(argument) + " needs a value");
+            }
             return arguments[index];
         };
-        if (argument == "--terminal")
+        if (argument == "--terminal") {
             plan.terminal = value();
-        else if (argument == "--ledger")
+        } else if (argument == "--ledger") {
             plan.ledgerRows = number(argument, value());
-        else if (argument == "--accounts")
+        } else if (argument == "--accounts") {
             plan.accounts = number(argument, value());
-        else if (argument.starts_with("-") || !plan.driveC.empty())
+        } else if (argument.starts_with("-") || !plan.driveC.empty()) {
             throw Usage("unknown argument '" + std::string(argument) + "'");
-        else
+        } else {
             plan.driveC = argument;
+        }
     }
-    if (plan.driveC.empty())
+    if (plan.driveC.empty()) {
         throw Usage("no folder is given");
+    }
     if (plan.terminal.empty()) {
         platform::takeRealWorkstation();
         plan.terminal = platform::workstation().machineName;

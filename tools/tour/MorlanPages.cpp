@@ -14,7 +14,7 @@ void tab(Tour& tour, int number, const char* name) {
     tour.take(name, kForm);
 }
 
-/// Enter on the row on which the grid stands.
+/// Presses Enter on the grid's current row.
 void choose(Tour& tour, const char* grid, const char* name) {
     Tour::press(tour.control(kForm, grid), Qt::Key_Return);
     tour.take(name, kForm);

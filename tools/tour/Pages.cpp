@@ -10,20 +10,22 @@ namespace tour {
 
 namespace {
 
-/// The start form hides itself when its work is done: its picture is taken while a statement is on its way.
+/// The start form hides itself at its end, so its picture is taken when it sends a statement.
 void start(Tour& tour) {
     bool taken = false;
     ado::setStatementRecorder([&](const std::string& /*text*/) {
         const controls::Form* form = tour.forms().loaded("Avvio");
-        if (taken || form == nullptr || !form->isVisible())
+        if (taken || form == nullptr || !form->isVisible()) {
             return;
+        }
         taken = true;
         tour.take("01-avvio", "Avvio");
     });
     tour.show("Avvio");
     ado::setStatementRecorder({});
-    if (!taken)
+    if (!taken) {
         throw std::runtime_error("The start form never came to the screen");
+    }
 }
 
 void login(Tour& tour) {
@@ -75,8 +77,9 @@ void dataSources(Tour& tour) {
 } // namespace
 
 void walk(Tour& tour) {
-    for (const auto page : {start, login, box, console, links, generalTables, dataSources})
+    for (const auto page : {start, login, box, console, links, generalTables, dataSources}) {
         page(tour);
+    }
 }
 
 } // namespace tour

@@ -13,10 +13,12 @@ Tour::Tour(controls::FormRegistry& forms, std::filesystem::path folder, std::str
 
 void Tour::take(const std::string& name, QWidget& window) {
     const std::filesystem::path file = folder_ / (name + suffix_ + ".png");
-    if (!window.isVisible())
+    if (!window.isVisible()) {
         throw std::runtime_error(name + ": the form isn't on the screen");
-    if (!window.grab().save(QString::fromStdString(file.string())))
+    }
+    if (!window.grab().save(QString::fromStdString(file.string()))) {
         throw std::runtime_error(name + ": the picture can't be written");
+    }
 }
 
 void Tour::take(const std::string& name, const char* form) {
@@ -24,20 +26,23 @@ void Tour::take(const std::string& name, const char* form) {
 }
 
 controls::Form& Tour::form(const char* name) {
-    if (controls::Form* loaded = forms_.loaded(name))
+    if (controls::Form* loaded = forms_.loaded(name)) {
         return *loaded;
+    }
     throw std::runtime_error(std::string("The form ") + name + " isn't loaded");
 }
 
 QWidget& Tour::control(const char* form, const char* name) {
-    if (auto* found = this->form(form).findChild<QWidget*>(QString::fromUtf8(name)))
+    if (auto* found = this->form(form).findChild<QWidget*>(QString::fromUtf8(name))) {
         return *found;
+    }
     throw std::runtime_error(std::string("No ") + name + " on " + form);
 }
 
 void Tour::show(const char* form) {
-    if (!forms_.show(form))
+    if (!forms_.show(form)) {
         throw std::runtime_error(std::string("There is no form ") + form);
+    }
     settle();
 }
 

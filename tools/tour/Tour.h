@@ -7,22 +7,23 @@
 
 namespace tour {
 
-/// A walk through the forms of the program, and the folder that its pictures go to.
+/// A walk through the forms of the program, which saves their pictures in a folder.
 class Tour {
 public:
     /// `suffix` ends the name of every picture of this walk.
     Tour(controls::FormRegistry& forms, std::filesystem::path folder, std::string suffix);
 
-    /// Leaves the picture of a window. Throws std::runtime_error where it isn't on the screen or can't be written.
+    /// Saves the picture of a window. Throws std::runtime_error where the window isn't visible or the file can't be
+    /// written.
     void take(const std::string& name, QWidget& window);
     void take(const std::string& name, const char* form);
 
     controls::FormRegistry& forms() { return forms_; }
-    /// A loaded form, or a control on it. They throw std::runtime_error.
+    /// A loaded form, or a control on it. Both throw std::runtime_error where there is none.
     controls::Form& form(const char* name);
     QWidget& control(const char* form, const char* name);
     void show(const char* form);
-    /// Keys as a user types them, to the control.
+    /// Sends keys to the control as a user types them.
     static void type(QWidget& control, const std::string& text);
     static void press(QWidget& control, Qt::Key key);
     static void settle();

@@ -1,5 +1,5 @@
 // vabo-tour <drive-c> <output-folder>: walks all forms of the program on a provisioned drive C, without a screen, and
-// leaves a picture of each, three times: as it is, at 200 per cent, and in a dark palette.
+// saves a picture of each, three times: normal, at 200 per cent, and with a dark palette.
 
 #include "app/Program.h"
 #include "tour/Tour.h"
@@ -37,13 +37,13 @@ int walkOnce(int argc, char** argv, const Walk& walk) {
     return 0;
 }
 
-/// A screen that has room for every form at every scale; the platform's own is one of 800 by 600.
+/// A screen large enough for every form at every scale; the platform's default is 800 by 600.
 QByteArray largeScreen() {
     return R"({"screens": [{"name": "tour", "x": 0, "y": 0, "width": 3840, "height": 2160,
                "logicalDpi": 96, "logicalBaseDpi": 96, "dpr": 1}]})";
 }
 
-/// The scale is fixed when a process starts: each walk is a process of its own.
+/// Each walk is its own process, since the scale can't be changed after the start.
 int walkAll(const QString& program, const QString& driveC, const QString& folder) {
     std::filesystem::create_directories(folder.toStdString());
     QTemporaryFile screen;
@@ -55,7 +55,7 @@ int walkAll(const QString& program, const QString& driveC, const QString& folder
         QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
         environment.insert(QStringLiteral("QT_SCALE_FACTOR"), QString::fromLatin1(walk.scale));
         environment.insert(QStringLiteral("VABO_DRIVE_C"), driveC);
-        // A walk to look at forms leaves the user's own data sources alone.
+        // So that a walk doesn't change the user's data sources.
         environment.insert(QStringLiteral("ODBCINI"), driveC + QStringLiteral("/odbc.ini"));
         environment.insert(QStringLiteral("QT_QPA_PLATFORM"),
                            QStringLiteral("offscreen:configfile=") + screen.fileName());
@@ -76,10 +76,13 @@ int walkAll(const QString& program, const QString& driveC, const QString& folder
 } // namespace
 
 int main(int argc, char** argv) {
-    if (argc == 4)
-        for (const Walk& walk : kWalks)
-            if (std::string_view(argv[3]) == walk.name)
+    if (argc == 4) {
+        for (const Walk& walk : kWalks) {
+            if (std::string_view(argv[3]) == walk.name) {
                 return walkOnce(argc, argv, walk);
+            }
+        }
+    }
     if (argc != 3) {
         std::fprintf(stderr, "usage: vabo-tour <drive-c> <output-folder>\n");
         return 2;

@@ -1,5 +1,5 @@
-#include "engine/Collation.h"
 #include "engine/translate/SqlText.h"
+#include "engine/values/Collation.h"
 
 namespace engine::translate {
 
@@ -30,20 +30,15 @@ const ColumnInfo* rowNumber(const TableInfo& table) {
     return whole ? identity : nullptr;
 }
 
-std::string indexName(const std::string& table, const std::string& index) {
-    const std::string stored = storedTable(table);
-    return stored == table ? table + "." + index : "_vabo_i" + std::to_string(table.size()) + ":" + table + "." + index;
-}
-
 std::string columnDefinition(const TableInfo& table, const ColumnInfo& column) {
     if (&column == rowNumber(table)) {
-        return quoted(column.name) + " INTEGER PRIMARY KEY";
+        return stored::quoted(column.name) + " INTEGER PRIMARY KEY";
     }
-    return quoted(column.name) + ' ' + storageType(column.type) + (column.nullable ? "" : " NOT NULL");
+    return stored::quoted(column.name) + ' ' + storageType(column.type) + (column.nullable ? "" : " NOT NULL");
 }
 
 std::string createTable(const TableInfo& table) {
-    std::string text = "CREATE TABLE " + quoted(storedTable(table.name)) + " (";
+    std::string text = "CREATE TABLE " + stored::quoted(stored::tableName(table.name)) + " (";
     bool first = true;
     for (const ColumnInfo& column : table.columns) {
         text += first ? "" : ", ";
@@ -54,20 +49,20 @@ std::string createTable(const TableInfo& table) {
 }
 
 std::string createKey(const TableInfo& table, const KeyInfo& key) {
-    std::string text = "CREATE UNIQUE INDEX " + quoted(indexName(table.name, key.name)) + " ON " +
-                       quoted(storedTable(table.name)) + " (";
+    std::string text = "CREATE UNIQUE INDEX " + stored::quoted(stored::indexName(table.name, key.name)) + " ON " +
+                       stored::quoted(stored::tableName(table.name)) + " (";
     bool first = true;
     for (const std::string& column : key.columns) {
         text += first ? "" : ", ";
         first = false;
-        text += quoted(column);
+        text += stored::quoted(column);
     }
     return text + ")";
 }
 
 std::string addColumn(const TableInfo& table, const ColumnInfo& column, const std::string& defaultText) {
-    return "ALTER TABLE " + quoted(storedTable(table.name)) + " ADD COLUMN " + columnDefinition(table, column) +
-           (defaultText.empty() ? "" : " DEFAULT " + defaultText);
+    return "ALTER TABLE " + stored::quoted(stored::tableName(table.name)) + " ADD COLUMN " +
+           columnDefinition(table, column) + (defaultText.empty() ? "" : " DEFAULT " + defaultText);
 }
 
 } // namespace engine::translate

@@ -6,7 +6,7 @@ namespace {
 
 Text onTarget(const std::string& verb, const bound::Delete& remove) {
     Text text(verb);
-    text += tableName(remove.table.schema, remove.table.info->name) + " AS " + alias(remove.table.number);
+    text += stored::qualifiedTable(remove.table.schema, remove.table.info->name) + " AS " + alias(remove.table.number);
     writeWhere(text, remove.where);
     return text;
 }

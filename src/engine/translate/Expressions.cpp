@@ -1,5 +1,5 @@
-#include "engine/Collation.h"
 #include "engine/translate/SqlText.h"
+#include "engine/values/Collation.h"
 
 #include <algorithm>
 #include <iterator>
@@ -23,7 +23,7 @@ void writeNode(Text& text, const bound::ParameterUse& use) {
 }
 
 void writeNode(Text& text, const bound::Column& column) {
-    text += alias(column.source) + '.' + quoted(column.column);
+    text += alias(column.source) + '.' + stored::quoted(column.column);
 }
 
 void writeNode(Text& text, const bound::Constant& constant) {
@@ -125,29 +125,6 @@ void writeNode(Text& text, const bound::Subselect& subselect) {
 
 bool isBare(const bound::Expression& expression) {
     return std::holds_alternative<bound::ParameterUse>(expression.node);
-}
-
-std::string quoted(std::string_view name) {
-    std::string result = "\"";
-    for (const char c : name) {
-        result += c;
-        if (c == '"') {
-            result += c;
-        }
-    }
-    return result + '"';
-}
-
-std::string storedTable(const std::string& table) {
-    constexpr std::string_view kReserved[] = {"sqlite_", "_vabo_"};
-    const std::string small = lower(table);
-    const bool reserved = std::any_of(std::begin(kReserved), std::end(kReserved),
-                                      [&](std::string_view start) { return small.starts_with(start); });
-    return reserved || table.find('.') != std::string::npos ? "_vabo_t:" + table : table;
-}
-
-std::string tableName(const std::string& schema, const std::string& table) {
-    return quoted(schema) + '.' + quoted(storedTable(table));
 }
 
 std::string rowidOf(const TableInfo& table) {

@@ -3,7 +3,7 @@
 namespace engine::translate {
 
 Text insert(const bound::Insert& insert) {
-    Text text("INSERT INTO " + tableName(insert.table.schema, insert.table.info->name));
+    Text text("INSERT INTO " + stored::qualifiedTable(insert.table.schema, insert.table.info->name));
     if (insert.columns.empty()) {
         text += " DEFAULT VALUES";
         return text;
@@ -13,7 +13,7 @@ Text insert(const bound::Insert& insert) {
     for (const ColumnInfo* column : insert.columns) {
         text += first ? "" : ", ";
         first = false;
-        text += quoted(column->name);
+        text += stored::quoted(column->name);
     }
     text += ") VALUES ";
     const std::size_t expressions = insert.rows.size() * insert.columns.size();

@@ -5,7 +5,7 @@ namespace engine::translate {
 namespace {
 
 void writeNode(Text& text, const bound::Table& table) {
-    text += tableName(table.schema, table.info->name) + " AS " + alias(table.number);
+    text += stored::qualifiedTable(table.schema, table.info->name) + " AS " + alias(table.number);
 }
 
 void writeNode(Text& text, const bound::Derived& derived) {

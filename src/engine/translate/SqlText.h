@@ -2,8 +2,9 @@
 
 // The storage's text of a bound tree. Nothing is decided here: every node has one way to be written.
 
-#include "engine/BoundTree.h"
-#include "engine/Tree.h"
+#include "engine/bind/BoundTree.h"
+#include "engine/store/StoredNames.h"
+#include "engine/text/Tree.h"
 #include "engine/translate/Text.h"
 
 #include <string>
@@ -11,12 +12,6 @@
 
 namespace engine::translate {
 
-/// A name in double quotes.
-std::string quoted(std::string_view name);
-/// The storage keeps some names for itself, and tables and indexes share its names: such tables are stored under
-/// another.
-std::string storedTable(const std::string& table);
-std::string tableName(const std::string& schema, const std::string& table);
 /// The storage's number of a row, under a name that no column of the table has.
 std::string rowidOf(const TableInfo& table);
 /// A table's alias in the text: `t3`.
@@ -45,8 +40,6 @@ std::string createTable(const TableInfo& table);
 std::string createKey(const TableInfo& table, const KeyInfo& key);
 std::string addColumn(const TableInfo& table, const ColumnInfo& column, const std::string& defaultText);
 std::string columnDefinition(const TableInfo& table, const ColumnInfo& column);
-/// The storage has one space of names for all indexes of a database.
-std::string indexName(const std::string& table, const std::string& index);
 /// The one column that is the storage's own row number: an identity that is the whole primary key.
 const ColumnInfo* rowNumber(const TableInfo& table);
 

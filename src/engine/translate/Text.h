@@ -1,6 +1,6 @@
 #pragma once
 
-#include "engine/BoundTree.h"
+#include "engine/bind/BoundTree.h"
 
 #include <string>
 #include <string_view>

@@ -8,7 +8,8 @@ namespace {
 void writeSources(Text& text, const bound::Update& update) {
     text += " FROM ";
     if (update.targetInFrom < 0)
-        text += tableName(update.table.schema, update.table.info->name) + " AS " + alias(update.table.number);
+        text +=
+            stored::qualifiedTable(update.table.schema, update.table.info->name) + " AS " + alias(update.table.number);
     bool first = update.targetInFrom >= 0;
     for (const bound::SourcePtr& source : update.from) {
         text += first ? "" : " CROSS JOIN ";
@@ -25,9 +26,10 @@ std::string targetAlias(const bound::Update& update) {
 /// Target and sources are walked by a SELECT of their own, for the storage can't name the row numbers of several
 /// sources in an UPDATE.
 Text updateFrom(const bound::Update& update) {
-    Text text("UPDATE " + tableName(update.table.schema, update.table.info->name) + " AS target SET ");
+    Text text("UPDATE " + stored::qualifiedTable(update.table.schema, update.table.info->name) + " AS target SET ");
     for (std::size_t i = 0; i < update.assignments.size(); ++i) {
-        text += (i == 0 ? "" : ", ") + quoted(update.assignments[i].column->name) + " = found.v" + std::to_string(i);
+        text += (i == 0 ? "" : ", ") + stored::quoted(update.assignments[i].column->name) + " = found.v" +
+                std::to_string(i);
     }
     const std::string rowid = rowidOf(*update.table.info);
     text += " FROM (SELECT " + targetAlias(update) + "." + rowid + " AS row";
@@ -46,13 +48,13 @@ Text updateFrom(const bound::Update& update) {
 Text update(const bound::Update& update) {
     if (!update.from.empty())
         return updateFrom(update);
-    Text text("UPDATE " + tableName(update.table.schema, update.table.info->name) + " AS " +
+    Text text("UPDATE " + stored::qualifiedTable(update.table.schema, update.table.info->name) + " AS " +
               alias(update.table.number) + " SET ");
     bool first = true;
     for (const auto& assignment : update.assignments) {
         text += first ? "" : ", ";
         first = false;
-        text += quoted(assignment.column->name) + " = ";
+        text += stored::quoted(assignment.column->name) + " = ";
         write(text, *assignment.value);
     }
     writeWhere(text, update.where);

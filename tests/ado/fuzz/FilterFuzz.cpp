@@ -18,8 +18,9 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
         const FilterExpression filter({reinterpret_cast<const char*>(data), size}, fields);
         filter.admits(rows, 0);
     } catch (const Error& error) {
-        if (error.number() != kWrongArguments)
+        if (error.number() != kWrongArguments) {
             throw;
+        }
     }
     return 0;
 }

@@ -1,8 +1,8 @@
 #pragma once
 
-#include "engine/Instance.h"
-#include "engine/InternalErrors.h"
-#include "engine/Session.h"
+#include "engine/run/InternalErrors.h"
+#include "engine/run/Session.h"
+#include "engine/store/Instance.h"
 
 #include <algorithm>
 #include <cstdio>

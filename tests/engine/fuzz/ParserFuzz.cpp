@@ -1,9 +1,9 @@
 // Any text must either parse, print and have a shape, or be refused with an error of the server's own.
 
-#include "engine/Error.h"
-#include "engine/Parser.h"
-#include "engine/Print.h"
-#include "engine/Shape.h"
+#include "engine/errors/Error.h"
+#include "engine/text/Parser.h"
+#include "engine/text/Print.h"
+#include "engine/text/Shape.h"
 
 #include <cstdint>
 

@@ -1,8 +1,8 @@
 // Any batch has rows or errors of the server's own, and the session answers the next one. An empty corpus folder is
 // given statements as its seeds.
 
-#include "engine/Error.h"
 #include "engine/StatementTexts.h"
+#include "engine/errors/Error.h"
 #include "engine/fuzz/FuzzInstance.h"
 
 #include <cstdint>

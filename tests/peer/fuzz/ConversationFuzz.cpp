@@ -1,6 +1,6 @@
-// A whole conversation of a client with the server: whatever it sends is named garbage or answered in whole packets,
-// and to the end. The first byte chooses what goes before (nothing, or a login of 7.1 or of 7.4), the second how the
-// rest is cut into pieces. An empty corpus folder is given real requests as its seeds.
+// A whole connection of a client with the server: whatever the client sends is refused or answered completely, in whole
+// packets. The first byte chooses what is sent first (nothing, or a login of 7.1 or of 7.4), the second how the rest is
+// cut into pieces. An empty corpus folder is filled with real requests as seeds.
 
 #include "engine/fuzz/FuzzInstance.h"
 #include "peer/Client.h"
@@ -18,7 +18,7 @@ namespace fs = std::filesystem;
 
 constexpr std::uint32_t kVersions[] = {0x71000001, 0x74000004};
 
-/// Sends its bytes in pieces and looks at the packets that come back.
+/// Sends its bytes in pieces and checks the packets that come back.
 class Wire : public peer::Channel {
 public:
     Wire(peer::Bytes sent, std::size_t piece) : sent_(std::move(sent)), piece_(piece) {}
@@ -47,14 +47,16 @@ public:
 
 private:
     static void needed(bool promise) {
-        if (!promise)
+        if (!promise) {
             std::abort();
+        }
     }
     bool isGreeting() const { return !answer_.empty() && answer_[0] == 0; }
-    /// The last token tells that nothing follows; its length depends on the version.
+    /// Whether the last token says that nothing follows; its length depends on the version.
     bool endsWithDone(std::size_t length) const {
-        if (answer_.size() < length)
+        if (answer_.size() < length) {
             return false;
+        }
         const auto token = std::span(answer_).last(length);
         return (token[0] == 0xFD || token[0] == 0xFE) && !(token[1] & peer::done::kMore);
     }
@@ -62,13 +64,14 @@ private:
     peer::Bytes sent_;
     std::size_t piece_;
     std::size_t place_ = 0;
-    peer::Bytes answer_; ///< as far as it came
+    peer::Bytes answer_; ///< received so far
 };
 
 peer::Bytes joined(std::initializer_list<peer::Bytes> parts) {
     peer::Bytes all;
-    for (const peer::Bytes& part : parts)
+    for (const peer::Bytes& part : parts) {
         all.insert(all.end(), part.begin(), part.end());
+    }
     return all;
 }
 
@@ -89,14 +92,18 @@ peer::ByteWriter& wideArgument(peer::ByteWriter& out, std::string_view name, std
 peer::Bytes call(std::uint16_t procedure, bool handle) {
     peer::ByteWriter out;
     out.u16(0xFFFF).u16(procedure).u16(0);
-    if (handle)
+    if (handle) {
         out.shortText("").u8(1).u8(0x26).u8(4).u8(4).u32(1);
-    if (procedure == 13 || procedure == 11)
+    }
+    if (procedure == 13 || procedure == 11) {
         wideArgument(out, "", "@a nvarchar(20), @b int");
-    if (procedure != 12 && procedure != 15)
+    }
+    if (procedure != 12 && procedure != 15) {
         wideArgument(out, "", "select * from tipi where n = @a or id = @b");
-    if (procedure == 10)
+    }
+    if (procedure == 10) {
         wideArgument(out, "", "@a nvarchar(20), @b int");
+    }
     wideArgument(out, "@a", "Città");
     out.shortText("@b").u8(0).u8(0x26).u8(4).u8(4).u32(1);
     out.shortText("@c").u8(0).u8(0x6D).u8(8).u8(8).u64(0x3FF8000000000000);
@@ -105,16 +112,19 @@ peer::Bytes call(std::uint16_t procedure, bool handle) {
 }
 
 void writeSeeds(const fs::path& folder) {
-    std::vector<peer::Bytes> requests; // a packet each, without headers
+    std::vector<peer::Bytes> requests; // one packet each, without headers
     for (const char* text :
          {"select * from tipi", "select 1; select N'x'; print 'detto'", "update tipi set d = d + 1 where id = 1",
           "insert into tipi (n) values (N'nuovo')", "select * from manca", "begin transaction; rollback transaction",
-          "if @@trancount > 0 commit transaction", "use master", "create database altra", "exec sp_configure"})
+          "if @@trancount > 0 commit transaction", "use master", "create database altra", "exec sp_configure"}) {
         requests.push_back(joined({{1}, peer::ByteWriter().ucs2(text).bytes}));
-    for (const std::uint16_t procedure : {2, 10, 11, 12, 13, 15})
+    }
+    for (const std::uint16_t procedure : {2, 10, 11, 12, 13, 15}) {
         requests.push_back(joined({{3}, call(procedure, procedure != 10)}));
-    for (const std::uint16_t request : {5, 7, 8})
+    }
+    for (const std::uint16_t request : {5, 7, 8}) {
         requests.push_back(joined({{14}, peer::ByteWriter().u16(request).u16(0).bytes}));
+    }
 
     int number = 0;
     const auto write = [&](const peer::Bytes& bytes) {
@@ -151,11 +161,13 @@ extern "C" int LLVMFuzzerInitialize(int* argc, char*** argv) {
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     static engine::fuzz::FuzzInstance instance;
-    if (size < 2)
+    if (size < 2) {
         return 0;
+    }
     peer::Bytes sent;
-    if (data[0] < std::size(kVersions))
+    if (data[0] < std::size(kVersions)) {
         sent = loginPacket(kVersions[data[0]]);
+    }
     const std::size_t piece = data[1] == 255 ? 16384 : data[1] + 1U;
     sent.insert(sent.end(), data + 2, data + size);
     Wire wire(std::move(sent), piece);

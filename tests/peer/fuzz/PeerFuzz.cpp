@@ -1,4 +1,4 @@
-// Any bytes from the network are messages, logins and calls that can be read, or garbage that is named so.
+// Any bytes from the network are read as messages, logins and calls, or refused.
 
 #include "peer/Login.h"
 #include "peer/Packets.h"
@@ -10,12 +10,15 @@ namespace {
 
 void read(const peer::Message& message) {
     peer::ByteReader in(message.body);
-    if (message.type == peer::PacketType::Login)
+    if (message.type == peer::PacketType::Login) {
         peer::readLogin(message.body);
-    if (message.type == peer::PacketType::PreLogin)
+    }
+    if (message.type == peer::PacketType::PreLogin) {
         peer::answerPreLogin(message.body);
-    if (message.type == peer::PacketType::Batch)
+    }
+    if (message.type == peer::PacketType::Batch) {
         in.ucs2(in.left() / 2);
+    }
     if (message.type == peer::PacketType::Rpc) {
         std::map<std::int32_t, std::string> prepared;
         std::int32_t last = 0;
@@ -29,8 +32,9 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     try {
         peer::PacketReader reader;
         reader.feed({data, size});
-        while (const auto message = reader.next())
+        while (const auto message = reader.next()) {
             read(*message);
+        }
     } catch (const peer::ProtocolError&) {
         return 0;
     }

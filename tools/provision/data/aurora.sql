@@ -19,7 +19,7 @@ GO
 INSERT INTO [ElencoSedi] ([città], [Indirizzo], [IdStato])
     SELECT N'Tirana', N'Rruga e Agimit 5', [IdStato] FROM [stati] WHERE [Sigla] = 'AL'
 GO
--- A branch that was entered without its state
+-- A branch without a state
 INSERT INTO [ElencoSedi] ([città], [Note]) VALUES (N'Magazzino mobile', N'Senza indirizzo')
 GO
 INSERT INTO [sedecentrale] ([idsede], [città], [Indirizzo], [statooprovincia], [cap], [IdStato], [telefonoufficio], [numerofax], [indirizzopostaelettronica], [Note]) VALUES

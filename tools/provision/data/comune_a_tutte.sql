@@ -1,6 +1,6 @@
 -- Rows that every company starts with, whatever its own data.
 
--- States that are no more, and some days of founding
+-- States that no longer exist, and some founding dates
 INSERT INTO [stati] ([DescStato], [DataIstituzioneStato], [DataSoppressioneStato], [IsoValuta], [Area])
     SELECT N'Cecoslovacchia', '19181028', '19921231', N'CSK', Area FROM [stati] WHERE [Sigla] = 'CZ'
 GO
@@ -14,7 +14,7 @@ GO
 UPDATE [stati] SET [DataIstituzioneStato] = '19750625' WHERE [Sigla] = 'MZ'
 GO
 
--- Users. One has not chosen a password yet, one is shut out.
+-- Users. One has no password yet, one is disabled.
 INSERT INTO [AbilitazioneAccessi] ([NomeUtente], [PaswUtente], [Administrator], [A_Inserisci], [A_Cancella], [A_Iva], [A_Bilancio], [A_Personale], [A_ArchivioStoria], [A_PFinanza], [A_Synchro], [A_EmettiPagamenti], [A_Progetta], [Disabilita]) VALUES
     (N'amministratore', N'primavera', 1, 1, 1, 1, 1, 1, 1, 1, 1, 1, 0, 0),
     (N'contabile', N'estate24', 0, 1, 0, 1, 1, 0, 0, 1, 0, 0, 0, 0),
@@ -22,7 +22,7 @@ INSERT INTO [AbilitazioneAccessi] ([NomeUtente], [PaswUtente], [Administrator], 
     (N'disabilitato', N'autunno', 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 1)
 GO
 
--- Treatments of VAT. The first is none at all; those of the sales have a code that begins with IV.
+-- Treatments of VAT. The first means none; those of sales have a code that begins with IV.
 INSERT INTO [IvaTrattamento] ([Descrizione], [Aliquota], [quotadetrazione], [Sigla]) VALUES
     (N'Nessun trattamento', 0, 0, N''),
     (N'Imponibile 22%', 22, 100, N'22'),
@@ -68,7 +68,7 @@ INSERT INTO [CondizioniPagamento] ([Descrizione], [NRrate], [IDDecorrenza], [Sca
     (N'Assegno a 30-60-90-120-150-180 Data fattura', 6, 1, 30, 60, 90, 120, 150, 180, 4)
 GO
 
--- Options by fixed number: the identity gives them their numbers in this order.
+-- Options with fixed numbers, which the identity column assigns in this order.
 INSERT INTO [datiGenerali] ([Descrizione], [Contatore]) VALUES
     (N'Ultima registrazione', 0),
     (N'Ultimo protocollo', 0),

@@ -1,4 +1,4 @@
--- Provincial capitals with their general postal code, read from a list of numbers: leading zeros are lost.
+-- Provincial capitals with their general postal code. Leading zeros are missing, as if imported as numbers.
 
 INSERT INTO [Comuni] ([DES_COMUNE], [DES_PROVIN], [COD_CAP], [IdStato]) VALUES
     (N'Agrigento', N'AG', N'92100', 1),

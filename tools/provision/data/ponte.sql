@@ -12,7 +12,7 @@ GO
 INSERT INTO [ElencoSedi] ([città], [Indirizzo], [IdStato])
     SELECT N'Lima', N'Jirón del Puente 250', [IdStato] FROM [stati] WHERE [Sigla] = 'PE'
 GO
--- The folder of this file was never found out.
+-- The folder of the data file is unknown.
 INSERT INTO [DirectorySede] ([Directoryfile], [NomeFile]) VALUES (NULL, N'NomeServer.txt')
 GO
 

@@ -1,4 +1,4 @@
--- Columns that came later. A company whose database is older gets them from the console.
+-- Columns of later versions. The console adds them to an older company's database.
 
 ALTER TABLE [IvaSezionale] ADD [descrizione] nvarchar(255) NOT NULL DEFAULT 'Sezionale Iva'
 GO

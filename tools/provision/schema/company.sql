@@ -1,4 +1,4 @@
--- Tables of a company database, as the accounting program lays them down.
+-- Tables of a company database, as the accounting program creates them.
 
 -- Geography and branches
 
@@ -8,7 +8,7 @@ CREATE TABLE [ZoneGeografiche] (
     CONSTRAINT [PK_ZoneGeografiche] PRIMARY KEY ([IdZona])
 )
 GO
--- The order of the columns counts: the grid of states shows the second to the fifth and the last.
+-- The order of the columns matters: the grid of states shows the second to the fifth and the last.
 CREATE TABLE [stati] (
     [IdStato] int IDENTITY(1,1) NOT NULL,
     [DescStato] nvarchar(100) NULL,
@@ -58,7 +58,7 @@ CREATE TABLE [ElencoSedi] (
     CONSTRAINT [PK_ElencoSedi] PRIMARY KEY ([IdSede])
 )
 GO
--- idsede is rewritten with the branch that is chosen, so it can't be the key.
+-- idsede is overwritten when a branch is chosen, so it can't be the key.
 CREATE TABLE [sedecentrale] (
     [IdAutonumber] int IDENTITY(1,1) NOT NULL,
     [idsede] int NULL,
@@ -291,7 +291,7 @@ CREATE TABLE [IvaTrattamento] (
     CONSTRAINT [PK_IvaTrattamento] PRIMARY KEY ([idautonumber])
 )
 GO
--- Rate and share are kept as they were shown, with the decimal comma.
+-- Rate and share are stored as they were displayed, with a decimal comma.
 CREATE TABLE [IvaAliquotaStandard] (
     [idautonumber] int IDENTITY(1,1) NOT NULL,
     [idTipo] int NULL,

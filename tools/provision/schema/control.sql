@@ -1,4 +1,4 @@
--- Tables of the control database, in its own spelling.
+-- Tables of the control database, with its spelling of names.
 
 CREATE TABLE [link_programma] (
     [id] int IDENTITY(1,1) NOT NULL,

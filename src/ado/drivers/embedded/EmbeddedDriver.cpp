@@ -2,8 +2,8 @@
 
 #include "ado/Drivers.h"
 #include "ado/ServerErrors.h"
-#include "engine/InternalErrors.h"
-#include "engine/Session.h"
+#include "engine/run/InternalErrors.h"
+#include "engine/run/Session.h"
 
 #include <QLoggingCategory>
 
@@ -14,12 +14,12 @@ namespace ado {
 
 namespace {
 
-// On by default: what comes here is a bug.
+// On by default, since only bugs are logged here.
 Q_LOGGING_CATEGORY(engineLog, "vabo.engine", QtWarningMsg)
 
 using SessionPtr = std::shared_ptr<engine::Session>;
 
-/// The one border at which the engine's refusals become the data layer's.
+/// Converts the engine's errors into the data layer's.
 template<typename Work>
 decltype(auto) translated(Work&& work) {
     try {
@@ -54,12 +54,14 @@ FieldType fieldType(const engine::DataType& type) {
         {Kind::NVarChar, FieldType::WChar},
         {Kind::VarBinary, FieldType::Binary},
     });
-    // The engine keeps money and smallmoney as the decimals that they are.
-    if (type.kind == Kind::Decimal && type.scale == 4 && (type.precision == 19 || type.precision == 10))
+    // The engine stores money and smallmoney as decimals of these sizes.
+    if (type.kind == Kind::Decimal && type.scale == 4 && (type.precision == 19 || type.precision == 10)) {
         return FieldType::Currency;
+    }
     for (const Pair& pair : kPairs) {
-        if (pair.kind == type.kind)
+        if (pair.kind == type.kind) {
             return pair.field;
+        }
     }
     return FieldType::WChar;
 }
@@ -86,10 +88,12 @@ public:
 
     bool nextResult() override {
         fields_.clear();
-        if (!translated([&] { return batch_->nextResult(); }))
+        if (!translated([&] { return batch_->nextResult(); })) {
             return false;
-        for (const engine::ResultColumn& column : batch_->columns())
+        }
+        for (const engine::ResultColumn& column : batch_->columns()) {
             fields_.push_back(describe(column));
+        }
         return true;
     }
     bool hasRows() const override { return batch_->hasRows(); }
@@ -106,7 +110,7 @@ public:
 
 private:
     SessionPtr session_;
-    std::unique_ptr<engine::Batch> batch_; // ends before its session
+    std::unique_ptr<engine::Batch> batch_; // declared after the session, so that it is destroyed first
     std::vector<FieldDescription> fields_;
 };
 
@@ -114,7 +118,7 @@ std::unique_ptr<DriverResult> runOn(const SessionPtr& session, std::string_view 
     return std::make_unique<EmbeddedResult>(session, translated([&] { return session->execute(text); }));
 }
 
-/// This session's own writes pass its holds, so a text may go the usual road.
+/// The session's own writes aren't refused by its holds, so a text is run as without a hold.
 class EmbeddedHold : public DriverHold {
 public:
     EmbeddedHold(SessionPtr session, std::unique_ptr<engine::RowHold> rows, std::string_view select)
@@ -148,11 +152,13 @@ public:
     std::vector<std::string> primaryKey(const std::string& table) override {
         std::vector<std::string> columns;
         const auto result = run("SELECT * FROM [" + table + "] WHERE 1 = 0");
-        if (!result->nextResult())
+        if (!result->nextResult()) {
             return columns;
+        }
         for (const FieldDescription& field : result->fields()) {
-            if (field.key)
+            if (field.key) {
                 columns.push_back(field.baseColumn);
+            }
         }
         return columns;
     }
@@ -171,8 +177,9 @@ EmbeddedDriver::EmbeddedDriver() {
 
 std::shared_ptr<engine::Instance> EmbeddedDriver::instance(const std::filesystem::path& folder) {
     std::weak_ptr<engine::Instance>& known = instances_[folder];
-    if (auto living = known.lock())
+    if (auto living = known.lock()) {
         return living;
+    }
     auto opened = engine::Instance::open(folder, {[](std::string_view path) { return mapServerPath(path); }});
     known = opened;
     return opened;

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "ado/Driver.h"
-#include "engine/Instance.h"
+#include "engine/store/Instance.h"
 
 #include <filesystem>
 #include <map>
@@ -9,7 +9,8 @@
 
 namespace ado {
 
-/// The road to the embedded server. One instance object a folder, shared by all connections of the process.
+/// The driver of the embedded server. Each instance folder has one instance object, which all connections of the
+/// process share.
 class EmbeddedDriver : public Driver {
 public:
     EmbeddedDriver();

@@ -18,38 +18,42 @@ namespace ado::odbc {
 
 namespace {
 
-/// Braces only where the text would be read wrong without: FreeTDS knows no "}" inside of them.
+/// The value, in braces only where it would be misread without them, since FreeTDS can't read a "}" inside of braces.
 std::string braced(const std::string& value) {
     const bool plain = value.find(';') == std::string::npos && !value.starts_with('{');
-    if (plain && !value.starts_with(' ') && !value.ends_with(' '))
+    if (plain && !value.starts_with(' ') && !value.ends_with(' ')) {
         return value;
+    }
     std::string out = "{";
-    for (const char c : value)
+    for (const char c : value) {
         out += c == '}' ? "}}" : std::string(1, c);
+    }
     return out + "}";
 }
 
-/// unixODBC copies the name to a place of this size on its stack.
+/// unixODBC copies the name to a buffer of this size on its stack without checking its length.
 void checkLength(const std::string& driver) {
     constexpr std::size_t kLongest = 1000;
-    if (driver.size() > kLongest)
+    if (driver.size() > kLongest) {
         throw Error(kUnspecified, "Driver name too long", "IM011", 0, {});
+    }
 }
 
-/// A day is as good as for ever, and its milliseconds are a number that every interface takes.
+/// One day: longer than anybody waits, and small enough to be passed in milliseconds everywhere.
 constexpr int kLongestTimeout = 86'400;
 
 int timeoutOf(const ConnectionString& text) {
     for (const char* key : {"Connect Timeout", "Connection Timeout", "Timeout"}) {
         int seconds = 0;
         const std::string value = text.value(key).value_or("");
-        if (std::from_chars(value.data(), value.data() + value.size(), seconds).ec == std::errc() && seconds > 0)
+        if (std::from_chars(value.data(), value.data() + value.size(), seconds).ec == std::errc() && seconds > 0) {
             return std::min(seconds, kLongestTimeout);
+        }
     }
     return kTimeout;
 }
 
-/// No server answered: what each driver says to that differs, and is for whoever searches.
+/// Whether no server answered. Only the SQLSTATE tells it, since each driver has its own texts.
 bool isOutOfReach(const Error& error) {
     static constexpr std::string_view kStates[] = {"08001", "08S01", "HYT00", "HYT01", "IM007"};
     return std::ranges::find(kStates, error.sqlState()) != std::end(kStates);
@@ -60,13 +64,14 @@ std::string placeOf(const ConnectionString& text) {
 }
 
 Error notReached(const Error& error, const ConnectionString& text) {
-    if (isSilence(error))
+    if (isSilence(error)) {
         rememberSilent(placeOf(text), error);
+    }
     return outOfReach(error);
 }
 
-/// Whoever pressed a button has waited by then: drivers take their time for more than a silent server, an instance
-/// whose port nobody tells among it.
+/// A failed login that took longer than this counts as silence, whatever its SQLSTATE: drivers also wait for other
+/// reasons, for instance for the port of a named instance.
 constexpr qint64 kWaitMilliseconds = 1000;
 
 void connect(const Handle& connection, const ConnectionString& text, const std::string& driver) {
@@ -78,10 +83,12 @@ void connect(const Handle& connection, const ConnectionString& text, const std::
                                 static_cast<SQLSMALLINT>(wide.size()), nullptr, 0, nullptr, SQL_DRIVER_NOPROMPT),
               connection, "SQLDriverConnect");
     } catch (const Error& error) {
-        if (!isOutOfReach(error))
+        if (!isOutOfReach(error)) {
             throw;
-        if (waited.elapsed() >= kWaitMilliseconds)
+        }
+        if (waited.elapsed() >= kWaitMilliseconds) {
             rememberSilent(placeOf(text), error);
+        }
         throw notReached(error, text);
     }
 }
@@ -90,14 +97,17 @@ void connect(const Handle& connection, const ConnectionString& text, const std::
 
 std::string driverText(const ConnectionString& text, const std::string& resolvedDriver) {
     std::string out = "DRIVER={" + resolvedDriver + "};SERVER=" + braced(text.server()) + ";";
-    if (const auto port = text.value("Port"))
+    if (const auto port = text.value("Port")) {
         out += "PORT=" + braced(*port) + ";";
-    if (!text.database().empty())
+    }
+    if (!text.database().empty()) {
         out += "DATABASE=" + braced(text.database()) + ";";
-    if (!text.user().empty())
+    }
+    if (!text.user().empty()) {
         out += "UID=" + braced(text.user()) + ";PWD=" + braced(text.password()) + ";";
-    else
+    } else {
         out += "Trusted_Connection=Yes;";
+    }
     return out + driverSettings(resolvedDriver);
 }
 
@@ -107,10 +117,10 @@ int patience(std::string_view text, int loginSeconds) {
     return reads ? std::max(loginSeconds / 2, 1) : loginSeconds;
 }
 
-/// The connection itself, as long as anybody walks on it.
-class Road : public std::enable_shared_from_this<Road> {
+/// The ODBC connection, which OdbcConnection, its results and its holds share. The last of them closes it.
+class SharedConnection : public std::enable_shared_from_this<SharedConnection> {
 public:
-    explicit Road(const ConnectionString& text)
+    explicit SharedConnection(const ConnectionString& text)
         : handle_(SQL_HANDLE_DBC, environment()), place_(placeOf(text)), timeout_(timeoutOf(text)) {
         const std::string driver = resolveDriver(text.value("Driver").value_or(kServerDriver), registeredDrivers());
         checkLength(driver);
@@ -133,11 +143,12 @@ public:
     }
 
     void beginHold() { ++holds_; }
-    /// What another program writes at this moment is waited for, or a busy day would lose writes; the server tells that
-    /// it took too long before the statement's own time is over, whatever its kind.
+    /// How long a statement waits for rows that another program is writing: a third of the time-out. It must wait,
+    /// since failing writes are often skipped and would be lost; and the server must report the lock before the
+    /// statement's own time-out ends.
     std::string lockWait() const { return "SET LOCK_TIMEOUT " + std::to_string(timeout_ * 1000 / 3); }
-    /// A row that somebody else holds is refused at once. The first of several holds begins their transaction, on the
-    /// way of its own selection.
+    /// Selects the rows of a hold; raises at once where another connection holds one. The first of several holds begins
+    /// the transaction in the same round trip.
     std::unique_ptr<DriverResult> held(std::string_view select) {
         const std::string begin = holds_ == 1 ? "SET LOCK_TIMEOUT 0; BEGIN TRANSACTION; " : "";
         auto result = run(begin + std::string(select), patience(select, timeout_));
@@ -145,14 +156,16 @@ public:
         }
         return result;
     }
-    /// Committed, never rolled back: what was confirmed meanwhile stays. The rows are free when the last hold ends.
+    /// Always commits, since what was written meanwhile was confirmed to the user. Rows are released when the last hold
+    /// ends.
     void endHold() noexcept {
-        if (--holds_ > 0 || !alive())
+        if (--holds_ > 0 || !alive()) {
             return;
+        }
         try {
             runToEnd("IF @@TRANCOUNT > 0 COMMIT TRANSACTION; " + lockWait());
         } catch (const std::exception&) { // NOLINT(bugprone-empty-catch)
-            // The connection is gone, and the lock with it.
+            // The connection is lost, and the server has ended its locks.
         }
     }
 
@@ -167,22 +180,24 @@ private:
 
 namespace {
 
-/// A connection that the driver manager kept may have lost its server meanwhile, which the first statement tells: then
-/// the next one is taken, at last a new one.
-std::shared_ptr<Road> preparedRoad(const ConnectionString& text) {
+/// A new connection with its lock time-out set. A connection that the driver manager kept may have lost its server,
+/// which only the first statement shows. Then the next kept one is tried, and when none is left a new one.
+std::shared_ptr<SharedConnection> preparedConnection(const ConnectionString& text) {
     constexpr int kMostKept = 100;
     refuseSilent(placeOf(text));
     for (int kept = 0;; ++kept) {
-        auto road = std::make_shared<Road>(text);
+        auto connection = std::make_shared<SharedConnection>(text);
         try {
-            road->runToEnd(road->lockWait());
-            return road;
+            connection->runToEnd(connection->lockWait());
+            return connection;
         } catch (const Error& error) {
             const bool silent = isSilence(error);
-            if (road->alive() && !silent)
+            if (connection->alive() && !silent) {
                 throw;
-            if (silent || kept == kMostKept)
+            }
+            if (silent || kept == kMostKept) {
                 throw notReached(error, text);
+            }
         }
     }
 }
@@ -190,32 +205,34 @@ std::shared_ptr<Road> preparedRoad(const ConnectionString& text) {
 /// A row lock of an open transaction.
 class OdbcHold : public DriverHold {
 public:
-    explicit OdbcHold(std::shared_ptr<Road> road) : road_(std::move(road)) { road_->beginHold(); }
+    explicit OdbcHold(std::shared_ptr<SharedConnection> connection) : connection_(std::move(connection)) {
+        connection_->beginHold();
+    }
     ~OdbcHold() override {
         rows_.reset();
-        road_->endHold();
+        connection_->endHold();
     }
     OdbcHold(const OdbcHold&) = delete;
     OdbcHold& operator=(const OdbcHold&) = delete;
 
-    void select(std::string_view text) { rows_ = road_->held(text); }
+    void select(std::string_view text) { rows_ = connection_->held(text); }
     std::unique_ptr<DriverResult> rows() override { return std::move(rows_); }
     std::unique_ptr<DriverResult> run(std::string_view text) override {
-        rows_.reset(); // unread ones would keep the connection busy
-        return road_->run(text);
+        rows_.reset(); // unread rows would keep the connection busy
+        return connection_->run(text);
     }
 
 private:
-    std::shared_ptr<Road> road_;
+    std::shared_ptr<SharedConnection> connection_;
     std::unique_ptr<DriverResult> rows_;
 };
 
 } // namespace
 
-OdbcConnection::OdbcConnection(const ConnectionString& text) : road_(preparedRoad(text)) {}
+OdbcConnection::OdbcConnection(const ConnectionString& text) : connection_(preparedConnection(text)) {}
 
 std::unique_ptr<DriverResult> OdbcConnection::run(std::string_view text) {
-    return road_->run(text);
+    return connection_->run(text);
 }
 
 std::string OdbcConnection::holdingHint() const {
@@ -227,15 +244,16 @@ void OdbcConnection::nameSources(const std::string& statement, std::vector<Field
 }
 
 std::unique_ptr<DriverHold> OdbcConnection::hold(std::string_view select) {
-    auto hold = std::make_unique<OdbcHold>(road_);
+    auto hold = std::make_unique<OdbcHold>(connection_);
     hold->select(select);
     return hold;
 }
 
 std::int64_t OdbcConnection::lastIdentity() {
     const auto result = run("SELECT CAST(@@IDENTITY AS bigint)");
-    if (!result->nextResult() || !result->nextRow() || result->isNull(0))
+    if (!result->nextResult() || !result->nextRow() || result->isNull(0)) {
         return 0;
+    }
     return result->integer(0);
 }
 
@@ -246,14 +264,15 @@ std::vector<std::string> OdbcConnection::primaryKey(const std::string& table) {
                             literal(Value(table), FieldType::WChar) + " ORDER BY k.ORDINAL_POSITION");
     std::vector<std::string> columns;
     if (result->nextResult()) {
-        while (result->nextRow())
+        while (result->nextRow()) {
             columns.emplace_back(result->text(0));
+        }
     }
     return columns;
 }
 
 bool OdbcConnection::alive() const {
-    return road_->alive();
+    return connection_->alive();
 }
 
 } // namespace ado::odbc

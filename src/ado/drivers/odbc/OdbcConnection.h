@@ -8,24 +8,24 @@
 
 namespace ado::odbc {
 
-/// Seconds that a login or an answer may take where the connection text has no "Connect Timeout".
+/// Seconds to wait for a login or an answer where the connection text has no "Connect Timeout".
 inline constexpr int kTimeout = 15;
 
-/// The text that goes to the driver: its resolved name, server, database, user, password and what it needs beside.
+/// The connection text for the driver: its resolved name, server, database, user, password and its own settings.
 std::string driverText(const ConnectionString& text, const std::string& resolvedDriver);
 
-/// Seconds of silence after which a text is given up, of those that a login may take. FreeTDS asks to cancel then, and
-/// waits as long again: what only reads is given up within the time of a login. What writes has the whole time, since a
-/// write that is given up too early may be lost without a word.
+/// The time-out of a text in seconds, given that of a login. FreeTDS sends a cancel then and waits as long again for
+/// its answer. So a text that only reads gets half the time and ends within that of a login. A text that writes gets
+/// the whole time: its error may be skipped, and the write would be lost unnoticed.
 int patience(std::string_view text, int loginSeconds);
 
-class Road;
+class SharedConnection;
 
-/// One connection of the data source interface. A hold on rows is a transaction on this very connection, so that its
-/// own writes pass as they would in a recordset of the server's.
+/// A connection through ODBC. A hold on rows is a transaction on this same connection, so that its own writes aren't
+/// locked out.
 class OdbcConnection : public DriverConnection {
 public:
-    /// Throws Error: the registry's words, the driver's or the server's.
+    /// Throws Error with the text of the driver manager, the driver or the server.
     explicit OdbcConnection(const ConnectionString& text);
 
     std::unique_ptr<DriverResult> run(std::string_view text) override;
@@ -37,7 +37,7 @@ public:
     bool alive() const override;
 
 private:
-    std::shared_ptr<Road> road_; ///< kept by holds, too
+    std::shared_ptr<SharedConnection> connection_; ///< shared with results and holds
 };
 
 } // namespace ado::odbc

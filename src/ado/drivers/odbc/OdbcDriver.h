@@ -4,7 +4,7 @@
 
 namespace ado {
 
-/// The road to servers of the network.
+/// The driver for servers of the network.
 class OdbcDriver : public Driver {
 public:
     const char* name() const override { return "odbc"; }

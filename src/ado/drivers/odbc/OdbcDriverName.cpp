@@ -36,27 +36,32 @@ std::string resolveDriver(const std::string& name, const std::vector<std::string
     const auto known = [&](const std::string& candidate) {
         return std::ranges::find(registered, candidate) != registered.end();
     };
-    if (!sameName(name, kServerDriver) || known(name))
+    if (!sameName(name, kServerDriver) || known(name)) {
         return name;
-    // A number of more digits is the greater one.
+    }
+    // Compares version numbers as texts: the one with more digits is greater.
     const auto isNewer = [](const std::string& a, const std::string& b) {
         return a.size() != b.size() ? a.size() > b.size() : a > b;
     };
     std::string newest;
     for (const auto& candidate : registered) {
-        if (isVendors(candidate) && isNewer(candidate, newest))
+        if (isVendors(candidate) && isNewer(candidate, newest)) {
             newest = candidate;
+        }
     }
-    if (!newest.empty())
+    if (!newest.empty()) {
         return newest;
+    }
     return known(kFreeTds) ? kFreeTds : name;
 }
 
 std::string driverSettings(const std::string& resolved) {
-    if (resolved == kFreeTds)
+    if (resolved == kFreeTds) {
         return "TDS_Version=7.4;ClientCharset=UTF-8;Encryption=request;";
-    if (isVendors(resolved))
+    }
+    if (isVendors(resolved)) {
         return "Encrypt=Optional;TrustServerCertificate=Yes;";
+    }
     return {};
 }
 

@@ -17,7 +17,7 @@ namespace {
 
 static_assert(sizeof(SQLWCHAR) == sizeof(char16_t));
 
-/// Numbers of FreeTDS itself.
+/// The native error numbers of FreeTDS itself.
 constexpr int kFirstOfDriver = 20000, kLastOfDriver = 20999;
 
 struct Diagnostic {
@@ -37,18 +37,20 @@ Diagnostic diagnosticAt(const Handle& handle, SQLSMALLINT number, bool& found) {
     const SQLRETURN code = SQLGetDiagRecW(handle.kind(), handle.get(), number, state.data(), &native, text.data(),
                                           static_cast<SQLSMALLINT>(text.size()), &length);
     found = SQL_SUCCEEDED(code);
-    if (!found)
+    if (!found) {
         return {};
+    }
     const auto characters = std::min<std::size_t>(static_cast<std::size_t>(length), text.size() - 1);
     return {toUtf8(state.data(), 5), native, toUtf8(text.data(), characters)};
 }
 
-/// The server's words without the names of the layers they came through: "[a][b][c]text" is "text".
+/// The text without the names of the layers that it came through: "[a][b][c]text" becomes "text".
 std::string withoutLayers(std::string text) {
     while (!text.empty() && text.front() == '[') {
         const auto end = text.find(']');
-        if (end == std::string::npos)
+        if (end == std::string::npos) {
             break;
+        }
         text.erase(0, end + 1);
     }
     return text;
@@ -59,26 +61,29 @@ std::vector<Diagnostic> diagnosticsOf(const Handle& handle) {
     bool found = true;
     for (SQLSMALLINT number = 1; found; ++number) {
         Diagnostic record = diagnosticAt(handle, number, found);
-        if (found)
+        if (found) {
             all.push_back(std::move(record));
+        }
     }
     return all;
 }
 
-/// Of all records the one that tells what happened: the server's own before the driver's, the rest where there is no
-/// error among them.
+/// The place of the record that tells what happened: the server's first error, else the driver's, else the first
+/// record.
 std::size_t tellingOf(const std::vector<Diagnostic>& all) {
     const auto first = [&](auto test) { return std::ranges::find_if(all, test); };
     auto found = first(&Diagnostic::isServers);
-    if (found == all.end())
+    if (found == all.end()) {
         found = first([](const Diagnostic& record) { return !record.isInformation(); });
+    }
     return found == all.end() ? 0 : static_cast<std::size_t>(found - all.begin());
 }
 
 Error errorFrom(const Handle& handle, const char* call) {
     const std::vector<Diagnostic> all = diagnosticsOf(handle);
-    if (all.empty())
+    if (all.empty()) {
         return Error(kUnspecified, "Unspecified error").in(call);
+    }
     const std::size_t telling = tellingOf(all);
     const Diagnostic& record = all[telling];
     const std::string text = withoutLayers(record.text);
@@ -87,8 +92,9 @@ Error errorFrom(const Handle& handle, const char* call) {
                       : Error(record.state == "28000" ? kLogin : kUnspecified, text, record.state, record.native, {});
     error.in(call);
     for (std::size_t i = 0; i < all.size(); ++i) {
-        if (i != telling)
+        if (i != telling) {
             error.in(all[i].state + " " + all[i].text);
+        }
     }
     return error;
 }
@@ -96,15 +102,18 @@ Error errorFrom(const Handle& handle, const char* call) {
 } // namespace
 
 Handle::Handle(SQLSMALLINT kind, SQLHANDLE parent) : kind_(kind) {
-    if (!SQL_SUCCEEDED(SQLAllocHandle(kind, parent, &handle_)))
+    if (!SQL_SUCCEEDED(SQLAllocHandle(kind, parent, &handle_))) {
         throw Error(kUnspecified, "No more handles of the data source interface.");
+    }
 }
 
 Handle::~Handle() {
-    if (!handle_)
+    if (!handle_) {
         return;
-    if (kind_ == SQL_HANDLE_DBC)
+    }
+    if (kind_ == SQL_HANDLE_DBC) {
         SQLDisconnect(handle_);
+    }
     SQLFreeHandle(kind_, handle_);
 }
 
@@ -138,10 +147,12 @@ bool isDead(const Handle& connection) {
 
 bool check(SQLRETURN code, const Handle& handle, const char* call) {
     qCDebug(odbcLog, "%s: %d", call, code);
-    if (SQL_SUCCEEDED(code))
+    if (SQL_SUCCEEDED(code)) {
         return true;
-    if (code == SQL_NO_DATA || code == SQL_NEED_DATA)
+    }
+    if (code == SQL_NO_DATA || code == SQL_NEED_DATA) {
         return false;
+    }
     throw errorFrom(handle, call);
 }
 

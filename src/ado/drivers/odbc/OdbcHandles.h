@@ -1,6 +1,6 @@
 #pragma once
 
-// The checked door to ODBC: handles that own themselves, and one function that turns a return code into an answer.
+// Access to ODBC: handles that are freed automatically, and one function that checks return codes.
 
 #include "ado/Error.h"
 
@@ -14,14 +14,14 @@
 
 namespace ado::odbc {
 
-/// Every call and every text, off by default: "vabo.odbc".
+/// "vabo.odbc": every call and every text; off by default.
 Q_DECLARE_LOGGING_CATEGORY(odbcLog)
 
-/// Owns one handle of its kind; a connection is closed with it.
+/// Owns one handle. That of a connection is disconnected before it is freed.
 class Handle {
 public:
     Handle() = default;
-    /// Throws Error where the handle can't be had.
+    /// Throws Error where the handle can't be allocated.
     Handle(SQLSMALLINT kind, SQLHANDLE parent);
     ~Handle();
     Handle(Handle&& other) noexcept;
@@ -36,20 +36,22 @@ private:
     SQLHANDLE handle_ = nullptr;
 };
 
-/// The process's environment. Connections are kept for the next one where the registry of drivers says so, too.
+/// The environment of the process, with connection pooling on. It takes effect where the driver manager's configuration
+/// allows it.
 SQLHANDLE environment();
 
-/// True for success with or without information, false for "no data" and "need data". Throws Error with all diagnostic
-/// records of the handle: the first one that is an error gives number and text, the others follow as context.
+/// True for success with or without information, false for "no data" and "need data", else throws Error. Its number and
+/// text are those of one of the handle's diagnostic records, the server's error before the driver's; the others are its
+/// context.
 bool check(SQLRETURN code, const Handle& handle, const char* call);
 
-/// Whether a number is the server's own: drivers have numbers for what happens on the road there.
+/// Whether a native error number is the server's. Drivers use numbers of their own for errors of the connection.
 bool isServers(int nativeError);
 
-/// Whether the driver knows that the connection's server has gone.
+/// Whether the driver has noticed that the connection to its server is lost.
 bool isDead(const Handle& connection);
 
-/// A number as the attribute functions take it.
+/// A number as the functions for attributes expect it.
 inline SQLPOINTER asPointer(unsigned long number) {
     return reinterpret_cast<SQLPOINTER>(number); // NOLINT(performance-no-int-to-ptr)
 }

@@ -19,7 +19,7 @@ FieldType fieldType(SQLSMALLINT type, SQLULEN size, SQLSMALLINT digits) {
     switch (type) {
     case SQL_DECIMAL:
     case SQL_NUMERIC:
-        // Money and smallmoney come as the decimals that they are.
+        // Money and smallmoney arrive as decimals of these sizes.
         return digits == 4 && (size == 19 || size == 10) ? FieldType::Currency : FieldType::Decimal;
     case SQL_BIT:
         return FieldType::Boolean;
@@ -58,21 +58,23 @@ OdbcResult::OdbcResult(std::shared_ptr<const Handle> connection, std::string ser
     : connection_(std::move(connection)), server_(std::move(server)), statement_(SQL_HANDLE_STMT, connection_->get()) {
     check(SQLSetStmtAttrW(statement_.get(), SQL_ATTR_QUERY_TIMEOUT, asPointer(static_cast<unsigned long>(timeout)), 0),
           statement_, "SQLSetStmtAttr");
-    if (text.find('\0') != std::string_view::npos) // the interface would send what stands ahead of it, and run that
+    if (text.find('\0') != std::string_view::npos) { // ODBC would send and run only the part before it
         throw Error(kSyntaxOrColumn, "A statement can't hold a NUL character.");
+    }
     qCDebug(odbcLog).noquote() << QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
     std::u16string wide = toUtf16(text);
     executed_ = SQLExecDirectW(statement_.get(), reinterpret_cast<SQLWCHAR*>(wide.data()),
                                static_cast<SQLINTEGER>(wide.size()));
 }
 
-/// Drivers have no words of their own for a server that has gone.
+/// As `check`, but gives the error for a lost server a text of its own, for which drivers have no common one.
 bool OdbcResult::answered(SQLRETURN code, const char* call) {
     try {
         return check(code, statement_, call);
     } catch (const Error& error) {
-        if (isServers(error.nativeError()) || !isDead(*connection_))
+        if (isServers(error.nativeError()) || !isDead(*connection_)) {
             throw;
+        }
         if (isSilence(error)) {
             rememberSilent(server_, error);
             throw;
@@ -88,9 +90,10 @@ bool OdbcResult::nextResult() {
     started_ = true;
     fields_.clear();
     affected_ = -1;
-    // A searched UPDATE or DELETE that met no row is "no data", and a result all the same.
-    if (!answered(code, first ? "SQLExecDirect" : "SQLMoreResults") && !first)
+    // For an UPDATE or DELETE that found no row SQLExecDirect returns "no data", which is a result here.
+    if (!answered(code, first ? "SQLExecDirect" : "SQLMoreResults") && !first) {
         return false;
+    }
     describe();
     return true;
 }
@@ -98,11 +101,13 @@ bool OdbcResult::nextResult() {
 void OdbcResult::describe() {
     SQLSMALLINT columns = 0;
     check(SQLNumResultCols(statement_.get(), &columns), statement_, "SQLNumResultCols");
-    for (SQLSMALLINT number = 1; number <= columns; ++number)
+    for (SQLSMALLINT number = 1; number <= columns; ++number) {
         fields_.push_back(describeField(static_cast<SQLUSMALLINT>(number)));
+    }
     cells_.resize(fields_.size());
-    if (columns > 0)
+    if (columns > 0) {
         return;
+    }
     SQLLEN rows = -1;
     check(SQLRowCount(statement_.get(), &rows), statement_, "SQLRowCount");
     affected_ = rows;
@@ -130,10 +135,12 @@ FieldDescription OdbcResult::describeField(SQLUSMALLINT number) {
 }
 
 bool OdbcResult::nextRow() {
-    if (!answered(SQLFetch(statement_.get()), "SQLFetch"))
+    if (!answered(SQLFetch(statement_.get()), "SQLFetch")) {
         return false;
-    for (std::size_t number = 1; number <= fields_.size(); ++number)
+    }
+    for (std::size_t number = 1; number <= fields_.size(); ++number) {
         read(static_cast<SQLUSMALLINT>(number));
+    }
     return true;
 }
 
@@ -159,7 +166,7 @@ void OdbcResult::read(SQLUSMALLINT number) {
     case FieldType::DateTime: {
         SQL_TIMESTAMP_STRUCT at{};
         get(SQL_C_TYPE_TIMESTAMP, &at, sizeof at);
-        std::array<char, 48> written{}; // room for any parts of a broken driver
+        std::array<char, 48> written{}; // large enough for any numbers that a faulty driver may return
         std::snprintf(written.data(), written.size(), "%04d-%02u-%02u %02u:%02u:%02u.%03u", at.year, at.month, at.day,
                       at.hour, at.minute, at.second, static_cast<unsigned>(at.fraction / 1'000'000));
         cell.text = written.data();
@@ -180,13 +187,14 @@ void OdbcResult::read(SQLUSMALLINT number) {
 void OdbcResult::readText(SQLUSMALLINT number, Cell& cell) {
     cell.text.clear();
     cell.null = false;
-    buffer_.resize(kTextPiece); // most statements read no text
+    buffer_.resize(kTextPiece); // allocated here, since most statements read no text
     while (true) {
         SQLLEN length = 0;
         const SQLRETURN code = SQLGetData(statement_.get(), number, SQL_C_WCHAR, buffer_.data(),
                                           static_cast<SQLLEN>(buffer_.size() * sizeof(SQLWCHAR)), &length);
-        if (!check(code, statement_, "SQLGetData"))
+        if (!check(code, statement_, "SQLGetData")) {
             return;
+        }
         if (length == SQL_NULL_DATA) {
             cell.null = true;
             return;
@@ -195,8 +203,9 @@ void OdbcResult::readText(SQLUSMALLINT number, Cell& cell) {
         const auto characters = static_cast<std::size_t>(length) / sizeof(SQLWCHAR);
         const bool more = code == SQL_SUCCESS_WITH_INFO && (length == SQL_NO_TOTAL || characters > room);
         cell.text += toUtf8(buffer_.data(), more ? room : characters);
-        if (!more)
+        if (!more) {
             return;
+        }
     }
 }
 

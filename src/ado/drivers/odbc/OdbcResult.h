@@ -9,10 +9,10 @@
 
 namespace ado::odbc {
 
-/// The results of one text on a statement of its own, fetched row by row without a cursor of the driver's.
+/// The results of one text, on its own statement handle, fetched row by row without a cursor of the driver.
 class OdbcResult : public DriverResult {
 public:
-    /// `timeout`: seconds until a server that doesn't answer is given up, and remembered as silent.
+    /// `timeout`: seconds to wait for an answer; after that the server is remembered as silent.
     OdbcResult(std::shared_ptr<const Handle> connection, std::string server, std::string_view text, int timeout);
 
     bool nextResult() override;
@@ -40,7 +40,7 @@ private:
     void read(SQLUSMALLINT number);
     void readText(SQLUSMALLINT number, Cell& cell);
 
-    std::shared_ptr<const Handle> connection_; // outlives the statement
+    std::shared_ptr<const Handle> connection_; // declared before the statement, so that it is destroyed later
     std::string server_;
     Handle statement_;
     SQLRETURN executed_ = SQL_ERROR;

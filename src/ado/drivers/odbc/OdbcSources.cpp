@@ -1,7 +1,7 @@
 #include "ado/drivers/odbc/OdbcSources.h"
 
-#include "engine/Error.h"
-#include "engine/Parser.h"
+#include "engine/errors/Error.h"
+#include "engine/text/Parser.h"
 
 #include <algorithm>
 
@@ -11,29 +11,32 @@ namespace {
 
 using Fields = std::vector<FieldDescription>;
 
-/// The first SELECT of a batch, whose rows a recordset takes.
+/// The first SELECT of a batch: its rows are the recordset's.
 const engine::Select* firstSelect(const engine::BatchTree& batch) {
     for (const auto& statement : batch.statements) {
-        if (const auto* select = std::get_if<engine::Select>(&statement->node))
+        if (const auto* select = std::get_if<engine::Select>(&statement->node)) {
             return select;
+        }
     }
     return nullptr;
 }
 
 const engine::NamedTable* oneTable(const engine::Select& select) {
     const auto& from = select.cores.front().from;
-    if (select.cores.size() != 1 || from.size() != 1)
+    if (select.cores.size() != 1 || from.size() != 1) {
         return nullptr;
+    }
     return std::get_if<engine::NamedTable>(&from.front()->node);
 }
 
-/// How many fields each star of the list became; 0 where they don't divide evenly.
+/// How many fields each `*` of the list stands for; 0 where they can't be divided evenly.
 std::size_t starWidth(const std::vector<engine::SelectItem>& items, std::size_t fields) {
     const auto stars = static_cast<std::size_t>(
         std::ranges::count_if(items, [](const engine::SelectItem& item) { return item.starOf.has_value(); }));
     const std::size_t others = items.size() - stars;
-    if (stars == 0 || fields < others || (fields - others) % stars != 0)
+    if (stars == 0 || fields < others || (fields - others) % stars != 0) {
         return 0;
+    }
     return (fields - others) / stars;
 }
 
@@ -46,14 +49,17 @@ void nameColumns(const engine::SelectCore& core, const std::string& table, Field
     };
     for (const engine::SelectItem& item : core.items) {
         if (item.starOf) {
-            for (std::size_t i = 0; i < width && field != fields.end(); ++i, ++field)
+            for (std::size_t i = 0; i < width && field != fields.end(); ++i, ++field) {
                 give(field->name);
+            }
             continue;
         }
-        if (field == fields.end())
+        if (field == fields.end()) {
             return;
-        if (const auto* column = std::get_if<engine::ColumnReference>(&item.expression->node))
+        }
+        if (const auto* column = std::get_if<engine::ColumnReference>(&item.expression->node)) {
             give(column->name.last());
+        }
         ++field;
     }
 }
@@ -64,10 +70,11 @@ void nameSources(const std::string& statement, Fields& fields) {
     try {
         const engine::BatchTree batch = engine::parse(statement);
         const engine::Select* select = firstSelect(batch);
-        if (const engine::NamedTable* table = select ? oneTable(*select) : nullptr)
+        if (const engine::NamedTable* table = select ? oneTable(*select) : nullptr) {
             nameColumns(select->cores.front(), table->name.last(), fields);
+        }
     } catch (const engine::Error&) {
-        // What only the server can read has no table that we know: it can't be edited.
+        // A statement that only the server understands: without a known table its rows can't be edited.
     }
 }
 

@@ -7,8 +7,8 @@
 
 namespace ado::odbc {
 
-/// Names the table and the columns behind the fields of a SELECT on one table, as its text tells them: results of this
-/// road don't. Fields of expressions, and all fields of any other statement, stay without.
+/// Fills in table and columns of the fields of a SELECT on one table, read from its text, since ODBC results don't
+/// contain them. Fields of expressions and all fields of other statements stay without.
 void nameSources(const std::string& statement, std::vector<FieldDescription>& fields);
 
 } // namespace ado::odbc

@@ -27,19 +27,22 @@ Error outOfReach(const Error& error) {
 
 void rememberSilent(const std::string& server, const Error& error) {
     QAbstractEventDispatcher* events = QAbstractEventDispatcher::instance();
-    if (events == nullptr || QThread::currentThread()->loopLevel() == 0)
+    if (events == nullptr || QThread::currentThread()->loopLevel() == 0) {
         return;
-    if (silent().empty())
+    }
+    if (silent().empty()) {
         QObject::connect(
             events, &QAbstractEventDispatcher::aboutToBlock, events, [] { silent().clear(); },
             Qt::SingleShotConnection);
+    }
     silent().insert_or_assign(server, outOfReach(error));
 }
 
 void refuseSilent(const std::string& server) {
     const auto found = silent().find(server);
-    if (found != silent().end())
+    if (found != silent().end()) {
         throw Error(found->second);
+    }
 }
 
 } // namespace ado::odbc

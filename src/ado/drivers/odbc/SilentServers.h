@@ -6,18 +6,18 @@
 
 namespace ado::odbc {
 
-/// It was there, or seemed to be, and didn't say a word for as long as it is waited for.
+/// Whether the error is a time-out: the server didn't answer in time.
 bool isSilence(const Error& error);
 
-/// What the program tells of a server that can't be reached: the words of the drivers differ, and are the context.
+/// The error for a server that can't be reached. Its text is the same for all drivers; theirs become its context.
 Error outOfReach(const Error& error);
 
-// Servers that let a login or a statement wait in vain. What the program does in one event may connect several times:
-// it waits once, and the next logins there fail at once, until the event loop waits for something new. Where no loop
-// runs nothing is remembered.
+// Servers that didn't answer a login or a statement in time. One event of the program may connect several times. It
+// waits once only: further logins to that server fail at once, until the event loop waits for the next event. Without a
+// running event loop nothing is remembered.
 
 void rememberSilent(const std::string& server, const Error& error);
-/// Throws `outOfReach` of a server that is remembered.
+/// Throws the error of `outOfReach` where the server is remembered.
 void refuseSilent(const std::string& server);
 
 } // namespace ado::odbc

@@ -1,0 +1,253 @@
+#include "engine/bind/Binder.h"
+#include "engine/bind/BoundMakers.h"
+#include "engine/errors/BindErrors.h"
+#include "engine/functions/Functions.h"
+
+#include <algorithm>
+#include <array>
+
+namespace engine {
+
+namespace {
+
+using Kind = DataType::Kind;
+using Result = FunctionEntry::Result;
+
+constexpr int kSystemNameLength = 128;
+constexpr int kWidestDecimal = 38;
+
+constexpr std::array kAggregates = {"COUNT", "COUNT_BIG", "SUM", "AVG", "MIN", "MAX"};
+
+std::string capitals(const std::string& name) {
+    std::string result(name);
+    std::transform(result.begin(), result.end(), result.begin(),
+                   [](char c) { return c >= 'a' && c <= 'z' ? static_cast<char>(c - 'a' + 'A') : c; });
+    return result;
+}
+
+DataType resultType(Result result, const std::vector<bound::ExpressionPtr>& arguments) {
+    switch (result) {
+    case Result::Int:
+        return {Kind::Int, 0, 0, 0};
+    case Result::Numeric:
+        return {Kind::Decimal, 0, kWidestDecimal, 0};
+    case Result::Float:
+        return {Kind::Float, 0, 0, 0};
+    case Result::DateTime:
+        return {Kind::DateTime, 0, 0, 0};
+    case Result::SystemName:
+        return {Kind::NVarChar, kSystemNameLength, 0, 0};
+    case Result::LongText:
+        return {Kind::VarChar, longestText({Kind::VarChar, 0, 0, 0}), 0, 0};
+    case Result::AsFirst:
+        return arguments.front()->type;
+    }
+    return {};
+}
+
+/// SUM and AVG of the small integers are ints, of decimals wide decimals.
+DataType sumType(const DataType& type, bool average) {
+    if (type.kind == Kind::Decimal) {
+        constexpr int kLeastAverageScale = 6;
+        return {Kind::Decimal, 0, kWidestDecimal, average ? std::max(type.scale, kLeastAverageScale) : type.scale};
+    }
+    if (type.kind == Kind::BigInt) {
+        return type;
+    }
+    return type.isInteger() ? DataType{Kind::Int, 0, 0, 0} : DataType{Kind::Float, 0, 0, 0};
+}
+
+std::string quotedText(const std::string& text) {
+    std::string result = "'";
+    for (const char c : text) {
+        result += c == '\'' ? "''" : std::string(1, c);
+    }
+    return result + "'";
+}
+
+} // namespace
+
+bound::ExpressionPtr Binder::node(const Call& call) {
+    const std::string name = capitals(call.function);
+    if (std::find(kAggregates.begin(), kAggregates.end(), name) != kAggregates.end()) {
+        return aggregate(call, name);
+    }
+    const auto want = [&](std::size_t count) {
+        if (call.arguments.size() != count) {
+            throw errors::argumentCount(call.function, static_cast<int>(count));
+        }
+    };
+    if (name == "ISNULL") {
+        want(2);
+        auto first = expression(*call.arguments[0]);
+        auto second = expression(*call.arguments[1]);
+        const DataType type = first->type.kind == Kind::Unknown ? second->type : first->type;
+        const bool nullable = second->nullable;
+        second = convertTo(std::move(second), type, Purpose::Cast);
+        auto result = bound::call("ifnull", type, std::move(first), std::move(second));
+        result->nullable = nullable;
+        return result;
+    }
+    if (name == "NULLIF") {
+        want(2);
+        auto first = expression(*call.arguments[0]);
+        const DataType type = first->type;
+        bound::Case choice;
+        choice.branches.push_back(
+            {compare("=", std::move(first), expression(*call.arguments[1])), bound::constant("NULL", DataType{})});
+        choice.otherwise = expression(*call.arguments[0]);
+        auto result = std::make_unique<bound::Expression>();
+        result->node = std::move(choice);
+        result->type = type;
+        return result;
+    }
+    if (name == "COALESCE") {
+        if (call.arguments.size() < 2) {
+            throw errors::argumentCount("coalesce", 2);
+        }
+        std::vector<bound::ExpressionPtr> arguments;
+        DataType common;
+        for (const ExpressionPtr& argument : call.arguments) {
+            arguments.push_back(expression(*argument));
+            common = commonType(common, arguments.back()->type);
+        }
+        for (bound::ExpressionPtr& argument : arguments) {
+            argument = convertTo(std::move(argument), common, Purpose::Cast);
+        }
+        return bound::callOf("coalesce", common, std::move(arguments));
+    }
+    return builtIn(call);
+}
+
+bound::ExpressionPtr Binder::aggregate(const Call& call, const std::string& name) {
+    if (insideAggregate_) {
+        throw errors::aggregateOfAggregate();
+    }
+    if (scope_ == nullptr) {
+        throw errors::aggregateMisplaced();
+    }
+    bound::Call made;
+    made.aggregate = true;
+    made.distinct = call.distinct;
+    made.star = call.star;
+    auto result = std::make_unique<bound::Expression>();
+    const bool counts = name == "COUNT" || name == "COUNT_BIG";
+    if (call.star && !counts) {
+        throw errors::syntaxNear("*", -1);
+    }
+    if (!call.star) {
+        if (call.arguments.size() != 1) {
+            throw errors::argumentCount(call.function, 1);
+        }
+        insideAggregate_ = true;
+        made.arguments.push_back(collated(expression(*call.arguments.front())));
+        insideAggregate_ = false;
+    }
+    Scope& owner = ownerOf(made, *scope_);
+    if (!owner.aggregates) {
+        throw errors::aggregateMisplaced();
+    }
+    owner.sawAggregate = true;
+    const DataType type = call.star ? DataType{} : made.arguments.front()->type;
+    if (counts) {
+        made.function = "count";
+        result->nullable = false;
+        result->type = {name == "COUNT" ? Kind::Int : Kind::BigInt, 0, 0, 0};
+        result->node = std::move(made);
+        return result;
+    }
+    if (name == "MIN" || name == "MAX") {
+        made.function = name == "MIN" ? "min" : "max";
+        result->type = type;
+        result->node = std::move(made);
+        return result;
+    }
+    if (!type.isNumber() || type.kind == Kind::Bit) {
+        throw errors::aggregateOfText(typeName(type), name == "SUM" ? "sum" : "avg");
+    }
+    const bool average = name == "AVG";
+    const DataType wanted = sumType(type, average);
+    made.function = !average ? "sum" : wanted.isInteger() ? "tsql_avg_int" : "avg";
+    result->node = std::move(made);
+    result->type =
+        wanted.kind == Kind::Float ? wanted : DataType{wanted.isInteger() ? Kind::BigInt : Kind::Float, 0, 0, 0};
+    return wanted.kind == Kind::Float ? bound::call("tsql_float", wanted, std::move(result))
+                                      : convertTo(std::move(result), wanted, Purpose::Cast);
+}
+
+bound::ExpressionPtr Binder::argument(const Call& call, std::size_t place, char kind) {
+    const Expression& written = *call.arguments[place];
+    if (kind == 'p') {
+        const auto* part = std::get_if<ColumnReference>(&written.node);
+        if (part == nullptr) {
+            throw Error(1023,
+                        "Invalid parameter " + std::to_string(place + 1) + " specified for " + call.function + ".",
+                        Error::Reach::Batch, written.position);
+        }
+        return bound::constant(quotedText(part->name.last()), DataType{Kind::VarChar, kSystemNameLength, 0, 0});
+    }
+    auto value = expression(written);
+    const bool needsNumber = kind == 'f' || kind == 'n';
+    if (needsNumber && (value->type.kind == Kind::DateTime || value->type.kind == Kind::VarBinary)) {
+        throw errors::argumentType(typeName(value->type), static_cast<int>(place) + 1, call.function);
+    }
+    switch (kind) {
+    case 't':
+        return value->type.isText() ? std::move(value)
+                                    : convertTo(std::move(value), DataType{Kind::NVarChar, -1, 0, 0}, Purpose::Cast);
+    case 'i':
+        return convertTo(std::move(value), DataType{Kind::Int, 0, 0, 0}, Purpose::Cast);
+    case 'f':
+        return value->type.isNumber() ? std::move(value)
+                                      : convertTo(std::move(value), DataType{Kind::Float, 0, 0, 0}, Purpose::Cast);
+    case 'n':
+        return value->type.isText() ? convertTo(std::move(value), DataType{Kind::Float, 0, 0, 0}, Purpose::Cast)
+                                    : std::move(value);
+    case 'd':
+        return convertTo(std::move(value), DataType{Kind::DateTime, 0, 0, 0}, Purpose::Cast);
+    default:
+        return value;
+    }
+}
+
+bound::ExpressionPtr Binder::builtIn(const Call& call) {
+    const FunctionEntry* entry = findFunction(call.function);
+    if (entry == nullptr) {
+        throw errors::unknownFunction(call.function);
+    }
+    const std::size_t given = call.arguments.size();
+    if (given < static_cast<std::size_t>(entry->minimum) || given > entry->arguments.size()) {
+        throw errors::argumentCount(call.function, static_cast<int>(entry->arguments.size()));
+    }
+    std::vector<bound::ExpressionPtr> arguments;
+    for (std::size_t i = 0; i < given; ++i) {
+        arguments.push_back(argument(call, i, entry->arguments[i]));
+    }
+    const DataType type = resultType(entry->result, arguments);
+    if (entry->name == "DATALENGTH") {
+        arguments.push_back(bound::constant(std::to_string(encodeType(arguments.front()->type)), type));
+    }
+    if (entry->fact) {
+        arguments.insert(arguments.begin(), bound::constant(quotedText(std::string(entry->name)), type));
+        return bound::callOf("tsql_fact", type, std::move(arguments));
+    }
+    auto result = bound::callOf(storageName(*entry), type, std::move(arguments));
+    if ((entry->name == "ABS" || entry->name == "ROUND") && type.kind != Kind::Float) {
+        // What comes out may lie outside of the type that went in.
+        result->type = DataType{type.isInteger() ? Kind::BigInt : Kind::Float, 0, 0, 0};
+        return convertTo(std::move(result), type, Purpose::Cast);
+    }
+    return result;
+}
+
+bound::ExpressionPtr Binder::node(const ServerVariable& variable) {
+    const std::string spelt = variable.name.starts_with("@@") ? variable.name : "@@" + variable.name;
+    const FunctionEntry* entry = findServerVariable(spelt);
+    if (entry == nullptr) {
+        throw Error(137, "Must declare the scalar variable \"" + spelt + "\".", Error::Reach::Batch);
+    }
+    const DataType type = resultType(entry->result, {});
+    return bound::call("tsql_fact", type, bound::constant(quotedText(std::string(entry->name)), type));
+}
+
+} // namespace engine

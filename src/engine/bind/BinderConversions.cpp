@@ -1,0 +1,147 @@
+#include "engine/bind/Binder.h"
+#include "engine/bind/BoundMakers.h"
+
+#include <algorithm>
+
+namespace engine {
+
+namespace {
+
+using Kind = DataType::Kind;
+
+constexpr int kWidestDecimal = 38;
+
+int rank(Kind kind) {
+    switch (kind) {
+    case Kind::DateTime:
+        return 14;
+    case Kind::Float:
+        return 13;
+    case Kind::Real:
+        return 12;
+    case Kind::Decimal:
+        return 11;
+    case Kind::BigInt:
+        return 10;
+    case Kind::Int:
+        return 9;
+    case Kind::SmallInt:
+        return 8;
+    case Kind::TinyInt:
+        return 7;
+    case Kind::Bit:
+        return 6;
+    case Kind::NVarChar:
+        return 5;
+    case Kind::NChar:
+        return 4;
+    case Kind::VarChar:
+        return 3;
+    case Kind::Char:
+        return 2;
+    case Kind::VarBinary:
+        return 1;
+    case Kind::Unknown:
+        return 0;
+    }
+    return 0;
+}
+
+bound::ExpressionPtr number(std::int64_t value) {
+    return bound::constant(std::to_string(value), DataType{Kind::BigInt});
+}
+
+} // namespace
+
+DataType commonType(const DataType& left, const DataType& right) {
+    const DataType& winner = rank(left.kind) >= rank(right.kind) ? left : right;
+    const DataType& loser = &winner == &left ? right : left;
+    DataType result = winner;
+    if (winner.isText() && loser.isText()) {
+        result.length = left.length < 0 || right.length < 0 ? -1 : std::max(left.length, right.length);
+        if (result.length != winner.length || result.length != loser.length) {
+            result.kind = result.kind == Kind::Char    ? Kind::VarChar
+                          : result.kind == Kind::NChar ? Kind::NVarChar
+                                                       : result.kind;
+        }
+    } else if (winner.kind == Kind::Decimal && loser.kind == Kind::Decimal) {
+        result.scale = std::max(left.scale, right.scale);
+        result.precision = std::min(
+            kWidestDecimal, std::max(left.precision - left.scale, right.precision - right.scale) + result.scale);
+    } else if (winner.kind == Kind::Decimal && loser.isInteger()) {
+        constexpr int kDigitsOfBigInt = 19;
+        constexpr int kDigitsOfInt = 10;
+        const int digits = loser.kind == Kind::BigInt ? kDigitsOfBigInt : kDigitsOfInt;
+        result.precision = std::min(kWidestDecimal, std::max(winner.precision, digits + winner.scale));
+    }
+    return result;
+}
+
+bound::ExpressionPtr Binder::convertTo(bound::ExpressionPtr value, const DataType& type, Purpose purpose,
+                                       std::optional<int> style) {
+    if (!needsConversion(value->type, type, purpose) && !(style && value->type.isText())) {
+        if (value->type.kind == Kind::Unknown || value->type.isText() == type.isText()) {
+            value->type = type;
+        }
+        return value;
+    }
+    // A literal is converted when it is bound, once: the statement's text stays the same whatever stands in it.
+    if (const auto* use = std::get_if<bound::ParameterUse>(&value->node)) {
+        auto& conversion = parameters_[static_cast<std::size_t>(use->place)].conversion;
+        if (conversion.to.kind == Kind::Unknown) {
+            conversion = {value->type, type, style, purpose, false};
+            value->type = type;
+            return value;
+        }
+    }
+    const DataType from = value->type;
+    const bool nullable = value->nullable;
+    auto result =
+        bound::call("tsql_convert", type, std::move(value), number(encodeType(from)), number(encodeType(type)),
+                    number(style.value_or(-1)), number(purpose == Purpose::Assignment ? 1 : 0));
+    result->nullable = nullable;
+    return result;
+}
+
+/// The literal that an expression is, nullptr where it is anything else or a literal on its way to another type.
+bound::Parameter* Binder::bareLiteral(const bound::Expression& value) {
+    const auto* use = std::get_if<bound::ParameterUse>(&value.node);
+    bound::Parameter* parameter = use == nullptr ? nullptr : &parameters_[static_cast<std::size_t>(use->place)];
+    return parameter != nullptr && parameter->conversion.to.kind == Kind::Unknown ? parameter : nullptr;
+}
+
+/// Nothing around a value takes the number of its digits from it.
+void Binder::freeDigits(const bound::Expression& value) {
+    if (bound::Parameter* literal = bareLiteral(value)) {
+        literal->digitsMatter = false;
+    }
+}
+
+/// A conversion to a type that stands in the statement or the table. A decimal is converted even from the same type,
+/// for the next one that comes to this plan may have another.
+bound::ExpressionPtr Binder::convertWritten(bound::ExpressionPtr value, const DataType& type, Purpose purpose,
+                                            std::optional<int> style) {
+    bound::Parameter* literal = bareLiteral(*value);
+    if (literal == nullptr || value->type.kind != Kind::Decimal) {
+        return convertTo(std::move(value), type, purpose, style);
+    }
+    literal->digitsMatter = false;
+    literal->conversion = {value->type, type, style, purpose, false};
+    value->type = type;
+    return value;
+}
+
+bound::ExpressionPtr Binder::collated(bound::ExpressionPtr value) const {
+    if (!value->type.isText()) {
+        return value;
+    }
+    const DataType type = value->type;
+    const bool nullable = value->nullable;
+    const std::string name = value->name;
+    auto result = bound::postfix("COLLATE TSQL", std::move(value), type);
+    result->nullable = nullable;
+    result->name = name;
+    return result;
+}
+
+} // namespace engine

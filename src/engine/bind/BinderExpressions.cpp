@@ -1,0 +1,370 @@
+#include "engine/bind/Binder.h"
+#include "engine/bind/BoundMakers.h"
+#include "engine/errors/BindErrors.h"
+
+namespace engine {
+
+namespace {
+
+/// Deepest expression that goes to the storage, whose own limit is a thousand.
+constexpr int kDeepestExpression = 400;
+
+using Kind = DataType::Kind;
+
+const char* operatorText(Binary::Operator op) {
+    switch (op) {
+    case Binary::Operator::Equal:
+        return "=";
+    case Binary::Operator::NotEqual:
+        return "<>";
+    case Binary::Operator::Less:
+        return "<";
+    case Binary::Operator::LessEqual:
+        return "<=";
+    case Binary::Operator::Greater:
+        return ">";
+    case Binary::Operator::GreaterEqual:
+        return ">=";
+    case Binary::Operator::And:
+        return "AND";
+    case Binary::Operator::Or:
+        return "OR";
+    case Binary::Operator::Add:
+        return "+";
+    case Binary::Operator::Subtract:
+        return "-";
+    case Binary::Operator::Multiply:
+        return "*";
+    case Binary::Operator::Divide:
+        return "/";
+    case Binary::Operator::Modulo:
+        return "%";
+    }
+    return "";
+}
+
+/// The first and the last of the chain `a or b or c`, which the parser hangs to the left: taken from the top, they
+/// come in the order of the text without a call for each.
+std::vector<const Expression*> chainOf(const Binary& top) {
+    std::vector<const Expression*> chain;
+    const Binary* link = &top;
+    while (true) {
+        chain.push_back(link->right.get());
+        const auto* next = std::get_if<Binary>(&link->left->node);
+        if (next == nullptr || next->op != top.op) {
+            chain.push_back(link->left.get());
+            break;
+        }
+        link = next;
+    }
+    return {chain.rbegin(), chain.rend()};
+}
+
+bound::ExpressionPtr negatedIf(bool negated, bound::ExpressionPtr condition) {
+    if (negated) {
+        return bound::prefix("NOT", std::move(condition), DataType{Kind::Bit});
+    }
+    return condition;
+}
+
+/// A tree as low as can be over a chain of conditions, so that a long one isn't a deep one.
+bound::ExpressionPtr balanced(const char* op, std::vector<bound::ExpressionPtr>& conditions, std::size_t begin,
+                              std::size_t end) {
+    if (end - begin == 1) {
+        return std::move(conditions[begin]);
+    }
+    const std::size_t middle = begin + (end - begin) / 2;
+    auto left = balanced(op, conditions, begin, middle);
+    return bound::infix(op, std::move(left), balanced(op, conditions, middle, end), DataType{Kind::Bit});
+}
+
+} // namespace
+
+bound::ExpressionPtr Binder::expression(const Expression& expression) {
+    if (++depth_ > kDeepestExpression) {
+        throw errors::nestedTooDeep();
+    }
+    bound::ExpressionPtr result = std::visit([&](const auto& node) { return this->node(node); }, expression.node);
+    --depth_;
+    result->position = expression.position;
+    return result;
+}
+
+bound::ExpressionPtr Binder::bindAlone(const Expression& expression) {
+    Scope scope;
+    scope_ = &scope;
+    auto result = this->expression(expression);
+    scope_ = nullptr;
+    return result;
+}
+
+bound::ExpressionPtr Binder::literal(const Literal& literal, bool negated) {
+    if (literal.kind == Literal::Kind::Null) {
+        auto null = bound::constant("NULL", DataType{});
+        null->nullable = true;
+        return null;
+    }
+    bound::Parameter parameter;
+    const bool own = mode_ == Mode::Default || literal.index < 0;
+    parameter.source = own ? bound::Parameter::Source::Constant : bound::Parameter::Source::Literal;
+    parameter.ordinal = literal.index;
+    parameter.constant = literal;
+    parameter.negated = negated;
+    auto result = std::make_unique<bound::Expression>();
+    result->node = bound::ParameterUse{static_cast<int>(parameters_.size())};
+    result->type = typeOf(literal);
+    result->nullable = false;
+    // Until it is known that the type goes no further than to the literal itself.
+    parameter.digitsMatter = result->type.kind == Kind::Decimal;
+    parameters_.push_back(std::move(parameter));
+    return result;
+}
+
+bound::ExpressionPtr Binder::node(const Literal& literal) {
+    return this->literal(literal, false);
+}
+
+bound::ExpressionPtr Binder::node(const ColumnReference& reference) {
+    const Resolved found = resolve(reference.name);
+    return column(*found.table, found.column);
+}
+
+bound::ExpressionPtr Binder::node(const Unary& unary) {
+    const auto* number = std::get_if<Literal>(&unary.operand->node);
+    switch (unary.op) {
+    case Unary::Operator::Minus:
+        if (number != nullptr && number->kind != Literal::Kind::Text && number->kind != Literal::Kind::NationalText) {
+            return literal(*number, true);
+        } else {
+            auto operand = expression(*unary.operand);
+            return negated(std::move(operand));
+        }
+    case Unary::Operator::Plus:
+        return expression(*unary.operand);
+    case Unary::Operator::Not:
+        return bound::prefix("NOT", expression(*unary.operand), DataType{Kind::Bit});
+    case Unary::Operator::IsNull:
+        return bound::postfix("IS NULL", expression(*unary.operand), DataType{Kind::Bit});
+    case Unary::Operator::IsNotNull:
+        return bound::postfix("IS NOT NULL", expression(*unary.operand), DataType{Kind::Bit});
+    }
+    throw InternalError("an operator without a meaning");
+}
+
+bound::ExpressionPtr Binder::negated(bound::ExpressionPtr operand) {
+    DataType type = operand->type;
+    if (!type.isNumber() && type.kind != Kind::Unknown) {
+        throw errors::aggregateOfText(typeName(type), "minus");
+    }
+    if (type.kind == Kind::Bit) {
+        type = DataType{Kind::Int};
+    } else if (type.kind == Kind::TinyInt) {
+        type = DataType{Kind::SmallInt};
+    }
+    auto result = bound::prefix("-", std::move(operand), type);
+    if (!type.isInteger()) {
+        return result;
+    }
+    // The smallest integer has no opposite.
+    result = bound::call("tsql_bigint", DataType{Kind::BigInt}, std::move(result));
+    return convertTo(std::move(result), type, Purpose::Cast);
+}
+
+bound::ExpressionPtr Binder::node(const Binary& binary) {
+    if (binary.op == Binary::Operator::And || binary.op == Binary::Operator::Or) {
+        std::vector<bound::ExpressionPtr> conditions;
+        for (const Expression* condition : chainOf(binary)) {
+            conditions.push_back(expression(*condition));
+        }
+        return balanced(operatorText(binary.op), conditions, 0, conditions.size());
+    }
+    if (binary.op < Binary::Operator::Equal) {
+        // Sums stay as they hang: their order decides where a text meets a number.
+        const auto chain = chainOf(binary);
+        bound::ExpressionPtr result = expression(*chain.front());
+        for (std::size_t i = 1; i < chain.size(); ++i) {
+            if (i > kDeepestExpression) {
+                throw errors::nestedTooDeep();
+            }
+            result = arithmetic(binary.op, std::move(result), expression(*chain[i]));
+        }
+        return result;
+    }
+    auto left = expression(*binary.left);
+    return compare(operatorText(binary.op), std::move(left), expression(*binary.right));
+}
+
+bound::ExpressionPtr Binder::compare(const char* op, bound::ExpressionPtr left, bound::ExpressionPtr right) {
+    const DataType common = commonType(left->type, right->type);
+    freeDigits(*left);
+    freeDigits(*right);
+    const auto meet = [&](bound::ExpressionPtr side) {
+        // Numbers compare among each other as they are, and so do texts of any length.
+        const bool alike = (side->type.isNumber() && common.isNumber()) || (side->type.isText() && common.isText());
+        return alike ? std::move(side) : convertTo(std::move(side), comparable(common), Purpose::Cast);
+    };
+    left = collated(meet(std::move(left)));
+    return bound::infix(op, std::move(left), meet(std::move(right)), DataType{Kind::Bit});
+}
+
+/// Among decimals a whole literal is a decimal of just its digits.
+DataType Binder::digitsOf(const bound::Expression& number) {
+    bound::Parameter* literal = number.type.isInteger() ? bareLiteral(number) : nullptr;
+    if (literal == nullptr) {
+        return number.type;
+    }
+    literal->digitsMatter = true;
+    return decimalOf(literal->constant);
+}
+
+bound::ExpressionPtr Binder::arithmetic(Binary::Operator op, bound::ExpressionPtr left, bound::ExpressionPtr right) {
+    DataType common = commonType(left->type, right->type);
+    if (common.isText()) {
+        if (op != Binary::Operator::Add) {
+            static constexpr const char* kNames[] = {"add", "subtract", "multiply", "divide", "modulo"};
+            throw errors::incompatibleTypes(typeName(left->type), typeName(right->type), kNames[static_cast<int>(op)]);
+        }
+        const bool long_ = left->type.length < 0 || right->type.length < 0;
+        common.length = long_ ? -1 : std::min(left->type.length + right->type.length, longestText(common));
+        return bound::infix("||", std::move(left), std::move(right), common);
+    }
+    if (common.kind == Kind::Unknown || common.kind == Kind::Bit) {
+        common = DataType{Kind::Int};
+    }
+    if (common.kind == Kind::DateTime) {
+        auto days = arithmetic(op, convertTo(std::move(left), DataType{Kind::Float}, Purpose::Cast),
+                               convertTo(std::move(right), DataType{Kind::Float}, Purpose::Cast));
+        return convertTo(std::move(days), common, Purpose::Cast);
+    }
+    const bool decimal = common.kind == Kind::Decimal;
+    const DataType leftType = left->type.isNumber() ? decimal ? digitsOf(*left) : left->type : common;
+    const DataType rightType = right->type.isNumber() ? decimal ? digitsOf(*right) : right->type : common;
+    const auto meet = [&](bound::ExpressionPtr side) {
+        return side->type.isNumber() ? std::move(side) : convertTo(std::move(side), common, Purpose::Cast);
+    };
+    left = meet(std::move(left));
+    right = meet(std::move(right));
+    bound::ExpressionPtr result;
+    const DataType wide{common.isInteger() ? Kind::BigInt : Kind::Float};
+    if (op == Binary::Operator::Divide) {
+        result = bound::call("tsql_divide", wide, std::move(left), std::move(right),
+                             bound::constant(common.isInteger() ? "1" : "0", DataType{Kind::Int}));
+    } else if (op == Binary::Operator::Modulo) {
+        result = bound::call("tsql_modulo", wide, std::move(left), std::move(right));
+    } else {
+        result = bound::infix(operatorText(op), std::move(left), std::move(right), wide);
+    }
+    if (common.kind == Kind::Float) {
+        return bound::call("tsql_float", common, std::move(result));
+    }
+    if (common.kind == Kind::BigInt) {
+        result->type = DataType{Kind::Unknown};
+        return bound::call("tsql_bigint", common, std::move(result));
+    }
+    return convertTo(std::move(result), decimal ? decimalResult(op, leftType, rightType) : common, Purpose::Cast);
+}
+
+bound::ExpressionPtr Binder::node(const Like& like) {
+    const DataType text{Kind::NVarChar, -1, 0, 0};
+    const auto asText = [&](const Expression& part) {
+        auto bound = expression(part);
+        return bound->type.isText() ? std::move(bound) : convertTo(std::move(bound), text, Purpose::Cast);
+    };
+    auto operand = asText(*like.operand);
+    auto pattern = asText(*like.pattern);
+    auto result = like.escape ? bound::call("tsql_like", DataType{Kind::Bit}, std::move(operand), std::move(pattern),
+                                            asText(*like.escape))
+                              : bound::call("tsql_like", DataType{Kind::Bit}, std::move(operand), std::move(pattern));
+    return negatedIf(like.negated, std::move(result));
+}
+
+bound::ExpressionPtr Binder::node(const Between& between) {
+    // Two comparisons: each side may meet the operand in another type.
+    auto from = compare(">=", expression(*between.operand), expression(*between.low));
+    auto to = compare("<=", expression(*between.operand), expression(*between.high));
+    auto result = bound::infix("AND", std::move(from), std::move(to), DataType{Kind::Bit});
+    return negatedIf(between.negated, std::move(result));
+}
+
+bound::ExpressionPtr Binder::node(const In& in) {
+    auto operand = expression(*in.operand);
+    bound::ExpressionPtr result = std::make_unique<bound::Expression>();
+    result->type = DataType{Kind::Bit};
+    if (in.select) {
+        auto select = std::make_unique<bound::Select>(this->select(*in.select, scope_));
+        if (select->columns.size() != 1) {
+            throw errors::oneColumnOnly();
+        }
+        const DataType common = comparable(commonType(operand->type, select->columns.front().type));
+        for (bound::Core& core : select->cores) {
+            core.items.front() = convertTo(std::move(core.items.front()), common, Purpose::Cast);
+        }
+        operand = collated(convertTo(std::move(operand), common, Purpose::Cast));
+        result->node = bound::Subselect{bound::Subselect::Kind::In, std::move(operand), std::move(select)};
+    } else {
+        std::vector<bound::ExpressionPtr> list;
+        DataType common = operand->type;
+        for (const ExpressionPtr& one : in.list) {
+            list.push_back(expression(*one));
+            common = commonType(common, list.back()->type);
+        }
+        common = comparable(common);
+        freeDigits(*operand);
+        for (bound::ExpressionPtr& one : list) {
+            freeDigits(*one);
+            one = convertTo(std::move(one), common, Purpose::Cast);
+        }
+        operand = collated(convertTo(std::move(operand), common, Purpose::Cast));
+        result->node = bound::InList{std::move(operand), std::move(list)};
+    }
+    return negatedIf(in.negated, std::move(result));
+}
+
+bound::ExpressionPtr Binder::node(const Exists& exists) {
+    auto result = std::make_unique<bound::Expression>();
+    result->type = DataType{Kind::Bit};
+    result->node = bound::Subselect{bound::Subselect::Kind::Exists, nullptr,
+                                    std::make_unique<bound::Select>(select(*exists.select, scope_))};
+    return result;
+}
+
+bound::ExpressionPtr Binder::node(const ScalarSelect& scalar) {
+    auto result = std::make_unique<bound::Expression>();
+    auto select = std::make_unique<bound::Select>(this->select(*scalar.select, scope_));
+    if (select->columns.size() != 1) {
+        throw errors::oneColumnOnly();
+    }
+    result->type = select->columns.front().type;
+    result->node = bound::Subselect{bound::Subselect::Kind::Scalar, nullptr, std::move(select)};
+    return result;
+}
+
+bound::ExpressionPtr Binder::node(const Case& choice) {
+    bound::Case result;
+    DataType common;
+    for (const Case::Branch& branch : choice.branches) {
+        auto when = choice.operand ? compare("=", expression(*choice.operand), expression(*branch.when))
+                                   : expression(*branch.when);
+        auto then = expression(*branch.then);
+        common = commonType(common, then->type);
+        result.branches.push_back({std::move(when), std::move(then)});
+    }
+    if (choice.otherwise) {
+        result.otherwise = expression(*choice.otherwise);
+        common = commonType(common, result.otherwise->type);
+        result.otherwise = convertTo(std::move(result.otherwise), common, Purpose::Cast);
+    }
+    for (auto& branch : result.branches) {
+        branch.then = convertTo(std::move(branch.then), common, Purpose::Cast);
+    }
+    auto made = std::make_unique<bound::Expression>();
+    made->type = common;
+    made->node = std::move(result);
+    return made;
+}
+
+bound::ExpressionPtr Binder::node(const Conversion& conversion) {
+    return convertWritten(expression(*conversion.operand), conversion.type, Purpose::Cast, conversion.style);
+}
+
+} // namespace engine

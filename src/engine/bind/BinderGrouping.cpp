@@ -1,0 +1,172 @@
+#include "engine/bind/Binder.h"
+#include "engine/errors/BindErrors.h"
+
+#include <algorithm>
+
+namespace engine {
+
+namespace {
+
+using bound::Expression;
+
+/// The column of this core that stands outside of every aggregate and every grouped expression, if there is one.
+class LooseColumn {
+public:
+    LooseColumn(const bound::Core& core, const std::vector<int>& tables) : core_(core), tables_(tables) {}
+
+    const Expression* in(const Expression& expression) const {
+        if (grouped(expression)) {
+            return nullptr;
+        }
+        return std::visit([&](const auto& node) { return search(node, expression); }, expression.node);
+    }
+
+private:
+    using Pointer = bound::ExpressionPtr;
+
+    static const Expression* bare(const Expression& expression) {
+        const auto* operation = std::get_if<bound::Operation>(&expression.node);
+        return operation != nullptr && operation->op == "COLLATE TSQL" ? operation->operands.front().get()
+                                                                       : &expression;
+    }
+
+    bool grouped(const Expression& expression) const {
+        return std::any_of(core_.groupBy.begin(), core_.groupBy.end(),
+                           [&](const Pointer& group) { return same(*bare(*group), *bare(expression)); });
+    }
+
+    static bool same(const Expression& left, const Expression& right) {
+        const auto* a = std::get_if<bound::Column>(&left.node);
+        const auto* b = std::get_if<bound::Column>(&right.node);
+        if (a != nullptr && b != nullptr) {
+            return a->source == b->source && a->column == b->column;
+        }
+        // Two texts of one grouped expression have parameters of their own; the shape alone can be told here.
+        return left.node.index() == right.node.index() && a == nullptr && b == nullptr && left.type == right.type &&
+               !std::holds_alternative<bound::ParameterUse>(left.node) && sameShape(left, right);
+    }
+
+    static bool sameAll(const std::vector<Pointer>& left, const std::vector<Pointer>& right) {
+        return std::equal(left.begin(), left.end(), right.begin(), right.end(),
+                          [](const Pointer& a, const Pointer& b) { return same(*a, *b) || bothParameters(*a, *b); });
+    }
+
+    static bool bothParameters(const Expression& left, const Expression& right) {
+        return std::holds_alternative<bound::ParameterUse>(left.node) &&
+               std::holds_alternative<bound::ParameterUse>(right.node);
+    }
+
+    static bool sameShape(const Expression& left, const Expression& right) {
+        if (const auto* call = std::get_if<bound::Call>(&left.node)) {
+            const auto& other = std::get<bound::Call>(right.node);
+            return call->function == other.function && sameAll(call->arguments, other.arguments);
+        }
+        if (const auto* operation = std::get_if<bound::Operation>(&left.node)) {
+            const auto& other = std::get<bound::Operation>(right.node);
+            return operation->op == other.op && sameAll(operation->operands, other.operands);
+        }
+        if (const auto* constant = std::get_if<bound::Constant>(&left.node)) {
+            return constant->text == std::get<bound::Constant>(right.node).text;
+        }
+        return false;
+    }
+
+    const Expression* first(const std::vector<Pointer>& expressions) const {
+        for (const Pointer& one : expressions) {
+            if (const Expression* found = in(*one)) {
+                return found;
+            }
+        }
+        return nullptr;
+    }
+
+    const Expression* maybe(const Pointer& expression) const { return expression ? in(*expression) : nullptr; }
+
+    const Expression* search(const bound::Column& column, const Expression& whole) const {
+        return std::find(tables_.begin(), tables_.end(), column.source) == tables_.end() ? nullptr : &whole;
+    }
+    const Expression* search(const bound::Operation& operation, const Expression& /*whole*/) const {
+        return first(operation.operands);
+    }
+    const Expression* search(const bound::Call& call, const Expression& /*whole*/) const {
+        return call.aggregate ? nullptr : first(call.arguments);
+    }
+    const Expression* search(const bound::Case& choice, const Expression& /*whole*/) const {
+        for (const auto& branch : choice.branches) {
+            for (const Pointer* part : {&branch.when, &branch.then}) {
+                if (const Expression* found = in(**part)) {
+                    return found;
+                }
+            }
+        }
+        return maybe(choice.otherwise);
+    }
+    const Expression* search(const bound::InList& list, const Expression& /*whole*/) const {
+        const Expression* found = in(*list.operand);
+        return found != nullptr ? found : first(list.list);
+    }
+    const Expression* search(const bound::Subselect& subselect, const Expression& /*whole*/) const {
+        return maybe(subselect.operand);
+    }
+    const Expression* search(const bound::ParameterUse& /*use*/, const Expression& /*whole*/) const { return nullptr; }
+    const Expression* search(const bound::Constant& /*constant*/, const Expression& /*whole*/) const { return nullptr; }
+
+    const bound::Core& core_;
+    const std::vector<int>& tables_;
+};
+
+template<class Tables>
+std::vector<int> numbersOf(const Tables& tables) {
+    std::vector<int> numbers;
+    for (const auto& table : tables) {
+        numbers.push_back(table.number);
+    }
+    return numbers;
+}
+
+} // namespace
+
+void Binder::checkGrouping(const bound::Core& core, const std::vector<bound::Order>& orderBy) const {
+    const std::vector<int> tables = numbersOf(scope_->tables);
+    const LooseColumn loose(core, tables);
+    const auto check = [&](const bound::ExpressionPtr& expression, const auto& refused) {
+        const bound::Expression* found = expression ? loose.in(*expression) : nullptr;
+        if (found == nullptr) {
+            return;
+        }
+        const auto& column = std::get<bound::Column>(found->node);
+        const auto table = std::find_if(scope_->tables.begin(), scope_->tables.end(),
+                                        [&](const Visible& one) { return one.number == column.source; });
+        throw refused(table->qualifier + "." + found->name);
+    };
+    for (const bound::ExpressionPtr& item : core.items) {
+        check(item, errors::notGrouped);
+    }
+    check(core.having, errors::notGroupedInHaving);
+    for (const bound::Order& order : orderBy) {
+        check(order.expression, errors::notGroupedInOrder);
+    }
+}
+
+bool Binder::refersTo(const Scope& scope, const bound::Expression& expression) const {
+    const std::vector<int> tables = numbersOf(scope.tables);
+    const bound::Core none;
+    return LooseColumn(none, tables).in(expression) != nullptr;
+}
+
+/// An aggregate over columns of an outer SELECT is that SELECT's own; one without columns belongs where it stands.
+Binder::Scope& Binder::ownerOf(const bound::Call& aggregate, Scope& here) const {
+    Scope* owner = nullptr;
+    for (Scope* scope = &here; scope != nullptr && !aggregate.star; scope = scope->parent) {
+        if (!refersTo(*scope, *aggregate.arguments.front())) {
+            continue;
+        }
+        if (owner != nullptr) {
+            throw errors::severalColumnsAggregated();
+        }
+        owner = scope;
+    }
+    return owner == nullptr ? here : *owner;
+}
+
+} // namespace engine

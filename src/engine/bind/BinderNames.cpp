@@ -1,0 +1,164 @@
+#include "engine/bind/Binder.h"
+#include "engine/errors/BindErrors.h"
+#include "engine/values/Collation.h"
+
+namespace engine {
+
+namespace {
+
+std::string joined(const Name& name) {
+    std::string result;
+    for (const std::string& piece : name.pieces) {
+        result += (result.empty() ? "" : ".") + piece;
+    }
+    return result;
+}
+
+} // namespace
+
+int Binder::columnOf(const Visible& table, std::string_view name) {
+    if (table.table != nullptr) {
+        return table.table->find(name);
+    }
+    for (std::size_t i = 0; i < table.derived.size(); ++i) {
+        if (sameText(table.derived[i].name, name)) {
+            return static_cast<int>(i);
+        }
+    }
+    return -1;
+}
+
+Binder::Resolved Binder::resolve(const Name& name) const {
+    const bool qualified = name.pieces.size() > 1;
+    bool sawQualifier = false;
+    for (const Scope* scope = scope_; scope != nullptr; scope = scope->parent) {
+        Resolved found;
+        for (const Visible& table : scope->tables) {
+            if (qualified && !sameText(table.qualifier, name.pieces[name.pieces.size() - 2])) {
+                continue;
+            }
+            sawQualifier = true;
+            const int column = columnOf(table, name.last());
+            if (column < 0) {
+                continue;
+            }
+            if (found.table != nullptr) {
+                throw errors::ambiguousColumn(name.last());
+            }
+            found = {&table, column};
+        }
+        if (found.table != nullptr) {
+            return found;
+        }
+        if (qualified && sawQualifier) {
+            throw errors::invalidColumn(name.last());
+        }
+    }
+    if (qualified) {
+        throw errors::unboundIdentifier(joined(name));
+    }
+    throw errors::invalidColumn(name.last());
+}
+
+ResultColumn Binder::describe(const Visible& table, int column) {
+    if (table.table == nullptr) {
+        return table.derived[static_cast<std::size_t>(column)];
+    }
+    const ColumnInfo& info = table.table->columns[static_cast<std::size_t>(column)];
+    ResultColumn result;
+    result.name = info.name;
+    result.type = info.type;
+    result.nullable = info.nullable || table.outer;
+    result.identity = info.identity;
+    result.baseTable = table.table->name;
+    result.baseColumn = info.name;
+    if (const KeyInfo* key = table.table->primaryKey()) {
+        for (const std::string& name : key->columns) {
+            result.key = result.key || sameText(name, info.name);
+        }
+    }
+    return result;
+}
+
+bound::ExpressionPtr Binder::column(const Visible& table, int column) const {
+    auto result = std::make_unique<bound::Expression>();
+    if (table.table != nullptr) {
+        const ColumnInfo& info = table.table->columns[static_cast<std::size_t>(column)];
+        result->type = info.type;
+        result->nullable = info.nullable || table.outer;
+        result->name = info.name;
+        result->node = bound::Column{table.number, info.name};
+    } else {
+        const ResultColumn& info = table.derived[static_cast<std::size_t>(column)];
+        result->type = info.type;
+        result->nullable = info.nullable || table.outer;
+        result->name = info.name;
+        result->node = bound::Column{table.number, "c" + std::to_string(column)};
+    }
+    return result;
+}
+
+bound::SourcePtr Binder::source(const TableSource& source, Scope& scope, bool outer) {
+    if (const auto* named = std::get_if<NamedTable>(&source.node)) {
+        return namedTable(*named, scope, outer);
+    }
+    if (const auto* derived = std::get_if<DerivedTable>(&source.node)) {
+        return derivedTable(*derived, scope, outer);
+    }
+    return join(std::get<Join>(source.node), scope, outer);
+}
+
+bound::SourcePtr Binder::namedTable(const NamedTable& named, Scope& scope, bool outer) {
+    const TableFinder::Found found = finder_.find(named.name);
+    Visible visible;
+    visible.qualifier = named.alias.empty() ? named.name.last() : named.alias;
+    visible.number = tables_++;
+    visible.table = found.info;
+    visible.outer = outer;
+    for (const Visible& other : scope.tables) {
+        if (sameText(other.qualifier, visible.qualifier)) {
+            throw Error(1011,
+                        "The objects \"" + other.qualifier + "\" and \"" + visible.qualifier +
+                            "\" in the FROM clause have the same exposed names. Use correlation names to distinguish "
+                            "them.",
+                        Error::Reach::Batch);
+        }
+    }
+    auto result = std::make_unique<bound::Source>();
+    result->node = bound::Table{visible.number, found.schema, found.info};
+    scope.tables.push_back(std::move(visible));
+    return result;
+}
+
+bound::SourcePtr Binder::derivedTable(const DerivedTable& derived, Scope& scope, bool outer) {
+    auto select = std::make_unique<bound::Select>(this->select(*derived.select, scope.parent));
+    Visible visible;
+    visible.qualifier = derived.alias;
+    visible.number = tables_++;
+    visible.derived = select->columns;
+    visible.outer = outer;
+    auto result = std::make_unique<bound::Source>();
+    result->node = bound::Derived{visible.number, std::move(select)};
+    scope.tables.push_back(std::move(visible));
+    return result;
+}
+
+bound::SourcePtr Binder::join(const Join& join, Scope& scope, bool outer) {
+    const bool rightOuter = join.kind == Join::Kind::Left || join.kind == Join::Kind::Full;
+    const bool leftOuter = join.kind == Join::Kind::Right || join.kind == Join::Kind::Full;
+    bound::Join result;
+    result.kind = join.kind;
+    result.left = source(*join.left, scope, outer || leftOuter);
+    result.right = source(*join.right, scope, outer || rightOuter);
+    if (join.condition) {
+        Scope* const before = scope_;
+        scope_ = &scope;
+        result.condition = expression(*join.condition);
+        scope_ = before;
+    }
+    auto made = std::make_unique<bound::Source>();
+    made->node = std::move(result);
+    return made;
+}
+
+} // namespace engine

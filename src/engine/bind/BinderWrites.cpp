@@ -1,0 +1,238 @@
+#include "engine/bind/Binder.h"
+#include "engine/bind/BoundMakers.h"
+#include "engine/errors/BindErrors.h"
+#include "engine/text/Parser.h"
+#include "engine/values/Collation.h"
+
+#include <algorithm>
+
+namespace engine {
+
+namespace {
+
+/// Rows that one VALUES may list.
+constexpr std::size_t kMostRows = 1000;
+
+} // namespace
+
+bound::Table Binder::target(const Name& name) {
+    const TableFinder::Found found = finder_.find(name);
+    if (found.system) {
+        throw errors::systemTable(found.info->name);
+    }
+    return {tables_++, found.schema, found.info};
+}
+
+bound::ExpressionPtr Binder::bindDefault(const ColumnInfo& column) {
+    if (!column.defaultText) {
+        auto null = bound::constant("NULL", DataType{});
+        null->nullable = true;
+        return null;
+    }
+    mode_ = Mode::Default;
+    auto value = expression(*parseExpression(*column.defaultText));
+    mode_ = Mode::Statement;
+    return convertTo(std::move(value), column.type, Purpose::Assignment);
+}
+
+bound::ExpressionPtr Binder::assigned(const Expression* value, const ColumnInfo& column) {
+    if (value == nullptr) {
+        return bindDefault(column);
+    }
+    return convertWritten(expression(*value), column.type, Purpose::Assignment);
+}
+
+std::vector<const ColumnInfo*> Binder::insertColumns(const Insert& insert, const bound::Table& table,
+                                                     bool& explicitIdentity) {
+    const TableInfo& info = *table.info;
+    const bool takesIdentity = finder_.takesIdentity(info);
+    std::vector<const ColumnInfo*> columns;
+    for (const std::string& name : insert.columns) {
+        const int place = info.find(name);
+        if (place < 0) {
+            throw errors::invalidColumn(name);
+        }
+        const ColumnInfo* column = &info.columns[static_cast<std::size_t>(place)];
+        if (std::find(columns.begin(), columns.end(), column) != columns.end()) {
+            throw errors::columnTwice(column->name);
+        }
+        columns.push_back(column);
+    }
+    const bool nothingGiven = insert.columns.empty() && insert.rows.empty() && !insert.select;
+    if (insert.columns.empty() && !nothingGiven) {
+        for (const ColumnInfo& column : info.columns) {
+            if (!column.identity || takesIdentity) {
+                columns.push_back(&column);
+            }
+        }
+    }
+    explicitIdentity = std::any_of(columns.begin(), columns.end(), [](const auto* column) { return column->identity; });
+    if (explicitIdentity && !takesIdentity) {
+        throw errors::explicitIdentity(info.name);
+    }
+    if (!explicitIdentity && takesIdentity && info.identity() != nullptr) {
+        throw errors::identityValueMissing(info.name);
+    }
+    return columns;
+}
+
+/// The columns that the statement leaves out, behind those it gives: the identity, then defaults.
+void Binder::completeRow(const bound::Insert& insert, std::size_t given, std::vector<bound::ExpressionPtr>& row) {
+    for (std::size_t i = given; i < insert.columns.size(); ++i) {
+        const ColumnInfo& column = *insert.columns[i];
+        if (!column.identity) {
+            row.push_back(bindDefault(column));
+            continue;
+        }
+        auto value = std::make_unique<bound::Expression>();
+        value->node = bound::ParameterUse{static_cast<int>(parameters_.size())};
+        value->type = column.type;
+        bound::Parameter parameter;
+        parameter.source = bound::Parameter::Source::Identity;
+        parameters_.push_back(std::move(parameter));
+        row.push_back(std::move(value));
+    }
+}
+
+bound::Statement Binder::bind(const Insert& insert) {
+    bound::Insert result;
+    Scope scope; // values see no table
+    scope_ = &scope;
+    result.table = target(insert.table);
+    const TableInfo& info = *result.table.info;
+    bool explicitIdentity = false;
+    result.columns = insertColumns(insert, result.table, explicitIdentity);
+    result.identity = info.identity();
+    const std::size_t given = result.columns.size();
+    for (std::size_t i = 0; i < given; ++i) {
+        if (result.columns[i]->identity) {
+            result.identityPlace = static_cast<int>(i);
+        }
+    }
+    for (const ColumnInfo& column : info.columns) {
+        const bool omitted = std::find(result.columns.begin(), result.columns.end(), &column) == result.columns.end();
+        if (omitted && (column.identity || column.defaultText)) {
+            result.columns.push_back(&column);
+        }
+    }
+    const bool named = !insert.columns.empty();
+    if (insert.select) {
+        result.select = std::make_unique<bound::Select>(select(*insert.select, nullptr));
+        scope_ = &scope;
+        const std::size_t selected = result.select->columns.size();
+        if (selected != given) {
+            throw !named       ? errors::columnCountMismatch()
+            : selected > given ? errors::fewerColumnsThanSelected()
+                               : errors::moreColumnsThanSelected();
+        }
+        std::vector<bound::ExpressionPtr> row;
+        for (std::size_t i = 0; i < given; ++i) {
+            for (bound::Core& core : result.select->cores) {
+                core.items[i] = convertTo(std::move(core.items[i]), result.columns[i]->type, Purpose::Assignment);
+            }
+            auto value = std::make_unique<bound::Expression>();
+            value->node = bound::ParameterUse{static_cast<int>(parameters_.size())};
+            value->type = result.columns[i]->type;
+            bound::Parameter parameter;
+            parameter.source = bound::Parameter::Source::Row;
+            parameter.ordinal = static_cast<int>(i);
+            parameters_.push_back(std::move(parameter));
+            row.push_back(std::move(value));
+        }
+        completeRow(result, given, row);
+        result.rows.push_back(std::move(row));
+        return result;
+    }
+    if (insert.rows.size() > kMostRows) {
+        throw errors::tooManyRows();
+    }
+    for (const auto& values : insert.rows) {
+        if (values.size() != insert.rows.front().size()) {
+            throw errors::valuesCountMismatch();
+        }
+        if (values.size() != given) {
+            throw !named            ? errors::columnCountMismatch()
+            : values.size() > given ? errors::fewerColumnsThanValues()
+                                    : errors::moreColumnsThanValues();
+        }
+        std::vector<bound::ExpressionPtr> row;
+        for (std::size_t i = 0; i < given; ++i) {
+            row.push_back(assigned(values[i].get(), *result.columns[i]));
+        }
+        completeRow(result, given, row);
+        result.rows.push_back(std::move(row));
+    }
+    if (insert.rows.empty()) {
+        std::vector<bound::ExpressionPtr> row;
+        completeRow(result, 0, row);
+        result.rows.push_back(std::move(row));
+    }
+    return result;
+}
+
+bound::Statement Binder::bind(const Update& update) {
+    bound::Update result;
+    Scope scope;
+    scope_ = &scope;
+    Name table = update.table;
+    for (const TableSourcePtr& source : update.from) {
+        result.from.push_back(this->source(*source, scope, false));
+    }
+    // Among the sources the target stands under its alias, or else under its own name.
+    const auto standsFor = [&](const auto& isNamed) {
+        for (const Visible& visible : scope.tables) {
+            if (result.targetInFrom < 0 && visible.table != nullptr && isNamed(visible)) {
+                result.targetInFrom = visible.number;
+                table.pieces.back() = visible.table->name;
+            }
+        }
+    };
+    standsFor([&](const Visible& visible) { return sameText(visible.qualifier, update.table.last()); });
+    standsFor([&](const Visible& visible) { return sameText(visible.table->name, update.table.last()); });
+    result.table = target(table);
+    if (result.targetInFrom < 0) {
+        Visible visible;
+        visible.qualifier = result.table.info->name;
+        visible.number = result.table.number;
+        visible.table = result.table.info;
+        scope.tables.push_back(std::move(visible));
+    }
+    for (const Update::Assignment& assignment : update.assignments) {
+        const int place = result.table.info->find(assignment.column.last());
+        if (place < 0) {
+            throw errors::invalidColumn(assignment.column.last());
+        }
+        const ColumnInfo& column = result.table.info->columns[static_cast<std::size_t>(place)];
+        if (column.identity) {
+            throw errors::updateIdentity(column.name);
+        }
+        for (const auto& earlier : result.assignments) {
+            if (earlier.column == &column) {
+                throw errors::columnTwice(column.name);
+            }
+        }
+        result.assignments.push_back({&column, assigned(assignment.value.get(), column)});
+    }
+    if (update.where) {
+        result.where = expression(*update.where);
+    }
+    return result;
+}
+
+bound::Statement Binder::bind(const Delete& remove) {
+    bound::Delete result;
+    Scope scope;
+    scope_ = &scope;
+    result.table = target(remove.table);
+    Visible visible;
+    visible.qualifier = result.table.info->name;
+    visible.number = result.table.number;
+    visible.table = result.table.info;
+    scope.tables.push_back(std::move(visible));
+    if (remove.where) {
+        result.where = expression(*remove.where);
+    }
+    return result;
+}
+
+} // namespace engine

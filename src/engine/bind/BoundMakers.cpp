@@ -1,0 +1,129 @@
+#include "engine/bind/BoundMakers.h"
+
+#include <algorithm>
+
+namespace engine {
+
+namespace {
+
+using Kind = DataType::Kind;
+
+constexpr int kWidestDecimal = 38;
+constexpr int kLeastQuotientScale = 6;
+
+/// An integer as the decimal that holds all its values.
+DataType asDecimal(const DataType& type) {
+    switch (type.kind) {
+    case Kind::Decimal:
+        return type;
+    case Kind::Bit:
+        return {Kind::Decimal, 0, 1, 0};
+    case Kind::TinyInt:
+        return {Kind::Decimal, 0, 3, 0};
+    case Kind::SmallInt:
+        return {Kind::Decimal, 0, 5, 0};
+    case Kind::BigInt:
+        return {Kind::Decimal, 0, 19, 0};
+    default:
+        return {Kind::Decimal, 0, 10, 0};
+    }
+}
+
+} // namespace
+
+namespace bound {
+
+ExpressionPtr constant(std::string text, const DataType& type) {
+    auto result = std::make_unique<Expression>();
+    result->node = Constant{std::move(text)};
+    result->type = type;
+    result->nullable = false;
+    return result;
+}
+
+namespace {
+
+ExpressionPtr operation(Operation operation, const DataType& type) {
+    auto result = std::make_unique<Expression>();
+    result->node = std::move(operation);
+    result->type = type;
+    return result;
+}
+
+} // namespace
+
+ExpressionPtr prefix(std::string op, ExpressionPtr operand, const DataType& type) {
+    Operation made{std::move(op), {}, false};
+    made.operands.push_back(std::move(operand));
+    return operation(std::move(made), type);
+}
+
+ExpressionPtr postfix(std::string op, ExpressionPtr operand, const DataType& type) {
+    Operation made{std::move(op), {}, true};
+    made.operands.push_back(std::move(operand));
+    return operation(std::move(made), type);
+}
+
+ExpressionPtr infix(std::string op, ExpressionPtr left, ExpressionPtr right, const DataType& type) {
+    Operation made{std::move(op), {}, false};
+    made.operands.push_back(std::move(left));
+    made.operands.push_back(std::move(right));
+    return operation(std::move(made), type);
+}
+
+ExpressionPtr callOf(std::string function, const DataType& type, std::vector<ExpressionPtr> arguments) {
+    auto result = std::make_unique<Expression>();
+    Call call;
+    call.function = std::move(function);
+    call.arguments = std::move(arguments);
+    result->node = std::move(call);
+    result->type = type;
+    return result;
+}
+
+} // namespace bound
+
+DataType comparable(const DataType& type) {
+    if (type.isText()) {
+        return {type.kind == Kind::Char || type.kind == Kind::VarChar ? Kind::VarChar : Kind::NVarChar, -1, 0, 0};
+    }
+    if (type.kind == Kind::Decimal) {
+        return {Kind::Float, 0, 0, 0};
+    }
+    return type;
+}
+
+int longestText(const DataType& type) {
+    constexpr int kLongestVarChar = 8000;
+    constexpr int kLongestNational = 4000;
+    return type.kind == Kind::Char || type.kind == Kind::VarChar ? kLongestVarChar : kLongestNational;
+}
+
+DataType decimalResult(Binary::Operator op, const DataType& leftType, const DataType& rightType) {
+    const DataType left = asDecimal(leftType);
+    const DataType right = asDecimal(rightType);
+    DataType result{Kind::Decimal, 0, 0, 0};
+    const bool quotient = op == Binary::Operator::Divide || op == Binary::Operator::Multiply;
+    if (op == Binary::Operator::Divide) {
+        result.scale = std::max(kLeastQuotientScale, left.scale + right.precision + 1);
+        result.precision = left.precision - left.scale + right.scale + result.scale;
+    } else if (op == Binary::Operator::Multiply) {
+        result.scale = left.scale + right.scale;
+        result.precision = left.precision + right.precision + 1;
+    } else {
+        result.scale = std::max(left.scale, right.scale);
+        result.precision = std::max(left.precision - left.scale, right.precision - right.scale) + result.scale + 1;
+    }
+    if (result.precision > kWidestDecimal) {
+        const int whole = result.precision - result.scale;
+        if (quotient) {
+            result.scale = std::max(kWidestDecimal - whole, std::min(result.scale, kLeastQuotientScale));
+        } else {
+            result.scale = std::max(kWidestDecimal - whole, 0);
+        }
+        result.precision = kWidestDecimal;
+    }
+    return result;
+}
+
+} // namespace engine

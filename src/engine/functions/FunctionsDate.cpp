@@ -1,0 +1,262 @@
+#include "engine/errors/BindErrors.h"
+#include "engine/errors/Error.h"
+#include "engine/functions/FunctionRoutines.h"
+#include "engine/store/Host.h"
+#include "engine/values/CalendarDate.h"
+#include "engine/values/Conversions.h"
+
+#include <algorithm>
+#include <array>
+#include <chrono>
+#include <ctime>
+#include <limits>
+
+namespace engine {
+
+namespace {
+
+enum class Part { Year, Quarter, Month, DayOfYear, Day, Week, WeekDay, Hour, Minute, Second, Millisecond };
+
+struct PartName {
+    std::string_view name;
+    Part part;
+};
+
+constexpr std::array kParts = std::to_array<PartName>({
+    {"year", Part::Year},       {"yy", Part::Year},
+    {"yyyy", Part::Year},       {"quarter", Part::Quarter},
+    {"qq", Part::Quarter},      {"q", Part::Quarter},
+    {"month", Part::Month},     {"mm", Part::Month},
+    {"m", Part::Month},         {"dayofyear", Part::DayOfYear},
+    {"dy", Part::DayOfYear},    {"y", Part::DayOfYear},
+    {"day", Part::Day},         {"dd", Part::Day},
+    {"d", Part::Day},           {"week", Part::Week},
+    {"wk", Part::Week},         {"ww", Part::Week},
+    {"weekday", Part::WeekDay}, {"dw", Part::WeekDay},
+    {"w", Part::WeekDay},       {"hour", Part::Hour},
+    {"hh", Part::Hour},         {"minute", Part::Minute},
+    {"mi", Part::Minute},       {"n", Part::Minute},
+    {"second", Part::Second},   {"ss", Part::Second},
+    {"s", Part::Second},        {"millisecond", Part::Millisecond},
+    {"ms", Part::Millisecond},
+});
+
+constexpr int kMonthsOfYear = 12;
+constexpr int kMonthsOfQuarter = 3;
+constexpr int kDaysOfWeek = 7;
+
+Part partOf(const std::string& name, const char* function) {
+    std::string small(name);
+    std::transform(small.begin(), small.end(), small.begin(),
+                   [](char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c; });
+    const auto found =
+        std::find_if(kParts.begin(), kParts.end(), [&](const auto& entry) { return entry.name == small; });
+    if (found == kParts.end()) {
+        throw errors::unknownDatePart(name, function);
+    }
+    return found->part;
+}
+
+std::int64_t floorDivide(std::int64_t value, std::int64_t by) {
+    return value / by - (value % by < 0 ? 1 : 0);
+}
+
+int daysInMonth(int year, int month) {
+    CalendarDate first;
+    first.year = month == kMonthsOfYear ? year + 1 : year;
+    first.month = month == kMonthsOfYear ? 1 : month + 1;
+    CalendarDate begin;
+    begin.year = year;
+    begin.month = month;
+    return static_cast<int>(first.days() - begin.days());
+}
+
+Error additionOverflow() {
+    return {517, "Adding a value to a 'datetime' column caused an overflow.", Error::Reach::Batch};
+}
+
+Scalar addMonths(CalendarDate date, std::int64_t months) {
+    constexpr std::int64_t kFirstYear = 1753;
+    constexpr std::int64_t kLastYear = 9999;
+    const std::int64_t total = std::int64_t{date.year} * kMonthsOfYear + date.month - 1 + months;
+    const std::int64_t year = floorDivide(total, kMonthsOfYear);
+    if (year < kFirstYear || year > kLastYear) {
+        throw additionOverflow();
+    }
+    date.year = static_cast<int>(year);
+    date.month = static_cast<int>(total - year * kMonthsOfYear) + 1;
+    date.day = std::min(date.day, daysInMonth(date.year, date.month));
+    return date.text();
+}
+
+Scalar addTicks(const CalendarDate& date, std::int64_t days, std::int64_t ticks) {
+    const std::int64_t sum = date.ticks() + ticks;
+    const std::int64_t carried = floorDivide(sum, ticksOfDay);
+    try {
+        return CalendarDate::ofTicks(date.days() + days + carried, sum - carried * ticksOfDay).text();
+    } catch (const Error&) {
+        throw additionOverflow();
+    }
+}
+
+Scalar dateAdd(FunctionContext& /*context*/, Arguments arguments) {
+    const std::int64_t number = integerAt(arguments, 1);
+    const CalendarDate date = CalendarDate::stored(textAt(arguments, 2));
+    switch (partOf(textAt(arguments, 0), "dateadd")) {
+    case Part::Year:
+        return addMonths(date, number * kMonthsOfYear);
+    case Part::Quarter:
+        return addMonths(date, number * kMonthsOfQuarter);
+    case Part::Month:
+        return addMonths(date, number);
+    case Part::DayOfYear:
+    case Part::Day:
+    case Part::WeekDay:
+        return addTicks(date, number, 0);
+    case Part::Week:
+        return addTicks(date, number * kDaysOfWeek, 0);
+    case Part::Hour:
+        return addTicks(date, 0, number * 3600 * ticksOfSecond);
+    case Part::Minute:
+        return addTicks(date, 0, number * 60 * ticksOfSecond);
+    case Part::Second:
+        return addTicks(date, 0, number * ticksOfSecond);
+    case Part::Millisecond:
+        return addTicks(date, 0, number * ticksOfSecond / 1000);
+    }
+    return {};
+}
+
+/// How many borders of the part lie before a date: differences of these are what DATEDIFF counts.
+std::int64_t bordersBefore(const CalendarDate& date, Part part) {
+    const std::int64_t days = date.days();
+    const std::int64_t seconds = ((days * 24 + date.hour) * 60 + date.minute) * 60 + date.second;
+    switch (part) {
+    case Part::Year:
+        return date.year;
+    case Part::Quarter:
+        return std::int64_t{date.year} * 4 + (date.month - 1) / kMonthsOfQuarter;
+    case Part::Month:
+        return std::int64_t{date.year} * kMonthsOfYear + date.month;
+    case Part::DayOfYear:
+    case Part::Day:
+    case Part::WeekDay:
+        return days;
+    case Part::Week:
+        return floorDivide(days + 1, kDaysOfWeek); // the first day counted from is a Monday, weeks begin on Sundays
+    case Part::Hour:
+        return floorDivide(seconds, 3600);
+    case Part::Minute:
+        return floorDivide(seconds, 60);
+    case Part::Second:
+        return seconds;
+    case Part::Millisecond:
+        return seconds * 1000 + date.millisecond;
+    }
+    return 0;
+}
+
+Scalar dateDiff(FunctionContext& /*context*/, Arguments arguments) {
+    const Part part = partOf(textAt(arguments, 0), "datediff");
+    const std::int64_t difference = bordersBefore(CalendarDate::stored(textAt(arguments, 2)), part) -
+                                    bordersBefore(CalendarDate::stored(textAt(arguments, 1)), part);
+    if (difference > std::numeric_limits<std::int32_t>::max() ||
+        difference < std::numeric_limits<std::int32_t>::min()) {
+        throw Error(535, "The datediff function resulted in an overflow. The number of dateparts separating two "
+                         "date/time instances is too large. Try to use datediff with a less precise datepart.");
+    }
+    return difference;
+}
+
+Scalar datePart(FunctionContext& /*context*/, Arguments arguments) {
+    const CalendarDate date = CalendarDate::stored(textAt(arguments, 1));
+    CalendarDate newYear;
+    newYear.year = date.year;
+    const Part part = partOf(textAt(arguments, 0), "datepart");
+    switch (part) {
+    case Part::Quarter:
+        return std::int64_t{(date.month - 1) / kMonthsOfQuarter + 1};
+    case Part::Month:
+        return std::int64_t{date.month};
+    case Part::DayOfYear:
+        return date.days() - newYear.days() + 1;
+    case Part::Day:
+        return std::int64_t{date.day};
+    case Part::Week:
+        return bordersBefore(date, part) - bordersBefore(newYear, part) + 1;
+    case Part::WeekDay:
+        return date.days() + 1 - floorDivide(date.days() + 1, kDaysOfWeek) * kDaysOfWeek + 1;
+    case Part::Hour:
+        return std::int64_t{date.hour};
+    case Part::Minute:
+        return std::int64_t{date.minute};
+    case Part::Second:
+        return std::int64_t{date.second};
+    case Part::Millisecond:
+        return std::int64_t{date.millisecond};
+    case Part::Year:
+        break;
+    }
+    return std::int64_t{date.year};
+}
+
+Scalar year(FunctionContext& /*context*/, Arguments arguments) {
+    return std::int64_t{CalendarDate::stored(textAt(arguments, 0)).year};
+}
+
+Scalar month(FunctionContext& /*context*/, Arguments arguments) {
+    return std::int64_t{CalendarDate::stored(textAt(arguments, 0)).month};
+}
+
+Scalar day(FunctionContext& /*context*/, Arguments arguments) {
+    return std::int64_t{CalendarDate::stored(textAt(arguments, 0)).day};
+}
+
+Scalar getDate(FunctionContext& context, Arguments /*arguments*/) {
+    if (context.now.empty()) {
+        context.now = currentTime();
+    }
+    return context.now;
+}
+
+Scalar isDate(FunctionContext& context, Arguments arguments) {
+    const auto* text = std::get_if<std::string>(&arguments[0]);
+    if (text == nullptr) {
+        return std::int64_t{0};
+    }
+    try {
+        toDateTime(*text, std::nullopt, context.dayFirst);
+        return std::int64_t{text->find_first_not_of(' ') != std::string::npos};
+    } catch (const Error&) {
+        return std::int64_t{0};
+    }
+}
+
+constexpr RoutineEntry kRoutines[] = {
+    {"tsql_dateadd", 3, dateAdd}, {"tsql_datediff", 3, dateDiff}, {"tsql_datepart", 2, datePart},
+    {"tsql_day", 1, day},         {"tsql_getdate", 0, getDate},   {"tsql_isdate", 1, isDate, false},
+    {"tsql_month", 1, month},     {"tsql_year", 1, year},
+};
+
+} // namespace
+
+std::span<const RoutineEntry> dateRoutines() {
+    return kRoutines;
+}
+
+std::string currentTime() {
+    using namespace std::chrono;
+    const auto now = system_clock::now();
+    const std::tm local = localTime(system_clock::to_time_t(now));
+    CalendarDate date;
+    date.year = local.tm_year + 1900;
+    date.month = local.tm_mon + 1;
+    date.day = local.tm_mday;
+    date.hour = local.tm_hour;
+    date.minute = local.tm_min;
+    date.second = std::min(local.tm_sec, 59);
+    date.millisecond = static_cast<int>(duration_cast<milliseconds>(now.time_since_epoch()).count() % 1000);
+    return CalendarDate::ofTicks(date.days(), date.ticks()).text();
+}
+
+} // namespace engine

@@ -1,0 +1,237 @@
+#include "engine/errors/Error.h"
+#include "engine/functions/FunctionRoutines.h"
+#include "engine/values/Collation.h"
+
+#include <algorithm>
+#include <cmath>
+#include <cstdio>
+
+namespace engine {
+
+namespace {
+
+/// Longest text that SPACE, REPLICATE and REPLACE make.
+constexpr std::size_t kLongestText = 8000;
+constexpr std::int64_t kUsualWidth = 10;
+
+bool startsCharacter(char c) {
+    return (static_cast<unsigned char>(c) & 0xc0U) != 0x80U;
+}
+
+std::string trimmedEnd(const std::string& text) {
+    return text.substr(0, text.find_last_not_of(' ') + 1);
+}
+
+/// Byte offsets of the characters, the end last.
+std::vector<std::size_t> offsetsOf(std::string_view text) {
+    std::vector<std::size_t> offsets;
+    for (std::size_t i = 0; i < text.size(); ++i) {
+        if (startsCharacter(text[i])) {
+            offsets.push_back(i);
+        }
+    }
+    offsets.push_back(text.size());
+    return offsets;
+}
+
+/// Characters first to last - 1, whatever of them there is.
+std::string slice(const std::string& text, std::int64_t first, std::int64_t last) {
+    const auto offsets = offsetsOf(text);
+    const auto size = static_cast<std::int64_t>(offsets.size()) - 1;
+    first = std::clamp<std::int64_t>(first, 0, size);
+    last = std::clamp<std::int64_t>(last, first, size);
+    const std::size_t begin = offsets[static_cast<std::size_t>(first)];
+    return text.substr(begin, offsets[static_cast<std::size_t>(last)] - begin);
+}
+
+void refuseNegative(std::int64_t length, const char* function) {
+    if (length < 0) {
+        throw Error(537, std::string("Invalid length parameter passed to the ") + function + " function.",
+                    Error::Reach::Batch);
+    }
+}
+
+Scalar len(FunctionContext& /*context*/, Arguments arguments) {
+    return static_cast<std::int64_t>(characters(trimmedEnd(textAt(arguments, 0))));
+}
+
+Scalar upperText(FunctionContext& /*context*/, Arguments arguments) {
+    return upper(textAt(arguments, 0));
+}
+
+Scalar lowerText(FunctionContext& /*context*/, Arguments arguments) {
+    return lower(textAt(arguments, 0));
+}
+
+Scalar leftTrim(FunctionContext& /*context*/, Arguments arguments) {
+    const std::string& text = textAt(arguments, 0);
+    const std::size_t first = text.find_first_not_of(' ');
+    return first == std::string::npos ? std::string() : text.substr(first);
+}
+
+Scalar rightTrim(FunctionContext& /*context*/, Arguments arguments) {
+    return trimmedEnd(textAt(arguments, 0));
+}
+
+Scalar leftPart(FunctionContext& /*context*/, Arguments arguments) {
+    refuseNegative(integerAt(arguments, 1), "LEFT");
+    return slice(textAt(arguments, 0), 0, integerAt(arguments, 1));
+}
+
+Scalar rightPart(FunctionContext& /*context*/, Arguments arguments) {
+    refuseNegative(integerAt(arguments, 1), "RIGHT");
+    const auto size = static_cast<std::int64_t>(characters(textAt(arguments, 0)));
+    return slice(textAt(arguments, 0), size - integerAt(arguments, 1), size);
+}
+
+Scalar substring(FunctionContext& /*context*/, Arguments arguments) {
+    refuseNegative(integerAt(arguments, 2), "SUBSTRING");
+    const std::int64_t first = integerAt(arguments, 1) - 1;
+    return slice(textAt(arguments, 0), first, first + integerAt(arguments, 2));
+}
+
+Scalar reverse(FunctionContext& /*context*/, Arguments arguments) {
+    const std::string& text = textAt(arguments, 0);
+    const auto offsets = offsetsOf(text);
+    std::string result;
+    for (std::size_t i = offsets.size() - 1; i > 0; --i) {
+        result += text.substr(offsets[i - 1], offsets[i] - offsets[i - 1]);
+    }
+    return result;
+}
+
+/// Place of the first character sequence that is `wanted` under the collation, from the character `start`; -1: none.
+std::int64_t findText(std::string_view text, const std::vector<std::size_t>& offsets, std::string_view wanted,
+                      std::size_t start) {
+    const std::size_t length = characters(wanted);
+    const std::string key = upper(wanted);
+    for (std::size_t i = start; i + length < offsets.size(); ++i) {
+        if (upper(text.substr(offsets[i], offsets[i + length] - offsets[i])) == key) {
+            return static_cast<std::int64_t>(i);
+        }
+    }
+    return -1;
+}
+
+Scalar charIndex(FunctionContext& /*context*/, Arguments arguments) {
+    const std::string& wanted = textAt(arguments, 0);
+    const std::int64_t start = arguments.size() > 2 ? std::max<std::int64_t>(integerAt(arguments, 2) - 1, 0) : 0;
+    if (wanted.empty()) {
+        return std::int64_t{0};
+    }
+    return findText(textAt(arguments, 1), offsetsOf(textAt(arguments, 1)), wanted, static_cast<std::size_t>(start)) + 1;
+}
+
+Scalar replace(FunctionContext& /*context*/, Arguments arguments) {
+    const std::string& text = textAt(arguments, 0);
+    const std::string& wanted = textAt(arguments, 1);
+    if (wanted.empty()) {
+        return text;
+    }
+    const auto offsets = offsetsOf(text);
+    const std::size_t length = characters(wanted);
+    std::string result;
+    std::size_t done = 0;
+    for (std::int64_t found = findText(text, offsets, wanted, 0); found >= 0;
+         found = findText(text, offsets, wanted, done)) {
+        const auto place = static_cast<std::size_t>(found);
+        result += text.substr(offsets[done], offsets[place] - offsets[done]);
+        result += textAt(arguments, 2);
+        done = place + length;
+    }
+    return result + text.substr(offsets[done]);
+}
+
+Scalar replicated(const std::string& text, std::int64_t times) {
+    if (times < 0) {
+        return {};
+    }
+    std::string result;
+    while (times-- > 0 && !text.empty() && result.size() + text.size() <= kLongestText) {
+        result += text;
+    }
+    return result;
+}
+
+Scalar space(FunctionContext& /*context*/, Arguments arguments) {
+    return replicated(" ", integerAt(arguments, 0));
+}
+
+Scalar replicate(FunctionContext& /*context*/, Arguments arguments) {
+    return replicated(textAt(arguments, 0), integerAt(arguments, 1));
+}
+
+Scalar str(FunctionContext& /*context*/, Arguments arguments) {
+    constexpr std::int64_t kMostDecimals = 16;
+    const std::int64_t width = arguments.size() > 1 ? integerAt(arguments, 1) : kUsualWidth;
+    const std::int64_t decimals = arguments.size() > 2 ? integerAt(arguments, 2) : 0;
+    if (width < 0 || width > static_cast<std::int64_t>(kLongestText) || decimals < 0) {
+        return {};
+    }
+    const int shown = static_cast<int>(std::min(decimals, kMostDecimals));
+    const double number = numberAt(arguments, 0);
+    const double scale = std::pow(10.0, shown);
+    const double scaled = std::round(number * scale);
+    std::string text(512, '\0');
+    const int size =
+        std::snprintf(text.data(), text.size(), "%.*f", shown, std::isfinite(scaled) ? scaled / scale : number);
+    text.resize(static_cast<std::size_t>(std::max(size, 0)));
+    const std::size_t whole = std::min(text.find('.'), text.size());
+    const auto wide = static_cast<std::size_t>(width);
+    if (whole > wide) {
+        return std::string(wide, '*');
+    }
+    text.resize(std::min(text.size(), wide));
+    return std::string(wide - text.size(), ' ') + text;
+}
+
+Scalar dataLength(FunctionContext& /*context*/, Arguments arguments) {
+    const DataType type = decodeType(integerAt(arguments, 1));
+    if (const auto* text = std::get_if<std::string>(&arguments[0]); text != nullptr && type.isText()) {
+        const bool national = type.kind == DataType::Kind::NChar || type.kind == DataType::Kind::NVarChar;
+        return static_cast<std::int64_t>(characters(*text) * (national ? 2 : 1));
+    }
+    switch (type.kind) {
+    case DataType::Kind::Bit:
+    case DataType::Kind::TinyInt:
+        return std::int64_t{1};
+    case DataType::Kind::SmallInt:
+        return std::int64_t{2};
+    case DataType::Kind::Int:
+    case DataType::Kind::Real:
+        return std::int64_t{4};
+    case DataType::Kind::Decimal:
+        return std::int64_t{type.precision <= 9 ? 5 : type.precision <= 19 ? 9 : type.precision <= 28 ? 13 : 17};
+    default:
+        return std::int64_t{8};
+    }
+}
+
+constexpr RoutineEntry kRoutines[] = {
+    {"tsql_charindex", 2, charIndex},
+    {"tsql_charindex", 3, charIndex},
+    {"tsql_datalength", 2, dataLength},
+    {"tsql_left", 2, leftPart},
+    {"tsql_len", 1, len},
+    {"tsql_lower", 1, lowerText},
+    {"tsql_ltrim", 1, leftTrim},
+    {"tsql_replace", 3, replace},
+    {"tsql_replicate", 2, replicate},
+    {"tsql_reverse", 1, reverse},
+    {"tsql_right", 2, rightPart},
+    {"tsql_rtrim", 1, rightTrim},
+    {"tsql_space", 1, space},
+    {"tsql_str", 1, str},
+    {"tsql_str", 2, str},
+    {"tsql_str", 3, str},
+    {"tsql_substring", 3, substring},
+    {"tsql_upper", 1, upperText},
+};
+
+} // namespace
+
+std::span<const RoutineEntry> textRoutines() {
+    return kRoutines;
+}
+
+} // namespace engine

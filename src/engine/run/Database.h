@@ -1,0 +1,66 @@
+#pragma once
+
+// One database as one session uses it: its connection with all that hangs on it.
+
+#include "engine/functions/Functions.h"
+#include "engine/run/StatementCache.h"
+#include "engine/store/Catalog.h"
+#include "engine/store/Instance.h"
+#include "engine/store/RowLocks.h"
+#include "engine/store/Sqlite.h"
+
+namespace engine {
+
+class Database {
+public:
+    explicit Database(DatabaseEntry entry);
+
+    const DatabaseEntry& entry() const { return entry_; }
+    const std::string& name() const { return entry_.name; }
+    sqlite::Connection& connection() { return connection_; }
+    Catalog& catalog() { return catalog_; }
+    RowLocks& locks() { return locks_; }
+    StatementCache& cache() { return cache_; }
+    FunctionContext& functions() { return functions_; }
+
+    /// Before each statement: forgets the plans that a change of the schema made wrong.
+    void refresh();
+
+    /// A transaction that writes this database alone. Databases that are read beside it stay free: another one of the
+    /// same session's transactions may be writing them.
+    void begin();
+    void commit();
+    /// Never throws: the storage may have ended the transaction by itself.
+    void rollback() noexcept;
+
+    /// What the server says of a failure of the storage: the refusal of a function, or the error that the code stands
+    /// for. `table` is the one being written, with `verb` INSERT or UPDATE; nullptr for none.
+    /// Throws InternalError for what no statement of a user may cause.
+    [[noreturn]] void raise(const sqlite::Failure& failure, const TableInfo* table, const char* verb);
+
+private:
+    DatabaseEntry entry_;
+    FunctionContext functions_;
+    sqlite::Connection connection_;
+    Catalog catalog_;
+    RowLocks locks_;
+    StatementCache cache_;
+    sqlite::Statement begin_, lock_, commit_;
+};
+
+/// BEGIN now and ROLLBACK at the end unless committed; nothing at all inside of an open transaction of the user's,
+/// where the statement's own atomicity does.
+class WriteTransaction {
+public:
+    explicit WriteTransaction(Database& database);
+    ~WriteTransaction();
+    WriteTransaction(const WriteTransaction&) = delete;
+    WriteTransaction& operator=(const WriteTransaction&) = delete;
+    void commit();
+
+private:
+    Database& database_;
+    bool own_;
+};
+
+} // namespace engine

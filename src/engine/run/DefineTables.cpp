@@ -1,0 +1,244 @@
+#include "engine/bind/Binder.h"
+#include "engine/errors/BindErrors.h"
+#include "engine/run/Definitions.h"
+#include "engine/run/SessionTables.h"
+#include "engine/store/StorageErrors.h"
+#include "engine/store/StoredNames.h"
+#include "engine/translate/SqlText.h"
+#include "engine/values/Collation.h"
+
+#include <algorithm>
+#include <cstdio>
+
+namespace engine {
+
+namespace {
+
+/// A key's name belongs to its database, as a table's does.
+bool isObject(Catalog& catalog, const TableInfo& table, const std::string& name) {
+    const auto hasKey = [&](const TableInfo& one) {
+        return std::any_of(one.keys.begin(), one.keys.end(),
+                           [&](const KeyInfo& key) { return sameText(key.name, name); });
+    };
+    if (sameText(table.name, name) || hasKey(table) || catalog.table(name) != nullptr) {
+        return true;
+    }
+    const std::vector<std::string> tables = catalog.tableNames();
+    return std::any_of(tables.begin(), tables.end(),
+                       [&](const std::string& other) { return hasKey(*catalog.table(other)); });
+}
+
+/// As the server names what a script leaves without a name.
+std::string keyName(const std::string& table, const KeyDefinition& key) {
+    std::size_t hash = std::hash<std::string>()(table);
+    for (const std::string& column : key.columns) {
+        hash = hash * 31 + std::hash<std::string>()(column);
+    }
+    char digits[17];
+    std::snprintf(digits, sizeof digits, "%016zX", hash);
+    return (key.kind == KeyDefinition::Kind::Primary ? "PK__" : "UQ__") + table + "__" + digits;
+}
+
+ColumnInfo columnOf(const ColumnDefinition& definition) {
+    ColumnInfo column;
+    column.name = definition.name;
+    column.type = definition.type;
+    column.nullable = definition.nullable.value_or(!definition.identity);
+    column.identity = definition.identity;
+    column.seed = definition.identitySeed;
+    column.increment = definition.identityIncrement;
+    if (definition.defaultValue) {
+        column.defaultText = definition.defaultText;
+        column.defaultName = definition.defaultName;
+    }
+    return column;
+}
+
+void addColumn(TableInfo& table, const ColumnDefinition& definition) {
+    if (table.find(definition.name) >= 0) {
+        throw errors::duplicateColumn(definition.name, table.name);
+    }
+    if (definition.identity && table.identity() != nullptr) {
+        throw errors::severalIdentities(table.name);
+    }
+    table.columns.push_back(columnOf(definition));
+}
+
+KeyInfo keyOf(Catalog& catalog, TableInfo& table, const KeyDefinition& definition) {
+    KeyInfo key;
+    key.name = definition.name.empty() ? keyName(table.name, definition) : definition.name;
+    while (isObject(catalog, table, key.name)) {
+        if (!definition.name.empty()) {
+            throw errors::objectExists(key.name);
+        }
+        key.name += '_';
+    }
+    key.primary = definition.kind == KeyDefinition::Kind::Primary;
+    if (key.primary && table.primaryKey() != nullptr) {
+        throw errors::twoPrimaryKeys(table.name);
+    }
+    for (const std::string& name : definition.columns) {
+        const int place = table.find(name);
+        if (place < 0) {
+            throw errors::keyColumnMissing(name);
+        }
+        ColumnInfo& column = table.columns[static_cast<std::size_t>(place)];
+        column.nullable = column.nullable && !key.primary;
+        key.columns.push_back(column.name);
+    }
+    return key;
+}
+
+/// A default as the storage keeps it: its value now.
+std::string defaultLiteral(ServerSession& session, const ColumnDefinition& definition) {
+    SessionTables finder(session);
+    Binder binder(finder);
+    const bound::ExpressionPtr value = binder.bindDefault(columnOf(definition));
+    translate::Text text("SELECT quote(");
+    translate::write(text, *value);
+    text += ')';
+    sqlite::Statement statement(session.current().connection(), text.sql());
+    bindLiterals(statement, text.parameters(binder.parameters()), {nullptr, session.dayFirst});
+    statement.step();
+    return std::string(statement.text(0));
+}
+
+bool hasRows(Database& database, const TableInfo& table) {
+    sqlite::Statement any(database.connection(),
+                          "SELECT 1 FROM " + stored::qualifiedTable("main", table.name) + " LIMIT 1");
+    return any.step();
+}
+
+/// A unique index over rows that are there already; `name` as the server has it.
+void makeUnique(ServerSession& session, const std::string& table, const std::string& name, const std::string& text) {
+    try {
+        session.current().connection().run(text);
+    } catch (const sqlite::Failure& failure) {
+        if (isDuplicate(failure)) {
+            throw errors::duplicateInNewKey(table, name);
+        }
+        throw;
+    }
+}
+
+void addKey(ServerSession& session, const TableInfo& table, const KeyInfo& key) {
+    if (!storedIndex(session.current(), table, key.name).empty()) {
+        throw errors::indexExists(table.name, key.name);
+    }
+    makeUnique(session, table.name, key.name, translate::createKey(table, key));
+    session.current().catalog().addKey(table.name, key);
+}
+
+/// Under NOT NULL the storage itself fills the old rows; a nullable column's old rows stay NULL whatever its default.
+void addColumn(ServerSession& session, const AlterTable& alter, const ColumnDefinition& definition) {
+    Database& database = session.current();
+    TableInfo table = *database.catalog().table(alter.table.last());
+    const bool filled = hasRows(database, table);
+    addColumn(table, definition);
+    ColumnInfo& column = table.columns.back();
+    std::string initial;
+    if (!column.nullable) {
+        if (column.defaultText) {
+            initial = defaultLiteral(session, definition);
+        } else if (filled && !column.identity) {
+            throw errors::alterNeedsDefault(column.name, table.name);
+        } else {
+            initial = column.type.isText() || column.type.kind == DataType::Kind::DateTime ? "''" : "0";
+        }
+    }
+    database.connection().run(translate::addColumn(table, column, initial));
+    database.catalog().addColumn(table.name, column);
+    if (column.identity && filled) {
+        const TableInfo& present = *database.catalog().table(table.name);
+        const std::string rowid = translate::rowidOf(present);
+        sqlite::Statement rows(database.connection(), "SELECT " + rowid + " FROM " +
+                                                          stored::qualifiedTable("main", table.name) + " ORDER BY 1");
+        sqlite::Statement number(database.connection(), "UPDATE " + stored::qualifiedTable("main", table.name) +
+                                                            " SET " + stored::quoted(column.name) + " = ?1 WHERE " +
+                                                            rowid + " = ?2");
+        std::vector<std::int64_t> numbers;
+        while (rows.step()) {
+            numbers.push_back(rows.integer(0));
+        }
+        for (const std::int64_t row : numbers) {
+            number.bind(1, database.catalog().nextIdentity(present));
+            number.bind(2, row);
+            number.step();
+            number.reset();
+        }
+    }
+}
+
+} // namespace
+
+void define(ServerSession& session, const CreateTable& create) {
+    Database& database = session.current();
+    TableInfo table;
+    table.name = create.table.last();
+    if (database.catalog().table(table.name) != nullptr) {
+        throw errors::objectExists(table.name);
+    }
+    for (const ColumnDefinition& definition : create.columns) {
+        addColumn(table, definition);
+    }
+    for (const KeyDefinition& definition : create.keys) {
+        table.keys.push_back(keyOf(database.catalog(), table, definition));
+    }
+    changeSchema(session, &table, [&] {
+        database.connection().run(translate::createTable(table));
+        for (const KeyInfo& key : table.keys) {
+            if (!(key.primary && translate::rowNumber(table) != nullptr)) {
+                database.connection().run(translate::createKey(table, key));
+            }
+        }
+        database.catalog().addTable(table);
+    });
+}
+
+void define(ServerSession& session, const AlterTable& alter) {
+    const TableInfo* found = definedTable(session, alter.table);
+    if (found == nullptr) {
+        throw errors::missingTable(alter.table.last());
+    }
+    const TableInfo before = *found;
+    changeSchema(session, &before, [&] {
+        for (const ColumnDefinition& definition : alter.added) {
+            addColumn(session, alter, definition);
+        }
+        for (const KeyDefinition& definition : alter.keys) {
+            Catalog& catalog = session.current().catalog();
+            TableInfo table = *catalog.table(before.name);
+            addKey(session, table, keyOf(catalog, table, definition));
+        }
+    });
+}
+
+void define(ServerSession& session, const CreateIndex& create) {
+    const TableInfo* table = definedTable(session, create.table);
+    if (table == nullptr) {
+        throw Error(1088, "Cannot find the object \"" + create.table.last() +
+                              "\" because it does not exist or you do not have permissions.");
+    }
+    Database& database = session.current();
+    const std::string name = stored::indexName(table->name, create.name);
+    if (!storedIndex(database, *table, create.name).empty()) {
+        throw errors::indexExists(table->name, create.name);
+    }
+    std::string text = std::string(create.unique ? "CREATE UNIQUE INDEX " : "CREATE INDEX ") + stored::quoted(name) +
+                       " ON " + stored::quoted(stored::tableName(table->name)) + " (";
+    bool first = true;
+    for (const OrderItem& item : create.columns) {
+        const auto& reference = std::get<ColumnReference>(item.expression->node);
+        const int place = table->find(reference.name.last());
+        if (place < 0) {
+            throw errors::keyColumnMissing(reference.name.last());
+        }
+        text += (first ? "" : ", ") + stored::quoted(table->columns[static_cast<std::size_t>(place)].name) +
+                (item.descending ? " DESC" : "");
+        first = false;
+    }
+    const TableInfo indexed = *table;
+    changeSchema(session, &indexed, [&] { makeUnique(session, indexed.name, create.name, text + ")"); });
+}
+
+} // namespace engine

@@ -1,0 +1,49 @@
+#include "engine/run/Definitions.h"
+
+#include "engine/errors/BindErrors.h"
+#include "engine/store/StoredNames.h"
+#include "engine/values/Collation.h"
+
+namespace engine {
+
+namespace {
+
+template<class Node>
+concept Definition = requires(ServerSession& session, const Node& node) {
+    define(session, node);
+}
+&&!std::same_as<Node, Statement>;
+
+} // namespace
+
+bool define(ServerSession& session, const Statement& statement) {
+    return std::visit(
+        [&](const auto& node) {
+            if constexpr (Definition<std::decay_t<decltype(node)>>) {
+                define(session, node);
+                return true;
+            } else {
+                return false;
+            }
+        },
+        statement.node);
+}
+
+const TableInfo* definedTable(ServerSession& session, const Name& name) {
+    const std::size_t pieces = name.pieces.size();
+    const bool elsewhere =
+        pieces > 2 && !name.pieces[pieces - 3].empty() && !sameText(name.pieces[pieces - 3], session.database());
+    const bool otherSchema =
+        pieces > 1 && !name.pieces[pieces - 2].empty() && !sameText(name.pieces[pieces - 2], "dbo");
+    return elsewhere || otherSchema ? nullptr : session.current().catalog().table(name.last());
+}
+
+std::string storedIndex(Database& database, const TableInfo& table, const std::string& index) {
+    const std::string wanted = stored::indexName(table.name, index);
+    sqlite::Statement there(database.connection(),
+                            "SELECT name FROM sqlite_schema WHERE type = 'index' AND name = ?1 COLLATE TSQL");
+    there.bind(1, std::string_view(wanted));
+    return there.step() ? std::string(there.text(0)) : std::string();
+}
+
+} // namespace engine

@@ -1,0 +1,54 @@
+#include "engine/run/Plan.h"
+
+namespace engine {
+
+namespace {
+
+using Source = bound::Parameter::Source;
+
+Literal writtenLiteral(const bound::Parameter& parameter, const Bindings& bindings) {
+    if (parameter.source == Source::Constant || bindings.literals == nullptr) {
+        return parameter.constant;
+    }
+    const LiteralToken& token = bindings.literals->at(static_cast<std::size_t>(parameter.ordinal));
+    return {token.kind, token.text, parameter.ordinal};
+}
+
+} // namespace
+
+Scalar valueOf(const bound::Parameter& parameter, const Bindings& bindings) {
+    const Literal literal = writtenLiteral(parameter, bindings);
+    Scalar value = scalarOf(literal, parameter.negated);
+    if (parameter.conversion.to.kind == DataType::Kind::Unknown) {
+        return value;
+    }
+    ConversionRequest request = parameter.conversion;
+    request.dayFirst = bindings.dayFirst;
+    if (request.from.kind == DataType::Kind::Decimal) {
+        request.from = decimalOf(literal); // the plan was made for one with other digits perhaps
+    }
+    return convert(std::move(value), request);
+}
+
+void bindValue(sqlite::Statement& statement, int place, const Scalar& value) {
+    if (const auto* integer = std::get_if<std::int64_t>(&value)) {
+        statement.bind(place, *integer);
+    } else if (const auto* number = std::get_if<double>(&value)) {
+        statement.bind(place, *number);
+    } else if (const auto* text = std::get_if<std::string>(&value)) {
+        statement.bind(place, std::string_view(*text));
+    } else {
+        statement.bindNull(place);
+    }
+}
+
+void bindLiterals(sqlite::Statement& statement, const std::vector<bound::Parameter>& parameters,
+                  const Bindings& bindings) {
+    for (std::size_t i = 0; i < parameters.size(); ++i) {
+        if (parameters[i].source == Source::Literal || parameters[i].source == Source::Constant) {
+            bindValue(statement, static_cast<int>(i) + 1, valueOf(parameters[i], bindings));
+        }
+    }
+}
+
+} // namespace engine

@@ -1,0 +1,270 @@
+#include "engine/run/Procedures.h"
+
+#include "engine/errors/BindErrors.h"
+#include "engine/text/DatabaseOptions.h"
+#include "engine/text/ServerOptions.h"
+#include "engine/values/Collation.h"
+
+#include <algorithm>
+#include <array>
+
+namespace engine {
+
+namespace {
+
+using Kind = DataType::Kind;
+using Messages = std::vector<Message>;
+
+const DataType kName{Kind::NVarChar, 128, 0, 0};
+const DataType kInt{Kind::Int, 0, 0, 0};
+const DataType kRemarks{Kind::VarChar, 254, 0, 0};
+
+/// The arguments of a call by their places, as constants.
+class Values {
+public:
+    Values(const Execute& call, std::vector<std::string> parameters) : procedure_(call.procedure.last()) {
+        values_.resize(parameters.size());
+        std::size_t place = 0;
+        for (const Execute::Argument& argument : call.arguments) {
+            if (!argument.name.empty()) {
+                const auto named = std::find_if(parameters.begin(), parameters.end(),
+                                                [&](const std::string& one) { return sameText(one, argument.name); });
+                if (named == parameters.end()) {
+                    throw Error(8145, argument.name + " is not a parameter for procedure " + procedure_ + ".");
+                }
+                place = static_cast<std::size_t>(named - parameters.begin());
+            }
+            if (place >= parameters.size()) {
+                throw Error(8144, "Procedure or function " + procedure_ + " has too many arguments specified.");
+            }
+            values_[place++] = constant(*argument.value);
+        }
+    }
+
+    bool given(std::size_t place) const { return !isNull(values_[place]); }
+
+    /// Nothing where the argument was left out or is NULL.
+    std::string text(std::size_t place) const {
+        const Scalar value = convert(values_[place], {typeOf(place), DataType{Kind::NVarChar, -1, 0, 0}, {}});
+        return isNull(value) ? std::string() : std::get<std::string>(value);
+    }
+
+    long long integer(std::size_t place) const {
+        try {
+            return std::get<std::int64_t>(convert(values_[place], {typeOf(place), kInt, {}}));
+        } catch (const Error&) {
+            throw Error(8114, "Error converting data type nvarchar to int.");
+        }
+    }
+
+private:
+    static Scalar constant(const Expression& expression) {
+        if (const auto* literal = std::get_if<Literal>(&expression.node)) {
+            return scalarOf(*literal, false);
+        }
+        if (const auto* unary = std::get_if<Unary>(&expression.node)) {
+            if (const auto* literal = std::get_if<Literal>(&unary->operand->node)) {
+                return scalarOf(*literal, unary->op == Unary::Operator::Minus);
+            }
+        }
+        throw errors::syntaxNear("(", expression.position);
+    }
+
+    DataType typeOf(std::size_t place) const {
+        const Scalar& value = values_[place];
+        if (std::holds_alternative<std::int64_t>(value)) {
+            return {Kind::BigInt, 0, 0, 0};
+        }
+        return std::holds_alternative<double>(value) ? DataType{Kind::Float, 0, 0, 0}
+                                                     : DataType{Kind::NVarChar, -1, 0, 0};
+    }
+
+    std::string procedure_;
+    std::vector<Scalar> values_;
+};
+
+ResultColumn column(const char* name, const DataType& type) {
+    ResultColumn made;
+    made.name = name;
+    made.type = type;
+    return made;
+}
+
+Outcome listed(MemoryRows rows) {
+    Outcome outcome;
+    outcome.memory = std::move(rows);
+    return outcome;
+}
+
+MemoryRows optionRows() {
+    MemoryRows rows;
+    rows.columns = {column("name", {Kind::NVarChar, 35, 0, 0}), column("minimum", kInt), column("maximum", kInt),
+                    column("config_value", kInt), column("run_value", kInt)};
+    return rows;
+}
+
+Outcome configure(ServerSession& session, const Execute& call, Messages& messages) {
+    const Values values(call, {"@configname", "@configvalue"});
+    const std::vector<Instance::Option> options = session.instance().options();
+    const bool advanced = std::any_of(options.begin(), options.end(), [](const Instance::Option& option) {
+        return option.name == showAdvancedOptions && option.running != 0;
+    });
+    const std::string wanted = values.given(0) ? serverOption(values.text(0), advanced).name : std::string();
+    MemoryRows rows = optionRows();
+    for (const Instance::Option& option : options) {
+        const bool asked = wanted.empty() ? advanced || !option.advanced : option.name == wanted;
+        if (!asked) {
+            continue;
+        }
+        if (values.given(1)) {
+            const long long value = values.integer(1);
+            session.instance().configure(option.name, value);
+            messages.push_back({15457, "Configuration option '" + option.name + "' changed from " +
+                                           std::to_string(option.configured) + " to " + std::to_string(value) +
+                                           ". Run the RECONFIGURE statement to install."});
+            return {};
+        }
+        rows.rows.push_back({option.name, std::int64_t{option.minimum}, std::int64_t{option.maximum},
+                             std::int64_t{option.configured}, std::int64_t{option.running}});
+    }
+    return listed(std::move(rows));
+}
+
+std::string joined(const Name& name) {
+    std::string result;
+    for (std::size_t i = 0; i < name.pieces.size(); ++i) {
+        result += (i == 0 ? "" : ".") + name.pieces[i];
+    }
+    return result;
+}
+
+bool isOn(const std::string& value) {
+    for (const char* word : {"true", "on"}) {
+        if (sameText(value, word)) {
+            return true;
+        }
+    }
+    for (const char* word : {"false", "off"}) {
+        if (sameText(value, word)) {
+            return false;
+        }
+    }
+    throw Error(15241, "Usage: sp_dboption [dbname [,optname [,'true' | 'false']]]");
+}
+
+Outcome databaseOption(ServerSession& session, const Execute& call, Messages& /*messages*/) {
+    if (session.instance().version() >= Instance::firstVersionWithoutDatabaseOptions) {
+        throw errors::procedureMissing(joined(call.procedure));
+    }
+    const Values values(call, {"@dbname", "@optname", "@optvalue"});
+    MemoryRows rows;
+    if (!values.given(0)) {
+        rows.columns = {column("Settable database options:", kName)};
+        for (const DatabaseOption& option : databaseOptions()) {
+            rows.rows.push_back({std::string(option.name)});
+        }
+        return listed(std::move(rows));
+    }
+    const std::string database = values.text(0);
+    if (values.given(2)) {
+        session.instance().setDatabaseOption(database, values.text(1), isOn(values.text(2)));
+        return {};
+    }
+    const auto options = session.instance().databaseOptions(database);
+    if (!values.given(1)) {
+        rows.columns = {column("The following options are set:", kName)};
+        for (const auto& [name, value] : options) {
+            if (value) {
+                rows.rows.push_back({name});
+            }
+        }
+        return listed(std::move(rows));
+    }
+    const std::string wanted = engine::databaseOption(values.text(1)).name;
+    rows.columns = {column("OptionName", kName), column("CurrentSetting", {Kind::Char, 3, 0, 0})};
+    for (const auto& [name, value] : options) {
+        if (name == wanted) {
+            rows.rows.push_back({name, std::string(value ? "ON " : "OFF")});
+        }
+    }
+    return listed(std::move(rows));
+}
+
+Outcome databases(ServerSession& session, const Execute& /*call*/, Messages& /*messages*/) {
+    MemoryRows rows;
+    rows.columns = {column("DATABASE_NAME", kName), column("DATABASE_SIZE", kInt), column("REMARKS", kRemarks)};
+    for (const DatabaseEntry& entry : session.instance().databases()) {
+        std::error_code problem;
+        const auto size = std::filesystem::file_size(entry.file, problem);
+        constexpr std::int64_t kKilobyte = 1024;
+        rows.rows.push_back(
+            {entry.name, problem ? Scalar() : Scalar(static_cast<std::int64_t>(size) / kKilobyte), Scalar()});
+    }
+    return listed(std::move(rows));
+}
+
+Outcome tables(ServerSession& session, const Execute& call, Messages& /*messages*/) {
+    const Values values(call, {"@table_name", "@table_owner", "@table_qualifier", "@table_type"});
+    MemoryRows rows;
+    rows.columns = {column("TABLE_QUALIFIER", kName), column("TABLE_OWNER", kName), column("TABLE_NAME", kName),
+                    column("TABLE_TYPE", {Kind::VarChar, 32, 0, 0}), column("REMARKS", kRemarks)};
+    for (const std::string& name : session.current().catalog().tableNames()) {
+        if (!values.given(0) || like(name, values.text(0))) {
+            rows.rows.push_back({session.database(), std::string("dbo"), name, std::string("TABLE"), Scalar()});
+        }
+    }
+    return listed(std::move(rows));
+}
+
+Outcome columns(ServerSession& session, const Execute& call, Messages& /*messages*/) {
+    const Values values(call, {"@table_name", "@table_owner", "@table_qualifier", "@column_name"});
+    if (!values.given(0)) {
+        throw Error(201, "Procedure or function 'sp_columns' expects parameter '@table_name', which was not supplied.");
+    }
+    MemoryRows rows;
+    rows.columns = {column("TABLE_QUALIFIER", kName), column("TABLE_OWNER", kName), column("TABLE_NAME", kName),
+                    column("COLUMN_NAME", kName),     column("TYPE_NAME", kName),   column("LENGTH", kInt),
+                    column("NULLABLE", kInt),         column("COLUMN_DEF", kName),  column("ORDINAL_POSITION", kInt)};
+    const TableInfo* table = session.current().catalog().table(values.text(0));
+    if (table == nullptr) {
+        return listed(std::move(rows));
+    }
+    std::int64_t place = 0;
+    for (const ColumnInfo& one : table->columns) {
+        rows.rows.push_back({session.database(), std::string("dbo"), table->name, one.name,
+                             typeName(one.type) + (one.identity ? " identity" : ""),
+                             one.type.isText() ? Scalar(std::int64_t{one.type.length}) : Scalar(),
+                             std::int64_t{one.nullable},
+                             one.defaultText ? Scalar("(" + *one.defaultText + ")") : Scalar(), ++place});
+    }
+    return listed(std::move(rows));
+}
+
+struct Procedure {
+    const char* name;
+    Outcome (*call)(ServerSession& session, const Execute& call, Messages& messages);
+};
+
+constexpr std::array kProcedures = std::to_array<Procedure>({
+    {"sp_configure", configure},
+    {"sp_dboption", databaseOption},
+    {"sp_databases", databases},
+    {"sp_tables", tables},
+    {"sp_columns", columns},
+});
+
+} // namespace
+
+Outcome callProcedure(ServerSession& session, const Execute& call, std::vector<Message>& messages) {
+    const auto& pieces = call.procedure.pieces;
+    const std::string schema = pieces.size() > 1 ? pieces[pieces.size() - 2] : std::string();
+    const bool known = schema.empty() || sameText(schema, "sys") || sameText(schema, "dbo");
+    for (const Procedure& procedure : kProcedures) {
+        if (known && sameText(procedure.name, call.procedure.last())) {
+            return procedure.call(session, call, messages);
+        }
+    }
+    throw errors::procedureMissing(joined(call.procedure));
+}
+
+} // namespace engine

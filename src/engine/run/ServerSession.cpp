@@ -1,0 +1,181 @@
+#include "engine/run/ServerSession.h"
+
+#include "engine/errors/BindErrors.h"
+#include "engine/errors/Error.h"
+#include "engine/run/BatchRun.h"
+#include "engine/text/Lexer.h"
+#include "engine/text/Parser.h"
+#include "engine/values/Collation.h"
+
+#include <algorithm>
+
+namespace engine {
+
+namespace {
+
+constexpr std::string_view kMaster = "master";
+
+bool mayBePlanned(const Statement& statement) {
+    return std::holds_alternative<Select>(statement.node) || std::holds_alternative<Insert>(statement.node) ||
+           std::holds_alternative<Update>(statement.node) || std::holds_alternative<Delete>(statement.node);
+}
+
+} // namespace
+
+std::unique_ptr<Session> Session::open(std::shared_ptr<Instance> instance, const Login& login) {
+    return answered([&]() -> std::unique_ptr<Session> {
+        if (!login.user.empty() && !instance->authenticates(login.user, login.password)) {
+            throw errors::loginFailed(login.user);
+        }
+        return std::make_unique<ServerSession>(std::move(instance), login);
+    });
+}
+
+ServerSession::ServerSession(std::shared_ptr<Instance> instance, Login login)
+    : instance_(std::move(instance)), login_(std::move(login)) {
+    const std::string name = login_.database.empty() ? std::string(kMaster) : login_.database;
+    current_ = open(name);
+    if (current_ == nullptr) {
+        throw errors::cannotOpenDatabase(name);
+    }
+}
+
+ServerSession::~ServerSession() {
+    stopBatch();
+}
+
+void ServerSession::stopBatch() {
+    if (running_ != nullptr) {
+        std::exchange(running_, nullptr)->stop();
+    }
+}
+
+std::shared_ptr<Database> ServerSession::open(std::string_view name) {
+    const std::string key = collationKey(name);
+    const auto entry = instance_->database(name);
+    const auto known = databases_.find(key);
+    if (known != databases_.end()) {
+        if (entry && entry->file == known->second->entry().file && entry->id == known->second->entry().id) {
+            return known->second;
+        }
+        databases_.erase(known); // dropped by another session, and perhaps made again
+    }
+    if (!entry) {
+        return nullptr;
+    }
+    std::shared_ptr<Database> database;
+    try {
+        database = std::make_shared<Database>(*entry);
+    } catch (const sqlite::Failure&) {
+        return nullptr; // registered, but its file can't be opened
+    }
+    database->functions().fact = [this](std::string_view what, const Scalar& argument) { return fact(what, argument); };
+    databases_.emplace(key, database);
+    return database;
+}
+
+void ServerSession::use(std::string_view name) {
+    auto database = open(name);
+    if (database == nullptr) {
+        throw errors::databaseMissing(std::string(name));
+    }
+    current_ = std::move(database);
+}
+
+void ServerSession::forget(std::string_view name) {
+    if (!sameText(name, current_->name())) {
+        databases_.erase(collationKey(name));
+    }
+}
+
+std::unique_ptr<Batch> ServerSession::begin(std::string_view text) {
+    stopBatch();
+    const std::vector<Token> tokens = tokenize(text);
+    Shape shape = shapeOf(tokens);
+    current_->refresh();
+    if (PlanPtr plan = current_->cache().find(shape)) {
+        return std::make_unique<BatchRun>(*this, std::move(plan), std::move(shape));
+    }
+    BatchTree tree = parse(text);
+    const bool single = tree.statements.size() == 1 && mayBePlanned(*tree.statements.front());
+    return std::make_unique<BatchRun>(*this, std::move(tree), single ? std::optional(std::move(shape)) : std::nullopt);
+}
+
+void ServerSession::beginTransaction() {
+    ++transactions_;
+}
+
+void ServerSession::takeBack(Database& database) {
+    joined_.erase(&database);
+    database.rollback();
+    database.catalog().settleIdentities();
+    database.refresh();
+}
+
+void ServerSession::giveUpFirstWrite() {
+    if (firstWrite_ != nullptr && firstWrite_->connection().inTransaction()) {
+        takeBack(*firstWrite_);
+    }
+    firstWrite_ = nullptr;
+}
+
+bool ServerSession::endLostTransaction() {
+    const bool lost = std::any_of(databases_.begin(), databases_.end(), [this](const auto& one) {
+        return joined_.count(one.second.get()) > 0 && !one.second->connection().inTransaction();
+    });
+    if (lost) {
+        rollbackTransaction();
+    }
+    return lost;
+}
+
+void ServerSession::prepareFor(Database& database, bool writes) {
+    firstWrite_ = nullptr;
+    if (writes && transactions_ > 0 && !database.connection().inTransaction()) {
+        try {
+            database.begin();
+            firstWrite_ = &database;
+            joined_.insert(&database);
+        } catch (const sqlite::Failure& failure) {
+            database.raise(failure, nullptr, "");
+        }
+    }
+    database.functions().dayFirst = dayFirst;
+    database.functions().now.clear();
+}
+
+void ServerSession::commitTransaction() {
+    if (transactions_ == 0) {
+        throw errors::noTransaction("COMMIT");
+    }
+    if (transactions_ > 1) {
+        --transactions_;
+        return;
+    }
+    for (const auto& [key, database] : databases_) {
+        try {
+            if (database->connection().inTransaction()) {
+                database->commit();
+            }
+        } catch (const sqlite::Failure& failure) {
+            rollbackTransaction();
+            database->raise(failure, nullptr, "");
+        }
+    }
+    transactions_ = 0;
+    joined_.clear();
+    transactionHolds_.clear();
+}
+
+void ServerSession::rollbackTransaction() {
+    if (transactions_ == 0) {
+        throw errors::noTransaction("ROLLBACK");
+    }
+    transactions_ = 0;
+    for (const auto& [key, database] : databases_) {
+        takeBack(*database);
+    }
+    transactionHolds_.clear();
+}
+
+} // namespace engine

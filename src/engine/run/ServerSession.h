@@ -1,0 +1,95 @@
+#pragma once
+
+// A session from the inside: the databases it has open, its settings, and what it remembers between statements.
+
+#include "engine/run/Database.h"
+#include "engine/run/InternalErrors.h"
+#include "engine/run/Session.h"
+#include "engine/text/Tree.h"
+
+#include <map>
+#include <memory>
+#include <set>
+#include <string>
+#include <vector>
+
+namespace engine {
+
+class BatchRun;
+
+class ServerSession final : public Session {
+public:
+    ServerSession(std::shared_ptr<Instance> instance, Login login);
+    ~ServerSession() override;
+
+    std::unique_ptr<Batch> execute(std::string_view text) override {
+        return answered([&] { return begin(text); });
+    }
+    std::unique_ptr<RowHold> hold(std::string_view select) override {
+        return answered([&] { return takeRows(select); });
+    }
+    const std::string& database() const override { return current_->name(); }
+    std::int64_t lastIdentity() const override { return lastIdentity_; }
+
+    Instance& instance() { return *instance_; }
+    Database& current() { return *current_; }
+    /// Opens another database of the instance, once; nullptr where there is none of that name.
+    std::shared_ptr<Database> open(std::string_view name);
+    /// Throws 911.
+    void use(std::string_view name);
+    /// Before a database is dropped: this session's own connection to it, unless it is the current one.
+    void forget(std::string_view name);
+
+    /// Settings that SET changes.
+    bool dayFirst = false;
+    std::string identityInsert; ///< the table of SET IDENTITY_INSERT … ON, empty where none
+
+    /// What the session answers to the @@variables.
+    void wrote(std::int64_t rows) { rowCount_ = rows; }
+    void failed(int error) { lastError_ = error; }
+    void gaveIdentity(std::int64_t value) { lastIdentity_ = value; }
+
+    void beginTransaction();
+    /// Throws 3902, 3903.
+    void commitTransaction();
+    void rollbackTransaction();
+    bool inTransaction() const { return transactions_ > 0; }
+    /// Holds the rows of a SELECT until the open transaction ends. Throws as `hold` does.
+    void holdUntilTransactionEnds(const Select& select);
+    /// Called before a statement runs on a database: gives it the statement's time, and joins a statement that writes
+    /// to the open transaction. Reads before the first write see what others have committed meanwhile.
+    void prepareFor(Database& database, bool writes);
+    /// After a statement failed: where it was the transaction's first to write, nothing is left to keep others waiting.
+    void giveUpFirstWrite();
+    /// After a statement failed: a full disk and the like make the storage take back all that the open transaction
+    /// wrote to a database; then nothing of it may be committed. True where it was so.
+    bool endLostTransaction();
+
+    /// The one batch that runs; nullptr when it ends.
+    void running(BatchRun* batch) { running_ = batch; }
+    const BatchRun* running() const { return running_; }
+
+private:
+    std::unique_ptr<Batch> begin(std::string_view text);
+    std::unique_ptr<RowHold> takeRows(std::string_view select);
+    Scalar fact(std::string_view name, const Scalar& argument);
+    void stopBatch();
+    std::unique_ptr<RowHold> holdRows(const Select& select);
+    void takeBack(Database& database);
+
+    std::shared_ptr<Instance> instance_;
+    Login login_;
+    std::map<std::string, std::shared_ptr<Database>> databases_; ///< by the collation's key of the name
+    std::shared_ptr<Database> current_;
+    BatchRun* running_ = nullptr;
+    std::int64_t lastIdentity_ = 0;
+    bool anyIdentity_ = false;
+    std::int64_t rowCount_ = 0;
+    int lastError_ = 0;
+    int transactions_ = 0;
+    std::set<const Database*> joined_; ///< databases that the open transaction has written to
+    Database* firstWrite_ = nullptr;   ///< the database that the present statement joined to the transaction
+    std::vector<std::unique_ptr<RowHold>> transactionHolds_;
+};
+
+} // namespace engine

@@ -1,0 +1,91 @@
+#include "engine/run/SessionTables.h"
+
+#include "engine/errors/Error.h"
+#include "engine/run/SystemTables.h"
+#include "engine/store/StoredNames.h"
+#include "engine/values/Collation.h"
+
+#include <sqlite3.h>
+
+namespace engine {
+
+namespace {
+
+std::string joined(const Name& name) {
+    std::string result;
+    for (std::size_t i = 0; i < name.pieces.size(); ++i) {
+        result += (i == 0 ? "" : ".") + name.pieces[i];
+    }
+    return result;
+}
+
+/// The piece that many from the right, empty where there is none.
+std::string piece(const Name& name, std::size_t fromRight) {
+    return fromRight < name.pieces.size() ? name.pieces[name.pieces.size() - 1 - fromRight] : std::string();
+}
+
+void attach(Database& database, const DatabaseEntry& other, const std::string& schema) {
+    sqlite::Statement attached(database.connection(), "SELECT 1 FROM pragma_database_list WHERE name = ?1");
+    attached.bind(1, std::string_view(schema));
+    if (attached.step()) {
+        return;
+    }
+    attached.reset();
+    sqlite::Statement attach(database.connection(), "ATTACH ?1 AS " + stored::quoted(schema));
+    attach.bind(1, std::string_view(other.file.string()));
+    attach.step();
+}
+
+} // namespace
+
+TableFinder::Found SessionTables::find(const Name& name) {
+    const std::string schema = piece(name, 1);
+    const std::string database = piece(name, 2);
+    if (name.pieces.size() > 3) {
+        throw errors::invalidObject(joined(name));
+    }
+    const bool elsewhere = !database.empty() && !sameText(database, session_.database());
+    const bool ofMaster = sameText(database.empty() ? session_.database() : database, "master");
+    const TableInfo* own = systemTable(schema, name.last());
+    const bool everywhere = sameText(schema, "sys") || !sameText(name.last(), "sysdatabases");
+    if (own != nullptr && (everywhere ? !elsewhere || ofMaster : ofMaster)) {
+        systemTables_.push_back(own->name);
+        // The copy has to be there before a statement on it can be prepared.
+        fillSystemTable(own->name, session_.current(), session_.instance());
+        return {"temp", own, true};
+    }
+    if (!schema.empty() && !sameText(schema, "dbo")) {
+        throw errors::invalidObject(joined(name));
+    }
+    if (elsewhere) {
+        return inOtherDatabase(name);
+    }
+    const TableInfo* table = session_.current().catalog().table(name.last());
+    if (table == nullptr) {
+        throw errors::invalidObject(joined(name));
+    }
+    return {"main", table, false};
+}
+
+TableFinder::Found SessionTables::inOtherDatabase(const Name& name) {
+    const std::shared_ptr<Database> other = session_.open(piece(name, 2));
+    if (other == nullptr) {
+        throw errors::invalidObject(joined(name));
+    }
+    other->refresh();
+    const TableInfo* table = other->catalog().table(name.last());
+    if (table == nullptr) {
+        throw errors::invalidObject(joined(name));
+    }
+    foreign_ = true;
+    const std::string schema = "db" + std::to_string(other->entry().id);
+    attach(session_.current(), other->entry(), schema);
+    // Rows are written by the session that uses the database; from elsewhere they are read.
+    return {schema, table, true};
+}
+
+bool SessionTables::takesIdentity(const TableInfo& table) {
+    return !session_.identityInsert.empty() && sameText(session_.identityInsert, table.name);
+}
+
+} // namespace engine

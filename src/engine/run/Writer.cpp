@@ -1,0 +1,179 @@
+#include "engine/run/Writer.h"
+
+#include "engine/errors/BindErrors.h"
+#include "engine/errors/Error.h"
+#include "engine/store/StoredNames.h"
+#include "engine/translate/SqlText.h"
+
+namespace engine {
+
+namespace {
+
+using Source = bound::Parameter::Source;
+using Row = std::vector<Scalar>;
+
+Scalar storedValue(const sqlite::Statement& statement, int column, const DataType& type) {
+    if (statement.isNull(column)) {
+        return {};
+    }
+    if (type.isInteger()) {
+        return statement.integer(column);
+    }
+    if (type.isNumber()) {
+        return statement.real(column);
+    }
+    return std::string(statement.text(column));
+}
+
+class Writer {
+public:
+    Writer(ServerSession& session, Plan& plan, const Bindings& bindings)
+        : session_(session), database_(session.current()), plan_(plan), bindings_(bindings) {}
+
+    std::int64_t write() {
+        try {
+            return inTransaction();
+        } catch (const sqlite::Failure& failure) {
+            settle();
+            database_.raise(failure, plan_.table, plan_.kind == Plan::Kind::Insert ? "INSERT" : "UPDATE");
+        } catch (const Error&) {
+            settle();
+            throw;
+        }
+    }
+
+private:
+    std::int64_t inTransaction() {
+        WriteTransaction transaction(database_);
+        std::optional<sqlite::Transaction> several; // an INSERT of many statements inside of the user's transaction
+        if (plan_.source) {
+            several.emplace(database_.connection());
+        }
+        const std::int64_t rows = plan_.kind == Plan::Kind::Insert ? insert() : change();
+        if (several) {
+            several->commit();
+        }
+        transaction.commit();
+        return rows;
+    }
+
+    std::int64_t insert() {
+        if (plan_.source) {
+            return insertSelected();
+        }
+        giveIdentities();
+        bindLiterals(plan_.statement, plan_.parameters, bindings_);
+        run();
+        if (plan_.givesIdentity) {
+            identityGiven(database_.connection().lastRow());
+        }
+        return database_.connection().changes();
+    }
+
+    std::int64_t insertSelected() {
+        sqlite::Statement& source = *plan_.source;
+        bindLiterals(source, plan_.sourceParameters, bindings_);
+        bindLiterals(plan_.statement, plan_.parameters, bindings_);
+        // All rows are read before the first is written: the table may be its own source.
+        std::vector<Row> rows;
+        const int columns = source.columns();
+        while (source.step()) {
+            Row row;
+            for (int i = 0; i < columns; ++i) {
+                row.push_back(storedValue(source, i, rowType(i)));
+            }
+            rows.push_back(std::move(row));
+        }
+        source.reset();
+        for (const Row& row : rows) {
+            for (std::size_t i = 0; i < plan_.parameters.size(); ++i) {
+                const bound::Parameter& parameter = plan_.parameters[i];
+                if (parameter.source == Source::Row) {
+                    bindValue(plan_.statement, static_cast<int>(i) + 1,
+                              row[static_cast<std::size_t>(parameter.ordinal)]);
+                }
+            }
+            giveIdentities();
+            run();
+        }
+        return static_cast<std::int64_t>(rows.size());
+    }
+
+    const DataType& rowType(int column) const { return plan_.columns[static_cast<std::size_t>(column)].type; }
+
+    std::int64_t change() {
+        bindLiterals(plan_.statement, plan_.parameters, bindings_);
+        // Asked under the write lock, so that no hold can come in between.
+        if (database_.locks().anyHeldByOthers()) {
+            if (!plan_.rows) {
+                plan_.rows.emplace(database_.connection(), plan_.rowsText);
+            }
+            bindLiterals(*plan_.rows, plan_.rowsParameters, bindings_);
+            refuseHeldRows(database_, plan_.table->name, *plan_.rows);
+        }
+        run();
+        return database_.connection().changes();
+    }
+
+    void run() {
+        plan_.statement.step();
+        plan_.statement.reset();
+    }
+
+    void giveIdentities() {
+        if (plan_.identity == nullptr || plan_.givesIdentity) {
+            return;
+        }
+        for (std::size_t i = 0; i < plan_.parameters.size(); ++i) {
+            if (plan_.parameters[i].source == Source::Identity) {
+                const std::int64_t value = database_.catalog().nextIdentity(*plan_.table);
+                plan_.statement.bind(static_cast<int>(i) + 1, value);
+                session_.gaveIdentity(value);
+                gave_ = true;
+            }
+        }
+    }
+
+    void identityGiven(std::int64_t row) {
+        sqlite::Statement value(database_.connection(), "SELECT " + stored::quoted(plan_.identity->name) + " FROM " +
+                                                            stored::qualifiedTable("main", plan_.table->name) +
+                                                            " WHERE " + translate::rowidOf(*plan_.table) + " = ?1");
+        value.bind(1, row);
+        if (value.step()) {
+            database_.catalog().raiseIdentity(*plan_.table, value.integer(0));
+            session_.gaveIdentity(value.integer(0));
+        }
+    }
+
+    /// A failed insert has used its identity values up all the same.
+    void settle() {
+        if (gave_) {
+            database_.catalog().settleIdentities();
+        }
+    }
+
+    ServerSession& session_;
+    Database& database_;
+    Plan& plan_;
+    const Bindings& bindings_;
+    bool gave_ = false;
+};
+
+} // namespace
+
+std::int64_t write(ServerSession& session, Plan& plan, const Bindings& bindings) {
+    return Writer(session, plan, bindings).write();
+}
+
+void refuseHeldRows(Database& database, const std::string& table, sqlite::Statement& rows) {
+    bool held = false;
+    while (!held && rows.step()) {
+        held = database.locks().heldByOthers(table, rows.integer(0));
+    }
+    rows.reset();
+    if (held) {
+        throw errors::lockTimeout();
+    }
+}
+
+} // namespace engine

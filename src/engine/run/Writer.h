@@ -1,0 +1,15 @@
+#pragma once
+
+#include "engine/run/Plan.h"
+#include "engine/run/ServerSession.h"
+
+namespace engine {
+
+/// Runs an INSERT, UPDATE or DELETE as one all-or-nothing change, durable when this returns unless a transaction is
+/// open. Gives the number of rows written.
+std::int64_t write(ServerSession& session, Plan& plan, const Bindings& bindings);
+
+/// Throws 1222 where another session holds one of the rows that a text finds; called under the write lock.
+void refuseHeldRows(Database& database, const std::string& table, sqlite::Statement& rows);
+
+} // namespace engine

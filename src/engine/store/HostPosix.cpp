@@ -1,0 +1,30 @@
+#include "engine/store/Host.h"
+
+#include <array>
+#include <csignal>
+#include <unistd.h>
+
+namespace engine {
+
+std::string hostName() {
+    constexpr std::size_t kLongestName = 256;
+    std::array<char, kLongestName> name{};
+    gethostname(name.data(), name.size() - 1);
+    return name.data();
+}
+
+std::int64_t processNumber() {
+    return getpid();
+}
+
+void refuseTooLargeFiles() {
+    std::signal(SIGXFSZ, SIG_IGN);
+}
+
+std::tm localTime(std::time_t time) {
+    std::tm result{};
+    localtime_r(&time, &result);
+    return result;
+}
+
+} // namespace engine

@@ -1,0 +1,116 @@
+// The settings of an instance: options of the server, options of its databases, logins.
+
+#include "engine/store/InstanceStore.h"
+#include "engine/store/Passwords.h"
+#include "engine/text/DatabaseOptions.h"
+
+#include <algorithm>
+
+namespace engine {
+
+namespace {
+
+constexpr std::string_view versionOption = "server version"; ///< none that a statement can reach
+
+} // namespace
+
+std::vector<Instance::Option> InstanceStore::readOptions() const {
+    std::vector<Option> all;
+    for (const ServerOption& option : serverOptions()) {
+        all.push_back({option.name, option.minimum, option.maximum, option.standard, option.standard, option.advanced});
+    }
+    sqlite::Statement rows(registry_, "SELECT name, configured, running FROM options");
+    while (rows.step()) {
+        const auto option =
+            std::find_if(all.begin(), all.end(), [&](const Option& o) { return o.name == rows.text(0); });
+        if (option != all.end()) {
+            option->configured = rows.integer(1);
+            option->running = rows.integer(2);
+        }
+    }
+    return all;
+}
+
+std::vector<Instance::Option> InstanceStore::options() const {
+    const std::scoped_lock guard(mutex_);
+    return readOptions();
+}
+
+void InstanceStore::configure(const std::string& name, long long value) {
+    const std::scoped_lock guard(mutex_);
+    sqlite::Transaction transaction(registry_);
+    const std::vector<Option> all = readOptions();
+    const bool advancedShown = std::any_of(
+        all.begin(), all.end(), [](const Option& o) { return o.name == showAdvancedOptions && o.running != 0; });
+    const ServerOption& option = serverOption(name, advancedShown);
+    checkServerOptionValue(option, value);
+
+    sqlite::Statement store(registry_, "INSERT INTO options VALUES (?1, ?2, ?3) "
+                                       "ON CONFLICT (name) DO UPDATE SET configured = ?2");
+    store.bind(1, std::string_view(option.name));
+    store.bind(2, std::int64_t{value});
+    store.bind(3, std::int64_t{option.standard});
+    store.step();
+    transaction.commit();
+}
+
+void InstanceStore::reconfigure() {
+    const std::scoped_lock guard(mutex_);
+    registry_.run("UPDATE options SET running = configured WHERE running <> configured");
+}
+
+int InstanceStore::version() const {
+    const std::scoped_lock guard(mutex_);
+    sqlite::Statement row(registry_, "SELECT running FROM options WHERE name = ?1");
+    row.bind(1, versionOption);
+    return row.step() ? static_cast<int>(row.integer(0)) : standardVersion;
+}
+
+void InstanceStore::setVersion(int version) {
+    const std::scoped_lock guard(mutex_);
+    sqlite::Statement store(registry_, "INSERT OR REPLACE INTO options VALUES (?1, ?2, ?2)");
+    store.bind(1, versionOption);
+    store.bind(2, std::int64_t{version});
+    store.step();
+}
+
+std::vector<std::pair<std::string, bool>> InstanceStore::databaseOptions(const std::string& database) const {
+    const std::scoped_lock guard(mutex_);
+    sqlite::Statement row(registry_, "SELECT value FROM database_options WHERE database_id = ?1 AND name = ?2");
+    row.bind(1, std::int64_t{needed(database).id});
+    std::vector<std::pair<std::string, bool>> values;
+    for (const DatabaseOption& option : engine::databaseOptions()) {
+        row.bind(2, std::string_view(option.name));
+        values.emplace_back(option.name, row.step() ? row.integer(0) != 0 : option.standard);
+        row.reset();
+    }
+    return values;
+}
+
+void InstanceStore::setDatabaseOption(const std::string& database, const std::string& option, bool value) {
+    const std::scoped_lock guard(mutex_);
+    const DatabaseEntry entry = needed(database);
+    const DatabaseOption& known = databaseOption(option);
+    sqlite::Statement store(registry_, "INSERT OR REPLACE INTO database_options VALUES (?1, ?2, ?3)");
+    store.bind(1, std::int64_t{entry.id});
+    store.bind(2, std::string_view(known.name));
+    store.bind(3, std::int64_t{value});
+    store.step();
+}
+
+void InstanceStore::addLogin(const std::string& user, const std::string& password) {
+    const std::scoped_lock guard(mutex_);
+    sqlite::Statement store(registry_, "INSERT OR REPLACE INTO logins VALUES (?1, ?2)");
+    store.bind(1, user);
+    store.bind(2, hashPassword(password));
+    store.step();
+}
+
+bool InstanceStore::authenticates(const std::string& user, const std::string& password) const {
+    const std::scoped_lock guard(mutex_);
+    sqlite::Statement row(registry_, "SELECT hash FROM logins WHERE name = ?1");
+    row.bind(1, user);
+    return row.step() && passwordMatches(password, std::string(row.text(0)));
+}
+
+} // namespace engine

@@ -1,0 +1,247 @@
+#include "engine/store/Sqlite.h"
+
+#include "engine/values/Collation.h"
+
+#include <sqlite3.h>
+
+#include <cerrno>
+#include <chrono>
+#include <fstream>
+#include <utility>
+
+namespace engine::sqlite {
+namespace {
+
+constexpr std::chrono::milliseconds busyTimeout{10'000};
+constexpr std::chrono::milliseconds walRetryPause{5};
+
+/// What the system said when one of the files was last refused, 0 for nothing.
+int refusalOf(sqlite3_file* file) {
+    int number = 0;
+    if (file != nullptr && file->pMethods != nullptr) {
+        file->pMethods->xFileControl(file, SQLITE_FCNTL_LAST_ERRNO, &number);
+    }
+    return number;
+}
+
+bool isTooLarge(sqlite3* handle) {
+    sqlite3_file* file = nullptr;
+    sqlite3_file* log = nullptr;
+    sqlite3_file_control(handle, "main", SQLITE_FCNTL_FILE_POINTER, static_cast<void*>(&file));
+    sqlite3_file_control(handle, "main", SQLITE_FCNTL_JOURNAL_POINTER, static_cast<void*>(&log));
+    return refusalOf(file) == EFBIG || refusalOf(log) == EFBIG;
+}
+
+/// The storage knows a full disk by itself; a file that has reached its largest size is one as well.
+Failure failureOf(sqlite3* handle) {
+    const int code = sqlite3_extended_errcode(handle);
+    const std::string text = sqlite3_errmsg(handle);
+    return {code == SQLITE_IOERR_WRITE && isTooLarge(handle) ? SQLITE_FULL : code, text};
+}
+
+[[noreturn]] void fail(sqlite3* handle) {
+    throw failureOf(handle);
+}
+
+void check(sqlite3* handle, int code) {
+    if (code != SQLITE_OK) {
+        fail(handle);
+    }
+}
+
+int collate(void* /*unused*/, int leftSize, const void* left, int rightSize, const void* right) {
+    return compareTexts({static_cast<const char*>(left), static_cast<std::size_t>(leftSize)},
+                        {static_cast<const char*>(right), static_cast<std::size_t>(rightSize)});
+}
+
+/// SQLite gives the files beside a database (log and index of the log) the rights of the database itself.
+void makeFileOfOwner(const std::filesystem::path& file) {
+    if (std::filesystem::exists(file)) {
+        return;
+    }
+    const std::ofstream made(file, std::ios::app);
+    if (made) {
+        using std::filesystem::perms;
+        std::filesystem::permissions(file, perms::owner_read | perms::owner_write);
+    }
+}
+
+/// A database in use has its log beside it and is never empty. The change to the write-ahead log would wait in vain for
+/// those who use what was there before.
+bool wasEmptied(const std::filesystem::path& file) {
+    std::error_code missing;
+    const auto beside = [&](const char* ending) {
+        std::filesystem::path part = file;
+        return std::filesystem::exists(part += ending, missing);
+    };
+    return std::filesystem::file_size(file, missing) == 0 && (beside("-wal") || beside("-shm"));
+}
+
+/// The change to the write-ahead log needs the file for itself for an instant, and the busy timeout doesn't cover it
+/// when two processes make the same database.
+void useWriteAheadLog(sqlite3* handle) {
+    const auto end = std::chrono::steady_clock::now() + busyTimeout;
+    while (true) {
+        const int code = sqlite3_exec(handle, "PRAGMA journal_mode=WAL", nullptr, nullptr, nullptr);
+        if (code == SQLITE_OK) {
+            return;
+        }
+        if ((code & 0xff) != SQLITE_BUSY || std::chrono::steady_clock::now() >= end) {
+            fail(handle);
+        }
+        sqlite3_sleep(static_cast<int>(walRetryPause.count()));
+    }
+}
+
+void configure(sqlite3* handle) {
+    check(handle, sqlite3_extended_result_codes(handle, 1));
+    check(handle, sqlite3_busy_timeout(handle, static_cast<int>(busyTimeout.count())));
+    check(handle, sqlite3_create_collation_v2(handle, "TSQL", SQLITE_UTF8, nullptr, collate, nullptr));
+    // A name in double quotes that isn't known must be refused, not read as a text.
+    check(handle, sqlite3_db_config(handle, SQLITE_DBCONFIG_DQS_DML, 0, nullptr));
+    check(handle, sqlite3_db_config(handle, SQLITE_DBCONFIG_DQS_DDL, 0, nullptr));
+    useWriteAheadLog(handle);
+    check(handle, sqlite3_exec(handle, "PRAGMA synchronous=FULL; PRAGMA foreign_keys=OFF", nullptr, nullptr, nullptr));
+}
+
+} // namespace
+
+Connection::Connection(const std::filesystem::path& file, bool create) {
+    if (create) {
+        makeFileOfOwner(file);
+    }
+    if (wasEmptied(file)) {
+        throw Failure(SQLITE_NOTADB, sqlite3_errstr(SQLITE_NOTADB));
+    }
+    const int flags = SQLITE_OPEN_READWRITE | SQLITE_OPEN_NOMUTEX;
+    const int code = sqlite3_open_v2(file.string().c_str(), &handle_, flags, nullptr);
+    try {
+        if (code != SQLITE_OK) {
+            fail(handle_);
+        }
+        configure(handle_);
+    } catch (...) {
+        sqlite3_close_v2(handle_);
+        throw;
+    }
+}
+
+Connection::~Connection() {
+    sqlite3_close_v2(handle_);
+}
+
+void Connection::run(const std::string& text) {
+    check(handle_, sqlite3_exec(handle_, text.c_str(), nullptr, nullptr, nullptr));
+}
+
+bool Connection::inTransaction() const {
+    return sqlite3_get_autocommit(handle_) == 0;
+}
+
+std::int64_t Connection::changes() const {
+    return sqlite3_changes64(handle_);
+}
+
+std::int64_t Connection::lastRow() const {
+    return sqlite3_last_insert_rowid(handle_);
+}
+
+Statement::Statement(Connection& connection, std::string_view text) {
+    check(connection.handle(), sqlite3_prepare_v3(connection.handle(), text.data(), static_cast<int>(text.size()),
+                                                  SQLITE_PREPARE_PERSISTENT, &handle_, nullptr));
+    if (handle_ == nullptr) {
+        throw Failure(SQLITE_MISUSE, "an empty statement");
+    }
+}
+
+Statement::~Statement() {
+    sqlite3_finalize(handle_);
+}
+
+Statement::Statement(Statement&& other) noexcept : handle_(std::exchange(other.handle_, nullptr)) {}
+
+Statement& Statement::operator=(Statement&& other) noexcept {
+    std::swap(handle_, other.handle_);
+    return *this;
+}
+
+void Statement::bindNull(int place) {
+    check(sqlite3_db_handle(handle_), sqlite3_bind_null(handle_, place));
+}
+
+void Statement::bind(int place, std::int64_t value) {
+    check(sqlite3_db_handle(handle_), sqlite3_bind_int64(handle_, place, value));
+}
+
+void Statement::bind(int place, double value) {
+    check(sqlite3_db_handle(handle_), sqlite3_bind_double(handle_, place, value));
+}
+
+void Statement::bind(int place, std::string_view value) {
+    // A null pointer would bind NULL; an empty view may carry one.
+    const char* data = value.data() == nullptr ? "" : value.data();
+    check(sqlite3_db_handle(handle_),
+          sqlite3_bind_text64(handle_, place, data, value.size(), SQLITE_TRANSIENT, SQLITE_UTF8));
+}
+
+bool Statement::step() {
+    const int code = sqlite3_step(handle_);
+    if (code == SQLITE_ROW) {
+        return true;
+    }
+    if (code != SQLITE_DONE) {
+        // The error is taken before the reset, which frees the locks that the failed statement kept.
+        const Failure failure = failureOf(sqlite3_db_handle(handle_));
+        sqlite3_reset(handle_);
+        throw failure;
+    }
+    return false;
+}
+
+void Statement::reset() {
+    sqlite3_reset(handle_);
+}
+
+int Statement::columns() const {
+    return sqlite3_column_count(handle_);
+}
+
+bool Statement::isNull(int column) const {
+    return sqlite3_column_type(handle_, column) == SQLITE_NULL;
+}
+
+std::int64_t Statement::integer(int column) const {
+    return sqlite3_column_int64(handle_, column);
+}
+
+double Statement::real(int column) const {
+    return sqlite3_column_double(handle_, column);
+}
+
+std::string_view Statement::text(int column) const {
+    const auto* data = reinterpret_cast<const char*>(sqlite3_column_text(handle_, column));
+    if (data == nullptr) {
+        return {};
+    }
+    return {data, static_cast<std::size_t>(sqlite3_column_bytes(handle_, column))};
+}
+
+Transaction::Transaction(Connection& connection) : connection_(connection), nested_(connection.inTransaction()) {
+    connection_.run(nested_ ? "SAVEPOINT nested" : "BEGIN IMMEDIATE");
+}
+
+Transaction::~Transaction() {
+    // A full disk and the like may have ended the transaction already.
+    if (!open_ || !connection_.inTransaction()) {
+        return;
+    }
+    const char* text = nested_ ? "ROLLBACK TO nested; RELEASE nested" : "ROLLBACK";
+    sqlite3_exec(connection_.handle(), text, nullptr, nullptr, nullptr);
+}
+
+void Transaction::commit() {
+    connection_.run(nested_ ? "RELEASE nested" : "COMMIT");
+    open_ = false;
+}
+
+} // namespace engine::sqlite

@@ -1,0 +1,87 @@
+#pragma once
+
+#include "engine/errors/Error.h"
+#include "engine/text/Lexer.h"
+
+#include <string>
+#include <string_view>
+#include <utility>
+#include <vector>
+
+namespace engine {
+
+/// A batch as a row of tokens with a present one, and the verbs by which a grammar walks it.
+class TokenStream {
+protected:
+    explicit TokenStream(std::string_view batch);
+
+    const Token& now() const { return tokens_[at_]; }
+    const Token& ahead(std::size_t tokens) const;
+    const Token& last() const { return tokens_[at_ == 0 ? 0 : at_ - 1]; }
+    bool atEnd() const { return now().kind == Token::Kind::End; }
+    bool at(Keyword keyword) const { return now().is(keyword); }
+    bool at(std::string_view symbol) const { return now().is(symbol); }
+    /// A word that is not reserved, such as CAST.
+    bool atWord(std::string_view word) const;
+
+    const Token& consume();
+    bool consumeIf(Keyword keyword);
+    bool consumeIf(std::string_view symbol);
+    bool consumeIfWord(std::string_view word);
+    void expect(Keyword keyword);
+    void expect(std::string_view symbol);
+    void expectWord(std::string_view word);
+    std::string expectName();
+    std::string expectText();
+    /// Digits with an optional sign.
+    long long expectInteger();
+
+    /// 102 or 156 at the present token, 102 at the last one where the batch ends.
+    [[noreturn]] void refuse() const;
+    /// 102 or 156 at a token.
+    [[noreturn]] static void refuse(const Token& token);
+    /// The token that an error noticed here is told to be near.
+    const Token& nearest() const { return atEnd() ? last() : now(); }
+    /// How many literals of the batch lie behind the present token.
+    int literalsConsumed() const { return literals_; }
+    std::string textBetween(int begin, int end) const;
+
+    /// One more operator over all that the present expression holds already; 191 where the tree becomes too tall.
+    void grow();
+
+    /// A nesting of selects, brackets or statements while it lives; 191 where it is too deep.
+    class Level {
+    public:
+        explicit Level(TokenStream& stream);
+        ~Level();
+        Level(const Level&) = delete;
+        Level& operator=(const Level&) = delete;
+
+    private:
+        TokenStream& stream_;
+        int outer_;
+    };
+
+    /// Measures an expression apart from those parsed before it.
+    class Measure {
+    public:
+        explicit Measure(TokenStream& stream) : stream_(stream), outer_(std::exchange(stream.height_, 0)) {}
+        ~Measure();
+        Measure(const Measure&) = delete;
+        Measure& operator=(const Measure&) = delete;
+
+    private:
+        TokenStream& stream_;
+        int outer_;
+    };
+
+private:
+    std::string_view batch_;
+    std::vector<Token> tokens_;
+    std::size_t at_ = 0;
+    int literals_ = 0;
+    int depth_ = 0;
+    int height_ = 0;
+};
+
+} // namespace engine

@@ -1,0 +1,70 @@
+#include "engine/text/Shape.h"
+
+#include "engine/text/Lexer.h"
+#include "engine/values/Scalar.h"
+
+namespace engine {
+
+namespace {
+
+std::string_view markerOf(const LiteralToken& literal) {
+    switch (literal.kind) {
+    case Literal::Kind::Null:
+        return "";
+    case Literal::Kind::Integer:
+        return "?i";
+    case Literal::Kind::Decimal:
+        return typeOf({literal.kind, literal.text}).kind == DataType::Kind::BigInt ? "?b" : "?d";
+    case Literal::Kind::Float:
+        return "?f";
+    case Literal::Kind::Text:
+        return "?t";
+    case Literal::Kind::NationalText:
+        return "?n";
+    }
+    return "";
+}
+
+} // namespace
+
+Literal::Kind literalKind(const Token& token) {
+    switch (token.kind) {
+    case Token::Kind::Integer:
+        return Literal::Kind::Integer;
+    case Token::Kind::Decimal:
+        return Literal::Kind::Decimal;
+    case Token::Kind::Float:
+        return Literal::Kind::Float;
+    case Token::Kind::Text:
+        return Literal::Kind::Text;
+    case Token::Kind::NationalText:
+        return Literal::Kind::NationalText;
+    default:
+        return Literal::Kind::Null;
+    }
+}
+
+Shape shapeOf(std::span<const Token> tokens) {
+    constexpr std::size_t kUsualLength = 8;
+    Shape shape;
+    shape.key.reserve(tokens.size() * kUsualLength);
+    for (const Token& token : tokens) {
+        if (token.kind == Token::Kind::End)
+            break;
+        if (!shape.key.empty())
+            shape.key += ' ';
+        if (token.isLiteral()) {
+            shape.literals.push_back({literalKind(token), valueOf(token)});
+            shape.key += markerOf(shape.literals.back());
+        } else {
+            shape.key += token.keyword == Keyword::None ? token.text : textOf(token.keyword);
+        }
+    }
+    return shape;
+}
+
+Shape shapeOf(std::string_view statement) {
+    return shapeOf(tokenize(statement));
+}
+
+} // namespace engine

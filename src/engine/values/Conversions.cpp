@@ -1,0 +1,222 @@
+#include "engine/values/Conversions.h"
+
+#include "engine/errors/ConversionErrors.h"
+#include "engine/values/Collation.h"
+#include "engine/values/DecimalDigits.h"
+
+#include <algorithm>
+#include <array>
+#include <cerrno>
+#include <charconv>
+#include <cmath>
+#include <cstdio>
+#include <limits>
+
+namespace engine {
+namespace {
+
+using Kind = DataType::Kind;
+
+struct IntegerKind {
+    Kind kind;
+    const char* name;
+    std::int64_t minimum, maximum;
+};
+
+constexpr std::array<IntegerKind, 5> integerKinds{{
+    {Kind::Bit, "bit", 0, 1},
+    {Kind::TinyInt, "tinyint", 0, 255},
+    {Kind::SmallInt, "smallint", -32768, 32767},
+    {Kind::Int, "int", std::numeric_limits<std::int32_t>::min(), std::numeric_limits<std::int32_t>::max()},
+    {Kind::BigInt, "bigint", std::numeric_limits<std::int64_t>::min(), std::numeric_limits<std::int64_t>::max()},
+}};
+
+const IntegerKind& kindOf(const DataType& target) {
+    for (const IntegerKind& kind : integerKinds) {
+        if (kind.kind == target.kind) {
+            return kind;
+        }
+    }
+    throw InternalError("a conversion to an integer of a type that is none: " + toText(target));
+}
+
+std::string_view trimmed(std::string_view text) {
+    const std::size_t first = text.find_first_not_of(' ');
+    if (first == std::string_view::npos) {
+        return {};
+    }
+    return text.substr(first, text.find_last_not_of(' ') - first + 1);
+}
+
+Error integerRefused(const IntegerKind& kind, std::string_view text, const char* source) {
+    return kind.kind == Kind::BigInt ? errors::conversionError(source, kind.name)
+                                     : errors::intConversion(source, std::string(text), kind.name);
+}
+
+Error integerOverflows(const IntegerKind& kind, std::string_view text, const char* source) {
+    switch (kind.kind) {
+    case Kind::TinyInt:
+        return errors::textOverflowsSmallInt(source, std::string(text), "INT1");
+    case Kind::SmallInt:
+        return errors::textOverflowsSmallInt(source, std::string(text), "INT2");
+    case Kind::Int:
+        return errors::textOverflowsInt(source, std::string(text));
+    default:
+        return errors::conversionOverflow("expression", kind.name);
+    }
+}
+
+/// The digits of a number without its sign; a sign alone counts as 0.
+bool allDigits(std::string_view digits) {
+    return std::all_of(digits.begin(), digits.end(), [](char c) { return c >= '0' && c <= '9'; });
+}
+
+} // namespace
+
+std::int64_t toInteger(std::string_view text, const DataType& target, const char* sourceType) {
+    const IntegerKind& kind = kindOf(target);
+    std::string_view digits = trimmed(text);
+    const bool negative = digits.starts_with('-');
+    if (negative || digits.starts_with('+')) {
+        digits.remove_prefix(1);
+    }
+    if (!allDigits(digits)) {
+        if (kind.kind == Kind::Bit) {
+            const std::string word = lower(trimmed(text));
+            if (word == "true" || word == "false") {
+                return word == "true" ? 1 : 0;
+            }
+        }
+        throw integerRefused(kind, text, sourceType);
+    }
+    if (kind.kind == Kind::Bit) {
+        return digits.find_first_not_of('0') == std::string_view::npos ? 0 : 1;
+    }
+    const std::string number = (negative ? "-" : "") + std::string(digits.empty() ? "0" : digits);
+    std::int64_t value = 0;
+    const auto read = std::from_chars(number.data(), number.data() + number.size(), value);
+    if (read.ec != std::errc{} || value < kind.minimum || value > kind.maximum) {
+        throw integerOverflows(kind, text, sourceType);
+    }
+    return value;
+}
+
+std::int64_t toInteger(double number, const DataType& target) {
+    const IntegerKind& kind = kindOf(target);
+    if (kind.kind == Kind::Bit) {
+        return number != 0 ? 1 : 0;
+    }
+    const double whole = std::trunc(number);
+    // The largest bigint has no double of its own; the next one above it is out.
+    const bool inside = whole >= static_cast<double>(kind.minimum) &&
+                        (kind.kind == Kind::BigInt ? whole < 0x1p63 : whole <= static_cast<double>(kind.maximum));
+    if (!inside) {
+        throw errors::conversionOverflow("expression", kind.name);
+    }
+    return static_cast<std::int64_t>(whole);
+}
+
+std::int64_t toInteger(std::int64_t number, const DataType& target) {
+    const IntegerKind& kind = kindOf(target);
+    if (kind.kind == Kind::Bit) {
+        return number != 0 ? 1 : 0;
+    }
+    if (number >= kind.minimum && number <= kind.maximum) {
+        return number;
+    }
+    throw kind.kind == Kind::Int ? errors::conversionOverflow("expression", kind.name)
+                                 : errors::valueOverflow(kind.name, integerText(number));
+}
+
+bool toBit(std::string_view text) {
+    return toInteger(text, DataType{Kind::Bit}) != 0;
+}
+
+double toDecimal(std::string_view text, const DataType& target) {
+    std::optional<DecimalDigits> digits = DecimalDigits::parse(trimmed(text));
+    if (!digits) {
+        throw errors::numericConversion();
+    }
+    digits->roundTo(target.scale);
+    if (digits->wholeDigits() > target.precision - target.scale) {
+        throw errors::conversionOverflow("varchar", "numeric");
+    }
+    return digits->value();
+}
+
+double toDecimal(double number, const DataType& target) {
+    if (!std::isfinite(number)) {
+        throw errors::conversionOverflow("float", "numeric");
+    }
+    DecimalDigits digits = DecimalDigits::of(number, target.scale);
+    digits.roundTo(target.scale);
+    if (digits.wholeDigits() > target.precision - target.scale) {
+        throw errors::conversionOverflow("numeric", "numeric");
+    }
+    return digits.value();
+}
+
+double toFloat(std::string_view text) {
+    std::string_view number = trimmed(text);
+    if (number.empty()) {
+        return 0;
+    }
+    const bool doubleSign = number.starts_with("+-");
+    if (number.starts_with('+')) {
+        number.remove_prefix(1);
+    }
+    // No words such as "inf".
+    const bool plain = !doubleSign && number.find_first_not_of("0123456789.eE+-") == std::string_view::npos;
+    double value = 0;
+    const auto read = std::from_chars(number.data(), number.data() + number.size(), value);
+    if (!plain || read.ec != std::errc{} || read.ptr != number.data() + number.size()) {
+        throw errors::conversionError("varchar", "float");
+    }
+    return value;
+}
+
+double finiteNumber(double number, const DataType& type) {
+    if (!std::isfinite(number)) {
+        throw errors::conversionOverflow("expression", type.kind == Kind::Real ? "real" : "float");
+    }
+    return number;
+}
+
+std::string integerText(std::int64_t number) {
+    return std::to_string(number);
+}
+
+std::string decimalText(double number, const DataType& type) {
+    if (!std::isfinite(number)) {
+        throw errors::conversionOverflow("float", "numeric");
+    }
+    DecimalDigits digits = DecimalDigits::of(number, type.scale);
+    digits.roundTo(type.scale);
+    return digits.text();
+}
+
+std::string floatText(double number) {
+    std::array<char, 32> buffer{};
+    std::snprintf(buffer.data(), buffer.size(), "%.6g", number == 0 ? 0.0 : number);
+    std::string text = buffer.data();
+    // The server's exponents have three digits.
+    const std::size_t exponent = text.find('e');
+    if (exponent != std::string::npos && text.size() - exponent == 4) {
+        text.insert(exponent + 2, "0");
+    }
+    return text;
+}
+
+std::string_view fitText(std::string_view text, int length) {
+    // A text has at most as many characters as bytes.
+    if (length < 0 || text.size() <= static_cast<std::size_t>(length)) {
+        return text;
+    }
+    const std::string_view kept = leftOf(text, static_cast<std::size_t>(length));
+    if (text.find_first_not_of(' ', kept.size()) != std::string_view::npos) {
+        throw errors::truncated();
+    }
+    return kept;
+}
+
+} // namespace engine

@@ -1,0 +1,294 @@
+#include "engine/errors/ConversionErrors.h"
+#include "engine/values/CalendarDate.h"
+#include "engine/values/Conversions.h"
+
+#include <array>
+#include <chrono>
+#include <cmath>
+
+namespace engine {
+namespace {
+
+enum class Order { YearMonthDay, MonthDayYear, DayMonthYear };
+
+struct StyleOrder {
+    int style;
+    std::optional<Order> order; ///< none: the order of the session
+};
+
+constexpr auto yearFirst = Order::YearMonthDay;
+constexpr auto monthFirst = Order::MonthDayYear;
+constexpr auto dayFirstOrder = Order::DayMonthYear;
+
+/// How a style that reads a text orders its numbers; a year of two digits may stand wherever one of four does.
+constexpr std::array styleOrders{
+    StyleOrder{0, {}},
+    StyleOrder{100, {}},
+    StyleOrder{9, {}},
+    StyleOrder{109, {}},
+    StyleOrder{1, monthFirst},
+    StyleOrder{101, monthFirst},
+    StyleOrder{10, monthFirst},
+    StyleOrder{110, monthFirst},
+    StyleOrder{2, yearFirst},
+    StyleOrder{102, yearFirst},
+    StyleOrder{11, yearFirst},
+    StyleOrder{111, yearFirst},
+    StyleOrder{12, yearFirst},
+    StyleOrder{112, yearFirst},
+    StyleOrder{20, yearFirst},
+    StyleOrder{120, yearFirst},
+    StyleOrder{21, yearFirst},
+    StyleOrder{121, yearFirst},
+    StyleOrder{126, yearFirst},
+    StyleOrder{3, dayFirstOrder},
+    StyleOrder{103, dayFirstOrder},
+    StyleOrder{4, dayFirstOrder},
+    StyleOrder{104, dayFirstOrder},
+    StyleOrder{5, dayFirstOrder},
+    StyleOrder{105, dayFirstOrder},
+};
+
+Order orderOf(std::optional<int> style, bool dayFirst) {
+    const Order session = dayFirst ? Order::DayMonthYear : Order::MonthDayYear;
+    if (!style) {
+        return session;
+    }
+    for (const StyleOrder& entry : styleOrders) {
+        if (entry.style == *style) {
+            return entry.order.value_or(session);
+        }
+    }
+    throw errors::dateStyleFromText(*style);
+}
+
+struct Number {
+    int value = 0;
+    int digits = 0;
+};
+
+/// Reads a date and a time from a text; every refusal is 241, or 242 where a number is out of its range.
+class Reader {
+public:
+    Reader(std::string_view text, Order order) : text_(text), order_(order) {}
+
+    CalendarDate read() {
+        skipBlanks();
+        if (atEnd()) {
+            return date_;
+        }
+        const Number first = number();
+        if (peek() == ':') {
+            readTime(first);
+        } else {
+            const bool marked = readDate(first);
+            const bool time = marked ? takes('T') : takesBlank();
+            skipBlanks();
+            if (marked && time) {
+                readTime(number());
+            } else if (!atEnd()) {
+                time ? readTime(number()) : refuse();
+            }
+        }
+        skipBlanks();
+        if (!atEnd()) {
+            refuse();
+        }
+        checkRanges();
+        return date_;
+    }
+
+private:
+    [[noreturn]] static void refuse() { throw errors::dateConversion(); }
+
+    bool atEnd() const { return place_ == text_.size(); }
+    char peek() const { return atEnd() ? '\0' : text_[place_]; }
+    bool takes(char wanted) {
+        const bool found = peek() == wanted;
+        place_ += found ? 1 : 0;
+        return found;
+    }
+    bool takesBlank() { return takes(' '); }
+    void skipBlanks() {
+        while (takesBlank()) {
+        }
+    }
+
+    Number number() {
+        constexpr int longest = 8;
+        Number number;
+        while (peek() >= '0' && peek() <= '9') {
+            number.value = number.value * 10 + (text_[place_++] - '0');
+            if (++number.digits > longest) {
+                refuse();
+            }
+        }
+        if (number.digits == 0) {
+            refuse();
+        }
+        return number;
+    }
+
+    /// True where a time may follow behind a `T`.
+    bool readDate(Number first) {
+        if (!isSeparator(peek())) {
+            readUnseparated(first);
+            return peek() == 'T';
+        }
+        const char separator = text_[place_++];
+        const Number second = number();
+        if (!isSeparator(peek())) {
+            refuse();
+        }
+        ++place_;
+        const Number third = number();
+        // The form with a T is the international one, whatever the order of the session.
+        const bool international = separator == '-' && first.digits == 4 && peek() == 'T';
+        setDate(first, second, third, international ? Order::YearMonthDay : order_);
+        return international;
+    }
+
+    static bool isSeparator(char character) { return character == '/' || character == '-' || character == '.'; }
+
+    void readUnseparated(Number number) {
+        switch (number.digits) {
+        case 8:
+            date_.year = number.value / 10000;
+            break;
+        case 6:
+            date_.year = yearOfTwoDigits(number.value / 10000);
+            break;
+        case 4:
+            date_.year = number.value;
+            return;
+        default:
+            refuse();
+        }
+        date_.month = number.value / 100 % 100;
+        date_.day = number.value % 100;
+    }
+
+    void setDate(Number first, Number second, Number third, Order order) {
+        if (second.digits > 2) {
+            refuse();
+        }
+        if (first.digits == 4) {
+            date_.year = first.value;
+            setMonthAndDay(second, third, order == Order::DayMonthYear);
+        } else if (third.digits == 4) {
+            date_.year = third.value;
+            setMonthAndDay(first, second, order == Order::DayMonthYear);
+        } else if (order == Order::YearMonthDay) {
+            date_.year = yearOfShort(first);
+            setMonthAndDay(second, third, false);
+        } else {
+            date_.year = yearOfShort(third);
+            setMonthAndDay(first, second, order == Order::DayMonthYear);
+        }
+    }
+
+    void setMonthAndDay(Number first, Number second, bool dayFirst) {
+        if (first.digits > 2 || second.digits > 2) {
+            refuse();
+        }
+        date_.month = dayFirst ? second.value : first.value;
+        date_.day = dayFirst ? first.value : second.value;
+    }
+
+    static int yearOfShort(Number year) {
+        if (year.digits > 2) {
+            refuse();
+        }
+        return yearOfTwoDigits(year.value);
+    }
+
+    static int yearOfTwoDigits(int year) {
+        constexpr int lastOfThisCentury = 49;
+        return year + (year <= lastOfThisCentury ? 2000 : 1900);
+    }
+
+    void readTime(Number hour) {
+        date_.hour = shortNumber(hour);
+        if (!takes(':')) {
+            refuse();
+        }
+        date_.minute = shortNumber(number());
+        if (takes(':')) {
+            date_.second = shortNumber(number());
+            if (takes('.')) {
+                date_.millisecond = fraction(number());
+            } else if (takes(':')) {
+                date_.millisecond = number().value;
+            }
+        }
+        readHalfOfDay();
+    }
+
+    static int shortNumber(Number number) {
+        if (number.digits > 2) {
+            refuse();
+        }
+        return number.value;
+    }
+
+    static int fraction(Number number) {
+        constexpr std::array<int, 4> scales{0, 100, 10, 1};
+        if (number.digits > 3) {
+            refuse();
+        }
+        return number.value * scales[static_cast<std::size_t>(number.digits)];
+    }
+
+    void readHalfOfDay() {
+        skipBlanks();
+        const bool afternoon = takes('P') || takes('p');
+        if (!afternoon && !takes('A') && !takes('a')) {
+            return;
+        }
+        if (!takes('M') && !takes('m')) {
+            refuse();
+        }
+        if (date_.hour == 0 || date_.hour > 12) {
+            throw errors::dateOutOfRange();
+        }
+        date_.hour = date_.hour % 12 + (afternoon ? 12 : 0);
+    }
+
+    void checkRanges() const {
+        const std::chrono::year_month_day day{std::chrono::year{date_.year},
+                                              std::chrono::month{static_cast<unsigned>(date_.month)},
+                                              std::chrono::day{static_cast<unsigned>(date_.day)}};
+        if (!day.ok() || date_.hour > 23 || date_.minute > 59 || date_.second > 59 || date_.millisecond > 999) {
+            throw errors::dateOutOfRange();
+        }
+    }
+
+    std::string_view text_;
+    Order order_;
+    std::size_t place_ = 0;
+    CalendarDate date_;
+};
+
+} // namespace
+
+std::string toDateTime(std::string_view text, std::optional<int> style, bool dayFirst) {
+    const CalendarDate date = Reader(text, orderOf(style, dayFirst)).read();
+    return CalendarDate::ofTicks(date.days(), date.ticks()).text();
+}
+
+std::string toDateTime(double days) {
+    constexpr double farthest = 4e6; // well outside the range of years, well inside an integer's
+    if (!(std::abs(days) < farthest)) {
+        throw errors::conversionOverflow("expression", "datetime");
+    }
+    const double whole = std::floor(days);
+    const auto ticks = std::llround((days - whole) * static_cast<double>(ticksOfDay));
+    return CalendarDate::ofTicks(static_cast<std::int64_t>(whole), ticks).text();
+}
+
+double daysOf(std::string_view dateTime) {
+    const CalendarDate date = CalendarDate::stored(dateTime);
+    return static_cast<double>(date.days()) + static_cast<double>(date.ticks()) / static_cast<double>(ticksOfDay);
+}
+
+} // namespace engine

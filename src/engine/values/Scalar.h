@@ -1,0 +1,52 @@
+#pragma once
+
+// One value of the dialect on its way between a literal, an expression and the storage, and the one place where a value
+// goes from type to type.
+
+#include "engine/values/DataType.h"
+#include "engine/values/Literal.h"
+
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <variant>
+
+namespace engine {
+
+/// Null, an integer (bits too), a double (decimals too), or a text (dates too, see Conversions.h).
+using Scalar = std::variant<std::monostate, std::int64_t, double, std::string>;
+
+inline bool isNull(const Scalar& value) {
+    return std::holds_alternative<std::monostate>(value);
+}
+
+/// What a conversion is for: CAST cuts a text that is too long, an assignment refuses it with 8152.
+enum class Purpose { Cast, Assignment };
+
+struct ConversionRequest {
+    DataType from, to;
+    std::optional<int> style;
+    Purpose purpose = Purpose::Cast;
+    bool dayFirst = false;
+};
+
+/// Throws 241, 242, 245, 8114, 8115, 8152.
+Scalar convert(Scalar value, const ConversionRequest& request);
+
+/// Whether a value of one type has to be changed to stand in the other as far as the storage is concerned.
+bool needsConversion(const DataType& from, const DataType& to, Purpose purpose);
+
+/// The value of a literal; `negated` for the minus before it.
+Scalar scalarOf(const Literal& literal, bool negated);
+DataType typeOf(const Literal& literal);
+/// The decimal of just the digits that a number is written with.
+DataType decimalOf(const Literal& literal);
+
+/// A type in one number, so that it can travel as an argument of a function of the storage.
+std::int64_t encodeType(const DataType& type);
+DataType decodeType(std::int64_t code);
+
+/// The bare name of a type, as the server's messages have it: `nvarchar`, `int`.
+std::string typeName(const DataType& type);
+
+} // namespace engine

@@ -1,0 +1,155 @@
+#include "engine/store/RowLocks.h"
+
+#include "support/TemporaryFolder.h"
+
+#include <gtest/gtest.h>
+
+#include <array>
+#include <csignal>
+#include <filesystem>
+#include <sys/wait.h>
+#include <unistd.h>
+
+namespace engine {
+namespace {
+
+class Locks : public testing::Test {
+protected:
+    support::TemporaryFolder folder;
+    std::filesystem::path database = folder.path() / "a.mdf";
+};
+
+TEST_F(Locks, ARowHeldIsRefusedToOthersAtOnce) {
+    RowLocks first(database);
+    RowLocks second(database);
+    EXPECT_TRUE(first.acquire("progetti", 7));
+    EXPECT_FALSE(second.acquire("progetti", 7));
+    EXPECT_TRUE(second.acquire("progetti", 8));
+    EXPECT_TRUE(second.acquire("conti", 7));
+    first.release("progetti", 7);
+    EXPECT_TRUE(second.acquire("progetti", 7));
+}
+
+TEST_F(Locks, TheNameOfTheTableFollowsTheCollation) {
+    RowLocks first(database);
+    RowLocks second(database);
+    EXPECT_TRUE(first.acquire("Citt\u00e0", 1));
+    EXPECT_FALSE(second.acquire("CITT\u00c0", 1));
+    EXPECT_TRUE(second.heldByOthers("citt\u00e0", 1));
+    EXPECT_TRUE(second.acquire("Citta", 1));
+}
+
+TEST_F(Locks, HoldsAreCounted) {
+    RowLocks first(database);
+    RowLocks second(database);
+    EXPECT_TRUE(first.acquire("t", 1));
+    EXPECT_TRUE(first.acquire("t", 1));
+    first.release("t", 1);
+    EXPECT_FALSE(second.acquire("t", 1));
+    first.release("t", 1);
+    EXPECT_TRUE(second.acquire("t", 1));
+    first.release("t", 1);
+    EXPECT_TRUE(first.heldByOthers("t", 1)) << "a release too many takes nothing from another";
+}
+
+TEST_F(Locks, TellWhatOthersHoldAndNotWhatIsHeldHere) {
+    RowLocks first(database);
+    RowLocks second(database);
+    EXPECT_FALSE(first.anyHeldByOthers());
+    ASSERT_TRUE(first.acquire("t", -5));
+    EXPECT_FALSE(first.anyHeldByOthers());
+    EXPECT_FALSE(first.heldByOthers("t", -5));
+    EXPECT_TRUE(second.anyHeldByOthers());
+    EXPECT_TRUE(second.heldByOthers("t", -5));
+    EXPECT_FALSE(second.heldByOthers("t", 5));
+    first.release("t", -5);
+    EXPECT_FALSE(second.anyHeldByOthers());
+}
+
+TEST_F(Locks, EndWithTheirHolder) {
+    RowLocks second(database);
+    {
+        RowLocks first(database);
+        ASSERT_TRUE(first.acquire("t", 1));
+        EXPECT_TRUE(second.anyHeldByOthers());
+    }
+    EXPECT_FALSE(second.anyHeldByOthers());
+}
+
+TEST_F(Locks, OfAnotherDatabaseAreAnotherMatter) {
+    RowLocks first(database);
+    RowLocks other(folder.path() / "b.mdf");
+    ASSERT_TRUE(first.acquire("t", 1));
+    EXPECT_FALSE(other.anyHeldByOthers());
+    EXPECT_TRUE(other.acquire("t", 1));
+}
+
+TEST_F(Locks, TellWhetherADatabaseIsInUse) {
+    EXPECT_FALSE(RowLocks::databaseInUse(database));
+    {
+        RowLocks first(database);
+        EXPECT_TRUE(RowLocks::databaseInUse(database));
+    }
+    EXPECT_FALSE(RowLocks::databaseInUse(database));
+}
+
+TEST_F(Locks, BelongToTheOwner) {
+    RowLocks locks(database);
+    using std::filesystem::perms;
+    EXPECT_EQ(std::filesystem::status(folder.path() / "a.mdf.locks").permissions(),
+              perms::owner_read | perms::owner_write);
+}
+
+/// A process that holds a row until it is told to end or is killed.
+class Holder {
+public:
+    explicit Holder(const std::filesystem::path& database) {
+        EXPECT_EQ(pipe(ready_.data()), 0);
+        child_ = fork();
+        if (child_ == 0) {
+            RowLocks locks(database);
+            const char held = locks.acquire("t", 1) ? 'y' : 'n';
+            if (write(ready_[1], &held, 1) == 1) {
+                pause();
+            }
+            _exit(0);
+        }
+        char held = 0;
+        EXPECT_EQ(read(ready_[0], &held, 1), 1);
+        EXPECT_EQ(held, 'y');
+    }
+    ~Holder() {
+        kill();
+        close(ready_[0]);
+        close(ready_[1]);
+    }
+    Holder(const Holder&) = delete;
+    Holder& operator=(const Holder&) = delete;
+
+    void kill() {
+        if (child_ > 0) {
+            ::kill(child_, SIGKILL);
+            waitpid(child_, nullptr, 0);
+            child_ = -1;
+        }
+    }
+
+private:
+    std::array<int, 2> ready_{};
+    pid_t child_ = -1;
+};
+
+TEST_F(Locks, OfAnotherProcessAreSeenAndDieWithIt) {
+    RowLocks locks(database);
+    Holder holder(database);
+    EXPECT_TRUE(locks.anyHeldByOthers());
+    EXPECT_TRUE(locks.heldByOthers("t", 1));
+    EXPECT_FALSE(locks.acquire("T", 1));
+    EXPECT_TRUE(locks.acquire("t", 2));
+    holder.kill();
+    EXPECT_FALSE(locks.anyHeldByOthers());
+    EXPECT_TRUE(locks.acquire("t", 1));
+}
+
+} // namespace
+} // namespace engine

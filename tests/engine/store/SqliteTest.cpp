@@ -1,0 +1,188 @@
+#include "engine/store/Sqlite.h"
+
+#include "support/TemporaryFolder.h"
+
+#include <gtest/gtest.h>
+#include <sqlite3.h>
+
+#include <filesystem>
+#include <fstream>
+#include <string>
+
+namespace engine::sqlite {
+namespace {
+
+namespace fs = std::filesystem;
+
+class Storage : public testing::Test {
+protected:
+    std::string answer(Connection& connection, const std::string& text) {
+        Statement statement(connection, text);
+        return statement.step() ? std::string(statement.text(0)) : "no row";
+    }
+
+    support::TemporaryFolder folder;
+    fs::path file = folder.path() / "a.mdf";
+};
+
+TEST_F(Storage, IsDurableAndBelongsToItsOwner) {
+    Connection connection(file, true);
+    connection.run("CREATE TABLE t (a)");
+    EXPECT_EQ(answer(connection, "PRAGMA journal_mode"), "wal");
+    EXPECT_EQ(answer(connection, "PRAGMA synchronous"), "2");
+    EXPECT_EQ(answer(connection, "PRAGMA foreign_keys"), "0");
+    EXPECT_GE(std::stoi(answer(connection, "PRAGMA busy_timeout")), 1000);
+    for (const char* ending : {"", "-wal", "-shm"}) {
+        fs::path part = file;
+        part += ending;
+        EXPECT_EQ(fs::status(part).permissions(), fs::perms::owner_read | fs::perms::owner_write) << part;
+    }
+}
+
+TEST_F(Storage, DoesNotMakeAMissingFileUnasked) {
+    EXPECT_THROW(Connection(file, false), Failure);
+    EXPECT_FALSE(fs::exists(file));
+}
+
+TEST_F(Storage, AFileEmptiedWhileItIsInUseIsNoDatabaseAndNobodyWaitsForIt) {
+    Connection connection(file, true);
+    connection.run("CREATE TABLE t (a)");
+    fs::resize_file(file, 0);
+    try {
+        const Connection other(file, false);
+        FAIL() << "it was opened";
+    } catch (const Failure& failure) {
+        EXPECT_EQ(failure.code(), SQLITE_NOTADB);
+    }
+}
+
+TEST_F(Storage, AnEmptyFileIsADatabaseThatNobodyHasOpenedYet) {
+    std::ofstream(file, std::ios::binary).flush();
+    Connection connection(file, false);
+    connection.run("CREATE TABLE t (a)");
+    EXPECT_EQ(answer(connection, "PRAGMA journal_mode"), "wal");
+}
+
+TEST_F(Storage, TellsExtendedCodesOfFailures) {
+    Connection connection(file, true);
+    connection.run("CREATE TABLE t (a UNIQUE); INSERT INTO t VALUES (1)");
+    Statement insert(connection, "INSERT INTO t VALUES (1)");
+    try {
+        insert.step();
+        FAIL() << "the key is there already";
+    } catch (const Failure& failure) {
+        EXPECT_EQ(failure.code(), SQLITE_CONSTRAINT_UNIQUE);
+        EXPECT_STREQ(failure.what(), "UNIQUE constraint failed: t.a");
+    }
+    EXPECT_THROW(connection.run("SELECT * FROM missing"), Failure);
+    EXPECT_THROW(Statement(connection, "SELEC"), Failure);
+    EXPECT_THROW(Statement(connection, "  "), Failure);
+}
+
+TEST_F(Storage, AFileThatIsNoDatabaseIsRefused) {
+    { Connection made(file, true); }
+    fs::resize_file(file, 0);
+    std::FILE* opened = std::fopen(file.c_str(), "w");
+    ASSERT_NE(opened, nullptr);
+    std::fputs(std::string(5000, 'x').c_str(), opened);
+    std::fclose(opened);
+    try {
+        Connection connection(file, false);
+        FAIL() << "a text is no database";
+    } catch (const Failure& failure) {
+        EXPECT_EQ(failure.code(), SQLITE_NOTADB);
+    }
+}
+
+TEST_F(Storage, AnUnknownNameInDoubleQuotesIsNotAText) {
+    Connection connection(file, true);
+    connection.run("CREATE TABLE t (a)");
+    EXPECT_THROW(connection.run("SELECT \"b\" FROM t"), Failure);
+}
+
+TEST_F(Storage, KnowsTheCollation) {
+    Connection connection(file, true);
+    connection.run("CREATE TABLE t (a TEXT COLLATE TSQL); CREATE INDEX i ON t (a);"
+                   "INSERT INTO t VALUES ('Citt\u00e0'), ('citta'), ('SEDE  ')");
+    EXPECT_EQ(answer(connection, "SELECT count(*) FROM t WHERE a = 'CITT\u00c0 '"), "1");
+    EXPECT_EQ(answer(connection, "SELECT count(*) FROM t WHERE a = 'sede'"), "1");
+    EXPECT_EQ(answer(connection, "SELECT group_concat(a, '|') FROM (SELECT a FROM t ORDER BY a)"),
+              "citta|Citt\u00e0|SEDE  ");
+}
+
+TEST_F(Storage, ValuesComeBackAsTheyWereBound) {
+    Connection connection(file, true);
+    Statement statement(connection, "SELECT ?1, ?2, ?3, ?4, ?5");
+    statement.bind(1, std::int64_t{1} << 60);
+    statement.bind(2, 2.5);
+    statement.bind(3, std::string_view("a\0b", 3));
+    statement.bindNull(4);
+    statement.bind(5, std::string_view());
+    ASSERT_TRUE(statement.step());
+    EXPECT_EQ(statement.columns(), 5);
+    EXPECT_EQ(statement.integer(0), std::int64_t{1} << 60);
+    EXPECT_EQ(statement.real(1), 2.5);
+    EXPECT_EQ(statement.text(2), std::string_view("a\0b", 3));
+    EXPECT_TRUE(statement.isNull(3));
+    EXPECT_EQ(statement.text(3), "");
+    EXPECT_FALSE(statement.isNull(4));
+    EXPECT_FALSE(statement.step());
+}
+
+TEST_F(Storage, AStatementCanBeMoved) {
+    Connection connection(file, true);
+    Statement first(connection, "SELECT 1");
+    Statement second(std::move(first));
+    Statement third(connection, "SELECT 3");
+    third = std::move(second);
+    ASSERT_TRUE(third.step());
+    EXPECT_EQ(third.integer(0), 1);
+}
+
+TEST_F(Storage, ATransactionThatIsNotCommittedIsTakenBack) {
+    Connection connection(file, true);
+    connection.run("CREATE TABLE t (a)");
+    {
+        Transaction transaction(connection);
+        connection.run("INSERT INTO t VALUES (1)");
+        EXPECT_TRUE(connection.inTransaction());
+    }
+    EXPECT_FALSE(connection.inTransaction());
+    {
+        Transaction transaction(connection);
+        connection.run("INSERT INTO t VALUES (2)");
+        transaction.commit();
+    }
+    EXPECT_EQ(answer(connection, "SELECT group_concat(a) FROM t"), "2");
+    EXPECT_EQ(connection.lastRow(), 1);
+}
+
+TEST_F(Storage, ANestedTransactionIsTakenBackAlone) {
+    Connection connection(file, true);
+    connection.run("CREATE TABLE t (a)");
+    Transaction outer(connection);
+    connection.run("INSERT INTO t VALUES (1)");
+    {
+        Transaction inner(connection);
+        connection.run("INSERT INTO t VALUES (2)");
+    }
+    {
+        Transaction inner(connection);
+        connection.run("INSERT INTO t VALUES (3)");
+        inner.commit();
+    }
+    outer.commit();
+    EXPECT_EQ(answer(connection, "SELECT group_concat(a) FROM t"), "1,3");
+}
+
+TEST_F(Storage, AWriterSeesWhatAnotherCommitted) {
+    Connection first(file, true);
+    Connection second(file, false);
+    first.run("CREATE TABLE t (a); INSERT INTO t VALUES (1)");
+    second.run("UPDATE t SET a = a + 1");
+    EXPECT_EQ(second.changes(), 1);
+    EXPECT_EQ(answer(first, "SELECT a FROM t"), "2");
+}
+
+} // namespace
+} // namespace engine::sqlite

@@ -1,0 +1,192 @@
+#include "engine/ExpectError.h"
+#include "engine/values/Conversions.h"
+
+#include <gtest/gtest.h>
+
+#include <optional>
+#include <string>
+
+namespace engine {
+namespace {
+
+const std::string garbage = "241 Conversion failed when converting date and/or time from character string.";
+const std::string outOfRange =
+    "242 The conversion of a varchar data type to a datetime data type resulted in an out-of-range value.";
+
+struct Case {
+    const char* text;
+    std::optional<int> style;
+    bool dayFirst;
+    std::string result; ///< a date alone stands for its midnight
+};
+
+void expectAll(std::initializer_list<Case> cases) {
+    for (const Case& c : cases) {
+        std::string result;
+        const std::string error = errorOf([&] { result = toDateTime(c.text, c.style, c.dayFirst); });
+        const std::string expected = c.result.size() == 10 ? c.result + " 00:00:00.000" : c.result;
+        EXPECT_EQ(result.empty() ? error : result, expected)
+            << '"' << c.text << "\" style " << c.style.value_or(-1) << (c.dayFirst ? " day first" : " month first");
+    }
+}
+
+TEST(DateOfText, WithoutAStyleFollowsTheSession) {
+    expectAll({
+        {"20040307", {}, false, "2004-03-07"},
+        {"20040307", {}, true, "2004-03-07"},
+        {"040307", {}, true, "2004-03-07"},
+        {"2004", {}, false, "2004-01-01"},
+        {"2004-03-07", {}, false, "2004-03-07"},
+        {"2004-03-07", {}, true, "2004-07-03"},
+        {"2004-03-17", {}, true, outOfRange},
+        {"2004-03-17T10:11:12", {}, true, "2004-03-17 10:11:12.000"},
+        {"7/3/2004", {}, true, "2004-03-07"},
+        {"7/3/2004", {}, false, "2004-07-03"},
+        {"7.3.04", {}, true, "2004-03-07"},
+        {"7-3-50", {}, true, "1950-03-07"},
+        {"7-3-49", {}, true, "2049-03-07"},
+        {"31/12/2020", {}, true, "2020-12-31"},
+        {"31/12/2020", {}, false, outOfRange},
+        {"", {}, false, "1900-01-01"},
+        {"   ", {}, false, "1900-01-01"},
+        {" 20040307 ", {}, false, "2004-03-07"},
+    });
+}
+
+TEST(DateOfText, WithAStyleFollowsTheStyle) {
+    expectAll({
+        {"2004-3-7", 102, true, "2004-03-07"},
+        {"2004-3-7", 102, false, "2004-03-07"},
+        {"2004.3.7", 102, false, "2004-03-07"},
+        {"2004/03/07", 111, true, "2004-03-07"},
+        {"04.03.07", 102, true, "2004-03-07"},
+        {"07/03/2004", 103, false, "2004-03-07"},
+        {"07/03/2004", 101, true, "2004-07-03"},
+        {"07.03.2004", 104, false, "2004-03-07"},
+        {"07-03-2004", 105, false, "2004-03-07"},
+        {"7-3-2004", 5, false, "2004-03-07"},
+        {"20040307", 112, true, "2004-03-07"},
+        {"2004-03-07 15:16:17", 120, true, "2004-03-07 15:16:17.000"},
+        {"2004-03-07 15:16:17.123", 121, true, "2004-03-07 15:16:17.123"},
+        {"2004-03-07T15:16:17", 126, true, "2004-03-07 15:16:17.000"},
+        {"2004-31-12", 102, false, outOfRange},
+        {"20040307", 999, false, "9809 The style 999 is not supported for conversions from varchar to datetime."},
+        {"", 102, false, "1900-01-01"},
+    });
+}
+
+TEST(DateOfText, HasATime) {
+    expectAll({
+        {"20040307 10:11", {}, false, "2004-03-07 10:11:00.000"},
+        {"20040307 1:02:03 PM", {}, false, "2004-03-07 13:02:03.000"},
+        {"20040307 12:00am", {}, false, "2004-03-07"},
+        {"20040307 12:00PM", {}, false, "2004-03-07 12:00:00.000"},
+        {"10:11:12", {}, false, "1900-01-01 10:11:12.000"},
+        {"20040307 10:11:12.5", {}, false, "2004-03-07 10:11:12.500"},
+        {"20040307 10:11:12:5", {}, false, "2004-03-07 10:11:12.007"},
+        {"20040307 24:00", {}, false, outOfRange},
+        {"20040307 10:60", {}, false, outOfRange},
+        {"20040307 10:10:60", {}, false, outOfRange},
+        {"20040307 13:00PM", {}, false, outOfRange},
+        {"20040307 10", {}, false, garbage},
+        {"20040307 10:11:12.1234", {}, false, garbage},
+        {"20040307 10:11 XM", {}, false, garbage},
+    });
+}
+
+TEST(DateOfText, KeepsThirdsOfAHundredthOfASecond) {
+    constexpr struct {
+        const char* written;
+        const char* kept;
+    } cases[] = {{"001", "000"}, {"002", "003"}, {"004", "003"}, {"005", "007"},
+                 {"008", "007"}, {"009", "010"}, {"998", "997"}};
+    for (const auto& c : cases) {
+        EXPECT_EQ(toDateTime(std::string("20040307 10:11:12.") + c.written, {}),
+                  std::string("2004-03-07 10:11:12.") + c.kept);
+    }
+    EXPECT_EQ(toDateTime("20041231 23:59:59.999", {}), "2005-01-01 00:00:00.000");
+    EXPECT_EQ(errorOf([] { toDateTime("99991231 23:59:59.999", {}); }), outOfRange);
+}
+
+TEST(DateOfText, OutsideTheCalendarIsRefused) {
+    expectAll({
+        {"20040230", {}, false, outOfRange},
+        {"20040229", {}, false, "2004-02-29"},
+        {"20030229", {}, false, outOfRange},
+        {"20041301", {}, false, outOfRange},
+        {"20040001", {}, false, outOfRange},
+        {"20040100", {}, false, outOfRange},
+        {"17530101", {}, false, "1753-01-01"},
+        {"17521231", {}, false, outOfRange},
+        {"99991231", {}, false, "9999-12-31"},
+        {"0000-01-01", 102, false, outOfRange},
+        {"32/1/2004", {}, true, outOfRange},
+    });
+}
+
+TEST(DateOfText, GarbageIsRefused) {
+    for (const char* text :
+         {"abc",          "1/2",     "1//2",      "1/2/3/4",    "1/2/345",     "12345",        "123456789",
+          "123456789012", "2004-03", "20040307x", "2004-3-7T",  "2004-3-7T10", "-1/2/2004",    "1/2/2004 ,",
+          "7 3 2004",     ":",       "/",         "111/1/2004", "1/2004/3",    "\u0663/1/2004"}) {
+        EXPECT_EQ(errorOf([&] { toDateTime(text, {}); }), garbage) << text;
+    }
+}
+
+TEST(DateOfNumber, CountsDaysFromNineteenHundred) {
+    EXPECT_EQ(toDateTime(0.0), "1900-01-01 00:00:00.000");
+    EXPECT_EQ(toDateTime(1.5), "1900-01-02 12:00:00.000");
+    EXPECT_EQ(toDateTime(-0.25), "1899-12-31 18:00:00.000");
+    EXPECT_EQ(toDateTime(-53690.0), "1753-01-01 00:00:00.000");
+    EXPECT_EQ(errorNumberOf([] { toDateTime(-53691.0); }), 242);
+    EXPECT_EQ(errorNumberOf([] { toDateTime(2958464.0); }), 242);
+    EXPECT_EQ(errorNumberOf([] { toDateTime(1e30); }), 8115);
+    EXPECT_EQ(daysOf("1900-01-02 12:00:00.000"), 1.5);
+    EXPECT_EQ(daysOf("1899-12-31 18:00:00.000"), -0.25);
+}
+
+TEST(DateOfNumber, ComesBackFromItsDays) {
+    for (const char* text : {"1753-01-01 00:00:00.000", "2004-02-29 23:59:59.997", "9999-12-31 12:34:56.003"}) {
+        EXPECT_EQ(toDateTime(daysOf(text)), text);
+    }
+}
+
+TEST(DateText, FollowsTheStyle) {
+    const std::string date = "2004-03-07 15:06:09.123";
+    const struct {
+        std::optional<int> style;
+        const char* text;
+    } cases[] = {
+        {{}, "Mar  7 2004  3:06PM"},
+        {100, "Mar  7 2004  3:06PM"},
+        {101, "03/07/2004"},
+        {1, "03/07/04"},
+        {102, "2004.03.07"},
+        {103, "07/03/2004"},
+        {104, "07.03.2004"},
+        {105, "07-03-2004"},
+        {106, "07 Mar 2004"},
+        {107, "Mar 07, 2004"},
+        {108, "15:06:09"},
+        {109, "Mar  7 2004  3:06:09:123PM"},
+        {110, "03-07-2004"},
+        {111, "2004/03/07"},
+        {112, "20040307"},
+        {12, "040307"},
+        {113, "07 Mar 2004 15:06:09:123"},
+        {114, "15:06:09:123"},
+        {120, "2004-03-07 15:06:09"},
+        {121, "2004-03-07 15:06:09.123"},
+        {126, "2004-03-07T15:06:09.123"},
+    };
+    for (const auto& c : cases) {
+        EXPECT_EQ(dateText(date, c.style), c.text) << c.style.value_or(-1);
+    }
+    EXPECT_EQ(dateText("2004-03-07 00:00:00.000", {}), "Mar  7 2004 12:00AM");
+    EXPECT_EQ(dateText("2004-03-07 12:00:00.000", 126), "2004-03-07T12:00:00");
+    EXPECT_EQ(errorOf([&] { dateText(date, 99); }),
+              "281 99 is not a valid style number when converting from datetime to a character string.");
+}
+
+} // namespace
+} // namespace engine

@@ -2,6 +2,7 @@
 
 #include "dblife/FormRegistraAziendeNeiDns.h"
 #include "general_tables/Avvio_Morlan.h"
+#include "geography/stati.h"
 #include "session/About.h"
 #include "session/Avvio.h"
 #include "session/Avvio_Azienda.h"
@@ -25,6 +26,7 @@ void registerForms(controls::FormRegistry& registry) {
     registry.add("Avvio_Azienda", make<vabo::Avvio_Azienda>);
     registry.add("FormRegistraAziendeNeiDns", make<vabo::FormRegistraAziendeNeiDns>);
     registry.add("Avvio_Morlan", make<vabo::Avvio_Morlan>);
+    registry.add("stati", make<vabo::stati>);
 }
 
 } // namespace app

@@ -243,7 +243,7 @@ TEST_F(TabellaStati, ARowThatSomebodyElseHoldsStaysAsItIsAndNothingIsTold) {
     altrui.Open(StringaAzienda);
     ado::Recordset tenuta;
     ApriScrivibile(tenuta, "select * from stati where idstato = " + ado::plainNumber(id), altrui);
-    tenuta["IsoValuta"] = "XXX";
+    tenuta["IsoValuta"] = "ZZZ";
     SalvaStato(id, {"Kenia", "Balcani", "", "", "KSH"});
     tenuta.CancelUpdate();
     EXPECT_EQ(stato("DescStato = 'Kenya'"), prima);

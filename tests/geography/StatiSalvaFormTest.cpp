@@ -95,13 +95,13 @@ TEST_F(StatiSalva, LeavingTheCurrencyStoresANewState) {
     apri();
     const support::StatementRecorder recorder;
     scrivi(kKosovo);
-    EXPECT_EQ(recorder.texts(),
-              (Testi{"select * from stati",
-                     "INSERT INTO [stati] ([DescStato], [DataIstituzioneStato], [IsoValuta], [Area]) VALUES "
-                     "(N'Repubblica del Kosovo', CONVERT(DATETIME, '2008-02-17 00:00:00.000', 121), N'EUR', "
-                     "N'Balcani')",
-                     "select * from Zonegeografiche where descrizione ='Balcani'", NuovaZona(),
-                     "Select * from ZoneGeografiche ", "SELECT * from stati order by DescStato"}));
+    EXPECT_EQ(
+        recorder.texts(),
+        (Testi{"select * from stati",
+               std::string("INSERT INTO [stati] ([DescStato], [DataIstituzioneStato], [IsoValuta], [Area]) VALUES ") +
+                   "(N'Repubblica del Kosovo', CONVERT(DATETIME, '2008-02-17 00:00:00.000', 121), N'EUR', N'Balcani')",
+               "select * from Zonegeografiche where descrizione ='Balcani'", NuovaZona(),
+               "Select * from ZoneGeografiche ", "SELECT * from stati order by DescStato"}));
     EXPECT_EQ(stato("Repubblica del Kosovo"),
               (Riga{"Repubblica del Kosovo", "2008-02-17 00:00:00.000", kNulla, "EUR", "Balcani"}));
     EXPECT_EQ(campi(), kCampiVuoti);

@@ -2,6 +2,7 @@
 
 #include "dblife/FormRegistraAziendeNeiDns.h"
 #include "general_tables/Avvio_Morlan.h"
+#include "geography/stati.h"
 #include "locks/Scegli_progetto_4.h"
 #include "locks/Scegli_sede_Pd.h"
 #include "session/About.h"
@@ -29,6 +30,7 @@ void registerForms(controls::FormRegistry& registry) {
     registry.add("Avvio_Morlan", make<vabo::Avvio_Morlan>);
     registry.add("Scegli_progetto_4", make<vabo::Scegli_progetto_4>);
     registry.add("Scegli_sede_Pd", make<vabo::Scegli_sede_Pd>);
+    registry.add("stati", make<vabo::stati>);
 }
 
 } // namespace app

@@ -47,7 +47,9 @@ DataCombo::DataCombo(QWidget* parent) : QComboBox(parent), list_(new ListModel(t
     connect(this, &QComboBox::activated, this, &DataCombo::picked);
     // Queued, since after a pick in the search the completer sets the text again.
     connect(this, &QComboBox::activated, this, &DataCombo::selectWhole, Qt::QueuedConnection);
-    connect(&FocusTracker::instance(), &FocusTracker::moved, this, &DataCombo::followFocus);
+    connect(lineEdit(), &QLineEdit::textEdited, this, &DataCombo::takeTyped);
+    connect(&FocusTracker::instance(), &FocusTracker::entered, this, &DataCombo::takeFocus);
+    connect(&FocusTracker::instance(), &FocusTracker::left, this, &DataCombo::loseFocus);
 }
 
 void DataCombo::setRowSource(DataControl* source) {
@@ -79,6 +81,13 @@ void DataCombo::setText(const std::string& text) {
     chosen_ = QString::fromStdString(text);
     setCurrentIndex(-1);
     setEditText(chosen_);
+}
+
+void DataCombo::takeTyped(const QString& text) {
+    if (freeText_) {
+        pickedRow_ = -1;
+        chosen_ = text;
+    }
 }
 
 void DataCombo::restoreChosen() {
@@ -161,7 +170,11 @@ void DataCombo::inputMethodEvent(QInputMethodEvent* event) {
     highlightOnlyMatch();
 }
 
+// What is typed free may be the beginning of a text in the list, and is meant as it stands.
 void DataCombo::highlightOnlyMatch() {
+    if (freeText_) {
+        return;
+    }
     QAbstractItemView* found = completer()->popup();
     const QAbstractItemModel* matches = completer()->completionModel();
     if (!found->isVisible() || matches->rowCount() != 1) {
@@ -261,12 +274,16 @@ bool DataCombo::eventFilter(QObject* watched, QEvent* event) {
     return QComboBox::eventFilter(watched, event);
 }
 
-void DataCombo::followFocus(QWidget* from, QWidget* to) {
-    if (to == this) {
+void DataCombo::takeFocus(const QWidget* control) {
+    if (control == this) {
         lineEdit()->selectAll();
         selectAtRelease_ = QApplication::mouseButtons() != Qt::NoButton;
         emit GotFocus();
-    } else if (from == this) {
+    }
+}
+
+void DataCombo::loseFocus(const QWidget* control) {
+    if (control == this) {
         restoreChosen();
         emit LostFocus();
     }

@@ -40,6 +40,9 @@ public:
     void setBoundText(const std::string& key);
     /// Takes back what was typed and not picked, and closes the search.
     void restoreChosen();
+    /// What is typed counts from now on as it stands, in the list or not: it stays when the field is left and at Enter,
+    /// and no match is highlighted unless the user goes to it. For lists that grow by what is typed.
+    void takeFreeText() { freeText_ = true; }
     /// Whether Tab sets the focus here. A click always does.
     bool TabStop() const;
     void setTabStop(bool stops);
@@ -62,7 +65,9 @@ protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
-    void followFocus(QWidget* from, QWidget* to);
+    void takeFocus(const QWidget* control);
+    void loseFocus(const QWidget* control);
+    void takeTyped(const QString& text);
     void picked(int row);
     bool keyInSearch(const QKeyEvent& key);
     void highlightOnlyMatch();
@@ -72,7 +77,8 @@ private:
     DataControl* source_ = nullptr;
     ListModel* list_;
     int pickedRow_ = -1; ///< tells rows with the same text apart
-    QString chosen_;     ///< the text last picked or set by the form
+    QString chosen_;     ///< the text last picked or set by the form, or typed where typed text counts
+    bool freeText_ = false;
     bool leaving_ = false;
     bool selectAtRelease_ = false;
 };

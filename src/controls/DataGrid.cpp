@@ -16,7 +16,13 @@ namespace {
 
 constexpr int kTwipsInAPixel = 15;
 
+/// What the search of a row by its first letters takes.
+bool isLetter(const QKeyEvent& key) {
+    const bool command = (key.modifiers() & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier)) != 0;
+    return !command && !key.text().isEmpty() && key.text().at(0).isPrint();
 }
+
+} // namespace
 
 void DataGrid::Column::setLocked(bool locked) {
     grid_->model_->column(index_).locked = locked;
@@ -191,6 +197,14 @@ void DataGrid::tellMove(long from) {
     }
 }
 
+// Without a current row the toolkit would search the first column, which may be hidden.
+void DataGrid::keyboardSearch(const QString& letters) {
+    if (!currentIndex().isValid() && model_->rowCount() > 0) {
+        setCurrentIndex(model_->index(0, visibleColumn()));
+    }
+    QTableView::keyboardSearch(letters);
+}
+
 void DataGrid::keyPressEvent(QKeyEvent* event) {
     if (!UserInput::isRepeat(*event)) {
         emit KeyDown(event->key(), event->modifiers());
@@ -207,7 +221,9 @@ void DataGrid::keyPressEvent(QKeyEvent* event) {
     } else {
         const long before = position();
         QTableView::keyPressEvent(event);
-        tellMove(before);
+        if (!isLetter(*event)) {
+            tellMove(before);
+        }
     }
 }
 

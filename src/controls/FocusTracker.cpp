@@ -2,6 +2,7 @@
 
 #include <QApplication>
 #include <QDialog>
+#include <QScopedValueRollback>
 
 namespace controls {
 
@@ -18,7 +19,7 @@ FocusTracker::FocusTracker(QObject* parent) : QObject(parent) {
 }
 
 void FocusTracker::follow(QWidget* now) {
-    if (now == nullptr || now == last_) {
+    if (now == nullptr) {
         return;
     }
     const QWidget* window = now->window();
@@ -26,9 +27,21 @@ void FocusTracker::follow(QWidget* now) {
     if (!inAForm) {
         return;
     }
-    QWidget* from = last_;
-    last_ = now;
-    emit moved(from, now);
+    now_ = now;
+    if (!telling_) {
+        tell();
+    }
+}
+
+void FocusTracker::tell() {
+    const QScopedValueRollback telling(telling_, true);
+    while (!now_.isNull() && now_ != last_) {
+        if (!last_.isNull()) {
+            emit left(last_);
+        }
+        last_ = now_;
+        emit entered(last_);
+    }
 }
 
 } // namespace controls

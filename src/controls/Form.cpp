@@ -57,12 +57,11 @@ void Form::runActivate() {
 
 void Form::runUnload() {
     unloading_ = true;
-    run([this] { Unload(); });
-    unloaded_ = true;
+    guarded([this] { Unload(); });
 }
 
 void Form::run(const std::function<void()>& event) {
-    if (!unloaded_) {
+    if (!unloading_) {
         guarded(event);
     }
 }

@@ -33,8 +33,8 @@ protected:
     virtual void Activate() {}
     virtual void Unload() {}
 
-    /// Connects a handler to an event of a control. An error ends the event with a box; an unloaded form gets no
-    /// events.
+    /// Connects a handler to an event of a control. An error ends the event with a box; a form gets no events once it
+    /// unloads.
     template<typename Sender, typename Owner, typename... Values, typename Handler>
     void on(Sender* sender, void (Owner::*signal)(Values...), Handler handler) {
         connect(sender, signal, this, [this, handler](Values... values) {
@@ -67,7 +67,6 @@ private:
     void nameForAssistiveTools();
 
     bool unloading_ = false;
-    bool unloaded_ = false;
     bool takesScreen_ = false;
 };
 

@@ -8,19 +8,28 @@
 namespace controls {
 
 TextBox::TextBox(QWidget* parent) : QLineEdit(parent) {
-    connect(&FocusTracker::instance(), &FocusTracker::moved, this, &TextBox::followFocus);
+    connect(&FocusTracker::instance(), &FocusTracker::entered, this, &TextBox::takeFocus);
+    connect(&FocusTracker::instance(), &FocusTracker::left, this, [this](const QWidget* control) {
+        if (control == this) {
+            emit LostFocus();
+        }
+    });
 }
 
-void TextBox::followFocus(QWidget* from, QWidget* to) {
-    if (to == this) {
-        selectAll();
-        // A mouse press that sets the focus also sets the caret and ends the selection, so the text is selected again
-        // when the button is released.
-        selectAtRelease_ = QApplication::mouseButtons() != Qt::NoButton;
-        emit GotFocus();
-    } else if (from == this) {
-        emit LostFocus();
+void TextBox::SetFocus() {
+    setFocus(Qt::TabFocusReason);
+    selectAll();
+}
+
+void TextBox::takeFocus(const QWidget* control) {
+    if (control != this) {
+        return;
     }
+    selectAll();
+    // A mouse press that sets the focus also sets the caret and ends the selection, so the text is selected again
+    // when the button is released.
+    selectAtRelease_ = QApplication::mouseButtons() != Qt::NoButton;
+    emit GotFocus();
 }
 
 void TextBox::mouseReleaseEvent(QMouseEvent* event) {

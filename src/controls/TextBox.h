@@ -13,6 +13,8 @@ public:
     explicit TextBox(QWidget* parent = nullptr);
 
     std::string Text() const { return text().toStdString(); }
+    /// Gives it the focus, with the whole text selected also where it has the focus already.
+    void SetFocus();
     using QLineEdit::setText;
     /// Shows the text, cut at the field's greatest length.
     void setText(const std::string& text) { setText(QString::fromStdString(text)); }
@@ -26,7 +28,7 @@ protected:
     void mouseReleaseEvent(QMouseEvent* event) override;
 
 private:
-    void followFocus(QWidget* from, QWidget* to);
+    void takeFocus(const QWidget* control);
 
     bool selectAtRelease_ = false;
 };

@@ -3,6 +3,7 @@
 #include <QApplication>
 #include <QKeyEvent>
 #include <QPointer>
+#include <QPushButton>
 #include <QWidget>
 
 namespace controls {
@@ -37,6 +38,12 @@ bool isRepeatedEnter(const QEvent& event) {
     return (key.key() == Qt::Key_Return || key.key() == Qt::Key_Enter) && UserInput::isRepeat(key);
 }
 
+void goToButton(QPushButton* button) {
+    if (button != nullptr && button->isVisible() && (button->focusPolicy() & Qt::TabFocus) != 0) {
+        button->setFocus(Qt::ShortcutFocusReason);
+    }
+}
+
 } // namespace
 
 bool UserInput::isRepeat(const QKeyEvent& press) {
@@ -64,6 +71,9 @@ bool UserInput::eventFilter(QObject* watched, QEvent* event) {
     if (event->type() == QEvent::KeyRelease) {
         const auto& key = static_cast<const QKeyEvent&>(*event);
         last = {key.key(), key.timestamp()};
+    }
+    if (event->type() == QEvent::Shortcut) {
+        goToButton(qobject_cast<QPushButton*>(watched));
     }
     const auto* control = qobject_cast<const QWidget*>(watched);
     return control != nullptr && (!control->isVisible() || isRepeatedEnter(*event));

@@ -437,4 +437,93 @@ TEST_F(DataCombo, TabPassesAComboThatIsNoTabStop) {
     EXPECT_EQ(gui.focus(), "F.combo");
 }
 
+/// A list that takes any text.
+class FreeDataCombo : public DataCombo {
+protected:
+    FreeDataCombo() {
+        combo().takeFreeText();
+        choose("Seleziona");
+    }
+};
+
+TEST_F(FreeDataCombo, ATypedTextStaysWhenTheFieldIsLeft) {
+    for (const char* text : {"Kiwi", "mela", "Mel", ""}) {
+        combo().setFocus();
+        choose("Pera");
+        gui.type(text);
+        if (*text == '\0') {
+            gui.press(Qt::Key_Delete);
+        }
+        combo().completer()->popup()->hide();
+        gui.form("F").activateWindow();
+        gui.waitForFront("F");
+        leave();
+        EXPECT_EQ(combo().Text(), text);
+    }
+    EXPECT_TRUE(clicks.empty());
+}
+
+TEST_F(FreeDataCombo, EnterBringsTheTypedTextToTheFormAndNoneThatWasFound) {
+    QAbstractItemView& found = search("albi");
+    EXPECT_FALSE(found.currentIndex().isValid());
+    QTest::keyClick(&found, Qt::Key_Return);
+    EXPECT_FALSE(found.isVisible());
+    EXPECT_THAT(stored, ElementsAre("albi"));
+    EXPECT_TRUE(clicks.empty());
+}
+
+TEST_F(FreeDataCombo, TabLeavesWithTheTypedText) {
+    QAbstractItemView& found = search("albi");
+    QTest::keyClick(&found, Qt::Key_Tab);
+    Gui::handleEvents();
+    EXPECT_FALSE(found.isVisible());
+    gui.form("F").activateWindow();
+    gui.waitForFront("F");
+    leave();
+    EXPECT_EQ(combo().Text(), "albi");
+    EXPECT_TRUE(clicks.empty());
+}
+
+TEST_F(FreeDataCombo, ARowOfWhatWasFoundIsPickedOnlyWhereTheUserGoesToIt) {
+    QAbstractItemView& found = search("albi");
+    QTest::keyClick(&found, Qt::Key_Down);
+    QTest::keyClick(&found, Qt::Key_Return);
+    Gui::handleEvents();
+    EXPECT_EQ(combo().Text(), "Albicocca");
+    EXPECT_THAT(clicks, ElementsAre(controls::DataCombo::List));
+    EXPECT_TRUE(stored.empty());
+}
+
+TEST_F(FreeDataCombo, EscGoesBackToWhatWasTyped) {
+    QAbstractItemView& found = search("albi");
+    QTest::keyClick(&found, Qt::Key_Down);
+    EXPECT_EQ(combo().Text(), "Albicocca");
+    QTest::keyClick(&found, Qt::Key_Escape);
+    EXPECT_EQ(combo().Text(), "albi");
+    EXPECT_FALSE(found.isVisible());
+}
+
+TEST_F(FreeDataCombo, ATypedTextOfTheListStandsForItsRow) {
+    choose("Albicocca");
+    gui.type("Mela");
+    EXPECT_EQ(combo().BoundText(), "1");
+    gui.type("x");
+    EXPECT_EQ(combo().BoundText(), "");
+}
+
+TEST_F(FreeDataCombo, ATypedTextBehindAPickStandsForItsFirstRow) {
+    combo().setBoundText("5"); // the second of two rows that read Pera
+    EXPECT_EQ(combo().BoundText(), "5");
+    combo().lineEdit()->selectAll();
+    gui.type("Pera");
+    EXPECT_EQ(combo().BoundText(), "2");
+}
+
+TEST_F(FreeDataCombo, ATypedTextOutlivesAReadingOfTheList) {
+    gui.type("Kiwi");
+    source.Refresh();
+    combo().ReFill();
+    EXPECT_EQ(combo().Text(), "Kiwi");
+}
+
 } // namespace

@@ -318,6 +318,26 @@ TEST_F(DataGrid, TheUsersMovesAreToldWithTheirRowCurrent) {
     EXPECT_EQ(told(), (Told{"row 4", "click"}));
 }
 
+TEST_F(DataGrid, TypedLettersSearchARowAndPickNone) {
+    lockAll();
+    told();
+    grid.setCurrentIndex(grid.model()->index(0, 1));
+    QTest::keyClicks(&grid, "per");
+    EXPECT_EQ(position(), 2);
+    EXPECT_EQ(told(), Told{});
+    QTest::keyClick(&grid, Qt::Key_Space);
+    EXPECT_EQ(told(), (Told{"row 2", "click"}));
+}
+
+TEST_F(DataGrid, AheadOfItsFirstRowItSearchesTheFirstColumnThatIsSeen) {
+    lockAll();
+    grid.Columns(0).setVisible(false);
+    source.Recordset().Move(-2);
+    ASSERT_FALSE(grid.currentIndex().isValid());
+    QTest::keyClicks(&grid, "alb");
+    EXPECT_EQ(position(), 3);
+}
+
 TEST_F(DataGrid, MovesInCodeTellNothing) {
     told();
     source.Recordset().MoveNext();

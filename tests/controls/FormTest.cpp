@@ -12,6 +12,8 @@
 #include <QTest>
 #include <QVBoxLayout>
 
+#include <algorithm>
+
 namespace {
 
 using support::Gui;
@@ -151,6 +153,41 @@ TEST_F(Form, AnUnloadedFormGetsNoMoreEvents) {
     };
     gui.click("A", "button");
     EXPECT_EQ(clicks, 1);
+}
+
+TEST_F(Form, AFormThatUnloadsGetsNoMoreEvents) {
+    gui.forms().add("B", [this] {
+        RecordedForm::Events events;
+        events.unload = [this](RecordedForm& form) { form.findChild<QLineEdit*>()->setText("x"); };
+        auto form = std::make_unique<RecordedForm>("B", log, events);
+        auto* field = new QLineEdit(form.get());
+        form->on(field, &QLineEdit::textChanged, [this] { log.push_back("changed"); });
+        return form;
+    });
+    gui.forms().show("B");
+    log.clear();
+    gui.forms().unload("B");
+    EXPECT_EQ(log.front(), "B.Unload");
+    EXPECT_EQ(std::count(log.begin(), log.end(), "changed"), 0);
+}
+
+TEST_F(Form, AMnemonicSetsTheFocusToItsButtonAsAClickDoes) {
+    std::string focus;
+    clicked = [&](RecordedForm&) { focus = gui.focus(); };
+    gui.find("A", "field").setFocus();
+    gui.press(Qt::Key_S, Qt::AltModifier);
+    Gui::waitFor("the click", [&] { return !focus.empty(); });
+    EXPECT_EQ(focus, "A.button");
+}
+
+TEST_F(Form, AMnemonicLeavesTheFocusWhereItsButtonTakesNone) {
+    std::string focus;
+    clicked = [&](RecordedForm&) { focus = gui.focus(); };
+    gui.find("A", "button").setFocusPolicy(Qt::NoFocus);
+    gui.find("A", "field").setFocus();
+    gui.press(Qt::Key_S, Qt::AltModifier);
+    Gui::waitFor("the click", [&] { return !focus.empty(); });
+    EXPECT_EQ(focus, "A.field");
 }
 
 TEST_F(Form, EnterPressesTheButtonThatHasTheFocus) {

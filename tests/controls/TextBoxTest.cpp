@@ -95,6 +95,64 @@ TEST_F(TextBox, AnotherFormOfTheProgramTakesTheFocus) {
     EXPECT_THAT(log, ElementsAre("-A.first", "+B.first"));
 }
 
+TEST_F(TextBox, AFieldThatTakesTheFocusBackDoesNotMakeTheNextOneLoseIt) {
+    QObject::connect(&field("first"), &controls::TextBox::LostFocus, [this] { field("first").setFocus(); });
+    field("second").setFocus();
+    EXPECT_EQ(gui.focus(), "A.first");
+    EXPECT_THAT(log, ElementsAre("-A.first", "+A.first"));
+    EXPECT_EQ(field("first").selectedText(), "testo");
+}
+
+TEST_F(TextBox, TwoFieldsThatTakeTheFocusBackDoNotFightForIt) {
+    QObject::connect(&field("first"), &controls::TextBox::LostFocus, [this] { field("first").setFocus(); });
+    QObject::connect(&field("second"), &controls::TextBox::LostFocus, [this] { field("second").setFocus(); });
+    field("second").setFocus();
+    EXPECT_EQ(gui.focus(), "A.first");
+    EXPECT_THAT(log, ElementsAre("-A.first", "+A.first"));
+}
+
+TEST_F(TextBox, AFieldThatSendsTheFocusBackGetsAndLosesIt) {
+    QObject::connect(&field("second"), &controls::TextBox::GotFocus, [this] { field("first").setFocus(); });
+    field("second").setFocus();
+    EXPECT_EQ(gui.focus(), "A.first");
+    EXPECT_THAT(log, ElementsAre("-A.first", "+A.second", "-A.second", "+A.first"));
+}
+
+TEST_F(TextBox, ABoxOfALostFocusLeavesTheFocusWhereItWasGoing) {
+    QObject::connect(&field("first"), &controls::TextBox::LostFocus, [this] {
+        QDialog box(&gui.form("A"));
+        box.show();
+        Gui::waitFor("the box in front", [&] { return QApplication::activeWindow() == &box; });
+        box.close();
+        gui.form("A").activateWindow();
+        gui.waitForFront("A");
+    });
+    field("second").setFocus();
+    EXPECT_EQ(gui.focus(), "A.second");
+    EXPECT_THAT(log, ElementsAre("-A.first", "+A.second"));
+}
+
+TEST_F(TextBox, AFieldThatIsGoneLosesNoFocus) {
+    auto* third = new controls::TextBox(&gui.form("A"));
+    third->show();
+    third->setFocus();
+    delete third;
+    log.clear();
+    field("second").setFocus();
+    field("first").setFocus();
+    EXPECT_THAT(std::vector<std::string>(log.end() - 2, log.end()), ElementsAre("-A.second", "+A.first"));
+}
+
+TEST_F(TextBox, SetFocusSelectsTheTextAlsoWhereTheFocusIsAlready) {
+    field("first").setText("altro");
+    EXPECT_EQ(field("first").selectedText(), "");
+    field("first").SetFocus();
+    EXPECT_EQ(field("first").selectedText(), "altro");
+    field("second").SetFocus();
+    EXPECT_EQ(gui.focus(), "A.second");
+    EXPECT_EQ(field("second").selectedText(), "testo");
+}
+
 TEST_F(TextBox, TextsBeyondTheGreatestLengthAreCut) {
     field("second").setMaxLength(3);
     field("second").setText(std::string("abcdef"));

@@ -1,6 +1,7 @@
 #include "app/Forms.h"
 
 #include "dblife/FormRegistraAziendeNeiDns.h"
+#include "fiscal/I_Iva_sezionali.h"
 #include "general_tables/Avvio_Morlan.h"
 #include "session/About.h"
 #include "session/Avvio.h"
@@ -25,6 +26,7 @@ void registerForms(controls::FormRegistry& registry) {
     registry.add("Avvio_Azienda", make<vabo::Avvio_Azienda>);
     registry.add("FormRegistraAziendeNeiDns", make<vabo::FormRegistraAziendeNeiDns>);
     registry.add("Avvio_Morlan", make<vabo::Avvio_Morlan>);
+    registry.add("I_Iva_sezionali", make<vabo::I_Iva_sezionali>);
 }
 
 } // namespace app

@@ -37,6 +37,9 @@ private:
 /// The tabs of the general tables console, opened from the company console.
 void generalTables(Tour& tour);
 
+/// The VAT sections, without and with one picked.
+void vatSections(Tour& tour);
+
 /// Every form of the program, in the order in which a user meets them. A new form adds its page here.
 void walk(Tour& tour);
 

@@ -83,7 +83,8 @@ TEST(ControllaCodiceFiscale, ADigitNeverChecksACode) {
 TEST(ControllaCodiceFiscale, EveryPositionTakesCapitalsAndDigitsAlone) {
     const std::string buono = "RSSMRA85T10A562S";
     for (std::size_t i = 0; i < buono.size(); ++i) {
-        for (const char* altro : {"a", "z", " ", "-", ".", "@", "[", "`", "{", "à", "À", "Ａ", "１", "\x7f", "😀"}) {
+        for (const char* altro :
+             {"a", "z", "~", " ", "-", ".", "@", "[", "`", "{", "à", "À", "Ａ", "１", "\x7f", "😀"}) {
             std::string testo = buono;
             testo.replace(i, 1, altro);
             EXPECT_EQ(codice(testo, 1, kVero), kFalso) << testo;

@@ -207,6 +207,11 @@ TEST_F(SezionaliForm, WhatARowDoesNotHaveLeavesItsFieldAsItWas) {
     premi("Command1");
 }
 
+TEST_F(SezionaliForm, ItFitsANarrowScreen) {
+    apri();
+    EXPECT_LE(gui.form("I_Iva_sezionali").minimumSizeHint().width(), 960);
+}
+
 TEST_F(SezionaliForm, EveryControlIsReachedByTab) {
     apri();
     scrivi("Mostre", "Arte", "x");

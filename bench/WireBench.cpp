@@ -4,6 +4,7 @@
 
 #include "Pairs.h"
 #include "PeerProcess.h"
+#include "RawOdbc.h"
 #include "ado/Connection.h"
 #include "ado/drivers/odbc/OdbcConnection.h"
 
@@ -30,55 +31,8 @@ std::string driverText() {
     return ado::odbc::driverText(ado::ConnectionString(server().connectionString()), "FreeTDS");
 }
 
-void needed(SQLRETURN code, const char* call) {
-    if (!SQL_SUCCEEDED(code)) {
-        throw std::runtime_error(std::string(call) + " failed");
-    }
-}
-
-SQLCHAR* narrow(std::string& text) {
-    return reinterpret_cast<SQLCHAR*>(text.data());
-}
-
-/// A connection with only the ODBC calls that are necessary.
-class RawConnection {
-public:
-    RawConnection() { needed(SQLAllocHandle(SQL_HANDLE_DBC, ado::odbc::environment(), &handle_), "SQLAllocHandle"); }
-    ~RawConnection() {
-        close();
-        SQLFreeHandle(SQL_HANDLE_DBC, handle_);
-    }
-    RawConnection(const RawConnection&) = delete;
-    RawConnection& operator=(const RawConnection&) = delete;
-
-    void open(std::string text) {
-        needed(SQLDriverConnect(handle_, nullptr, narrow(text), SQL_NTS, nullptr, 0, nullptr, SQL_DRIVER_NOPROMPT),
-               "SQLDriverConnect");
-    }
-    void close() { SQLDisconnect(handle_); }
-    SQLHANDLE get() const { return handle_; }
-
-private:
-    SQLHANDLE handle_ = nullptr;
-};
-
-class RawStatement {
-public:
-    explicit RawStatement(const RawConnection& connection) {
-        needed(SQLAllocHandle(SQL_HANDLE_STMT, connection.get(), &handle_), "SQLAllocHandle");
-    }
-    ~RawStatement() { SQLFreeHandle(SQL_HANDLE_STMT, handle_); }
-    RawStatement(const RawStatement&) = delete;
-    RawStatement& operator=(const RawStatement&) = delete;
-
-    void run(std::string text) {
-        needed(SQLExecDirect(handle_, narrow(text), static_cast<SQLINTEGER>(text.size())), "SQLExecDirect");
-        SQLFreeStmt(handle_, SQL_CLOSE);
-    }
-
-private:
-    SQLHANDLE handle_ = nullptr;
-};
+using bench::RawConnection;
+using bench::RawStatement;
 
 /// One pair: the two alternate, so that a disturbance of the machine affects both.
 template<typename Ours, typename Theirs>

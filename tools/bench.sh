@@ -7,7 +7,7 @@ tools/packages.sh build bench
 cmake --preset release -DVABO_BUILD_TESTS=OFF -DVABO_BUILD_BENCH=ON >/dev/null
 cmake --build --preset release -j "$(nproc)"
 cd build/release
-for bench in bin/vabo-bench-data bin/vabo-bench-start bin/vabo-bench-console bin/vabo-bench-wire \
-    "bin/vabo-bench-wire --pooled"; do
+for bench in bin/vabo-bench-data bin/vabo-bench-start bin/vabo-bench-console bin/vabo-bench-locks \
+    bin/vabo-bench-locks-wire bin/vabo-bench-wire "bin/vabo-bench-wire --pooled"; do
     $bench "$@"
 done

@@ -3,6 +3,8 @@
 #include "dblife/FormRegistraAziendeNeiDns.h"
 #include "fiscal/I_Iva_sezionali.h"
 #include "general_tables/Avvio_Morlan.h"
+#include "locks/Scegli_progetto_4.h"
+#include "locks/Scegli_sede_Pd.h"
 #include "session/About.h"
 #include "session/Avvio.h"
 #include "session/Avvio_Azienda.h"
@@ -27,6 +29,8 @@ void registerForms(controls::FormRegistry& registry) {
     registry.add("FormRegistraAziendeNeiDns", make<vabo::FormRegistraAziendeNeiDns>);
     registry.add("Avvio_Morlan", make<vabo::Avvio_Morlan>);
     registry.add("I_Iva_sezionali", make<vabo::I_Iva_sezionali>);
+    registry.add("Scegli_progetto_4", make<vabo::Scegli_progetto_4>);
+    registry.add("Scegli_sede_Pd", make<vabo::Scegli_sede_Pd>);
 }
 
 } // namespace app

@@ -98,7 +98,8 @@ void Form::setHelpContext(int form, int controls) {
 
 void Form::closeEvent(QCloseEvent* event) {
     event->ignore();
-    if (isVisible()) { // ignored where another event has hidden the window meanwhile
+    // Ignored where another event has hidden the window meanwhile, and while the form is disabled.
+    if (isVisible() && isEnabled()) {
         UnloadMe();
     }
 }

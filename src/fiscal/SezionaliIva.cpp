@@ -2,7 +2,6 @@
 
 #include "ado/Conversions.h"
 #include "ado/Text.h"
-#include "general_tables/RecordsetConsole.h"
 #include "kit/ApriScrivibile.h"
 #include "kit/Colonne.h"
 #include "kit/ErrorHandling.h"

@@ -16,17 +16,4 @@ inline ado::Recordset& RsCaselle() {
     return RsCondivisi(kPostoCaselle);
 }
 
-/// Closes and drops a shared recordset at the end of a scope, after an error too, so that it is closed for the next
-/// user.
-class Restituzione {
-public:
-    explicit Restituzione(int posto) : posto_(posto) {}
-    Restituzione(const Restituzione&) = delete;
-    Restituzione& operator=(const Restituzione&) = delete;
-    ~Restituzione() { RilasciaRecordset(posto_); }
-
-private:
-    int posto_;
-};
-
 } // namespace vabo

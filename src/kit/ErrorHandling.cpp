@@ -5,7 +5,7 @@
 
 namespace vabo {
 
-// Updates once. It was to be repeated while an error is pending, but an error leaves as an exception here.
+// Without a loop that repeats the update while an error is set: here an error leaves as an exception.
 void AggiornaRecord(ado::Recordset& rs) {
     rs.Update();
 }

@@ -25,8 +25,8 @@ inline constexpr Diritti kDirittiLoginSenzaUtenti = [] {
     return diritti;
 }();
 
-/// Sets DirittiUtente to the rights of that user, all of them or, on failure, none. An unknown user gets a message and
-/// counts as a failed attempt; the fourth closes the login form. Raises ado::Error.
+/// Sets DirittiUtente to the rights of that user; where anything fails it stays as it was. An unknown user gets a
+/// message and counts as a failed attempt; the fourth closes the login form. Raises ado::Error.
 void CaricaAbilitazione(const std::string& NomeUtente, const std::string& PaswUtente);
 
 } // namespace vabo

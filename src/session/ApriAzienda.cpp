@@ -258,8 +258,8 @@ Esito Passata(double& id, double& numero) {
     return AziendaConDatabase(rs, Appoggio, numero);
 }
 
-/// Replaces `id` by the first company of the server. Each assignment searches anew. The search always
-/// finds the same company: where it was tried before, the process ends.
+/// Replaces `id` by the first company of the server. Each assignment searches anew. The search always finds the
+/// same company: where it was tried before, the process ends.
 void RipiegaSullaPrima(double& id, const std::set<double>& provati) {
     const double prima = PrimaAziendaSuServer();
     if (IsEmptyValue(prima) || provati.contains(prima)) {

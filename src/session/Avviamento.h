@@ -16,7 +16,7 @@ std::string TestoDatabase();
 /// the process ends.
 void PrendiAziendaDelTerminale();
 
-/// Sets ClienteDornavel where the company's name holds the word, which is compared case-sensitively.
+/// Sets ClienteDornavel: true where the company's name contains "dornavel" in small letters.
 void RiconosciDornavel();
 
 /// Opens the company once more and reads its branch, unless the server was found missing.

@@ -17,8 +17,8 @@ namespace vabo {
 namespace {
 
 bool CodiceValido(const std::string& lingua) {
-    constexpr std::array<const char*, 5> codici = {"IT", "EN", "ES", "FR", "PO"};
-    return std::find(codici.begin(), codici.end(), Maiuscolo(lingua)) != codici.end();
+    constexpr std::array<const char*, 5> kCodici = {"IT", "EN", "ES", "FR", "PO"};
+    return std::find(kCodici.begin(), kCodici.end(), Maiuscolo(lingua)) != kCodici.end();
 }
 
 void PrendiColonna(ado::Recordset& rs, std::string& risultato) {

@@ -15,6 +15,7 @@ std::string CartellaFile, PercorsoFileLocale, FileLocale;
 std::string LinguaCorrente, NomeUtenteLogin;
 std::string Sql, SqlLavoro, Appoggio;
 double IdAzienda, IdAziendaLavoro, IdAziendaScelta, IdSede, IdSedeCopia, TentativiLogin;
+double IdProgettoScelto;
 Flag ClienteDornavel, ServerMancante;
 Diritti DirittiUtente;
 std::vector<std::string> PilaForm;

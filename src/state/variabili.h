@@ -62,6 +62,7 @@ extern std::string CartellaFile, PercorsoFileLocale, FileLocale;
 extern std::string LinguaCorrente, NomeUtenteLogin;
 extern std::string Sql, SqlLavoro, Appoggio;
 extern double IdAzienda, IdAziendaLavoro, IdAziendaScelta, IdSede, IdSedeCopia, TentativiLogin;
+extern double IdProgettoScelto; ///< the project whose definitive date is being set, zero when none
 extern Flag ClienteDornavel, ServerMancante;
 extern Diritti DirittiUtente;
 /// The forms under the present one, and the index of the top.

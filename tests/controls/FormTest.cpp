@@ -59,6 +59,8 @@ TEST_F(Form, DisabledItTakesNothingAndGetsItsFocusBack) {
     field.setFocus();
     {
         const controls::Disabled disabled(gui.form("A"));
+        gui.form("A").close();
+        EXPECT_TRUE(gui.isVisible("A")) << "its window isn't closed either";
         EXPECT_FALSE(field.isEnabled());
         EXPECT_FALSE(field.hasFocus());
     }

@@ -57,7 +57,7 @@ const std::string kTerminals =
     "create table link_programmaTerminale  (idAutonumber int NOT NULL IDENTITY (1, 1), Nometerminale nvarchar(255) "
     "null, ultimo int not null default 0, Version int not null default 0)";
 
-std::vector<std::string> allStatements() {
+std::vector<std::string> tutteLeIstruzioni() {
     std::vector<std::string> all = {"sp_configure 'query timeout',0 RECONFIGURE", kCreateTemporary};
     for (const auto& [option, value] : kOptions) {
         all.push_back(" sp_dboption N'VaBoDatiTemp', N'" + option + "', N'" + value + "'");
@@ -76,10 +76,10 @@ std::vector<std::string> allStatements() {
 class CreaVaBoAzienda : public testing::Test {
 protected:
     CreaVaBoAzienda() { NomeTerminale = support::kTerminalName; }
-    std::string databases(const std::string& name) const {
+    std::string quantiDatabase(const std::string& name) const {
         return workstation.value("master", "select count(*) from sysdatabases where name = '" + name + "'");
     }
-    std::string count(const std::string& table) const {
+    std::string quanteRighe(const std::string& table) const {
         return workstation.value(support::kControlDatabase, "select count(*) from " + table);
     }
     support::TestWorkstation workstation;
@@ -89,17 +89,17 @@ protected:
 TEST_F(CreaVaBoAzienda, SendsItsStatementsLetterForLetter) {
     const support::StatementRecorder recorder;
     CreaDatabaseControllo();
-    EXPECT_EQ(recorder.texts(), allStatements());
+    EXPECT_EQ(recorder.texts(), tutteLeIstruzioni());
     EXPECT_EQ(Sql, kTerminals);
 }
 
 TEST_F(CreaVaBoAzienda, MakesBothDatabasesAndBothEmptyTablesOnABareInstance) {
     workstation.run("master", "DROP DATABASE vabodatiazienda");
     CreaDatabaseControllo();
-    EXPECT_EQ(databases("VaBoDatiTemp"), "1");
-    EXPECT_EQ(databases("VaBoDatiAzienda"), "1");
-    EXPECT_EQ(count("link_programma"), "0");
-    EXPECT_EQ(count("link_programmaTerminale"), "0");
+    EXPECT_EQ(quantiDatabase("VaBoDatiTemp"), "1");
+    EXPECT_EQ(quantiDatabase("VaBoDatiAzienda"), "1");
+    EXPECT_EQ(quanteRighe("link_programma"), "0");
+    EXPECT_EQ(quanteRighe("link_programmaTerminale"), "0");
     EXPECT_FALSE(DbTemp.IsOpen());
 }
 
@@ -120,19 +120,19 @@ TEST_F(CreaVaBoAzienda, TheTemporaryDatabaseLiesInItsFolder) {
 }
 
 TEST_F(CreaVaBoAzienda, ExistingDatabasesAndTheirRowsStay) {
-    const std::string companies = count("link_programma");
+    const std::string companies = quanteRighe("link_programma");
     CreaDatabaseControllo();
     CreaDatabaseControllo();
-    EXPECT_EQ(count("link_programma"), companies);
-    EXPECT_EQ(databases("VaBoDatiAzienda"), "1");
+    EXPECT_EQ(quanteRighe("link_programma"), companies);
+    EXPECT_EQ(quantiDatabase("VaBoDatiAzienda"), "1");
 }
 
 TEST_F(CreaVaBoAzienda, OnlyTheMissingTablesAreMade) {
     workstation.run(support::kControlDatabase, "DROP TABLE link_programmaTerminale");
-    const std::string companies = count("link_programma");
+    const std::string companies = quanteRighe("link_programma");
     CreaDatabaseControllo();
-    EXPECT_EQ(count("link_programmaTerminale"), "0");
-    EXPECT_EQ(count("link_programma"), companies);
+    EXPECT_EQ(quanteRighe("link_programmaTerminale"), "0");
+    EXPECT_EQ(quanteRighe("link_programma"), companies);
 }
 
 TEST_F(CreaVaBoAzienda, TheOptionsAreSetOnEveryRun) {
@@ -256,8 +256,8 @@ TEST_F(CreaVaBoAzienda, AMissingFolderIsSilentAndTheRestIsMade) {
     std::filesystem::remove_all(workstation.driveC().real("C:\\vabo\\sedi"));
     workstation.run("master", "DROP DATABASE vabodatiazienda");
     CreaDatabaseControllo();
-    EXPECT_EQ(databases("VaBoDatiTemp"), "0");
-    EXPECT_EQ(count("link_programma"), "0");
+    EXPECT_EQ(quantiDatabase("VaBoDatiTemp"), "0");
+    EXPECT_EQ(quanteRighe("link_programma"), "0");
 }
 
 TEST_F(CreaVaBoAzienda, WithoutALocalServerNothingIsSentAndNothingIsSaid) {
@@ -271,7 +271,7 @@ TEST_F(CreaVaBoAzienda, WithoutALocalServerNothingIsSentAndNothingIsSaid) {
 TEST_F(CreaVaBoAzienda, OpeningTheTemporaryDatabaseMakesWhatIsMissing) {
     workstation.run("master", "DROP DATABASE vabodatiazienda");
     EXPECT_TRUE(ApriDbTemp());
-    EXPECT_EQ(count("link_programma"), "0");
+    EXPECT_EQ(quanteRighe("link_programma"), "0");
 }
 
 } // namespace

@@ -1,7 +1,7 @@
 // The form of the data sources with a server that fails.
 
 #include "RegistraFormFixture.h"
-#include "session/GuastoFixture.h"
+#include "session/FailureFixture.h"
 
 namespace vabo {
 namespace {
@@ -17,21 +17,21 @@ protected:
         metti("txtUID", campi().Utente);
         metti("txtPWD", campi().Password);
     }
-    void avviene(Guasto cosa) {
-        if (cosa == Guasto::Muto) {
-            metti("txtServer", conAttesa(guasto.muto.server()));
-        } else if (cosa == Guasto::PortaSbagliata) {
+    void avviene(Failure cosa) {
+        if (cosa == Failure::Silent) {
+            metti("txtServer", conAttesa(guasto.silent.server()));
+        } else if (cosa == Failure::WrongPort) {
             metti("txtServer", kServerSpento);
-        } else if (cosa == Guasto::PasswordSbagliata) {
+        } else if (cosa == Failure::WrongPassword) {
             metti("txtPWD", "inverno");
         } else {
-            guasto.avviene(cosa);
+            guasto.fail(cosa);
         }
         guasto_ = cosa;
     }
     void ripara() {
-        if (guasto_ == Guasto::Spento || guasto_ == Guasto::Gelato) {
-            guasto.ripara();
+        if (guasto_ == Failure::Ended || guasto_ == Failure::Frozen) {
+            guasto.repair();
         }
         metti("txtServer", conAttesa(workstation.serverName()));
         metti("txtPWD", campi().Password);
@@ -41,22 +41,22 @@ protected:
                ";PWD=" + campi().Password + ";\r\n";
     }
 
-    ServerGuasto guasto{workstation};
+    FailingServer guasto{workstation};
 
 private:
-    Guasto guasto_ = Guasto::Spento;
+    Failure guasto_ = Failure::Ended;
 };
 
-class GuastoNellaProva : public GuastoRegistra, public testing::WithParamInterface<Guasto> {};
+class GuastoNellaProva : public GuastoRegistra, public testing::WithParamInterface<Failure> {};
 
 TEST_P(GuastoNellaProva, IsAWrongConnectionAndOnceItIsPutRightEnterGoesOn) {
     apriSulServer();
     avviene(GetParam());
-    const auto puntatori = guasto.puntatori();
+    const auto puntatori = guasto.pointerFiles();
     script.expectMessage("Wrong connection");
     premi("txtServer");
     EXPECT_EQ(fuoco(), "txtServer");
-    EXPECT_EQ(guasto.puntatori(), puntatori);
+    EXPECT_EQ(guasto.pointerFiles(), puntatori);
     ripara();
     gui.press(Qt::Key_Return);
     EXPECT_EQ(fuoco(), "txtDatabase");
@@ -67,11 +67,11 @@ TEST_P(GuastoNellaProva, IsAWrongConnectionAndOnceItIsPutRightEnterGoesOn) {
 TEST_P(GuastoNellaProva, IsNoValidConnectionAndOnceItIsPutRightTheButtonRegisters) {
     apriSulServer();
     avviene(GetParam());
-    const auto puntatori = guasto.puntatori();
+    const auto puntatori = guasto.pointerFiles();
     script.expectMessage("La connessione \n\n non è valida");
     premi("cmdCancel");
     EXPECT_EQ(gui.visibleForms(), kForm);
-    EXPECT_EQ(guasto.puntatori(), puntatori);
+    EXPECT_EQ(guasto.pointerFiles(), puntatori);
     EXPECT_TRUE(fonti.calls().empty());
     ripara();
     premi("cmdCancel");
@@ -80,7 +80,7 @@ TEST_P(GuastoNellaProva, IsNoValidConnectionAndOnceItIsPutRightTheButtonRegister
     EXPECT_EQ(indirizzo(), rigaDiIndirizzo());
 }
 
-INSTANTIATE_TEST_SUITE_P(Di, GuastoNellaProva, testing::ValuesIn(kGuasti), kNomeDelGuasto);
+INSTANTIATE_TEST_SUITE_P(Di, GuastoNellaProva, testing::ValuesIn(kFailures), kNameOfFailure);
 
 TEST_F(GuastoRegistra, AServerThatEndsOnceItIsOpenKeepsNothingFromBeingRegistered) {
     workstation.run(support::kCompany, kCreaRegistro);
@@ -89,7 +89,7 @@ TEST_F(GuastoRegistra, AServerThatEndsOnceItIsOpenKeepsNothingFromBeingRegistere
     int inviate = 0;
     ado::setStatementRecorder([&](const std::string& /*testo*/) {
         if (++inviate == 1) {
-            guasto.avviene(Guasto::Spento);
+            guasto.fail(Failure::Ended);
         }
     });
     premi("cmdCancel");
@@ -102,7 +102,7 @@ TEST_F(GuastoRegistra, AServerThatEndsOnceItIsOpenKeepsNothingFromBeingRegistere
 
 TEST_F(GuastoRegistra, LoadedWithoutItsServerItEndsTheProcess) {
     IdAziendaScelta = idOf(support::kCompany);
-    guasto.avviene(Guasto::Spento);
+    guasto.fail(Failure::Ended);
     script.expectMessage("Non è possibile caricare il DataBase");
     EXPECT_TRUE(end.endedBy([&] { ApriForm(kForm, true); }));
 }

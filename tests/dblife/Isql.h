@@ -15,28 +15,28 @@
 namespace vabo {
 
 /// Only with the wire driver, since no other program can reach an embedded server.
-struct OverTheWire {
-    OverTheWire() {
+struct ConServerDiRete {
+    ConServerDiRete() {
         constexpr std::array kArguments{"", "--driver=wire"};
         support::chooseTestedDriver(static_cast<int>(kArguments.size()), kArguments.data());
     }
 };
 
-inline std::string isqlProgram() {
+inline std::string programmaIsql() {
     return QStandardPaths::findExecutable("isql").toStdString();
 }
 
 /// The output of isql for a statement, logged in with user and password of the server's connection text.
-inline std::string answer(const std::string& server, const std::string& dataSource, const std::string& statement) {
+inline std::string risposta(const std::string& server, const std::string& dataSource, const std::string& statement) {
     const ado::ConnectionString login(server);
-    support::HelperProcess isql(isqlProgram(), {dataSource, login.user(), login.password(), "-b", "-d|"});
+    support::HelperProcess isql(programmaIsql(), {dataSource, login.user(), login.password(), "-b", "-d|"});
     isql.writeLine(statement);
     EXPECT_EQ(isql.finish(), 0) << dataSource;
     return isql.readAll();
 }
 
 /// Expects that each of the three data sources connects to its database.
-inline void expectEachDatabase(const support::TestWorkstation& workstation, const std::string& server) {
+inline void aspettaOgniDatabase(const support::TestWorkstation& workstation, const std::string& server) {
     const struct {
         const char* dataSource;
         const char* statement;
@@ -53,7 +53,7 @@ inline void expectEachDatabase(const support::TestWorkstation& workstation, cons
             expected += row[0] + "|" + row[1] + "\n";
         }
         ASSERT_FALSE(expected.empty()) << one.dataSource;
-        EXPECT_EQ(answer(server, one.dataSource, one.statement), expected) << one.dataSource;
+        EXPECT_EQ(risposta(server, one.dataSource, one.statement), expected) << one.dataSource;
     }
 }
 

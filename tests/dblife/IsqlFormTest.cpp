@@ -11,7 +11,7 @@ namespace {
 
 using namespace vabo;
 
-class IsqlRegistra : private OverTheWire, public RegistraForm {};
+class IsqlRegistra : private ConServerDiRete, public RegistraForm {};
 
 TEST_F(IsqlRegistra, ReadsEachDatabaseOnceTheFormHasRegisteredIt) {
     LeggiLinguaClient("");
@@ -20,7 +20,7 @@ TEST_F(IsqlRegistra, ReadsEachDatabaseOnceTheFormHasRegisteredIt) {
     ASSERT_THAT(platform::dataSources().names(), testing::Each(testing::Not(testing::StartsWith("Tlv_"))));
     gui.click(kForm, "cmdCancel");
     aspettaConsole();
-    expectEachDatabase(workstation, server);
+    aspettaOgniDatabase(workstation, server);
 }
 
 } // namespace

@@ -1,6 +1,6 @@
 #pragma once
 
-// Statements that nobody should write, one a line. The tables are those of StatementErrorsTest.cpp.
+// Statements that are wrong or odd, one a line. The tables are those of StatementErrorsTest.cpp.
 
 namespace engine::samples {
 
@@ -218,7 +218,7 @@ inline constexpr const char* kNasty[] = {
     "select case when 1 = 0 then getdate() else 1e300 end",
     "select coalesce(null, 1e300, getdate())",
     "select isnull(d, 1e300) from g where d is null",
-    // Types that meet where they shouldn't.
+    // Types that don't go together.
     "select 1 union select 'x'",
     "select getdate() union select 1e300",
     "select null union select null order by 1",

@@ -17,13 +17,16 @@ namespace engine {
 /// neither; before it what the server said, as `number: text`.
 inline std::string shown(Batch& batch) {
     std::string lines;
-    for (const Message& message : batch.messages())
+    for (const Message& message : batch.messages()) {
         lines += std::to_string(message.number) + ": " + message.text + "\n";
-    if (!batch.hasRows())
+    }
+    if (!batch.hasRows()) {
         return lines + (batch.affected() < 0 ? "-" : "(" + std::to_string(batch.affected()) + ")");
+    }
     const auto row = [&](auto value) {
-        for (int i = 0; i < static_cast<int>(batch.columns().size()); ++i)
+        for (int i = 0; i < static_cast<int>(batch.columns().size()); ++i) {
             lines += (i == 0 ? "" : "|") + value(i);
+        }
     };
     row([&](int i) { return batch.columns()[static_cast<std::size_t>(i)].name; });
     while (batch.nextRow()) {
@@ -51,8 +54,9 @@ inline std::string answer(Session& session, std::string_view text) {
         return true;
     });
     while (batch != nullptr && guarded([&] {
-               if (!batch->nextResult())
+               if (!batch->nextResult()) {
                    return false;
+               }
                add(shown(*batch));
                return true;
            })) {

@@ -306,8 +306,9 @@ void StatementMaker::type() {
 
 std::string StatementMaker::digits(int least, int most) {
     std::string result;
-    for (int left = least + below(most - least + 1); left > 0; --left)
+    for (int left = least + below(most - least + 1); left > 0; --left) {
         result += static_cast<char>('0' + below(10));
+    }
     return result;
 }
 

@@ -1,6 +1,6 @@
 #pragma once
 
-// Random statements of two spellings: the same words, about half of the literals different.
+// Random statements, each in two spellings: the same words, about half of the literals different.
 
 #include <cstdint>
 #include <random>

@@ -2,7 +2,7 @@
 
 #include "MorlanFixture.h"
 #include "general_tables/Opzioni.h"
-#include "session/GuastoFixture.h"
+#include "session/FailureFixture.h"
 #include "support/HeardBoxes.h"
 
 #include <gmock/gmock.h>
@@ -64,27 +64,27 @@ protected:
         DbAzienda.Open(StringaAzienda);
     }
 
-    ServerGuasto guasto{posto};
+    FailingServer guasto{posto};
 };
 
 using Testi = std::vector<std::string>;
 
-class GuastoAlCaricamento : public GuastoMorlan, public testing::WithParamInterface<Guasto> {};
+class GuastoAlCaricamento : public GuastoMorlan, public testing::WithParamInterface<Failure> {};
 
 TEST_P(GuastoAlCaricamento, IsToldOnceAndTheConsoleComesUpEmpty) {
-    guasto.avviene(GetParam());
-    EXPECT_EQ(scatoleDurante([this] { apri(); }), Testi{GetParam() == Guasto::Gelato ? kMuto : kCaduto});
+    guasto.fail(GetParam());
+    EXPECT_EQ(scatoleDurante([this] { apri(); }), Testi{GetParam() == Failure::Frozen ? kTimedOut : kLinkFailure});
     EXPECT_EQ(spuntate(), "");
     EXPECT_EQ(combo("DCBItem1").count(), 0);
     for (const char* nome : kGriglie) {
         EXPECT_EQ(righe(nome), 0) << nome;
     }
-    guasto.ripara();
+    guasto.repair();
     riapri();
     EXPECT_GT(righe("DataGrid2"), 0);
 }
 
-INSTANTIATE_TEST_SUITE_P(Di, GuastoAlCaricamento, testing::Values(Guasto::Spento, Guasto::Gelato), kNomeDelGuasto);
+INSTANTIATE_TEST_SUITE_P(Di, GuastoAlCaricamento, testing::Values(Failure::Ended, Failure::Frozen), kNameOfFailure);
 
 // A check box that the load sets runs its own handler, which may show an error of its own.
 TEST_F(GuastoMorlan, AtWhateverStatementOfTheLoadTheServerEndsTheLoadAndOneBoxAtMostTellIt) {
@@ -99,14 +99,14 @@ TEST_F(GuastoMorlan, AtWhateverStatementOfTheLoadTheServerEndsTheLoadAndOneBoxAt
         int inviate = 0;
         ado::setStatementRecorder([&](const std::string& /*testo*/) {
             if (++inviate == fatale) {
-                guasto.avviene(Guasto::Spento);
+                guasto.fail(Failure::Ended);
             }
         });
         const Testi dette = scatoleDurante([this] { riapri(); });
         ado::setStatementRecorder({});
         ASSERT_GE(inviate, fatale);
-        EXPECT_THAT(dette, testing::AnyOf(Testi{}, Testi{kCaduto}, Testi{kCaduto, kIrraggiungibile}));
-        guasto.ripara();
+        EXPECT_THAT(dette, testing::AnyOf(Testi{}, Testi{kLinkFailure}, Testi{kLinkFailure, kOutOfReach}));
+        guasto.repair();
         riprendiAzienda(); // the program may not have noticed the loss yet
     }
     EXPECT_EQ(tutto(), prima);
@@ -116,7 +116,7 @@ TEST_F(GuastoMorlan, AtWhateverStatementOfTheLoadTheServerEndsTheLoadAndOneBoxAt
 
 TEST_F(GuastoMorlan, InTheMiddleOfWhateverAnswerOfTheLoadTheWireIsCutAListIsWholeOrEmpty) {
     constexpr long kProve = 60;
-    const auto filo = guasto.filo();
+    const auto filo = guasto.wire();
     riprendiAzienda();
     filo->mend();
     apri();
@@ -141,22 +141,23 @@ TEST_F(GuastoMorlan, InTheMiddleOfWhateverAnswerOfTheLoadTheWireIsCutAListIsWhol
 TEST_F(GuastoMorlan, ABoxTellsThatItsRowWasNotWrittenOrKeepsSilentByItsOwnRule) {
     apri();
     const auto prima = tutto();
-    guasto.avviene(Guasto::Spento);
-    const char* parole = kCaduto;
+    guasto.fail(Failure::Ended);
+    const char* parole = kLinkFailure;
     for (const Opzione& opzione : kOpzioni) {
         const std::string nome(opzione.casella);
         const Testi dette = scatoleDurante([&] { controllo<controls::CheckBox>(nome).setValue(1 - casella(nome)); });
         EXPECT_EQ(dette, opzione.ignoraErrori ? Testi{} : Testi{parole}) << nome;
-        parole = kIrraggiungibile;
+        parole = kOutOfReach;
     }
-    guasto.ripara();
+    guasto.repair();
     EXPECT_EQ(tutto(), prima);
 }
 
 TEST_F(GuastoMorlan, TheChartsDefinitionTellsIt) {
     apri();
-    guasto.avviene(Guasto::Spento);
-    EXPECT_EQ(scatoleDurante([&] { premi("Command31"); }), (Testi{"Utilizzi il Piano dei Conti Standard?", kCaduto}));
+    guasto.fail(Failure::Ended);
+    EXPECT_EQ(scatoleDurante([&] { premi("Command31"); }),
+              (Testi{"Utilizzi il Piano dei Conti Standard?", kLinkFailure}));
 }
 
 struct Salvataggio {
@@ -179,9 +180,9 @@ TEST_P(GuastoNelSalvataggio, LeavesTheRowsAsTheyAreAndTheConsoleUsable) {
     scheda(GetParam().scheda);
     scegli(GetParam().griglia, GetParam().riga);
     ASSERT_EQ(fuoco(), GetParam().selettore);
-    guasto.avviene(Guasto::Spento);
+    guasto.fail(Failure::Ended);
     EXPECT_EQ(scatoleDurante([&] { gui.press(Qt::Key_Return); }), GetParam().scatole);
-    guasto.ripara();
+    guasto.repair();
     EXPECT_EQ(tutto(), prima);
     riapri();
     scheda(GetParam().scheda);
@@ -191,8 +192,8 @@ TEST_P(GuastoNelSalvataggio, LeavesTheRowsAsTheyAreAndTheConsoleUsable) {
 
 INSTANTIATE_TEST_SUITE_P(Di, GuastoNelSalvataggio,
                          testing::Values(Salvataggio{"ContiUtili", 1, "DataGrid2", "4", "DCBItem1", {}},
-                                         Salvataggio{"AltriConti", 2, "DataGrid4", "2", "DCBitem2", {kCaduto}},
-                                         Salvataggio{"Fatture", 4, "DataGrid11", "3", "DCBItems3", {kCaduto}},
+                                         Salvataggio{"AltriConti", 2, "DataGrid4", "2", "DCBitem2", {kLinkFailure}},
+                                         Salvataggio{"Fatture", 4, "DataGrid11", "3", "DCBItems3", {kLinkFailure}},
                                          Salvataggio{"Personale", 5, "DataGridPersonale", "3", "DCBitems4", {}}),
                          [](const auto& info) { return info.param.nome; });
 
@@ -200,10 +201,10 @@ INSTANTIATE_TEST_SUITE_P(Di, GuastoNelSalvataggio,
 TEST_F(GuastoMorlan, TheTurnOfTheOtherAccountsTellsItAndTheNextOneShowsItsTableAgain) {
     apri();
     scheda(2);
-    guasto.avviene(Guasto::Spento);
-    EXPECT_EQ(scatoleDurante([&] { premi("Command18"); }), Testi{kIrraggiungibile});
+    guasto.fail(Failure::Ended);
+    EXPECT_EQ(scatoleDurante([&] { premi("Command18"); }), Testi{kOutOfReach});
     EXPECT_EQ(righe("DataGrid4"), 0);
-    guasto.ripara();
+    guasto.repair();
     EXPECT_EQ(scatoleDurante([&] { premi("Command18"); }), Testi{});
     EXPECT_GT(righe("DataGrid4"), 0);
 }
@@ -213,15 +214,15 @@ TEST_F(GuastoMorlan, ATreatmentPickedIsToldAndNotStored) {
     scheda(4);
     const auto prima = tutto();
     const std::string altra = valore("select Descrizione from IvaTrattamento where idautonumber = 3");
-    guasto.avviene(Guasto::Spento);
+    guasto.fail(Failure::Ended);
     EXPECT_EQ(scatoleDurante([&] { prendi("DCBitem5", altra); }), Testi{"Type mismatch"}) << "of a rate not read";
-    guasto.ripara();
+    guasto.repair();
     EXPECT_EQ(tutto(), prima);
 }
 
 TEST_F(GuastoMorlan, ItClosesWithoutItsServer) {
     apri();
-    guasto.avviene(Guasto::Gelato);
+    guasto.fail(Failure::Frozen);
     premi("Command13");
     EXPECT_EQ(gui.visibleForms(), "Avvio_Azienda");
     EXPECT_FALSE(gui.forms().isLoaded("Avvio_Morlan"));

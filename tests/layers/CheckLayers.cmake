@@ -10,7 +10,7 @@ set(allowed_state state/ ado/)
 set(allowed_kit kit/ state/ platform/ ado/)
 
 # The folders of the engine from the lowest up: each may include itself and those before it.
-set(engine_rooms errors values text store functions bind translate run)
+set(engine_folders errors values text store functions bind translate run)
 
 set(boxes "QMessageBox|QInputDialog|QFileDialog")
 # Written with brackets so that a search for these words doesn't find this line.
@@ -47,8 +47,8 @@ endfunction()
 macro(check_room file room header)
     if("${file}" MATCHES "^src/engine/([^/]*)/")
         set(own_room ${CMAKE_MATCH_1})
-        list(FIND engine_rooms ${own_room} from)
-        list(FIND engine_rooms ${room} to)
+        list(FIND engine_folders ${own_room} from)
+        list(FIND engine_folders ${room} to)
         if(from LESS 0 OR to LESS 0 OR to GREATER from)
             report(${file} "the engine's ${own_room} may not include ${header}")
         endif()

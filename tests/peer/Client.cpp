@@ -1,5 +1,6 @@
 #include "peer/Client.h"
 
+#include "engine/errors/RunErrors.h"
 #include "peer/Procedures.h"
 
 namespace peer {
@@ -7,6 +8,10 @@ namespace peer {
 namespace {
 
 constexpr std::size_t kRowsBetweenLooks = 64;
+
+/// The one error of the protocol itself.
+constexpr engine::errors::ErrorText<> kIncorrectStream{
+    4002, engine::Error::Reach::Statement, "The incoming tabular data stream (TDS) protocol stream is incorrect."};
 
 int severity(int number) {
     switch (number) {
@@ -99,7 +104,7 @@ void Client::answer(const Message& message) {
         stopped_ = true;
         break;
     default:
-        refuse(4002, "The incoming tabular data stream (TDS) protocol stream is incorrect.");
+        report(kIncorrectStream());
         break;
     }
     if (stopped_) {
@@ -180,10 +185,6 @@ void Client::report(const engine::Error& error) {
     statementDone({done::kError, 0});
 }
 
-void Client::refuse(int number, std::string_view text) {
-    report(engine::Error(number, std::string(text)));
-}
-
 void Client::releaseHeld() {
     if (held_) {
         tokens_.statementDone(static_cast<std::uint16_t>(held_->status | done::kMore), held_->rows);
@@ -200,7 +201,7 @@ void Client::procedureMessage(ByteReader in) {
     const ProcedureCall call = readProcedureCall(in);
     const ProcedureText text = procedureText(call, prepared_, lastPrepared_);
     if (text.unknown) {
-        refuse(2812, engine::errors::procedureMissing(call.name).what());
+        report(engine::errors::procedureMissing(call.name));
         return;
     }
     if (!text.batch.empty()) {
@@ -225,7 +226,7 @@ void Client::transactionMessage(ByteReader in) {
         run(request == kCommit ? "COMMIT TRANSACTION" : "ROLLBACK TRANSACTION");
         tokens_.transactionEnded(request == kCommit ? kCommitted : kRolledBack, transaction_);
     } else {
-        refuse(4002, "The incoming tabular data stream (TDS) protocol stream is incorrect.");
+        report(kIncorrectStream());
     }
 }
 

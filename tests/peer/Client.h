@@ -47,7 +47,6 @@ private:
     void run(std::string_view text);
     void runResult(engine::Batch& batch);
     void report(const engine::Error& error);
-    void refuse(int number, std::string_view text);
     void statementDone(Done done);
     void releaseHeld(); ///< sends it, marked as followed by more
 

@@ -26,8 +26,8 @@ void AzzeraVariabili() {
                                &SqlLavoro,         &Appoggio}) {
         testo->clear();
     }
-    for (double* numero :
-         {&IdAzienda, &IdAziendaLavoro, &IdAziendaScelta, &IdSede, &IdSedeCopia, &TentativiLogin, &CimaForm}) {
+    for (double* numero : {&IdAzienda, &IdAziendaLavoro, &IdAziendaScelta, &IdSede, &IdSedeCopia, &TentativiLogin,
+                           &IdProgettoScelto, &CimaForm}) {
         *numero = 0;
     }
     ClienteDornavel = kFalso;

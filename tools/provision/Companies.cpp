@@ -24,11 +24,11 @@ long ledgerRows(const Company& company, const Plan& plan) {
 } // namespace
 
 const std::array<Company, 2>& companies() {
-    static constexpr std::array<Company, 2> all = {
+    static constexpr std::array<Company, 2> kAll = {
         Company{"Associazione Aurora", kFirstDatabase, "tlv_locale_sql.mdb", "aurora.sql", true, 1, 2024},
         Company{"Fondazione Il Ponte", kSecondDatabase, "tlv_locale_ponte.mdb", "ponte.sql", false, 10, 2030},
     };
-    return all;
+    return kAll;
 }
 
 std::string dataFile(const Company& company) {

@@ -77,7 +77,7 @@ void dataSources(Tour& tour) {
 } // namespace
 
 void walk(Tour& tour) {
-    for (const auto page : {start, login, box, console, links, generalTables, dataSources, vatSections}) {
+    for (const auto page : {start, login, box, console, links, generalTables, locks, vatSections, dataSources}) {
         page(tour);
     }
 }

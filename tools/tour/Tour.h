@@ -36,6 +36,8 @@ private:
 
 /// The tabs of the general tables console, opened from the company console.
 void generalTables(Tour& tour);
+/// The two locks, opened from that console, on their way and after it.
+void locks(Tour& tour);
 
 /// The VAT sections, without and with one picked.
 void vatSections(Tour& tour);

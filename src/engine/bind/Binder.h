@@ -1,6 +1,7 @@
 #pragma once
 
 #include "engine/bind/BoundTree.h"
+#include "engine/functions/Functions.h"
 
 #include <string>
 #include <string_view>
@@ -17,9 +18,9 @@ public:
         const TableInfo* info;
         bool system = false; ///< one of the server's own tables, not to be written
     };
-    /// Throws 208.
+    /// Throws 208 for a name that no table has.
     virtual Found find(const Name& name) = 0;
-    /// The table, for which SET IDENTITY_INSERT is on, may be written with identity values of the statement's own.
+    /// Whether SET IDENTITY_INSERT is on for the table: a statement may then give its identity values.
     virtual bool takesIdentity(const TableInfo& table) = 0;
 };
 
@@ -42,7 +43,7 @@ public:
     const std::vector<bound::Parameter>& parameters() const { return parameters_; }
 
 private:
-    /// One table as the names of a statement see it.
+    /// A table that the statement's names may refer to.
     struct Visible {
         std::string qualifier; ///< alias, or the table's name
         int number = 0;
@@ -112,7 +113,7 @@ private:
     // BinderCalls.cpp
     bound::ExpressionPtr aggregate(const Call& call, const std::string& name);
     bound::ExpressionPtr builtIn(const Call& call);
-    bound::ExpressionPtr argument(const Call& call, std::size_t place, char kind);
+    bound::ExpressionPtr argument(const Call& call, std::size_t place, FunctionParameter::Kind kind);
 
     // BinderConversions.cpp
     bound::ExpressionPtr convertTo(bound::ExpressionPtr value, const DataType& type, Purpose purpose,

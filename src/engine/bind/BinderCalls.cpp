@@ -1,7 +1,10 @@
 #include "engine/bind/Binder.h"
 #include "engine/bind/BoundMakers.h"
 #include "engine/errors/BindErrors.h"
+#include "engine/errors/TextErrors.h"
 #include "engine/functions/Functions.h"
+#include "engine/functions/Operators.h"
+#include "engine/values/Ascii.h"
 
 #include <algorithm>
 #include <array>
@@ -11,19 +14,10 @@ namespace engine {
 namespace {
 
 using Kind = DataType::Kind;
-using Result = FunctionEntry::Result;
-
-constexpr int kSystemNameLength = 128;
-constexpr int kWidestDecimal = 38;
+using Result = FunctionRow::Result;
+using Parameter = FunctionParameter::Kind;
 
 constexpr std::array kAggregates = {"COUNT", "COUNT_BIG", "SUM", "AVG", "MIN", "MAX"};
-
-std::string capitals(const std::string& name) {
-    std::string result(name);
-    std::transform(result.begin(), result.end(), result.begin(),
-                   [](char c) { return c >= 'a' && c <= 'z' ? static_cast<char>(c - 'a' + 'A') : c; });
-    return result;
-}
 
 DataType resultType(Result result, const std::vector<bound::ExpressionPtr>& arguments) {
     switch (result) {
@@ -31,8 +25,6 @@ DataType resultType(Result result, const std::vector<bound::ExpressionPtr>& argu
         return {Kind::Int, 0, 0, 0};
     case Result::Numeric:
         return {Kind::Decimal, 0, kWidestDecimal, 0};
-    case Result::Float:
-        return {Kind::Float, 0, 0, 0};
     case Result::DateTime:
         return {Kind::DateTime, 0, 0, 0};
     case Result::SystemName:
@@ -40,6 +32,7 @@ DataType resultType(Result result, const std::vector<bound::ExpressionPtr>& argu
     case Result::LongText:
         return {Kind::VarChar, longestText({Kind::VarChar, 0, 0, 0}), 0, 0};
     case Result::AsFirst:
+    case Result::AsFirstBeyond:
         return arguments.front()->type;
     }
     return {};
@@ -167,73 +160,71 @@ bound::ExpressionPtr Binder::aggregate(const Call& call, const std::string& name
     }
     const bool average = name == "AVG";
     const DataType wanted = sumType(type, average);
-    made.function = !average ? "sum" : wanted.isInteger() ? "tsql_avg_int" : "avg";
+    made.function = !average ? "sum" : wanted.isInteger() ? operators::kIntegerAverage : "avg";
     result->node = std::move(made);
     result->type =
         wanted.kind == Kind::Float ? wanted : DataType{wanted.isInteger() ? Kind::BigInt : Kind::Float, 0, 0, 0};
-    return wanted.kind == Kind::Float ? bound::call("tsql_float", wanted, std::move(result))
+    return wanted.kind == Kind::Float ? bound::call(operators::kFloat, wanted, std::move(result))
                                       : convertTo(std::move(result), wanted, Purpose::Cast);
 }
 
-bound::ExpressionPtr Binder::argument(const Call& call, std::size_t place, char kind) {
+bound::ExpressionPtr Binder::argument(const Call& call, std::size_t place, FunctionParameter::Kind kind) {
     const Expression& written = *call.arguments[place];
-    if (kind == 'p') {
+    if (kind == Parameter::DatePart) {
         const auto* part = std::get_if<ColumnReference>(&written.node);
         if (part == nullptr) {
-            throw Error(1023,
-                        "Invalid parameter " + std::to_string(place + 1) + " specified for " + call.function + ".",
-                        Error::Reach::Batch, written.position);
+            throw errors::invalidParameter(static_cast<int>(place) + 1, call.function, written.position);
         }
         return bound::constant(quotedText(part->name.last()), DataType{Kind::VarChar, kSystemNameLength, 0, 0});
     }
     auto value = expression(written);
-    const bool needsNumber = kind == 'f' || kind == 'n';
+    const bool needsNumber = kind == Parameter::Float || kind == Parameter::Number;
     if (needsNumber && (value->type.kind == Kind::DateTime || value->type.kind == Kind::VarBinary)) {
         throw errors::argumentType(typeName(value->type), static_cast<int>(place) + 1, call.function);
     }
     switch (kind) {
-    case 't':
+    case Parameter::Text:
         return value->type.isText() ? std::move(value)
                                     : convertTo(std::move(value), DataType{Kind::NVarChar, -1, 0, 0}, Purpose::Cast);
-    case 'i':
+    case Parameter::Int:
         return convertTo(std::move(value), DataType{Kind::Int, 0, 0, 0}, Purpose::Cast);
-    case 'f':
+    case Parameter::Float:
         return value->type.isNumber() ? std::move(value)
                                       : convertTo(std::move(value), DataType{Kind::Float, 0, 0, 0}, Purpose::Cast);
-    case 'n':
+    case Parameter::Number:
         return value->type.isText() ? convertTo(std::move(value), DataType{Kind::Float, 0, 0, 0}, Purpose::Cast)
                                     : std::move(value);
-    case 'd':
+    case Parameter::Date:
         return convertTo(std::move(value), DataType{Kind::DateTime, 0, 0, 0}, Purpose::Cast);
-    default:
-        return value;
+    case Parameter::DatePart:
+    case Parameter::Any:
+    case Parameter::Typed:
+        break;
     }
+    return value;
 }
 
 bound::ExpressionPtr Binder::builtIn(const Call& call) {
-    const FunctionEntry* entry = findFunction(call.function);
-    if (entry == nullptr) {
+    const FunctionRow* row = findFunction(call.function);
+    if (row == nullptr) {
         throw errors::unknownFunction(call.function);
     }
+    const FunctionParameters& parameters = row->parameters;
     const std::size_t given = call.arguments.size();
-    if (given < static_cast<std::size_t>(entry->minimum) || given > entry->arguments.size()) {
-        throw errors::argumentCount(call.function, static_cast<int>(entry->arguments.size()));
+    if (given < parameters.least() || given > parameters.most()) {
+        throw errors::argumentCount(call.function, static_cast<int>(parameters.most()));
     }
     std::vector<bound::ExpressionPtr> arguments;
     for (std::size_t i = 0; i < given; ++i) {
-        arguments.push_back(argument(call, i, entry->arguments[i]));
+        arguments.push_back(argument(call, i, parameters[i].kind));
+        if (parameters[i].kind == Parameter::Typed) {
+            const std::string type = std::to_string(encodeType(arguments.back()->type));
+            arguments.push_back(bound::constant(type, DataType{Kind::BigInt, 0, 0, 0}));
+        }
     }
-    const DataType type = resultType(entry->result, arguments);
-    if (entry->name == "DATALENGTH") {
-        arguments.push_back(bound::constant(std::to_string(encodeType(arguments.front()->type)), type));
-    }
-    if (entry->fact) {
-        arguments.insert(arguments.begin(), bound::constant(quotedText(std::string(entry->name)), type));
-        return bound::callOf("tsql_fact", type, std::move(arguments));
-    }
-    auto result = bound::callOf(storageName(*entry), type, std::move(arguments));
-    if ((entry->name == "ABS" || entry->name == "ROUND") && type.kind != Kind::Float) {
-        // What comes out may lie outside of the type that went in.
+    const DataType type = resultType(row->result, arguments);
+    auto result = bound::callOf(storageName(*row), type, std::move(arguments));
+    if (row->result == Result::AsFirstBeyond && type.kind != Kind::Float) {
         result->type = DataType{type.isInteger() ? Kind::BigInt : Kind::Float, 0, 0, 0};
         return convertTo(std::move(result), type, Purpose::Cast);
     }
@@ -242,12 +233,11 @@ bound::ExpressionPtr Binder::builtIn(const Call& call) {
 
 bound::ExpressionPtr Binder::node(const ServerVariable& variable) {
     const std::string spelt = variable.name.starts_with("@@") ? variable.name : "@@" + variable.name;
-    const FunctionEntry* entry = findServerVariable(spelt);
-    if (entry == nullptr) {
-        throw Error(137, "Must declare the scalar variable \"" + spelt + "\".", Error::Reach::Batch);
+    const FunctionRow* row = findServerVariable(spelt);
+    if (row == nullptr) {
+        throw errors::undeclaredVariable(spelt, -1);
     }
-    const DataType type = resultType(entry->result, {});
-    return bound::call("tsql_fact", type, bound::constant(quotedText(std::string(entry->name)), type));
+    return bound::callOf(storageName(*row), resultType(row->result, {}), {});
 }
 
 } // namespace engine

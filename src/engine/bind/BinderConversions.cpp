@@ -1,5 +1,6 @@
 #include "engine/bind/Binder.h"
 #include "engine/bind/BoundMakers.h"
+#include "engine/functions/Operators.h"
 
 #include <algorithm>
 
@@ -8,8 +9,6 @@ namespace engine {
 namespace {
 
 using Kind = DataType::Kind;
-
-constexpr int kWidestDecimal = 38;
 
 int rank(Kind kind) {
     switch (kind) {
@@ -85,7 +84,7 @@ bound::ExpressionPtr Binder::convertTo(bound::ExpressionPtr value, const DataTyp
         }
         return value;
     }
-    // A literal is converted when it is bound, once: the statement's text stays the same whatever stands in it.
+    // A literal is converted before it is bound, so that one text of the statement serves all literals.
     if (const auto* use = std::get_if<bound::ParameterUse>(&value->node)) {
         auto& conversion = parameters_[static_cast<std::size_t>(use->place)].conversion;
         if (conversion.to.kind == Kind::Unknown) {
@@ -97,28 +96,28 @@ bound::ExpressionPtr Binder::convertTo(bound::ExpressionPtr value, const DataTyp
     const DataType from = value->type;
     const bool nullable = value->nullable;
     auto result =
-        bound::call("tsql_convert", type, std::move(value), number(encodeType(from)), number(encodeType(type)),
+        bound::call(operators::kConvert, type, std::move(value), number(encodeType(from)), number(encodeType(type)),
                     number(style.value_or(-1)), number(purpose == Purpose::Assignment ? 1 : 0));
     result->nullable = nullable;
     return result;
 }
 
-/// The literal that an expression is, nullptr where it is anything else or a literal on its way to another type.
+/// The literal that an expression is, nullptr where it is anything else or a literal that is to be converted.
 bound::Parameter* Binder::bareLiteral(const bound::Expression& value) {
     const auto* use = std::get_if<bound::ParameterUse>(&value.node);
     bound::Parameter* parameter = use == nullptr ? nullptr : &parameters_[static_cast<std::size_t>(use->place)];
     return parameter != nullptr && parameter->conversion.to.kind == Kind::Unknown ? parameter : nullptr;
 }
 
-/// Nothing around a value takes the number of its digits from it.
+/// Called where no type depends on the number of the digits of a value.
 void Binder::freeDigits(const bound::Expression& value) {
     if (bound::Parameter* literal = bareLiteral(value)) {
         literal->digitsMatter = false;
     }
 }
 
-/// A conversion to a type that stands in the statement or the table. A decimal is converted even from the same type,
-/// for the next one that comes to this plan may have another.
+/// Converts to a type that is written in the statement or the table. A decimal literal is converted even where it has
+/// that type, since the next literal of the same plan may have other digits.
 bound::ExpressionPtr Binder::convertWritten(bound::ExpressionPtr value, const DataType& type, Purpose purpose,
                                             std::optional<int> style) {
     bound::Parameter* literal = bareLiteral(*value);

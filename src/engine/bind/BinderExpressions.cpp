@@ -1,6 +1,8 @@
 #include "engine/bind/Binder.h"
 #include "engine/bind/BoundMakers.h"
 #include "engine/errors/BindErrors.h"
+#include "engine/errors/TextErrors.h"
+#include "engine/functions/Operators.h"
 
 namespace engine {
 
@@ -43,8 +45,8 @@ const char* operatorText(Binary::Operator op) {
     return "";
 }
 
-/// The first and the last of the chain `a or b or c`, which the parser hangs to the left: taken from the top, they
-/// come in the order of the text without a call for each.
+/// The operands of `a or b or c` in the order of the text. The parser nests such a chain to the left; a loop over its
+/// links needs no recursion.
 std::vector<const Expression*> chainOf(const Binary& top) {
     std::vector<const Expression*> chain;
     const Binary* link = &top;
@@ -67,7 +69,7 @@ bound::ExpressionPtr negatedIf(bool negated, bound::ExpressionPtr condition) {
     return condition;
 }
 
-/// A tree as low as can be over a chain of conditions, so that a long one isn't a deep one.
+/// A balanced tree over a chain of conditions, so that a long chain isn't a deep expression.
 bound::ExpressionPtr balanced(const char* op, std::vector<bound::ExpressionPtr>& conditions, std::size_t begin,
                               std::size_t end) {
     if (end - begin == 1) {
@@ -114,7 +116,7 @@ bound::ExpressionPtr Binder::literal(const Literal& literal, bool negated) {
     result->node = bound::ParameterUse{static_cast<int>(parameters_.size())};
     result->type = typeOf(literal);
     result->nullable = false;
-    // Until it is known that the type goes no further than to the literal itself.
+    // Assumed until freeDigits is called.
     parameter.digitsMatter = result->type.kind == Kind::Decimal;
     parameters_.push_back(std::move(parameter));
     return result;
@@ -165,8 +167,8 @@ bound::ExpressionPtr Binder::negated(bound::ExpressionPtr operand) {
     if (!type.isInteger()) {
         return result;
     }
-    // The smallest integer has no opposite.
-    result = bound::call("tsql_bigint", DataType{Kind::BigInt}, std::move(result));
+    // Minus the smallest integer of a type is outside of the type.
+    result = bound::call(operators::kBigInt, DataType{Kind::BigInt}, std::move(result));
     return convertTo(std::move(result), type, Purpose::Cast);
 }
 
@@ -179,7 +181,7 @@ bound::ExpressionPtr Binder::node(const Binary& binary) {
         return balanced(operatorText(binary.op), conditions, 0, conditions.size());
     }
     if (binary.op < Binary::Operator::Equal) {
-        // Sums stay as they hang: their order decides where a text meets a number.
+        // Not balanced: in `a + b + 1` the order decides which operands are texts and which are numbers.
         const auto chain = chainOf(binary);
         bound::ExpressionPtr result = expression(*chain.front());
         for (std::size_t i = 1; i < chain.size(); ++i) {
@@ -199,7 +201,7 @@ bound::ExpressionPtr Binder::compare(const char* op, bound::ExpressionPtr left, 
     freeDigits(*left);
     freeDigits(*right);
     const auto meet = [&](bound::ExpressionPtr side) {
-        // Numbers compare among each other as they are, and so do texts of any length.
+        // Numbers of two types are compared without a conversion, and so are texts of two lengths.
         const bool alike = (side->type.isNumber() && common.isNumber()) || (side->type.isText() && common.isText());
         return alike ? std::move(side) : convertTo(std::move(side), comparable(common), Purpose::Cast);
     };
@@ -207,7 +209,7 @@ bound::ExpressionPtr Binder::compare(const char* op, bound::ExpressionPtr left, 
     return bound::infix(op, std::move(left), meet(std::move(right)), DataType{Kind::Bit});
 }
 
-/// Among decimals a whole literal is a decimal of just its digits.
+/// Next to a decimal, an integer literal counts as a decimal with as many digits as it has.
 DataType Binder::digitsOf(const bound::Expression& number) {
     bound::Parameter* literal = number.type.isInteger() ? bareLiteral(number) : nullptr;
     if (literal == nullptr) {
@@ -247,19 +249,19 @@ bound::ExpressionPtr Binder::arithmetic(Binary::Operator op, bound::ExpressionPt
     bound::ExpressionPtr result;
     const DataType wide{common.isInteger() ? Kind::BigInt : Kind::Float};
     if (op == Binary::Operator::Divide) {
-        result = bound::call("tsql_divide", wide, std::move(left), std::move(right),
+        result = bound::call(operators::kDivide, wide, std::move(left), std::move(right),
                              bound::constant(common.isInteger() ? "1" : "0", DataType{Kind::Int}));
     } else if (op == Binary::Operator::Modulo) {
-        result = bound::call("tsql_modulo", wide, std::move(left), std::move(right));
+        result = bound::call(operators::kModulo, wide, std::move(left), std::move(right));
     } else {
         result = bound::infix(operatorText(op), std::move(left), std::move(right), wide);
     }
     if (common.kind == Kind::Float) {
-        return bound::call("tsql_float", common, std::move(result));
+        return bound::call(operators::kFloat, common, std::move(result));
     }
     if (common.kind == Kind::BigInt) {
         result->type = DataType{Kind::Unknown};
-        return bound::call("tsql_bigint", common, std::move(result));
+        return bound::call(operators::kBigInt, common, std::move(result));
     }
     return convertTo(std::move(result), decimal ? decimalResult(op, leftType, rightType) : common, Purpose::Cast);
 }
@@ -272,14 +274,15 @@ bound::ExpressionPtr Binder::node(const Like& like) {
     };
     auto operand = asText(*like.operand);
     auto pattern = asText(*like.pattern);
-    auto result = like.escape ? bound::call("tsql_like", DataType{Kind::Bit}, std::move(operand), std::move(pattern),
-                                            asText(*like.escape))
-                              : bound::call("tsql_like", DataType{Kind::Bit}, std::move(operand), std::move(pattern));
+    auto result = like.escape
+                      ? bound::call(operators::kLike, DataType{Kind::Bit}, std::move(operand), std::move(pattern),
+                                    asText(*like.escape))
+                      : bound::call(operators::kLike, DataType{Kind::Bit}, std::move(operand), std::move(pattern));
     return negatedIf(like.negated, std::move(result));
 }
 
 bound::ExpressionPtr Binder::node(const Between& between) {
-    // Two comparisons: each side may meet the operand in another type.
+    // Two comparisons, since each bound may ask for another type of the operand.
     auto from = compare(">=", expression(*between.operand), expression(*between.low));
     auto to = compare("<=", expression(*between.operand), expression(*between.high));
     auto result = bound::infix("AND", std::move(from), std::move(to), DataType{Kind::Bit});

@@ -9,7 +9,7 @@ namespace {
 
 using bound::Expression;
 
-/// The column of this core that stands outside of every aggregate and every grouped expression, if there is one.
+/// Finds a column of this core outside of every aggregate and every grouped expression.
 class LooseColumn {
 public:
     LooseColumn(const bound::Core& core, const std::vector<int>& tables) : core_(core), tables_(tables) {}
@@ -41,7 +41,7 @@ private:
         if (a != nullptr && b != nullptr) {
             return a->source == b->source && a->column == b->column;
         }
-        // Two texts of one grouped expression have parameters of their own; the shape alone can be told here.
+        // An expression written twice has other parameters each time, so only the shapes can be compared.
         return left.node.index() == right.node.index() && a == nullptr && b == nullptr && left.type == right.type &&
                !std::holds_alternative<bound::ParameterUse>(left.node) && sameShape(left, right);
     }
@@ -154,7 +154,7 @@ bool Binder::refersTo(const Scope& scope, const bound::Expression& expression) c
     return LooseColumn(none, tables).in(expression) != nullptr;
 }
 
-/// An aggregate over columns of an outer SELECT is that SELECT's own; one without columns belongs where it stands.
+/// An aggregate over columns of an outer SELECT belongs to that SELECT, one without columns to the SELECT around it.
 Binder::Scope& Binder::ownerOf(const bound::Call& aggregate, Scope& here) const {
     Scope* owner = nullptr;
     for (Scope* scope = &here; scope != nullptr && !aggregate.star; scope = scope->parent) {

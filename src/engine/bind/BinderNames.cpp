@@ -117,11 +117,7 @@ bound::SourcePtr Binder::namedTable(const NamedTable& named, Scope& scope, bool 
     visible.outer = outer;
     for (const Visible& other : scope.tables) {
         if (sameText(other.qualifier, visible.qualifier)) {
-            throw Error(1011,
-                        "The objects \"" + other.qualifier + "\" and \"" + visible.qualifier +
-                            "\" in the FROM clause have the same exposed names. Use correlation names to distinguish "
-                            "them.",
-                        Error::Reach::Batch);
+            throw errors::sameExposedName(other.qualifier, visible.qualifier);
         }
     }
     auto result = std::make_unique<bound::Source>();

@@ -1,6 +1,6 @@
 #include "engine/bind/Binder.h"
 #include "engine/errors/BindErrors.h"
-#include "engine/errors/Error.h"
+#include "engine/errors/TextErrors.h"
 #include "engine/values/Collation.h"
 
 #include <cstdlib>
@@ -9,7 +9,7 @@ namespace engine {
 
 namespace {
 
-/// Puts a scope in force for as long as it lives.
+/// Makes a scope the present one while it lives.
 template<class Scope>
 class InScope {
 public:
@@ -23,7 +23,7 @@ private:
     Scope* before_;
 };
 
-/// Selects that the storage takes in one UNION.
+/// The most selects that SQLite takes in one UNION.
 constexpr std::size_t kMostCores = 500;
 
 bool isAllTables(const Name& starOf) {
@@ -45,7 +45,7 @@ bound::Select Binder::select(const Select& select, Scope* parent) {
     if (select.cores.size() > kMostCores) {
         throw errors::nestedTooDeep();
     }
-    // The scopes of all cores stay until ORDER BY is bound, in the last of them.
+    // ORDER BY is bound in the scope of the last core.
     Scope scope;
     for (const SelectCore& one : select.cores) {
         scope = Scope{};
@@ -150,13 +150,9 @@ void Binder::starItems(const Name& starOf, Scope& scope, bound::Core& result, st
         return;
     }
     if (isAllTables(starOf)) {
-        throw Error(263, "Must specify table to select from.", Error::Reach::Batch);
+        throw errors::noTableToSelectFrom();
     }
-    throw Error(107,
-                "The column prefix '" + starOf.last() +
-                    "' does not match with a table name or alias name used in "
-                    "the query.",
-                Error::Reach::Batch);
+    throw errors::prefixUnknown(starOf.last());
 }
 
 bound::Order Binder::order(const OrderItem& item, const bound::Select& result, bool single) {
@@ -194,10 +190,7 @@ bound::Order Binder::order(const OrderItem& item, const bound::Select& result, b
         }
     }
     if (!single) {
-        throw Error(104,
-                    "ORDER BY items must appear in the select list if the statement contains a UNION, INTERSECT or "
-                    "EXCEPT operator.",
-                    Error::Reach::Batch);
+        throw errors::orderNotSelected();
     }
     order.expression = expression(*item.expression);
     order.text = order.expression->type.isText();

@@ -76,7 +76,7 @@ std::vector<const ColumnInfo*> Binder::insertColumns(const Insert& insert, const
     return columns;
 }
 
-/// The columns that the statement leaves out, behind those it gives: the identity, then defaults.
+/// Adds the values of the columns that the statement leaves out: the next identity and the defaults.
 void Binder::completeRow(const bound::Insert& insert, std::size_t given, std::vector<bound::ExpressionPtr>& row) {
     for (std::size_t i = given; i < insert.columns.size(); ++i) {
         const ColumnInfo& column = *insert.columns[i];
@@ -96,7 +96,7 @@ void Binder::completeRow(const bound::Insert& insert, std::size_t given, std::ve
 
 bound::Statement Binder::bind(const Insert& insert) {
     bound::Insert result;
-    Scope scope; // values see no table
+    Scope scope; // without tables: VALUES can't name columns
     scope_ = &scope;
     result.table = target(insert.table);
     const TableInfo& info = *result.table.info;
@@ -178,7 +178,7 @@ bound::Statement Binder::bind(const Update& update) {
     for (const TableSourcePtr& source : update.from) {
         result.from.push_back(this->source(*source, scope, false));
     }
-    // Among the sources the target stands under its alias, or else under its own name.
+    // The target is looked for among the sources by alias, then by its own name.
     const auto standsFor = [&](const auto& isNamed) {
         for (const Visible& visible : scope.tables) {
             if (result.targetInFrom < 0 && visible.table != nullptr && isNamed(visible)) {

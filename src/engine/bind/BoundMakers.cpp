@@ -8,7 +8,6 @@ namespace {
 
 using Kind = DataType::Kind;
 
-constexpr int kWidestDecimal = 38;
 constexpr int kLeastQuotientScale = 6;
 
 /// An integer as the decimal that holds all its values.
@@ -94,9 +93,7 @@ DataType comparable(const DataType& type) {
 }
 
 int longestText(const DataType& type) {
-    constexpr int kLongestVarChar = 8000;
-    constexpr int kLongestNational = 4000;
-    return type.kind == Kind::Char || type.kind == Kind::VarChar ? kLongestVarChar : kLongestNational;
+    return type.isNational() ? kLongestNationalText : kLongestText;
 }
 
 DataType decimalResult(Binary::Operator op, const DataType& leftType, const DataType& rightType) {

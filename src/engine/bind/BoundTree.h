@@ -1,7 +1,7 @@
 #pragma once
 
 // A statement after its names were looked up: every expression has a type, every conversion stands where it happens,
-// and literals have become parameters. From here to the storage's text no decision is left.
+// and literals have become parameters. The translators decide nothing more.
 
 #include "engine/store/Catalog.h"
 #include "engine/text/Tree.h"
@@ -35,7 +35,7 @@ struct Parameter {
     engine::Literal constant; ///< the literal as it stood when the statement was bound
     bool negated = false;
     ConversionRequest conversion;
-    /// The number of its digits is in the type of what is around it: a literal with others needs a plan of its own.
+    /// Its number of digits decides the type of an expression around it: other digits need another plan.
     bool digitsMatter = false;
 };
 
@@ -49,7 +49,7 @@ struct Column {
     std::string column; ///< the storage's name of it
 };
 
-/// Text of the storage's own, as NULL.
+/// SQLite text that is written as it stands, such as NULL.
 struct Constant {
     std::string text;
 };
@@ -82,7 +82,7 @@ struct InList {
     std::vector<ExpressionPtr> list;
 };
 
-/// EXISTS (…), x IN (…), (…): the first two by what stands before the bracket.
+/// EXISTS (select), x IN (select), or a select that stands for one value.
 struct Subselect {
     enum class Kind { Exists, In, Scalar };
     Kind kind;

@@ -1,85 +1,26 @@
 #include "engine/functions/Functions.h"
 
 #include "engine/errors/Error.h"
-#include "engine/functions/FunctionRoutines.h"
+#include "engine/functions/FunctionRows.h"
+#include "engine/functions/Operators.h"
+#include "engine/values/Ascii.h"
 #include "engine/values/Collation.h"
 
 #include <sqlite3.h>
 
 #include <algorithm>
-#include <array>
 
 namespace engine {
 
 namespace {
 
-using Result = FunctionEntry::Result;
-
-constexpr std::array kFunctions = std::to_array<FunctionEntry>({
-    {"ABS", "n", 1, Result::AsFirst},
-    {"CEILING", "n", 1, Result::AsFirst},
-    {"CHARINDEX", "tti", 2, Result::Int},
-    {"DATALENGTH", "x", 1, Result::Int},
-    {"DATEADD", "pid", 3, Result::DateTime},
-    {"DATEDIFF", "pdd", 3, Result::Int},
-    {"DATEPART", "pd", 2, Result::Int},
-    {"DAY", "d", 1, Result::Int},
-    {"DB_ID", "t", 0, Result::Int, true},
-    {"DB_NAME", "i", 0, Result::SystemName, true},
-    {"FLOOR", "n", 1, Result::AsFirst},
-    {"GETDATE", "", 0, Result::DateTime},
-    {"HOST_NAME", "", 0, Result::SystemName, true},
-    {"IDENT_CURRENT", "t", 1, Result::Numeric, true},
-    {"ISDATE", "x", 1, Result::Int},
-    {"ISNUMERIC", "x", 1, Result::Int},
-    {"LEFT", "ti", 2, Result::AsFirst},
-    {"LEN", "t", 1, Result::Int},
-    {"LOWER", "t", 1, Result::AsFirst},
-    {"LTRIM", "t", 1, Result::AsFirst},
-    {"MONTH", "d", 1, Result::Int},
-    {"OBJECT_ID", "tt", 1, Result::Int, true},
-    {"REPLACE", "ttt", 3, Result::LongText},
-    {"REPLICATE", "ti", 2, Result::LongText},
-    {"REVERSE", "t", 1, Result::AsFirst},
-    {"RIGHT", "ti", 2, Result::AsFirst},
-    {"ROUND", "ni", 2, Result::AsFirst},
-    {"RTRIM", "t", 1, Result::AsFirst},
-    {"SCOPE_IDENTITY", "", 0, Result::Numeric, true},
-    {"SERVERPROPERTY", "t", 1, Result::SystemName, true},
-    {"SPACE", "i", 1, Result::LongText},
-    {"STR", "fii", 1, Result::LongText},
-    {"SUBSTRING", "tii", 3, Result::AsFirst},
-    {"SUSER_SNAME", "", 0, Result::SystemName, true},
-    {"UPPER", "t", 1, Result::AsFirst},
-    {"USER_NAME", "", 0, Result::SystemName, true},
-    {"YEAR", "d", 1, Result::Int},
-});
-
-constexpr std::array kVariables = std::to_array<FunctionEntry>({
-    {"@@ERROR", "", 0, Result::Int, true},
-    {"@@IDENTITY", "", 0, Result::Numeric, true},
-    {"@@LANGUAGE", "", 0, Result::SystemName, true},
-    {"@@MAX_PRECISION", "", 0, Result::Int, true},
-    {"@@MICROSOFTVERSION", "", 0, Result::Int, true},
-    {"@@OPTIONS", "", 0, Result::Int, true},
-    {"@@ROWCOUNT", "", 0, Result::Int, true},
-    {"@@SERVERNAME", "", 0, Result::SystemName, true},
-    {"@@SPID", "", 0, Result::Int, true},
-    {"@@TRANCOUNT", "", 0, Result::Int, true},
-    {"@@VERSION", "", 0, Result::SystemName, true},
-});
-
-std::string capitals(std::string_view name) {
-    std::string result(name);
-    std::transform(result.begin(), result.end(), result.begin(),
-                   [](char c) { return c >= 'a' && c <= 'z' ? static_cast<char>(c - 'a' + 'A') : c; });
-    return result;
+const FunctionRow* find(std::span<const FunctionRow> rows, std::string_view name) {
+    const auto found = std::find_if(rows.begin(), rows.end(), [&](const FunctionRow& row) { return row.name == name; });
+    return found == rows.end() ? nullptr : &*found;
 }
 
-template<class Table>
-const FunctionEntry* find(const Table& table, const std::string& name) {
-    const auto found = std::find_if(table.begin(), table.end(), [&](const auto& entry) { return entry.name == name; });
-    return found == table.end() ? nullptr : &*found;
+std::array<std::span<const FunctionRow>, 4> functionTables() {
+    return {textFunctions(), dateFunctions(), numberFunctions(), sessionFunctions()};
 }
 
 Scalar scalarOf(sqlite3_value* value) {
@@ -109,9 +50,10 @@ void give(sqlite3_context* context, const Scalar& result) {
     }
 }
 
-/// What a routine is registered with. The connection owns it.
+/// What the storage calls a body with. The connection owns it.
 struct Registration {
-    const RoutineEntry* entry;
+    FunctionBody body;
+    bool nullGivesNull;
     FunctionContext* context;
 };
 
@@ -124,11 +66,11 @@ void call(sqlite3_context* context, int count, sqlite3_value** values) {
     try {
         for (std::size_t i = 0; i < used; ++i) {
             arguments[i] = scalarOf(values[i]);
-            if (registration.entry->nullGivesNull && isNull(arguments[i])) {
+            if (registration.nullGivesNull && isNull(arguments[i])) {
                 return;
             }
         }
-        give(context, registration.entry->routine(*registration.context, Arguments(arguments.data(), used)));
+        give(context, registration.body(*registration.context, Arguments(arguments.data(), used)));
     } catch (...) {
         registration.context->refusal = std::current_exception();
         sqlite3_result_error(context, "refused", -1);
@@ -148,56 +90,80 @@ void callLike(sqlite3_context* context, int count, sqlite3_value** values) {
     sqlite3_result_int(context, like(text(0), text(1), count > 2 ? text(2) : std::string_view()) ? 1 : 0);
 }
 
-/// Gives what it is given: to the storage the result of a call is no constant.
+/// Returns its argument. The storage doesn't take the result of a call for a constant.
 void callLiteral(sqlite3_context* context, int /*count*/, sqlite3_value** values) {
     sqlite3_result_value(context, values[0]);
 }
 
+void check(int code) {
+    if (code != SQLITE_OK) {
+        throw InternalError("a function can't be registered");
+    }
+}
+
+void add(sqlite::Connection& connection, const char* name, std::size_t arguments, const Registration& registration) {
+    check(sqlite3_create_function_v2(connection.handle(), name, static_cast<int>(arguments), SQLITE_UTF8,
+                                     new Registration(registration), call, nullptr, nullptr,
+                                     [](void* owned) { delete static_cast<Registration*>(owned); }));
+}
+
+/// For what is called once a row or once a literal: it reads the storage's values without making scalars of them.
+void addPlain(sqlite::Connection& connection, const char* name, int arguments, int flags,
+              void (*function)(sqlite3_context*, int, sqlite3_value**)) {
+    check(sqlite3_create_function_v2(connection.handle(), name, arguments, SQLITE_UTF8 | flags, nullptr, function,
+                                     nullptr, nullptr, nullptr));
+}
+
 } // namespace
 
-double numberAt(Arguments arguments, std::size_t place) {
-    const Scalar& value = arguments[place];
-    if (const auto* integer = std::get_if<std::int64_t>(&value)) {
-        return static_cast<double>(*integer);
+const FunctionRow* findFunction(std::string_view name) {
+    const std::string wanted = capitals(name);
+    for (const auto rows : functionTables()) {
+        if (const FunctionRow* found = find(rows, wanted)) {
+            return found;
+        }
     }
-    return std::get<double>(value);
+    return nullptr;
 }
 
-const FunctionEntry* findFunction(std::string_view name) {
-    return find(kFunctions, capitals(name));
+const FunctionRow* findServerVariable(std::string_view name) {
+    return find(serverVariables(), capitals(name));
 }
 
-const FunctionEntry* findServerVariable(std::string_view name) {
-    return find(kVariables, capitals(name));
-}
-
-std::string storageName(const FunctionEntry& entry) {
-    std::string name = "tsql_";
-    for (const char c : entry.name) {
-        name += c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c;
+std::vector<const FunctionRow*> functionRows() {
+    std::vector<const FunctionRow*> all;
+    const auto addAll = [&](std::span<const FunctionRow> rows) {
+        for (const FunctionRow& row : rows) {
+            all.push_back(&row);
+        }
+    };
+    for (const auto rows : functionTables()) {
+        addAll(rows);
     }
+    addAll(serverVariables());
+    return all;
+}
+
+std::string storageName(const FunctionRow& row) {
+    std::string name = "tsql_" + smallLetters(row.name);
+    std::replace(name.begin(), name.end(), '@', '_');
     return name;
 }
 
 void registerFunctions(sqlite::Connection& connection, FunctionContext& context) {
-    const auto check = [](int code) {
-        if (code != SQLITE_OK) {
-            throw InternalError("a function can't be registered");
-        }
-    };
-    for (const auto routines : {textRoutines(), dateRoutines(), numberRoutines()}) {
-        for (const RoutineEntry& entry : routines) {
-            check(sqlite3_create_function_v2(
-                connection.handle(), entry.name, entry.arguments, SQLITE_UTF8, new Registration{&entry, &context}, call,
-                nullptr, nullptr, [](void* registration) { delete static_cast<Registration*>(registration); }));
+    for (const FunctionRow* row : functionRows()) {
+        const std::string name = storageName(*row);
+        for (std::size_t count = row->parameters.least(); count <= row->parameters.most(); ++count) {
+            add(connection, name.c_str(), row->parameters.passed(count),
+                {row->body, row->nulls == FunctionRow::Nulls::GiveNull, &context});
         }
     }
-    check(sqlite3_create_function_v2(connection.handle(), "tsql_literal", 1, SQLITE_UTF8, nullptr, callLiteral, nullptr,
-                                     nullptr, nullptr));
+    for (const OperatorRow& row : operatorRows()) {
+        add(connection, row.name, static_cast<std::size_t>(row.arguments), {row.body, true, &context});
+    }
+    addPlain(connection, operators::kLiteral, 1, 0, callLiteral);
     for (const int arguments : {2, 3}) {
-        check(sqlite3_create_function_v2(connection.handle(), "tsql_like", arguments,
-                                         SQLITE_UTF8 | SQLITE_DETERMINISTIC, nullptr, callLike, nullptr, nullptr,
-                                         nullptr));
+        addPlain(connection, operators::kLike, arguments, SQLITE_DETERMINISTIC, callLike);
     }
 }
 

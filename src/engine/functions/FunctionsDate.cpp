@@ -1,7 +1,8 @@
-#include "engine/errors/BindErrors.h"
 #include "engine/errors/Error.h"
-#include "engine/functions/FunctionRoutines.h"
+#include "engine/errors/FunctionErrors.h"
+#include "engine/functions/FunctionRows.h"
 #include "engine/store/Host.h"
+#include "engine/values/Ascii.h"
 #include "engine/values/CalendarDate.h"
 #include "engine/values/Conversions.h"
 
@@ -46,9 +47,7 @@ constexpr int kMonthsOfQuarter = 3;
 constexpr int kDaysOfWeek = 7;
 
 Part partOf(const std::string& name, const char* function) {
-    std::string small(name);
-    std::transform(small.begin(), small.end(), small.begin(),
-                   [](char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c; });
+    const std::string small = smallLetters(name);
     const auto found =
         std::find_if(kParts.begin(), kParts.end(), [&](const auto& entry) { return entry.name == small; });
     if (found == kParts.end()) {
@@ -71,17 +70,13 @@ int daysInMonth(int year, int month) {
     return static_cast<int>(first.days() - begin.days());
 }
 
-Error additionOverflow() {
-    return {517, "Adding a value to a 'datetime' column caused an overflow.", Error::Reach::Batch};
-}
-
 Scalar addMonths(CalendarDate date, std::int64_t months) {
     constexpr std::int64_t kFirstYear = 1753;
     constexpr std::int64_t kLastYear = 9999;
     const std::int64_t total = std::int64_t{date.year} * kMonthsOfYear + date.month - 1 + months;
     const std::int64_t year = floorDivide(total, kMonthsOfYear);
     if (year < kFirstYear || year > kLastYear) {
-        throw additionOverflow();
+        throw errors::dateAdditionOverflow();
     }
     date.year = static_cast<int>(year);
     date.month = static_cast<int>(total - year * kMonthsOfYear) + 1;
@@ -91,11 +86,11 @@ Scalar addMonths(CalendarDate date, std::int64_t months) {
 
 Scalar addTicks(const CalendarDate& date, std::int64_t days, std::int64_t ticks) {
     const std::int64_t sum = date.ticks() + ticks;
-    const std::int64_t carried = floorDivide(sum, ticksOfDay);
+    const std::int64_t carried = floorDivide(sum, kTicksOfDay);
     try {
-        return CalendarDate::ofTicks(date.days() + days + carried, sum - carried * ticksOfDay).text();
+        return CalendarDate::ofTicks(date.days() + days + carried, sum - carried * kTicksOfDay).text();
     } catch (const Error&) {
-        throw additionOverflow();
+        throw errors::dateAdditionOverflow();
     }
 }
 
@@ -116,19 +111,19 @@ Scalar dateAdd(FunctionContext& /*context*/, Arguments arguments) {
     case Part::Week:
         return addTicks(date, number * kDaysOfWeek, 0);
     case Part::Hour:
-        return addTicks(date, 0, number * 3600 * ticksOfSecond);
+        return addTicks(date, 0, number * 3600 * kTicksOfSecond);
     case Part::Minute:
-        return addTicks(date, 0, number * 60 * ticksOfSecond);
+        return addTicks(date, 0, number * 60 * kTicksOfSecond);
     case Part::Second:
-        return addTicks(date, 0, number * ticksOfSecond);
+        return addTicks(date, 0, number * kTicksOfSecond);
     case Part::Millisecond:
-        return addTicks(date, 0, number * ticksOfSecond / 1000);
+        return addTicks(date, 0, number * kTicksOfSecond / 1000);
     }
     return {};
 }
 
-/// How many borders of the part lie before a date: differences of these are what DATEDIFF counts.
-std::int64_t bordersBefore(const CalendarDate& date, Part part) {
+/// How many times the part has begun anew up to a date: DATEDIFF is the difference of two such numbers.
+std::int64_t beginningsUpTo(const CalendarDate& date, Part part) {
     const std::int64_t days = date.days();
     const std::int64_t seconds = ((days * 24 + date.hour) * 60 + date.minute) * 60 + date.second;
     switch (part) {
@@ -143,7 +138,7 @@ std::int64_t bordersBefore(const CalendarDate& date, Part part) {
     case Part::WeekDay:
         return days;
     case Part::Week:
-        return floorDivide(days + 1, kDaysOfWeek); // the first day counted from is a Monday, weeks begin on Sundays
+        return floorDivide(days + 1, kDaysOfWeek); // 1900-01-01 was a Monday, and weeks begin on Sundays
     case Part::Hour:
         return floorDivide(seconds, 3600);
     case Part::Minute:
@@ -158,12 +153,11 @@ std::int64_t bordersBefore(const CalendarDate& date, Part part) {
 
 Scalar dateDiff(FunctionContext& /*context*/, Arguments arguments) {
     const Part part = partOf(textAt(arguments, 0), "datediff");
-    const std::int64_t difference = bordersBefore(CalendarDate::stored(textAt(arguments, 2)), part) -
-                                    bordersBefore(CalendarDate::stored(textAt(arguments, 1)), part);
+    const std::int64_t difference = beginningsUpTo(CalendarDate::stored(textAt(arguments, 2)), part) -
+                                    beginningsUpTo(CalendarDate::stored(textAt(arguments, 1)), part);
     if (difference > std::numeric_limits<std::int32_t>::max() ||
         difference < std::numeric_limits<std::int32_t>::min()) {
-        throw Error(535, "The datediff function resulted in an overflow. The number of dateparts separating two "
-                         "date/time instances is too large. Try to use datediff with a less precise datepart.");
+        throw errors::dateDifferenceOverflow();
     }
     return difference;
 }
@@ -183,7 +177,7 @@ Scalar datePart(FunctionContext& /*context*/, Arguments arguments) {
     case Part::Day:
         return std::int64_t{date.day};
     case Part::Week:
-        return bordersBefore(date, part) - bordersBefore(newYear, part) + 1;
+        return beginningsUpTo(date, part) - beginningsUpTo(newYear, part) + 1;
     case Part::WeekDay:
         return date.days() + 1 - floorDivide(date.days() + 1, kDaysOfWeek) * kDaysOfWeek + 1;
     case Part::Hour:
@@ -226,22 +220,27 @@ Scalar isDate(FunctionContext& context, Arguments arguments) {
     }
     try {
         toDateTime(*text, std::nullopt, context.dayFirst);
-        return std::int64_t{text->find_first_not_of(' ') != std::string::npos};
+        return std::int64_t{!withoutTrailingBlanks(*text).empty()};
     } catch (const Error&) {
         return std::int64_t{0};
     }
 }
 
-constexpr RoutineEntry kRoutines[] = {
-    {"tsql_dateadd", 3, dateAdd}, {"tsql_datediff", 3, dateDiff}, {"tsql_datepart", 2, datePart},
-    {"tsql_day", 1, day},         {"tsql_getdate", 0, getDate},   {"tsql_isdate", 1, isDate, false},
-    {"tsql_month", 1, month},     {"tsql_year", 1, year},
+constexpr FunctionRow kFunctions[] = {
+    {"DATEADD", {kDatePart, kInt, kDate}, Result::DateTime, dateAdd},
+    {"DATEDIFF", {kDatePart, kDate, kDate}, Result::Int, dateDiff},
+    {"DATEPART", {kDatePart, kDate}, Result::Int, datePart},
+    {"DAY", {kDate}, Result::Int, day},
+    {"GETDATE", {}, Result::DateTime, getDate},
+    {"ISDATE", {kAny}, Result::Int, isDate, kNullsTaken},
+    {"MONTH", {kDate}, Result::Int, month},
+    {"YEAR", {kDate}, Result::Int, year},
 };
 
 } // namespace
 
-std::span<const RoutineEntry> dateRoutines() {
-    return kRoutines;
+std::span<const FunctionRow> dateFunctions() {
+    return kFunctions;
 }
 
 std::string currentTime() {

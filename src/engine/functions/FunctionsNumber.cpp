@@ -1,6 +1,8 @@
-#include "engine/errors/BindErrors.h"
 #include "engine/errors/Error.h"
-#include "engine/functions/FunctionRoutines.h"
+#include "engine/errors/FunctionErrors.h"
+#include "engine/errors/ValueErrors.h"
+#include "engine/functions/FunctionRows.h"
+#include "engine/values/Ascii.h"
 #include "engine/values/Conversions.h"
 
 #include <cmath>
@@ -11,12 +13,10 @@ namespace engine {
 
 namespace {
 
-constexpr DataType kFloat{DataType::Kind::Float, 0, 0, 0};
-
 Scalar absolute(FunctionContext& /*context*/, Arguments arguments) {
     if (const auto* integer = std::get_if<std::int64_t>(&arguments[0])) {
         if (*integer == std::numeric_limits<std::int64_t>::min()) {
-            throw errors::overflow("bigint");
+            throw errors::overflow("expression", "bigint");
         }
         return *integer < 0 ? -*integer : *integer;
     }
@@ -46,7 +46,7 @@ std::int64_t roundedInteger(std::int64_t number, std::int64_t zeros) {
     const bool down = -rest >= unit + rest;
     if ((up && __builtin_add_overflow(rounded, unit, &rounded)) ||
         (down && __builtin_sub_overflow(rounded, unit, &rounded))) {
-        throw errors::overflow("bigint");
+        throw errors::overflow("expression", "bigint");
     }
     return rounded;
 }
@@ -70,13 +70,12 @@ Scalar roundOf(FunctionContext& /*context*/, Arguments arguments) {
     const double number = numberAt(arguments, 0);
     if (places < 0) {
         const double unit = std::pow(10.0, static_cast<double>(-places));
-        return finiteNumber(std::round(number / unit) * unit, kFloat);
+        return finiteNumber(std::round(number / unit) * unit, {DataType::Kind::Float});
     }
     if (std::fabs(number) >= kWholeFrom) {
         return number;
     }
-    constexpr int kWidest = 38;
-    return toDecimal(number, DataType{DataType::Kind::Decimal, 0, kWidest, static_cast<int>(places)});
+    return toDecimal(number, DataType{DataType::Kind::Decimal, 0, kWidestDecimal, static_cast<int>(places)});
 }
 
 Scalar isNumeric(FunctionContext& /*context*/, Arguments arguments) {
@@ -86,88 +85,24 @@ Scalar isNumeric(FunctionContext& /*context*/, Arguments arguments) {
     }
     try {
         toFloat(*text);
-        return std::int64_t{text->find_first_not_of(' ') != std::string::npos};
+        return std::int64_t{!withoutTrailingBlanks(*text).empty()};
     } catch (const Error&) {
         return std::int64_t{0};
     }
 }
 
-/// Division that refuses zero and stays among integers when both sides are.
-Scalar divide(FunctionContext& /*context*/, Arguments arguments) {
-    if (numberAt(arguments, 1) == 0.0) {
-        throw errors::divideByZero();
-    }
-    const auto* left = std::get_if<std::int64_t>(&arguments[0]);
-    const auto* right = std::get_if<std::int64_t>(&arguments[1]);
-    const bool integers = left != nullptr && right != nullptr && integerAt(arguments, 2) != 0;
-    if (!integers) {
-        return finiteNumber(numberAt(arguments, 0) / numberAt(arguments, 1), kFloat);
-    }
-    if (*right == -1 && *left == std::numeric_limits<std::int64_t>::min()) {
-        throw errors::overflow("bigint");
-    }
-    return *left / *right;
-}
-
-Scalar modulo(FunctionContext& /*context*/, Arguments arguments) {
-    if (numberAt(arguments, 1) == 0.0) {
-        throw errors::divideByZero();
-    }
-    const auto* left = std::get_if<std::int64_t>(&arguments[0]);
-    const auto* right = std::get_if<std::int64_t>(&arguments[1]);
-    if (left == nullptr || right == nullptr) {
-        return std::fmod(numberAt(arguments, 0), numberAt(arguments, 1));
-    }
-    return *right == -1 ? Scalar(std::int64_t{0}) : Scalar(*left % *right);
-}
-
-/// value, type it has, type it gets, style or -1, 1 where it is an assignment
-Scalar convertValue(FunctionContext& context, Arguments arguments) {
-    ConversionRequest request;
-    request.from = decodeType(integerAt(arguments, 1));
-    request.to = decodeType(integerAt(arguments, 2));
-    if (integerAt(arguments, 3) >= 0) {
-        request.style = static_cast<int>(integerAt(arguments, 3));
-    }
-    request.purpose = integerAt(arguments, 4) != 0 ? Purpose::Assignment : Purpose::Cast;
-    request.dayFirst = context.dayFirst;
-    return convert(arguments[0], request);
-}
-
-/// A sum or product of floats: the storage lets it become infinite.
-Scalar floatNumber(FunctionContext& /*context*/, Arguments arguments) {
-    return finiteNumber(numberAt(arguments, 0), kFloat);
-}
-
-/// A sum or product of bigints: the storage goes over to floating numbers where it leaves their range.
-Scalar bigInteger(FunctionContext& /*context*/, Arguments arguments) {
-    if (!std::holds_alternative<std::int64_t>(arguments[0])) {
-        throw errors::overflow("bigint");
-    }
-    return arguments[0];
-}
-
-/// name of what is asked, argument if there is one
-Scalar fact(FunctionContext& context, Arguments arguments) {
-    return context.fact(textAt(arguments, 0), arguments.size() > 1 ? arguments[1] : Scalar());
-}
-
-/// Raised by the translation of a subselect that may give one row at most.
-Scalar tooManyRows(FunctionContext& /*context*/, Arguments /*arguments*/) {
-    throw errors::moreThanOneValue();
-}
-
-constexpr RoutineEntry kRoutines[] = {
-    {"tsql_bigint", 1, bigInteger},    {"tsql_abs", 1, absolute},  {"tsql_ceiling", 1, ceilingOf},
-    {"tsql_convert", 5, convertValue}, {"tsql_divide", 3, divide}, {"tsql_fact", -1, fact, false},
-    {"tsql_float", 1, floatNumber},    {"tsql_floor", 1, floorOf}, {"tsql_isnumeric", 1, isNumeric, false},
-    {"tsql_modulo", 2, modulo},        {"tsql_round", 2, roundOf}, {"tsql_too_many_rows", 0, tooManyRows},
+constexpr FunctionRow kFunctions[] = {
+    {"ABS", {kNumber}, Result::AsFirstBeyond, absolute},
+    {"CEILING", {kNumber}, Result::AsFirst, ceilingOf},
+    {"FLOOR", {kNumber}, Result::AsFirst, floorOf},
+    {"ISNUMERIC", {kAny}, Result::Int, isNumeric, kNullsTaken},
+    {"ROUND", {kNumber, kInt}, Result::AsFirstBeyond, roundOf},
 };
 
 } // namespace
 
-std::span<const RoutineEntry> numberRoutines() {
-    return kRoutines;
+std::span<const FunctionRow> numberFunctions() {
+    return kFunctions;
 }
 
 } // namespace engine

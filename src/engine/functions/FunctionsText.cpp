@@ -1,6 +1,8 @@
-#include "engine/errors/Error.h"
-#include "engine/functions/FunctionRoutines.h"
+#include "engine/errors/FunctionErrors.h"
+#include "engine/functions/FunctionRows.h"
+#include "engine/values/Ascii.h"
 #include "engine/values/Collation.h"
+#include "engine/values/CollationCharacters.h"
 
 #include <algorithm>
 #include <cmath>
@@ -10,17 +12,7 @@ namespace engine {
 
 namespace {
 
-/// Longest text that SPACE, REPLICATE and REPLACE make.
-constexpr std::size_t kLongestText = 8000;
 constexpr std::int64_t kUsualWidth = 10;
-
-bool startsCharacter(char c) {
-    return (static_cast<unsigned char>(c) & 0xc0U) != 0x80U;
-}
-
-std::string trimmedEnd(const std::string& text) {
-    return text.substr(0, text.find_last_not_of(' ') + 1);
-}
 
 /// Byte offsets of the characters, the end last.
 std::vector<std::size_t> offsetsOf(std::string_view text) {
@@ -34,7 +26,7 @@ std::vector<std::size_t> offsetsOf(std::string_view text) {
     return offsets;
 }
 
-/// Characters first to last - 1, whatever of them there is.
+/// The characters from `first` to `last` - 1, as far as the text has them.
 std::string slice(const std::string& text, std::int64_t first, std::int64_t last) {
     const auto offsets = offsetsOf(text);
     const auto size = static_cast<std::int64_t>(offsets.size()) - 1;
@@ -46,13 +38,12 @@ std::string slice(const std::string& text, std::int64_t first, std::int64_t last
 
 void refuseNegative(std::int64_t length, const char* function) {
     if (length < 0) {
-        throw Error(537, std::string("Invalid length parameter passed to the ") + function + " function.",
-                    Error::Reach::Batch);
+        throw errors::invalidLengthParameter(function);
     }
 }
 
 Scalar len(FunctionContext& /*context*/, Arguments arguments) {
-    return static_cast<std::int64_t>(characters(trimmedEnd(textAt(arguments, 0))));
+    return static_cast<std::int64_t>(characters(withoutTrailingBlanks(textAt(arguments, 0))));
 }
 
 Scalar upperText(FunctionContext& /*context*/, Arguments arguments) {
@@ -70,7 +61,7 @@ Scalar leftTrim(FunctionContext& /*context*/, Arguments arguments) {
 }
 
 Scalar rightTrim(FunctionContext& /*context*/, Arguments arguments) {
-    return trimmedEnd(textAt(arguments, 0));
+    return std::string(withoutTrailingBlanks(textAt(arguments, 0)));
 }
 
 Scalar leftPart(FunctionContext& /*context*/, Arguments arguments) {
@@ -147,7 +138,7 @@ Scalar replicated(const std::string& text, std::int64_t times) {
         return {};
     }
     std::string result;
-    while (times-- > 0 && !text.empty() && result.size() + text.size() <= kLongestText) {
+    while (times-- > 0 && !text.empty() && result.size() + text.size() <= static_cast<std::size_t>(kLongestText)) {
         result += text;
     }
     return result;
@@ -165,7 +156,7 @@ Scalar str(FunctionContext& /*context*/, Arguments arguments) {
     constexpr std::int64_t kMostDecimals = 16;
     const std::int64_t width = arguments.size() > 1 ? integerAt(arguments, 1) : kUsualWidth;
     const std::int64_t decimals = arguments.size() > 2 ? integerAt(arguments, 2) : 0;
-    if (width < 0 || width > static_cast<std::int64_t>(kLongestText) || decimals < 0) {
+    if (width < 0 || width > kLongestText || decimals < 0) {
         return {};
     }
     const int shown = static_cast<int>(std::min(decimals, kMostDecimals));
@@ -188,8 +179,7 @@ Scalar str(FunctionContext& /*context*/, Arguments arguments) {
 Scalar dataLength(FunctionContext& /*context*/, Arguments arguments) {
     const DataType type = decodeType(integerAt(arguments, 1));
     if (const auto* text = std::get_if<std::string>(&arguments[0]); text != nullptr && type.isText()) {
-        const bool national = type.kind == DataType::Kind::NChar || type.kind == DataType::Kind::NVarChar;
-        return static_cast<std::int64_t>(characters(*text) * (national ? 2 : 1));
+        return static_cast<std::int64_t>(characters(*text) * (type.isNational() ? 2 : 1));
     }
     switch (type.kind) {
     case DataType::Kind::Bit:
@@ -207,31 +197,28 @@ Scalar dataLength(FunctionContext& /*context*/, Arguments arguments) {
     }
 }
 
-constexpr RoutineEntry kRoutines[] = {
-    {"tsql_charindex", 2, charIndex},
-    {"tsql_charindex", 3, charIndex},
-    {"tsql_datalength", 2, dataLength},
-    {"tsql_left", 2, leftPart},
-    {"tsql_len", 1, len},
-    {"tsql_lower", 1, lowerText},
-    {"tsql_ltrim", 1, leftTrim},
-    {"tsql_replace", 3, replace},
-    {"tsql_replicate", 2, replicate},
-    {"tsql_reverse", 1, reverse},
-    {"tsql_right", 2, rightPart},
-    {"tsql_rtrim", 1, rightTrim},
-    {"tsql_space", 1, space},
-    {"tsql_str", 1, str},
-    {"tsql_str", 2, str},
-    {"tsql_str", 3, str},
-    {"tsql_substring", 3, substring},
-    {"tsql_upper", 1, upperText},
+constexpr FunctionRow kFunctions[] = {
+    {"CHARINDEX", {kText, kText, optional(kInt)}, Result::Int, charIndex},
+    {"DATALENGTH", {kTyped}, Result::Int, dataLength},
+    {"LEFT", {kText, kInt}, Result::AsFirst, leftPart},
+    {"LEN", {kText}, Result::Int, len},
+    {"LOWER", {kText}, Result::AsFirst, lowerText},
+    {"LTRIM", {kText}, Result::AsFirst, leftTrim},
+    {"REPLACE", {kText, kText, kText}, Result::LongText, replace},
+    {"REPLICATE", {kText, kInt}, Result::LongText, replicate},
+    {"REVERSE", {kText}, Result::AsFirst, reverse},
+    {"RIGHT", {kText, kInt}, Result::AsFirst, rightPart},
+    {"RTRIM", {kText}, Result::AsFirst, rightTrim},
+    {"SPACE", {kInt}, Result::LongText, space},
+    {"STR", {kFloat, optional(kInt), optional(kInt)}, Result::LongText, str},
+    {"SUBSTRING", {kText, kInt, kInt}, Result::AsFirst, substring},
+    {"UPPER", {kText}, Result::AsFirst, upperText},
 };
 
 } // namespace
 
-std::span<const RoutineEntry> textRoutines() {
-    return kRoutines;
+std::span<const FunctionRow> textFunctions() {
+    return kFunctions;
 }
 
 } // namespace engine

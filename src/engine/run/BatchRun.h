@@ -1,29 +1,15 @@
 #pragma once
 
-// The running of one batch: its statements one after the other, and the walk over the rows of the present one.
+// The running of one batch: which statement comes next, and what an error leaves of the batch.
 
-#include "engine/run/Planner.h"
 #include "engine/run/ServerSession.h"
+#include "engine/run/StatementRun.h"
 #include "engine/text/Tree.h"
 
 #include <optional>
-#include <string>
 #include <vector>
 
 namespace engine {
-
-/// Rows that a procedure made by itself.
-struct MemoryRows {
-    std::vector<ResultColumn> columns;
-    std::vector<std::vector<Scalar>> rows;
-};
-
-/// What one statement gave.
-struct Outcome {
-    PlanPtr walk; ///< a SELECT that waits to be stepped
-    std::optional<MemoryRows> memory;
-    std::int64_t affected = -1;
-};
 
 class BatchRun final : public Batch {
 public:
@@ -34,39 +20,31 @@ public:
     ~BatchRun() override;
 
     bool nextResult() override;
-    bool hasRows() const override { return columns_ != nullptr; }
+    bool hasRows() const override { return outcome_.rows != nullptr; }
     const std::vector<ResultColumn>& columns() const override;
     std::int64_t affected() const override { return outcome_.affected; }
     const std::vector<Message>& messages() const override { return messages_; }
     bool nextRow() override;
-    bool isNull(int column) const override;
-    std::int64_t integer(int column) const override;
-    double real(int column) const override;
-    std::string_view text(int column) const override;
+    bool isNull(int column) const override { return outcome_.rows->isNull(column); }
+    std::int64_t integer(int column) const override { return outcome_.rows->integer(column); }
+    double real(int column) const override { return outcome_.rows->real(column); }
+    std::string_view text(int column) const override { return outcome_.rows->text(column); }
 
     /// Another batch starts, or the session ends: nothing more comes of this one.
     void stop();
 
 private:
-    enum class Format { AsStored, Decimal, Real };
-
     bool runNext();
-    bool stepRows();
+    void begin(bool writes);
+    void enter(const If& branch);
+    void enter(const Block& block);
+    void queue(const std::vector<StatementPtr>& statements);
+    void show(Outcome outcome);
     template<class Step>
     bool guarded(Step step);
-    Outcome run(const Statement& statement);
-    Outcome runPlanned(const PlanPtr& plan, const Bindings& bindings);
-    Outcome runPlannedOf(const Statement& statement);
-    bool holds(const Expression& condition);
-    void print(const Expression& text);
-    void show(Outcome outcome);
-    void endRows();
     void failed(const Error& error);
-    void check(const Statement& statement, bool& goOn);
-    const Scalar& memoryValue(int column) const;
 
     ServerSession* session_;
-    Database* database_; ///< of the rows being walked
     BatchTree tree_;
     std::optional<Shape> shape_;
     PlanPtr ready_;
@@ -74,12 +52,7 @@ private:
     bool checked_ = false;
 
     Outcome outcome_;
-    const std::vector<ResultColumn>* columns_ = nullptr;
-    std::vector<Format> formats_;
-    std::size_t memoryRow_ = 0;
-    std::int64_t walked_ = 0;
     std::vector<Message> messages_;
-    mutable std::string formatted_;
 };
 
 } // namespace engine

@@ -1,6 +1,6 @@
 #pragma once
 
-// One database as one session uses it: its connection with all that hangs on it.
+// One database as one session uses it: its connection and what belongs to it.
 
 #include "engine/functions/Functions.h"
 #include "engine/run/StatementCache.h"
@@ -26,16 +26,9 @@ public:
     /// Before each statement: forgets the plans that a change of the schema made wrong.
     void refresh();
 
-    /// A transaction that writes this database alone. Databases that are read beside it stay free: another one of the
-    /// same session's transactions may be writing them.
-    void begin();
-    void commit();
-    /// Never throws: the storage may have ended the transaction by itself.
-    void rollback() noexcept;
-
-    /// What the server says of a failure of the storage: the refusal of a function, or the error that the code stands
-    /// for. `table` is the one being written, with `verb` INSERT or UPDATE; nullptr for none.
-    /// Throws InternalError for what no statement of a user may cause.
+    /// Throws the server's error for a failure of the storage: the refusal of a function, or the error that the code
+    /// stands for. `table` is the one being written, with `verb` INSERT or UPDATE; nullptr for none.
+    /// Throws InternalError for what no user's statement may cause.
     [[noreturn]] void raise(const sqlite::Failure& failure, const TableInfo* table, const char* verb);
 
 private:
@@ -45,22 +38,6 @@ private:
     Catalog catalog_;
     RowLocks locks_;
     StatementCache cache_;
-    sqlite::Statement begin_, lock_, commit_;
-};
-
-/// BEGIN now and ROLLBACK at the end unless committed; nothing at all inside of an open transaction of the user's,
-/// where the statement's own atomicity does.
-class WriteTransaction {
-public:
-    explicit WriteTransaction(Database& database);
-    ~WriteTransaction();
-    WriteTransaction(const WriteTransaction&) = delete;
-    WriteTransaction& operator=(const WriteTransaction&) = delete;
-    void commit();
-
-private:
-    Database& database_;
-    bool own_;
 };
 
 } // namespace engine

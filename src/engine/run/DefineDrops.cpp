@@ -1,4 +1,5 @@
-#include "engine/errors/BindErrors.h"
+#include "engine/errors/DefinitionErrors.h"
+#include "engine/errors/StoreErrors.h"
 #include "engine/run/Definitions.h"
 #include "engine/run/Writer.h"
 #include "engine/store/StoredNames.h"
@@ -55,9 +56,7 @@ void dropIndex(ServerSession& session, const Name& name, bool ifExists) {
     }
     for (const KeyInfo& key : info->keys) {
         if (sameText(key.name, name.last())) {
-            throw Error(3723, "An explicit DROP INDEX is not allowed on index '" + table + "." + name.last() +
-                                  "'. It is being used for " + (key.primary ? "PRIMARY KEY" : "UNIQUE KEY") +
-                                  " constraint enforcement.");
+            throw errors::indexOfConstraint(table + "." + name.last(), key.primary ? "PRIMARY KEY" : "UNIQUE KEY");
         }
     }
     changeSchema(session, nullptr,
@@ -85,8 +84,7 @@ void define(ServerSession& session, const Drop& drop) {
 void define(ServerSession& session, const Truncate& truncate) {
     const TableInfo* found = definedTable(session, truncate.table);
     if (found == nullptr) {
-        throw Error(4701, "Cannot find the object \"" + truncate.table.last() +
-                              "\" because it does not exist or you do not have permissions.");
+        throw errors::missingTableToEmpty(truncate.table.last());
     }
     Database& database = session.current();
     const TableInfo table = *found;

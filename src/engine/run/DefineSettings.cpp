@@ -1,4 +1,4 @@
-#include "engine/errors/BindErrors.h"
+#include "engine/errors/DefinitionErrors.h"
 #include "engine/run/Definitions.h"
 #include "engine/text/DatabaseOptions.h"
 #include "engine/values/Collation.h"
@@ -12,12 +12,10 @@ namespace {
 void setIdentityInsert(ServerSession& session, const SetOption& option) {
     const TableInfo* table = definedTable(session, option.table);
     if (table == nullptr) {
-        throw Error(1088, "Cannot find the object \"" + option.table.last() +
-                              "\" because it does not exist or you do not have permissions.");
+        throw errors::missingTableToChange(option.table.last());
     }
     if (table->identity() == nullptr) {
-        throw Error(8106,
-                    "Table '" + table->name + "' does not have the identity property. Cannot perform SET operation.");
+        throw errors::identityMissing(table->name);
     }
     if (sameText(option.value, "ON")) {
         if (!session.identityInsert.empty() && !sameText(session.identityInsert, table->name)) {
@@ -55,9 +53,7 @@ void define(ServerSession& session, const CreateDatabase& create) {
 
 void define(ServerSession& session, const AlterDatabase& alter) {
     if (!session.instance().database(alter.name)) {
-        throw Error(5011, "User does not have permission to alter database '" + alter.name +
-                              "', the database does not exist, or the database is not in a state that allows access "
-                              "checks.");
+        throw errors::alterDatabaseRefused(alter.name);
     }
     for (const AlterDatabase::Setting& setting : alter.settings) {
         for (const auto& [option, value] : databaseSetting(setting.option, setting.value)) {

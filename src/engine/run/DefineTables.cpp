@@ -1,5 +1,5 @@
 #include "engine/bind/Binder.h"
-#include "engine/errors/BindErrors.h"
+#include "engine/errors/DefinitionErrors.h"
 #include "engine/run/Definitions.h"
 #include "engine/run/SessionTables.h"
 #include "engine/store/StorageErrors.h"
@@ -14,7 +14,7 @@ namespace engine {
 
 namespace {
 
-/// A key's name belongs to its database, as a table's does.
+/// Whether a table or a key of the database has that name: they share one set of names.
 bool isObject(Catalog& catalog, const TableInfo& table, const std::string& name) {
     const auto hasKey = [&](const TableInfo& one) {
         return std::any_of(one.keys.begin(), one.keys.end(),
@@ -28,7 +28,7 @@ bool isObject(Catalog& catalog, const TableInfo& table, const std::string& name)
                        [&](const std::string& other) { return hasKey(*catalog.table(other)); });
 }
 
-/// As the server names what a script leaves without a name.
+/// A name like those that the server gives to keys without one.
 std::string keyName(const std::string& table, const KeyDefinition& key) {
     std::size_t hash = std::hash<std::string>()(table);
     for (const std::string& column : key.columns) {
@@ -89,7 +89,7 @@ KeyInfo keyOf(Catalog& catalog, TableInfo& table, const KeyDefinition& definitio
     return key;
 }
 
-/// A default as the storage keeps it: its value now.
+/// The present value of a default, as a literal of SQLite.
 std::string defaultLiteral(ServerSession& session, const ColumnDefinition& definition) {
     SessionTables finder(session);
     Binder binder(finder);
@@ -109,7 +109,7 @@ bool hasRows(Database& database, const TableInfo& table) {
     return any.step();
 }
 
-/// A unique index over rows that are there already; `name` as the server has it.
+/// Makes a unique index; rows that are there already may be against it. `name` is the one in the error.
 void makeUnique(ServerSession& session, const std::string& table, const std::string& name, const std::string& text) {
     try {
         session.current().connection().run(text);
@@ -123,13 +123,13 @@ void makeUnique(ServerSession& session, const std::string& table, const std::str
 
 void addKey(ServerSession& session, const TableInfo& table, const KeyInfo& key) {
     if (!storedIndex(session.current(), table, key.name).empty()) {
-        throw errors::indexExists(table.name, key.name);
+        throw errors::indexExists(key.name, table.name);
     }
     makeUnique(session, table.name, key.name, translate::createKey(table, key));
     session.current().catalog().addKey(table.name, key);
 }
 
-/// Under NOT NULL the storage itself fills the old rows; a nullable column's old rows stay NULL whatever its default.
+/// SQLite fills the old rows where the column is NOT NULL. In a nullable column they stay NULL, whatever its default.
 void addColumn(ServerSession& session, const AlterTable& alter, const ColumnDefinition& definition) {
     Database& database = session.current();
     TableInfo table = *database.catalog().table(alter.table.last());
@@ -198,7 +198,7 @@ void define(ServerSession& session, const CreateTable& create) {
 void define(ServerSession& session, const AlterTable& alter) {
     const TableInfo* found = definedTable(session, alter.table);
     if (found == nullptr) {
-        throw errors::missingTable(alter.table.last());
+        throw errors::missingTableToAlter(alter.table.last());
     }
     const TableInfo before = *found;
     changeSchema(session, &before, [&] {
@@ -216,13 +216,12 @@ void define(ServerSession& session, const AlterTable& alter) {
 void define(ServerSession& session, const CreateIndex& create) {
     const TableInfo* table = definedTable(session, create.table);
     if (table == nullptr) {
-        throw Error(1088, "Cannot find the object \"" + create.table.last() +
-                              "\" because it does not exist or you do not have permissions.");
+        throw errors::missingTableToChange(create.table.last());
     }
     Database& database = session.current();
     const std::string name = stored::indexName(table->name, create.name);
     if (!storedIndex(database, *table, create.name).empty()) {
-        throw errors::indexExists(table->name, create.name);
+        throw errors::indexExists(create.name, table->name);
     }
     std::string text = std::string(create.unique ? "CREATE UNIQUE INDEX " : "CREATE INDEX ") + stored::quoted(name) +
                        " ON " + stored::quoted(stored::tableName(table->name)) + " (";

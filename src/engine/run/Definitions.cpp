@@ -1,33 +1,9 @@
 #include "engine/run/Definitions.h"
 
-#include "engine/errors/BindErrors.h"
 #include "engine/store/StoredNames.h"
 #include "engine/values/Collation.h"
 
 namespace engine {
-
-namespace {
-
-template<class Node>
-concept Definition = requires(ServerSession& session, const Node& node) {
-    define(session, node);
-}
-&&!std::same_as<Node, Statement>;
-
-} // namespace
-
-bool define(ServerSession& session, const Statement& statement) {
-    return std::visit(
-        [&](const auto& node) {
-            if constexpr (Definition<std::decay_t<decltype(node)>>) {
-                define(session, node);
-                return true;
-            } else {
-                return false;
-            }
-        },
-        statement.node);
-}
 
 const TableInfo* definedTable(ServerSession& session, const Name& name) {
     const std::size_t pieces = name.pieces.size();

@@ -1,6 +1,7 @@
 #include "engine/run/InternalErrors.h"
 
-#include "engine/errors/BindErrors.h"
+#include "engine/errors/RunErrors.h"
+#include "engine/errors/StoreErrors.h"
 #include "engine/store/Sqlite.h"
 #include "engine/store/StorageErrors.h"
 

@@ -1,19 +1,19 @@
 #pragma once
 
-// The border of a session: behind it there are answers of the server alone.
+// What leaves a session is an error of the server, whatever was thrown inside.
 
 #include <utility>
 
 namespace engine {
 
-/// Told what a bug of ours was, before it becomes an error of the statement; called from any thread.
+/// Receives the text of an internal error before it becomes an error of its statement; called on any thread.
 using InternalErrorListener = void (*)(const char* what);
 
-/// Sets who is told, instead of the standard error stream; nullptr sets that again. Gives the one before.
+/// Sets the listener in the place of the standard error stream, which nullptr restores. Gives the listener before it.
 InternalErrorListener onInternalError(InternalErrorListener listener);
 
-/// Rethrows the exception in flight as an answer of the server: Error stays as it is, failures of the storage and of
-/// the machine become the server's own errors, and what is left is told as a bug and becomes 8630.
+/// Rethrows the present exception as an error of the server: Error stays as it is, failures of the storage and of the
+/// machine become the server's own errors, and any other goes to the listener and becomes 8630.
 [[noreturn]] void rethrowAsAnswer();
 
 /// Runs a step of a session. Nothing but engine::Error leaves it.

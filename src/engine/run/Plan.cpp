@@ -25,7 +25,7 @@ Scalar valueOf(const bound::Parameter& parameter, const Bindings& bindings) {
     ConversionRequest request = parameter.conversion;
     request.dayFirst = bindings.dayFirst;
     if (request.from.kind == DataType::Kind::Decimal) {
-        request.from = decimalOf(literal); // the plan was made for one with other digits perhaps
+        request.from = decimalOf(literal); // the plan may have been made for other digits
     }
     return convert(std::move(value), request);
 }

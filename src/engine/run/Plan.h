@@ -27,7 +27,7 @@ struct Plan {
     bool givesIdentity = false;              ///< the statement itself, under IDENTITY_INSERT
     std::optional<sqlite::Statement> source; ///< the SELECT of INSERT … SELECT
     std::vector<bound::Parameter> sourceParameters;
-    /// Finds the rows to be written, prepared when a hold of another session makes it needed.
+    /// Finds the rows to be written; prepared where another session holds rows.
     std::string rowsText;
     std::optional<sqlite::Statement> rows;
     std::vector<bound::Parameter> rowsParameters;
@@ -40,6 +40,8 @@ struct Plan {
     std::vector<std::pair<int, std::string>> fixed;
     /// Numbers whose digits give an expression its type: another run must have as many.
     std::vector<std::pair<int, DataType>> fixedDigits;
+
+    bool writes() const { return kind != Kind::Select; }
 
     explicit Plan(sqlite::Statement prepared) : statement(std::move(prepared)) {}
 };

@@ -1,8 +1,9 @@
 #include "engine/run/Planner.h"
 
 #include "engine/bind/BoundMakers.h"
-#include "engine/errors/BindErrors.h"
+#include "engine/errors/Error.h"
 #include "engine/run/SessionTables.h"
+#include "engine/run/StatementKinds.h"
 #include "engine/translate/SqlText.h"
 
 #include <vector>
@@ -111,23 +112,12 @@ private:
     Binder binder_;
 };
 
-template<class Node>
-inline constexpr bool isPlanned = false;
-template<>
-inline constexpr bool isPlanned<Select> = true;
-template<>
-inline constexpr bool isPlanned<Insert> = true;
-template<>
-inline constexpr bool isPlanned<Update> = true;
-template<>
-inline constexpr bool isPlanned<Delete> = true;
-
 } // namespace
 
 PlanPtr makePlan(ServerSession& session, const Statement& statement) {
     return std::visit(
         [&](const auto& node) -> PlanPtr {
-            if constexpr (isPlanned<std::decay_t<decltype(node)>>) {
+            if constexpr (kKindOf<decltype(node)>.runBy == StatementKind::RunBy::Plan) {
                 return Planner(session).plan(node);
             } else {
                 throw InternalError("a statement that has no plan");
@@ -147,7 +137,7 @@ PlanPtr makeValuePlan(ServerSession& session, const Expression& value) {
 void checkNames(ServerSession& session, const Statement& statement) {
     std::visit(
         [&](const auto& node) {
-            if constexpr (isPlanned<std::decay_t<decltype(node)>>) {
+            if constexpr (kKindOf<decltype(node)>.names == StatementKind::Names::Checked) {
                 try {
                     Planner(session).check(node);
                 } catch (const Error& error) {

@@ -1,6 +1,7 @@
 #include "engine/run/Procedures.h"
 
-#include "engine/errors/BindErrors.h"
+#include "engine/errors/RunErrors.h"
+#include "engine/errors/TextErrors.h"
 #include "engine/text/DatabaseOptions.h"
 #include "engine/text/ServerOptions.h"
 #include "engine/values/Collation.h"
@@ -30,12 +31,12 @@ public:
                 const auto named = std::find_if(parameters.begin(), parameters.end(),
                                                 [&](const std::string& one) { return sameText(one, argument.name); });
                 if (named == parameters.end()) {
-                    throw Error(8145, argument.name + " is not a parameter for procedure " + procedure_ + ".");
+                    throw errors::unknownParameter(argument.name, procedure_);
                 }
                 place = static_cast<std::size_t>(named - parameters.begin());
             }
             if (place >= parameters.size()) {
-                throw Error(8144, "Procedure or function " + procedure_ + " has too many arguments specified.");
+                throw errors::tooManyArguments(procedure_);
             }
             values_[place++] = constant(*argument.value);
         }
@@ -53,7 +54,7 @@ public:
         try {
             return std::get<std::int64_t>(convert(values_[place], {typeOf(place), kInt, {}}));
         } catch (const Error&) {
-            throw Error(8114, "Error converting data type nvarchar to int.");
+            throw errors::parameterConversion("nvarchar", "int");
         }
     }
 
@@ -90,27 +91,21 @@ ResultColumn column(const char* name, const DataType& type) {
     return made;
 }
 
-Outcome listed(MemoryRows rows) {
-    Outcome outcome;
-    outcome.memory = std::move(rows);
-    return outcome;
-}
-
-MemoryRows optionRows() {
-    MemoryRows rows;
+Listing optionRows() {
+    Listing rows;
     rows.columns = {column("name", {Kind::NVarChar, 35, 0, 0}), column("minimum", kInt), column("maximum", kInt),
                     column("config_value", kInt), column("run_value", kInt)};
     return rows;
 }
 
-Outcome configure(ServerSession& session, const Execute& call, Messages& messages) {
+std::optional<Listing> configure(ServerSession& session, const Execute& call, Messages& messages) {
     const Values values(call, {"@configname", "@configvalue"});
     const std::vector<Instance::Option> options = session.instance().options();
     const bool advanced = std::any_of(options.begin(), options.end(), [](const Instance::Option& option) {
-        return option.name == showAdvancedOptions && option.running != 0;
+        return option.name == kShowAdvancedOptions && option.running != 0;
     });
     const std::string wanted = values.given(0) ? serverOption(values.text(0), advanced).name : std::string();
-    MemoryRows rows = optionRows();
+    Listing rows = optionRows();
     for (const Instance::Option& option : options) {
         const bool asked = wanted.empty() ? advanced || !option.advanced : option.name == wanted;
         if (!asked) {
@@ -127,7 +122,7 @@ Outcome configure(ServerSession& session, const Execute& call, Messages& message
         rows.rows.push_back({option.name, std::int64_t{option.minimum}, std::int64_t{option.maximum},
                              std::int64_t{option.configured}, std::int64_t{option.running}});
     }
-    return listed(std::move(rows));
+    return rows;
 }
 
 std::string joined(const Name& name) {
@@ -149,21 +144,21 @@ bool isOn(const std::string& value) {
             return false;
         }
     }
-    throw Error(15241, "Usage: sp_dboption [dbname [,optname [,'true' | 'false']]]");
+    throw errors::databaseOptionUsage();
 }
 
-Outcome databaseOption(ServerSession& session, const Execute& call, Messages& /*messages*/) {
-    if (session.instance().version() >= Instance::firstVersionWithoutDatabaseOptions) {
+std::optional<Listing> databaseOption(ServerSession& session, const Execute& call, Messages& /*messages*/) {
+    if (session.instance().version() >= Instance::kFirstVersionWithoutDatabaseOptions) {
         throw errors::procedureMissing(joined(call.procedure));
     }
     const Values values(call, {"@dbname", "@optname", "@optvalue"});
-    MemoryRows rows;
+    Listing rows;
     if (!values.given(0)) {
         rows.columns = {column("Settable database options:", kName)};
         for (const DatabaseOption& option : databaseOptions()) {
             rows.rows.push_back({std::string(option.name)});
         }
-        return listed(std::move(rows));
+        return rows;
     }
     const std::string database = values.text(0);
     if (values.given(2)) {
@@ -178,7 +173,7 @@ Outcome databaseOption(ServerSession& session, const Execute& call, Messages& /*
                 rows.rows.push_back({name});
             }
         }
-        return listed(std::move(rows));
+        return rows;
     }
     const std::string wanted = engine::databaseOption(values.text(1)).name;
     rows.columns = {column("OptionName", kName), column("CurrentSetting", {Kind::Char, 3, 0, 0})};
@@ -187,11 +182,11 @@ Outcome databaseOption(ServerSession& session, const Execute& call, Messages& /*
             rows.rows.push_back({name, std::string(value ? "ON " : "OFF")});
         }
     }
-    return listed(std::move(rows));
+    return rows;
 }
 
-Outcome databases(ServerSession& session, const Execute& /*call*/, Messages& /*messages*/) {
-    MemoryRows rows;
+std::optional<Listing> databases(ServerSession& session, const Execute& /*call*/, Messages& /*messages*/) {
+    Listing rows;
     rows.columns = {column("DATABASE_NAME", kName), column("DATABASE_SIZE", kInt), column("REMARKS", kRemarks)};
     for (const DatabaseEntry& entry : session.instance().databases()) {
         std::error_code problem;
@@ -200,12 +195,12 @@ Outcome databases(ServerSession& session, const Execute& /*call*/, Messages& /*m
         rows.rows.push_back(
             {entry.name, problem ? Scalar() : Scalar(static_cast<std::int64_t>(size) / kKilobyte), Scalar()});
     }
-    return listed(std::move(rows));
+    return rows;
 }
 
-Outcome tables(ServerSession& session, const Execute& call, Messages& /*messages*/) {
+std::optional<Listing> tables(ServerSession& session, const Execute& call, Messages& /*messages*/) {
     const Values values(call, {"@table_name", "@table_owner", "@table_qualifier", "@table_type"});
-    MemoryRows rows;
+    Listing rows;
     rows.columns = {column("TABLE_QUALIFIER", kName), column("TABLE_OWNER", kName), column("TABLE_NAME", kName),
                     column("TABLE_TYPE", {Kind::VarChar, 32, 0, 0}), column("REMARKS", kRemarks)};
     for (const std::string& name : session.current().catalog().tableNames()) {
@@ -213,21 +208,21 @@ Outcome tables(ServerSession& session, const Execute& call, Messages& /*messages
             rows.rows.push_back({session.database(), std::string("dbo"), name, std::string("TABLE"), Scalar()});
         }
     }
-    return listed(std::move(rows));
+    return rows;
 }
 
-Outcome columns(ServerSession& session, const Execute& call, Messages& /*messages*/) {
+std::optional<Listing> columns(ServerSession& session, const Execute& call, Messages& /*messages*/) {
     const Values values(call, {"@table_name", "@table_owner", "@table_qualifier", "@column_name"});
     if (!values.given(0)) {
-        throw Error(201, "Procedure or function 'sp_columns' expects parameter '@table_name', which was not supplied.");
+        throw errors::parameterMissing("sp_columns", "@table_name");
     }
-    MemoryRows rows;
+    Listing rows;
     rows.columns = {column("TABLE_QUALIFIER", kName), column("TABLE_OWNER", kName), column("TABLE_NAME", kName),
                     column("COLUMN_NAME", kName),     column("TYPE_NAME", kName),   column("LENGTH", kInt),
                     column("NULLABLE", kInt),         column("COLUMN_DEF", kName),  column("ORDINAL_POSITION", kInt)};
     const TableInfo* table = session.current().catalog().table(values.text(0));
     if (table == nullptr) {
-        return listed(std::move(rows));
+        return rows;
     }
     std::int64_t place = 0;
     for (const ColumnInfo& one : table->columns) {
@@ -237,12 +232,12 @@ Outcome columns(ServerSession& session, const Execute& call, Messages& /*message
                              std::int64_t{one.nullable},
                              one.defaultText ? Scalar("(" + *one.defaultText + ")") : Scalar(), ++place});
     }
-    return listed(std::move(rows));
+    return rows;
 }
 
 struct Procedure {
     const char* name;
-    Outcome (*call)(ServerSession& session, const Execute& call, Messages& messages);
+    std::optional<Listing> (*call)(ServerSession& session, const Execute& call, Messages& messages);
 };
 
 constexpr std::array kProcedures = std::to_array<Procedure>({
@@ -255,7 +250,7 @@ constexpr std::array kProcedures = std::to_array<Procedure>({
 
 } // namespace
 
-Outcome callProcedure(ServerSession& session, const Execute& call, std::vector<Message>& messages) {
+std::optional<Listing> callProcedure(ServerSession& session, const Execute& call, std::vector<Message>& messages) {
     const auto& pieces = call.procedure.pieces;
     const std::string schema = pieces.size() > 1 ? pieces[pieces.size() - 2] : std::string();
     const bool known = schema.empty() || sameText(schema, "sys") || sameText(schema, "dbo");

@@ -1,7 +1,8 @@
-// Holding the rows that a SELECT finds, for the session that asked alone.
+// Holding the rows that a SELECT finds for one session alone.
 
 #include "engine/bind/Binder.h"
-#include "engine/errors/BindErrors.h"
+#include "engine/errors/RunErrors.h"
+#include "engine/errors/StoreErrors.h"
 #include "engine/run/BatchRun.h"
 #include "engine/run/SessionTables.h"
 #include "engine/text/Parser.h"
@@ -38,17 +39,13 @@ private:
     std::vector<std::int64_t> rows_;
 };
 
-Error readOnlyCursor() {
-    return {16929, "The cursor is READ ONLY."};
-}
-
-/// The one table of a SELECT whose rows are rows of a table; joins, groups and the like have none to hold.
+/// The table whose rows a SELECT gives. The rows of joins, groups and the like are no rows of a table to hold.
 const bound::Table& heldTable(const bound::Select& select) {
     const bound::Core& core = select.cores.front();
     const bool plain = select.cores.size() == 1 && !core.distinct && !core.aggregated && core.from.size() == 1;
     const auto* table = plain ? std::get_if<bound::Table>(&core.from.front()->node) : nullptr;
     if (table == nullptr || table->schema != "main") {
-        throw readOnlyCursor();
+        throw errors::readOnlyCursor();
     }
     return *table;
 }
@@ -61,7 +58,7 @@ std::unique_ptr<RowHold> ServerSession::takeRows(std::string_view select) {
     prepareFor(*current_, false);
     const BatchTree tree = parse(select);
     if (tree.statements.size() != 1 || !std::holds_alternative<Select>(tree.statements.front()->node)) {
-        throw readOnlyCursor();
+        throw errors::readOnlyCursor();
     }
     return holdRows(std::get<Select>(tree.statements.front()->node));
 }
@@ -77,8 +74,8 @@ std::unique_ptr<RowHold> ServerSession::holdRows(const Select& select) {
     const bound::Table& table = heldTable(bound);
     auto hold = std::make_unique<HeldRows>(current_, table.info->name);
     try {
-        // Under the write lock no other session is between finding the rows and taking them.
-        WriteTransaction transaction(*current_);
+        // The write lock keeps other sessions' changes out between finding the rows and holding them.
+        sqlite::Transaction transaction(current_->connection());
         const translate::Text text = translate::rowsOf(bound);
         sqlite::Statement rows(current_->connection(), text.sql());
         bindLiterals(rows, text.parameters(binder.parameters()), {nullptr, dayFirst});

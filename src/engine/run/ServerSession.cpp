@@ -1,8 +1,8 @@
 #include "engine/run/ServerSession.h"
 
-#include "engine/errors/BindErrors.h"
-#include "engine/errors/Error.h"
+#include "engine/errors/RunErrors.h"
 #include "engine/run/BatchRun.h"
+#include "engine/run/StatementKinds.h"
 #include "engine/text/Lexer.h"
 #include "engine/text/Parser.h"
 #include "engine/values/Collation.h"
@@ -14,11 +14,6 @@ namespace engine {
 namespace {
 
 constexpr std::string_view kMaster = "master";
-
-bool mayBePlanned(const Statement& statement) {
-    return std::holds_alternative<Select>(statement.node) || std::holds_alternative<Insert>(statement.node) ||
-           std::holds_alternative<Update>(statement.node) || std::holds_alternative<Delete>(statement.node);
-}
 
 } // namespace
 
@@ -67,9 +62,9 @@ std::shared_ptr<Database> ServerSession::open(std::string_view name) {
     try {
         database = std::make_shared<Database>(*entry);
     } catch (const sqlite::Failure&) {
-        return nullptr; // registered, but its file can't be opened
+        return nullptr; // it is registered, but its file can't be opened
     }
-    database->functions().fact = [this](std::string_view what, const Scalar& argument) { return fact(what, argument); };
+    database->functions().fact = [this](Fact fact, const Scalar& argument) { return this->fact(fact, argument); };
     databases_.emplace(key, database);
     return database;
 }
@@ -97,8 +92,10 @@ std::unique_ptr<Batch> ServerSession::begin(std::string_view text) {
         return std::make_unique<BatchRun>(*this, std::move(plan), std::move(shape));
     }
     BatchTree tree = parse(text);
-    const bool single = tree.statements.size() == 1 && mayBePlanned(*tree.statements.front());
-    return std::make_unique<BatchRun>(*this, std::move(tree), single ? std::optional(std::move(shape)) : std::nullopt);
+    const bool keepsPlan =
+        tree.statements.size() == 1 && kindOf(*tree.statements.front()).runBy == StatementKind::RunBy::Plan;
+    return std::make_unique<BatchRun>(*this, std::move(tree),
+                                      keepsPlan ? std::optional(std::move(shape)) : std::nullopt);
 }
 
 void ServerSession::beginTransaction() {
@@ -107,7 +104,7 @@ void ServerSession::beginTransaction() {
 
 void ServerSession::takeBack(Database& database) {
     joined_.erase(&database);
-    database.rollback();
+    database.connection().rollback();
     database.catalog().settleIdentities();
     database.refresh();
 }
@@ -133,7 +130,7 @@ void ServerSession::prepareFor(Database& database, bool writes) {
     firstWrite_ = nullptr;
     if (writes && transactions_ > 0 && !database.connection().inTransaction()) {
         try {
-            database.begin();
+            database.connection().begin();
             firstWrite_ = &database;
             joined_.insert(&database);
         } catch (const sqlite::Failure& failure) {
@@ -146,7 +143,7 @@ void ServerSession::prepareFor(Database& database, bool writes) {
 
 void ServerSession::commitTransaction() {
     if (transactions_ == 0) {
-        throw errors::noTransaction("COMMIT");
+        throw errors::nothingToCommit();
     }
     if (transactions_ > 1) {
         --transactions_;
@@ -155,7 +152,7 @@ void ServerSession::commitTransaction() {
     for (const auto& [key, database] : databases_) {
         try {
             if (database->connection().inTransaction()) {
-                database->commit();
+                database->connection().commit();
             }
         } catch (const sqlite::Failure& failure) {
             rollbackTransaction();
@@ -169,7 +166,7 @@ void ServerSession::commitTransaction() {
 
 void ServerSession::rollbackTransaction() {
     if (transactions_ == 0) {
-        throw errors::noTransaction("ROLLBACK");
+        throw errors::nothingToRollBack();
     }
     transactions_ = 0;
     for (const auto& [key, database] : databases_) {

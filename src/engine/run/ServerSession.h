@@ -1,6 +1,6 @@
 #pragma once
 
-// A session from the inside: the databases it has open, its settings, and what it remembers between statements.
+// The session itself: the databases it has open, its settings, and what it remembers between statements.
 
 #include "engine/run/Database.h"
 #include "engine/run/InternalErrors.h"
@@ -37,7 +37,7 @@ public:
     std::shared_ptr<Database> open(std::string_view name);
     /// Throws 911.
     void use(std::string_view name);
-    /// Before a database is dropped: this session's own connection to it, unless it is the current one.
+    /// Before a database is dropped: closes this session's own connection to it, unless it is the current one.
     void forget(std::string_view name);
 
     /// Settings that SET changes.
@@ -59,10 +59,10 @@ public:
     /// Called before a statement runs on a database: gives it the statement's time, and joins a statement that writes
     /// to the open transaction. Reads before the first write see what others have committed meanwhile.
     void prepareFor(Database& database, bool writes);
-    /// After a statement failed: where it was the transaction's first to write, nothing is left to keep others waiting.
+    /// After a statement failed: where it was the transaction's first to write, takes it back and frees the write lock.
     void giveUpFirstWrite();
-    /// After a statement failed: a full disk and the like make the storage take back all that the open transaction
-    /// wrote to a database; then nothing of it may be committed. True where it was so.
+    /// After a statement failed: a full disk and the like make SQLite roll back all that the open transaction wrote to
+    /// a database. Rolls the rest back too, since no part of it may be committed; true where that was so.
     bool endLostTransaction();
 
     /// The one batch that runs; nullptr when it ends.
@@ -72,7 +72,7 @@ public:
 private:
     std::unique_ptr<Batch> begin(std::string_view text);
     std::unique_ptr<RowHold> takeRows(std::string_view select);
-    Scalar fact(std::string_view name, const Scalar& argument);
+    Scalar fact(Fact fact, const Scalar& argument);
     void stopBatch();
     std::unique_ptr<RowHold> holdRows(const Select& select);
     void takeBack(Database& database);

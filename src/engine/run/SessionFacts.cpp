@@ -1,10 +1,10 @@
 // What a session answers when a statement asks about the server, the session or its databases.
 
-#include "engine/errors/Error.h"
 #include "engine/run/ServerSession.h"
 #include "engine/store/Host.h"
 #include "engine/values/Collation.h"
 
+#include <algorithm>
 #include <utility>
 
 namespace engine {
@@ -14,7 +14,6 @@ namespace {
 constexpr int kBitsBehindVersion = 24;
 constexpr const char* kLanguage = "us_english";
 constexpr std::int64_t kQuotedIdentifierAndNulls = 5496; ///< the usual settings of a connection, as bits
-constexpr std::int64_t kWidestDecimal = 38;
 
 std::string versionText(const Instance& instance) {
     return std::to_string(instance.version()) + ".00";
@@ -42,33 +41,29 @@ Scalar serverProperty(const std::string& property, const Instance& instance) {
     return {};
 }
 
+/// The number of a table among those of its database, counted from 1.
+std::int64_t numberOf(const TableInfo& table, Catalog& catalog) {
+    const std::vector<std::string> names = catalog.tableNames();
+    return std::find(names.begin(), names.end(), table.name) - names.begin() + 1;
+}
+
 } // namespace
 
-Scalar ServerSession::fact(std::string_view name, const Scalar& argument) {
+Scalar ServerSession::fact(Fact fact, const Scalar& argument) {
     const auto* text = std::get_if<std::string>(&argument);
-    const auto table = [&] { return current_->catalog().table(text->substr(text->rfind('.') + 1)); };
-    if (name == "@@IDENTITY" || name == "SCOPE_IDENTITY") {
-        return lastIdentity_ == 0 ? Scalar() : Scalar(lastIdentity_);
-    }
-    if (name == "IDENT_CURRENT") {
-        const TableInfo* info = text == nullptr ? nullptr : table();
+    const auto table = [&] {
+        return text == nullptr ? nullptr : current_->catalog().table(text->substr(text->rfind('.') + 1));
+    };
+    switch (fact) {
+    case Fact::CurrentIdentity: {
+        const TableInfo* info = table();
         return info == nullptr || info->identity() == nullptr ? Scalar() : current_->catalog().currentIdentity(*info);
     }
-    if (name == "OBJECT_ID") {
-        const TableInfo* info = text == nullptr ? nullptr : table();
-        if (info == nullptr) {
-            return {};
-        }
-        std::int64_t id = 1;
-        for (const std::string& one : current_->catalog().tableNames()) {
-            if (one == info->name) {
-                break;
-            }
-            ++id;
-        }
-        return id;
+    case Fact::DatabaseId: {
+        const auto entry = text == nullptr ? std::optional(current_->entry()) : instance_->database(*text);
+        return entry ? Scalar(std::int64_t{entry->id}) : Scalar();
     }
-    if (name == "DB_NAME") {
+    case Fact::DatabaseName: {
         const auto* id = std::get_if<std::int64_t>(&argument);
         if (id == nullptr) {
             return current_->name();
@@ -80,36 +75,42 @@ Scalar ServerSession::fact(std::string_view name, const Scalar& argument) {
         }
         return {};
     }
-    if (name == "DB_ID") {
-        const auto entry = text == nullptr ? std::optional(current_->entry()) : instance_->database(*text);
-        return entry ? Scalar(std::int64_t{entry->id}) : Scalar();
-    }
-    if (name == "SERVERPROPERTY") {
-        return text == nullptr ? Scalar() : serverProperty(*text, *instance_);
-    }
-    if (name == "SUSER_SNAME") {
+    case Fact::Error:
+        return std::int64_t{lastError_};
+    case Fact::Host:
+        return hostName();
+    case Fact::Language:
+        return std::string(kLanguage);
+    case Fact::LastIdentity:
+        return lastIdentity_ == 0 ? Scalar() : Scalar(lastIdentity_);
+    case Fact::Login:
         return login_.user.empty() ? std::string("sa") : login_.user;
+    case Fact::ObjectId: {
+        const TableInfo* info = table();
+        return info == nullptr ? Scalar() : Scalar(numberOf(*info, current_->catalog()));
     }
-    const std::pair<std::string_view, Scalar> plain[] = {
-        {"@@ROWCOUNT", rowCount_},
-        {"@@ERROR", std::int64_t{lastError_}},
-        {"@@TRANCOUNT", std::int64_t{transactions_}},
-        {"@@SPID", processNumber()},
-        {"@@SERVERNAME", serverName(*instance_)},
-        {"@@VERSION", "Embedded server " + versionText(*instance_)},
-        {"@@MICROSOFTVERSION", std::int64_t{instance_->version()} << kBitsBehindVersion},
-        {"@@LANGUAGE", std::string(kLanguage)},
-        {"@@MAX_PRECISION", kWidestDecimal},
-        {"@@OPTIONS", kQuotedIdentifierAndNulls},
-        {"USER_NAME", std::string("dbo")},
-        {"HOST_NAME", hostName()},
-    };
-    for (const auto& [known, value] : plain) {
-        if (known == name) {
-            return value;
-        }
+    case Fact::Options:
+        return kQuotedIdentifierAndNulls;
+    case Fact::Process:
+        return processNumber();
+    case Fact::RowCount:
+        return rowCount_;
+    case Fact::ServerName:
+        return serverName(*instance_);
+    case Fact::ServerProperty:
+        return text == nullptr ? Scalar() : serverProperty(*text, *instance_);
+    case Fact::Transactions:
+        return std::int64_t{transactions_};
+    case Fact::User:
+        return std::string("dbo");
+    case Fact::Version:
+        return "Embedded server " + versionText(*instance_);
+    case Fact::VersionNumber:
+        return std::int64_t{instance_->version()} << kBitsBehindVersion;
+    case Fact::WidestDecimal:
+        return std::int64_t{kWidestDecimal};
     }
-    throw InternalError("nobody knows " + std::string(name));
+    return {};
 }
 
 } // namespace engine

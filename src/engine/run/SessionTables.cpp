@@ -1,6 +1,6 @@
 #include "engine/run/SessionTables.h"
 
-#include "engine/errors/Error.h"
+#include "engine/errors/RunErrors.h"
 #include "engine/run/SystemTables.h"
 #include "engine/store/StoredNames.h"
 #include "engine/values/Collation.h"
@@ -19,7 +19,7 @@ std::string joined(const Name& name) {
     return result;
 }
 
-/// The piece that many from the right, empty where there is none.
+/// A piece of the name counted from the right, the last one being 0; empty where the name has fewer.
 std::string piece(const Name& name, std::size_t fromRight) {
     return fromRight < name.pieces.size() ? name.pieces[name.pieces.size() - 1 - fromRight] : std::string();
 }
@@ -50,7 +50,7 @@ TableFinder::Found SessionTables::find(const Name& name) {
     const bool everywhere = sameText(schema, "sys") || !sameText(name.last(), "sysdatabases");
     if (own != nullptr && (everywhere ? !elsewhere || ofMaster : ofMaster)) {
         systemTables_.push_back(own->name);
-        // The copy has to be there before a statement on it can be prepared.
+        // A statement can be prepared only once the copy exists.
         fillSystemTable(own->name, session_.current(), session_.instance());
         return {"temp", own, true};
     }
@@ -80,7 +80,7 @@ TableFinder::Found SessionTables::inOtherDatabase(const Name& name) {
     foreign_ = true;
     const std::string schema = "db" + std::to_string(other->entry().id);
     attach(session_.current(), other->entry(), schema);
-    // Rows are written by the session that uses the database; from elsewhere they are read.
+    // Like a system table it can be read only: a session writes to the database that it uses.
     return {schema, table, true};
 }
 

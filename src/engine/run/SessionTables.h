@@ -5,7 +5,7 @@
 
 namespace engine {
 
-/// The tables that a session sees, and what it means for a plan to use them.
+/// Finds the tables of a session's statement by their names and collects what the plan has to know about them.
 class SessionTables : public TableFinder {
 public:
     explicit SessionTables(ServerSession& session) : session_(session) {}
@@ -15,7 +15,7 @@ public:
 
     /// The server's own tables that were asked for.
     const std::vector<std::string>& systemTables() const { return systemTables_; }
-    /// Whether a table of another database was asked for: its schema may change behind this one's back.
+    /// Whether a table of another database was asked for: a change of its schema wouldn't clear this database's cache.
     bool foreign() const { return foreign_; }
 
 private:

@@ -1,6 +1,6 @@
 #pragma once
 
-// The server's own tables: who asks one of them reads a copy made for his statement.
+// The server's own tables. A statement reads a copy that is filled just before it runs.
 
 #include "engine/run/Database.h"
 #include "engine/store/Catalog.h"

@@ -1,7 +1,7 @@
 #include "engine/run/Writer.h"
 
-#include "engine/errors/BindErrors.h"
 #include "engine/errors/Error.h"
+#include "engine/errors/StoreErrors.h"
 #include "engine/store/StoredNames.h"
 #include "engine/translate/SqlText.h"
 
@@ -44,16 +44,15 @@ public:
 
 private:
     std::int64_t inTransaction() {
-        WriteTransaction transaction(database_);
-        std::optional<sqlite::Transaction> several; // an INSERT of many statements inside of the user's transaction
-        if (plan_.source) {
-            several.emplace(database_.connection());
+        std::optional<sqlite::Transaction> transaction;
+        // Inside of the user's transaction a single statement of the storage's needs none of its own.
+        if (plan_.source || !database_.connection().inTransaction()) {
+            transaction.emplace(database_.connection());
         }
         const std::int64_t rows = plan_.kind == Plan::Kind::Insert ? insert() : change();
-        if (several) {
-            several->commit();
+        if (transaction) {
+            transaction->commit();
         }
-        transaction.commit();
         return rows;
     }
 
@@ -103,7 +102,7 @@ private:
 
     std::int64_t change() {
         bindLiterals(plan_.statement, plan_.parameters, bindings_);
-        // Asked under the write lock, so that no hold can come in between.
+        // Asked under the write lock, so that no session can take a hold between the question and the write.
         if (database_.locks().anyHeldByOthers()) {
             if (!plan_.rows) {
                 plan_.rows.emplace(database_.connection(), plan_.rowsText);
@@ -145,7 +144,7 @@ private:
         }
     }
 
-    /// A failed insert has used its identity values up all the same.
+    /// The identity values of a failed insert aren't given again.
     void settle() {
         if (gave_) {
             database_.catalog().settleIdentities();

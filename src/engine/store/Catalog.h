@@ -53,8 +53,8 @@ public:
     /// By name under the server's collation; nullptr where there is none. Valid until the next change of the schema.
     const TableInfo* table(std::string_view name);
     std::vector<std::string> tableNames();
-    /// Sees what any session changed, or took back, since the last call; true when something did. Cheap when nothing
-    /// did.
+    /// Reads the description anew where any session has changed it, or taken a change back, since the last call; true
+    /// where one has. Cheap where none has.
     bool refresh();
 
     void addTable(const TableInfo& table);
@@ -63,11 +63,11 @@ public:
     void removeTable(std::string_view table);
 
     /// The next identity value of a table. Call it inside the transaction of the insert, which makes it unique among
-    /// all processes and costs no write of its own; throws 8115 where the type is used up. A value given stays used up
-    /// for this session whatever becomes of the transaction.
+    /// all processes and costs no write of its own; throws 8115 where the type has no value left. This session
+    /// doesn't give a value twice, whatever becomes of the transaction.
     std::int64_t nextIdentity(const TableInfo& table);
-    /// After a failed statement or a rollback: the values given since are used up for everybody. Writes (in the open
-    /// transaction, or else in one of its own) only where a rollback took one back.
+    /// After a failed statement or a rollback: no session gives the values anew that were given in it. Writes (in the
+    /// open transaction, or else in one of its own) only where a rollback took one back.
     void settleIdentities();
     /// After an insert with IDENTITY_INSERT on: later values start behind this one.
     void raiseIdentity(const TableInfo& table, std::int64_t used);

@@ -1,4 +1,5 @@
 #include "engine/errors/Error.h"
+#include "engine/errors/ValueErrors.h"
 #include "engine/store/CatalogState.h"
 
 #include <algorithm>
@@ -7,10 +8,6 @@
 
 namespace engine {
 namespace {
-
-Error identityOverflow(const DataType& type) {
-    return {8115, "Arithmetic overflow error converting IDENTITY to data type " + toText(type) + "."};
-}
 
 struct Range {
     std::int64_t first, last;
@@ -21,9 +18,9 @@ constexpr Range rangeOf() {
     return {std::numeric_limits<Integer>::min(), std::numeric_limits<Integer>::max()};
 }
 
-/// The values that an identity of the type may give; a bigint keeps room for the step behind its last one.
+/// The values that an identity of the type may give; a bigint keeps kRoom for the step behind its last one.
 Range rangeOf(const DataType& type) {
-    constexpr std::int64_t room = std::numeric_limits<std::int32_t>::max();
+    constexpr std::int64_t kRoom = std::numeric_limits<std::int32_t>::max();
     switch (type.kind) {
     case DataType::Kind::TinyInt:
         return rangeOf<std::uint8_t>();
@@ -32,11 +29,11 @@ Range rangeOf(const DataType& type) {
     case DataType::Kind::Int:
         return rangeOf<std::int32_t>();
     default:
-        return {rangeOf<std::int64_t>().first + room, rangeOf<std::int64_t>().last - room};
+        return {rangeOf<std::int64_t>().first + kRoom, rangeOf<std::int64_t>().last - kRoom};
     }
 }
 
-/// Whichever lies further on in the direction of the identity.
+/// The later one of two values in the direction that the identity counts.
 std::int64_t further(const ColumnInfo& identity, std::int64_t left, std::int64_t right) {
     return identity.increment < 0 ? std::min(left, right) : std::max(left, right);
 }
@@ -61,7 +58,7 @@ std::int64_t Catalog::nextIdentity(const TableInfo& table) {
     }
     const Range range = rangeOf(identity.type);
     if (value < range.first || value > range.last) {
-        throw identityOverflow(identity.type);
+        throw errors::overflow("IDENTITY", toText(identity.type));
     }
     const std::int64_t next = value + identity.increment;
     state_->given[id] = next;

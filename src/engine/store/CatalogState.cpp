@@ -9,7 +9,7 @@
 namespace engine {
 namespace {
 
-constexpr const char* ownTables = R"(
+constexpr const char* kOwnTables = R"(
 CREATE TABLE _vabo_tables (
     id INTEGER PRIMARY KEY AUTOINCREMENT,
     name TEXT NOT NULL COLLATE TSQL UNIQUE);
@@ -42,7 +42,7 @@ sqlite::Connection& withOwnTables(sqlite::Connection& connection) {
     }
     sqlite::Transaction transaction(connection);
     if (missing()) {
-        connection.run(ownTables);
+        connection.run(kOwnTables);
     }
     transaction.commit();
     return connection;

@@ -10,9 +10,9 @@
 
 namespace engine {
 
-/// The catalog's rows and the cache of them. The number of the present description is kept in the file's
-/// `user_version`: it is drawn anew by each change and stored in the transaction of the change itself, so that reading
-/// it is the one cheap question that tells whether the cache still holds, after a rollback too.
+/// The catalog's rows and the cache of them. Each change draws a random number and stores it as the file's
+/// `user_version`, in the transaction of the change itself. Reading that number is cheap and tells whether the cache is
+/// still right, after a rollback too.
 struct Catalog::State {
     struct Entry {
         std::int64_t id = 0;
@@ -26,8 +26,8 @@ struct Catalog::State {
     void load();
     /// Reads one table anew.
     void reload(Entry& entry);
-    /// Comes before the change itself, so that whatever fails behind it makes the cache stale. The cache is kept up to
-    /// date by the change.
+    /// Called before a change, so that the cache counts as stale where the change fails half way. The change itself
+    /// keeps the cache up to date.
     void changed();
     /// Throws InternalError where there is none.
     Entry& entry(std::string_view name);

@@ -10,7 +10,7 @@ namespace engine {
 class FileLock {
 public:
     /// Bytes may be locked below this place.
-    static constexpr std::uint64_t end = std::uint64_t{1} << 62U;
+    static constexpr std::uint64_t kEnd = std::uint64_t{1} << 62U;
 
     /// Makes the file, owner only, where it is missing. Throws std::filesystem::filesystem_error.
     explicit FileLock(const std::filesystem::path& file);

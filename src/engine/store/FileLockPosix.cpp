@@ -9,13 +9,13 @@
 namespace engine {
 namespace {
 
-constexpr mode_t ownerOnly = 0600;
+constexpr mode_t kOwnerOnly = 0600;
 
 [[noreturn]] void fail(const char* what, const std::filesystem::path& file) {
     throw std::filesystem::filesystem_error(what, file, std::error_code(errno, std::generic_category()));
 }
 
-/// Locks of the open file, not of the process: closing another descriptor of the file doesn't lose them.
+/// Locks that belong to the open file, not to the process: closing another descriptor of the file keeps them.
 struct flock request(short type, std::uint64_t place, std::uint64_t length) {
     struct flock lock {};
     lock.l_type = type;
@@ -41,7 +41,7 @@ bool tryLock(int descriptor, short type, std::uint64_t place, const std::filesys
 } // namespace
 
 FileLock::FileLock(const std::filesystem::path& file)
-    : file_(file), descriptor_(open(file.c_str(), O_RDWR | O_CREAT | O_CLOEXEC, ownerOnly)) {
+    : file_(file), descriptor_(open(file.c_str(), O_RDWR | O_CREAT | O_CLOEXEC, kOwnerOnly)) {
     if (descriptor_ < 0) {
         fail("cannot open the file of locks", file);
     }

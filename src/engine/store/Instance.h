@@ -53,15 +53,15 @@ public:
     virtual std::vector<Option> options() const = 0;
     /// `name` may be any part that only one option has. Throws 15123, 15124, 15129.
     virtual void configure(const std::string& name, long long value) = 0;
-    /// What was configured runs from now on.
+    /// Makes the configured values the running ones.
     virtual void reconfigure() = 0;
 
-    /// The first number of the version that the server plays. It is kept with the instance, whoever serves it.
+    /// The major version that the server reports; stored in the instance.
     virtual int version() const = 0;
     virtual void setVersion(int version) = 0;
-    static constexpr int standardVersion = 8;
-    /// From here on there is no sp_dboption any more.
-    static constexpr int firstVersionWithoutDatabaseOptions = 11;
+    static constexpr int kStandardVersion = 8;
+    /// From this version on there is no sp_dboption.
+    static constexpr int kFirstVersionWithoutDatabaseOptions = 11;
 
     /// Options of one database, as sp_dboption sets them; see DatabaseOptions.h. Throws 15010 for an unknown database,
     /// 15011 and 15242 for an option.

@@ -10,7 +10,7 @@ namespace engine {
 
 namespace {
 
-constexpr std::string_view versionOption = "server version"; ///< none that a statement can reach
+constexpr std::string_view kVersionOption = "server version"; ///< sp_configure has no option of this name
 
 } // namespace
 
@@ -41,7 +41,7 @@ void InstanceStore::configure(const std::string& name, long long value) {
     sqlite::Transaction transaction(registry_);
     const std::vector<Option> all = readOptions();
     const bool advancedShown = std::any_of(
-        all.begin(), all.end(), [](const Option& o) { return o.name == showAdvancedOptions && o.running != 0; });
+        all.begin(), all.end(), [](const Option& o) { return o.name == kShowAdvancedOptions && o.running != 0; });
     const ServerOption& option = serverOption(name, advancedShown);
     checkServerOptionValue(option, value);
 
@@ -62,14 +62,14 @@ void InstanceStore::reconfigure() {
 int InstanceStore::version() const {
     const std::scoped_lock guard(mutex_);
     sqlite::Statement row(registry_, "SELECT running FROM options WHERE name = ?1");
-    row.bind(1, versionOption);
-    return row.step() ? static_cast<int>(row.integer(0)) : standardVersion;
+    row.bind(1, kVersionOption);
+    return row.step() ? static_cast<int>(row.integer(0)) : kStandardVersion;
 }
 
 void InstanceStore::setVersion(int version) {
     const std::scoped_lock guard(mutex_);
     sqlite::Statement store(registry_, "INSERT OR REPLACE INTO options VALUES (?1, ?2, ?2)");
-    store.bind(1, versionOption);
+    store.bind(1, kVersionOption);
     store.bind(2, std::int64_t{version});
     store.step();
 }

@@ -1,6 +1,6 @@
 #include "engine/store/InstanceStore.h"
 
-#include "engine/errors/Error.h"
+#include "engine/errors/StoreErrors.h"
 #include "engine/store/Host.h"
 #include "engine/store/RowLocks.h"
 #include "engine/values/Collation.h"
@@ -14,7 +14,7 @@
 namespace engine {
 namespace {
 
-constexpr const char* registryTables = R"(
+constexpr const char* kRegistryTables = R"(
 CREATE TABLE databases (
     id INTEGER PRIMARY KEY, name TEXT NOT NULL COLLATE TSQL UNIQUE,
     local_name TEXT NOT NULL, server_path TEXT NOT NULL, created TEXT NOT NULL);
@@ -24,7 +24,7 @@ CREATE TABLE options (name TEXT PRIMARY KEY, configured INTEGER NOT NULL, runnin
 CREATE TABLE logins (name TEXT PRIMARY KEY COLLATE TSQL, hash TEXT NOT NULL);
 )";
 
-constexpr std::string_view databaseColumns = "SELECT id, name, local_name, server_path, created FROM databases ";
+constexpr std::string_view kDatabaseColumns = "SELECT id, name, local_name, server_path, created FROM databases ";
 
 struct SystemDatabase {
     int id;
@@ -32,29 +32,17 @@ struct SystemDatabase {
     const char* file;
 };
 
-constexpr std::array systemDatabases{
+constexpr std::array kSystemDatabases{
     SystemDatabase{1, "master", "master.mdf"},
     SystemDatabase{2, "tempdb", "tempdb.mdf"},
     SystemDatabase{3, "model", "model.mdf"},
     SystemDatabase{4, "msdb", "msdbdata.mdf"},
 };
 
-constexpr std::string_view separators = "\\/:";
+constexpr std::string_view kSeparators = "\\/:";
 
-Error fileExists(const std::string& file) {
-    return {5170, "Cannot create file '" + file +
-                      "' because it already exists. Change the file path or the file name, and retry the operation."};
-}
-
-Error systemDatabase(const std::string& name) {
-    return {3708, "Cannot drop the database '" + name + "' because it is a system database."};
-}
-
-Error databaseInUse(const std::string& name) {
-    return {3702, "Cannot drop database \"" + name + "\" because it is currently in use."};
-}
-
-/// What of a database's files is there: the file itself for "", its log for "-wal", the log's index for "-shm".
+/// Removes files of a database where they exist: the file itself for "", its log for "-wal", the log's index for
+/// "-shm".
 void removeParts(const std::filesystem::path& database, std::initializer_list<const char*> endings) {
     for (const char* ending : endings) {
         std::filesystem::path part = database;
@@ -72,15 +60,15 @@ void makeEmptyFile(const std::filesystem::path& file) {
 }
 
 std::string now(sqlite::Connection& connection) {
-    constexpr int withMilliseconds = 121;
+    constexpr int kWithMilliseconds = 121;
     sqlite::Statement clock(connection, "SELECT strftime('%Y-%m-%d %H:%M:%f', 'now', 'localtime')");
     clock.step();
-    return toDateTime(clock.text(0), withMilliseconds);
+    return toDateTime(clock.text(0), kWithMilliseconds);
 }
 
 std::string fileNameOf(std::string name) {
     for (char& character : name) {
-        if (separators.find(character) != std::string_view::npos) {
+        if (kSeparators.find(character) != std::string_view::npos) {
             character = '_';
         }
     }
@@ -109,14 +97,14 @@ void InstanceStore::makeRegistry() {
         missing = !there.step();
     }
     if (missing) {
-        registry_.run(registryTables);
+        registry_.run(kRegistryTables);
         makeSystemDatabases();
     }
     transaction.commit();
 }
 
 void InstanceStore::makeSystemDatabases() {
-    for (const SystemDatabase& database : systemDatabases) {
+    for (const SystemDatabase& database : kSystemDatabases) {
         const std::filesystem::path file = folder_ / database.file;
         makeEmptyFile(file);
         insertDatabase(database.id, database.name, {"", database.file, file});
@@ -141,7 +129,7 @@ DatabaseEntry InstanceStore::entryOf(const sqlite::Statement& row) const {
 std::vector<DatabaseEntry> InstanceStore::databases() const {
     const std::scoped_lock guard(mutex_);
     std::vector<DatabaseEntry> entries;
-    sqlite::Statement rows(registry_, std::string(databaseColumns) + "ORDER BY id");
+    sqlite::Statement rows(registry_, std::string(kDatabaseColumns) + "ORDER BY id");
     while (rows.step()) {
         entries.push_back(entryOf(rows));
     }
@@ -154,7 +142,7 @@ std::optional<DatabaseEntry> InstanceStore::database(std::string_view name) cons
 }
 
 std::optional<DatabaseEntry> InstanceStore::find(std::string_view name) const {
-    sqlite::Statement row(registry_, std::string(databaseColumns) + "WHERE name = ?1");
+    sqlite::Statement row(registry_, std::string(kDatabaseColumns) + "WHERE name = ?1");
     row.bind(1, name);
     if (!row.step()) {
         return std::nullopt;
@@ -162,9 +150,9 @@ std::optional<DatabaseEntry> InstanceStore::find(std::string_view name) const {
     return entryOf(row);
 }
 
-/// The server names the folder's file in the error, as the statement wrote it.
+/// The error names the file as the statement wrote it.
 void InstanceStore::checkFolder(const std::string& serverPath) const {
-    if (serverPath.find_first_of(separators) == std::string::npos) {
+    if (serverPath.find_first_of(kSeparators) == std::string::npos) {
         return;
     }
     if (!std::filesystem::is_directory(mapPath(serverPath).parent_path())) {
@@ -174,18 +162,18 @@ void InstanceStore::checkFolder(const std::string& serverPath) const {
 
 InstanceStore::Place InstanceStore::placeOf(const std::string& name, const std::string& fileName) const {
     const std::string file = fileName.empty() ? fileNameOf(name) : fileName;
-    if (file.find_first_of(separators) == std::string::npos) {
+    if (file.find_first_of(kSeparators) == std::string::npos) {
         return {"", file, folder_ / file};
     }
     return {file, "", mapPath(file)};
 }
 
-/// An empty file that no database owns is what a process leaves that dies before it has registered its database.
+/// An empty file without a database is free: a process left it that died before it had registered its database.
 bool InstanceStore::isTaken(const std::filesystem::path& file) const {
     if (std::filesystem::exists(file) && !std::filesystem::is_empty(file)) {
         return true;
     }
-    sqlite::Statement rows(registry_, databaseColumns);
+    sqlite::Statement rows(registry_, kDatabaseColumns);
     while (rows.step()) {
         if (entryOf(rows).file == file) {
             return true;
@@ -215,9 +203,9 @@ DatabaseEntry InstanceStore::createDatabase(const std::string& name, const std::
     checkFolder(logName);
     const Place place = placeOf(name, fileName);
     if (isTaken(place.file)) {
-        throw fileExists(fileName.empty() ? place.localName : fileName);
+        throw errors::fileExists(fileName.empty() ? place.localName : fileName);
     }
-    removeParts(place.file, {"-wal", "-shm"}); // a kill amid a drop leaves them
+    removeParts(place.file, {"-wal", "-shm"}); // left where a process was killed while it dropped a database
     makeEmptyFile(place.file);
 
     sqlite::Statement freeId(registry_,
@@ -236,11 +224,11 @@ void InstanceStore::dropDatabase(const std::string& name) {
     if (!entry) {
         throw errors::cannotDrop("database", name);
     }
-    if (entry->id <= static_cast<int>(systemDatabases.size())) {
-        throw systemDatabase(entry->name);
+    if (entry->id <= static_cast<int>(kSystemDatabases.size())) {
+        throw errors::systemDatabase(entry->name);
     }
     if (RowLocks::databaseInUse(entry->file)) {
-        throw databaseInUse(entry->name);
+        throw errors::databaseInUse(entry->name);
     }
     for (const char* text :
          {"DELETE FROM databases WHERE id = ?1", "DELETE FROM database_options WHERE database_id = ?1"}) {
@@ -256,7 +244,7 @@ void InstanceStore::dropDatabase(const std::string& name) {
 DatabaseEntry InstanceStore::needed(const std::string& name) const {
     std::optional<DatabaseEntry> entry = find(name);
     if (!entry) {
-        throw Error(15010, "The database '" + name + "' does not exist. Use sp_helpdb to show available databases.");
+        throw errors::databaseUnknown(name);
     }
     return *std::move(entry);
 }

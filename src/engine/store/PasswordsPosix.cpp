@@ -7,7 +7,7 @@
 namespace engine {
 namespace {
 
-constexpr const char* sha512Method = "$6$";
+constexpr const char* kSha512Method = "$6$";
 
 std::string crypted(const std::string& password, const std::string& setting) {
     const auto work = std::make_unique<crypt_data>();
@@ -22,7 +22,7 @@ std::string crypted(const std::string& password, const std::string& setting) {
 
 std::string hashPassword(const std::string& password) {
     std::string setting(CRYPT_GENSALT_OUTPUT_SIZE, '\0');
-    if (crypt_gensalt_rn(sha512Method, 0, nullptr, 0, setting.data(), static_cast<int>(setting.size())) == nullptr) {
+    if (crypt_gensalt_rn(kSha512Method, 0, nullptr, 0, setting.data(), static_cast<int>(setting.size())) == nullptr) {
         throw std::runtime_error("no salt for a password");
     }
     return crypted(password, setting.c_str());

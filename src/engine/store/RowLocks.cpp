@@ -9,8 +9,8 @@
 namespace engine {
 namespace {
 
-/// The last byte says that a session uses the database; all others stand for rows.
-constexpr std::uint64_t presencePlace = FileLock::end - 1;
+/// A lock on the last byte says that a session uses the database; all other bytes stand for rows.
+constexpr std::uint64_t kPresencePlace = FileLock::kEnd - 1;
 
 std::filesystem::path lockFile(const std::filesystem::path& database) {
     std::filesystem::path file = database;
@@ -41,7 +41,7 @@ struct RowLocks::State {
             lastTable = table;
             lastHash = hashOf(collationKey(table));
         }
-        return mixed(lastHash + mixed(static_cast<std::uint64_t>(row))) % presencePlace;
+        return mixed(lastHash + mixed(static_cast<std::uint64_t>(row))) % kPresencePlace;
     }
 
     FileLock file;
@@ -51,7 +51,7 @@ struct RowLocks::State {
 };
 
 RowLocks::RowLocks(const std::filesystem::path& database) : state_(std::make_unique<State>(database)) {
-    state_->file.tryShared(presencePlace);
+    state_->file.tryShared(kPresencePlace);
 }
 
 RowLocks::~RowLocks() = default;
@@ -80,7 +80,7 @@ void RowLocks::release(std::string_view table, std::int64_t row) {
 }
 
 bool RowLocks::anyHeldByOthers() const {
-    return state_->file.heldByOthers(0, presencePlace);
+    return state_->file.heldByOthers(0, kPresencePlace);
 }
 
 bool RowLocks::heldByOthers(std::string_view table, std::int64_t row) const {
@@ -89,7 +89,7 @@ bool RowLocks::heldByOthers(std::string_view table, std::int64_t row) const {
 
 bool RowLocks::databaseInUse(const std::filesystem::path& database) {
     const std::filesystem::path file = lockFile(database);
-    return std::filesystem::exists(file) && FileLock(file).heldByOthers(presencePlace, 1);
+    return std::filesystem::exists(file) && FileLock(file).heldByOthers(kPresencePlace, 1);
 }
 
 void RowLocks::removeFile(const std::filesystem::path& database) {

@@ -8,8 +8,8 @@
 
 namespace engine {
 
-/// Holds on rows of one database, seen by every session of every process that uses it, and gone with their holder.
-/// One object per session and database. File locks stand behind FileLock.h alone.
+/// Holds on rows of one database, known to every session of every process that uses it; they end with their holder.
+/// One object per session and database.
 class RowLocks {
 public:
     /// `database` is the database's file; the locks live in a file beside it.
@@ -22,13 +22,13 @@ public:
     bool acquire(std::string_view table, std::int64_t row);
     void release(std::string_view table, std::int64_t row);
 
-    /// One question for the whole database, so that writers pay nothing while nobody holds.
+    /// Asks once for the whole database, so that writers needn't ask for each row while no row is held.
     bool anyHeldByOthers() const;
     bool heldByOthers(std::string_view table, std::int64_t row) const;
 
     /// Whether any session has an object for the database.
     static bool databaseInUse(const std::filesystem::path& database);
-    /// For a database that goes away.
+    /// Removes the lock file of a database that is dropped.
     static void removeFile(const std::filesystem::path& database);
 
 private:

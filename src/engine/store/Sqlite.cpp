@@ -12,10 +12,10 @@
 namespace engine::sqlite {
 namespace {
 
-constexpr std::chrono::milliseconds busyTimeout{10'000};
-constexpr std::chrono::milliseconds walRetryPause{5};
+constexpr std::chrono::milliseconds kBusyTimeout{10'000};
+constexpr std::chrono::milliseconds kWalRetryPause{5};
 
-/// What the system said when one of the files was last refused, 0 for nothing.
+/// The system's number of the last error of a file, 0 where it had none.
 int refusalOf(sqlite3_file* file) {
     int number = 0;
     if (file != nullptr && file->pMethods != nullptr) {
@@ -32,7 +32,7 @@ bool isTooLarge(sqlite3* handle) {
     return refusalOf(file) == EFBIG || refusalOf(log) == EFBIG;
 }
 
-/// The storage knows a full disk by itself; a file that has reached its largest size is one as well.
+/// SQLite reports a full disk by itself. A file at the limit of its size counts as a full disk too.
 Failure failureOf(sqlite3* handle) {
     const int code = sqlite3_extended_errcode(handle);
     const std::string text = sqlite3_errmsg(handle);
@@ -66,8 +66,8 @@ void makeFileOfOwner(const std::filesystem::path& file) {
     }
 }
 
-/// A database in use has its log beside it and is never empty. The change to the write-ahead log would wait in vain for
-/// those who use what was there before.
+/// A database in use is never empty, so an empty file with a log beside it was emptied by somebody else. Turning the
+/// write-ahead log on would wait in vain for the sessions that still use the old file.
 bool wasEmptied(const std::filesystem::path& file) {
     std::error_code missing;
     const auto beside = [&](const char* ending) {
@@ -77,10 +77,10 @@ bool wasEmptied(const std::filesystem::path& file) {
     return std::filesystem::file_size(file, missing) == 0 && (beside("-wal") || beside("-shm"));
 }
 
-/// The change to the write-ahead log needs the file for itself for an instant, and the busy timeout doesn't cover it
-/// when two processes make the same database.
+/// Turning the write-ahead log on needs an exclusive lock for a moment, and the busy timeout doesn't cover it when two
+/// processes make the same database.
 void useWriteAheadLog(sqlite3* handle) {
-    const auto end = std::chrono::steady_clock::now() + busyTimeout;
+    const auto end = std::chrono::steady_clock::now() + kBusyTimeout;
     while (true) {
         const int code = sqlite3_exec(handle, "PRAGMA journal_mode=WAL", nullptr, nullptr, nullptr);
         if (code == SQLITE_OK) {
@@ -89,13 +89,13 @@ void useWriteAheadLog(sqlite3* handle) {
         if ((code & 0xff) != SQLITE_BUSY || std::chrono::steady_clock::now() >= end) {
             fail(handle);
         }
-        sqlite3_sleep(static_cast<int>(walRetryPause.count()));
+        sqlite3_sleep(static_cast<int>(kWalRetryPause.count()));
     }
 }
 
 void configure(sqlite3* handle) {
     check(handle, sqlite3_extended_result_codes(handle, 1));
-    check(handle, sqlite3_busy_timeout(handle, static_cast<int>(busyTimeout.count())));
+    check(handle, sqlite3_busy_timeout(handle, static_cast<int>(kBusyTimeout.count())));
     check(handle, sqlite3_create_collation_v2(handle, "TSQL", SQLITE_UTF8, nullptr, collate, nullptr));
     // A name in double quotes that isn't known must be refused, not read as a text.
     check(handle, sqlite3_db_config(handle, SQLITE_DBCONFIG_DQS_DML, 0, nullptr));
@@ -127,6 +127,9 @@ Connection::Connection(const std::filesystem::path& file, bool create) {
 }
 
 Connection::~Connection() {
+    begin_.reset();
+    lock_.reset();
+    commit_.reset();
     sqlite3_close_v2(handle_);
 }
 
@@ -144,6 +147,40 @@ std::int64_t Connection::changes() const {
 
 std::int64_t Connection::lastRow() const {
     return sqlite3_last_insert_rowid(handle_);
+}
+
+void Connection::begin() {
+    if (!begin_) {
+        begin_ = std::make_unique<Statement>(*this, lock_ ? "BEGIN" : "BEGIN IMMEDIATE");
+    }
+    begin_->run();
+    if (!lock_) {
+        return;
+    }
+    try {
+        lock_->run();
+    } catch (...) {
+        rollback();
+        throw;
+    }
+}
+
+void Connection::commit() {
+    if (!commit_) {
+        commit_ = std::make_unique<Statement>(*this, "COMMIT");
+    }
+    commit_->run();
+}
+
+void Connection::rollback() noexcept {
+    if (inTransaction()) {
+        sqlite3_exec(handle_, "ROLLBACK", nullptr, nullptr, nullptr);
+    }
+}
+
+void Connection::lockBy(std::string_view text) {
+    lock_ = std::make_unique<Statement>(*this, text);
+    begin_.reset();
 }
 
 Statement::Statement(Connection& connection, std::string_view text) {
@@ -202,6 +239,11 @@ void Statement::reset() {
     sqlite3_reset(handle_);
 }
 
+void Statement::run() {
+    step();
+    reset();
+}
+
 int Statement::columns() const {
     return sqlite3_column_count(handle_);
 }
@@ -227,20 +269,30 @@ std::string_view Statement::text(int column) const {
 }
 
 Transaction::Transaction(Connection& connection) : connection_(connection), nested_(connection.inTransaction()) {
-    connection_.run(nested_ ? "SAVEPOINT nested" : "BEGIN IMMEDIATE");
+    if (nested_) {
+        connection_.run("SAVEPOINT nested");
+    } else {
+        connection_.begin();
+    }
 }
 
 Transaction::~Transaction() {
-    // A full disk and the like may have ended the transaction already.
-    if (!open_ || !connection_.inTransaction()) {
+    if (!open_) {
         return;
     }
-    const char* text = nested_ ? "ROLLBACK TO nested; RELEASE nested" : "ROLLBACK";
-    sqlite3_exec(connection_.handle(), text, nullptr, nullptr, nullptr);
+    if (!nested_) {
+        connection_.rollback();
+    } else if (connection_.inTransaction()) {
+        sqlite3_exec(connection_.handle(), "ROLLBACK TO nested; RELEASE nested", nullptr, nullptr, nullptr);
+    }
 }
 
 void Transaction::commit() {
-    connection_.run(nested_ ? "RELEASE nested" : "COMMIT");
+    if (nested_) {
+        connection_.run("RELEASE nested");
+    } else {
+        connection_.commit();
+    }
     open_ = false;
 }
 

@@ -1,6 +1,6 @@
 #pragma once
 
-// The one door to SQLite: a connection and a statement that own their handles and answer in exceptions.
+// Connections, statements and transactions of SQLite. They own their handles and throw Failure.
 
 #include <cstdint>
 #include <filesystem>
@@ -14,7 +14,7 @@ struct sqlite3_stmt;
 
 namespace engine::sqlite {
 
-/// An error of the storage itself. `code` is the extended result code. Translated to the server's numbers above.
+/// An error of SQLite. `code` is the extended result code; StorageErrors.h gives the server's error for it.
 class Failure : public std::runtime_error {
 public:
     Failure(int code, const std::string& text) : std::runtime_error(text), code_(code) {}
@@ -23,6 +23,8 @@ public:
 private:
     int code_;
 };
+
+class Statement;
 
 class Connection {
 public:
@@ -39,8 +41,18 @@ public:
     std::int64_t changes() const;
     std::int64_t lastRow() const;
 
+    /// A transaction that writes; its lock is taken at once. Transaction below ends it whatever happens.
+    void begin();
+    void commit();
+    /// Never throws: a full disk and the like may have ended the transaction already.
+    void rollback() noexcept;
+    /// A statement that writes nothing in `main`, by which `begin` locks this database alone: BEGIN IMMEDIATE locks the
+    /// attached ones too, which another transaction of the same session may be writing.
+    void lockBy(std::string_view text);
+
 private:
     sqlite3* handle_ = nullptr;
+    std::unique_ptr<Statement> begin_, lock_, commit_; ///< prepared when first needed
 };
 
 class Statement {
@@ -58,6 +70,8 @@ public:
     /// True while there is a row.
     bool step();
     void reset();
+    /// To its end, for a text without rows.
+    void run();
 
     int columns() const;
     bool isNull(int column) const;
@@ -69,11 +83,13 @@ private:
     sqlite3_stmt* handle_ = nullptr;
 };
 
-/// BEGIN IMMEDIATE now, ROLLBACK at the end unless committed. Nested use is a savepoint.
+/// Begins now, rolls back at the end unless committed. Inside of another transaction it is a savepoint.
 class Transaction {
 public:
     explicit Transaction(Connection& connection);
     ~Transaction();
+    Transaction(const Transaction&) = delete;
+    Transaction& operator=(const Transaction&) = delete;
     void commit();
 
 private:

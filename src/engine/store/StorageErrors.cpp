@@ -1,6 +1,9 @@
 #include "engine/store/StorageErrors.h"
 
 #include "engine/errors/BindErrors.h"
+#include "engine/errors/StoreErrors.h"
+#include "engine/errors/TextErrors.h"
+#include "engine/errors/ValueErrors.h"
 #include "engine/store/StoredNames.h"
 #include "engine/values/Collation.h"
 
@@ -12,14 +15,14 @@ namespace {
 
 constexpr int kPrimaryCode = 0xff;
 
-/// What the storage names behind `UNIQUE constraint failed: `.
+/// The list that SQLite writes behind `UNIQUE constraint failed: `.
 std::string_view namedIn(std::string_view message) {
     const std::size_t colon = message.find(": ");
     return colon == std::string_view::npos ? std::string_view() : message.substr(colon + 2);
 }
 
-/// Columns of a table as the storage names them: `t.a, t.b`. Names may hold anything, so that its text can be compared
-/// with the keys there are, but not be taken apart.
+/// Columns of a table as SQLite lists them: `t.a, t.b`. Names may contain commas and points, so that such a list is
+/// compared with those of the known keys and not taken apart.
 std::string asNamed(const std::string& table, const std::vector<std::string>& columns) {
     std::string all;
     for (const std::string& column : columns) {
@@ -50,7 +53,7 @@ Error duplicate(sqlite::Connection& connection, std::string_view message, const 
                 "dbo." + table.name, std::string(indexes.text(0).substr(stored::indexName(table.name, "").size())));
         }
     }
-    throw InternalError("a key that nobody knows: " + std::string(message));
+    throw InternalError("an unknown key: " + std::string(message));
 }
 
 } // namespace
@@ -84,7 +87,7 @@ std::optional<Error> storageError(const sqlite::Failure& failure, const std::str
         break;
     }
     if (message == "integer overflow") {
-        return errors::overflow("bigint");
+        return errors::overflow("expression", "bigint");
     }
     if (message.starts_with("misuse of aggregate")) {
         return errors::aggregateMisplaced();

@@ -9,8 +9,7 @@
 
 namespace engine {
 
-/// The server's error for a failure of the storage that is nobody's bug: a disk, a lock, a limit. Nothing for any
-/// other.
+/// The server's error for a failure that the disk, a lock or a limit causes. Nothing for any other, which is a bug.
 std::optional<Error> storageError(const sqlite::Failure& failure, const std::string& database);
 
 /// Throws the server's error for a statement that the storage failed: 515, 2601 and 2627 where it wrote to `table`,
@@ -18,7 +17,7 @@ std::optional<Error> storageError(const sqlite::Failure& failure, const std::str
 [[noreturn]] void raiseFailure(sqlite::Connection& connection, const std::string& database,
                                const sqlite::Failure& failure, const TableInfo* table, const char* verb);
 
-/// A key that is there twice.
+/// Whether a statement would have given a unique key twice.
 bool isDuplicate(const sqlite::Failure& failure);
 
 } // namespace engine

@@ -9,12 +9,12 @@ namespace engine::stored {
 
 /// A name in double quotes.
 std::string quoted(std::string_view name);
-/// The storage keeps some names for itself, and tables and indexes share its names: such tables are stored under
-/// another.
+/// SQLite and the catalog reserve some names, and a name with a point could be that of an index: such tables are stored
+/// under another name.
 std::string tableName(const std::string& table);
 /// Schema and stored name, both in double quotes.
 std::string qualifiedTable(const std::string& schema, const std::string& table);
-/// The storage has one space of names for all indexes of a database.
+/// With the name of the table, since SQLite wants the names of all indexes of a database different.
 std::string indexName(const std::string& table, const std::string& index);
 
 } // namespace engine::stored

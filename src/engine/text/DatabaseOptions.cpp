@@ -1,6 +1,6 @@
 #include "engine/text/DatabaseOptions.h"
 
-#include "engine/errors/Error.h"
+#include "engine/errors/TextErrors.h"
 #include "engine/text/OptionNames.h"
 
 #include <array>
@@ -8,7 +8,7 @@
 namespace engine {
 namespace {
 
-constexpr std::array options{
+constexpr std::array kOptions{
     DatabaseOption{"ANSI null default", false},
     DatabaseOption{"ANSI nulls", false},
     DatabaseOption{"ANSI padding", false},
@@ -43,7 +43,7 @@ struct Toggle {
     const char* option;
 };
 
-constexpr std::array toggles{
+constexpr std::array kToggles{
     Toggle{"ANSI_NULL_DEFAULT", "ANSI null default"},
     Toggle{"ANSI_NULLS", "ANSI nulls"},
     Toggle{"ANSI_PADDING", "ANSI padding"},
@@ -62,7 +62,7 @@ constexpr std::array toggles{
     Toggle{"TORN_PAGE_DETECTION", "torn page detection"},
 };
 
-/// A setting of any other words, an option a line.
+/// A setting with values of its own; one that changes several options has a row for each.
 struct Choice {
     const char* setting;
     const char* value;
@@ -70,7 +70,7 @@ struct Choice {
     bool becomes;
 };
 
-constexpr std::array choices{
+constexpr std::array kChoices{
     Choice{"CURSOR_DEFAULT", "GLOBAL", "default to local cursor", false},
     Choice{"CURSOR_DEFAULT", "LOCAL", "default to local cursor", true},
     Choice{"MULTI_USER", "", "dbo use only", false},
@@ -93,12 +93,12 @@ constexpr std::array choices{
 std::vector<std::pair<const char*, bool>> databaseSetting(std::string_view option, std::string_view value) {
     const bool on = sameText(value, "ON");
     std::vector<std::pair<const char*, bool>> effects;
-    for (const Toggle& toggle : toggles) {
+    for (const Toggle& toggle : kToggles) {
         if (sameText(toggle.setting, option) && (on || sameText(value, "OFF"))) {
             effects.emplace_back(toggle.option, on);
         }
     }
-    for (const Choice& choice : choices) {
+    for (const Choice& choice : kChoices) {
         if (sameText(choice.setting, option) && sameText(choice.value, value)) {
             effects.emplace_back(choice.option, choice.becomes);
         }
@@ -107,16 +107,16 @@ std::vector<std::pair<const char*, bool>> databaseSetting(std::string_view optio
 }
 
 std::span<const DatabaseOption> databaseOptions() {
-    return options;
+    return kOptions;
 }
 
 const DatabaseOption& databaseOption(std::string_view name) {
     const auto match = matchOption(databaseOptions(), name, [](const DatabaseOption&) { return true; });
     if (match.count == 0) {
-        throw Error(15011, "Database option '" + std::string(name) + "' does not exist.");
+        throw errors::databaseOptionMissing(name);
     }
     if (match.option == nullptr) {
-        throw Error(15242, "Database option '" + std::string(name) + "' is not unique.");
+        throw errors::databaseOptionAmbiguous(name);
     }
     return *match.option;
 }

@@ -1,6 +1,9 @@
 #include "engine/text/Lexer.h"
 
-#include "engine/errors/Error.h"
+#include "engine/errors/TextErrors.h"
+#include "engine/values/Ascii.h"
+#include "engine/values/CollationCharacters.h"
+#include "engine/values/DataType.h"
 
 #include <algorithm>
 #include <array>
@@ -10,10 +13,6 @@
 namespace engine {
 
 namespace {
-
-bool isDigit(char c) {
-    return c >= '0' && c <= '9';
-}
 
 bool isHexDigit(char c) {
     return isDigit(c) || (c >= 'a' && c <= 'f') || (c >= 'A' && c <= 'F');
@@ -31,20 +30,14 @@ bool continuesName(char c) {
     return startsName(c) || isDigit(c) || c == '$';
 }
 
-bool isBlank(char c) {
-    return c == ' ' || (c >= '\t' && c <= '\r');
-}
-
-bool startsCharacter(char c) {
-    return (static_cast<unsigned char>(c) & 0xC0U) != 0x80U;
-}
-
 /// The first characters of a UTF-8 text, all of it where it is shorter.
 std::string_view firstCharacters(std::string_view text, std::size_t count) {
     std::size_t seen = 0;
-    for (std::size_t i = 0; i < text.size(); ++i)
-        if (startsCharacter(text[i]) && seen++ == count)
+    for (std::size_t i = 0; i < text.size(); ++i) {
+        if (startsCharacter(text[i]) && seen++ == count) {
             return text.substr(0, i);
+        }
+    }
     return text;
 }
 
@@ -54,11 +47,10 @@ bool fitsInt(std::string_view digits) {
     return digits.size() != kLargest.size() ? digits.size() < kLargest.size() : digits <= kLargest;
 }
 
-/// The widest decimal has 38 digits, zeros before them left out.
+/// Whether the widest decimal holds it; zeros in front don't count.
 bool fitsDecimal(std::string_view number) {
-    constexpr std::ptrdiff_t kMostDigits = 38;
     number.remove_prefix(std::min(number.find_first_not_of('0'), number.size()));
-    return std::count_if(number.begin(), number.end(), isDigit) <= kMostDigits;
+    return std::count_if(number.begin(), number.end(), isDigit) <= kWidestDecimal;
 }
 
 bool fitsFloat(const std::string_view number) {
@@ -74,8 +66,9 @@ public:
 
     std::vector<Token> run() {
         tokens_.reserve(batch_.size() / 4 + 2);
-        for (skipBlanks(); at_ < batch_.size(); skipBlanks())
+        for (skipBlanks(); at_ < batch_.size(); skipBlanks()) {
             next();
+        }
         add(Token::Kind::End, at_);
         return std::move(tokens_);
     }
@@ -89,29 +82,33 @@ private:
         token.kind = kind;
         token.text = batch_.substr(begin, at_ - begin);
         token.position = static_cast<int>(begin);
-        if (token.isLiteral())
+        if (token.isLiteral()) {
             token.literal = literals_++;
+        }
         return tokens_.emplace_back(token);
     }
 
     void skipBlanks() {
-        while (at_ < batch_.size())
-            if (isBlank(look()))
+        while (at_ < batch_.size()) {
+            if (isBlank(look())) {
                 ++at_;
-            else if (looksLike("--"))
+            } else if (looksLike("--")) {
                 at_ = std::min(batch_.find('\n', at_), batch_.size());
-            else if (looksLike("/*"))
+            } else if (looksLike("/*")) {
                 skipComment();
-            else
+            } else {
                 return;
+            }
+        }
     }
 
     void skipComment() {
         const std::size_t begin = at_;
         int depth = 0;
         do {
-            if (at_ >= batch_.size())
+            if (at_ >= batch_.size()) {
                 throw errors::unclosedComment(static_cast<int>(begin));
+            }
             const bool opens = looksLike("/*");
             const bool closes = looksLike("*/");
             depth += opens ? 1 : closes ? -1 : 0;
@@ -144,10 +141,12 @@ private:
         const std::size_t inside = ++at_;
         for (;; at_ += 2) {
             at_ = batch_.find(close, at_);
-            if (at_ == std::string_view::npos)
+            if (at_ == std::string_view::npos) {
                 throw errors::unclosedQuote(std::string(batch_.substr(inside)), static_cast<int>(begin));
-            if (look(1) != close)
+            }
+            if (look(1) != close) {
                 break;
+            }
         }
         ++at_;
         add(kind, begin);
@@ -156,23 +155,27 @@ private:
     void quotedName(std::size_t begin, char close) {
         quoted(Token::Kind::QuotedName, begin, close);
         const std::string name = valueOf(tokens_.back());
-        if (name.empty())
+        if (name.empty()) {
             throw errors::emptyName(static_cast<int>(begin));
-        if (name.find('\0') != std::string::npos)
+        }
+        if (name.find('\0') != std::string::npos) {
             throw errors::syntaxNear(name.c_str(), static_cast<int>(begin));
+        }
         refuseLongName(name, begin);
     }
 
     void digits() {
-        while (isDigit(look()))
+        while (isDigit(look())) {
             ++at_;
+        }
     }
 
     void number(std::size_t begin) {
         if (look() == '0' && (look(1) == 'x' || look(1) == 'X')) {
             at_ += 2;
-            while (isHexDigit(look()))
+            while (isHexDigit(look())) {
                 ++at_;
+            }
             add(Token::Kind::Hexadecimal, begin);
             return;
         }
@@ -186,22 +189,26 @@ private:
         if (look() == 'e' || look() == 'E') {
             kind = Token::Kind::Float;
             ++at_;
-            if (look() == '+' || look() == '-')
+            if (look() == '+' || look() == '-') {
                 ++at_;
+            }
             digits();
         }
         const std::string_view written = batch_.substr(begin, at_ - begin);
-        if (kind == Token::Kind::Float ? !fitsFloat(written) : !fitsDecimal(written))
+        if (kind == Token::Kind::Float ? !fitsFloat(written) : !fitsDecimal(written)) {
             throw kind == Token::Kind::Float ? errors::floatOutOfRange(std::string(written), static_cast<int>(begin))
                                              : errors::numberTooLong(static_cast<int>(begin));
-        if (kind == Token::Kind::Integer && !fitsInt(written))
+        }
+        if (kind == Token::Kind::Integer && !fitsInt(written)) {
             kind = Token::Kind::Decimal;
+        }
         add(kind, begin);
     }
 
     void word(std::size_t begin) {
-        while (continuesName(look()))
+        while (continuesName(look())) {
             ++at_;
+        }
         const auto text = batch_.substr(begin, at_ - begin);
         refuseLongName(text, begin);
         if (text.starts_with("@@")) {
@@ -216,19 +223,22 @@ private:
 
     static void refuseLongName(std::string_view name, std::size_t begin) {
         const auto start = firstCharacters(name, kLongestName);
-        if (start.size() < name.size())
+        if (start.size() < name.size()) {
             throw errors::identifierTooLong(std::string(start), static_cast<int>(begin));
+        }
     }
 
     void symbol(std::size_t begin) {
-        for (const auto longSymbol : kLongSymbols)
+        for (const auto longSymbol : kLongSymbols) {
             if (looksLike(longSymbol)) {
                 at_ += longSymbol.size();
                 add(Token::Kind::Symbol, begin);
                 return;
             }
-        if (kSymbols.find(look()) == std::string_view::npos)
+        }
+        if (kSymbols.find(look()) == std::string_view::npos) {
             throw errors::syntaxNear(std::string(look() == '\0' ? 0 : 1, look()), static_cast<int>(begin));
+        }
         ++at_;
         add(Token::Kind::Symbol, begin);
     }
@@ -243,18 +253,21 @@ private:
 
 std::string valueOf(const Token& token) {
     std::string_view text = token.text;
-    if (token.kind == Token::Kind::NationalText)
+    if (token.kind == Token::Kind::NationalText) {
         text.remove_prefix(1);
-    if (!token.isText() && token.kind != Token::Kind::QuotedName)
+    }
+    if (!token.isText() && token.kind != Token::Kind::QuotedName) {
         return std::string(text);
+    }
     const char close = text.back();
     text = text.substr(1, text.size() - 2);
     std::string value;
     value.reserve(text.size());
     for (std::size_t i = 0; i < text.size(); ++i) {
         value += text[i];
-        if (text[i] == close)
+        if (text[i] == close) {
             ++i;
+        }
     }
     return value;
 }

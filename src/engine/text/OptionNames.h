@@ -8,7 +8,7 @@
 
 namespace engine {
 
-/// What the server's option procedures find for a name that may be any part of an option's name.
+/// The option that a name stands for, which may be any part of the option's own name.
 template<typename Option>
 struct OptionMatch {
     const Option* option = nullptr; ///< none when `count` isn't 1

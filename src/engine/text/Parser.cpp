@@ -1,12 +1,14 @@
 #include "engine/text/Parser.h"
 
+#include "engine/errors/TextErrors.h"
 #include "engine/text/ParserGrammar.h"
 
 namespace engine {
 
 BatchTree parse(std::string_view batch) {
-    if (batch.size() > kLongestBatch)
+    if (batch.size() > kLongestBatch) {
         throw errors::nestedTooDeep();
+    }
     return Grammar(batch).batch();
 }
 

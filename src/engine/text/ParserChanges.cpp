@@ -11,14 +11,15 @@ Grammar::Node Grammar::insert() {
     expect(Keyword::Insert);
     consumeIf(Keyword::Into);
     node.table = name();
-    if (at("(") && !ahead(1).is(Keyword::Select))
+    if (at("(") && !ahead(1).is(Keyword::Select)) {
         node.columns = nameList();
+    }
     if (consumeIf(Keyword::Default)) {
         expect(Keyword::Values);
     } else if (consumeIf(Keyword::Values)) {
-        do
+        do {
             node.rows.push_back(row());
-        while (consumeIf(","));
+        } while (consumeIf(","));
     } else {
         node.select = at("(") ? selectInBrackets() : select();
     }
@@ -28,9 +29,9 @@ Grammar::Node Grammar::insert() {
 std::vector<std::string> Grammar::nameList() {
     std::vector<std::string> names;
     expect("(");
-    do
+    do {
         names.push_back(expectName());
-    while (consumeIf(","));
+    } while (consumeIf(","));
     expect(")");
     return names;
 }
@@ -38,9 +39,9 @@ std::vector<std::string> Grammar::nameList() {
 std::vector<ExpressionPtr> Grammar::row() {
     std::vector<ExpressionPtr> row;
     expect("(");
-    do
+    do {
         row.push_back(consumeIf(Keyword::Default) ? nullptr : value());
-    while (consumeIf(","));
+    } while (consumeIf(","));
     expect(")");
     return row;
 }
@@ -54,14 +55,17 @@ Grammar::Node Grammar::update() {
         Update::Assignment assignment;
         assignment.column = name();
         expect("=");
-        if (!consumeIf(Keyword::Default))
+        if (!consumeIf(Keyword::Default)) {
             assignment.value = value();
+        }
         node.assignments.push_back(std::move(assignment));
     } while (consumeIf(","));
-    if (consumeIf(Keyword::From))
+    if (consumeIf(Keyword::From)) {
         node.from = tableSources();
-    if (consumeIf(Keyword::Where))
+    }
+    if (consumeIf(Keyword::Where)) {
         node.where = condition();
+    }
     return node;
 }
 
@@ -70,8 +74,9 @@ Grammar::Node Grammar::deleteRows() {
     expect(Keyword::Delete);
     consumeIf(Keyword::From);
     node.table = name();
-    if (consumeIf(Keyword::Where))
+    if (consumeIf(Keyword::Where)) {
         node.where = condition();
+    }
     return node;
 }
 

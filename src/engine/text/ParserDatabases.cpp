@@ -20,8 +20,9 @@ Grammar::Node Grammar::createDatabase() {
         auto logs = databaseFiles(true);
         std::move(logs.begin(), logs.end(), std::back_inserter(node.files));
     }
-    if (consumeIf(Keyword::Collate))
+    if (consumeIf(Keyword::Collate)) {
         node.collation = expectName();
+    }
     return node;
 }
 
@@ -30,11 +31,12 @@ Grammar::Node Grammar::alterDatabase() {
     expect(Keyword::Database);
     node.name = expectName();
     expect(Keyword::Set);
-    do
+    do {
         node.settings.push_back(databaseSetting());
-    while (consumeIf(","));
-    if (consumeIf(Keyword::With))
+    } while (consumeIf(","));
+    if (consumeIf(Keyword::With)) {
         termination();
+    }
     return node;
 }
 
@@ -42,21 +44,25 @@ AlterDatabase::Setting Grammar::databaseSetting() {
     const Token& token = now();
     AlterDatabase::Setting setting;
     setting.option = expectName();
-    if (isDatabaseSetting(setting.option, ""))
+    if (isDatabaseSetting(setting.option, "")) {
         return setting;
+    }
     setting.value = at(Keyword::On) || at(Keyword::Off) || at(Keyword::Full) ? valueOf(consume()) : expectName();
-    if (!isDatabaseSetting(setting.option, setting.value))
+    if (!isDatabaseSetting(setting.option, setting.value)) {
         refuse(token);
+    }
     return setting;
 }
 
-/// What becomes of the sessions that are in the way; none ever is.
+/// How sessions in the way would be ended. None ever is in the way, so this is read and ignored.
 void Grammar::termination() {
-    if (consumeIfWord("NO_WAIT"))
+    if (consumeIfWord("NO_WAIT")) {
         return;
+    }
     expect(Keyword::Rollback);
-    if (consumeIfWord("IMMEDIATE"))
+    if (consumeIfWord("IMMEDIATE")) {
         return;
+    }
     expectWord("AFTER");
     expectInteger();
     consumeIfWord("SECONDS");
@@ -64,13 +70,13 @@ void Grammar::termination() {
 
 std::vector<DatabaseFile> Grammar::databaseFiles(bool log) {
     std::vector<DatabaseFile> files;
-    do
+    do {
         files.push_back(databaseFile(log));
-    while (consumeIf(","));
+    } while (consumeIf(","));
     return files;
 }
 
-/// `(NAME = N'…', FILENAME = '…', SIZE = 2, FILEGROWTH = 10%)`; sizes are read and left to the storage.
+/// `(NAME = N'…', FILENAME = '…', SIZE = 2, FILEGROWTH = 10%)`; sizes are read and ignored.
 DatabaseFile Grammar::databaseFile(bool log) {
     constexpr std::array<std::string_view, 3> kSizes = {"SIZE", "MAXSIZE", "FILEGROWTH"};
     DatabaseFile file;
@@ -96,14 +102,17 @@ DatabaseFile Grammar::databaseFile(bool log) {
 
 void Grammar::fileSize() {
     constexpr std::array<std::string_view, 4> kUnits = {"KB", "MB", "GB", "TB"};
-    if (consumeIfWord("UNLIMITED"))
+    if (consumeIfWord("UNLIMITED")) {
         return;
-    if (!now().isNumber())
+    }
+    if (!now().isNumber()) {
         refuse();
+    }
     consume();
     if (!consumeIf("%") && now().kind == Token::Kind::Identifier &&
-        std::none_of(kUnits.begin(), kUnits.end(), [this](auto unit) { return consumeIfWord(unit); }))
+        std::none_of(kUnits.begin(), kUnits.end(), [this](auto unit) { return consumeIfWord(unit); })) {
         refuse();
+    }
 }
 
 } // namespace engine

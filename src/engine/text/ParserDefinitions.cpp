@@ -1,3 +1,4 @@
+#include "engine/errors/TextErrors.h"
 #include "engine/text/ParserGrammar.h"
 
 #include <algorithm>
@@ -18,12 +19,15 @@ void refuseNull(std::vector<ColumnDefinition>& columns, const std::vector<KeyDef
     };
     for (ColumnDefinition& column : columns) {
         const bool primary = isPrimary(column);
-        if (column.identity && column.nullable.value_or(false))
+        if (column.identity && column.nullable.value_or(false)) {
             throw errors::nullableIdentity(column.name, table, column.position);
-        if (primary && column.nullable.value_or(false))
+        }
+        if (primary && column.nullable.value_or(false)) {
             throw errors::nullableKey(table, column.position);
-        if (column.identity || primary)
+        }
+        if (column.identity || primary) {
             column.nullable = false;
+        }
     }
 }
 
@@ -32,10 +36,12 @@ void refuseNull(std::vector<ColumnDefinition>& columns, const std::vector<KeyDef
 Grammar::Node Grammar::create() {
     structural_ = true;
     expect(Keyword::Create);
-    if (at(Keyword::Table))
+    if (at(Keyword::Table)) {
         return createTable();
-    if (at(Keyword::Database))
+    }
+    if (at(Keyword::Database)) {
         return createDatabase();
+    }
     const bool unique = consumeIf(Keyword::Unique);
     clustering();
     return createIndex(unique);
@@ -47,9 +53,9 @@ Grammar::Node Grammar::createTable() {
     expect(Keyword::Table);
     node.table = name();
     expect("(");
-    do
+    do {
         tableElement(elements);
-    while (consumeIf(",") && !at(")"));
+    } while (consumeIf(",") && !at(")"));
     expect(")");
     filegroup();
     node.columns = std::move(elements.columns);
@@ -61,12 +67,14 @@ Grammar::Node Grammar::createTable() {
 void Grammar::tableElement(TableElements& elements) {
     std::string constraint;
     const bool named = consumeIf(Keyword::Constraint);
-    if (named)
+    if (named) {
         constraint = expectName();
-    if (named || atKey())
+    }
+    if (named || atKey()) {
         elements.keys.push_back(tableKey(std::move(constraint)));
-    else
+    } else {
         column(elements);
+    }
 }
 
 KeyDefinition Grammar::tableKey(std::string name) {
@@ -76,8 +84,9 @@ KeyDefinition Grammar::tableKey(std::string name) {
     expect("(");
     do {
         key.columns.push_back(expectName());
-        if (!consumeIf(Keyword::Asc))
+        if (!consumeIf(Keyword::Asc)) {
             consumeIf(Keyword::Desc);
+        }
     } while (consumeIf(","));
     expect(")");
     filegroup();
@@ -97,14 +106,16 @@ KeyDefinition::Kind Grammar::keyKind() {
 }
 
 void Grammar::clustering() {
-    if (!consumeIf(Keyword::Clustered))
+    if (!consumeIf(Keyword::Clustered)) {
         consumeIf(Keyword::Nonclustered);
+    }
 }
 
-/// Where the server would lay the rows; one file holds all of them here.
+/// Where the server would put the rows. A database is one file here, so this is read and ignored.
 void Grammar::filegroup() {
-    if (consumeIf(Keyword::On))
+    if (consumeIf(Keyword::On)) {
         expectName();
+    }
 }
 
 void Grammar::column(TableElements& elements) {
@@ -126,11 +137,13 @@ bool Grammar::columnOption(TableElements& elements, ColumnDefinition& column) {
         collation();
         return true;
     }
-    if (!consumeIf(Keyword::Constraint))
+    if (!consumeIf(Keyword::Constraint)) {
         return columnConstraint(elements, column, {});
+    }
     std::string name = expectName();
-    if (!columnConstraint(elements, column, std::move(name)))
+    if (!columnConstraint(elements, column, std::move(name))) {
         refuse();
+    }
     return true;
 }
 
@@ -153,8 +166,9 @@ bool Grammar::columnConstraint(TableElements& elements, ColumnDefinition& column
 }
 
 void Grammar::nullability(ColumnDefinition& column, bool nullable) {
-    if (!at(Keyword::Null) || column.nullable.value_or(nullable) != nullable)
+    if (!at(Keyword::Null) || column.nullable.value_or(nullable) != nullable) {
         refuse();
+    }
     consume();
     column.nullable = nullable;
 }
@@ -162,8 +176,9 @@ void Grammar::nullability(ColumnDefinition& column, bool nullable) {
 void Grammar::identity(ColumnDefinition& column) {
     expect(Keyword::Identity);
     column.identity = true;
-    if (!consumeIf("("))
+    if (!consumeIf("(")) {
         return;
+    }
     column.identitySeed = expectInteger();
     expect(",");
     column.identityIncrement = expectInteger();
@@ -178,12 +193,13 @@ void Grammar::defaultOf(ColumnDefinition& column, std::string name) {
     column.defaultName = std::move(name);
 }
 
-/// One collation rules all texts; a script may say so and may not ask for another.
+/// All texts have one collation: a script may name it, any other is refused.
 void Grammar::collation() {
     const Token& token = now();
     const std::string name = expectName();
-    if (!sameWord(name, "Latin1_General_CI_AS") && !sameWord(name, "database_default"))
+    if (!sameWord(name, "Latin1_General_CI_AS") && !sameWord(name, "database_default")) {
         throw errors::invalidCollation(name, token.position);
+    }
 }
 
 Grammar::Node Grammar::createIndex(bool unique) {
@@ -194,9 +210,9 @@ Grammar::Node Grammar::createIndex(bool unique) {
     expect(Keyword::On);
     node.table = name();
     expect("(");
-    do
+    do {
         node.columns.push_back(indexColumn());
-    while (consumeIf(","));
+    } while (consumeIf(","));
     expect(")");
     filegroup();
     return node;
@@ -207,8 +223,9 @@ OrderItem Grammar::indexColumn() {
     const int position = now().position;
     item.expression = makeExpression(position, ColumnReference{Name{{expectName()}, position}});
     item.descending = consumeIf(Keyword::Desc);
-    if (!item.descending)
+    if (!item.descending) {
         consumeIf(Keyword::Asc);
+    }
     return item;
 }
 
@@ -217,52 +234,22 @@ Grammar::Node Grammar::alter() {
     TableElements elements;
     structural_ = true;
     expect(Keyword::Alter);
-    if (at(Keyword::Database))
+    if (at(Keyword::Database)) {
         return alterDatabase();
+    }
     expect(Keyword::Table);
     node.table = name();
-    if (consumeIf(Keyword::With) && !consumeIf(Keyword::Check))
+    if (consumeIf(Keyword::With) && !consumeIf(Keyword::Check)) {
         expect(Keyword::Nocheck);
+    }
     expect(Keyword::Add);
-    do
+    do {
         tableElement(elements);
-    while (consumeIf(","));
+    } while (consumeIf(","));
     node.added = std::move(elements.columns);
     node.keys = std::move(elements.keys);
     refuseNull(node.added, node.keys, node.table.last());
     return node;
-}
-
-Grammar::Node Grammar::drop() {
-    Drop node;
-    expect(Keyword::Drop);
-    if (consumeIf(Keyword::Database)) {
-        node.kind = Drop::Kind::Database;
-    } else if (consumeIf(Keyword::Index)) {
-        node.kind = Drop::Kind::Index;
-    } else {
-        expect(Keyword::Table);
-        node.kind = Drop::Kind::Table;
-    }
-    node.ifExists = consumeIf(Keyword::If);
-    if (node.ifExists)
-        expect(Keyword::Exists);
-    do {
-        Name dropped = name();
-        if (node.kind == Drop::Kind::Index && consumeIf(Keyword::On)) {
-            Name table = name();
-            table.pieces.push_back(dropped.last());
-            dropped = std::move(table);
-        }
-        node.names.push_back(std::move(dropped));
-    } while (consumeIf(","));
-    return node;
-}
-
-Grammar::Node Grammar::truncate() {
-    expect(Keyword::Truncate);
-    expect(Keyword::Table);
-    return Truncate{name()};
 }
 
 } // namespace engine

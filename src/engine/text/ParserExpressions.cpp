@@ -1,3 +1,4 @@
+#include "engine/errors/TextErrors.h"
 #include "engine/text/ParserGrammar.h"
 
 #include <array>
@@ -35,14 +36,19 @@ constexpr OperatorRow kConjunction = {"", Op::And, kAnd};
 constexpr OperatorRow kDisjunction = {"", Op::Or, kOr};
 
 const OperatorRow* operatorOf(const Token& token) {
-    if (token.is(Keyword::And))
+    if (token.is(Keyword::And)) {
         return &kConjunction;
-    if (token.is(Keyword::Or))
+    }
+    if (token.is(Keyword::Or)) {
         return &kDisjunction;
-    if (token.kind == Token::Kind::Symbol)
-        for (const OperatorRow& row : kOperators)
-            if (row.symbol == token.text)
+    }
+    if (token.kind == Token::Kind::Symbol) {
+        for (const OperatorRow& row : kOperators) {
+            if (row.symbol == token.text) {
                 return &row;
+            }
+        }
+    }
     return nullptr;
 }
 
@@ -52,10 +58,12 @@ bool startsPredicate(const Token& token) {
 
 bool isCondition(const Expression& expression) {
     const auto& node = expression.node;
-    if (const auto* unary = std::get_if<Unary>(&node))
+    if (const auto* unary = std::get_if<Unary>(&node)) {
         return unary->op != Unary::Operator::Minus && unary->op != Unary::Operator::Plus;
-    if (const auto* binary = std::get_if<Binary>(&node))
+    }
+    if (const auto* binary = std::get_if<Binary>(&node)) {
         return binary->op >= Op::Equal;
+    }
     return std::holds_alternative<Like>(node) || std::holds_alternative<Between>(node) ||
            std::holds_alternative<In>(node) || std::holds_alternative<Exists>(node);
 }
@@ -65,8 +73,9 @@ bool isCondition(const Expression& expression) {
 ExpressionPtr Grammar::expressionAlone() {
     structural_ = true; // it will stand in statements whose literals are not its own
     auto expression = value();
-    if (!atEnd())
+    if (!atEnd()) {
         refuse();
+    }
     return expression;
 }
 
@@ -82,7 +91,7 @@ ExpressionPtr Grammar::condition() {
     return expression;
 }
 
-/// Operators of at least one precedence, by climbing: a chain is a loop, only brackets recurse.
+/// Operators of at least that precedence, by precedence climbing: a chain of them is a loop, only brackets recurse.
 ExpressionPtr Grammar::climb(int least) {
     const Measure measure(*this);
     auto left = operand(least);
@@ -102,8 +111,9 @@ ExpressionPtr Grammar::climb(int least) {
 }
 
 ExpressionPtr Grammar::operand(int least) {
-    if (!at(Keyword::Not) || least > kNot)
+    if (!at(Keyword::Not) || least > kNot) {
         return primary();
+    }
     const Level level(*this);
     const int position = consume().position;
     auto operand = at(Keyword::Not) ? this->operand(kNot) : climb(kComparison);
@@ -113,23 +123,27 @@ ExpressionPtr Grammar::operand(int least) {
 
 ExpressionPtr Grammar::binary(ExpressionPtr left, Binary::Operator op, int precedence) {
     const bool joinsConditions = precedence <= kAnd;
-    if (joinsConditions)
+    if (joinsConditions) {
         requireCondition(*left);
+    }
     const int position = consume().position;
     auto right = climb(precedence + 1);
-    if (joinsConditions)
+    if (joinsConditions) {
         requireCondition(*right);
-    else
+    } else {
         requireValue(*right);
+    }
     return makeExpression(position, Binary{op, std::move(left), std::move(right)});
 }
 
 ExpressionPtr Grammar::predicate(ExpressionPtr left) {
-    if (at(Keyword::Is))
+    if (at(Keyword::Is)) {
         return isNull(std::move(left));
+    }
     const bool negated = consumeIf(Keyword::Not);
-    if (at(Keyword::Like))
+    if (at(Keyword::Like)) {
         return like(std::move(left), negated);
+    }
     return at(Keyword::Between) ? between(std::move(left), negated) : in(std::move(left), negated);
 }
 
@@ -170,13 +184,15 @@ ExpressionPtr Grammar::in(ExpressionPtr left, bool negated) {
 }
 
 void Grammar::requireCondition(const Expression& expression) const {
-    if (!isCondition(expression))
+    if (!isCondition(expression)) {
         throw errors::conditionExpected(valueOf(nearest()), nearest().position);
+    }
 }
 
 void Grammar::requireValue(const Expression& expression) const {
-    if (isCondition(expression))
+    if (isCondition(expression)) {
         refuse();
+    }
 }
 
 } // namespace engine

@@ -5,8 +5,8 @@
 
 namespace engine {
 
-/// The grammar of the dialect, one function a production. Every function starts at the first token of what it is
-/// named after and leaves behind its last one; what doesn't fit is an Error.
+/// The grammar of the dialect, one function a production. A function starts at the first token of what it is named
+/// after and ends behind the last one; it throws an Error at a token that doesn't fit.
 class Grammar : private TokenStream {
 public:
     explicit Grammar(std::string_view batch) : TokenStream(batch) {}

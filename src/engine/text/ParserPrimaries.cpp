@@ -1,3 +1,4 @@
+#include "engine/errors/TextErrors.h"
 #include "engine/text/ParserGrammar.h"
 #include "engine/text/Shape.h"
 
@@ -21,20 +22,27 @@ constexpr std::size_t kMostPieces = 4;
 
 ExpressionPtr Grammar::primary() {
     const Token& token = now();
-    if (token.isLiteral())
+    if (token.isLiteral()) {
         return literal();
-    if (token.kind == Token::Kind::Keyword)
+    }
+    if (token.kind == Token::Kind::Keyword) {
         return keywordExpression();
-    if (token.isName())
+    }
+    if (token.isName()) {
         return wordExpression();
-    if (token.kind == Token::Kind::ServerVariable)
+    }
+    if (token.kind == Token::Kind::ServerVariable) {
         return makeExpression(token.position, ServerVariable{valueOf(consume()).substr(2)});
-    if (token.kind == Token::Kind::Variable)
+    }
+    if (token.kind == Token::Kind::Variable) {
         throw errors::undeclaredVariable(valueOf(token), token.position);
-    if (at("("))
+    }
+    if (at("(")) {
         return brackets();
-    if (at("-") || at("+"))
+    }
+    if (at("-") || at("+")) {
         return sign();
+    }
     refuse();
 }
 
@@ -54,8 +62,9 @@ ExpressionPtr Grammar::sign() {
 }
 
 ExpressionPtr Grammar::brackets() {
-    if (ahead(1).is(Keyword::Select))
+    if (ahead(1).is(Keyword::Select)) {
         return makeExpression(now().position, ScalarSelect{selectInBrackets()});
+    }
     const Level level(*this);
     expect("(");
     constexpr int kAnything = 0;
@@ -73,25 +82,32 @@ ExpressionPtr Grammar::keywordExpression() {
         consume();
         return makeExpression(token.position, Literal{});
     }
-    if (token.is(Keyword::Case))
+    if (token.is(Keyword::Case)) {
         return caseExpression();
-    if (token.is(Keyword::Exists))
+    }
+    if (token.is(Keyword::Exists)) {
         return exists();
-    if (token.is(Keyword::Convert))
+    }
+    if (token.is(Keyword::Convert)) {
         return convert();
-    if (isOneOf(kFunctions) && ahead(1).is("("))
+    }
+    if (isOneOf(kFunctions) && ahead(1).is("(")) {
         return call(valueOf(consume()));
-    if (isOneOf(kBareFunctions))
+    }
+    if (isOneOf(kBareFunctions)) {
         return makeExpression(token.position, Call{valueOf(consume()), {}, false, false});
+    }
     refuse();
 }
 
 ExpressionPtr Grammar::wordExpression() {
     const int position = now().position;
-    if (atWord("CAST") && ahead(1).is("("))
+    if (atWord("CAST") && ahead(1).is("(")) {
         return cast();
-    if (now().kind == Token::Kind::Identifier && ahead(1).is("("))
+    }
+    if (now().kind == Token::Kind::Identifier && ahead(1).is("(")) {
         return call(valueOf(consume()));
+    }
     return makeExpression(position, ColumnReference{name()});
 }
 
@@ -104,8 +120,9 @@ ExpressionPtr Grammar::caseExpression() {
     const Level level(*this);
     Case node;
     const int position = consume().position;
-    if (!at(Keyword::When))
+    if (!at(Keyword::When)) {
         node.operand = value();
+    }
     do {
         expect(Keyword::When);
         Case::Branch branch;
@@ -114,8 +131,9 @@ ExpressionPtr Grammar::caseExpression() {
         branch.then = value();
         node.branches.push_back(std::move(branch));
     } while (at(Keyword::When));
-    if (consumeIf(Keyword::Else))
+    if (consumeIf(Keyword::Else)) {
         node.otherwise = value();
+    }
     expect(Keyword::End);
     return makeExpression(position, std::move(node));
 }
@@ -128,8 +146,9 @@ ExpressionPtr Grammar::convert() {
     node.type = conversionType();
     expect(",");
     node.operand = value();
-    if (consumeIf(","))
+    if (consumeIf(",")) {
         node.style = static_cast<int>(expectInteger());
+    }
     expect(")");
     return makeExpression(position, std::move(node));
 }
@@ -157,8 +176,9 @@ ExpressionPtr Grammar::call(std::string function) {
     node.star = counts && consumeIf("*");
     if (!node.star && !at(")")) {
         node.distinct = consumeIf(Keyword::Distinct);
-        if (!node.distinct)
+        if (!node.distinct) {
             consumeIf(Keyword::All);
+        }
         node.arguments = values();
     }
     expect(")");
@@ -167,9 +187,9 @@ ExpressionPtr Grammar::call(std::string function) {
 
 std::vector<ExpressionPtr> Grammar::values() {
     std::vector<ExpressionPtr> values;
-    do
+    do {
         values.push_back(value());
-    while (consumeIf(","));
+    } while (consumeIf(","));
     return values;
 }
 
@@ -177,10 +197,12 @@ Name Grammar::name() {
     Name name;
     name.position = now().position;
     name.pieces.push_back(expectName());
-    while (consumeIf("."))
+    while (consumeIf(".")) {
         name.pieces.push_back(at(".") ? std::string() : expectName());
-    if (name.pieces.size() > kMostPieces)
+    }
+    if (name.pieces.size() > kMostPieces) {
         throw errors::tooManyPrefixes(textBetween(name.position, last().end()), name.position);
+    }
     return name;
 }
 

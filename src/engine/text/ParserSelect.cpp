@@ -14,9 +14,9 @@ SelectPtr Grammar::select() {
     }
     if (consumeIf(Keyword::Order)) {
         expect(Keyword::By);
-        do
+        do {
             select->orderBy.push_back(orderItem());
-        while (consumeIf(","));
+        } while (consumeIf(","));
     }
     return select;
 }
@@ -32,60 +32,71 @@ SelectCore Grammar::selectCore() {
     SelectCore core;
     expect(Keyword::Select);
     core.distinct = consumeIf(Keyword::Distinct);
-    if (!core.distinct)
+    if (!core.distinct) {
         consumeIf(Keyword::All);
+    }
     core.top = top();
-    do
+    do {
         core.items.push_back(selectItem());
-    while (consumeIf(","));
-    if (consumeIf(Keyword::From))
+    } while (consumeIf(","));
+    if (consumeIf(Keyword::From)) {
         core.from = tableSources();
-    if (consumeIf(Keyword::Where))
+    }
+    if (consumeIf(Keyword::Where)) {
         core.where = condition();
+    }
     if (consumeIf(Keyword::Group)) {
         expect(Keyword::By);
         core.groupBy = values();
     }
-    if (consumeIf(Keyword::Having))
+    if (consumeIf(Keyword::Having)) {
         core.having = condition();
+    }
     return core;
 }
 
 std::optional<long long> Grammar::top() {
-    if (!consumeIf(Keyword::Top))
+    if (!consumeIf(Keyword::Top)) {
         return std::nullopt;
+    }
     const bool bracketed = consumeIf("(");
-    if (!now().isNumber())
+    if (!now().isNumber()) {
         refuse();
+    }
     const long long count = expectInteger();
-    if (bracketed)
+    if (bracketed) {
         expect(")");
+    }
     return count;
 }
 
 SelectItem Grammar::selectItem() {
     SelectItem item;
     item.starOf = star();
-    if (item.starOf)
+    if (item.starOf) {
         return item;
+    }
     const bool aliasFirst = (now().isName() || now().isText()) && ahead(1).is("=");
     if (aliasFirst) {
         item.alias = valueOf(consume());
         consume();
     }
     item.expression = value();
-    if (!aliasFirst)
+    if (!aliasFirst) {
         item.alias = itemAlias();
+    }
     return item;
 }
 
 /// `*`, `T.*`
 std::optional<Name> Grammar::star() {
     std::size_t pieces = 0;
-    while (ahead(2 * pieces).isName() && ahead(2 * pieces + 1).is("."))
+    while (ahead(2 * pieces).isName() && ahead(2 * pieces + 1).is(".")) {
         ++pieces;
-    if (!ahead(2 * pieces).is("*"))
+    }
+    if (!ahead(2 * pieces).is("*")) {
         return std::nullopt;
+    }
     Name of;
     of.position = now().position;
     for (; pieces > 0; --pieces) {
@@ -98,10 +109,12 @@ std::optional<Name> Grammar::star() {
 
 std::string Grammar::itemAlias() {
     const bool announced = consumeIf(Keyword::As);
-    if (now().isName() || now().isText())
+    if (now().isName() || now().isText()) {
         return valueOf(consume());
-    if (announced)
+    }
+    if (announced) {
         refuse();
+    }
     return {};
 }
 
@@ -112,16 +125,17 @@ OrderItem Grammar::orderItem() {
     item.expression = value();
     structural_ = outer;
     item.descending = consumeIf(Keyword::Desc);
-    if (!item.descending)
+    if (!item.descending) {
         consumeIf(Keyword::Asc);
+    }
     return item;
 }
 
 std::vector<TableSourcePtr> Grammar::tableSources() {
     std::vector<TableSourcePtr> sources;
-    do
+    do {
         sources.push_back(tableSource());
-    while (consumeIf(","));
+    } while (consumeIf(","));
     return sources;
 }
 
@@ -148,8 +162,9 @@ TableSourcePtr Grammar::primarySource() {
         const Level level(*this);
         consume();
         source = tableSource();
-        if (!std::holds_alternative<Join>(source->node))
-            refuse(); // brackets stand around joins alone
+        if (!std::holds_alternative<Join>(source->node)) {
+            refuse(); // only a join may stand in brackets
+        }
         expect(")");
     } else {
         NamedTable table;
@@ -164,9 +179,11 @@ TableSourcePtr Grammar::primarySource() {
 bool Grammar::atJoin() const {
     constexpr std::array kStarts = {Keyword::Join,  Keyword::Inner, Keyword::Left,
                                     Keyword::Right, Keyword::Full,  Keyword::Cross};
-    for (const Keyword start : kStarts)
-        if (at(start))
+    for (const Keyword start : kStarts) {
+        if (at(start)) {
             return true;
+        }
+    }
     return false;
 }
 
@@ -181,13 +198,15 @@ Join::Kind Grammar::joinKind() {
                                             {Keyword::Right, Join::Kind::Right, true},
                                             {Keyword::Full, Join::Kind::Full, true},
                                             {Keyword::Cross, Join::Kind::Cross, false}}};
-    for (const Row& row : kKinds)
+    for (const Row& row : kKinds) {
         if (consumeIf(row.word)) {
-            if (row.outer)
+            if (row.outer) {
                 consumeIf(Keyword::Outer);
+            }
             expect(Keyword::Join);
             return row.kind;
         }
+    }
     expect(Keyword::Join);
     return Join::Kind::Inner;
 }
@@ -211,21 +230,24 @@ TableSourcePtr Grammar::join(TableSourcePtr left) {
 }
 
 std::string Grammar::tableAlias() {
-    if (consumeIf(Keyword::As) || now().isName())
+    if (consumeIf(Keyword::As) || now().isName()) {
         return expectName();
+    }
     return {};
 }
 
 std::vector<std::string> Grammar::hints() {
     std::vector<std::string> hints;
     const bool announced = at(Keyword::With) && ahead(1).is("(");
-    if (announced)
+    if (announced) {
         consume();
-    if (!consumeIf("("))
+    }
+    if (!consumeIf("(")) {
         return hints;
-    do
+    }
+    do {
         hints.push_back(at(Keyword::Holdlock) ? valueOf(consume()) : expectName());
-    while (consumeIf(","));
+    } while (consumeIf(","));
     expect(")");
     return hints;
 }

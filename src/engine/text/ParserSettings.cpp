@@ -1,3 +1,4 @@
+#include "engine/errors/TextErrors.h"
 #include "engine/text/ParserGrammar.h"
 
 #include <algorithm>
@@ -7,16 +8,19 @@ namespace engine {
 
 Grammar::Node Grammar::setOption() {
     expect(Keyword::Set);
-    if (now().kind == Token::Kind::Variable)
+    if (now().kind == Token::Kind::Variable) {
         throw errors::undeclaredVariable(valueOf(now()), now().position);
-    if (at(Keyword::IdentityInsert))
+    }
+    if (at(Keyword::IdentityInsert)) {
         return identityInsert();
-    if (at(Keyword::Transaction) || at(Keyword::Tran))
+    }
+    if (at(Keyword::Transaction) || at(Keyword::Tran)) {
         return isolationLevel();
+    }
     SetOption node;
-    do
+    do {
         node.options.push_back(optionName());
-    while (consumeIf(","));
+    } while (consumeIf(","));
     node.value = optionValue();
     return node;
 }
@@ -25,8 +29,9 @@ SetOption Grammar::identityInsert() {
     SetOption node;
     node.options.push_back(valueOf(consume()));
     node.table = name();
-    if (!at(Keyword::On) && !at(Keyword::Off))
+    if (!at(Keyword::On) && !at(Keyword::Off)) {
         refuse();
+    }
     node.value = valueOf(consume());
     return node;
 }
@@ -41,8 +46,9 @@ SetOption Grammar::isolationLevel() {
     expectWord("ISOLATION");
     expectWord("LEVEL");
     for (const auto& [first, second] : kLevels) {
-        if (!sameWord(now().text, first) || !(second.empty() || sameWord(ahead(1).text, second)))
+        if (!sameWord(now().text, first) || !(second.empty() || sameWord(ahead(1).text, second))) {
             continue;
+        }
         consume();
         std::string level(first);
         if (!second.empty()) {
@@ -57,29 +63,34 @@ SetOption Grammar::isolationLevel() {
 std::string Grammar::optionName() {
     constexpr std::array kReserved = {Keyword::Rowcount, Keyword::Statistics, Keyword::Textsize};
     const bool reserved = std::any_of(kReserved.begin(), kReserved.end(), [this](Keyword word) { return at(word); });
-    if (!reserved)
+    if (!reserved) {
         return expectName();
+    }
     std::string name = valueOf(consume());
-    if (sameWord(name, "STATISTICS"))
+    if (sameWord(name, "STATISTICS")) {
         name += " " + expectName();
+    }
     return name;
 }
 
 std::string Grammar::optionValue() {
-    if (at(Keyword::On) || at(Keyword::Off) || now().isName() || now().isText())
+    if (at(Keyword::On) || at(Keyword::Off) || now().isName() || now().isText()) {
         return valueOf(consume());
+    }
     return std::to_string(expectInteger());
 }
 
-/// BEGIN, COMMIT and ROLLBACK of a transaction, whose name is for the reader alone.
+/// BEGIN, COMMIT and ROLLBACK of a transaction, whose name has no effect.
 Grammar::Node Grammar::transaction(Transaction::Kind kind) {
-    if (kind != Transaction::Kind::Begin)
+    if (kind != Transaction::Kind::Begin) {
         consume();
+    }
     const bool named = consumeIf(Keyword::Tran) || consumeIf(Keyword::Transaction);
-    if (named && now().isName())
+    if (named && now().isName()) {
         consume();
-    else if (!named)
+    } else if (!named) {
         consumeIfWord("WORK");
+    }
     return Transaction{kind};
 }
 

@@ -10,10 +10,11 @@ BatchTree Grammar::batch() {
     }
     while (!atEnd()) {
         firstLiteral_ = literalsConsumed();
-        if (tree.statements.empty() && now().isName())
+        if (tree.statements.empty() && now().isName()) {
             tree.statements.push_back(bareCall());
-        else
+        } else {
             tree.statements.push_back(statement());
+        }
         while (consumeIf(";")) {
         }
     }
@@ -41,30 +42,32 @@ StatementPtr Grammar::statement() {
 
 Grammar::Node Grammar::statementNode() {
     struct Row {
-        Keyword first;
+        std::string_view first; ///< a reserved word
         Node (Grammar::*parse)();
     };
-    static constexpr auto kStatements = std::to_array<Row>({{Keyword::Select, &Grammar::selectStatement},
-                                                            {Keyword::Insert, &Grammar::insert},
-                                                            {Keyword::Update, &Grammar::update},
-                                                            {Keyword::Delete, &Grammar::deleteRows},
-                                                            {Keyword::Create, &Grammar::create},
-                                                            {Keyword::Alter, &Grammar::alter},
-                                                            {Keyword::Drop, &Grammar::drop},
-                                                            {Keyword::Truncate, &Grammar::truncate},
-                                                            {Keyword::Use, &Grammar::use},
-                                                            {Keyword::Set, &Grammar::setOption},
-                                                            {Keyword::Exec, &Grammar::execute},
-                                                            {Keyword::Execute, &Grammar::execute},
-                                                            {Keyword::Reconfigure, &Grammar::reconfigure},
-                                                            {Keyword::Begin, &Grammar::begin},
-                                                            {Keyword::Commit, &Grammar::commit},
-                                                            {Keyword::Rollback, &Grammar::rollback},
-                                                            {Keyword::If, &Grammar::ifStatement},
-                                                            {Keyword::Print, &Grammar::print}});
-    for (const Row& row : kStatements)
-        if (at(row.first))
+    static constexpr auto kStatements = std::to_array<Row>({{"SELECT", &Grammar::selectStatement},
+                                                            {"INSERT", &Grammar::insert},
+                                                            {"UPDATE", &Grammar::update},
+                                                            {"DELETE", &Grammar::deleteRows},
+                                                            {"CREATE", &Grammar::create},
+                                                            {"ALTER", &Grammar::alter},
+                                                            {"DROP", &Grammar::drop},
+                                                            {"TRUNCATE", &Grammar::truncate},
+                                                            {"USE", &Grammar::use},
+                                                            {"SET", &Grammar::setOption},
+                                                            {"EXEC", &Grammar::execute},
+                                                            {"EXECUTE", &Grammar::execute},
+                                                            {"RECONFIGURE", &Grammar::reconfigure},
+                                                            {"BEGIN", &Grammar::begin},
+                                                            {"COMMIT", &Grammar::commit},
+                                                            {"ROLLBACK", &Grammar::rollback},
+                                                            {"IF", &Grammar::ifStatement},
+                                                            {"PRINT", &Grammar::print}});
+    for (const Row& row : kStatements) {
+        if (now().keyword != Keyword::None && sameWord(now().text, row.first)) {
             return (this->*row.parse)();
+        }
+    }
     refuse();
 }
 
@@ -76,11 +79,12 @@ Grammar::Node Grammar::execute() {
 Execute Grammar::procedureCall() {
     Execute node;
     node.procedure = name();
-    if (!atArgument())
+    if (!atArgument()) {
         return node;
-    do
+    }
+    do {
         node.arguments.push_back(argument());
-    while (consumeIf(","));
+    } while (consumeIf(","));
     return node;
 }
 
@@ -103,11 +107,13 @@ Execute::Argument Grammar::argument() {
 /// Constants alone; a bare word is a text.
 ExpressionPtr Grammar::argumentValue() {
     const Token& token = now();
-    if (token.isName())
+    if (token.isName()) {
         return makeExpression(token.position, Literal{Literal::Kind::NationalText, expectName(), -1});
+    }
     const bool isSigned = at("-") || at("+");
-    if (!atArgument() || (isSigned && !ahead(1).isNumber()))
+    if (!atArgument() || (isSigned && !ahead(1).isNumber())) {
         refuse();
+    }
     return primary();
 }
 
@@ -115,15 +121,17 @@ Grammar::Node Grammar::reconfigure() {
     expect(Keyword::Reconfigure);
     Reconfigure node;
     node.withOverride = consumeIf(Keyword::With);
-    if (node.withOverride)
+    if (node.withOverride) {
         expectWord("OVERRIDE");
+    }
     return node;
 }
 
 Grammar::Node Grammar::begin() {
     expect(Keyword::Begin);
-    if (at(Keyword::Tran) || at(Keyword::Transaction))
+    if (at(Keyword::Tran) || at(Keyword::Transaction)) {
         return transaction(Transaction::Kind::Begin);
+    }
     Block node;
     do {
         node.statements.push_back(statement());
@@ -138,10 +146,12 @@ Grammar::Node Grammar::ifStatement() {
     expect(Keyword::If);
     node.condition = condition();
     node.then = statement();
-    if (at(";") && ahead(1).is(Keyword::Else))
+    if (at(";") && ahead(1).is(Keyword::Else)) {
         consume();
-    if (consumeIf(Keyword::Else))
+    }
+    if (consumeIf(Keyword::Else)) {
         node.otherwise = statement();
+    }
     return node;
 }
 

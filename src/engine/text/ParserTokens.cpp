@@ -1,5 +1,6 @@
 #include "engine/text/ParserTokens.h"
 
+#include "engine/errors/TextErrors.h"
 #include "engine/text/Parser.h"
 
 #include <algorithm>
@@ -18,8 +19,9 @@ bool TokenStream::atWord(std::string_view word) const {
 }
 
 const Token& TokenStream::consume() {
-    if (atEnd())
+    if (atEnd()) {
         refuse();
+    }
     literals_ += now().isLiteral() ? 1 : 0;
     return tokens_[at_++];
 }
@@ -43,54 +45,63 @@ bool TokenStream::consumeIfWord(std::string_view word) {
 }
 
 void TokenStream::expect(Keyword keyword) {
-    if (!consumeIf(keyword))
+    if (!consumeIf(keyword)) {
         refuse();
+    }
 }
 
 void TokenStream::expect(std::string_view symbol) {
-    if (!consumeIf(symbol))
+    if (!consumeIf(symbol)) {
         refuse();
+    }
 }
 
 void TokenStream::expectWord(std::string_view word) {
-    if (!consumeIfWord(word))
+    if (!consumeIfWord(word)) {
         refuse();
+    }
 }
 
 std::string TokenStream::expectName() {
-    if (!now().isName())
+    if (!now().isName()) {
         refuse();
+    }
     return valueOf(consume());
 }
 
 std::string TokenStream::expectText() {
-    if (!now().isText())
+    if (!now().isText()) {
         refuse();
+    }
     return valueOf(consume());
 }
 
 long long TokenStream::expectInteger() {
     const bool negative = consumeIf("-");
-    if (!negative)
+    if (!negative) {
         consumeIf("+");
+    }
     long long number = 0;
     const std::string_view digits = now().text;
     const auto [end, failure] = std::from_chars(digits.data(), digits.data() + digits.size(), number);
-    if (!now().isNumber() || failure != std::errc() || end != digits.data() + digits.size())
+    if (!now().isNumber() || failure != std::errc() || end != digits.data() + digits.size()) {
         refuse();
+    }
     consume();
     return negative ? -number : number;
 }
 
 void TokenStream::refuse() const {
-    if (atEnd())
+    if (atEnd()) {
         throw errors::syntaxNear(valueOf(last()), last().position);
+    }
     refuse(now());
 }
 
 void TokenStream::refuse(const Token& token) {
-    if (token.kind == Token::Kind::Keyword)
+    if (token.kind == Token::Kind::Keyword) {
         throw errors::syntaxNearKeyword(std::string(token.text), token.position);
+    }
     throw errors::syntaxNear(valueOf(token), token.position);
 }
 
@@ -99,13 +110,15 @@ std::string TokenStream::textBetween(int begin, int end) const {
 }
 
 void TokenStream::grow() {
-    if (++height_ > kTallestTree)
+    if (++height_ > kTallestTree) {
         throw errors::nestedTooDeep();
+    }
 }
 
 TokenStream::Level::Level(TokenStream& stream) : stream_(stream), outer_(std::exchange(stream.height_, 0)) {
-    if (++stream_.depth_ > kDeepestNesting)
+    if (++stream_.depth_ > kDeepestNesting) {
         throw errors::nestedTooDeep();
+    }
 }
 
 TokenStream::Level::~Level() {

@@ -1,6 +1,5 @@
 #pragma once
 
-#include "engine/errors/Error.h"
 #include "engine/text/Lexer.h"
 
 #include <string>
@@ -10,7 +9,7 @@
 
 namespace engine {
 
-/// A batch as a row of tokens with a present one, and the verbs by which a grammar walks it.
+/// The tokens of a batch and the one that the parser has reached, with the steps that a grammar is written in.
 class TokenStream {
 protected:
     explicit TokenStream(std::string_view batch);
@@ -46,10 +45,10 @@ protected:
     int literalsConsumed() const { return literals_; }
     std::string textBetween(int begin, int end) const;
 
-    /// One more operator over all that the present expression holds already; 191 where the tree becomes too tall.
+    /// Counts one more operator above what the present expression holds; 191 where the tree becomes too tall.
     void grow();
 
-    /// A nesting of selects, brackets or statements while it lives; 191 where it is too deep.
+    /// One level of nested selects, brackets or statements, as long as it exists; 191 where there are too many.
     class Level {
     public:
         explicit Level(TokenStream& stream);
@@ -62,7 +61,7 @@ protected:
         int outer_;
     };
 
-    /// Measures an expression apart from those parsed before it.
+    /// Measures the height of an expression apart from those parsed before it.
     class Measure {
     public:
         explicit Measure(TokenStream& stream) : stream_(stream), outer_(std::exchange(stream.height_, 0)) {}

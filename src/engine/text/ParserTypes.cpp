@@ -1,3 +1,4 @@
+#include "engine/errors/TextErrors.h"
 #include "engine/text/ParserGrammar.h"
 
 #include <array>
@@ -21,8 +22,8 @@ struct TypeRow {
 
 constexpr auto kTypes = std::to_array<TypeRow>({{"bigint", {Kind::BigInt}},
                                                 {"bit", {Kind::Bit}},
-                                                {"char", {Kind::Char}, Size::Length, 8000},
-                                                {"character", {Kind::Char}, Size::Length, 8000},
+                                                {"char", {Kind::Char}, Size::Length, kLongestText},
+                                                {"character", {Kind::Char}, Size::Length, kLongestText},
                                                 {"date", {Kind::DateTime}},
                                                 {"datetime", {Kind::DateTime}},
                                                 {"dec", {Kind::Decimal, 0, 18, 0}, Size::Precision},
@@ -32,31 +33,31 @@ constexpr auto kTypes = std::to_array<TypeRow>({{"bigint", {Kind::BigInt}},
                                                 {"int", {Kind::Int}},
                                                 {"integer", {Kind::Int}},
                                                 {"money", {Kind::Decimal, 0, 19, 4}},
-                                                {"nchar", {Kind::NChar}, Size::Length, 4000},
+                                                {"nchar", {Kind::NChar}, Size::Length, kLongestNationalText},
                                                 {"ntext", {Kind::NVarChar, -1}},
                                                 {"numeric", {Kind::Decimal, 0, 18, 0}, Size::Precision},
-                                                {"nvarchar", {Kind::NVarChar}, Size::LengthOrMax, 4000},
+                                                {"nvarchar", {Kind::NVarChar}, Size::LengthOrMax, kLongestNationalText},
                                                 {"real", {Kind::Real}},
                                                 {"smalldatetime", {Kind::DateTime}},
                                                 {"smallint", {Kind::SmallInt}},
                                                 {"smallmoney", {Kind::Decimal, 0, 10, 4}},
-                                                {"sysname", {Kind::NVarChar, 128}},
+                                                {"sysname", {Kind::NVarChar, kSystemNameLength}},
                                                 {"text", {Kind::NVarChar, -1}},
                                                 {"tinyint", {Kind::TinyInt}},
-                                                {"varbinary", {Kind::VarBinary}, Size::LengthOrMax, 8000},
-                                                {"varchar", {Kind::VarChar}, Size::LengthOrMax, 8000}});
+                                                {"varbinary", {Kind::VarBinary}, Size::LengthOrMax, kLongestText},
+                                                {"varchar", {Kind::VarChar}, Size::LengthOrMax, kLongestText}});
 
-constexpr int kLargestSize = 8000;
-constexpr int kLargestPrecision = 38;
 constexpr int kRealMantissa = 24;
 constexpr int kFloatMantissa = 53;
 constexpr int kColumnLength = 1;
 constexpr int kConversionLength = 30;
 
 const TypeRow* typeNamed(std::string_view name) {
-    for (const TypeRow& row : kTypes)
-        if (sameWord(row.name, name))
+    for (const TypeRow& row : kTypes) {
+        if (sameWord(row.name, name)) {
             return &row;
+        }
+    }
     return nullptr;
 }
 
@@ -74,10 +75,12 @@ DataType Grammar::type(const TypeUse& use) {
     const Token& token = now();
     const std::string name = expectName();
     const TypeRow* row = typeNamed(name);
-    if (row == nullptr && use.ordinal > 0)
+    if (row == nullptr && use.ordinal > 0) {
         throw errors::typeMissing(use.ordinal, name, token.position);
-    if (row == nullptr)
+    }
+    if (row == nullptr) {
         throw errors::undefinedType(name, token.position);
+    }
     DataType type = row->type;
     const bool bracketed = row->size != Size::Nothing && consumeIf("(");
     switch (row->size) {
@@ -86,59 +89,71 @@ DataType Grammar::type(const TypeUse& use) {
     case Size::Length:
     case Size::LengthOrMax:
         type.length = use.defaultLength;
-        if (bracketed && row->size == Size::LengthOrMax && consumeIfWord("max"))
+        if (bracketed && row->size == Size::LengthOrMax && consumeIfWord("max")) {
             type.length = -1;
-        else if (bracketed)
+        } else if (bracketed) {
             type.length = length({use.kind, use.name.empty() ? name : use.name, use.ordinal, 0}, row->largest);
+        }
         break;
     case Size::Precision:
-        if (bracketed)
+        if (bracketed) {
             precision(type, use);
+        }
         break;
     case Size::Mantissa:
-        if (bracketed && size(kFloatMantissa) <= kRealMantissa)
+        if (bracketed && size(kFloatMantissa) <= kRealMantissa) {
             type.kind = Kind::Real;
+        }
         break;
     }
-    if (bracketed)
+    if (bracketed) {
         expect(")");
+    }
     return type;
 }
 
 /// A positive number of at most `largest`.
 int Grammar::size(int largest) {
     const Token& token = now();
-    if (!token.isNumber())
+    if (!token.isNumber()) {
         refuse();
+    }
     const long long number = expectInteger();
-    if (number < 1 || number > largest)
+    if (number < 1 || number > largest) {
         throw errors::invalidLength(valueOf(token), token.position);
+    }
     return static_cast<int>(number);
 }
 
 int Grammar::length(const TypeUse& use, int largest) {
     const Token& token = now();
     const int length = size(std::numeric_limits<int>::max());
-    if (length > kLargestSize)
-        throw errors::sizeBeyondAnyType(use.kind, use.name, valueOf(token), token.position);
-    if (length > largest)
-        throw errors::sizeExceeded(use.kind, use.name, valueOf(token), largest, token.position);
+    if (length > kLongestText) {
+        throw errors::sizeBeyondAnyType(valueOf(token), use.kind, use.name, token.position);
+    }
+    if (length > largest) {
+        throw errors::sizeExceeded(valueOf(token), use.kind, use.name, largest, token.position);
+    }
     return length;
 }
 
 void Grammar::precision(DataType& type, const TypeUse& use) {
     const Token& token = now();
     type.precision = size(std::numeric_limits<int>::max());
-    if (type.precision > kLargestPrecision)
+    if (type.precision > kWidestDecimal) {
         throw errors::precisionExceeded(use.ordinal, valueOf(token), token.position);
-    if (!consumeIf(","))
+    }
+    if (!consumeIf(",")) {
         return;
+    }
     const Token& scale = now();
-    if (!scale.isNumber())
+    if (!scale.isNumber()) {
         refuse();
+    }
     const long long digits = expectInteger();
-    if (digits > type.precision)
+    if (digits > type.precision) {
         throw errors::scaleOutOfRange(valueOf(scale), use.name, type.precision, scale.position);
+    }
     type.scale = static_cast<int>(digits);
 }
 

@@ -12,7 +12,7 @@ struct ServerOption {
     bool advanced;
 };
 
-constexpr const char* showAdvancedOptions = "show advanced options";
+constexpr const char* kShowAdvancedOptions = "show advanced options";
 
 /// In the order in which the server lists them.
 std::span<const ServerOption> serverOptions();

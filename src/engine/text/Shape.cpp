@@ -1,7 +1,11 @@
 #include "engine/text/Shape.h"
 
 #include "engine/text/Lexer.h"
+#include "engine/values/Ascii.h"
 #include "engine/values/Scalar.h"
+
+#include <algorithm>
+#include <iterator>
 
 namespace engine {
 
@@ -49,15 +53,19 @@ Shape shapeOf(std::span<const Token> tokens) {
     Shape shape;
     shape.key.reserve(tokens.size() * kUsualLength);
     for (const Token& token : tokens) {
-        if (token.kind == Token::Kind::End)
+        if (token.kind == Token::Kind::End) {
             break;
-        if (!shape.key.empty())
+        }
+        if (!shape.key.empty()) {
             shape.key += ' ';
+        }
         if (token.isLiteral()) {
             shape.literals.push_back({literalKind(token), valueOf(token)});
             shape.key += markerOf(shape.literals.back());
+        } else if (token.keyword != Keyword::None) {
+            std::transform(token.text.begin(), token.text.end(), std::back_inserter(shape.key), capital);
         } else {
-            shape.key += token.keyword == Keyword::None ? token.text : textOf(token.keyword);
+            shape.key += token.text;
         }
     }
     return shape;

@@ -14,9 +14,9 @@ struct LiteralToken {
     std::string text; ///< digits as written, or the text without its quotes
 };
 
-/// What a statement is but for its literals. Statements with the same key differ in nothing else, and their literals
-/// correspond one to one; `Literal::index` in the tree is the place in `literals`. A literal that no tree node carries
-/// an index for shapes the statement: two statements are interchangeable only where those are equal too.
+/// A statement without its literals, and the literals. Statements with the same key differ in literals alone, which
+/// correspond one to one; `Literal::index` in the tree is the place in `literals`. A literal without an index in the
+/// tree is part of the plan: statements share a plan only where such literals are equal too.
 struct Shape {
     /// Tokens joined by blanks, keywords in capitals, a literal as ?i ?b ?d ?f ?t ?n: the kind of its type, where ?b is
     /// a whole number that only a bigint holds.

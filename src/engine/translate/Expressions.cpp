@@ -1,3 +1,4 @@
+#include "engine/functions/Operators.h"
 #include "engine/translate/SqlText.h"
 #include "engine/values/Collation.h"
 
@@ -56,8 +57,8 @@ void writeNode(Text& text, const bound::Call& call) {
         writeList(text, call.arguments);
         text += ')';
     };
-    if (call.function == "tsql_avg_int") {
-        // Integers divide to an integer; no row at all divides nothing and stays NULL.
+    if (call.function == operators::kIntegerAverage) {
+        // A quotient of integers is an integer. Without rows the sum is NULL, and so is the average.
         text += '(';
         writeCall("sum");
         text += " / ";
@@ -113,8 +114,9 @@ void writeNode(Text& text, const bound::Subselect& subselect) {
             text += ')';
             return;
         }
-        // The storage would take the first of several rows in silence.
-        text += "(SELECT CASE WHEN count(*) > 1 THEN tsql_too_many_rows() ELSE min(c0) END FROM (SELECT * FROM (";
+        // SQLite would take the first of several rows and raise no error.
+        text += std::string("(SELECT CASE WHEN count(*) > 1 THEN ") + operators::kTooManyRows +
+                "() ELSE min(c0) END FROM (SELECT * FROM (";
         write(text, *subselect.select);
         text += ") LIMIT 2))";
         return;

@@ -43,7 +43,8 @@ void writeNode(Text& text, const bound::Join& join) {
     }
 }
 
-/// The storage takes a SELECT for aggregated by its items alone: where none of them aggregates, the first one seems to.
+/// SQLite aggregates a SELECT where one of its items does. Where only HAVING or ORDER BY does, an aggregate that leaves
+/// its value alone is put around the first item.
 void writeItems(Text& text, const bound::Core& core, bool compares) {
     int place = 0;
     for (const bound::ExpressionPtr& item : core.items) {
@@ -59,7 +60,7 @@ void writeItems(Text& text, const bound::Core& core, bool compares) {
     }
 }
 
-/// `more` goes behind the items.
+/// `more` is written behind the items.
 void writeCore(Text& text, const bound::Core& core, bool compares, const std::string& more = {}) {
     text += core.distinct ? "SELECT DISTINCT " : "SELECT ";
     writeItems(text, core, compares || core.distinct);
@@ -117,7 +118,7 @@ void write(Text& text, const bound::Select& select) {
         if (i > 0) {
             text += select.unionAll[i - 1] ? " UNION ALL " : " UNION ";
         }
-        // TOP belongs to its own part of a UNION, the storage's LIMIT to the whole.
+        // TOP limits its own part of a UNION, SQLite's LIMIT the whole.
         const bool limited = several && core.top.has_value();
         text += limited ? "SELECT * FROM (" : "";
         writeCore(text, core, several);

@@ -1,6 +1,6 @@
 #pragma once
 
-// The storage's text of a bound tree. Nothing is decided here: every node has one way to be written.
+// SQLite's text of a bound tree. There is one way to write each node.
 
 #include "engine/bind/BoundTree.h"
 #include "engine/store/StoredNames.h"
@@ -12,12 +12,12 @@
 
 namespace engine::translate {
 
-/// The storage's number of a row, under a name that no column of the table has.
+/// SQLite's row number, under a name that no column of the table has.
 std::string rowidOf(const TableInfo& table);
 /// A table's alias in the text: `t3`.
 std::string alias(int source);
 
-/// A literal that stands by itself, which costs nothing however many there are.
+/// Whether an expression is a parameter alone, as which SQLite takes any number of values quickly.
 bool isBare(const bound::Expression& expression);
 void write(Text& text, const bound::Expression& expression);
 void write(Text& text, const bound::Source& source);
@@ -40,7 +40,7 @@ std::string createTable(const TableInfo& table);
 std::string createKey(const TableInfo& table, const KeyInfo& key);
 std::string addColumn(const TableInfo& table, const ColumnInfo& column, const std::string& defaultText);
 std::string columnDefinition(const TableInfo& table, const ColumnInfo& column);
-/// The one column that is the storage's own row number: an identity that is the whole primary key.
+/// The column that is SQLite's row number, nullptr where none is: an identity that is the whole primary key.
 const ColumnInfo* rowNumber(const TableInfo& table);
 
 } // namespace engine::translate

@@ -1,10 +1,12 @@
 #include "engine/translate/Text.h"
 
+#include "engine/functions/Operators.h"
+
 namespace engine::translate {
 
 void Text::parameter(int place) {
     places_.push_back(place);
-    sql_ += many_ ? "tsql_literal(?)" : "?";
+    sql_ += many_ ? std::string(operators::kLiteral) + "(?)" : "?";
 }
 
 std::vector<bound::Parameter> Text::parameters(const std::vector<bound::Parameter>& all) const {

@@ -8,8 +8,8 @@
 
 namespace engine::translate {
 
-/// A text for the storage while it is written. Each parameter in it is a bare `?`, since the storage searches the
-/// numbered ones from the first to the last whenever it meets one.
+/// A text for SQLite while it is written. Its parameters are bare `?`: SQLite looks for a numbered one among all those
+/// before it, which takes long where there are thousands.
 class Text {
 public:
     Text() = default;
@@ -30,8 +30,8 @@ public:
     /// What is bound to the parameters of the text, in its order.
     std::vector<bound::Parameter> parameters(const std::vector<bound::Parameter>& all) const;
 
-    /// The storage compares each constant of an expression with all constants before it. While this lives the
-    /// parameters aren't constants to it.
+    /// SQLite compares each constant of an expression with all constants before it, which takes long where there are
+    /// many. While this lives, parameters are written as calls, which aren't constants to it.
     class Many {
     public:
         static constexpr std::size_t kLeast = 100;

@@ -7,9 +7,10 @@ namespace {
 /// The rows that an UPDATE with sources writes: the target among them, joined to all others.
 void writeSources(Text& text, const bound::Update& update) {
     text += " FROM ";
-    if (update.targetInFrom < 0)
+    if (update.targetInFrom < 0) {
         text +=
             stored::qualifiedTable(update.table.schema, update.table.info->name) + " AS " + alias(update.table.number);
+    }
     bool first = update.targetInFrom >= 0;
     for (const bound::SourcePtr& source : update.from) {
         text += first ? "" : " CROSS JOIN ";
@@ -23,8 +24,7 @@ std::string targetAlias(const bound::Update& update) {
     return alias(update.targetInFrom < 0 ? update.table.number : update.targetInFrom);
 }
 
-/// Target and sources are walked by a SELECT of their own, for the storage can't name the row numbers of several
-/// sources in an UPDATE.
+/// A SELECT reads target and sources, because SQLite's UPDATE can't name the row numbers of several sources.
 Text updateFrom(const bound::Update& update) {
     Text text("UPDATE " + stored::qualifiedTable(update.table.schema, update.table.info->name) + " AS target SET ");
     for (std::size_t i = 0; i < update.assignments.size(); ++i) {
@@ -46,8 +46,9 @@ Text updateFrom(const bound::Update& update) {
 } // namespace
 
 Text update(const bound::Update& update) {
-    if (!update.from.empty())
+    if (!update.from.empty()) {
         return updateFrom(update);
+    }
     Text text("UPDATE " + stored::qualifiedTable(update.table.schema, update.table.info->name) + " AS " +
               alias(update.table.number) + " SET ");
     bool first = true;

@@ -1,6 +1,6 @@
 #include "engine/values/CalendarDate.h"
 
-#include "engine/errors/Error.h"
+#include "engine/errors/ValueErrors.h"
 
 #include <array>
 #include <charconv>
@@ -12,9 +12,9 @@ namespace {
 
 using namespace std::chrono_literals;
 
-constexpr std::chrono::sys_days epoch{1900y / 1 / 1};
-constexpr std::int64_t firstDay = (std::chrono::sys_days{1753y / 1 / 1} - epoch).count();
-constexpr std::int64_t lastDay = (std::chrono::sys_days{9999y / 12 / 31} - epoch).count();
+constexpr std::chrono::sys_days kEpoch{1900y / 1 / 1};
+constexpr std::int64_t kFirstDay = (std::chrono::sys_days{1753y / 1 / 1} - kEpoch).count();
+constexpr std::int64_t kLastDay = (std::chrono::sys_days{9999y / 12 / 31} - kEpoch).count();
 
 int number(std::string_view text, std::size_t place, std::size_t length) {
     int value = 0;
@@ -32,18 +32,18 @@ CalendarDate CalendarDate::stored(std::string_view text) {
 }
 
 CalendarDate CalendarDate::ofTicks(std::int64_t days, std::int64_t ticks) {
-    days += ticks / ticksOfDay;
-    ticks %= ticksOfDay;
+    days += ticks / kTicksOfDay;
+    ticks %= kTicksOfDay;
     if (ticks < 0) {
-        ticks += ticksOfDay;
+        ticks += kTicksOfDay;
         --days;
     }
-    if (days < firstDay || days > lastDay) {
+    if (days < kFirstDay || days > kLastDay) {
         throw errors::dateOutOfRange();
     }
-    const std::chrono::year_month_day date{epoch + std::chrono::days{days}};
-    const auto seconds = static_cast<int>(ticks / ticksOfSecond);
-    const auto rest = static_cast<int>(ticks % ticksOfSecond);
+    const std::chrono::year_month_day date{kEpoch + std::chrono::days{days}};
+    const auto seconds = static_cast<int>(ticks / kTicksOfSecond);
+    const auto rest = static_cast<int>(ticks % kTicksOfSecond);
     return {static_cast<int>(date.year()),
             static_cast<int>(static_cast<unsigned>(date.month())),
             static_cast<int>(static_cast<unsigned>(date.day())),
@@ -56,12 +56,12 @@ CalendarDate CalendarDate::ofTicks(std::int64_t days, std::int64_t ticks) {
 std::int64_t CalendarDate::days() const {
     const std::chrono::year_month_day date{std::chrono::year{year}, std::chrono::month{static_cast<unsigned>(month)},
                                            std::chrono::day{static_cast<unsigned>(day)}};
-    return (std::chrono::sys_days{date} - epoch).count();
+    return (std::chrono::sys_days{date} - kEpoch).count();
 }
 
 std::int64_t CalendarDate::ticks() const {
     const std::int64_t seconds = (hour * 60 + minute) * 60 + second;
-    return seconds * ticksOfSecond + (millisecond * 3 + 5) / 10;
+    return seconds * kTicksOfSecond + (millisecond * 3 + 5) / 10;
 }
 
 std::string CalendarDate::text() const {

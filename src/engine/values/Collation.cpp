@@ -1,5 +1,6 @@
 #include "engine/values/Collation.h"
 
+#include "engine/values/Ascii.h"
 #include "engine/values/CollationCharacters.h"
 
 #include <unicode/uchar.h>
@@ -22,7 +23,7 @@ struct CloseCollator {
     void operator()(UCollator* collator) const { ucol_close(collator); }
 };
 
-/// A collator isn't to be shared by threads; opening one is dear.
+/// Opened once a thread: opening takes long, and threads may not share a collator.
 UCollator* collator() {
     thread_local const std::unique_ptr<UCollator, CloseCollator> opened = [] {
         UErrorCode status = U_ZERO_ERROR;
@@ -48,9 +49,9 @@ bool standsForItself(char character) {
     return (character >= ' ' && character <= '~') || (character >= '\t' && character <= '\r');
 }
 
-/// Each ASCII character that the collation sees has one weight of its own and takes part in nothing longer, so that
-/// the order of two ASCII texts is the order of their ranks. 0: the collation must be asked (control characters, which
-/// it doesn't see, and whatever isn't ASCII).
+/// The rank of each ASCII character in the order of the collation. Such a character has one weight and is never part of
+/// a longer element, so that two ASCII texts compare as their ranks do. 0 is for what only the collator can compare:
+/// control characters, which it skips, and everything beyond ASCII.
 Ranks makeRanks() {
     std::vector<char> ordered;
     for (char character = '\t'; character <= '~'; ++character) {
@@ -75,11 +76,6 @@ Ranks makeRanks() {
 const Ranks& ranks() {
     static const Ranks made = makeRanks();
     return made;
-}
-
-std::string_view withoutTrailingBlanks(std::string_view text) {
-    const std::size_t last = text.find_last_not_of(' ');
-    return text.substr(0, last == std::string_view::npos ? 0 : last + 1);
 }
 
 bool endsInAscii(std::string_view text, std::size_t place) {
@@ -110,7 +106,7 @@ int compareTexts(std::string_view left, std::string_view right) {
             return collated(left, right);
         }
         if (a != b) {
-            // A mark behind the character could make another one of it.
+            // An accent behind the character would change it: the collator decides.
             return endsInAscii(left, i) && endsInAscii(right, i) ? a - b : collated(left, right);
         }
     }
@@ -191,11 +187,10 @@ namespace {
 
 /// The server counts in units of UTF-16: a character beyond the first plane is two.
 std::size_t unitsOf(char lead) {
-    const auto byte = static_cast<unsigned char>(lead);
-    if ((byte & 0xc0U) == 0x80U) {
+    if (!startsCharacter(lead)) {
         return 0;
     }
-    return byte >= 0xf0U ? 2 : 1;
+    return static_cast<unsigned char>(lead) >= 0xf0U ? 2 : 1;
 }
 
 } // namespace

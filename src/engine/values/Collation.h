@@ -1,7 +1,7 @@
 #pragma once
 
 // Latin1_General_CI_AS: case ignored, accents told apart, trailing blanks ignored by comparisons (not by LIKE).
-// ICU stands behind this header alone.
+// No other source uses ICU.
 
 #include <string>
 #include <string_view>

@@ -1,11 +1,16 @@
 #pragma once
 
-// Single characters of UTF-8 texts under the server's collation, for LIKE.
+// Single characters of UTF-8 texts, and how the server's collation orders them.
 
 #include <string>
 #include <string_view>
 
 namespace engine {
+
+/// Whether a byte is the first of its character.
+constexpr bool startsCharacter(char byte) {
+    return (static_cast<unsigned char>(byte) & 0xc0U) != 0x80U;
+}
 
 /// < 0, 0, > 0 by the collation, one character against one.
 int compareCharacters(char32_t left, char32_t right);

@@ -1,6 +1,7 @@
 #include "engine/values/Conversions.h"
 
-#include "engine/errors/ConversionErrors.h"
+#include "engine/errors/ValueErrors.h"
+#include "engine/values/Ascii.h"
 #include "engine/values/Collation.h"
 #include "engine/values/DecimalDigits.h"
 
@@ -23,7 +24,7 @@ struct IntegerKind {
     std::int64_t minimum, maximum;
 };
 
-constexpr std::array<IntegerKind, 5> integerKinds{{
+constexpr std::array<IntegerKind, 5> kIntegerKinds{{
     {Kind::Bit, "bit", 0, 1},
     {Kind::TinyInt, "tinyint", 0, 255},
     {Kind::SmallInt, "smallint", -32768, 32767},
@@ -32,20 +33,12 @@ constexpr std::array<IntegerKind, 5> integerKinds{{
 }};
 
 const IntegerKind& kindOf(const DataType& target) {
-    for (const IntegerKind& kind : integerKinds) {
+    for (const IntegerKind& kind : kIntegerKinds) {
         if (kind.kind == target.kind) {
             return kind;
         }
     }
     throw InternalError("a conversion to an integer of a type that is none: " + toText(target));
-}
-
-std::string_view trimmed(std::string_view text) {
-    const std::size_t first = text.find_first_not_of(' ');
-    if (first == std::string_view::npos) {
-        return {};
-    }
-    return text.substr(first, text.find_last_not_of(' ') - first + 1);
 }
 
 Error integerRefused(const IntegerKind& kind, std::string_view text, const char* source) {
@@ -66,11 +59,6 @@ Error integerOverflows(const IntegerKind& kind, std::string_view text, const cha
     }
 }
 
-/// The digits of a number without its sign; a sign alone counts as 0.
-bool allDigits(std::string_view digits) {
-    return std::all_of(digits.begin(), digits.end(), [](char c) { return c >= '0' && c <= '9'; });
-}
-
 } // namespace
 
 std::int64_t toInteger(std::string_view text, const DataType& target, const char* sourceType) {
@@ -80,7 +68,7 @@ std::int64_t toInteger(std::string_view text, const DataType& target, const char
     if (negative || digits.starts_with('+')) {
         digits.remove_prefix(1);
     }
-    if (!allDigits(digits)) {
+    if (!isAllDigits(digits)) {
         if (kind.kind == Kind::Bit) {
             const std::string word = lower(trimmed(text));
             if (word == "true" || word == "false") {
@@ -135,7 +123,7 @@ bool toBit(std::string_view text) {
 double toDecimal(std::string_view text, const DataType& target) {
     std::optional<DecimalDigits> digits = DecimalDigits::parse(trimmed(text));
     if (!digits) {
-        throw errors::numericConversion();
+        throw errors::conversionError("varchar", "numeric");
     }
     digits->roundTo(target.scale);
     if (digits->wholeDigits() > target.precision - target.scale) {
@@ -165,7 +153,7 @@ double toFloat(std::string_view text) {
     if (number.starts_with('+')) {
         number.remove_prefix(1);
     }
-    // No words such as "inf".
+    // from_chars would take words such as "inf" too.
     const bool plain = !doubleSign && number.find_first_not_of("0123456789.eE+-") == std::string_view::npos;
     double value = 0;
     const auto read = std::from_chars(number.data(), number.data() + number.size(), value);

@@ -12,7 +12,8 @@
 
 namespace engine {
 
-/// Throws 245 with `target` in its words; blanks around are trimmed, '' is 0.
+/// Blanks at both ends are ignored, '' is 0. Throws 245 (8114 for a bigint) for what is no number, 244, 248 or 8115 for
+/// one that the target doesn't hold.
 std::int64_t toInteger(std::string_view text, const DataType& target, const char* sourceType = "varchar");
 /// Throws 8115 where the value leaves the target's range.
 std::int64_t toInteger(double number, const DataType& target);
@@ -24,13 +25,13 @@ double toDecimal(std::string_view text, const DataType& target);
 double toDecimal(double number, const DataType& target);
 /// Throws 8114.
 double toFloat(std::string_view text);
-/// Throws 8115 for what left the range of float and real, which know no infinity.
+/// Throws 8115 for what left the range of float and real, which have no infinity.
 double finiteNumber(double number, const DataType& type);
 /// '' is 1900-01-01. Without a style the order is day first where `dayFirst`, else month first; `yyyymmdd` always.
 /// Style 102 reads year, month, day with any separator; 103 day, month, year; 101 month, day, year; 112 yyyymmdd;
 /// 120 and 121 with time. Throws 241, 242.
 std::string toDateTime(std::string_view text, std::optional<int> style, bool dayFirst = false);
-/// Days since 1900-01-01 as the server adds numbers to dates.
+/// The date so many days after 1900-01-01. Throws 242, 8115.
 std::string toDateTime(double days);
 double daysOf(std::string_view dateTime);
 

@@ -1,4 +1,4 @@
-#include "engine/errors/ConversionErrors.h"
+#include "engine/errors/ValueErrors.h"
 #include "engine/values/CalendarDate.h"
 #include "engine/values/Conversions.h"
 
@@ -16,7 +16,7 @@ struct StyleText {
     const char* layout;
 };
 
-constexpr std::array styleTexts{
+constexpr std::array kStyleTexts{
     StyleText{0, "N d Y h:mA"},     StyleText{100, "N d Y h:mA"},
     StyleText{1, "M/D/y"},          StyleText{101, "M/D/Y"},
     StyleText{2, "y.M.D"},          StyleText{102, "Y.M.D"},
@@ -36,15 +36,15 @@ constexpr std::array styleTexts{
     StyleText{21, "Y-M-D H:m:s.f"}, StyleText{121, "Y-M-D H:m:s.f"},
 };
 
-constexpr int internationalStyle = 126;
-constexpr std::array<const char*, 12> monthNames{"Jan", "Feb", "Mar", "Apr", "May", "Jun",
-                                                 "Jul", "Aug", "Sep", "Oct", "Nov", "Dec"};
+constexpr int kInternationalStyle = 126;
+constexpr std::array<const char*, 12> kMonthNames{"Jan", "Feb", "Mar", "Apr", "May", "Jun",
+                                                  "Jul", "Aug", "Sep", "Oct", "Nov", "Dec"};
 
 const char* layoutOf(int style, const CalendarDate& date) {
-    if (style == internationalStyle) {
+    if (style == kInternationalStyle) {
         return date.millisecond == 0 ? "Y-M-DTH:m:s" : "Y-M-DTH:m:s.f";
     }
-    for (const StyleText& entry : styleTexts) {
+    for (const StyleText& entry : kStyleTexts) {
         if (entry.style == style) {
             return entry.layout;
         }
@@ -67,7 +67,7 @@ std::string piece(char letter, const CalendarDate& date) {
     case 'M':
         return filled(date.month, 2, '0');
     case 'N':
-        return monthNames[static_cast<std::size_t>(date.month - 1)];
+        return kMonthNames[static_cast<std::size_t>(date.month - 1)];
     case 'D':
         return filled(date.day, 2, '0');
     case 'd':

@@ -1,4 +1,5 @@
-#include "engine/errors/ConversionErrors.h"
+#include "engine/errors/ValueErrors.h"
+#include "engine/values/Ascii.h"
 #include "engine/values/CalendarDate.h"
 #include "engine/values/Conversions.h"
 
@@ -16,37 +17,37 @@ struct StyleOrder {
     std::optional<Order> order; ///< none: the order of the session
 };
 
-constexpr auto yearFirst = Order::YearMonthDay;
-constexpr auto monthFirst = Order::MonthDayYear;
-constexpr auto dayFirstOrder = Order::DayMonthYear;
+constexpr auto kYearFirst = Order::YearMonthDay;
+constexpr auto kMonthFirst = Order::MonthDayYear;
+constexpr auto kDayFirstOrder = Order::DayMonthYear;
 
 /// How a style that reads a text orders its numbers; a year of two digits may stand wherever one of four does.
-constexpr std::array styleOrders{
+constexpr std::array kStyleOrders{
     StyleOrder{0, {}},
     StyleOrder{100, {}},
     StyleOrder{9, {}},
     StyleOrder{109, {}},
-    StyleOrder{1, monthFirst},
-    StyleOrder{101, monthFirst},
-    StyleOrder{10, monthFirst},
-    StyleOrder{110, monthFirst},
-    StyleOrder{2, yearFirst},
-    StyleOrder{102, yearFirst},
-    StyleOrder{11, yearFirst},
-    StyleOrder{111, yearFirst},
-    StyleOrder{12, yearFirst},
-    StyleOrder{112, yearFirst},
-    StyleOrder{20, yearFirst},
-    StyleOrder{120, yearFirst},
-    StyleOrder{21, yearFirst},
-    StyleOrder{121, yearFirst},
-    StyleOrder{126, yearFirst},
-    StyleOrder{3, dayFirstOrder},
-    StyleOrder{103, dayFirstOrder},
-    StyleOrder{4, dayFirstOrder},
-    StyleOrder{104, dayFirstOrder},
-    StyleOrder{5, dayFirstOrder},
-    StyleOrder{105, dayFirstOrder},
+    StyleOrder{1, kMonthFirst},
+    StyleOrder{101, kMonthFirst},
+    StyleOrder{10, kMonthFirst},
+    StyleOrder{110, kMonthFirst},
+    StyleOrder{2, kYearFirst},
+    StyleOrder{102, kYearFirst},
+    StyleOrder{11, kYearFirst},
+    StyleOrder{111, kYearFirst},
+    StyleOrder{12, kYearFirst},
+    StyleOrder{112, kYearFirst},
+    StyleOrder{20, kYearFirst},
+    StyleOrder{120, kYearFirst},
+    StyleOrder{21, kYearFirst},
+    StyleOrder{121, kYearFirst},
+    StyleOrder{126, kYearFirst},
+    StyleOrder{3, kDayFirstOrder},
+    StyleOrder{103, kDayFirstOrder},
+    StyleOrder{4, kDayFirstOrder},
+    StyleOrder{104, kDayFirstOrder},
+    StyleOrder{5, kDayFirstOrder},
+    StyleOrder{105, kDayFirstOrder},
 };
 
 Order orderOf(std::optional<int> style, bool dayFirst) {
@@ -54,7 +55,7 @@ Order orderOf(std::optional<int> style, bool dayFirst) {
     if (!style) {
         return session;
     }
-    for (const StyleOrder& entry : styleOrders) {
+    for (const StyleOrder& entry : kStyleOrders) {
         if (entry.style == *style) {
             return entry.order.value_or(session);
         }
@@ -115,11 +116,11 @@ private:
     }
 
     Number number() {
-        constexpr int longest = 8;
+        constexpr int kLongest = 8;
         Number number;
-        while (peek() >= '0' && peek() <= '9') {
+        while (isDigit(peek())) {
             number.value = number.value * 10 + (text_[place_++] - '0');
-            if (++number.digits > longest) {
+            if (++number.digits > kLongest) {
                 refuse();
             }
         }
@@ -203,8 +204,8 @@ private:
     }
 
     static int yearOfTwoDigits(int year) {
-        constexpr int lastOfThisCentury = 49;
-        return year + (year <= lastOfThisCentury ? 2000 : 1900);
+        constexpr int kLastOfThisCentury = 49;
+        return year + (year <= kLastOfThisCentury ? 2000 : 1900);
     }
 
     void readTime(Number hour) {
@@ -232,11 +233,11 @@ private:
     }
 
     static int fraction(Number number) {
-        constexpr std::array<int, 4> scales{0, 100, 10, 1};
+        constexpr std::array<int, 4> kScales{0, 100, 10, 1};
         if (number.digits > 3) {
             refuse();
         }
-        return number.value * scales[static_cast<std::size_t>(number.digits)];
+        return number.value * kScales[static_cast<std::size_t>(number.digits)];
     }
 
     void readHalfOfDay() {
@@ -277,18 +278,18 @@ std::string toDateTime(std::string_view text, std::optional<int> style, bool day
 }
 
 std::string toDateTime(double days) {
-    constexpr double farthest = 4e6; // well outside the range of years, well inside an integer's
-    if (!(std::abs(days) < farthest)) {
+    constexpr double kFarthest = 4e6; // well outside the range of years, well inside an integer's
+    if (!(std::abs(days) < kFarthest)) {
         throw errors::conversionOverflow("expression", "datetime");
     }
     const double whole = std::floor(days);
-    const auto ticks = std::llround((days - whole) * static_cast<double>(ticksOfDay));
+    const auto ticks = std::llround((days - whole) * static_cast<double>(kTicksOfDay));
     return CalendarDate::ofTicks(static_cast<std::int64_t>(whole), ticks).text();
 }
 
 double daysOf(std::string_view dateTime) {
     const CalendarDate date = CalendarDate::stored(dateTime);
-    return static_cast<double>(date.days()) + static_cast<double>(date.ticks()) / static_cast<double>(ticksOfDay);
+    return static_cast<double>(date.days()) + static_cast<double>(date.ticks()) / static_cast<double>(kTicksOfDay);
 }
 
 } // namespace engine

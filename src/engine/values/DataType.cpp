@@ -47,10 +47,12 @@ std::string_view nameOf(DataType::Kind kind) {
 
 std::string toText(const DataType& type) {
     std::string text(nameOf(type.kind));
-    if (type.kind == DataType::Kind::Decimal)
+    if (type.kind == DataType::Kind::Decimal) {
         return text + "(" + std::to_string(type.precision) + "," + std::to_string(type.scale) + ")";
-    if (type.isText() || type.kind == DataType::Kind::VarBinary)
+    }
+    if (type.isText() || type.kind == DataType::Kind::VarBinary) {
         return text + "(" + (type.length < 0 ? "max" : std::to_string(type.length)) + ")";
+    }
     return text;
 }
 

@@ -4,6 +4,11 @@
 
 namespace engine {
 
+constexpr int kWidestDecimal = 38;         ///< digits
+constexpr int kLongestText = 8000;         ///< characters of char and varchar, bytes of varbinary
+constexpr int kLongestNationalText = 4000; ///< characters of nchar and nvarchar
+constexpr int kSystemNameLength = 128;     ///< characters of sysname
+
 /// A type of the dialect. Lengths are in characters, -1 stands for `max`.
 struct DataType {
     enum class Kind {
@@ -32,6 +37,7 @@ struct DataType {
     bool operator==(const DataType&) const = default;
 
     bool isText() const { return kind >= Kind::Char && kind <= Kind::NVarChar; }
+    bool isNational() const { return kind == Kind::NChar || kind == Kind::NVarChar; }
     bool isInteger() const { return kind >= Kind::Bit && kind <= Kind::BigInt; }
     bool isNumber() const { return kind >= Kind::Bit && kind <= Kind::Float; }
 };

@@ -1,5 +1,7 @@
 #include "engine/values/DecimalDigits.h"
 
+#include "engine/values/Ascii.h"
+
 #include <algorithm>
 #include <array>
 #include <charconv>
@@ -8,12 +10,8 @@
 namespace engine {
 namespace {
 
-constexpr int significantDigits = 15;
-constexpr std::size_t longestDouble = 400; // digits of the largest one, written out
-
-bool digitsOnly(std::string_view text) {
-    return std::all_of(text.begin(), text.end(), [](char c) { return c >= '0' && c <= '9'; });
-}
+constexpr int kSignificantDigits = 15;
+constexpr std::size_t kLongestDouble = 400; // digits of the largest one, written out
 
 /// Adds one to the last digit; true when it carries out of the first.
 bool increment(std::string& digits) {
@@ -43,7 +41,7 @@ std::optional<DecimalDigits> DecimalDigits::parse(std::string_view text) {
     if (digits.whole_.empty() && digits.fraction_.empty()) {
         return std::nullopt;
     }
-    if (!digitsOnly(digits.whole_) || !digitsOnly(digits.fraction_)) {
+    if (!isAllDigits(digits.whole_) || !isAllDigits(digits.fraction_)) {
         return std::nullopt;
     }
     digits.dropLeadingZeros();
@@ -51,13 +49,13 @@ std::optional<DecimalDigits> DecimalDigits::parse(std::string_view text) {
 }
 
 DecimalDigits DecimalDigits::of(double number, int scale) {
-    std::array<char, longestDouble> buffer{};
+    std::array<char, kLongestDouble> buffer{};
     const double size = std::abs(number);
     const int whole = size < 1 ? 1 : static_cast<int>(std::log10(size)) + 1;
     std::to_chars_result written{};
-    if (whole + scale < significantDigits) {
+    if (whole + scale < kSignificantDigits) {
         written = std::to_chars(buffer.data(), buffer.data() + buffer.size(), number, std::chars_format::fixed,
-                                significantDigits - whole);
+                                kSignificantDigits - whole);
     } else {
         written = std::to_chars(buffer.data(), buffer.data() + buffer.size(), number, std::chars_format::fixed);
     }

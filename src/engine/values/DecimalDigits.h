@@ -6,14 +6,14 @@
 
 namespace engine {
 
-/// A decimal number by its digits, so that it rounds as decimals do: half away from zero, without the noise of binary
-/// fractions.
+/// A decimal number by its digits, so that it rounds as decimals do: half away from zero, whatever
+/// binary fraction stands for it.
 class DecimalDigits {
 public:
     /// `[+-]digits[.digits]`, nothing else; at least one digit.
     static std::optional<DecimalDigits> parse(std::string_view text);
     /// The shortest digits that tell the number, at most 15 significant ones where `scale` leaves room for that:
-    /// what lies behind them is the noise of the arithmetic that made it.
+    /// what lies behind them are rounding errors of the arithmetic that made it.
     static DecimalDigits of(double number, int scale);
 
     /// Exactly `scale` digits behind the point.

@@ -37,7 +37,7 @@ struct Element {
     }
 };
 
-/// A pattern made ready; the same one usually meets every row of a table.
+/// A parsed pattern. The last one is kept, since a statement compares every row with the same one.
 class Pattern {
 public:
     Pattern(std::string_view text, std::string_view escape) : text_(text) {
@@ -53,7 +53,7 @@ public:
     bool matches(std::string_view text) const;
 
 private:
-    /// A character and whether the escape took its meaning away.
+    /// A character, and whether the escape character stood before it.
     struct Character {
         char32_t value = 0;
         bool escaped = false;
@@ -126,15 +126,16 @@ private:
     bool valid_ = true;
 };
 
-/// Only the last `%` is ever gone back to: what an earlier one could take, the last one can take too.
+/// Where the rest doesn't match, the last `%` takes one more character. The earlier ones needn't: what follows them
+/// matched at its first place, which leaves the most to the last one.
 bool Pattern::matches(std::string_view text) const {
     if (!valid_) {
         return false;
     }
-    constexpr std::size_t none = static_cast<std::size_t>(-1);
+    constexpr std::size_t kNone = static_cast<std::size_t>(-1);
     std::size_t element = 0;
     std::size_t place = 0;
-    std::size_t many = none;
+    std::size_t many = kNone;
     std::size_t retry = 0;
     while (true) {
         if (element < elements_.size() && elements_[element].kind == Element::Kind::Many) {
@@ -156,7 +157,7 @@ bool Pattern::matches(std::string_view text) const {
                 continue;
             }
         }
-        if (many == none || retry >= text.size()) {
+        if (many == kNone || retry >= text.size()) {
             return false;
         }
         nextCharacter(text, retry);

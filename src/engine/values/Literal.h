@@ -4,7 +4,7 @@
 
 namespace engine {
 
-/// A value as a text writes it.
+/// A constant as a batch writes it.
 struct Literal {
     enum class Kind { Null, Integer, Decimal, Float, Text, NationalText };
     Kind kind = Kind::Null;

@@ -1,6 +1,6 @@
 #include "engine/values/Scalar.h"
 
-#include "engine/errors/Error.h"
+#include "engine/errors/ValueErrors.h"
 #include "engine/values/Collation.h"
 #include "engine/values/Conversions.h"
 
@@ -14,21 +14,10 @@ namespace engine {
 
 namespace {
 
-constexpr int kLongestVarChar = 8000;
-constexpr int kLongestNationalVarChar = 4000;
-constexpr int kLongestDecimal = 38;
-
 using Kind = DataType::Kind;
 
 bool isReal(const DataType& type) {
     return type.kind == Kind::Decimal || type.kind == Kind::Real || type.kind == Kind::Float;
-}
-
-double numberOf(const Scalar& value) {
-    if (const auto* integer = std::get_if<std::int64_t>(&value)) {
-        return static_cast<double>(*integer);
-    }
-    return std::get<double>(value);
 }
 
 Scalar toInteger(const Scalar& value, const ConversionRequest& request) {
@@ -51,7 +40,7 @@ Scalar toBitValue(const Scalar& value) {
     return std::int64_t{numberOf(value) != 0.0};
 }
 
-/// Out of the range of a float it is infinite.
+/// Infinite outside the range of a float.
 double realOf(double number) {
     constexpr double kLargest = std::numeric_limits<float>::max();
     if (std::fabs(number) > kLargest) {
@@ -105,7 +94,7 @@ std::string fit(std::string text, const ConversionRequest& request) {
         return text;
     }
     if (request.from.isNumber() && characters(text) > static_cast<std::size_t>(length)) {
-        throw errors::overflow(typeName(request.to));
+        throw errors::overflow("expression", typeName(request.to));
     }
     if (request.purpose == Purpose::Assignment) {
         text = std::string(fitText(text, length));
@@ -202,7 +191,7 @@ DataType decimalOf(const Literal& literal) {
     const std::size_t point = literal.text.find('.');
     const int scale = point == std::string::npos ? 0 : static_cast<int>(literal.text.size() - point - 1);
     const int digits = static_cast<int>(literal.text.size()) - (point == std::string::npos ? 0 : 1);
-    return {Kind::Decimal, 0, std::clamp(digits, 1, kLongestDecimal), std::min(scale, kLongestDecimal)};
+    return {Kind::Decimal, 0, std::clamp(digits, 1, kWidestDecimal), std::min(scale, kWidestDecimal)};
 }
 
 DataType typeOf(const Literal& literal) {
@@ -224,10 +213,10 @@ DataType typeOf(const Literal& literal) {
         type.kind = Kind::Float;
         break;
     case Literal::Kind::Text:
-        type = {Kind::VarChar, kLongestVarChar, 0, 0};
+        type = {Kind::VarChar, kLongestText, 0, 0};
         break;
     case Literal::Kind::NationalText:
-        type = {Kind::NVarChar, kLongestNationalVarChar, 0, 0};
+        type = {Kind::NVarChar, kLongestNationalText, 0, 0};
         break;
     }
     return type;

@@ -1,7 +1,6 @@
 #pragma once
 
-// One value of the dialect on its way between a literal, an expression and the storage, and the one place where a value
-// goes from type to type.
+// One value of the dialect, as literals, expressions and the storage exchange it, and its conversion from type to type.
 
 #include "engine/values/DataType.h"
 #include "engine/values/Literal.h"
@@ -18,6 +17,12 @@ using Scalar = std::variant<std::monostate, std::int64_t, double, std::string>;
 
 inline bool isNull(const Scalar& value) {
     return std::holds_alternative<std::monostate>(value);
+}
+
+/// Of an integer or a double.
+inline double numberOf(const Scalar& value) {
+    const auto* integer = std::get_if<std::int64_t>(&value);
+    return integer != nullptr ? static_cast<double>(*integer) : std::get<double>(value);
 }
 
 /// What a conversion is for: CAST cuts a text that is too long, an assignment refuses it with 8152.
@@ -42,7 +47,7 @@ DataType typeOf(const Literal& literal);
 /// The decimal of just the digits that a number is written with.
 DataType decimalOf(const Literal& literal);
 
-/// A type in one number, so that it can travel as an argument of a function of the storage.
+/// A type in one number, so that it can be an argument of a function of the storage.
 std::int64_t encodeType(const DataType& type);
 DataType decodeType(std::int64_t code);
 

@@ -1,4 +1,8 @@
+#include "engine/functions/Functions.h"
+
 #include "engine/SessionFixture.h"
+
+#include <set>
 
 namespace engine {
 namespace {
@@ -9,6 +13,80 @@ struct Case {
     const char* expression;
     const char* value;
 };
+
+const char* sampleOf(FunctionParameter::Kind kind) {
+    switch (kind) {
+    case FunctionParameter::Kind::Text:
+        return "'abc'";
+    case FunctionParameter::Kind::Int:
+        return "1";
+    case FunctionParameter::Kind::Float:
+    case FunctionParameter::Kind::Number:
+        return "2.5";
+    case FunctionParameter::Kind::Date:
+        return "'20040307'";
+    case FunctionParameter::Kind::DatePart:
+        return "month";
+    case FunctionParameter::Kind::Any:
+    case FunctionParameter::Kind::Typed:
+        break;
+    }
+    return "N'x'";
+}
+
+/// A SELECT of a row's function with so many arguments; those beyond the row's are 0.
+std::string callOf(const FunctionRow& row, std::size_t arguments) {
+    std::string text = "select " + std::string(row.name);
+    if (row.name.starts_with("@@")) {
+        return text;
+    }
+    text += '(';
+    for (std::size_t i = 0; i < arguments; ++i) {
+        text += i == 0 ? "" : ", ";
+        text += i < row.parameters.most() ? sampleOf(row.parameters[i].kind) : "0";
+    }
+    return text + ')';
+}
+
+TEST_F(Functions, CanBeCalledWithLeastAndMostArguments) {
+    ASSERT_FALSE(functionRows().empty());
+    for (const FunctionRow* row : functionRows()) {
+        for (const std::size_t count : {row->parameters.least(), row->parameters.most()}) {
+            const std::string call = callOf(*row, count);
+            EXPECT_EQ(answer(call).find('!'), std::string::npos) << call << ": " << answer(call);
+        }
+    }
+}
+
+TEST_F(Functions, RefuseFewerAndMoreArguments) {
+    for (const FunctionRow* row : functionRows()) {
+        if (row->name.starts_with("@@")) {
+            continue;
+        }
+        const std::size_t least = row->parameters.least();
+        const std::size_t most = row->parameters.most();
+        const std::string refusal =
+            "!174 The " + std::string(row->name) + " function requires " + std::to_string(most) + " argument(s).";
+        EXPECT_NE(answer(callOf(*row, most + 1)).find(refusal), std::string::npos) << row->name;
+        if (least > 0) {
+            EXPECT_NE(answer(callOf(*row, least - 1)).find(refusal), std::string::npos) << row->name;
+        }
+    }
+}
+
+TEST_F(Functions, AreFoundByTheirNameInAnyCase) {
+    std::set<std::string> names;
+    for (const FunctionRow* row : functionRows()) {
+        std::string small(row->name);
+        for (char& c : small) {
+            c = static_cast<char>(std::tolower(static_cast<unsigned char>(c)));
+        }
+        EXPECT_EQ(row->name.starts_with("@@") ? findServerVariable(small) : findFunction(small), row);
+        EXPECT_TRUE(names.insert(storageName(*row)).second) << row->name << " stands twice";
+    }
+    EXPECT_EQ(findFunction("manca"), nullptr);
+    EXPECT_EQ(findServerVariable("@@manca"), nullptr);
+}
 
 TEST_F(Functions, GiveTheServersValues) {
     constexpr Case cases[] = {
@@ -87,8 +165,9 @@ TEST_F(Functions, GiveTheServersValues) {
         {"case 2 when 1 then 'a' when 2 then 'b' end", "b"},
         {"case when null = null then 1 end", "NULL"},
     };
-    for (const Case& one : cases)
+    for (const Case& one : cases) {
         EXPECT_EQ(rows(std::string("select ") + one.expression), one.value) << one.expression;
+    }
 }
 
 TEST_F(Functions, ConditionsFollowTheDialect) {
@@ -109,9 +188,10 @@ TEST_F(Functions, ConditionsFollowTheDialect) {
         {"5 in (select 5)", "1"},
         {"1 = (select 1)", "1"},
     };
-    for (const Case& one : cases)
+    for (const Case& one : cases) {
         EXPECT_EQ(rows(std::string("select case when ") + one.expression + " then 1 else 0 end"), one.value)
             << one.expression;
+    }
 }
 
 TEST_F(Functions, RefusalsHaveTheServersWords) {

@@ -36,8 +36,9 @@ public:
     FuzzInstance& operator=(const FuzzInstance&) = delete;
 
     std::shared_ptr<Instance> get() {
-        if (instance_ && ++runs_ < kRunsOfOne)
+        if (instance_ && ++runs_ < kRunsOfOne) {
             return instance_;
+        }
         remove();
         runs_ = 0;
         folder_ = std::filesystem::temp_directory_path() / ("engine-fuzz-" + std::to_string(getpid()));
@@ -49,8 +50,9 @@ public:
         for (const char* text : {kSchema, kRow, "INSERT INTO tipi (b) VALUES (NULL)", "CREATE TABLE molte (n int)",
                                  "INSERT INTO molte VALUES (1)"})
             session->execute(text)->nextResult();
-        for (int rows = 1; rows < kManyRows; rows *= 2)
+        for (int rows = 1; rows < kManyRows; rows *= 2) {
             session->execute("INSERT INTO molte SELECT n FROM molte")->nextResult();
+        }
         return instance_;
     }
     ~FuzzInstance() { remove(); }
@@ -69,8 +71,9 @@ private:
     void remove() {
         instance_.reset();
         std::error_code ignored;
-        if (!folder_.empty())
+        if (!folder_.empty()) {
             std::filesystem::remove_all(folder_, ignored);
+        }
     }
 
     std::filesystem::path folder_;

@@ -35,13 +35,16 @@ void write(const fs::path& file, const char* text) {
 extern "C" int LLVMFuzzerInitialize(int* argc, char*** argv) {
     for (int i = 1; i < *argc; ++i) {
         const fs::path folder((*argv)[i]);
-        if (!fs::is_directory(folder) || !fs::is_empty(folder))
+        if (!fs::is_directory(folder) || !fs::is_empty(folder)) {
             continue;
-        for (const auto& sample : engine::samples::kStatements)
+        }
+        for (const auto& sample : engine::samples::kStatements) {
             write(folder / sample.name, sample.text);
+        }
         int number = 0;
-        for (const char* seed : kMoreSeeds)
+        for (const char* seed : kMoreSeeds) {
             write(folder / ("seed" + std::to_string(number++)), seed);
+        }
         break;
     }
     return 0;
@@ -58,14 +61,16 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
                 try {
                     while (batch->nextResult()) {
                         while (batch->nextRow()) {
-                            for (int i = 0; i < static_cast<int>(batch->columns().size()); ++i)
+                            for (int i = 0; i < static_cast<int>(batch->columns().size()); ++i) {
                                 batch->text(i);
+                            }
                         }
                     }
                     break;
                 } catch (const engine::Error& error) {
-                    if (error.reach() != engine::Error::Reach::Statement)
+                    if (error.reach() != engine::Error::Reach::Statement) {
                         break;
+                    }
                 }
             }
         } catch (const engine::Error&) {
@@ -74,7 +79,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     };
     run({reinterpret_cast<const char*>(data), size});
     const auto batch = session->execute("select 1");
-    if (!batch->nextResult() || !batch->nextRow() || batch->integer(0) != 1)
+    if (!batch->nextResult() || !batch->nextRow() || batch->integer(0) != 1) {
         std::abort();
+    }
     return 0;
 }

@@ -12,7 +12,7 @@ TEST_F(Definition, RefusalsHaveTheServersWords) {
     };
     run("create table t (a int null, b nvarchar(10) null)");
     run("insert into t values (1, 'x')");
-    constexpr Case cases[] = {
+    constexpr Case kCases[] = {
         {"create table T (a int null)", "!2714 There is already an object named 'T' in the database."},
         {"create table u (a int null, A int null)",
          "!2705 Column names in each table must be unique. Column name 'A' in table 'u' is specified more than once."},
@@ -45,8 +45,9 @@ TEST_F(Definition, RefusalsHaveTheServersWords) {
          "!8106 Table 't' does not have the identity property. Cannot perform SET operation."},
         {"create index i on t (manca)", "!1911 Column name 'manca' does not exist in the target table or view."},
     };
-    for (const Case& one : cases)
+    for (const Case& one : kCases) {
         EXPECT_EQ(answer(one.text), one.answer) << one.text;
+    }
 }
 
 TEST_F(Definition, AnAddedColumnFillsTheOldRowsOnlyUnderNotNull) {

@@ -29,8 +29,9 @@ protected:
         std::set<std::int64_t> reported;
         const auto take = [&] {
             const std::optional<std::string> line = writer.readLine();
-            if (line)
+            if (line) {
                 reported.insert(std::stoll(*line));
+            }
             return line.has_value();
         };
         for (int i = 0; i < before && take(); ++i) {
@@ -45,8 +46,9 @@ protected:
         std::set<std::int64_t> found;
         const auto batch = session->execute("select id from t");
         batch->nextResult();
-        while (batch->nextRow())
+        while (batch->nextRow()) {
             found.insert(batch->integer(0));
+        }
         return found;
     }
 
@@ -81,7 +83,7 @@ TEST_F(Killing, AWriterLosesNoStatementThatReturnedAndLeavesNoHalfTransaction) {
     EXPECT_GT(reported.size(), static_cast<std::size_t>(kKills)) << "the writers hardly wrote";
 }
 
-/// The index of the storage's log is mapped memory: shortening its file may end whoever uses it, and no more.
+/// SQLite maps the index of its log: shortening that file may end a process that uses it, but no row is lost.
 TEST_F(Killing, AnEmptiedIndexOfTheLogLosesNoStatementThatReturned) {
     session.reset(); // this process must not have it mapped
     support::HelperProcess writer("engine_session_helper", {instance->folder().string(), "prova"});

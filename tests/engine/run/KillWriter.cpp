@@ -41,11 +41,13 @@ int main(int argc, char** argv) {
             // The copy has no identity: the last one given is still that of `t`.
             std::int64_t row = 0;
             const auto last = session->execute("SELECT IDENT_CURRENT('t')");
-            if (last->nextResult() && last->nextRow())
+            if (last->nextResult() && last->nextRow()) {
                 row = last->integer(0);
+            }
             std::printf("%lld\n", static_cast<long long>(row));
-            if (std::fflush(stdout) != 0)
+            if (std::fflush(stdout) != 0) {
                 return 1;
+            }
         }
     } catch (const std::exception& error) {
         std::fprintf(stderr, "%s\n", error.what());

@@ -28,8 +28,9 @@ protected:
 template<class One>
 std::string joined(int count, const char* between, One one) {
     std::string all;
-    for (int i = 0; i < count; ++i)
+    for (int i = 0; i < count; ++i) {
         all += (i == 0 ? "" : between) + one(i);
+    }
     return all;
 }
 

@@ -13,10 +13,12 @@ std::string told(Session& session, std::string_view text) {
     try {
         const std::unique_ptr<Batch> batch = session.execute(text);
         while (batch->nextResult()) {
-            if (batch->hasRows())
-                for (const ResultColumn& column : batch->columns())
+            if (batch->hasRows()) {
+                for (const ResultColumn& column : batch->columns()) {
                     all += column.name + ' ' + toText(column.type) + (column.nullable ? " null" : "") +
                            (column.key ? " key " : " ") + column.baseColumn + "; ";
+                }
+            }
             all += shown(*batch) + "\n";
         }
     } catch (const Error& error) {
@@ -35,7 +37,7 @@ protected:
             " '19991231')");
     }
 
-    /// The answer and the table after it; nothing stays of it.
+    /// The answer and the table after it; all is rolled back.
     std::string effect(Session& on, const std::string& text) {
         told(on, "begin transaction");
         std::string result = told(on, text);
@@ -62,7 +64,7 @@ struct Spellings {
 };
 
 TEST_F(PlanCache, ALiteralHasItsOwnTypeWhateverStoodThereBefore) {
-    constexpr Spellings cases[] = {
+    constexpr Spellings kCases[] = {
         {"update t set d = case when id = 1 then 1.5 else i end",
          "update t set d = case when id = 1 then 2.345 else i end"},
         {"update t set d = coalesce(null, 1.5, i)", "update t set d = coalesce(null, 2.345, i)"},
@@ -90,14 +92,14 @@ TEST_F(PlanCache, ALiteralHasItsOwnTypeWhateverStoodThereBefore) {
         {"select nullif(1.5, d) from t", "select nullif(2.345, d) from t"},
         {"select -1.5 + i from t", "select -2.345 + i from t"},
     };
-    for (const Spellings& one : cases) {
+    for (const Spellings& one : kCases) {
         EXPECT_EQ(cached(one.first, one.second), fresh(one.second)) << one.second;
         EXPECT_EQ(cached(one.second, one.first), fresh(one.first)) << one.first;
     }
 }
 
 TEST_F(PlanCache, ALiteralOfOtherDigitsTakesTheSamePlanWhereItsTypeGoesNowhere) {
-    constexpr Spellings cases[] = {
+    constexpr Spellings kCases[] = {
         {"update t set d = 1.5, m = 2 where id = 1", "update t set d = 22.345, m = 3000 where id = 20"},
         {"update t set v = 1.5 where d = 0.5", "update t set v = 2.345 where d = 12.125"},
         {"update t set d = d * 2", "update t set d = d * 7"},
@@ -107,7 +109,7 @@ TEST_F(PlanCache, ALiteralOfOtherDigitsTakesTheSamePlanWhereItsTypeGoesNowhere) 
         {"select cast(1.5 as int), cast(1.5 as varchar(9))", "select cast(2.345 as int), cast(0.5 as varchar(9))"},
         {"select id + 1 from t where id = 1", "select id + 1000 from t where id = 2147483647"},
     };
-    for (const Spellings& one : cases) {
+    for (const Spellings& one : kCases) {
         run(one.first);
         EXPECT_TRUE(findsPlan(one.second)) << one.second;
     }

@@ -56,8 +56,9 @@ TEST_F(Procedures, ALaterServerHasNoProcedureForDatabaseOptions) {
 TEST_F(Procedures, ADatabaseIsAltered) {
     const auto option = [&](const std::string& name) {
         for (const auto& [known, value] : instance->databaseOptions("prova")) {
-            if (known == name)
+            if (known == name) {
                 return std::string(value ? "ON" : "OFF");
+            }
         }
         return std::string();
     };
@@ -66,7 +67,7 @@ TEST_F(Procedures, ADatabaseIsAltered) {
         const char* option;
         const char* value;
     };
-    constexpr Case cases[] = {
+    constexpr Case kCases[] = {
         {"AUTO_CLOSE ON", "autoclose", "ON"},
         {"auto_close off", "autoclose", "OFF"},
         {"RECOVERY BULK_LOGGED", "select into/bulkcopy", "ON"},
@@ -84,7 +85,7 @@ TEST_F(Procedures, ADatabaseIsAltered) {
         {"CURSOR_DEFAULT GLOBAL", "default to local cursor", "OFF"},
         {"QUOTED_IDENTIFIER ON", "quoted identifier", "ON"},
     };
-    for (const Case& one : cases) {
+    for (const Case& one : kCases) {
         EXPECT_EQ(answer(std::string("ALTER DATABASE [Prova] SET ") + one.setting), "-") << one.setting;
         EXPECT_EQ(option(one.option), one.value) << one.setting;
     }

@@ -13,8 +13,9 @@ class Samples : public SessionTest {
 protected:
     Samples() {
         for (const char* script : {"company.sql", "control.sql"}) {
-            for (const std::string_view batch : provision::batches(provision::script(script)))
+            for (const std::string_view batch : provision::batches(provision::script(script))) {
                 run(batch);
+            }
         }
     }
 };
@@ -32,10 +33,12 @@ bool isUsual(const samples::Quoted& sample, const std::string& said) {
     const std::string_view text =
         std::string_view(sample.text).substr(std::string_view(sample.text).find_first_not_of(' '));
     const std::string first = upper(text.substr(0, text.find(' ')));
-    if (first == "SELECT")
+    if (first == "SELECT") {
         return !said.starts_with("!") && !said.empty() && !said.starts_with("(") && !said.starts_with("-");
-    if (first == "UPDATE" || first == "DELETE")
+    }
+    if (first == "UPDATE" || first == "DELETE") {
         return said == "(0)";
+    }
     return said == "-" || said.ends_with("\n-");
 }
 
@@ -43,12 +46,13 @@ TEST_F(Samples, RunOnTheTablesOfACompany) {
     for (const samples::Quoted& sample : samples::kStatements) {
         const std::string said = answer(sample.text);
         const auto refused = kRefused.find(sample.name);
-        if (refused != kRefused.end())
+        if (refused != kRefused.end()) {
             EXPECT_EQ(said, refused->second) << sample.name;
-        else if (sample.parseError != 0)
+        } else if (sample.parseError != 0) {
             EXPECT_TRUE(said.starts_with("!" + std::to_string(sample.parseError) + " ")) << sample.name << ": " << said;
-        else
+        } else {
             EXPECT_TRUE(isUsual(sample, said)) << sample.name << ": " << said;
+        }
     }
 }
 
@@ -67,8 +71,9 @@ TEST_F(Samples, FindAndWriteTheirRows) {
         " (14, 1, 300, 10000002, '20040401', '20040401', 1)");
     const auto text = [](std::string_view name) {
         for (const samples::Quoted& sample : samples::kStatements) {
-            if (name == sample.name)
+            if (name == sample.name) {
                 return sample.text;
+            }
         }
         return "";
     };
@@ -84,8 +89,9 @@ TEST_F(Samples, CutAnywhereAreRefusedOrRun) {
     int refused = 0;
     for (const samples::Quoted& sample : samples::kStatements) {
         const std::string_view text = sample.text;
-        for (std::size_t length = 0; length < text.size(); ++length)
+        for (std::size_t length = 0; length < text.size(); ++length) {
             refused += answer(text.substr(0, length)).find('!') != std::string::npos ? 1 : 0;
+        }
     }
     EXPECT_GT(refused, 1000);
 }

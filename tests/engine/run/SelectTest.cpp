@@ -21,7 +21,7 @@ struct Case {
 };
 
 TEST_F(Select, Answers) {
-    constexpr Case cases[] = {
+    constexpr Case kCases[] = {
         {"select 1", "1"},
         {"select * from elencosedi where IDSEDE = 1", "1|Roma|1|1"},
         {"select idsede from ElencoSedi where città = 'ROMA' order by idsede", "1\n3"},
@@ -50,12 +50,13 @@ TEST_F(Select, Answers) {
         {"select name from master.dbo.sysdatabases where name like 'pro%'", "prova"},
         {"select idsede from elencosedi where idsede < 3 union select 9 order by 1", "1\n2\n9"},
     };
-    for (const Case& one : cases)
+    for (const Case& one : kCases) {
         EXPECT_EQ(rows(one.text), one.rows) << one.text;
+    }
 }
 
 TEST_F(Select, NamesThatFitNothingAreRefused) {
-    constexpr Case cases[] = {
+    constexpr Case kCases[] = {
         {"select manca from stati", "!207 Invalid column name 'manca'."},
         {"select S.manca from stati as S", "!207 Invalid column name 'manca'."},
         {"select X.idstato from stati as S", "!4104 The multi-part identifier \"X.idstato\" could not be bound."},
@@ -89,12 +90,13 @@ TEST_F(Select, NamesThatFitNothingAreRefused) {
         {"select idstato from stati order by 2",
          "!108 The ORDER BY position number 2 is out of range of the number of items in the select list."},
     };
-    for (const Case& one : cases)
+    for (const Case& one : kCases) {
         EXPECT_EQ(answer(one.text), one.rows) << one.text;
+    }
 }
 
 TEST_F(Select, GroupsAndJoinsOfManyKinds) {
-    constexpr Case cases[] = {
+    constexpr Case kCases[] = {
         {"select left(descstato, 1), count(*) from stati group by left(descstato, 1) order by 1", "NULL|1\nF|1\nI|1"},
         {"select upper(Città), count(*) from elencosedi group by upper(Città) having upper(Città) is not null order by 2",
          "PARIGI|1\nROMA|2"},
@@ -115,8 +117,9 @@ TEST_F(Select, GroupsAndJoinsOfManyKinds) {
         {"select count(*) from (select Città from elencosedi where idsede = 1 union select 'ROMA') as d", "1"},
         {"select 1 union all select 2.5 order by 1 desc", "2.5\n1.0"},
     };
-    for (const Case& one : cases)
+    for (const Case& one : kCases) {
         EXPECT_EQ(rows(one.text), one.rows) << one.text;
+    }
 }
 
 TEST_F(Select, LongChainsRunOrAreRefused) {

@@ -38,7 +38,8 @@ int main(int count, char** arguments) {
     const auto session = engine::Session::open(instance, {"", "", arguments[2]});
     std::unique_ptr<engine::RowHold> hold;
     std::string line;
-    while (std::getline(std::cin, line))
+    while (std::getline(std::cin, line)) {
         std::cout << run(*session, line, hold) << std::endl;
+    }
     return 0;
 }

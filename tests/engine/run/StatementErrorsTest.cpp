@@ -2,6 +2,7 @@
 
 #include "engine/NastyStatements.h"
 #include "engine/SessionFixture.h"
+#include "engine/errors/RunErrors.h"
 #include "engine/run/InternalErrors.h"
 #include "engine/store/Sqlite.h"
 
@@ -79,8 +80,9 @@ TEST_F(StatementErrors, AnAggregateMayStandWhereNoItemAggregates) {
     for (const char* text :
          {"select a from g where sum(c) > 1", "select a from g where a = (select sum(g.c))", "update g set c = sum(a)",
           "delete from g where count(*) = 1", "select 1 from g join g as x on sum(g.c) = 1",
-          "select (select sum(g.c) from g as x) from g"})
+          "select (select sum(g.c) from g as x) from g"}) {
         EXPECT_EQ(rows(text).substr(0, 5), "!147 ") << text;
+    }
     EXPECT_EQ(rows("select count(*) from g"), "2");
 }
 
@@ -231,13 +233,16 @@ TEST_F(StatementErrors, WhatNobodyShouldWriteHasRowsOrAServersError) {
     std::vector<std::string> texts(std::begin(samples::kNasty), std::end(samples::kNasty));
     const auto repeated = [](const std::string& part, int times) {
         std::string all;
-        while (times-- > 0)
+        while (times-- > 0) {
             all += part;
+        }
         return all;
     };
     constexpr int kDeep = 3000;
-    for (const char* part : {"(", "-(", "not (", "(select ", "case when 1 = 1 then ", "isnull(1, ", "cast(", "upper("})
+    for (const char* part :
+         {"(", "-(", "not (", "(select ", "case when 1 = 1 then ", "isnull(1, ", "cast(", "upper("}) {
         texts.push_back("select " + repeated(part, kDeep) + "1" + repeated(")", kDeep));
+    }
     texts.push_back("select 1" + repeated(" + 1", kDeep));
     texts.push_back("select 1" + repeated(" union select 1", kDeep));
     texts.push_back("select 1 where 1 = 1" + repeated(" and 1 = 1", kDeep));
@@ -254,10 +259,12 @@ TEST_F(StatementErrors, WhatNobodyShouldWriteHasRowsOrAServersError) {
     texts.push_back("create table [a" + std::string(1, '\0') + "b] (a int)");
     texts.push_back("select 'a" + std::string(1, '\0') + "b', len('a" + std::string(1, '\0') + "b')");
     for (const std::string& text : texts) {
-        for (int run = 0; run < 2; ++run) // planned, then from the cache
+        for (int run = 0; run < 2; ++run) { // planned, then from the cache
             EXPECT_EQ(answer(text).find("!8630"), std::string::npos) << text.substr(0, 200);
-        while (rows("select @@trancount") != "0")
+        }
+        while (rows("select @@trancount") != "0") {
             this->run("rollback");
+        }
         ASSERT_EQ(rows("select 1"), "1") << "after " << text.substr(0, 200);
     }
     EXPECT_EQ(session->database(), "prova");
@@ -296,7 +303,7 @@ TEST_F(StatementErrors, WhatTheMachineRefusesIsNoInternalError) {
     EXPECT_EQ(answerOf(sqlite::Failure(SQLITE_IOERR, "disk I/O error")), 823);
     EXPECT_EQ(answerOf(sqlite::Failure(SQLITE_FULL, "database or disk is full")), 1105);
     EXPECT_EQ(answerOf(sqlite::Failure(SQLITE_BUSY, "database is locked")), 1222);
-    EXPECT_EQ(answerOf(Error(208, "x")), 208);
+    EXPECT_EQ(answerOf(errors::invalidObject("x")), 208);
 }
 
 } // namespace

@@ -41,7 +41,7 @@ TEST_F(Write, RefusalsHaveTheServersWords) {
         const char* answer;
     };
     run("insert into voci (codice) values ('a'), ('b')");
-    constexpr Case cases[] = {
+    constexpr Case kCases[] = {
         {"insert into voci (codice) values ('troppo lungo')", "!8152 String or binary data would be truncated."},
         {"insert into voci (codice) values (null)",
          "!515 Cannot insert the value NULL into column 'codice', table 'prova.dbo.voci'; column does not allow nulls."
@@ -74,8 +74,9 @@ TEST_F(Write, RefusalsHaveTheServersWords) {
         {"update voci set quante = 2147483647 + 1",
          "!8115 Arithmetic overflow error converting expression to data type int."},
     };
-    for (const Case& one : cases)
+    for (const Case& one : kCases) {
         EXPECT_EQ(answer(one.text), one.answer) << one.text;
+    }
 }
 
 TEST_F(Write, ValuesTakeTheTypeOfTheirColumn) {
@@ -100,8 +101,9 @@ TEST_F(Write, AFailingUpdateOfManyRowsChangesNothing) {
 
 TEST_F(Write, AThousandRowsAreTheMostOfOneStatement) {
     std::string text = "insert into righe values (1, 1)";
-    for (int i = 1; i < 1000; ++i)
+    for (int i = 1; i < 1000; ++i) {
         text += ",(1, 1)";
+    }
     EXPECT_EQ(answer(text), "(1000)");
     EXPECT_EQ(answer(text + ",(1, 1)").substr(0, 7), "!10738 ");
 }
@@ -117,8 +119,9 @@ TEST_F(Write, AnUpdateTellsItsRows) {
 
 TEST_F(Write, StatementsOfOneShapeKeepTheirOwnLiterals) {
     for (const char* text : {"insert into righe (a, b) values (1, 10)", "insert into righe (a, b) values (2, 20)",
-                             "insert into righe (a, b) values ('3', 30)"})
+                             "insert into righe (a, b) values ('3', 30)"}) {
         EXPECT_EQ(answer(text), "(1)");
+    }
     EXPECT_EQ(answer("update righe set b = 11 where a = 1"), "(1)");
     EXPECT_EQ(answer("update righe set b = 22 where a = 2"), "(1)");
     EXPECT_EQ(rows("select a, b from righe order by 1"), "1|11\n2|22\n3|30");

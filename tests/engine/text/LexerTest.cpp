@@ -89,8 +89,9 @@ INSTANTIATE_TEST_SUITE_P(
 
 TEST(Lexer, AcceptsNamesOfTheGreatestLengthInCharacters) {
     std::string name;
-    for (int i = 0; i < 128; ++i)
+    for (int i = 0; i < 128; ++i) {
         name += "à";
+    }
     EXPECT_EQ(valueOf(tokenize("[" + name + "]")[0]), name);
     EXPECT_EQ(valueOf(tokenize(name)[0]), name);
 }
@@ -116,14 +117,14 @@ TEST(Lexer, NumbersEndWhereLettersBegin) {
 TEST(Keywords, AreFoundInAnyCaseAndNothingElseIs) {
     EXPECT_EQ(keywordOf("identity_insert"), Keyword::IdentityInsert);
     EXPECT_EQ(keywordOf("Add"), Keyword::Add);
-    EXPECT_EQ(keywordOf("WRITETEXT"), Keyword::Writetext);
-    EXPECT_EQ(textOf(Keyword::CurrentTimestamp), "CURRENT_TIMESTAMP");
-    EXPECT_EQ(textOf(Keyword::None), "");
+    EXPECT_EQ(keywordOf("WRITETEXT"), Keyword::Reserved);
+    EXPECT_EQ(keywordOf("current_timestamp"), Keyword::CurrentTimestamp);
     for (const char* word :
          {"",     "x",    "Version", "Description", "Type",   "Number",  "id",
           "Note", "Area", "name",    "filename",    "ultimo", "Via",     "Nome",
-          "Cab",  "log",  "cast",    "go",          "selec",  "selects", "a_word_that_is_longer_than_any_keyword"})
+          "Cab",  "log",  "cast",    "go",          "selec",  "selects", "a_word_that_is_longer_than_any_keyword"}) {
         EXPECT_EQ(keywordOf(word), Keyword::None) << word;
+    }
 }
 
 TEST(Shape, LeavesTheLiteralsOut) {

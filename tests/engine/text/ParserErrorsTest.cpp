@@ -128,8 +128,9 @@ constexpr const char* kTooDeep = "191 Some part of your SQL statement is nested 
 
 std::string repeated(const std::string& text, int times) {
     std::string all;
-    for (int i = 0; i < times; ++i)
+    for (int i = 0; i < times; ++i) {
         all += text;
+    }
     return all;
 }
 

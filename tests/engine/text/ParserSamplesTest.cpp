@@ -45,11 +45,13 @@ TEST_P(Sample, CutAnywhereParsesOrIsRefused) {
 }
 
 TEST_P(Sample, HasOneShapeWhateverItsBlanks) {
-    if (GetParam().parseError != 0)
+    if (GetParam().parseError != 0) {
         return;
+    }
     std::string stretched;
-    for (const Token& token : tokenize(GetParam().text))
+    for (const Token& token : tokenize(GetParam().text)) {
         stretched.append(" \r\n\t").append(token.text);
+    }
     EXPECT_EQ(shapeOf(stretched).key, shapeOf(GetParam().text).key);
     EXPECT_EQ(print(parse(stretched)), print(parse(GetParam().text)));
 }
@@ -64,8 +66,9 @@ std::vector<std::pair<std::string, int>> literalsOf(const Expression& expression
         found.emplace_back(literal->text, literal->index);
     } else if (const auto* binary = std::get_if<Binary>(&expression.node)) {
         found = literalsOf(*binary->left);
-        for (auto& right : literalsOf(*binary->right))
+        for (auto& right : literalsOf(*binary->right)) {
             found.push_back(std::move(right));
+        }
     } else if (const auto* conversion = std::get_if<Conversion>(&expression.node)) {
         found = literalsOf(*conversion->operand);
     }
@@ -78,13 +81,15 @@ TEST(Literals, AreNumberedAsInTheShape) {
     const BatchTree batch = parse(text);
     const auto& core = std::get<Select>(batch.statements.front()->node).cores.front();
     auto literals = literalsOf(*core.items.front().expression);
-    for (auto& literal : literalsOf(*core.where))
+    for (auto& literal : literalsOf(*core.where)) {
         literals.push_back(std::move(literal));
+    }
     const Shape shape = shapeOf(text);
     ASSERT_EQ(shape.literals.size(), 8U);
     ASSERT_EQ(literals.size(), 5U);
-    for (const auto& [value, index] : literals)
+    for (const auto& [value, index] : literals) {
         EXPECT_EQ(shape.literals.at(static_cast<std::size_t>(index)).text, value);
+    }
 }
 
 TEST(Literals, AreNumberedAnewInEveryStatement) {

@@ -49,10 +49,12 @@ struct Printer {
     std::string operator()(const In& in) const {
         ListText list(in.negated ? "not-in" : "in");
         list.add(in.operand);
-        for (const auto& value : in.list)
+        for (const auto& value : in.list) {
             list.add(value);
-        if (in.select)
+        }
+        if (in.select) {
             list.add(print(*in.select));
+        }
         return list.text();
     }
     std::string operator()(const Exists& exists) const { return ListText("exists").add(print(*exists.select)).text(); }
@@ -62,22 +64,25 @@ struct Printer {
     std::string operator()(const Case& node) const {
         ListText list("case");
         list.add(node.operand);
-        for (const auto& branch : node.branches)
+        for (const auto& branch : node.branches) {
             list.add(ListText("when").add(branch.when).add(branch.then).text());
+        }
         return list.add("else", node.otherwise).text();
     }
     std::string operator()(const Call& call) const {
         ListText list("call");
         list.add(call.function).addIf(call.star, "*").addIf(call.distinct, "distinct");
-        for (const auto& argument : call.arguments)
+        for (const auto& argument : call.arguments) {
             list.add(argument);
+        }
         return list.text();
     }
     std::string operator()(const Conversion& conversion) const {
         ListText list(conversion.isCast ? "cast" : "convert");
         list.add(toText(conversion.type)).add(conversion.operand);
-        if (conversion.style)
+        if (conversion.style) {
             list.add(std::to_string(*conversion.style));
+        }
         return list.text();
     }
     std::string operator()(const ServerVariable& variable) const { return "@@" + variable.name; }
@@ -87,8 +92,9 @@ struct Printer {
 
 std::string print(const Name& name) {
     std::string text;
-    for (const std::string& piece : name.pieces)
+    for (const std::string& piece : name.pieces) {
         text += (text.empty() && &piece == &name.pieces.front() ? "" : ".") + piece;
+    }
     return text;
 }
 

@@ -13,8 +13,9 @@ struct Printer {
     std::string operator()(const NamedTable& table) const {
         ListText list("table");
         list.add(print(table.name)).addIf(!table.alias.empty(), table.alias);
-        for (const auto& hint : table.hints)
+        for (const auto& hint : table.hints) {
             list.add(ListText("hint").add(hint).text());
+        }
         return list.text();
     }
     std::string operator()(const DerivedTable& table) const {
@@ -30,10 +31,12 @@ struct Printer {
 };
 
 std::string print(const SelectItem& item) {
-    if (item.starOf)
+    if (item.starOf) {
         return item.starOf->pieces.empty() ? "*" : print(*item.starOf) + ".*";
-    if (item.alias.empty())
+    }
+    if (item.alias.empty()) {
         return print(*item.expression);
+    }
     return ListText("as").add(item.alias).add(item.expression).text();
 }
 
@@ -50,21 +53,25 @@ std::string print(const OrderItem& item) {
 std::string print(const SelectCore& core) {
     ListText list("select");
     list.addIf(core.distinct, "distinct");
-    if (core.top)
+    if (core.top) {
         list.add(ListText("top").add(std::to_string(*core.top)).text());
-    for (const auto& item : core.items)
+    }
+    for (const auto& item : core.items) {
         list.add(print(item));
+    }
     if (!core.from.empty()) {
         ListText from("from");
-        for (const auto& source : core.from)
+        for (const auto& source : core.from) {
             from.add(print(*source));
+        }
         list.add(from.text());
     }
     list.add("where", core.where);
     if (!core.groupBy.empty()) {
         ListText groupBy("group-by");
-        for (const auto& expression : core.groupBy)
+        for (const auto& expression : core.groupBy) {
             groupBy.add(expression);
+        }
         list.add(groupBy.text());
     }
     return list.add("having", core.having).text();
@@ -72,14 +79,17 @@ std::string print(const SelectCore& core) {
 
 std::string print(const Select& select) {
     std::string text = print(select.cores.front());
-    for (std::size_t i = 1; i < select.cores.size(); ++i)
+    for (std::size_t i = 1; i < select.cores.size(); ++i) {
         text = ListText(select.unionAll[i - 1] ? "union-all" : "union").add(text).add(print(select.cores[i])).text();
-    if (select.orderBy.empty())
+    }
+    if (select.orderBy.empty()) {
         return text;
+    }
     ListText ordered("order-by");
     ordered.add(text);
-    for (const auto& item : select.orderBy)
+    for (const auto& item : select.orderBy) {
         ordered.add(print(item));
+    }
     return ordered.text();
 }
 

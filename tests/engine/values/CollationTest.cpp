@@ -50,7 +50,7 @@ TEST(Comparison, FollowsTheCollation) {
     }
 }
 
-/// The same question put to the library alone.
+/// What the library alone answers, without the ranks of ASCII.
 int compareByLibrary(std::string left, std::string right) {
     UErrorCode status = U_ZERO_ERROR;
     static const std::unique_ptr<UCollator, decltype(&ucol_close)> collator = [] {

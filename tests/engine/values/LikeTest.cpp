@@ -122,7 +122,7 @@ TEST(Like, ManyWildcardsDoNotExplode) {
     EXPECT_FALSE(like(text, pattern + "%b"));
 }
 
-/// The meaning of `%` and `_` told in the shortest way.
+/// The meaning of `%` and `_` by the simplest algorithm.
 bool plainly(std::string_view text, std::string_view pattern) {
     if (pattern.empty()) {
         return text.find_first_not_of(' ') == std::string_view::npos;

@@ -11,35 +11,35 @@ namespace vabo {
 namespace {
 
 // The driver manager's text.
-constexpr const char* kSenzaDriver = "Can't open lib 'SQL Server' : file not found";
+constexpr const char* kNoDriver = "Can't open lib 'SQL Server' : file not found";
 
 /// Gives the driver manager an empty folder as its configuration, for the whole process, since it looks for it once.
-class SenzaDriver : public FormTest {
+class NoDriver : public FormTest {
 protected:
     static void SetUpTestSuite() {
-        registro_ = std::make_unique<support::TemporaryFolder>();
-        qputenv("ODBCSYSINI", registro_->path().c_str());
+        registry_ = std::make_unique<support::TemporaryFolder>();
+        qputenv("ODBCSYSINI", registry_->path().c_str());
     }
-    static void TearDownTestSuite() { registro_.reset(); }
+    static void TearDownTestSuite() { registry_.reset(); }
 
 private:
-    static inline std::unique_ptr<support::TemporaryFolder> registro_;
+    static inline std::unique_ptr<support::TemporaryFolder> registry_;
 };
 
-TEST_F(SenzaDriver, TheStartSaysSoAndEnds) {
-    const std::string indirizzo = *workstation.fileText("C:\\vabo\\IndirizzoServer.txt");
-    script.expectMessage(kSenzaDriver);
+TEST_F(NoDriver, TheStartSaysSoAndEnds) {
+    const std::string address = *workstation.fileText("C:\\vabo\\IndirizzoServer.txt");
+    script.expectMessage(kNoDriver);
     EXPECT_TRUE(end.endedBy([&] { gui.forms().show("Avvio"); }));
     EXPECT_EQ(gui.visibleForms(), "");
-    EXPECT_EQ(*workstation.fileText("C:\\vabo\\IndirizzoServer.txt"), indirizzo);
+    EXPECT_EQ(*workstation.fileText("C:\\vabo\\IndirizzoServer.txt"), address);
     EXPECT_FALSE(std::filesystem::exists(workstation.dataSourceFile()));
 }
 
-TEST_F(SenzaDriver, TheTemporaryDatabaseStaysShutWithoutAWord) {
+TEST_F(NoDriver, TheTemporaryDatabaseStaysShutWithoutAWord) {
     EXPECT_FALSE(ApriDbTemp());
 }
 
-TEST_F(SenzaDriver, ACompanyAskedForByItsNumberCanNotBeLoaded) {
+TEST_F(NoDriver, ACompanyAskedForByItsNumberCanNotBeLoaded) {
     NomeTerminale = support::kTerminalName;
     IdAziendaScelta = idOf(support::kCompany);
     script.expectMessage("Non è possibile caricare il DataBase");

@@ -1,0 +1,39 @@
+#pragma once
+
+#include "controls/Disabled.h"
+#include "controls/Hourglass.h"
+#include "locks/Avanzamento.h"
+
+#include <QElapsedTimer>
+
+namespace controls {
+class ProgressBar;
+}
+
+namespace vabo {
+
+/// A lock on the screen, for as long as it runs: its bar is seen and moves, and what the user does at the form
+/// meanwhile is dropped.
+class Corsa : public Avanzamento {
+public:
+    /// The bar as it is between two runs: unseen, its room kept.
+    static void Nascondi(controls::ProgressBar& barra);
+
+    Corsa(QWidget& form, controls::ProgressBar& barra);
+    ~Corsa() override;
+
+    void Porta(double parte) override;
+    void Comincia(long passi) override;
+    void Avanza() override;
+
+private:
+    void Mostra();
+
+    controls::Disabled ferma_;
+    controls::Hourglass clessidra_;
+    controls::ProgressBar& barra_;
+    double passo_ = 0;
+    QElapsedTimer mostrata_;
+};
+
+} // namespace vabo

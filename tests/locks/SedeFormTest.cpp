@@ -1,0 +1,323 @@
+#include "locks/BlocchiForm.h"
+#include "support/DialogScript.h"
+
+#include <gmock/gmock.h>
+
+#include <cmath>
+
+namespace vabo {
+namespace {
+
+using libro::alle;
+using libro::Libro;
+
+constexpr const char* kPrimaDelBilancio = "Data inferiore alla data del Bilancio";
+
+std::string domanda(const std::string& data) {
+    return "Blocco la contabilità sino alla data " + data + " ?";
+}
+
+class BranchForm : public BlocchiForm {
+protected:
+    BranchForm() : BlocchiForm("Scegli_sede_Pd", "DataInizio") { ado::setToday(ado::Date::of(2026, 5, 5)); }
+    std::string dataDellaSede() const {
+        return valore("select idDatainvio from ElencoSedi where IdSede = " + std::to_string(kSede));
+    }
+    support::DialogScript script;
+};
+
+TEST_F(BranchForm, HasItsTitleAndItsControls) {
+    apri();
+    EXPECT_EQ(gui.form(form).windowTitle(), "Tlv - Aldane Works Software Solutions - Ver.Nr. 1.2.3");
+    EXPECT_EQ(pagina.text("titolo"), "Sblocca Sede");
+    EXPECT_EQ(pagina.text("Label1"), "Sede");
+    EXPECT_EQ(pagina.text("Label2"), "Data Blocco Finale");
+    EXPECT_EQ(gui.mnemonics(form), "BC");
+    EXPECT_EQ(elenco().accessibleName(), "Sede");
+    EXPECT_EQ(data().accessibleName(), "Data Blocco Finale");
+    EXPECT_EQ(fuoco(), "Combo1");
+    aspettaVuota();
+}
+
+TEST_F(BranchForm, ListsTheBranchesByTownWithTheirStates) {
+    esegui("update ElencoSedi set città = null where IdSede = 7");
+    const support::StatementRecorder recorder;
+    apri();
+    EXPECT_EQ(recorder.texts(),
+              std::vector<std::string>{"Select E.idsede,E.città,S.descstato from elencosedi AS E left "
+                                       "join stati AS S on E.idstato=S.idstato order by città"});
+    EXPECT_THAT(voci(), testing::ElementsAre("   -   Albania", "La Paz   -   Bolivia", "Magazzino mobile   -   ",
+                                             "Maputo   -   Mozambico", "Milano   -   Italia", "Nairobi   -   Kenya",
+                                             "Roma   -   Italia", "Torino   -   Italia"));
+    EXPECT_EQ(elenco().itemData(5), 4);
+}
+
+TEST_F(BranchForm, ABranchPickedShowsItsDateReadyToBeTypedOver) {
+    apri();
+    const support::StatementRecorder recorder;
+    prendi(kSede);
+    EXPECT_EQ(recorder.texts(), std::vector<std::string>{"SELECT  iddatainvio From  elencosedi   Where  idsede = 4"});
+    EXPECT_EQ(testo(), "31/03/2024");
+    EXPECT_EQ(fuoco(), "DataInizio");
+    EXPECT_TRUE(tuttoScelto());
+}
+
+TEST_F(BranchForm, ABranchWithoutADateLeavesTheTextAsItIs) {
+    apri();
+    prendi(kSede);
+    prendi(1);
+    EXPECT_EQ(testo(), "31/03/2024") << "the one of the branch before";
+    EXPECT_EQ(fuoco(), "DataInizio");
+}
+
+TEST_F(BranchForm, TheDateIsReadWheneverTheFocusComesBack) {
+    apri();
+    prendi(kSede);
+    digita("01/06/2024");
+    gui.press(Qt::Key_Tab);
+    EXPECT_EQ(fuoco(), "Command1");
+    EXPECT_EQ(testo(), "01/06/2024");
+    gui.press(Qt::Key_Backtab);
+    EXPECT_EQ(testo(), "31/03/2024");
+    EXPECT_TRUE(tuttoScelto());
+}
+
+TEST_F(BranchForm, WithoutABranchTheDateAsksNothing) {
+    apri();
+    const support::StatementRecorder recorder;
+    for (const Qt::Key tasto : {Qt::Key_Return, Qt::Key_Tab}) {
+        elenco().setFocus();
+        gui.press(tasto);
+        EXPECT_EQ(fuoco(), "DataInizio");
+    }
+    EXPECT_TRUE(recorder.texts().empty());
+}
+
+TEST_F(BranchForm, AGoodDateAfterTheBalanceLeadsToTheRun) {
+    apri();
+    const std::pair<const char*, const char*> date[] = {
+        {"010124", "01/01/2024"}, {"31122024", "31/12/2024"}, {"12/12/2024", "12/12/2024"}, {"1/2/2024", "1/2/2024"}};
+    for (const auto& [digitata, scritta] : date) {
+        digita(digitata);
+        gui.press(Qt::Key_Return);
+        EXPECT_EQ(testo(), scritta);
+        EXPECT_EQ(fuoco(), "Command1") << digitata << ": the last one is refused, and compared all the same";
+    }
+}
+
+TEST_F(BranchForm, EnterRefusesADateBeforeTheBalanceAndTheBalanceItself) {
+    apri();
+    for (const char* digitata : {"30/12/2023", "31/12/2023", "311223"}) {
+        digita(digitata);
+        script.expectMessage(kPrimaDelBilancio);
+        gui.press(Qt::Key_Return);
+        EXPECT_TRUE(script.allShown());
+        EXPECT_EQ(fuoco(), "DataInizio") << digitata;
+    }
+    EXPECT_EQ(testo(), "31/12/2023");
+}
+
+TEST_F(BranchForm, TabIsNoEndOfTheDate) {
+    apri();
+    digita("30/12/2023");
+    gui.press(Qt::Key_Tab);
+    EXPECT_EQ(testo(), "30/12/2023");
+    EXPECT_EQ(fuoco(), "Command1");
+}
+
+TEST_F(BranchForm, ATextThatIsNoDateIsSelectedAndTheComparisonToldAsItFails) {
+    apri();
+    for (const char* digitata : {"", "32012024", "31/04/2024", "aabb"}) {
+        digita(digitata);
+        script.expectMessage("Type mismatch");
+        gui.press(Qt::Key_Return);
+        EXPECT_TRUE(script.allShown()) << digitata;
+        EXPECT_EQ(testo(), digitata);
+        EXPECT_EQ(fuoco(), "DataInizio");
+        EXPECT_TRUE(tuttoScelto()) << digitata;
+    }
+}
+
+TEST_F(BranchForm, WithoutABranchOrADateTheRunAsksNothing) {
+    apri();
+    digita("31/03/2024");
+    const support::StatementRecorder recorder;
+    premi("Command1");
+    prendi(kSede);
+    for (const char* niente : {"", " ", "00", "0,00"}) {
+        digita(niente);
+        premi("Command1");
+    }
+    EXPECT_TRUE(recorder.holding("update").empty());
+}
+
+TEST_F(BranchForm, NoLeavesAllAsItIs) {
+    metti({{.id = 1, .transazione = alle("2023-05-02")}});
+    const auto prima = letto();
+    apri();
+    prendi(kSede);
+    script.expectQuestion(domanda("31/03/2024"), false);
+    premi("Command1");
+    EXPECT_EQ(letto(), prima);
+    EXPECT_EQ(testo(), "31/03/2024");
+    EXPECT_EQ(elenco().ItemData(), kSede);
+}
+
+TEST_F(BranchForm, YesLocksTellsNothingAndEmptiesTheForm) {
+    const Libro righe = {{.id = 1, .transazione = alle("2023-05-02")},
+                         {.id = 2, .numero = 2, .transazione = alle("2024-05-02"), .definito = -1},
+                         {.id = 3, .numero = 3, .transazione = alle("2024-06-02"), .seziva = 1},
+                         {.id = 4, .numero = 3, .transazione = alle("2024-06-02"), .competenza = 5}};
+    metti(righe);
+    apri();
+    prendi(kSede);
+    digita("30042024");
+    gui.press(Qt::Key_Return);
+    script.expectQuestion(domanda("30/04/2024"), true);
+    gui.press(Qt::Key_Return);
+    EXPECT_EQ(letto(), testi(dopoLaSede(righe, kSede, alle("2024-04-30"), alle(kBilancio), alle("2024-01-01"),
+                                        contiDelCampione())));
+    EXPECT_EQ(dataDellaSede(), alle("2024-04-30"));
+    aspettaVuota();
+    EXPECT_EQ(fuoco(), "Combo1");
+    premi("Command1"); // none is chosen any more
+    prendi(kSede);
+    EXPECT_EQ(testo(), "30/04/2024") << "the next run";
+}
+
+TEST_F(BranchForm, ADateEqualToTheBalancePassesByAClick) {
+    metti({{.id = 1, .transazione = alle("2024-01-01"), .definito = -1}});
+    apri();
+    prendi(kSede);
+    digita("31/12/2023");
+    script.expectQuestion(domanda("31/12/2023"), true);
+    premi("Command1");
+    EXPECT_EQ(dataDellaSede(), alle("2023-12-31"));
+    EXPECT_EQ(valore("select definito from partitadoppia"), "0");
+}
+
+TEST_F(BranchForm, ADateBeforeTheBalanceIsRefusedAfterTheQuestion) {
+    metti({{.id = 1, .transazione = alle("2023-05-02")}});
+    const auto prima = letto();
+    apri();
+    prendi(kSede);
+    digita("30/12/2023");
+    script.expectQuestion(domanda("30/12/2023"), true);
+    script.expectMessage(kPrimaDelBilancio);
+    premi("Command1");
+    EXPECT_TRUE(script.allShown());
+    EXPECT_EQ(fuoco(), "DataInizio");
+    EXPECT_EQ(letto(), prima);
+    EXPECT_EQ(dataDellaSede(), alle("2024-03-31"));
+    EXPECT_EQ(elenco().ItemData(), kSede);
+}
+
+TEST_F(BranchForm, ATextThatIsNoDateIsAskedForAndNothingElse) {
+    apri();
+    prendi(kSede);
+    digita("31/04/2024");
+    script.expectQuestion(domanda("31/04/2024"), true);
+    const support::StatementRecorder recorder;
+    premi("Command1");
+    EXPECT_TRUE(recorder.texts().empty());
+    EXPECT_EQ(testo(), "31/04/2024");
+}
+
+TEST_F(BranchForm, TheBarTellsThePassesAndThenTheRows) {
+    metti({{.id = 1, .numero = 1, .seziva = 1}, {.id = 2, .numero = 2, .seziva = 1}});
+    apri();
+    prendi(kSede);
+    std::vector<double> passate, righe;
+    const support::SomebodyElse chiunque([&](const std::string& inviata) {
+        if (inviata.starts_with("update partitadoppia set definito = -1 ")) {
+            righe.push_back(barra().Value());
+        } else if (inviata.starts_with("update partita") || inviata.starts_with("select * from partitadoppia")) {
+            passate.push_back(barra().Value());
+        }
+        if (inviata.find("partitadoppia") != std::string::npos) {
+            EXPECT_TRUE(barra().isVisible());
+            EXPECT_FALSE(gui.form(form).isEnabled());
+        }
+    });
+    script.expectQuestion(domanda("31/03/2024"), true);
+    premi("Command1");
+    EXPECT_THAT(passate, testing::ElementsAre(0, 50, 100));
+    EXPECT_THAT(righe, testing::ElementsAre(0, 50));
+}
+
+TEST_F(BranchForm, AFailureIsToldAndTheFormStandsReadyForASecondRun) {
+    metti({{.id = 1, .numero = {}, .transazione = alle("2023-05-02"), .seziva = 1}});
+    apri();
+    prendi(kSede);
+    script.expectQuestion(domanda("31/03/2024"), true);
+    script.expectMessage("Incorrect syntax near the keyword 'and'.");
+    premi("Command1");
+    EXPECT_TRUE(script.allShown());
+    EXPECT_EQ(valore("select definito from partitadoppia"), "-1") << "the passes ahead of it are done";
+    EXPECT_FALSE(barra().isVisible());
+    EXPECT_TRUE(gui.form(form).isEnabled());
+    EXPECT_EQ(elenco().ItemData(), kSede);
+    esegui("update partitadoppia set numerotransazione = 1, datatransazione = '2024-05-02'");
+    script.expectQuestion(domanda("31/03/2024"), true);
+    premi("Command1");
+    EXPECT_EQ(valore("select definito from partitadoppia"), "-1");
+    aspettaVuota();
+}
+
+TEST_F(BranchForm, WithoutTheBalanceADateCanNotBeCompared) {
+    scrivi("drop table contatorepd");
+    apri();
+    prendi(kSede);
+    script.expectMessage("Invalid object name 'contatorepd'.");
+    gui.press(Qt::Key_Return);
+    EXPECT_EQ(fuoco(), "DataInizio");
+    script.expectQuestion(domanda("31/03/2024"), true);
+    script.expectMessage("Invalid object name 'contatorepd'.");
+    premi("Command1");
+    EXPECT_TRUE(script.allShown());
+}
+
+TEST_F(BranchForm, WithoutItsTableItIsToldAndTheListIsEmpty) {
+    scrivi("drop table ElencoSedi");
+    script.expectMessage("Invalid object name 'elencosedi'.");
+    apri();
+    EXPECT_EQ(elenco().count(), 0);
+    EXPECT_EQ(elenco().Text(), "Seleziona");
+    EXPECT_EQ(gui.form(form).windowTitle(), "Tlv - Aldane Works Software Solutions - Ver.Nr. 1.2.3");
+}
+
+TEST_F(BranchForm, ClosesBackToWhatOpenedItAndForgetsItsBranch) {
+    apri();
+    prendi(kSede);
+    premi("Command4");
+    EXPECT_EQ(gui.visibleForms(), "Avvio_Morlan");
+    EXPECT_EQ(PilaForm, (std::vector<std::string>{"Avvio_Azienda", "Avvio_Morlan"}));
+    apri();
+    digita("31/03/2024");
+    premi("Command1"); // asks nothing
+    premi("Command4");
+    EXPECT_EQ(gui.visibleForms(), "Avvio_Morlan");
+}
+
+TEST_F(BranchForm, TheKeyboardAloneDoesItAll) {
+    metti({{.id = 1, .transazione = alle("2023-05-02")}});
+    apri();
+    gui.press(Qt::Key_Down);
+    QTest::keyClick(elenco().view(), 'n');
+    QTest::keyClick(elenco().view(), Qt::Key_Return);
+    pagina.comeToFront();
+    ASSERT_EQ(elenco().Text(), "Nairobi   -   Kenya");
+    gui.type("300424");
+    gui.press(Qt::Key_Return);
+    script.expectQuestion(domanda("30/04/2024"), true);
+    gui.press(Qt::Key_Return);
+    EXPECT_EQ(dataDellaSede(), alle("2024-04-30"));
+    EXPECT_EQ(valore("select definito from partitadoppia"), "-1");
+    gui.press(Qt::Key_Backtab);
+    EXPECT_EQ(fuoco(), "Command4");
+    gui.press(Qt::Key_Return);
+    EXPECT_EQ(gui.visibleForms(), "Avvio_Morlan");
+}
+
+} // namespace
+} // namespace vabo

@@ -2,6 +2,7 @@
 
 #include "ado/Error.h"
 
+#include <algorithm>
 #include <array>
 #include <chrono>
 #include <cmath>
@@ -93,33 +94,50 @@ RowStore::RowStore(const std::vector<FieldDescription>& fields) {
 void RowStore::fetch(DriverResult& result) {
     const int count = static_cast<int>(columns_.size());
     while (result.nextRow()) {
+        Cell* cells = nextRow();
         for (int field = 0; field < count; ++field) {
-            cells_.push_back(read(result, field));
+            cells[field] = read(result, field);
         }
+        ++rows_;
     }
 }
 
 void RowStore::append(const std::vector<Value>& row) {
-    for (const Value& value : row) {
-        cells_.push_back(toCell(value));
-    }
+    std::transform(row.begin(), row.end(), nextRow(), [this](const Value& value) { return toCell(value); });
+    ++rows_;
 }
 
 void RowStore::replace(std::size_t row, int column, const Value& value) {
-    cells_[row * columns_.size() + static_cast<std::size_t>(column)] = toCell(value);
+    blocks_[row / kRowsOfBlock][row % kRowsOfBlock * columns_.size() + static_cast<std::size_t>(column)] =
+        toCell(value);
+}
+
+RowStore::Cell* RowStore::nextRow() {
+    const std::size_t place = rows_ % kRowsOfBlock;
+    if (rows_ / kRowsOfBlock == blocks_.size()) {
+        blocks_.push_back(std::make_unique_for_overwrite<Cell[]>(kRowsOfBlock * columns_.size()));
+    }
+    return &blocks_.back()[place * columns_.size()];
 }
 
 RowStore::Cell RowStore::textCell(std::string_view text) {
-    Cell cell;
+    if (text.size() > textRoom_) {
+        textRoom_ = std::max(kTextBlock, text.size());
+        texts_.push_back(std::make_unique_for_overwrite<char[]>(textRoom_));
+        nextText_ = texts_.back().get();
+    }
+    Cell cell{};
     cell.kind = Kind::Text;
-    cell.offset = texts_.size();
+    cell.text = nextText_;
     cell.length = static_cast<std::uint32_t>(text.size());
-    texts_.append(text);
+    text.copy(nextText_, text.size());
+    nextText_ += text.size();
+    textRoom_ -= text.size();
     return cell;
 }
 
 RowStore::Cell RowStore::read(const DriverResult& result, int field) {
-    Cell cell;
+    Cell cell{};
     if (result.isNull(field)) {
         return cell;
     }
@@ -158,7 +176,7 @@ RowStore::Cell RowStore::read(const DriverResult& result, int field) {
 }
 
 RowStore::Cell RowStore::toCell(const Value& value) {
-    Cell cell;
+    Cell cell{};
     const auto write = [&]<typename T>(const T& content) {
         if constexpr (std::is_same_v<T, std::string>) {
             cell = textCell(content);
@@ -185,7 +203,7 @@ RowStore::Cell RowStore::toCell(const Value& value) {
 
 std::string_view RowStore::text(std::size_t row, int column) const {
     const Cell& found = cell(row, column);
-    return std::string_view(texts_).substr(found.offset, found.length);
+    return {found.text, found.length};
 }
 
 Value RowStore::value(std::size_t row, int column) const {

@@ -14,6 +14,7 @@
 #include <odbcinst.h>
 #include <optional>
 #include <pwd.h>
+#include <set>
 #include <stdexcept>
 #include <string_view>
 #include <unistd.h>
@@ -72,26 +73,51 @@ std::optional<std::string> valueIn(const fs::path& file, const std::string& name
     return value.data();
 }
 
-/// The values that the file doesn't hold yet.
-DataSourceValues missingIn(const fs::path& file, const std::string& name, const DataSourceValues& values) {
-    DataSourceValues missing;
-    // Reading a value would create the file where there is none.
-    const bool exists = fs::exists(file);
-    for (const auto& [key, value] : values) {
-        const std::string stored = storable(value);
-        if (key.size() + stored.size() + std::string_view("=\n").size() > kLongestLine) {
-            throw std::runtime_error("The value of " + key + " is too long for a data source.");
-        }
-        if (!exists || valueIn(file, name, key) != stored) {
-            missing.emplace_back(key, stored);
-        }
-    }
-    return missing;
-}
-
 std::string bytesOf(const fs::path& file) {
     std::ifstream in(file, std::ios::binary);
     return {std::istreambuf_iterator<char>(in), {}};
+}
+
+/// The data sources that the file was found to hold with these values. The library reads the file for each value; as
+/// long as the file's bytes are the same it isn't asked again.
+struct Found {
+    std::string bytes;
+    std::set<std::pair<std::string, DataSourceValues>> sources;
+};
+
+/// The values as they are stored. Throws where a line gets too long.
+DataSourceValues storableOnes(const DataSourceValues& values) {
+    DataSourceValues stored;
+    for (const auto& [key, value] : values) {
+        stored.emplace_back(key, storable(value));
+        if (key.size() + stored.back().second.size() + std::string_view("=\n").size() > kLongestLine) {
+            throw std::runtime_error("The value of " + key + " is too long for a data source.");
+        }
+    }
+    return stored;
+}
+
+/// The values that the file doesn't hold yet.
+DataSourceValues missingIn(const fs::path& file, const std::string& name, const DataSourceValues& values) {
+    static Found found;
+    DataSourceValues missing = storableOnes(values);
+    // Reading a value would create the file where there is none.
+    if (!fs::exists(file)) {
+        return missing;
+    }
+    std::string bytes = bytesOf(file);
+    if (bytes != found.bytes) {
+        found = {std::move(bytes), {}};
+    }
+    std::pair source(name, missing);
+    if (found.sources.contains(source)) {
+        return {};
+    }
+    std::erase_if(missing, [&](const auto& pair) { return valueIn(file, name, pair.first) == pair.second; });
+    if (missing.empty()) {
+        found.sources.insert(std::move(source));
+    }
+    return missing;
 }
 
 } // namespace

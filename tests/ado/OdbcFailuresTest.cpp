@@ -5,6 +5,7 @@
 #include "ado/ExpectError.h"
 #include "ado/Recordset.h"
 #include "ado/TestServer.h"
+#include "support/OneEvent.h"
 
 #include <gtest/gtest.h>
 
@@ -166,6 +167,40 @@ TEST_F(OdbcFailures, ConnectionsKeptForLaterAreNotTrustedWhenTheirServerWasAnoth
     for (Connection& one : more) {
         expectWorks(one);
     }
+}
+
+TEST_F(OdbcFailures, AServerThatWasAnotherAMomentAgoFailsAtMostOnceAndNoWriteRunsTwice) {
+    fill(connection);
+    connection.Close();
+    support::inOneEvent([&] {
+        connection.Open(text());
+        connection.Close();
+        peer.kill();
+        peer.restart();
+        connection.Open(text());
+        const auto write = [&] { connection.Execute("insert into Prova (n) values (2)"); };
+        if (const auto error = errorOf(write)) {
+            EXPECT_EQ(error->description(), kLinkFailure);
+            write();
+        }
+        connection.Close();
+        expectWorks(connection);
+    });
+    EXPECT_EQ(connection.Execute("update Prova set t = 'x'"), 2);
+}
+
+TEST_F(OdbcFailures, AServerThatHasJustFallenSilentIsAskedWhetherItLives) {
+    fill(connection);
+    connection.Close();
+    support::inOneEvent([&] {
+        connection.Open(text());
+        peer.freeze();
+        EXPECT_TRUE(errorOf([&] { connection.Execute("update Prova set n = 1"); }));
+        connection.Close();
+        expectOutOfReach(text());
+        peer.thaw();
+    });
+    expectWorks(connection);
 }
 
 TEST_F(OdbcFailures, AHoldWhoseServerEndedIsGivenUpWithoutWaiting) {

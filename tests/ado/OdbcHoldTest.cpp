@@ -3,12 +3,14 @@
 
 #include "ado/Recordset.h"
 #include "ado/TestServer.h"
+#include "support/OneEvent.h"
 
 #include <QLoggingCategory>
 
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <cstdlib>
 #include <string>
 #include <vector>
 
@@ -50,6 +52,12 @@ constexpr const char* kBegin =
     "SET LOCK_TIMEOUT 0; BEGIN TRANSACTION; SELECT [n] FROM [Prova] WITH (UPDLOCK, ROWLOCK) WHERE [n] = 1";
 constexpr const char* kEnd = "IF @@TRANCOUNT > 0 COMMIT TRANSACTION; SET LOCK_TIMEOUT 5000";
 
+/// Whether the driver manager keeps the connections of this process.
+bool keepsConnections() {
+    const char* drivers = std::getenv("ODBCSYSINI");
+    return drivers != nullptr && std::string_view(drivers).ends_with("keeping");
+}
+
 class OdbcHolds : public ::testing::Test {
 protected:
     OdbcHolds() {
@@ -73,6 +81,28 @@ TEST_F(OdbcHolds, AConnectionWaitsForOthersLessThanItsStatementsMayTake) {
     Connection patient;
     patient.Open(server.connectionString() + ";Connect Timeout=2147483647");
     EXPECT_EQ(sent.count("SET LOCK_TIMEOUT 28800000"), 1) << "a day at the longest";
+}
+
+TEST_F(OdbcHolds, AKeptConnectionIsPreparedOnceAnEvent) {
+    const auto reopen = [&](const std::string& more = {}) {
+        connection.Close();
+        connection.Open(server.connectionString() + more);
+    };
+    support::inOneEvent([&] {
+        const SentTexts sent;
+        reopen();
+        EXPECT_EQ(sent.count(kWait), 1) << "the server may have gone since the event before";
+        reopen();
+        reopen();
+        EXPECT_EQ(sent.count(kWait), keepsConnections() ? 1 : 3);
+        reopen(";Connect Timeout=3");
+        EXPECT_EQ(sent.count("SET LOCK_TIMEOUT 1000"), 1);
+        reopen();
+        EXPECT_EQ(sent.count(kWait), keepsConnections() ? 2 : 4);
+    });
+    const SentTexts sent;
+    reopen();
+    EXPECT_EQ(sent.count(kWait), 1);
 }
 
 TEST_F(OdbcHolds, OnlyAHeldRowIsRefusedAtOnce) {

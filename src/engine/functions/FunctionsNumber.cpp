@@ -1,5 +1,4 @@
 #include "engine/errors/Error.h"
-#include "engine/errors/FunctionErrors.h"
 #include "engine/errors/ValueErrors.h"
 #include "engine/functions/FunctionRows.h"
 #include "engine/values/Ascii.h"

@@ -7,9 +7,27 @@
 namespace engine {
 
 Database::Database(DatabaseEntry entry)
-    : entry_(std::move(entry)), connection_(entry_.file, false), catalog_(connection_), locks_(entry_.file) {
+    : entry_(std::move(entry)),
+      connection_(entry_.file, false),
+      catalog_(connection_),
+      locks_(std::in_place, entry_.file) {
     connection_.lockBy("UPDATE main._vabo_identity SET next = next WHERE 0");
     registerFunctions(connection_, functions_);
+}
+
+bool Database::leave() {
+    locks_.reset();
+    catalog_.forgetGiven();
+    functions_ = {};
+    return connection_.isIdle();
+}
+
+bool Database::enter() {
+    if (connection_.isMoved()) {
+        return false;
+    }
+    locks_.emplace(entry_.file);
+    return true;
 }
 
 void Database::refresh() {

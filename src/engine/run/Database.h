@@ -9,6 +9,8 @@
 #include "engine/store/RowLocks.h"
 #include "engine/store/Sqlite.h"
 
+#include <optional>
+
 namespace engine {
 
 class Database {
@@ -19,9 +21,14 @@ public:
     const std::string& name() const { return entry_.name; }
     sqlite::Connection& connection() { return connection_; }
     Catalog& catalog() { return catalog_; }
-    RowLocks& locks() { return locks_; }
+    RowLocks& locks() { return *locks_; }
     StatementCache& cache() { return cache_; }
     FunctionContext& functions() { return functions_; }
+
+    /// Its session ends: gives up all that was the session's. False where it can't serve another one.
+    bool leave();
+    /// Another session begins to use it. False where the file has gone or is another one by now.
+    bool enter();
 
     /// Before each statement: forgets the plans that a change of the schema made wrong.
     void refresh();
@@ -36,7 +43,7 @@ private:
     FunctionContext functions_;
     sqlite::Connection connection_;
     Catalog catalog_;
-    RowLocks locks_;
+    std::optional<RowLocks> locks_; ///< nothing between two sessions
     StatementCache cache_;
 };
 

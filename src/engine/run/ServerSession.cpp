@@ -17,17 +17,18 @@ constexpr std::string_view kMaster = "master";
 
 } // namespace
 
-std::unique_ptr<Session> Session::open(std::shared_ptr<Instance> instance, const Login& login) {
+std::unique_ptr<Session> Session::open(std::shared_ptr<Instance> instance, const Login& login,
+                                       std::shared_ptr<KeptDatabases> kept) {
     return answered([&]() -> std::unique_ptr<Session> {
         if (!login.user.empty() && !instance->authenticates(login.user, login.password)) {
             throw errors::loginFailed(login.user);
         }
-        return std::make_unique<ServerSession>(std::move(instance), login);
+        return std::make_unique<ServerSession>(std::move(instance), login, std::move(kept));
     });
 }
 
-ServerSession::ServerSession(std::shared_ptr<Instance> instance, Login login)
-    : instance_(std::move(instance)), login_(std::move(login)) {
+ServerSession::ServerSession(std::shared_ptr<Instance> instance, Login login, std::shared_ptr<KeptDatabases> kept)
+    : instance_(std::move(instance)), login_(std::move(login)), kept_(std::move(kept)) {
     const std::string name = login_.database.empty() ? std::string(kMaster) : login_.database;
     current_ = open(name);
     if (current_ == nullptr) {
@@ -37,6 +38,15 @@ ServerSession::ServerSession(std::shared_ptr<Instance> instance, Login login)
 
 ServerSession::~ServerSession() {
     stopBatch();
+    // Plans that were made under IDENTITY_INSERT are this session's alone.
+    if (kept_ == nullptr || !identityInsert.empty()) {
+        return;
+    }
+    transactionHolds_.clear();
+    current_.reset();
+    for (auto& [key, database] : databases_) {
+        kept_->keep(std::move(database));
+    }
 }
 
 void ServerSession::stopBatch() {
@@ -60,13 +70,18 @@ std::shared_ptr<Database> ServerSession::open(std::string_view name) {
     }
     std::shared_ptr<Database> database;
     try {
-        database = std::make_shared<Database>(*entry);
+        database = opened(*entry);
     } catch (const sqlite::Failure&) {
         return nullptr; // it is registered, but its file can't be opened
     }
     database->functions().fact = [this](Fact fact, const Scalar& argument) { return this->fact(fact, argument); };
     databases_.emplace(key, database);
     return database;
+}
+
+std::shared_ptr<Database> ServerSession::opened(const DatabaseEntry& entry) {
+    std::shared_ptr<Database> database = kept_ == nullptr ? nullptr : kept_->take(entry);
+    return database != nullptr ? database : std::make_shared<Database>(entry);
 }
 
 void ServerSession::use(std::string_view name) {

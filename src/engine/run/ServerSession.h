@@ -4,6 +4,7 @@
 
 #include "engine/run/Database.h"
 #include "engine/run/InternalErrors.h"
+#include "engine/run/KeptDatabases.h"
 #include "engine/run/Session.h"
 #include "engine/text/Tree.h"
 
@@ -19,7 +20,7 @@ class BatchRun;
 
 class ServerSession final : public Session {
 public:
-    ServerSession(std::shared_ptr<Instance> instance, Login login);
+    ServerSession(std::shared_ptr<Instance> instance, Login login, std::shared_ptr<KeptDatabases> kept);
     ~ServerSession() override;
 
     std::unique_ptr<Batch> execute(std::string_view text) override {
@@ -77,8 +78,11 @@ private:
     std::unique_ptr<RowHold> holdRows(const Select& select);
     void takeBack(Database& database);
 
+    std::shared_ptr<Database> opened(const DatabaseEntry& entry);
+
     std::shared_ptr<Instance> instance_;
     Login login_;
+    std::shared_ptr<KeptDatabases> kept_;
     std::map<std::string, std::shared_ptr<Database>> databases_; ///< by the collation's key of the name
     std::shared_ptr<Database> current_;
     BatchRun* running_ = nullptr;

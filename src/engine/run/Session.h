@@ -12,6 +12,7 @@
 namespace engine {
 
 class Instance;
+class KeptDatabases;
 
 /// What a client may read while it walks the results of a batch.
 struct Message {
@@ -62,8 +63,10 @@ struct Login {
 /// A connection to an instance. One thread at a time.
 class Session {
 public:
-    /// Throws Error 18456 for a login that the instance does not know, 4060 for a missing database.
-    static std::unique_ptr<Session> open(std::shared_ptr<Instance> instance, const Login& login);
+    /// Throws Error 18456 for a login that the instance does not know, 4060 for a missing database. `kept`: where the
+    /// session finds databases that are open already, and leaves its own; nullptr for none.
+    static std::unique_ptr<Session> open(std::shared_ptr<Instance> instance, const Login& login,
+                                         std::shared_ptr<KeptDatabases> kept = nullptr);
     virtual ~Session() = default;
 
     /// Parses the whole text (102, 105 and 156 reject it before anything runs) and gives its results to walk.

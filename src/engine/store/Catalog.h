@@ -66,6 +66,8 @@ public:
     /// all processes and costs no write of its own; throws 8115 where the type has no value left. This session
     /// doesn't give a value twice, whatever becomes of the transaction.
     std::int64_t nextIdentity(const TableInfo& table);
+    /// The session that was given values has ended.
+    void forgetGiven();
     /// After a failed statement or a rollback: no session gives the values anew that were given in it. Writes (in the
     /// open transaction, or else in one of its own) only where a rollback took one back.
     void settleIdentities();

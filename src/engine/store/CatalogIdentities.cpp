@@ -66,6 +66,10 @@ std::int64_t Catalog::nextIdentity(const TableInfo& table) {
     return value;
 }
 
+void Catalog::forgetGiven() {
+    state_->given.clear();
+}
+
 void Catalog::raiseIdentity(const TableInfo& table, std::int64_t used) {
     const ColumnInfo& identity = identityOf(table);
     const std::int64_t id = state_->entry(table.name).id;

@@ -33,6 +33,8 @@ public:
     virtual ~Instance() = default;
 
     virtual const std::filesystem::path& folder() const = 0;
+    /// False where the folder has gone, or another instance lies in it by now.
+    virtual bool isThere() const = 0;
     virtual std::filesystem::path mapPath(std::string_view serverPath) const = 0;
 
     virtual std::vector<DatabaseEntry> databases() const = 0;

@@ -16,6 +16,7 @@ public:
     InstanceStore(std::filesystem::path folder, InstanceOptions options, bool create);
 
     const std::filesystem::path& folder() const override { return folder_; }
+    bool isThere() const override { return !registry_.isMoved(); }
     std::filesystem::path mapPath(std::string_view serverPath) const override;
 
     std::vector<DatabaseEntry> databases() const override;

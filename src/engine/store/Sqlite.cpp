@@ -141,6 +141,18 @@ bool Connection::inTransaction() const {
     return sqlite3_get_autocommit(handle_) == 0;
 }
 
+bool Connection::isIdle() const {
+    constexpr int kFirstBeside = 2; // behind the database itself and the one of temporary tables
+    return !inTransaction() && sqlite3_txn_state(handle_, nullptr) == SQLITE_TXN_NONE &&
+           sqlite3_db_name(handle_, kFirstBeside) == nullptr;
+}
+
+bool Connection::isMoved() const {
+    int moved = 0;
+    sqlite3_file_control(handle_, "main", SQLITE_FCNTL_HAS_MOVED, &moved);
+    return moved != 0 || wasEmptied(sqlite3_db_filename(handle_, "main"));
+}
+
 std::int64_t Connection::changes() const {
     return sqlite3_changes64(handle_);
 }

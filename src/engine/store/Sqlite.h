@@ -38,6 +38,10 @@ public:
     /// Runs a text without results.
     void run(const std::string& text);
     bool inTransaction() const;
+    /// Nothing is being read or written, and no other database stands beside it.
+    bool isIdle() const;
+    /// Whether the file has gone, was emptied, or is another one by now.
+    bool isMoved() const;
     std::int64_t changes() const;
     std::int64_t lastRow() const;
 

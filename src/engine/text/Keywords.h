@@ -23,7 +23,6 @@ enum class Keyword : std::uint8_t {
     Clustered,
     Coalesce,
     Collate,
-    Commit,
     Constraint,
     Convert,
     Create,
@@ -39,8 +38,6 @@ enum class Keyword : std::uint8_t {
     Else,
     End,
     Escape,
-    Exec,
-    Execute,
     Exists,
     From,
     Full,
@@ -97,7 +94,7 @@ enum class Keyword : std::uint8_t {
     When,
     Where,
     With,
-    Reserved ///< any other reserved word: it names nothing, and no statement here has it
+    Reserved ///< any other reserved word, which names nothing
 };
 
 /// The keyword a word is, whatever its case; None for any other word.

@@ -254,6 +254,19 @@ TEST_F(AnInstance, KnowsNobodyByATextThatIsNoPassword) {
     EXPECT_TRUE(instance->authenticates("sa", "Segreto"));
 }
 
+TEST_F(AnInstance, KnowsAPasswordThatItHasProvedForItsOwnLoginAloneAndUntilItChanges) {
+    instance->addLogin("sa", "Segreto");
+    instance->addLogin("rossi", "Altro");
+    for (int time = 0; time < 2; ++time) {
+        EXPECT_TRUE(instance->authenticates("sa", "Segreto"));
+        EXPECT_FALSE(instance->authenticates("rossi", "Segreto"));
+        EXPECT_FALSE(instance->authenticates("sa", "Altro"));
+    }
+    Instance::open(home, options())->addLogin("sa", "Nuovo");
+    EXPECT_FALSE(instance->authenticates("sa", "Segreto"));
+    EXPECT_TRUE(instance->authenticates("sa", "Nuovo"));
+}
+
 TEST_F(AnInstance, KnowsItsLogins) {
     instance->addLogin("sa", "S\u00e8greto");
     EXPECT_TRUE(instance->authenticates("SA", "S\u00e8greto"));

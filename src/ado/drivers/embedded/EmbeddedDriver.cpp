@@ -1,6 +1,7 @@
 #include "ado/drivers/embedded/EmbeddedDriver.h"
 
 #include "ado/Drivers.h"
+#include "ado/PresentEvent.h"
 #include "ado/ServerErrors.h"
 #include "engine/run/InternalErrors.h"
 #include "engine/run/Session.h"
@@ -171,13 +172,13 @@ private:
 
 } // namespace
 
-EmbeddedDriver::EmbeddedDriver() {
+EmbeddedDriver::EmbeddedDriver() : databases_(std::make_shared<engine::KeptDatabases>()) {
     engine::onInternalError([](const char* what) { qCWarning(engineLog) << "internal error:" << what; });
 }
 
 std::shared_ptr<engine::Instance> EmbeddedDriver::instance(const std::filesystem::path& folder) {
     std::weak_ptr<engine::Instance>& known = instances_[folder];
-    if (auto living = known.lock()) {
+    if (auto living = known.lock(); living && living->isThere()) {
         return living;
     }
     auto opened = engine::Instance::open(folder, {[](std::string_view path) { return mapServerPath(path); }});
@@ -185,10 +186,23 @@ std::shared_ptr<engine::Instance> EmbeddedDriver::instance(const std::filesystem
     return opened;
 }
 
+void EmbeddedDriver::keepInThisEvent(std::shared_ptr<engine::Instance> instance) {
+    const auto close = [this] {
+        databases_->stop();
+        kept_.clear();
+    };
+    if (!kept_.empty() || atEndOfEvent(close)) {
+        kept_.insert(std::move(instance));
+        databases_->start();
+    }
+}
+
 std::unique_ptr<DriverConnection> EmbeddedDriver::connect(const ConnectionString& text) {
     return translated([&] {
         const engine::Login login{text.user(), text.password(), text.database()};
-        SessionPtr session = engine::Session::open(instance(instanceFolder(text.server())), login);
+        const std::shared_ptr<engine::Instance> server = instance(instanceFolder(text.server()));
+        SessionPtr session = engine::Session::open(server, login, databases_);
+        keepInThisEvent(server);
         return std::make_unique<EmbeddedConnection>(std::move(session));
     });
 }

@@ -142,6 +142,20 @@ public:
                                             seconds);
     }
 
+    /// Whether it needs no round trip before its first statement: its server has just answered, and its lock time-out
+    /// is set. A new connection has the attribute's default, one that the driver manager kept has its own value still.
+    bool isPrepared() const {
+        SQLULEN seconds = 0;
+        return hasJustAnswered(place_) &&
+               SQL_SUCCEEDED(SQLGetConnectAttrW(handle_.get(), kPreparedFor, &seconds, 0, nullptr)) &&
+               static_cast<int>(static_cast<SQLUINTEGER>(seconds)) == timeout_;
+    }
+    void prepare() {
+        runToEnd(lockWait());
+        setPreparedFor(timeout_);
+        rememberAnswer(place_);
+    }
+
     void beginHold() { ++holds_; }
     /// How long a statement waits for rows that another program is writing: a third of the time-out. It must wait,
     /// since failing writes are often skipped and would be lost; and the server must report the lock before the
@@ -151,6 +165,7 @@ public:
     /// the transaction in the same round trip.
     std::unique_ptr<DriverResult> held(std::string_view select) {
         const std::string begin = holds_ == 1 ? "SET LOCK_TIMEOUT 0; BEGIN TRANSACTION; " : "";
+        setPreparedFor(0);
         auto result = run(begin + std::string(select), patience(select, timeout_));
         while (result->nextResult() && !result->hasRows()) {
         }
@@ -164,6 +179,7 @@ public:
         }
         try {
             runToEnd("IF @@TRANCOUNT > 0 COMMIT TRANSACTION; " + lockWait());
+            setPreparedFor(timeout_);
         } catch (const std::exception&) { // NOLINT(bugprone-empty-catch)
             // The connection is lost, and the server has ended its locks.
         }
@@ -172,6 +188,15 @@ public:
     bool alive() const { return !isDead(handle_); }
 
 private:
+    /// Tells, in the driver's own connection, for which time-out the server's lock time-out is set: the seconds that
+    /// any request may take, 0 by default.
+    static constexpr SQLINTEGER kPreparedFor = SQL_ATTR_CONNECTION_TIMEOUT;
+
+    /// A driver that doesn't know the attribute is asked before each first statement.
+    void setPreparedFor(int seconds) {
+        SQLSetConnectAttrW(handle_.get(), kPreparedFor, asPointer(static_cast<unsigned long>(seconds)), 0);
+    }
+
     Handle handle_;
     std::string place_;
     int timeout_;
@@ -180,15 +205,19 @@ private:
 
 namespace {
 
-/// A new connection with its lock time-out set. A connection that the driver manager kept may have lost its server,
-/// which only the first statement shows. Then the next kept one is tried, and when none is left a new one.
+/// A connection with its lock time-out set. One that the driver manager kept may have lost its server, which only a
+/// statement shows; it isn't asked where the server has answered a moment ago. Where it is lost, the next kept one is
+/// tried, and when none is left a new one.
 std::shared_ptr<SharedConnection> preparedConnection(const ConnectionString& text) {
     constexpr int kMostKept = 100;
     refuseSilent(placeOf(text));
     for (int kept = 0;; ++kept) {
         auto connection = std::make_shared<SharedConnection>(text);
+        if (connection->isPrepared()) {
+            return connection;
+        }
         try {
-            connection->runToEnd(connection->lockWait());
+            connection->prepare();
             return connection;
         } catch (const Error& error) {
             const bool silent = isSilence(error);

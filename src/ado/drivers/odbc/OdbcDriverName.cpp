@@ -1,10 +1,12 @@
 #include "ado/drivers/odbc/OdbcDriverName.h"
 
 #include "ado/Names.h"
+#include "ado/PresentEvent.h"
 #include "ado/drivers/odbc/OdbcHandles.h"
 
 #include <algorithm>
 #include <array>
+#include <optional>
 
 namespace ado::odbc {
 
@@ -17,9 +19,7 @@ bool isVendors(const std::string& name) {
     return name.rfind(kVendorPrefix, 0) == 0 && name.ends_with(" for SQL Server");
 }
 
-} // namespace
-
-std::vector<std::string> registeredDrivers() {
+std::vector<std::string> readDrivers() {
     std::vector<std::string> names;
     std::array<SQLWCHAR, 256> name{};
     SQLSMALLINT length = 0;
@@ -28,6 +28,20 @@ std::vector<std::string> registeredDrivers() {
                                      &length, nullptr, 0, nullptr))) {
         names.push_back(toUtf8(name.data(), static_cast<std::size_t>(length)));
         direction = SQL_FETCH_NEXT;
+    }
+    return names;
+}
+
+} // namespace
+
+std::vector<std::string> registeredDrivers() {
+    static std::optional<std::vector<std::string>> known;
+    if (known) {
+        return *known;
+    }
+    std::vector<std::string> names = readDrivers();
+    if (atEndOfEvent([] { known.reset(); })) {
+        known = names;
     }
     return names;
 }

@@ -8,7 +8,7 @@ namespace ado::odbc {
 /// The driver's name in connection texts.
 inline constexpr const char* kServerDriver = "SQL Server";
 
-/// The ODBC drivers registered on this machine.
+/// The ODBC drivers registered on this machine, as they were when the present event first asked.
 std::vector<std::string> registeredDrivers();
 
 /// The registered driver for a name. "SQL Server" means the driver of that name where one is registered, or else the

@@ -75,6 +75,7 @@ bool OdbcResult::answered(SQLRETURN code, const char* call) {
         if (isServers(error.nativeError()) || !isDead(*connection_)) {
             throw;
         }
+        forgetAnswer(server_);
         if (isSilence(error)) {
             rememberSilent(server_, error);
             throw;

@@ -1,8 +1,8 @@
 #include "ado/drivers/odbc/SilentServers.h"
 
-#include <QAbstractEventDispatcher>
-#include <QThread>
+#include "ado/PresentEvent.h"
 
+#include <chrono>
 #include <map>
 
 namespace ado::odbc {
@@ -11,6 +11,14 @@ namespace {
 
 std::map<std::string, Error>& silent() {
     static std::map<std::string, Error> servers;
+    return servers;
+}
+
+using Clock = std::chrono::steady_clock;
+constexpr std::chrono::seconds kMoment{1};
+
+std::map<std::string, Clock::time_point>& answers() {
+    static std::map<std::string, Clock::time_point> servers;
     return servers;
 }
 
@@ -26,16 +34,9 @@ Error outOfReach(const Error& error) {
 }
 
 void rememberSilent(const std::string& server, const Error& error) {
-    QAbstractEventDispatcher* events = QAbstractEventDispatcher::instance();
-    if (events == nullptr || QThread::currentThread()->loopLevel() == 0) {
-        return;
+    if (!silent().empty() || atEndOfEvent([] { silent().clear(); })) {
+        silent().insert_or_assign(server, outOfReach(error));
     }
-    if (silent().empty()) {
-        QObject::connect(
-            events, &QAbstractEventDispatcher::aboutToBlock, events, [] { silent().clear(); },
-            Qt::SingleShotConnection);
-    }
-    silent().insert_or_assign(server, outOfReach(error));
 }
 
 void refuseSilent(const std::string& server) {
@@ -43,6 +44,24 @@ void refuseSilent(const std::string& server) {
     if (found != silent().end()) {
         throw Error(found->second);
     }
+}
+
+void rememberAnswer(const std::string& server) {
+    if (!answers().empty() || atEndOfEvent([] { answers().clear(); })) {
+        answers().insert_or_assign(server, Clock::now());
+    }
+}
+
+void forgetAnswer(const std::string& server) {
+    const auto found = answers().find(server);
+    if (found != answers().end()) {
+        found->second = {}; // the entry stays: the end of the event is arranged while there is one
+    }
+}
+
+bool hasJustAnswered(const std::string& server) {
+    const auto found = answers().find(server);
+    return found != answers().end() && Clock::now() - found->second < kMoment;
 }
 
 } // namespace ado::odbc

@@ -20,4 +20,11 @@ void rememberSilent(const std::string& server, const Error& error);
 /// Throws the error of `outOfReach` where the server is remembered.
 void refuseSilent(const std::string& server);
 
+// Servers that answered a moment ago, in the same event: whether they live needn't be asked again. A server that was
+// found lost or silent since isn't one of them.
+
+void rememberAnswer(const std::string& server);
+void forgetAnswer(const std::string& server);
+bool hasJustAnswered(const std::string& server);
+
 } // namespace ado::odbc

@@ -39,6 +39,9 @@ void generalTables(Tour& tour);
 /// The two locks, opened from that console, on their way and after it.
 void locks(Tour& tour);
 
+/// The VAT sections, without and with one picked.
+void vatSections(Tour& tour);
+
 /// Every form of the program, in the order in which a user meets them. A new form adds its page here.
 void walk(Tour& tour);
 

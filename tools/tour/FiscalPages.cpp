@@ -5,10 +5,10 @@ namespace tour {
 void vatSections(Tour& tour) {
     const char* const form = "I_Iva_sezionali";
     tour.show(form);
-    tour.take("22-sezionali-iva", form);
+    tour.take("21-sezionali-iva", form);
     QWidget& grid = tour.control(form, "DataGrid1");
     Tour::press(grid, Qt::Key_Down);
-    tour.take("23-sezionali-iva-modifica", form);
+    tour.take("22-sezionali-iva-modifica", form);
     tour.forms().unload(form);
     Tour::settle();
 }

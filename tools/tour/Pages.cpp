@@ -78,13 +78,13 @@ void dataSources(Tour& tour) {
 void states(Tour& tour) {
     const char* const form = "stati";
     tour.show(form);
-    tour.take("19-stati", form);
+    tour.take("23-stati", form);
     Tour::press(tour.control(form, "DataGrid1"), Qt::Key_Down);
-    tour.take("20-stati-modifica", form);
+    tour.take("24-stati-modifica", form);
     Tour::press(tour.control(form, "DescStato"), Qt::Key_Return);
     auto& areas = dynamic_cast<controls::DataCombo&>(tour.control(form, "DataCombo1"));
     Tour::press(areas, Qt::Key_Down);
-    tour.take("21-stati-aree", *areas.view()->window());
+    tour.take("25-stati-aree", *areas.view()->window());
     areas.hidePopup();
     tour.forms().unload(form);
     Tour::settle();

@@ -25,12 +25,27 @@ TEST(Tour, LeavesAPictureOfEveryFormInThreeKinds) {
     ASSERT_EQ(tour.finish(), 0);
     EXPECT_FALSE(std::filesystem::exists(users)) << "the user's own data sources";
     EXPECT_TRUE(std::filesystem::exists(workstation.dataSourceFile()));
-    for (const char* name :
-         {"01-avvio", "02-login", "03-login-password", "04-messaggio", "05-console", "06-console-elenco",
-          "07-collegamenti", "17-registra-aziende", "18-registra-aziende-fonte", "19-blocco-progetto",
-          "19-blocco-progetto-scelta", "19-blocco-progetto-corsa", "20-blocco-sede", "20-blocco-sede-scelta",
-          "20-blocco-sede-domanda", "20-blocco-sede-corsa", "21-sezionali-iva", "22-sezionali-iva-modifica", "23-stati",
-          "24-stati-modifica", "25-stati-aree"}) {
+    for (const char* name : {"01-avvio",
+                             "02-login",
+                             "03-login-password",
+                             "04-messaggio",
+                             "05-console",
+                             "06-console-elenco",
+                             "07-collegamenti",
+                             "17-registra-aziende",
+                             "18-registra-aziende-fonte",
+                             "19-blocco-progetto",
+                             "19-blocco-progetto-scelta",
+                             "19-blocco-progetto-corsa",
+                             "20-blocco-sede",
+                             "20-blocco-sede-scelta",
+                             "20-blocco-sede-domanda",
+                             "20-blocco-sede-corsa",
+                             "21-sezionali-iva",
+                             "22-sezionali-iva-modifica",
+                             "23-stati",
+                             "24-stati-modifica",
+                             "25-stati-aree"}) {
         const QImage plain = picture(folder.path(), name);
         ASSERT_FALSE(plain.isNull()) << name;
         const QImage large = picture(folder.path(), std::string(name) + "-200");

@@ -93,7 +93,8 @@ void states(Tour& tour) {
 } // namespace
 
 void walk(Tour& tour) {
-    for (const auto page : {start, login, box, console, links, generalTables, locks, vatSections, dataSources, states}) {
+    for (const auto page :
+         {start, login, box, console, links, generalTables, locks, vatSections, dataSources, states}) {
         page(tour);
     }
 }

@@ -19,7 +19,14 @@ namespace fs = std::filesystem;
 
 namespace {
 
-enum Number { kFileNotFound = 53, kDeviceError = 57, kEndOfFile = 62, kDenied = 70, kAccessError = 75, kPathNotFound = 76 };
+enum Number {
+    kFileNotFound = 53,
+    kDeviceError = 57,
+    kEndOfFile = 62,
+    kDenied = 70,
+    kAccessError = 75,
+    kPathNotFound = 76
+};
 
 constexpr std::array kWords{
     std::pair{kFileNotFound, "File not found"},        std::pair{kDeviceError, "Device I/O error"},

@@ -115,6 +115,20 @@ TEST_F(KeptDatabasesTest, KeepNoSettingOfTheSessionBefore) {
     EXPECT_TRUE(nextAnswer("INSERT INTO c (id, n) VALUES (10, 1)").starts_with("!544 "));
 }
 
+TEST_F(KeptDatabasesTest, KeepNoPlanThatASettingOfTheSessionBeforeMade) {
+    run("CREATE TABLE c (id int IDENTITY (1, 1) NOT NULL, n int NULL)");
+    auto first = next();
+    EXPECT_EQ(engine::answer(*first, "SET IDENTITY_INSERT c ON"), "-");
+    EXPECT_EQ(engine::answer(*first, "INSERT INTO c (id, n) VALUES (9, 1)"), "(1)");
+    first.reset();
+    EXPECT_TRUE(nextAnswer("INSERT INTO c (id, n) VALUES (10, 1)").starts_with("!544 "));
+    first = next();
+    EXPECT_EQ(engine::answer(*first, "SET DATEFORMAT dmy"), "-");
+    EXPECT_EQ(rowsOf(*first, "SELECT DAY('03/02/2004')"), "3");
+    first.reset();
+    EXPECT_EQ(nextRows("SELECT DAY('03/02/2004')"), "2");
+}
+
 TEST_F(KeptDatabasesTest, KeepNoAnswerOfTheSessionBefore) {
     run("CREATE TABLE c (id int IDENTITY (1, 1) NOT NULL, n int NULL)");
     EXPECT_EQ(nextRows("INSERT INTO c (n) VALUES (1) SELECT @@IDENTITY"), "\n1");

@@ -9,9 +9,11 @@
 
 #include <gtest/gtest.h>
 
+#include <chrono>
 #include <cstdio>
 #include <cstdlib>
 #include <memory>
+#include <thread>
 
 namespace ado {
 namespace {
@@ -173,8 +175,12 @@ TEST_F(OdbcFailures, AServerThatWasAnotherAMomentAgoFailsAtMostOnceAndNoWriteRun
     fill(connection);
     connection.Close();
     support::inOneEvent([&] {
-        connection.Open(text());
-        connection.Close();
+        {
+            Connection more[3];
+            for (Connection& one : more) {
+                one.Open(text());
+            }
+        }
         peer.kill();
         peer.restart();
         connection.Open(text());
@@ -187,6 +193,19 @@ TEST_F(OdbcFailures, AServerThatWasAnotherAMomentAgoFailsAtMostOnceAndNoWriteRun
         expectWorks(connection);
     });
     EXPECT_EQ(connection.Execute("update Prova set t = 'x'"), 2);
+}
+
+TEST_F(OdbcFailures, AServerThatAnsweredLongerAgoIsAskedWhetherItLives) {
+    fill(connection);
+    connection.Close();
+    support::inOneEvent([&] {
+        connection.Open(text());
+        connection.Close();
+        peer.kill();
+        peer.restart();
+        std::this_thread::sleep_for(std::chrono::milliseconds(1100));
+        expectWorks(connection);
+    });
 }
 
 TEST_F(OdbcFailures, AServerThatHasJustFallenSilentIsAskedWhetherItLives) {

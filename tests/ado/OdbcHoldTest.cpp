@@ -105,6 +105,22 @@ TEST_F(OdbcHolds, AKeptConnectionIsPreparedOnceAnEvent) {
     EXPECT_EQ(sent.count(kWait), 1);
 }
 
+TEST_F(OdbcHolds, AKeptConnectionThatHeldRowsNeedsNoPreparing) {
+    support::inOneEvent([&] {
+        connection.Close();
+        connection.Open(server.connectionString());
+        Recordset rs;
+        rs.Open("select * from Prova order by n", connection, CursorType::Keyset, LockType::Pessimistic);
+        rs["n"] = 7;
+        rs.Update();
+        rs.Close();
+        const SentTexts sent;
+        connection.Close();
+        connection.Open(server.connectionString());
+        EXPECT_EQ(sent.count(kWait), keepsConnections() ? 0 : 1);
+    });
+}
+
 TEST_F(OdbcHolds, OnlyAHeldRowIsRefusedAtOnce) {
     Recordset rs;
     rs.Open("select * from Prova order by n", connection, CursorType::Keyset, LockType::Pessimistic);

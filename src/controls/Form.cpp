@@ -4,6 +4,7 @@
 #include "platform/Forms.h"
 
 #include <QAbstractButton>
+#include <QApplication>
 #include <QCloseEvent>
 #include <QDeadlineTimer>
 #include <QGuiApplication>
@@ -48,11 +49,11 @@ void Form::runLoad() {
         button->setAutoDefault(true);
     }
     nameForAssistiveTools();
-    run([this] { Load(); });
+    runUnlessUnloading([this] { Load(); });
 }
 
 void Form::runActivate() {
-    run([this] { Activate(); });
+    runUnlessUnloading([this] { Activate(); });
 }
 
 void Form::runUnload() {
@@ -60,9 +61,16 @@ void Form::runUnload() {
     guarded([this] { Unload(); });
 }
 
-void Form::run(const std::function<void()>& event) {
+void Form::runUnlessUnloading(const std::function<void()>& event) {
     if (!unloading_) {
         guarded(event);
+    }
+}
+
+// A mnemonic clicks its button after a while, even where the form has been disabled or a box opened meanwhile.
+void Form::run(const std::function<void()>& event) {
+    if (isEnabled() && QApplication::activeModalWidget() == nullptr) {
+        runUnlessUnloading(event);
     }
 }
 

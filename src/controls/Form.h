@@ -34,7 +34,7 @@ protected:
     virtual void Unload() {}
 
     /// Connects a handler to an event of a control. An error ends the event with a box; a form gets no events once it
-    /// unloads.
+    /// unloads, nor while it is disabled or a box is open.
     template<typename Sender, typename Owner, typename... Values, typename Handler>
     void on(Sender* sender, void (Owner::*signal)(Values...), Handler handler) {
         connect(sender, signal, this, [this, handler](Values... values) {
@@ -64,6 +64,7 @@ protected:
 
 private:
     void run(const std::function<void()>& event);
+    void runUnlessUnloading(const std::function<void()>& event);
     void nameForAssistiveTools();
 
     bool unloading_ = false;

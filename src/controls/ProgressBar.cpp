@@ -27,9 +27,9 @@ void ProgressBar::setValue(double value) {
     QProgressBar::setValue(static_cast<int>(std::lround(value)));
 }
 
-void ProgressBar::advance(double step) {
-    const auto next = static_cast<float>(value_ + step);
-    setValue(Max() > next ? next : kLowest);
+double ProgressBar::advanced(double value, double step) const {
+    const auto next = static_cast<float>(value + step);
+    return Max() > next ? next : kLowest;
 }
 
 } // namespace controls

@@ -14,8 +14,8 @@ public:
     /// Raises error 380 outside 0 to 100; the bar stays as it was.
     void setValue(double value);
     double Max() const { return maximum(); }
-    /// Adds a step, in single precision. Where that would reach the end, the bar goes back to 0.
-    void advance(double step);
+    /// The value one step further, in single precision; 0 where that would reach the end.
+    double advanced(double value, double step) const;
 
 private:
     double value_ = 0;

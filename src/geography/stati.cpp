@@ -13,7 +13,6 @@
 #include "kit/Titolo.h"
 #include "platform/Dialogs.h"
 #include "session/TreatForms.h"
-#include "state/variabili.h"
 #include "ui_stati.h"
 
 #include <array>
@@ -136,7 +135,7 @@ void stati::RifiutaDuplicato() {
     FormattaGriglia();
     platform::dialogs().message("Stato con questo nome già inserito");
     PulisciCampi();
-    Duplicato = true;
+    Duplicato = kVero;
 }
 
 // Failing statements are skipped. Behind a new state the list is filtered to nothing and has no position: its grid then
@@ -175,9 +174,9 @@ void stati::LasciaSoppressione() {
 }
 
 void stati::LasciaValuta() {
-    Duplicato = false;
+    Duplicato = kFalso;
     SalvaRecord();
-    if (!Duplicato) {
+    if (Duplicato == kFalso) {
         ScriviNuovo();
     }
 }

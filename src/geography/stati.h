@@ -1,6 +1,7 @@
 #pragma once
 
 #include "controls/Form.h"
+#include "state/variabili.h"
 
 #include <memory>
 
@@ -48,7 +49,7 @@ private:
     std::unique_ptr<Ui::stati> ui_;
     double chiave_ = 0; ///< of the row in the fields, 0 for none
     bool Nuovo = false;
-    bool Duplicato = false;
+    Flag Duplicato = kFalso;
 };
 
 } // namespace vabo

@@ -12,12 +12,14 @@ void AggiornaDataDefinitiva(double progetto, const std::string& data, Avanzament
     NoveConti GruppiBlocco{};
     const auto definitivi = [&](const char* campo) { return ContiDefinitivi(kSaltando, ContiBlocco, campo); };
     avanzamento.Porta(1.0 / 4);
-    salta([&] { DbAzienda.Execute(SegnaDataProgetto(progetto, ado::toDate(data))); });
+    salta([&] { DbAzienda.Execute(SqlCorrente = SegnaDataProgetto(progetto, ado::toDate(data))); });
     avanzamento.Porta(1.0 / 3);
-    salta([&] { DbAzienda.Execute(RiapriProgetto(progetto, LeggiDataBilancio())); });
+    salta([&] { DbAzienda.Execute(SqlCorrente = RiapriProgetto(progetto, LeggiDataBilancio())); });
     avanzamento.Porta(1.0 / 2);
     CaricaContiBlocco(ContiBlocco, GruppiBlocco);
-    salta([&] { DbAzienda.Execute(ChiudiProgetto(progetto, ado::toDate(data), definitivi(" b.idconto = "))); });
+    salta([&] {
+        DbAzienda.Execute(SqlCorrente = ChiudiProgetto(progetto, ado::toDate(data), definitivi(" b.idconto = ")));
+    });
     avanzamento.Porta(1);
     const auto sempreDefinitive = [&] {
         const double hq2 = ContoHq2();

@@ -46,11 +46,11 @@ void BloccaSede(double sede, const std::string& data, Avanzamento& avanzamento) 
     NoveConti ContiBlocco{};
     NoveConti GruppiBlocco{};
     SalvaDataSede(sede, data);
-    DbAzienda.Execute(RiapriSede(sede, ado::toDate(data), LeggiDataBilancio()));
+    DbAzienda.Execute(SqlCorrente = RiapriSede(sede, ado::toDate(data), LeggiDataBilancio()));
     avanzamento.Porta(1.0 / 2);
     const ado::Date giorno = GiornoDopo(LeggiDataBilancio());
     CaricaContiBlocco(ContiBlocco, GruppiBlocco);
-    DbAzienda.Execute(ChiudiSede(sede, giorno));
+    DbAzienda.Execute(SqlCorrente = ChiudiSede(sede, giorno));
     avanzamento.Porta(1);
     constexpr int kDueGiri = 2; // the list holds the four optional accounts twice
     const auto sempreDefinitive = [&] {

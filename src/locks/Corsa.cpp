@@ -1,6 +1,7 @@
 #include "locks/Corsa.h"
 
 #include "controls/ProgressBar.h"
+#include "state/variabili.h"
 
 #include <QCoreApplication>
 
@@ -14,7 +15,8 @@ void Corsa::Nascondi(controls::ProgressBar& barra) {
 }
 
 Corsa::Corsa(QWidget& form, controls::ProgressBar& barra) : ferma_(form), barra_(barra) {
-    barra_.setValue(0);
+    ValoreProgresso = 0;
+    barra_.setValue(ValoreProgresso);
     barra_.show();
     Mostra();
 }
@@ -31,15 +33,19 @@ void Corsa::Porta(double parte) {
 }
 
 void Corsa::Comincia(long passi) {
-    passo_ = passi > 0 ? barra_.Max() / static_cast<double>(passi) : 0;
-    barra_.setValue(0);
+    if (passi > 0) {
+        PassoProgresso = barra_.Max() / static_cast<double>(passi);
+    }
+    ValoreProgresso = 0;
+    barra_.setValue(ValoreProgresso);
     Mostra();
 }
 
 // A statement is much shorter than a look at the screen.
 void Corsa::Avanza() {
     constexpr qint64 kMillisecondi = 50;
-    barra_.advance(passo_);
+    ValoreProgresso = barra_.advanced(ValoreProgresso, PassoProgresso);
+    barra_.setValue(ValoreProgresso);
     if (mostrata_.hasExpired(kMillisecondi)) {
         Mostra();
     }

@@ -32,7 +32,6 @@ private:
     controls::Disabled ferma_;
     controls::Hourglass clessidra_;
     controls::ProgressBar& barra_;
-    double passo_ = 0;
     QElapsedTimer mostrata_;
 };
 

@@ -17,7 +17,7 @@ void ModificaTransazioni(Regola&& regola, Selezione&& selezione, const std::stri
                          Avanzamento& avanzamento) {
     const Restituzione restituzione(kPostoRighe);
     ado::Recordset& rs = RsCondivisi(kPostoRighe);
-    regola([&] { ApriScrivibile(rs, selezione(), DbAzienda); });
+    regola([&] { ApriScrivibile(rs, SqlCorrente = selezione(), DbAzienda); });
     long righe = 0;
     if (rs.IsOpen() && !rs.EOF()) {
         rs.MoveLast();
@@ -26,7 +26,9 @@ void ModificaTransazioni(Regola&& regola, Selezione&& selezione, const std::stri
     }
     avanzamento.Comincia(righe);
     for (; righe > 0; --righe) {
-        regola([&] { DbAzienda.Execute(modifica + DellaTransazione(rs["numerotransazione"], rs["idsede"])); });
+        regola([&] {
+            DbAzienda.Execute(SqlCorrente = modifica + DellaTransazione(rs["numerotransazione"], rs["idsede"]));
+        });
         avanzamento.Avanza();
         rs.MoveNext();
     }

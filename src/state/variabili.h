@@ -61,8 +61,10 @@ extern std::string IndirizzoMdf, IndirizzoVabodati, IndirizzoVabodatiCopia;
 extern std::string CartellaFile, PercorsoFileLocale, FileLocale;
 extern std::string LinguaCorrente, NomeUtenteLogin;
 extern std::string Sql, SqlLavoro, Appoggio;
+extern std::string SqlCorrente; ///< the statement of a lock that runs, or ran last
 extern double IdAzienda, IdAziendaLavoro, IdAziendaScelta, IdSede, IdSedeCopia, TentativiLogin;
-extern double IdProgettoScelto; ///< the project whose definitive date is being set, zero when none
+extern double IdProgettoScelto;                ///< the project whose definitive date is being set, zero when none
+extern double ValoreProgresso, PassoProgresso; ///< where the bar of a lock stands among its rows, and what a row adds
 extern Flag ClienteDornavel, ServerMancante;
 extern Diritti DirittiUtente;
 /// The forms under the present one, and the index of the top.

@@ -111,6 +111,16 @@ TEST_F(StatiSalva, LeavingTheCurrencyStoresANewState) {
     EXPECT_FALSE(RsCondivisi(2).IsOpen());
 }
 
+TEST_F(StatiSalva, ASaveReleasesEverySharedRecordsetAndTheLocalConnection) {
+    constexpr int kAltrui = 20; // one that the form has no use for
+    apri();
+    RsCondivisi(kAltrui).Open("select * from progetti", DbAzienda);
+    DbLocale = std::make_unique<ado::Connection>();
+    scrivi(kKosovo);
+    EXPECT_FALSE(RsCondivisi(kAltrui).IsOpen());
+    EXPECT_EQ(DbLocale, nullptr);
+}
+
 TEST_F(StatiSalva, ATypedAreaStandsInTheListFromThenOn) {
     apri();
     const int prima = pagina.combo("DataCombo1").count();

@@ -23,11 +23,12 @@ void AzzeraVariabili() {
                                &CartellaFile,      &PercorsoFileLocale,
                                &FileLocale,        &LinguaCorrente,
                                &NomeUtenteLogin,   &Sql,
-                               &SqlLavoro,         &Appoggio}) {
+                               &SqlLavoro,         &Appoggio,
+                               &SqlCorrente}) {
         testo->clear();
     }
     for (double* numero : {&IdAzienda, &IdAziendaLavoro, &IdAziendaScelta, &IdSede, &IdSedeCopia, &TentativiLogin,
-                           &IdProgettoScelto, &CimaForm}) {
+                           &IdProgettoScelto, &ValoreProgresso, &PassoProgresso, &CimaForm}) {
         *numero = 0;
     }
     ClienteDornavel = kFalso;

@@ -89,7 +89,7 @@ TEST_F(Functions, AreFoundByTheirNameInAnyCase) {
 }
 
 TEST_F(Functions, GiveTheServersValues) {
-    constexpr Case cases[] = {
+    constexpr Case kCases[] = {
         {"isnull(null, 'x')", "x"},
         {"isnull(5, '6')", "5"},
         {"coalesce(null, null, 3)", "3"},
@@ -165,13 +165,13 @@ TEST_F(Functions, GiveTheServersValues) {
         {"case 2 when 1 then 'a' when 2 then 'b' end", "b"},
         {"case when null = null then 1 end", "NULL"},
     };
-    for (const Case& one : cases) {
+    for (const Case& one : kCases) {
         EXPECT_EQ(rows(std::string("select ") + one.expression), one.value) << one.expression;
     }
 }
 
 TEST_F(Functions, ConditionsFollowTheDialect) {
-    constexpr Case cases[] = {
+    constexpr Case kCases[] = {
         {"'a' = 'A  '", "1"},
         {"'a' = 'à'", "0"},
         {"'abc' like 'A_[a-c]'", "1"},
@@ -188,14 +188,14 @@ TEST_F(Functions, ConditionsFollowTheDialect) {
         {"5 in (select 5)", "1"},
         {"1 = (select 1)", "1"},
     };
-    for (const Case& one : cases) {
+    for (const Case& one : kCases) {
         EXPECT_EQ(rows(std::string("select case when ") + one.expression + " then 1 else 0 end"), one.value)
             << one.expression;
     }
 }
 
 TEST_F(Functions, RefusalsHaveTheServersWords) {
-    constexpr Case cases[] = {
+    constexpr Case kCases[] = {
         {"select manca(1)", "!195 'manca' is not a recognized built-in function name."},
         {"select left('a')", "!174 The left function requires 2 argument(s)."},
         {"select left('a', -1)", "!537 Invalid length parameter passed to the LEFT function."},
@@ -213,7 +213,7 @@ TEST_F(Functions, RefusalsHaveTheServersWords) {
          "!8115 Arithmetic overflow error converting expression to data type bigint."},
         {"select dateadd(year, 9000, '20040101')", "!517 Adding a value to a 'datetime' column caused an overflow."},
     };
-    for (const Case& one : cases) {
+    for (const Case& one : kCases) {
         const std::string said = answer(one.expression);
         EXPECT_EQ(said.substr(std::min(said.find('!'), said.size())), one.value) << one.expression;
     }

@@ -47,7 +47,7 @@ TEST(DatabaseOptions, AreFoundByAnyPartThatOnlyOneHas) {
     constexpr struct {
         const char* part;
         const char* name;
-    } cases[] = {
+    } kCases[] = {
         {"autoclose", "autoclose"},
         {"bulkcopy", "select into/bulkcopy"},
         {"trunc. log", "trunc. log on chkpt."},
@@ -67,7 +67,7 @@ TEST(DatabaseOptions, AreFoundByAnyPartThatOnlyOneHas) {
         {"auto create statistics", "auto create statistics"},
         {"AUTO UPDATE STATISTICS", "auto update statistics"},
     };
-    for (const auto& c : cases) {
+    for (const auto& c : kCases) {
         EXPECT_STREQ(databaseOption(c.part).name, c.name);
     }
 }

@@ -21,7 +21,7 @@ struct Comparison {
 };
 
 TEST(Comparison, FollowsTheCollation) {
-    constexpr Comparison cases[] = {
+    constexpr Comparison kCases[] = {
         {"a", "A", 0},
         {"sede", "SEDE", 0},
         {"e", "\u00e9", -1},
@@ -43,7 +43,7 @@ TEST(Comparison, FollowsTheCollation) {
         {"\xff", "\xff", 0},
         {"\xff", "", 1},
     };
-    for (const Comparison& c : cases) {
+    for (const Comparison& c : kCases) {
         EXPECT_EQ(sign(compareTexts(c.left, c.right)), c.result) << '"' << c.left << "\" \"" << c.right << '"';
         EXPECT_EQ(sign(compareTexts(c.right, c.left)), -c.result) << '"' << c.right << "\" \"" << c.left << '"';
         EXPECT_EQ(collationKey(c.left) == collationKey(c.right), c.result == 0) << c.left << ' ' << c.right;

@@ -9,8 +9,8 @@
 namespace engine {
 namespace {
 
-const std::string garbage = "241 Conversion failed when converting date and/or time from character string.";
-const std::string outOfRange =
+const std::string kGarbage = "241 Conversion failed when converting date and/or time from character string.";
+const std::string kOutOfRange =
     "242 The conversion of a varchar data type to a datetime data type resulted in an out-of-range value.";
 
 struct Case {
@@ -38,7 +38,7 @@ TEST(DateOfText, WithoutAStyleFollowsTheSession) {
         {"2004", {}, false, "2004-01-01"},
         {"2004-03-07", {}, false, "2004-03-07"},
         {"2004-03-07", {}, true, "2004-07-03"},
-        {"2004-03-17", {}, true, outOfRange},
+        {"2004-03-17", {}, true, kOutOfRange},
         {"2004-03-17T10:11:12", {}, true, "2004-03-17 10:11:12.000"},
         {"7/3/2004", {}, true, "2004-03-07"},
         {"7/3/2004", {}, false, "2004-07-03"},
@@ -46,7 +46,7 @@ TEST(DateOfText, WithoutAStyleFollowsTheSession) {
         {"7-3-50", {}, true, "1950-03-07"},
         {"7-3-49", {}, true, "2049-03-07"},
         {"31/12/2020", {}, true, "2020-12-31"},
-        {"31/12/2020", {}, false, outOfRange},
+        {"31/12/2020", {}, false, kOutOfRange},
         {"", {}, false, "1900-01-01"},
         {"   ", {}, false, "1900-01-01"},
         {" 20040307 ", {}, false, "2004-03-07"},
@@ -69,7 +69,7 @@ TEST(DateOfText, WithAStyleFollowsTheStyle) {
         {"2004-03-07 15:16:17", 120, true, "2004-03-07 15:16:17.000"},
         {"2004-03-07 15:16:17.123", 121, true, "2004-03-07 15:16:17.123"},
         {"2004-03-07T15:16:17", 126, true, "2004-03-07 15:16:17.000"},
-        {"2004-31-12", 102, false, outOfRange},
+        {"2004-31-12", 102, false, kOutOfRange},
         {"20040307", 999, false, "9809 The style 999 is not supported for conversions from varchar to datetime."},
         {"", 102, false, "1900-01-01"},
     });
@@ -84,13 +84,13 @@ TEST(DateOfText, HasATime) {
         {"10:11:12", {}, false, "1900-01-01 10:11:12.000"},
         {"20040307 10:11:12.5", {}, false, "2004-03-07 10:11:12.500"},
         {"20040307 10:11:12:5", {}, false, "2004-03-07 10:11:12.007"},
-        {"20040307 24:00", {}, false, outOfRange},
-        {"20040307 10:60", {}, false, outOfRange},
-        {"20040307 10:10:60", {}, false, outOfRange},
-        {"20040307 13:00PM", {}, false, outOfRange},
-        {"20040307 10", {}, false, garbage},
-        {"20040307 10:11:12.1234", {}, false, garbage},
-        {"20040307 10:11 XM", {}, false, garbage},
+        {"20040307 24:00", {}, false, kOutOfRange},
+        {"20040307 10:60", {}, false, kOutOfRange},
+        {"20040307 10:10:60", {}, false, kOutOfRange},
+        {"20040307 13:00PM", {}, false, kOutOfRange},
+        {"20040307 10", {}, false, kGarbage},
+        {"20040307 10:11:12.1234", {}, false, kGarbage},
+        {"20040307 10:11 XM", {}, false, kGarbage},
     });
 }
 
@@ -98,29 +98,29 @@ TEST(DateOfText, KeepsThirdsOfAHundredthOfASecond) {
     constexpr struct {
         const char* written;
         const char* kept;
-    } cases[] = {{"001", "000"}, {"002", "003"}, {"004", "003"}, {"005", "007"},
-                 {"008", "007"}, {"009", "010"}, {"998", "997"}};
-    for (const auto& c : cases) {
+    } kCases[] = {{"001", "000"}, {"002", "003"}, {"004", "003"}, {"005", "007"},
+                  {"008", "007"}, {"009", "010"}, {"998", "997"}};
+    for (const auto& c : kCases) {
         EXPECT_EQ(toDateTime(std::string("20040307 10:11:12.") + c.written, {}),
                   std::string("2004-03-07 10:11:12.") + c.kept);
     }
     EXPECT_EQ(toDateTime("20041231 23:59:59.999", {}), "2005-01-01 00:00:00.000");
-    EXPECT_EQ(errorOf([] { toDateTime("99991231 23:59:59.999", {}); }), outOfRange);
+    EXPECT_EQ(errorOf([] { toDateTime("99991231 23:59:59.999", {}); }), kOutOfRange);
 }
 
 TEST(DateOfText, OutsideTheCalendarIsRefused) {
     expectAll({
-        {"20040230", {}, false, outOfRange},
+        {"20040230", {}, false, kOutOfRange},
         {"20040229", {}, false, "2004-02-29"},
-        {"20030229", {}, false, outOfRange},
-        {"20041301", {}, false, outOfRange},
-        {"20040001", {}, false, outOfRange},
-        {"20040100", {}, false, outOfRange},
+        {"20030229", {}, false, kOutOfRange},
+        {"20041301", {}, false, kOutOfRange},
+        {"20040001", {}, false, kOutOfRange},
+        {"20040100", {}, false, kOutOfRange},
         {"17530101", {}, false, "1753-01-01"},
-        {"17521231", {}, false, outOfRange},
+        {"17521231", {}, false, kOutOfRange},
         {"99991231", {}, false, "9999-12-31"},
-        {"0000-01-01", 102, false, outOfRange},
-        {"32/1/2004", {}, true, outOfRange},
+        {"0000-01-01", 102, false, kOutOfRange},
+        {"32/1/2004", {}, true, kOutOfRange},
     });
 }
 
@@ -129,7 +129,7 @@ TEST(DateOfText, GarbageIsRefused) {
          {"abc",          "1/2",     "1//2",      "1/2/3/4",    "1/2/345",     "12345",        "123456789",
           "123456789012", "2004-03", "20040307x", "2004-3-7T",  "2004-3-7T10", "-1/2/2004",    "1/2/2004 ,",
           "7 3 2004",     ":",       "/",         "111/1/2004", "1/2004/3",    "\u0663/1/2004"}) {
-        EXPECT_EQ(errorOf([&] { toDateTime(text, {}); }), garbage) << text;
+        EXPECT_EQ(errorOf([&] { toDateTime(text, {}); }), kGarbage) << text;
     }
 }
 

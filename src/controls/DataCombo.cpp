@@ -48,6 +48,7 @@ DataCombo::DataCombo(QWidget* parent) : QComboBox(parent), list_(new ListModel(t
     // Queued, since after a pick in the search the completer sets the text again.
     connect(this, &QComboBox::activated, this, &DataCombo::selectWhole, Qt::QueuedConnection);
     connect(lineEdit(), &QLineEdit::textEdited, this, &DataCombo::takeTyped);
+    connect(this, &QComboBox::editTextChanged, this, &DataCombo::tellChange);
     connect(&FocusTracker::instance(), &FocusTracker::entered, this, &DataCombo::takeFocus);
     connect(&FocusTracker::instance(), &FocusTracker::left, this, &DataCombo::loseFocus);
 }
@@ -70,17 +71,37 @@ void DataCombo::setRowSource(DataControl* source) {
 
 void DataCombo::ReFill() {
     const QString text = currentText();
-    pickedRow_ = -1;
-    list_->fill(ListField.empty() ? nullptr : source_, ListField, BoundColumn.empty() ? ListField : BoundColumn);
-    setCurrentIndex(-1);
-    setEditText(text);
+    changeText([&] {
+        pickedRow_ = -1;
+        list_->fill(ListField.empty() ? nullptr : source_, ListField, BoundColumn.empty() ? ListField : BoundColumn);
+        setCurrentIndex(-1);
+        setEditText(text);
+    });
 }
 
 void DataCombo::setText(const std::string& text) {
-    pickedRow_ = -1;
-    chosen_ = QString::fromStdString(text);
-    setCurrentIndex(-1);
-    setEditText(chosen_);
+    changeText([&] {
+        pickedRow_ = -1;
+        chosen_ = QString::fromStdString(text);
+        setCurrentIndex(-1);
+        setEditText(chosen_);
+    });
+}
+
+// Several steps are one change, told at their end.
+void DataCombo::changeText(const std::function<void()>& steps) {
+    {
+        const QScopedValueRollback changing(changing_, true);
+        steps();
+    }
+    tellChange();
+}
+
+void DataCombo::tellChange() {
+    if (!changing_ && currentText() != told_) {
+        told_ = currentText();
+        emit Change();
+    }
 }
 
 void DataCombo::takeTyped(const QString& text) {
@@ -128,9 +149,11 @@ void DataCombo::setBoundText(const std::string& key) {
         setText({});
         return;
     }
-    pickedRow_ = row;
-    chosen_ = list_->textAt(row);
-    setCurrentIndex(row);
+    changeText([&] {
+        pickedRow_ = row;
+        chosen_ = list_->textAt(row);
+        setCurrentIndex(row);
+    });
 }
 
 void DataCombo::picked(int row) {
@@ -140,6 +163,8 @@ void DataCombo::picked(int row) {
     }
     pickedRow_ = row;
     chosen_ = list_->textAt(row);
+    // Queued, since the completer sets the row's text again behind the Click: a text that the form sets there counts.
+    QMetaObject::invokeMethod(this, &DataCombo::restoreChosen, Qt::QueuedConnection);
     emit Click(List);
 }
 
@@ -147,6 +172,10 @@ void DataCombo::keyPressEvent(QKeyEvent* event) {
     switch (event->key()) {
     case Qt::Key_Return:
     case Qt::Key_Enter:
+        if (event->modifiers().testFlag(Qt::ControlModifier)) {
+            emit DblClick();
+            return;
+        }
         event->ignore(); // the form handles Enter
         return;
     case Qt::Key_Up:
@@ -262,6 +291,9 @@ void DataCombo::widenPopup() {
 bool DataCombo::eventFilter(QObject* watched, QEvent* event) {
     if (watched == lineEdit() && event->type() == QEvent::MouseButtonPress) {
         emit Click(Edit);
+    }
+    if (watched == lineEdit() && event->type() == QEvent::MouseButtonDblClick) {
+        emit DblClick();
     }
     if (watched == lineEdit() && event->type() == QEvent::MouseButtonRelease && selectAtRelease_) {
         selectAtRelease_ = false;

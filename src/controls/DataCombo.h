@@ -4,6 +4,7 @@
 
 #include <QComboBox>
 
+#include <functional>
 #include <string>
 
 namespace controls {
@@ -16,6 +17,8 @@ class ListModel;
 /// Typing searches the list and picks nothing. Enter or Tab on a highlighted row of the search's list is a pick; a row
 /// that is the only one found is highlighted. A text that was typed and not picked is replaced by the last one set by
 /// the form or picked: when the field is left, at Esc, and before an Enter reaches the form.
+///
+/// Ctrl+Enter is the double click of a user without a mouse.
 class DataCombo : public QComboBox {
     Q_OBJECT
 public:
@@ -53,6 +56,8 @@ signals:
     void GotFocus();
     void LostFocus(); ///< only when the focus moves to another control of the program
     void Click(int area);
+    void DblClick(); ///< a double click on the text, or Ctrl+Enter
+    void Change();   ///< the text is another one, typed, picked or set; never while the list is rebuilt
 
 protected:
     void keyPressEvent(QKeyEvent* event) override;
@@ -68,6 +73,8 @@ private:
     void takeFocus(const QWidget* control);
     void loseFocus(const QWidget* control);
     void takeTyped(const QString& text);
+    void changeText(const std::function<void()>& steps);
+    void tellChange();
     void picked(int row);
     bool keyInSearch(const QKeyEvent& key);
     void highlightOnlyMatch();
@@ -78,7 +85,9 @@ private:
     ListModel* list_;
     int pickedRow_ = -1; ///< tells rows with the same text apart
     QString chosen_;     ///< the text last picked or set by the form, or typed where typed text counts
+    QString told_;       ///< the text that Change was emitted for
     bool freeText_ = false;
+    bool changing_ = false;
     bool leaving_ = false;
     bool selectAtRelease_ = false;
 };

@@ -4,6 +4,7 @@
 #include "kit/ApriScrivibile.h"
 #include "kit/Colonne.h"
 #include "kit/ErrorHandling.h"
+#include "kit/Filtra.h"
 #include "kit/IsEmptyValue.h"
 #include "kit/Regole.h"
 #include "kit/Testi.h"
@@ -56,8 +57,7 @@ bool NomeMancante(const std::string& nome) {
 }
 
 bool GiaInserito(ado::Recordset& elenco, const std::string& nome) {
-    elenco.setFilter("descstato='" + nome + "'");
-    return !elenco.EOF();
+    return Filtra(elenco, "descstato", nome);
 }
 
 void SalvaStato(double chiave, const CampiStato& campi) {

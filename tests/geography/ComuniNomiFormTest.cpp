@@ -1,0 +1,185 @@
+// The form of municipalities: names that are missing, taken or hostile.
+
+#include "geography/ComuniFixture.h"
+
+namespace vabo {
+namespace {
+
+class ComuniNomi : public ComuniForm {
+protected:
+    /// With a state chosen and a new municipality asked for.
+    void apriPerUnaNuova() {
+        apri();
+        scrivi({"Palestrina", "RM", "00036", "Italia"});
+        gui.click("frmComuni", "Command1");
+    }
+};
+
+TEST_F(ComuniNomi, AMissingNameStoresNothingInSilenceAndEmptiesTheFields) {
+    apriPerUnaNuova();
+    const support::StatementRecorder recorder;
+    for (const char* nome : {"", " ", "0", "000"}) {
+        scrivi({nome, "RM", "00036", ""});
+        EXPECT_EQ(campi(), kCampiVuoti) << nome;
+        EXPECT_EQ(fuoco(), "DES_COMUNE");
+    }
+    EXPECT_EQ(recorder.texts(), Testi{});
+}
+
+TEST_F(ComuniNomi, ADuplicateIsToldAndTheFieldsAreEmptied) {
+    apriPerUnaNuova();
+    const int prima = quanti("Comuni");
+    script.expectMessage(kComuneDoppio);
+    const support::StatementRecorder recorder;
+    scrivi({"AOSTA", "XX", "99999", "Kenya"});
+    EXPECT_TRUE(script.allShown());
+    EXPECT_EQ(recorder.texts(), Testi{kElencoComuniRiletto});
+    EXPECT_EQ(campi(), kCampiVuoti);
+    EXPECT_EQ(fuoco(), "DES_COMUNE");
+    EXPECT_EQ(quanti("Comuni"), prima);
+    EXPECT_EQ(pagina.rows("DataGrid1"), prima) << "no filter is left";
+    EXPECT_EQ(QGuiApplication::overrideCursor(), nullptr);
+    script.expectMessage(kComuneDoppio);
+    scrivi({"Aosta", "AO", "11100", ""});
+    EXPECT_TRUE(script.allShown()) << "the next one is still new";
+}
+
+TEST_F(ComuniNomi, ADuplicateLeavesTheFocusWhereItWent) {
+    apriPerUnaNuova();
+    script.expectMessage(kComuneDoppio);
+    scrivi({"Aosta", "AO", "11100"});
+    gui.click("frmComuni", "DES_PROVIN");
+    EXPECT_TRUE(script.allShown());
+    EXPECT_EQ(fuoco(), "DES_PROVIN");
+}
+
+TEST_F(ComuniNomi, BehindADuplicateTheStateIsTheOneThatWasChosenForIt) {
+    apriPerUnaNuova();
+    script.expectMessage(kComuneDoppio);
+    scrivi({"Aosta", "AO", "11100", "Kenya"});
+    scrivi({"Mombasa", "KE", "80100", ""});
+    EXPECT_EQ(comune("Mombasa")[3], idStato("Kenya"));
+}
+
+TEST_F(ComuniNomi, RenamingAMunicipalityToAnothersNamePasses) {
+    apri();
+    scegli("Aosta");
+    scrivi({"Bologna", "AO", "11100", ""});
+    EXPECT_EQ(quanti("Comuni where DES_COMUNE = 'Bologna'"), 2);
+}
+
+TEST_F(ComuniNomi, AfterASaveTheNextMunicipalityIsNew) {
+    apri();
+    scegli("Aosta");
+    scrivi({"Aosta", "AO", "11100", ""});
+    script.expectMessage(kComuneDoppio);
+    scrivi({"Aosta", "AO", "11100", ""});
+    EXPECT_TRUE(script.allShown());
+}
+
+// Nothing has been chosen, stored or asked for by then.
+TEST_F(ComuniNomi, TheFirstMunicipalityTypedBehindTheOpeningIsNotLookedFor) {
+    apri();
+    scrivi({"Aosta", "AO", "11100", "Italia"});
+    EXPECT_EQ(quanti("Comuni where DES_COMUNE = 'Aosta'"), 2);
+}
+
+TEST_F(ComuniNomi, ANameThatSomebodyElseAddedMeanwhileIsNotSeen) {
+    apriPerUnaNuova();
+    esegui("insert into Comuni (DES_COMUNE) values ('Zagarolo')");
+    scrivi({"Zagarolo", "RM", "00039", ""});
+    EXPECT_EQ(quanti("Comuni where DES_COMUNE = 'Zagarolo'"), 2);
+}
+
+TEST_F(ComuniNomi, AnApostropheInANewNameIsRefusedByTheFilterAndTheFieldsStay) {
+    apriPerUnaNuova();
+    script.expectMessage(kFiltroRifiutato);
+    const support::StatementRecorder recorder;
+    scrivi({"Sant'Angelo Romano", "RM", "00010", ""});
+    EXPECT_TRUE(script.allShown());
+    EXPECT_EQ(recorder.texts(), Testi{});
+    EXPECT_EQ(campi(), (Riga{"Sant'Angelo Romano", "RM", "00010", "Seleziona"}));
+    EXPECT_EQ(QGuiApplication::overrideCursor(), nullptr);
+    EXPECT_EQ(pagina.rows("DataGrid1"), quanti("Comuni"));
+    scrivi({"Sant Angelo Romano", "RM", "00010", ""});
+    EXPECT_EQ(quanti("Comuni where DES_COMUNE = 'Sant Angelo Romano'"), 1) << "a name without it goes through";
+}
+
+TEST_F(ComuniNomi, AnApostropheInAChosenMunicipalitysNamePasses) {
+    apri();
+    scegli("L'Aquila");
+    EXPECT_EQ(campi(), (Riga{"L'Aquila", "AQ", "67100", "Italia"}));
+    scrivi({"L'Aquila d'Abruzzo", "AQ", "67100", ""});
+    EXPECT_EQ(comune("L''Aquila d''Abruzzo")[0], "L'Aquila d'Abruzzo");
+}
+
+TEST_F(ComuniNomi, ADoubledApostropheIsOneToTheFilterAndTwoToTheTable) {
+    apriPerUnaNuova();
+    scrivi({"Sant''Angelo Romano", "RM", "00010", ""});
+    EXPECT_EQ(comune("Sant''''Angelo Romano")[0], "Sant''Angelo Romano");
+    script.expectMessage(kComuneDoppio);
+    scrivi({"L''Aquila", "AQ", "67100", ""});
+    EXPECT_TRUE(script.allShown());
+}
+
+TEST_F(ComuniNomi, ANameThatWidensTheFilterFindsOthers) {
+    apriPerUnaNuova();
+    script.expectMessage(kComuneDoppio);
+    scrivi({"x' or des_comune='Aosta", "AO", "11100", ""});
+    EXPECT_TRUE(script.allShown());
+}
+
+// Typed or pasted into one field of a new municipality; the others are sound.
+TEST_F(ComuniNomi, WhateverIsTypedLeavesTheFormInOrder) {
+    const std::string lungo(4'000, '7');
+    const Testi testi = {"\"", ";", "a;b", "--", "/* x", "*/", "\x01\x1b\x7f", "a\tb", "città ’ß€", "x'; delete from "
+                         "Comuni --", lungo};
+    apriPerUnaNuova();
+    for (const std::string& ostile : testi) {
+        for (const std::string campo : {"DES_COMUNE", "DES_PROVIN", "COD_CAP"}) {
+            SCOPED_TRACE(ostile.substr(0, 20) + " in " + campo);
+            const bool filtro = campo == "DES_COMUNE" && ostile.find('\'') != std::string::npos;
+            const bool salva = !filtro && (campo != "COD_CAP" || ostile == lungo);
+            const int prima = quanti("Comuni");
+            metti("DES_COMUNE", "Prova");
+            metti("DES_PROVIN", "RM");
+            metti("COD_CAP", "00036");
+            metti(campo, ostile);
+            if (filtro) {
+                script.expectMessage(kFiltroRifiutato);
+            }
+            vaiA("DataCombo1");
+            vaiA("DES_COMUNE");
+            EXPECT_EQ(quanti("Comuni"), prima + (salva ? 1 : 0));
+            if (!salva) {
+                EXPECT_EQ(testo(campo), ostile);
+                EXPECT_EQ(fuoco(), filtro ? "DES_COMUNE" : "COD_CAP");
+            } else {
+                const Riga riga = this->riga("select DES_COMUNE, DES_PROVIN, COD_CAP from Comuni where idautonumber = "
+                                             "(select max(idautonumber) from Comuni)");
+                const QString lettere = QString::fromStdString(ostile);
+                EXPECT_EQ(riga[0], campo != "DES_COMUNE" ? "Prova" : ostile == lungo ? "NULL" : ostile);
+                EXPECT_EQ(riga[1], campo != "DES_PROVIN" ? "RM" : lettere.left(2).toStdString());
+                EXPECT_EQ(riga[2], campo != "COD_CAP" ? "00036" : lettere.left(5).toStdString());
+                EXPECT_EQ(campi(), kCampiVuoti);
+                esegui("delete from Comuni where idautonumber = (select max(idautonumber) from Comuni)");
+            }
+            gui.click("frmComuni", "Command1");
+        }
+    }
+}
+
+// The combo's text enters the filter of the states once, at the start, when it is empty: nothing typed there reaches it.
+TEST_F(ComuniNomi, WhateverIsTypedIntoTheStateIsNoState) {
+    apri();
+    for (const std::string& ostile : Testi{"'", "\"", ";", "x'; delete from stati --", "\x01\x7f", std::string(4'000, 'x')}) {
+        SCOPED_TRACE(ostile.substr(0, 20));
+        const support::StatementRecorder recorder;
+        scrivi({"Prova", "RM", "00036", ostile});
+        EXPECT_EQ(recorder.texts(), Testi{});
+        EXPECT_EQ(campi(), (Riga{"Prova", "RM", "00036", "Seleziona"}));
+    }
+}
+
+} // namespace
+} // namespace vabo

@@ -48,7 +48,6 @@ DataCombo::DataCombo(QWidget* parent) : QComboBox(parent), list_(new ListModel(t
     // Queued, since after a pick in the search the completer sets the text again.
     connect(this, &QComboBox::activated, this, &DataCombo::selectWhole, Qt::QueuedConnection);
     connect(lineEdit(), &QLineEdit::textEdited, this, &DataCombo::takeTyped);
-    connect(this, &QComboBox::editTextChanged, this, &DataCombo::tellChange);
     connect(&FocusTracker::instance(), &FocusTracker::entered, this, &DataCombo::takeFocus);
     connect(&FocusTracker::instance(), &FocusTracker::left, this, &DataCombo::loseFocus);
 }
@@ -71,35 +70,24 @@ void DataCombo::setRowSource(DataControl* source) {
 
 void DataCombo::ReFill() {
     const QString text = currentText();
-    changeText([&] {
-        pickedRow_ = -1;
-        list_->fill(ListField.empty() ? nullptr : source_, ListField, BoundColumn.empty() ? ListField : BoundColumn);
-        setCurrentIndex(-1);
-        setEditText(text);
-    });
+    pickedRow_ = -1;
+    list_->fill(ListField.empty() ? nullptr : source_, ListField, BoundColumn.empty() ? ListField : BoundColumn);
+    setCurrentIndex(-1);
+    setEditText(text);
 }
 
 void DataCombo::setText(const std::string& text) {
-    changeText([&] {
-        pickedRow_ = -1;
-        chosen_ = QString::fromStdString(text);
-        setCurrentIndex(-1);
-        setEditText(chosen_);
-    });
+    const QString wanted = QString::fromStdString(text);
+    pickedRow_ = -1;
+    setCurrentIndex(-1);
+    setEditText(wanted);
+    setChosen(wanted);
 }
 
-// Several steps are one change, told at their end.
-void DataCombo::changeText(const std::function<void()>& steps) {
-    {
-        const QScopedValueRollback changing(changing_, true);
-        steps();
-    }
-    tellChange();
-}
-
-void DataCombo::tellChange() {
-    if (!changing_ && currentText() != told_) {
-        told_ = currentText();
+// To be called when the field shows the text, which a handler may read.
+void DataCombo::setChosen(const QString& text) {
+    if (chosen_ != text) {
+        chosen_ = text;
         emit Change();
     }
 }
@@ -107,7 +95,7 @@ void DataCombo::tellChange() {
 void DataCombo::takeTyped(const QString& text) {
     if (freeText_) {
         pickedRow_ = -1;
-        chosen_ = text;
+        setChosen(text);
     }
 }
 
@@ -149,11 +137,9 @@ void DataCombo::setBoundText(const std::string& key) {
         setText({});
         return;
     }
-    changeText([&] {
-        pickedRow_ = row;
-        chosen_ = list_->textAt(row);
-        setCurrentIndex(row);
-    });
+    pickedRow_ = row;
+    setCurrentIndex(row);
+    setChosen(list_->textAt(row));
 }
 
 void DataCombo::picked(int row) {
@@ -162,7 +148,7 @@ void DataCombo::picked(int row) {
         return;
     }
     pickedRow_ = row;
-    chosen_ = list_->textAt(row);
+    setChosen(list_->textAt(row));
     // Queued, since the completer sets the row's text again behind the Click: a text that the form sets there counts.
     QMetaObject::invokeMethod(this, &DataCombo::restoreChosen, Qt::QueuedConnection);
     emit Click(List);
@@ -174,9 +160,9 @@ void DataCombo::keyPressEvent(QKeyEvent* event) {
     case Qt::Key_Enter:
         if (event->modifiers().testFlag(Qt::ControlModifier)) {
             emit DblClick();
-            return;
+        } else {
+            event->ignore(); // the form handles Enter
         }
-        event->ignore(); // the form handles Enter
         return;
     case Qt::Key_Up:
     case Qt::Key_Down:

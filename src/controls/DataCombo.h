@@ -4,7 +4,6 @@
 
 #include <QComboBox>
 
-#include <functional>
 #include <string>
 
 namespace controls {
@@ -17,8 +16,6 @@ class ListModel;
 /// Typing searches the list and picks nothing. Enter or Tab on a highlighted row of the search's list is a pick; a row
 /// that is the only one found is highlighted. A text that was typed and not picked is replaced by the last one set by
 /// the form or picked: when the field is left, at Esc, and before an Enter reaches the form.
-///
-/// Ctrl+Enter is the double click of a user without a mouse.
 class DataCombo : public QComboBox {
     Q_OBJECT
 public:
@@ -56,8 +53,10 @@ signals:
     void GotFocus();
     void LostFocus(); ///< only when the focus moves to another control of the program
     void Click(int area);
-    void DblClick(); ///< a double click on the text, or Ctrl+Enter
-    void Change();   ///< the text is another one, typed, picked or set; never while the list is rebuilt
+    void DblClick(); ///< on the text; or Ctrl+Enter
+    /// The text set by the form or picked is another one; emitted before the Click of a pick. Not emitted while the
+    /// user searches, which picks nothing, but for each letter where typed text counts.
+    void Change();
 
 protected:
     void keyPressEvent(QKeyEvent* event) override;
@@ -73,8 +72,7 @@ private:
     void takeFocus(const QWidget* control);
     void loseFocus(const QWidget* control);
     void takeTyped(const QString& text);
-    void changeText(const std::function<void()>& steps);
-    void tellChange();
+    void setChosen(const QString& text);
     void picked(int row);
     bool keyInSearch(const QKeyEvent& key);
     void highlightOnlyMatch();
@@ -85,9 +83,7 @@ private:
     ListModel* list_;
     int pickedRow_ = -1; ///< tells rows with the same text apart
     QString chosen_;     ///< the text last picked or set by the form, or typed where typed text counts
-    QString told_;       ///< the text that Change was emitted for
     bool freeText_ = false;
-    bool changing_ = false;
     bool leaving_ = false;
     bool selectAtRelease_ = false;
 };

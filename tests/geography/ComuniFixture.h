@@ -8,7 +8,7 @@ namespace vabo {
 /// The form of municipalities.
 class ComuniForm : public GrigliaForm {
 protected:
-    ComuniForm() : GrigliaForm("frmComuni") {}
+    ComuniForm() : GrigliaForm("frmComuni", "frmcomuni") {}
 
     /// Opens the form and waits until it has read its states.
     void apri() {
@@ -41,7 +41,7 @@ protected:
     }
 };
 
-inline const Riga kCampiVuoti = {"", "", "", "Seleziona"};
+inline const Riga kComuneVuoto = {"", "", "", "Seleziona"};
 inline constexpr const char* kComuneDoppio = "Comune con questo nome già inserito";
 
 inline constexpr const char* kElencoComuni =

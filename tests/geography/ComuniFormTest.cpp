@@ -97,7 +97,7 @@ TEST_F(ComuniForm, StartsWithEmptyFieldsAndTheFocusOnTheName) {
     EXPECT_EQ(fuoco(), "DES_COMUNE");
     EXPECT_EQ(testo("DES_COMUNE") + testo("DES_PROVIN") + testo("COD_CAP"), "");
     apri();
-    EXPECT_EQ(campi(), kCampiVuoti);
+    EXPECT_EQ(campi(), kComuneVuoto);
     EXPECT_EQ(corrente(), "Campione d'Italia") << "without a state it stands ahead of all";
     EXPECT_GT(pagina.combo("DataCombo1").count(), 200);
 }
@@ -163,7 +163,7 @@ TEST_F(ComuniForm, NewEmptiesTheFieldsForAnotherMunicipality) {
     apri();
     scegli("Aosta");
     gui.click("frmComuni", "Command1");
-    EXPECT_EQ(campi(), kCampiVuoti);
+    EXPECT_EQ(campi(), kComuneVuoto);
     EXPECT_EQ(fuoco(), "DES_COMUNE");
     const int prima = quanti("Comuni");
     scrivi({"Palestrina", "RM", "00036", "Italia"});

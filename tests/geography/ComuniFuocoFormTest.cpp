@@ -110,7 +110,7 @@ TEST_F(ComuniFuoco, APostalCodeThatIsNoNumberAnyMoreGetsTheFocusWhenTheStateIsLe
     vaiA("COD_CAP");
     vaiA("DataCombo1");
     pagina.pick("DataCombo1", "Italia"); // stored
-    ASSERT_EQ(campi(), kCampiVuoti);
+    ASSERT_EQ(campi(), kComuneVuoto);
     riempi();
     vaiA("COD_CAP");
     vaiA("DataCombo1");
@@ -172,7 +172,7 @@ TEST_F(ComuniFuoco, GoingToTheStatesLeavesTheStateWhichStoresTheRow) {
     EXPECT_EQ(comune("Nairobi")[1], "NB");
     gui.click("stati", "Command4");
     gui.waitForFront("frmComuni");
-    EXPECT_EQ(campi(), kCampiVuoti);
+    EXPECT_EQ(campi(), kComuneVuoto);
     EXPECT_EQ(fuoco(), "DES_COMUNE");
 }
 

@@ -33,9 +33,9 @@ TEST_F(ComuniRighe, APostalCodeThatLostItsZerosIsShownWithFiveDigits) {
     EXPECT_EQ(testo("COD_CAP"), "00100");
     scegli("Cagliari");
     EXPECT_EQ(testo("COD_CAP"), "09121");
-    const std::pair<const char*, const char*> casi[] = {{"", "00000"},      {"1", "00001"},     {"12", "00012"},
-                                                        {"123", "00123"},   {"1234", "01234"},  {"12345", "12345"},
-                                                        {" ", "0000 "},     {"abc", "00abc"}};
+    const std::pair<const char*, const char*> casi[] = {{"", "00000"},    {"1", "00001"},    {"12", "00012"},
+                                                        {"123", "00123"}, {"1234", "01234"}, {"12345", "12345"},
+                                                        {" ", "0000 "},   {"abc", "00abc"}};
     for (const auto& [tenuto, mostrato] : casi) {
         esegui(std::string("update Comuni set COD_CAP = '") + tenuto + "' where DES_COMUNE = 'Roma'");
         gui.forms().unload("frmComuni");
@@ -138,7 +138,7 @@ TEST_F(ComuniRighe, AListWithoutRowsChoosesNothing) {
     vaiA("DataGrid1");
     for (const Qt::Key tasto : {Qt::Key_Down, Qt::Key_Space}) {
         gui.press(tasto);
-        EXPECT_EQ(campi(), kCampiVuoti);
+        EXPECT_EQ(campi(), kComuneVuoto);
     }
     scrivi({"Palestrina", "RM", "00036", "Italia"});
     EXPECT_EQ(quanti("Comuni"), 1);

@@ -25,7 +25,7 @@ TEST_F(ComuniSalva, LeavingTheStateStoresANewMunicipality) {
     EXPECT_EQ(recorder.texts()[2], kElencoComuni);
     EXPECT_EQ(recorder.texts()[3], kElencoComuniRiletto);
     EXPECT_EQ(comune("Palestrina"), kRigaDiPalestrina);
-    EXPECT_EQ(campi(), kCampiVuoti);
+    EXPECT_EQ(campi(), kComuneVuoto);
     EXPECT_EQ(fuoco(), "DES_COMUNE");
     EXPECT_NO_THROW(rigaDi("Palestrina"));
 }
@@ -40,7 +40,7 @@ TEST_F(ComuniSalva, AChosenMunicipalityIsChangedInItsRow) {
     EXPECT_EQ(recorder.texts().front(), "select * from  comuni where idautonumber=" + id);
     EXPECT_EQ(comune("Aoste"), (Riga{"Aoste", "VA", "11101", idStato("Kenya")}));
     EXPECT_EQ(quanti("Comuni"), prima);
-    EXPECT_EQ(campi(), kCampiVuoti);
+    EXPECT_EQ(campi(), kComuneVuoto);
     EXPECT_EQ(pagina.cell("DataGrid1", rigaDi("Aoste"), 5), "Kenya");
 }
 
@@ -95,7 +95,7 @@ TEST_F(ComuniSalva, AClickInTheListOfStatesStoresTheRow) {
     pagina.pick("DataCombo1", "Kenya");
     EXPECT_EQ(comune("Mombasa")[3], idStato("Kenya"));
     EXPECT_EQ(fuoco(), "DES_COMUNE");
-    EXPECT_EQ(campi(), kCampiVuoti) << "the state picked doesn't come back";
+    EXPECT_EQ(campi(), kComuneVuoto) << "the state picked doesn't come back";
 }
 
 TEST_F(ComuniSalva, AClickElsewhereOnTheStateStaysThere) {
@@ -120,9 +120,16 @@ TEST_F(ComuniSalva, OfTwoStatesOfOneNameTheOneThatIsPickedIsStored) {
 }
 
 // "Niger" is also the beginning of another, so that the search highlights none of the two.
-TEST_F(ComuniSalva, AStateTypedInFullIsTakenWithoutAPick) {
+TEST_F(ComuniSalva, AStateTypedInFullIsNoneUntilItIsPicked) {
     apri();
+    const support::StatementRecorder recorder;
     scrivi({"Niamey", "NE", "8000", "Niger"});
+    EXPECT_EQ(recorder.texts(), Testi{});
+    EXPECT_EQ(campi(), (Riga{"Niamey", "NE", "8000", "Seleziona"}));
+    vaiA("DataCombo1");
+    gui.type("Niger");
+    QTest::keyClick(QApplication::activePopupWidget(), Qt::Key_Down);
+    invio();
     EXPECT_EQ(comune("Niamey")[3], idStato("Niger"));
 }
 
@@ -217,7 +224,7 @@ TEST_F(ComuniSalva, AListThatCannotBeReadBehindASaveIsSkipped) {
     }
     EXPECT_EQ(comune("Palestrina"), kRigaDiPalestrina);
     EXPECT_EQ(pagina.rows("DataGrid1"), 0);
-    EXPECT_EQ(campi(), kCampiVuoti);
+    EXPECT_EQ(campi(), kComuneVuoto);
 }
 
 } // namespace

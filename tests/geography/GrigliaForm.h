@@ -16,13 +16,14 @@ using Testi = std::vector<std::string>;
 /// form. The names of its rows stand in the grid's second column.
 class GrigliaForm : public AziendaAperta {
 protected:
-    explicit GrigliaForm(const char* form) : form(form), pagina(gui, form) {
+    /// `nome` is what the form stack calls it.
+    GrigliaForm(const char* form, const char* nome) : form(form), nome(nome), pagina(gui, form) {
         app::registerForms(gui.forms());
         gui.forms().add("Avvio_Azienda", [] { return std::make_unique<controls::Form>("Avvio_Azienda"); });
     }
 
     void apri() {
-        PilaForm = {"Avvio_Azienda", form};
+        PilaForm = {"Avvio_Azienda", nome};
         CimaForm = 1;
         pagina.show();
     }
@@ -110,6 +111,7 @@ protected:
     }
 
     const char* form;
+    const char* nome;
     support::DialogScript script; ///< no box but those that the test expects
     mutable support::Gui gui;
     support::FormPage pagina;

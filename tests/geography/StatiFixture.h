@@ -7,7 +7,7 @@ namespace vabo {
 /// The form of states.
 class StatiForm : public GrigliaForm {
 protected:
-    StatiForm() : GrigliaForm("stati") { ado::setToday(ado::Date::of(2026, 6, 30)); }
+    StatiForm() : GrigliaForm("stati", "stati") { ado::setToday(ado::Date::of(2026, 6, 30)); }
     ~StatiForm() override { ado::setToday({}); }
 
     std::string area() const { return combo(); }
@@ -38,7 +38,7 @@ protected:
     }
 };
 
-inline const Riga kCampiVuoti = {"Seleziona", "Seleziona", "", "", ""};
+inline const Riga kStatoVuoto = {"Seleziona", "Seleziona", "", "", ""};
 inline const Riga kKosovo = {"Repubblica del Kosovo", "Balcani", "170208", "", "EUR"};
 
 inline constexpr const char* kNulla = "NULL";

@@ -47,7 +47,7 @@ TEST_F(StatiForm, ItsTextsStandLetterForLetter) {
 
 TEST_F(StatiForm, StartsWithEmptyFieldsAndTheFocusOnTheName) {
     apri();
-    EXPECT_EQ(campi(), kCampiVuoti);
+    EXPECT_EQ(campi(), kStatoVuoto);
     EXPECT_EQ(fuoco(), "DescStato");
     EXPECT_EQ(pagina.control<controls::TextBox>("DescStato").selectedText(), "Seleziona");
     EXPECT_EQ(corrente(), "Afghanistan");
@@ -154,7 +154,7 @@ TEST_F(StatiForm, NewEmptiesTheFieldsForAnotherState) {
     scegli("Cecoslovacchia");
     const int prima = quanti("stati");
     gui.click("stati", "Command1");
-    EXPECT_EQ(campi(), kCampiVuoti);
+    EXPECT_EQ(campi(), kStatoVuoto);
     EXPECT_EQ(fuoco(), "DescStato");
     EXPECT_EQ(pagina.control<controls::TextBox>("DescStato").selectedText(), "Seleziona");
     scrivi({"Repubblica del Kosovo", "Seleziona", "", "", "EUR"});

@@ -12,7 +12,7 @@ TEST_F(StatiNomi, ANameThatIsMissingStoresNothingInSilence) {
     const support::StatementRecorder recorder;
     for (const char* nome : {"Seleziona", "seleziona", "SELEZIONA", " ", "0"}) {
         scrivi({nome, "Balcani", "010203", "", "EUR"});
-        EXPECT_EQ(campi(), kCampiVuoti) << nome;
+        EXPECT_EQ(campi(), kStatoVuoto) << nome;
         EXPECT_EQ(fuoco(), "DescStato");
     }
     EXPECT_EQ(recorder.texts(), Testi{});
@@ -27,7 +27,7 @@ TEST_F(StatiNomi, ADuplicateIsToldAndTheFieldsAreEmptied) {
     scrivi({"KENYA", "Balcani", "010203", "", "EUR"});
     EXPECT_TRUE(script.allShown());
     EXPECT_EQ(recorder.texts(), Testi{"SELECT * from stati order by DescStato"});
-    EXPECT_EQ(campi(), kCampiVuoti);
+    EXPECT_EQ(campi(), kStatoVuoto);
     EXPECT_EQ(fuoco(), "DescStato");
     EXPECT_EQ(quanti("stati"), prima);
     EXPECT_EQ(pagina.rows("DataGrid1"), prima) << "no filter is left";
@@ -127,7 +127,7 @@ TEST_F(StatiNomi, WhateverIsTypedLeavesTheFormInOrder) {
             EXPECT_EQ(riga[1], kNulla);
             EXPECT_EQ(riga[2], kNulla);
             EXPECT_EQ(riga[3], campo != std::string("IsoValuta") ? "" : breve ? ostile : kNulla);
-            EXPECT_EQ(campi(), kCampiVuoti);
+            EXPECT_EQ(campi(), kStatoVuoto);
             esegui("delete from stati where IdStato = (select max(IdStato) from stati)");
             gui.click("stati", "Command4");
             apri();

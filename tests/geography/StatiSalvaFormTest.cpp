@@ -23,7 +23,7 @@ TEST_F(StatiSalva, LeavingTheCurrencyStoresANewState) {
                "Select * from ZoneGeografiche ", "SELECT * from stati order by DescStato"}));
     EXPECT_EQ(stato("Repubblica del Kosovo"),
               (Riga{"Repubblica del Kosovo", "2008-02-17 00:00:00.000", kNulla, "EUR", "Balcani"}));
-    EXPECT_EQ(campi(), kCampiVuoti);
+    EXPECT_EQ(campi(), kStatoVuoto);
     EXPECT_EQ(fuoco(), "DescStato");
     EXPECT_EQ(pagina.control<controls::TextBox>("DescStato").selectedText(), "Seleziona");
     EXPECT_FALSE(RsCondivisi(1).IsOpen());
@@ -83,7 +83,7 @@ TEST_F(StatiSalva, AChosenStateIsChangedAndTheGridStaysAtItsPlace) {
     EXPECT_EQ(pagina.grid("DataGrid1").currentIndex().row(), riga);
     EXPECT_EQ(corrente(), "Kenya");
     EXPECT_TRUE(pagina.currentRowIsInSight("DataGrid1"));
-    EXPECT_EQ(campi(), kCampiVuoti);
+    EXPECT_EQ(campi(), kStatoVuoto);
 }
 
 TEST_F(StatiSalva, AStateWhoseNameMovesItLeavesTheGridAtItsPlace) {
@@ -116,7 +116,7 @@ TEST_F(StatiSalva, ARowChosenFromTheDateOfEndIsStoredAsItIsAndTheFieldsAreEmptie
     gui.type("x");
     clicca("Kenya");
     EXPECT_EQ(stato("Kenya"), prima);
-    EXPECT_EQ(campi(), kCampiVuoti);
+    EXPECT_EQ(campi(), kStatoVuoto);
 }
 
 TEST_F(StatiSalva, TheCommandsStoreWhatTheCurrencyIsLeftWith) {
@@ -175,7 +175,7 @@ TEST_F(StatiSalva, AListOfAreasThatIsGoneIsSkipped) {
     scrivi(kKosovo);
     EXPECT_EQ(stato("Repubblica del Kosovo")[4], "Balcani");
     EXPECT_EQ(pagina.combo("DataCombo1").count(), 0);
-    EXPECT_EQ(campi(), kCampiVuoti);
+    EXPECT_EQ(campi(), kStatoVuoto);
 }
 
 } // namespace

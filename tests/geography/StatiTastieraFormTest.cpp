@@ -34,7 +34,7 @@ TEST_F(StatiTastiera, FromTheFirstStateToTheWayOut) {
     premiFinoA("DataGrid1", Qt::Key_Backtab);
     gui.type("somalil");
     EXPECT_EQ(fuoco(), "DataGrid1");
-    EXPECT_EQ(campi(), kCampiVuoti);
+    EXPECT_EQ(campi(), kStatoVuoto);
     gui.press(Qt::Key_Space);
     EXPECT_EQ(testo("DescStato"), "Somaliland britannico");
     EXPECT_EQ(fuoco(), "DescStato");

@@ -45,8 +45,8 @@ TEST(Tour, LeavesAPictureOfEveryFormInThreeKinds) {
             << name;
     }
     // These fill the screen, which is less than twice as large at 200 %.
-    for (const char* name :
-         {"21-sezionali-iva", "22-sezionali-iva-modifica", "23-stati", "24-stati-modifica", "25-stati-aree"}) {
+    for (const char* name : {"21-sezionali-iva", "22-sezionali-iva-modifica", "23-stati", "24-stati-modifica",
+                             "25-stati-aree", "40-comuni", "41-comuni-modifica", "42-comuni-stati"}) {
         expectThreeKinds(folder.path(), name);
     }
 }

@@ -30,7 +30,10 @@ protected:
     }
     /// Name, province, postal code and the key of the state, as they stand in the table.
     Riga comune(const std::string& nome) const {
-        return riga("select DES_COMUNE, DES_PROVIN, COD_CAP, IdStato from Comuni where DES_COMUNE = '" + nome + "'");
+        Riga una =
+            riga("select DES_COMUNE, DES_PROVIN, COD_CAP, IdStato from Comuni where DES_COMUNE = '" + nome + "'");
+        una.resize(4); // where it is missing, too, which is a failure already
+        return una;
     }
     std::string idStato(const std::string& nome) const {
         return valore("select IdStato from stati where DescStato = '" + nome + "'");

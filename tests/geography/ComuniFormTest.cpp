@@ -6,6 +6,7 @@
 #include "session/TreatForms.h"
 
 #include <QDialog>
+#include <QHeaderView>
 #include <QLabel>
 #include <QPushButton>
 
@@ -112,6 +113,12 @@ TEST_F(ComuniForm, LaysItsGridAgainAfterEachReading) {
     script.expectMessage(kComuneDoppio);
     scrivi({"Aosta", "AO", "11100", "Italia"}); // behind a duplicate
     verificaColonne(colonne);
+}
+
+TEST_F(ComuniForm, TheColumnsFillTheGrid) {
+    apri();
+    const controls::DataGrid& griglia = pagina.grid("DataGrid1");
+    EXPECT_NEAR(griglia.horizontalHeader()->length(), griglia.viewport()->width(), 4) << "each is cut to whole pixels";
 }
 
 TEST_F(ComuniForm, TheGridIsInTheOrderOfStatesAndNames) {

@@ -59,10 +59,11 @@ TEST_F(ComuniNomi, BehindADuplicateTheStateIsTheOneThatWasChosenForIt) {
     scrivi({"Aosta", "AO", "11100", "Kenya"});
     scrivi({"Mombasa", "KE", "80100", ""});
     EXPECT_EQ(comune("Mombasa")[3], idStato("Kenya"));
+    EXPECT_EQ(campi(), kComuneVuoto) << "the duplicate is forgotten";
 }
 
 TEST_F(ComuniNomi, RenamingAMunicipalityToAnothersNamePasses) {
-    apri();
+    apriPerUnaNuova();
     scegli("Aosta");
     scrivi({"Bologna", "AO", "11100", ""});
     EXPECT_EQ(quanti("Comuni where DES_COMUNE = 'Bologna'"), 2);

@@ -96,6 +96,16 @@ TEST_F(ComuniRighe, ARowWithoutAStateIsStoredWithTheFirstOneWhateverTheFieldShow
     EXPECT_EQ(pagina.cell("DataGrid1", rigaDi("Campione d'Italia"), 5), "Italia");
 }
 
+// The name doesn't change by that, so that the pick alone tells it.
+TEST_F(ComuniRighe, TheStateThatTheFieldStillShowsCanBePickedForARowWithoutOne) {
+    apri();
+    scegli("Nairobi");
+    scegli("Campione d'Italia");
+    vaiA("DataCombo1");
+    pagina.pick("DataCombo1", "Kenya");
+    EXPECT_EQ(comune("Campione d''Italia")[3], idStato("Kenya"));
+}
+
 TEST_F(ComuniRighe, AStateThatIsNotThereIsNone) {
     esegui("update Comuni set IdStato = 9999 where DES_COMUNE = 'Roma'");
     apri();

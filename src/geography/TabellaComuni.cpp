@@ -22,7 +22,7 @@ std::string PrimiCaratteri(const std::string& testo, int quanti) {
 
 } // namespace
 
-std::string ElencoComuni() {
+std::string ElencoComuniConStati() {
     return "SELECT Comuni.idautonumber,Comuni.DES_COMUNE, Comuni.DES_PROVIN, Comuni.COD_CAP, Stati.IdStato, "
            "Stati.DescStato FROM Comuni LEFT JOIN Stati ON Comuni.IdStato = Stati.IdStato order by "
            "descstato,des_comune";

@@ -17,7 +17,7 @@ struct CampiComune {
     double idStato;
 };
 
-std::string ElencoComuni();
+std::string ElencoComuniConStati();
 /// The same list as it is read behind a save.
 std::string ElencoComuniRiletto();
 std::string ElencoStatiDeiComuni();

@@ -87,7 +87,7 @@ void frmComuni::CollegaStato() {
 void frmComuni::Load() {
     setWindowTitle(QString::fromUtf8(kTitolo));
     ui_->r_stati->load(StringaAzienda, ElencoStatiDeiComuni());
-    ui_->elenco->load(StringaAzienda, ElencoComuni());
+    ui_->elenco->load(StringaAzienda, ElencoComuniConStati());
     FormattaGriglia();
 }
 

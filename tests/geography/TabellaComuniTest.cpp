@@ -34,13 +34,13 @@ protected:
     /// The list as the form has it.
     static std::unique_ptr<ado::Recordset> elenco() {
         auto rs = std::make_unique<ado::Recordset>();
-        rs->Open(ElencoComuni(), DbAzienda, ado::CursorType::Static, ado::LockType::Optimistic);
+        rs->Open(ElencoComuniConStati(), DbAzienda, ado::CursorType::Static, ado::LockType::Optimistic);
         return rs;
     }
 };
 
 TEST_F(TabellaComuni, ReadsTheListsLetterForLetter) {
-    EXPECT_EQ(ElencoComuni(),
+    EXPECT_EQ(ElencoComuniConStati(),
               "SELECT Comuni.idautonumber,Comuni.DES_COMUNE, Comuni.DES_PROVIN, Comuni.COD_CAP, Stati.IdStato, "
               "Stati.DescStato FROM Comuni LEFT JOIN Stati ON Comuni.IdStato = Stati.IdStato order by "
               "descstato,des_comune");

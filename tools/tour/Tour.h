@@ -41,6 +41,8 @@ void locks(Tour& tour);
 
 /// The VAT sections, without and with one picked.
 void vatSections(Tour& tour);
+/// The company's data, and the towns among which its own is picked.
+void companyData(Tour& tour);
 
 /// Every form of the program, in the order in which a user meets them. A new form adds its page here.
 void walk(Tour& tour);

@@ -16,14 +16,14 @@ namespace {
 constexpr int kPostoAzienda = 10;
 
 // No column is there for the province.
-void ScriviComune(ado::Recordset& rs, const CampiAzienda& campi) {
+void ScriviComune(ado::Recordset& rs, const CampiDatiAzienda& campi) {
     ScriviColonne(kSenzaRegola, rs, {{"città", campi.comune, SeVuoto::Salta}});
     if (!IsEmptyValue(campi.provincia)) {
         rs["città"] = Pezzo(rs["città"]) + " (" + campi.provincia + ")";
     }
 }
 
-void ScriviAzienda(ado::Recordset& rs, const CampiAzienda& campi) {
+void ScriviAzienda(ado::Recordset& rs, const CampiDatiAzienda& campi) {
     ScriviColonne(kSenzaRegola, rs, {{"Nome", campi.nome}, {"Via", campi.indirizzo, SeVuoto::Salta}});
     ScriviComune(rs, campi);
     ScriviColonne(kSenzaRegola, rs,
@@ -85,7 +85,7 @@ std::optional<std::string> NomeStato(double idStato) {
     return nome;
 }
 
-void SalvaAzienda(const CampiAzienda& campi) {
+void SalvaAzienda(const CampiDatiAzienda& campi) {
     const Restituzione restituzione(kPostoAzienda);
     ado::Recordset& rs = RsCondivisi(kPostoAzienda);
     ApriScrivibile(rs, "Select * from DatiAzienda", DbAzienda);

@@ -8,7 +8,7 @@
 namespace vabo {
 
 /// The fields of the company as they stand on the screen, and the three keys that belong to them.
-struct CampiAzienda {
+struct CampiDatiAzienda {
     std::string nome, indirizzo;
     std::string comune; ///< the town of the list; empty where the text in the field isn't one of them
     std::string provincia, cap;
@@ -33,6 +33,6 @@ std::optional<std::string> NomeStato(double idStato);
 /// Writes the row, or the first one of an empty table. Most texts are left as they are where the field is empty, some
 /// are emptied. The province is appended to the town as the row has it by then, so it grows with each save that writes
 /// no town. Raises, and nothing is written then.
-void SalvaAzienda(const CampiAzienda& campi);
+void SalvaAzienda(const CampiDatiAzienda& campi);
 
 } // namespace vabo

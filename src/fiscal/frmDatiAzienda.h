@@ -16,7 +16,7 @@ class TextBox;
 
 namespace vabo {
 
-struct CampiAzienda;
+struct CampiDatiAzienda;
 
 /// The company's own data: one row, read when the form is loaded and stored by the button that also closes it. The town
 /// fills the rest of the address, and the tax codes are checked when their fields are left.
@@ -42,7 +42,7 @@ private:
     void MostraStato();
     static void MostraCondizione(controls::DataCombo& combo, double chiave);
     void PulisciCampi();
-    CampiAzienda Campi() const;
+    CampiDatiAzienda Campi() const;
     void SalvaRecord();
     void RifiutaSenza(const char* avviso, QWidget& campo);
 

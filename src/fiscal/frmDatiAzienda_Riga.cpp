@@ -104,7 +104,7 @@ void frmDatiAzienda::PulisciCampi() {
     ui_->DataCombo2->setText(kNessunaScelta);
 }
 
-CampiAzienda frmDatiAzienda::Campi() const {
+CampiDatiAzienda frmDatiAzienda::Campi() const {
     return {.nome = ui_->nomesocietà->Text(),
             .indirizzo = ui_->Indirizzo->Text(),
             .comune = ui_->DataCombo1->BoundText(),

@@ -198,6 +198,7 @@ TEST_F(AziendaForm, ATermIsLookedUpWhenItsFieldIsEnteredAndWhenItIsLeftByAKey) {
     apri();
     const std::pair<const char*, const char*> campi[] = {{"DCPagamento1", "2"}, {"DCPagamento2", "4"}};
     for (const auto& [campo, chiave] : campi) {
+        vaiA("nomesocietà");
         const std::string ricerca = std::string(" select Descrizione from CondizioniPagamento Where IDPagamento = ");
         esegui(std::string("update CondizioniPagamento set Descrizione = 'Entrata' where IDPagamento = ") + chiave);
         const support::StatementRecorder recorder;

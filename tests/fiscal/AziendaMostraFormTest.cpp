@@ -148,9 +148,9 @@ TEST_F(AziendaForm, ANullLeavesItsFieldEmptyAndTheOthersAreShown) {
             EXPECT_EQ(testo(altro).empty(), std::string(altro) == campo && std::string(altro) != "DataCombo1");
         }
         chiudi();
-        esegui(std::string("update DatiAzienda set ") + colonna + " = 'pieno'");
+        esegui(std::string("update DatiAzienda set ") + colonna + " = '7'");
         apri();
-        EXPECT_EQ(testo(campo), "pieno");
+        EXPECT_EQ(testo(campo), "7");
         chiudi();
     }
 }

@@ -14,7 +14,7 @@ using Testi = std::vector<std::string>;
 constexpr const char* kVuoti[] = {"", " ", "0", "00", "0000", "0,00"};
 
 /// Every field another text than in the sample.
-CampiAzienda pieni() {
+CampiDatiAzienda pieni() {
     return {.nome = "Società",
             .indirizzo = "Via Nuova 1",
             .comune = "Bologna",
@@ -40,8 +40,8 @@ CampiAzienda pieni() {
 }
 
 /// The name and these two alone.
-CampiAzienda conComune(const std::string& comune, const std::string& provincia) {
-    CampiAzienda campi;
+CampiDatiAzienda conComune(const std::string& comune, const std::string& provincia) {
+    CampiDatiAzienda campi;
     campi.nome = "Società";
     campi.comune = comune;
     campi.provincia = provincia;
@@ -125,23 +125,23 @@ TEST_F(DatiAzienda, OfSeveralRowsTheFirstIsWritten) {
 /// A column and the field that is written into it.
 struct Campo {
     const char* colonna;
-    std::string CampiAzienda::*campo;
+    std::string CampiDatiAzienda::*campo;
 };
 
 TEST_F(DatiAzienda, ATextThatIsEmptyLeavesWhatItsColumnHas) {
-    const Campo campi[] = {{"Via", &CampiAzienda::indirizzo},
-                           {"cap", &CampiAzienda::cap},
-                           {"telefonoufficio", &CampiAzienda::telefono},
-                           {"numerofax", &CampiAzienda::fax},
-                           {"indirizzopostaelettronica", &CampiAzienda::posta},
-                           {"sito", &CampiAzienda::sito},
-                           {"Codicefiscale", &CampiAzienda::codiceFiscale},
-                           {"PartitaIva", &CampiAzienda::partitaIva},
-                           {"Cab", &CampiAzienda::cab}};
+    const Campo campi[] = {{"Via", &CampiDatiAzienda::indirizzo},
+                           {"cap", &CampiDatiAzienda::cap},
+                           {"telefonoufficio", &CampiDatiAzienda::telefono},
+                           {"numerofax", &CampiDatiAzienda::fax},
+                           {"indirizzopostaelettronica", &CampiDatiAzienda::posta},
+                           {"sito", &CampiDatiAzienda::sito},
+                           {"Codicefiscale", &CampiDatiAzienda::codiceFiscale},
+                           {"PartitaIva", &CampiDatiAzienda::partitaIva},
+                           {"Cab", &CampiDatiAzienda::cab}};
     SalvaAzienda(pieni());
     for (const auto& [nome, campo] : campi) {
         for (const char* vuoto : kVuoti) {
-            CampiAzienda altri = pieni();
+            CampiDatiAzienda altri = pieni();
             altri.*campo = vuoto;
             SalvaAzienda(altri);
             EXPECT_EQ(colonna(nome), pieni().*campo) << nome;
@@ -150,18 +150,18 @@ TEST_F(DatiAzienda, ATextThatIsEmptyLeavesWhatItsColumnHas) {
 }
 
 TEST_F(DatiAzienda, TheCoordinatesOfTheBankAreEmptied) {
-    const Campo campi[] = {{"Abi", &CampiAzienda::abi},
-                           {"Cin", &CampiAzienda::cin},
-                           {"IBAN", &CampiAzienda::iban},
-                           {"BIC", &CampiAzienda::bic},
-                           {"ccorrente", &CampiAzienda::contoCorrente},
-                           {"Intestatario", &CampiAzienda::intestatario},
-                           {"Banca", &CampiAzienda::banca}};
+    const Campo campi[] = {{"Abi", &CampiDatiAzienda::abi},
+                           {"Cin", &CampiDatiAzienda::cin},
+                           {"IBAN", &CampiDatiAzienda::iban},
+                           {"BIC", &CampiDatiAzienda::bic},
+                           {"ccorrente", &CampiDatiAzienda::contoCorrente},
+                           {"Intestatario", &CampiDatiAzienda::intestatario},
+                           {"Banca", &CampiDatiAzienda::banca}};
     for (const auto& [nome, campo] : campi) {
         for (const char* vuoto : kVuoti) {
             SalvaAzienda(pieni());
             ASSERT_EQ(colonna(nome), pieni().*campo);
-            CampiAzienda altri = pieni();
+            CampiDatiAzienda altri = pieni();
             altri.*campo = vuoto;
             SalvaAzienda(altri);
             EXPECT_EQ(colonna(nome), "") << nome;
@@ -170,7 +170,7 @@ TEST_F(DatiAzienda, TheCoordinatesOfTheBankAreEmptied) {
 }
 
 TEST_F(DatiAzienda, KeysThatAreNotSetAreZeroAndTheNameIsAlwaysWritten) {
-    CampiAzienda campi = pieni();
+    CampiDatiAzienda campi = pieni();
     campi.idStato = campi.idPagamento = campi.idIncasso = 0;
     campi.nome.clear();
     SalvaAzienda(campi);
@@ -220,12 +220,13 @@ TEST_F(DatiAzienda, ASaveClosesTheSharedRecordsetsAndTheLocalDatabase) {
 TEST_F(DatiAzienda, WhatDoesNotFitRaisesNothingIsWrittenAndTheNextSaveWorks) {
     const Riga prima = tutto();
     for (const auto campo :
-         {&CampiAzienda::nome, &CampiAzienda::indirizzo, &CampiAzienda::comune, &CampiAzienda::provincia,
-          &CampiAzienda::cap, &CampiAzienda::telefono, &CampiAzienda::fax, &CampiAzienda::posta, &CampiAzienda::sito,
-          &CampiAzienda::codiceFiscale, &CampiAzienda::partitaIva, &CampiAzienda::cab, &CampiAzienda::abi,
-          &CampiAzienda::cin, &CampiAzienda::iban, &CampiAzienda::bic, &CampiAzienda::contoCorrente,
-          &CampiAzienda::intestatario, &CampiAzienda::banca}) {
-        CampiAzienda lunghi = pieni();
+         {&CampiDatiAzienda::nome, &CampiDatiAzienda::indirizzo, &CampiDatiAzienda::comune,
+          &CampiDatiAzienda::provincia, &CampiDatiAzienda::cap, &CampiDatiAzienda::telefono, &CampiDatiAzienda::fax,
+          &CampiDatiAzienda::posta, &CampiDatiAzienda::sito, &CampiDatiAzienda::codiceFiscale,
+          &CampiDatiAzienda::partitaIva, &CampiDatiAzienda::cab, &CampiDatiAzienda::abi, &CampiDatiAzienda::cin,
+          &CampiDatiAzienda::iban, &CampiDatiAzienda::bic, &CampiDatiAzienda::contoCorrente,
+          &CampiDatiAzienda::intestatario, &CampiDatiAzienda::banca}) {
+        CampiDatiAzienda lunghi = pieni();
         lunghi.*campo = std::string(4'000, 'x');
         EXPECT_THROW(SalvaAzienda(lunghi), ado::Error);
         EXPECT_EQ(tutto(), prima);
@@ -253,7 +254,7 @@ TEST_F(DatiAzienda, ARowThatAnotherUserHoldsIsRefusedAtOnceAndLaterWritten) {
 TEST_F(DatiAzienda, TextsAreStoredAsTyped) {
     for (const std::string testo :
          {"'", "x'; delete from DatiAzienda --", "\"", "a;b", "/*", "a\tb", "\x01", "€ ü 漢"}) {
-        CampiAzienda campi = pieni();
+        CampiDatiAzienda campi = pieni();
         campi.nome = campi.indirizzo = campi.posta = campi.intestatario = campi.banca = testo;
         SalvaAzienda(campi);
         EXPECT_EQ(riga("select Nome, Via, indirizzopostaelettronica, Intestatario, Banca from DatiAzienda"),

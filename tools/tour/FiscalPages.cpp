@@ -25,7 +25,9 @@ void companyData(Tour& tour) {
     auto& towns = dynamic_cast<controls::DataCombo&>(tour.control(form, "DataCombo1"));
     Tour::press(towns, Qt::Key_Down);
     tour.take("31-dati-azienda-comuni", *towns.view()->window());
-    towns.hidePopup();
+    Tour::press(*towns.view(), Qt::Key_End);
+    Tour::press(*towns.view(), Qt::Key_Return);
+    tour.take("32-dati-azienda-comune", form);
     tour.forms().unload(form);
     Tour::settle();
 }

@@ -21,8 +21,6 @@ namespace vabo {
 void frmDatiAzienda::Load() {
     salta([this] { ui_->elenco->load(StringaAzienda, ElencoAzienda()); });
     salta([this] { ui_->CondiPagamento->load(StringaAzienda, ElencoCondizioni()); });
-    ui_->DCPagamento1->setText(DescrizioneCondizione(IdIncasso));
-    ui_->DCPagamento2->setText(DescrizioneCondizione(IDPagamento));
     salta([this] { ui_->comuni->load(StringaAzienda, ElencoComuni()); });
     salta([this] { ui_->r_stati->load(StringaAzienda, ElencoStatiPerNome()); });
     if (vera([this] { return !ui_->elenco->Recordset().EOF(); })) {

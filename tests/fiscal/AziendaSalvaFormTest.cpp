@@ -133,6 +133,15 @@ TEST_F(AziendaForm, TheProvinceGrowsInTheTownUntilTheTownIsPickedAgain) {
     EXPECT_EQ(colonna("città"), "Torino (TO)");
 }
 
+TEST_F(AziendaForm, ATownThatIsNotListedIsNotWritten) {
+    esegui("update DatiAzienda set città = 'Torino (TO)'");
+    apri();
+    metti("statooprovincia", "MI");
+    esegui("update DatiAzienda set città = 'Milano'");
+    salva();
+    EXPECT_EQ(colonna("città"), "Milano (MI)") << "the one that is stored by then gets the province";
+}
+
 TEST_F(AziendaForm, WhatIsClearedIsKeptOrEmptiedByItsField) {
     const std::pair<const char*, const char*> tenuti[] = {{"Indirizzo", "Via"},
                                                           {"cap", "cap"},

@@ -23,6 +23,13 @@ TEST_F(AziendaForm, APickedTownFillsTheAddressAndMovesOn) {
     EXPECT_EQ(comuni.RecordSource, kComuni);
 }
 
+TEST_F(AziendaForm, AClickOnTheTextOfTheTownStaysThere) {
+    apri();
+    QTest::mouseClick(pagina.combo("DataCombo1").lineEdit(), Qt::LeftButton);
+    support::Gui::handleEvents();
+    EXPECT_EQ(fuoco(), "DataCombo1");
+}
+
 TEST_F(AziendaForm, ATownIsSearchedByKeyboard) {
     apri();
     vaiA("DataCombo1");

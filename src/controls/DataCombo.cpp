@@ -263,6 +263,9 @@ bool DataCombo::eventFilter(QObject* watched, QEvent* event) {
     if (watched == lineEdit() && event->type() == QEvent::MouseButtonPress) {
         emit Click(Edit);
     }
+    if (watched == lineEdit() && event->type() == QEvent::MouseButtonDblClick) {
+        emit DblClick();
+    }
     if (watched == lineEdit() && event->type() == QEvent::MouseButtonRelease && selectAtRelease_) {
         selectAtRelease_ = false;
         lineEdit()->selectAll();

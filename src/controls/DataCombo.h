@@ -53,6 +53,7 @@ signals:
     void GotFocus();
     void LostFocus(); ///< only when the focus moves to another control of the program
     void Click(int area);
+    void DblClick(); ///< on the text
 
 protected:
     void keyPressEvent(QKeyEvent* event) override;

@@ -41,6 +41,8 @@ void locks(Tour& tour);
 
 /// The VAT sections, without and with one picked.
 void vatSections(Tour& tour);
+/// The company's data, the towns among which its own is picked, and the address that it fills.
+void companyData(Tour& tour);
 
 /// Every form of the program, in the order in which a user meets them. A new form adds its page here.
 void walk(Tour& tour);

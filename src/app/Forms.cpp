@@ -2,6 +2,7 @@
 
 #include "dblife/FormRegistraAziendeNeiDns.h"
 #include "fiscal/I_Iva_sezionali.h"
+#include "fiscal/frmDatiAzienda.h"
 #include "general_tables/Avvio_Morlan.h"
 #include "geography/frmComuni.h"
 #include "geography/stati.h"
@@ -31,6 +32,7 @@ void registerForms(controls::FormRegistry& registry) {
     registry.add("FormRegistraAziendeNeiDns", make<vabo::FormRegistraAziendeNeiDns>);
     registry.add("Avvio_Morlan", make<vabo::Avvio_Morlan>);
     registry.add("I_Iva_sezionali", make<vabo::I_Iva_sezionali>);
+    registry.add("frmDatiAzienda", make<vabo::frmDatiAzienda>);
     registry.add("Scegli_progetto_4", make<vabo::Scegli_progetto_4>);
     registry.add("Scegli_sede_Pd", make<vabo::Scegli_sede_Pd>);
     registry.add("stati", make<vabo::stati>);

@@ -41,6 +41,8 @@ void locks(Tour& tour);
 
 /// The VAT sections, without and with one picked.
 void vatSections(Tour& tour);
+/// The company's data, the towns among which its own is picked, and the address that it fills.
+void companyData(Tour& tour);
 
 /// The states and the municipalities, without and with one picked, and their lists.
 void geography(Tour& tour);

@@ -273,11 +273,12 @@ double Statement::real(int column) const {
 }
 
 std::string_view Statement::text(int column) const {
-    const auto* data = reinterpret_cast<const char*>(sqlite3_column_text(handle_, column));
+    sqlite3_value* value = sqlite3_column_value(handle_, column); // found once, for both its text and its size
+    const auto* data = reinterpret_cast<const char*>(sqlite3_value_text(value));
     if (data == nullptr) {
         return {};
     }
-    return {data, static_cast<std::size_t>(sqlite3_column_bytes(handle_, column))};
+    return {data, static_cast<std::size_t>(sqlite3_value_bytes(value))};
 }
 
 Transaction::Transaction(Connection& connection) : connection_(connection), nested_(connection.inTransaction()) {

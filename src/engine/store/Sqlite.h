@@ -81,7 +81,7 @@ public:
     bool isNull(int column) const;
     std::int64_t integer(int column) const;
     double real(int column) const;
-    std::string_view text(int column) const;
+    std::string_view text(int column) const; ///< without data for a null
 
 private:
     sqlite3_stmt* handle_ = nullptr;

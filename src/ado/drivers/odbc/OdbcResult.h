@@ -24,7 +24,10 @@ public:
     bool isNull(int field) const override { return cells_[static_cast<std::size_t>(field)].null; }
     std::int64_t integer(int field) const override { return cells_[static_cast<std::size_t>(field)].integer; }
     double real(int field) const override { return cells_[static_cast<std::size_t>(field)].real; }
-    std::string_view text(int field) const override { return cells_[static_cast<std::size_t>(field)].text; }
+    std::string_view text(int field) const override {
+        const Cell& cell = cells_[static_cast<std::size_t>(field)];
+        return cell.null ? std::string_view() : cell.text;
+    }
 
 private:
     struct Cell {

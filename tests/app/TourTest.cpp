@@ -46,7 +46,8 @@ TEST(Tour, LeavesAPictureOfEveryFormInThreeKinds) {
     }
     // These fill the screen, which is less than twice as large at 200 %.
     for (const char* name : {"21-sezionali-iva", "22-sezionali-iva-modifica", "23-stati", "24-stati-modifica",
-                             "25-stati-aree", "40-comuni", "41-comuni-modifica", "42-comuni-stati"}) {
+                             "25-stati-aree", "30-dati-azienda", "31-dati-azienda-comuni", "32-dati-azienda-comune",
+                             "40-comuni", "41-comuni-modifica", "42-comuni-stati"}) {
         expectThreeKinds(folder.path(), name);
     }
 }

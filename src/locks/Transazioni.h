@@ -30,7 +30,7 @@ void ModificaTransazioni(Regola&& regola, Selezione&& selezione, const std::stri
             DbAzienda.Execute(SqlCorrente = modifica + DellaTransazione(rs["numerotransazione"], rs["idsede"]));
         });
         avanzamento.Avanza();
-        rs.MoveNext();
+        regola([&] { rs.MoveNext(); }); // the recordset is shared, and events run meanwhile
     }
 }
 

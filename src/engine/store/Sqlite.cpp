@@ -1,5 +1,6 @@
 #include "engine/store/Sqlite.h"
 
+#include "engine/store/Watched.h"
 #include "engine/values/Collation.h"
 
 #include <sqlite3.h>
@@ -95,13 +96,18 @@ void useWriteAheadLog(sqlite3* handle) {
 
 void configure(sqlite3* handle) {
     check(handle, sqlite3_extended_result_codes(handle, 1));
-    check(handle, sqlite3_busy_timeout(handle, static_cast<int>(kBusyTimeout.count())));
+    check(handle, sqlite3_busy_handler(handle, waitForWriter, nullptr));
     check(handle, sqlite3_create_collation_v2(handle, "TSQL", SQLITE_UTF8, nullptr, collate, nullptr));
     // A name in double quotes that isn't known must be refused, not read as a text.
     check(handle, sqlite3_db_config(handle, SQLITE_DBCONFIG_DQS_DML, 0, nullptr));
     check(handle, sqlite3_db_config(handle, SQLITE_DBCONFIG_DQS_DDL, 0, nullptr));
     useWriteAheadLog(handle);
     check(handle, sqlite3_exec(handle, "PRAGMA synchronous=FULL; PRAGMA foreign_keys=OFF", nullptr, nullptr, nullptr));
+}
+
+int stepped(sqlite3_stmt* statement) {
+    const Watched watched(sqlite3_db_handle(statement));
+    return sqlite3_step(statement);
 }
 
 } // namespace
@@ -134,6 +140,7 @@ Connection::~Connection() {
 }
 
 void Connection::run(const std::string& text) {
+    const Watched watched(handle_);
     check(handle_, sqlite3_exec(handle_, text.c_str(), nullptr, nullptr, nullptr));
 }
 
@@ -234,7 +241,7 @@ void Statement::bind(int place, std::string_view value) {
 }
 
 bool Statement::step() {
-    const int code = sqlite3_step(handle_);
+    const int code = stepped(handle_);
     if (code == SQLITE_ROW) {
         return true;
     }

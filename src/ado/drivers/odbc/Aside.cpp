@@ -1,11 +1,11 @@
 #include "ado/drivers/odbc/Aside.h"
 
-#include "ado/WhileWaiting.h"
-
 #include <chrono>
 #include <condition_variable>
+#include <exception>
 #include <mutex>
 #include <thread>
+#include <utility>
 
 namespace ado::odbc {
 
@@ -37,6 +37,9 @@ public:
             whileWaiting();
             lock.lock();
         }
+        if (failure_) {
+            std::rethrow_exception(std::exchange(failure_, nullptr));
+        }
     }
 
 private:
@@ -49,7 +52,11 @@ private:
             }
             const auto* call = call_;
             lock.unlock();
-            (*call)();
+            try {
+                (*call)();
+            } catch (...) {
+                failure_ = std::current_exception();
+            }
             lock.lock();
             call_ = nullptr;
             changed_.notify_all();
@@ -59,17 +66,14 @@ private:
     std::mutex mutex_;
     std::condition_variable changed_;
     const std::function<void()>* call_ = nullptr; ///< the one that runs
+    std::exception_ptr failure_;
     bool ended_ = false;
     std::thread thread_; // declared last, since it uses the others
 };
 
 } // namespace
 
-void aside(const std::function<void()>& call) {
-    if (!isWaitingUsed()) {
-        call();
-        return;
-    }
+void runBeside(const std::function<void()>& call) {
     thread_local Beside beside;
     beside.run(call);
 }

@@ -1,12 +1,24 @@
 #pragma once
 
+#include "ado/WhileWaiting.h"
+
 #include <functional>
 
 namespace ado::odbc {
 
-/// Runs a call that waits for the server. Where the thread has something to do meanwhile (WhileWaiting.h), the call
-/// runs on a thread beside it, and the present one does that until the call is over: the handles are still used by one
-/// thread at a time. The call must not throw.
-void aside(const std::function<void()>& call);
+/// Runs the call on a thread beside the present one, which does meanwhile what it has to do while it waits
+/// (WhileWaiting.h). What the call throws is thrown here.
+void runBeside(const std::function<void()>& call);
+
+/// Runs a call that waits for the server: beside the present thread where that has something to do meanwhile, otherwise
+/// as it is. Handles are used by one thread at a time either way.
+template<class Call>
+void aside(const Call& call) {
+    if (isWaitingUsed()) {
+        runBeside(call);
+    } else {
+        call();
+    }
+}
 
 } // namespace ado::odbc

@@ -171,10 +171,13 @@ void OdbcResult::readAhead() {
     using Clock = std::chrono::steady_clock;
     static constexpr std::size_t kMost = 100;
     static constexpr std::chrono::milliseconds kMoment{20};
-    const std::size_t most = isWaitingUsed() ? kMost : 1;
+    if (!isWaitingUsed()) {
+        readRow();
+        return;
+    }
     aside([&] {
         const auto end = Clock::now() + kMoment;
-        while (readRow() && read_ < most && Clock::now() < end) {
+        while (readRow() && read_ < kMost && Clock::now() < end) {
         }
     });
     whileWaiting();

@@ -3,6 +3,7 @@
 #include "ZonaAttesa.h"
 #include "ado/Error.h"
 #include "general_tables/AziendaAperta.h"
+#include "geography/ControllaData.h"
 #include "kit/ApriScrivibile.h"
 
 namespace vabo {

@@ -36,7 +36,7 @@ private:
 
 /// Runs a lock, which gets the drawing; the longest time without one in milliseconds. `alsoWhileWaiting`: as the forms
 /// do; otherwise only between two statements.
-template<class Lock>
+template<typename Lock>
 double longestWithoutDrawing(bool alsoWhileWaiting, Lock&& lock) {
     DrawnLock drawn;
     const ado::WhileWaiting waiting(alsoWhileWaiting ? std::function<void()>([&] { drawn.drawNowAndThen(); })

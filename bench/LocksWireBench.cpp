@@ -1,6 +1,5 @@
 // The two locks over the wire against bare ODBC calls that send the same texts in the same order to the same server, on
-// ledgers of 10 000 to 1 000 000 rows. Read `ratio`; `gap_ms` and
-// `gap_unwatched_ms` as in LocksBench.cpp.
+// ledgers of 10 000 to 1 000 000 rows. Read `ratio`; `gap_ms` and `gap_unwatched_ms` as in LocksBench.cpp.
 
 #include "DrawnLock.h"
 #include "LockLedger.h"

@@ -9,10 +9,7 @@
 
 #include <gtest/gtest.h>
 
-#include <algorithm>
-#include <stdexcept>
 #include <thread>
-#include <vector>
 
 namespace ado {
 namespace {
@@ -82,39 +79,12 @@ TEST(OdbcCalls, StayOnTheirThreadWhereThereIsNothingToDoMeanwhile) {
     EXPECT_EQ(ran, std::this_thread::get_id());
 }
 
-TEST(OdbcCalls, RunOneByOneOnOneThreadBesideWhereThereIs) {
+TEST(OdbcCalls, RunBesideItWhereThereIs) {
     const WhileWaiting waiting([] {});
-    std::vector<std::thread::id> ran;
-    for (int call = 0; call < 100; ++call) {
-        odbc::aside([&] { ran.push_back(std::this_thread::get_id()); });
-    }
-    ASSERT_EQ(ran.size(), 100U);
-    EXPECT_NE(ran.front(), std::this_thread::get_id());
-    EXPECT_EQ(std::count(ran.begin(), ran.end(), ran.front()), 100);
-}
-
-TEST(OdbcCalls, GiveBackWhatTheyThrowAndTheNextOneRuns) {
-    const WhileWaiting waiting([] {});
-    for (int call = 0; call < 2; ++call) {
-        EXPECT_THROW(odbc::aside([] { throw std::out_of_range("beside"); }), std::out_of_range);
-        bool ran = false;
-        EXPECT_NO_THROW(odbc::aside([&] { ran = true; }));
-        EXPECT_TRUE(ran);
-    }
-}
-
-TEST(OdbcCalls, OfSeveralThreadsAreBesideTheirOwn) {
-    const auto beside = [] {
-        const WhileWaiting waiting([] {});
-        std::thread::id ran;
-        odbc::aside([&] { ran = std::this_thread::get_id(); });
-        return ran;
-    };
-    const auto mine = beside();
-    std::thread::id others;
-    std::thread([&] { others = beside(); }).join(); // and its thread beside ends with it
-    EXPECT_NE(others, mine);
-    EXPECT_EQ(beside(), mine);
+    std::thread::id ran;
+    odbc::aside([&] { ran = std::this_thread::get_id(); });
+    EXPECT_NE(ran, std::this_thread::get_id());
+    EXPECT_NE(ran, std::thread::id());
 }
 
 } // namespace

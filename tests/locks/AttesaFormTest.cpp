@@ -18,17 +18,20 @@ using libro::Libro;
 
 /// A lock whose closing pass waits for another program, which writes the ledger until the form has been drawn some
 /// times.
-template<class Form>
+template<typename Form>
 class Attesa : public Form {
 protected:
     void corri(const std::function<void()>& aOgniDisegno = [] {}) {
         std::promise<void> basta;
         std::future<void> bastato = basta.get_future();
-        std::thread altro;
+        std::jthread altro;
         Disegni disegni(this->gui.form(this->form), [&](int volte) {
-            if (altro.joinable() && volte <= kAbbastanza) {
-                aOgniDisegno();
-                volte == kAbbastanza ? basta.set_value() : void();
+            if (!altro.joinable() || volte > kAbbastanza) {
+                return;
+            }
+            aOgniDisegno();
+            if (volte == kAbbastanza) {
+                basta.set_value();
             }
         });
         QTimer scoperta; // as where other windows pass over it
@@ -41,7 +44,7 @@ protected:
             this->scrivi("begin transaction; update partitadoppia set Descrizione = Descrizione");
             disegni.volte = 0;
             scoperta.start(1);
-            altro = std::thread([&] {
+            altro = std::jthread([&] {
                 inTempo = bastato.wait_for(std::chrono::seconds(3)) == std::future_status::ready;
                 this->scrivi("commit transaction");
             });
@@ -87,7 +90,7 @@ protected:
     }
 };
 
-template<class Lock>
+template<typename Lock>
 class LockThatWaits : public Lock {};
 using Locks = testing::Types<ProjectsWait, BranchsWait>;
 TYPED_TEST_SUITE(LockThatWaits, Locks);

@@ -185,6 +185,7 @@ TEST_F(LockQueries, WhatFailsIsSkippedAndLeavesZeroInItsPlace) {
     esegui("drop table TabellaContiUtili");
     EXPECT_THAT(conti(), ElementsAre(0, 0, 0, 0, 0, 0, 0, 0, 0));
     DbAzienda.Close();
+    StringaAzienda = "Provider=Nessuno;";
     NoveConti ContiBlocco{1, 1, 1, 1, 1, 1, 1, 1, 1}, GruppiBlocco = ContiBlocco;
     CaricaContiBlocco(ContiBlocco, GruppiBlocco);
     EXPECT_EQ(ContiBlocco, NoveConti{}) << "what was there before is gone";

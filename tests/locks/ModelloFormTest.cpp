@@ -14,7 +14,7 @@ using Testi = std::vector<std::string>;
 constexpr int kLibri = 2000; ///< of each lock, on each connection
 
 /// What the form of either lock gets and leaves.
-template<class Form>
+template<typename Form>
 class ControIlModello : public Form {
 protected:
     ControIlModello() { this->RecordProperty("seed", std::to_string(seme)); }

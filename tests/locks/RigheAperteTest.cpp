@@ -23,7 +23,7 @@ protected:
                 .conto = 1060}});
     }
     /// Does something ahead of the update of each row.
-    template<class Lock>
+    template<typename Lock>
     void adOgniRiga(const Lock& blocca, const std::function<void(ado::Recordset&)>& fa) {
         bool dentro = false;
         const support::SomebodyElse chiunque([&](const std::string& inviata) {

@@ -1,5 +1,7 @@
 #include "engine/store/Sqlite.h"
 
+#include "engine/store/Beside.h"
+#include "engine/store/Idler.h"
 #include "engine/store/Watched.h"
 #include "engine/values/Collation.h"
 
@@ -169,6 +171,7 @@ std::int64_t Connection::lastRow() const {
 }
 
 void Connection::begin() {
+    changedBefore_ = sqlite3_total_changes64(handle_);
     if (!begin_) {
         begin_ = std::make_unique<Statement>(*this, lock_ ? "BEGIN" : "BEGIN IMMEDIATE");
     }
@@ -188,7 +191,13 @@ void Connection::commit() {
     if (!commit_) {
         commit_ = std::make_unique<Statement>(*this, "COMMIT");
     }
-    commit_->run();
+    // What many rows leave to be written takes long, and SQLite tells nothing of its progress.
+    constexpr std::int64_t kMany = 1'000;
+    if (hasIdler() && sqlite3_total_changes64(handle_) - changedBefore_ >= kMany) {
+        runBeside([this] { commit_->run(); });
+    } else {
+        commit_->run();
+    }
 }
 
 void Connection::rollback() noexcept {

@@ -66,6 +66,53 @@ TEST_F(WatchedStorage, IsTheThreadsOwn) {
     EXPECT_TRUE(hasIdler());
 }
 
+/// The thread on which a transaction of so many rows is committed.
+class CommittedStorage : public WatchedStorage {
+protected:
+    CommittedStorage() {
+        connection.run("CREATE TABLE t (a)");
+        sqlite3_commit_hook(
+            connection.handle(),
+            [](void* self) {
+                static_cast<CommittedStorage*>(self)->thread = std::this_thread::get_id();
+                return static_cast<CommittedStorage*>(self)->refuses;
+            },
+            this);
+    }
+    void write(int rows) {
+        connection.begin();
+        connection.run("WITH n(i) AS (SELECT 1 UNION ALL SELECT i + 1 FROM n WHERE i < " + std::to_string(rows) +
+                       ") INSERT INTO t SELECT i FROM n");
+        connection.commit();
+    }
+    std::thread::id thread;
+    int refuses = 0;
+};
+
+TEST_F(CommittedStorage, CommitsManyRowsBesideAThreadThatHasAnIdler) {
+    setIdler(count);
+    write(1'000);
+    EXPECT_NE(thread, std::this_thread::get_id());
+    EXPECT_FALSE(connection.inTransaction());
+    write(999);
+    EXPECT_EQ(thread, std::this_thread::get_id()) << "those before it don't count";
+    setIdler(nullptr);
+    write(5'000);
+    EXPECT_EQ(thread, std::this_thread::get_id());
+}
+
+TEST_F(CommittedStorage, ToldOfACommitThatFailsBesideIt) {
+    setIdler(count);
+    refuses = 1;
+    EXPECT_THROW(write(1'000), Failure);
+    refuses = 0;
+    connection.rollback();
+    write(1'000);
+    Statement rows(connection, "SELECT count(*) FROM t");
+    ASSERT_TRUE(rows.step());
+    EXPECT_EQ(rows.integer(0), 1'000);
+}
+
 TEST_F(WatchedStorage, WaitsForAnotherWriterAndLetsTheIdlerRunMeanwhile) {
     Connection other(folder.path() / "a.mdf", false);
     other.run("CREATE TABLE t (a)");

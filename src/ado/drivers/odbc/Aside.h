@@ -1,21 +1,16 @@
 #pragma once
 
 #include "ado/WhileWaiting.h"
-
-#include <functional>
+#include "engine/store/Beside.h"
 
 namespace ado::odbc {
 
-/// Runs the call on a thread beside the present one, which does meanwhile what it has to do while it waits
-/// (WhileWaiting.h). What the call throws is thrown here.
-void runBeside(const std::function<void()>& call);
-
-/// Runs a call that waits for the server: beside the present thread where that has something to do meanwhile, otherwise
-/// as it is. Handles are used by one thread at a time either way.
-template<class Call>
+/// Runs a call that waits for the server: on a thread beside the present one where that has something to do meanwhile,
+/// otherwise as it is.
+template<typename Call>
 void aside(const Call& call) {
     if (isWaitingUsed()) {
-        runBeside(call);
+        engine::runBeside(call);
     } else {
         call();
     }

@@ -1,4 +1,6 @@
-#include "ado/drivers/odbc/Aside.h"
+#include "engine/store/Beside.h"
+
+#include "engine/store/Idler.h"
 
 #include <chrono>
 #include <condition_variable>
@@ -7,11 +9,11 @@
 #include <thread>
 #include <utility>
 
-namespace ado::odbc {
+namespace engine {
 
 namespace {
 
-constexpr std::chrono::milliseconds kPiece{50};
+constexpr std::chrono::milliseconds kPiece{25};
 
 /// One thread for all calls of its owner, since a new one for each would cost more than most calls.
 class Beside {
@@ -34,7 +36,7 @@ public:
         changed_.notify_all();
         while (!changed_.wait_for(lock, kPiece, [this] { return call_ == nullptr; })) {
             lock.unlock();
-            whileWaiting();
+            idle();
             lock.lock();
         }
         if (failure_) {
@@ -78,4 +80,4 @@ void runBeside(const std::function<void()>& call) {
     beside.run(call);
 }
 
-} // namespace ado::odbc
+} // namespace engine

@@ -15,9 +15,9 @@ using test::raises;
 /// A table of so many numbers, and what takes long to find out about it.
 class Waiting : public Contract {
 protected:
-    static constexpr int kNumbers = 3'000;
-    static constexpr const char* kLong = "select count(*) from Numeri a, Numeri b where a.n + b.n > 3000";
-    static constexpr const char* kItsResult = "4501500";
+    static constexpr int kNumbers = 1'800;
+    static constexpr const char* kLong = "select count(*) from Numeri a, Numeri b where a.n + b.n > 1800";
+    static constexpr const char* kItsResult = "1620900";
 
     void SetUp() override {
         Contract::SetUp();
@@ -25,7 +25,7 @@ protected:
         std::string values;
         for (int n = 1; n <= kNumbers; ++n) {
             values += (values.empty() ? "(" : ", (") + std::to_string(n) + ")";
-            if (n % 500 == 0) {
+            if (n % 600 == 0) {
                 connection.Execute("insert into Numeri values " + values);
                 values.clear();
             }
@@ -55,7 +55,7 @@ TEST_F(Waiting, IsFilledAgainAndAgainDuringOneStatementAndAtMostTwentyTimesASeco
 TEST_F(Waiting, IsFilledWhileAStatementWritesToo) {
     const WhileWaiting waiting(counting());
     EXPECT_EQ(connection.Execute("update Numeri set n = n where n <= (select count(*) from Numeri a, Numeri b where "
-                                 "a.n + b.n > 3000)"),
+                                 "a.n + b.n > 1800)"),
               kNumbers);
     EXPECT_GE(times, 2);
 }
@@ -187,13 +187,13 @@ TEST_F(Waiting, IsFilledWhileAnotherConnectionWrites) {
 /// None of these rows takes long.
 TEST_F(Waiting, IsFilledWhileRowsAreRead) {
     const WhileWaiting waiting(counting());
-    const auto result = connection.driverConnection()->run("select a.n from Numeri a, Numeri b where b.n <= 100");
+    const auto result = connection.driverConnection()->run("select a.n from Numeri a, Numeri b where b.n <= 300");
     ASSERT_TRUE(result->nextResult());
     int rows = 0;
     while (result->nextRow()) {
         ++rows;
     }
-    EXPECT_EQ(rows, 100 * kNumbers);
+    EXPECT_EQ(rows, 300 * kNumbers);
     EXPECT_GE(times, 2);
 }
 

@@ -1,6 +1,7 @@
 #include "ado/AdoFixture.h"
 #include "ado/WhileWaiting.h"
 
+#include <algorithm>
 #include <chrono>
 #include <future>
 #include <stdexcept>
@@ -148,6 +149,19 @@ TEST_F(Waiting, WhatIsThrownInTheMeantimeIsDropped) {
     EXPECT_EQ(cell(kLong), kItsResult);
     EXPECT_GE(times, 2);
     EXPECT_EQ(cell("select count(*) from Comuni"), "4") << "nothing is refused any more";
+}
+
+TEST_F(Waiting, IsNotFilledWithinItself) {
+    int depth = 0, deepest = 0;
+    const WhileWaiting waiting([&] {
+        deepest = std::max(deepest, ++depth);
+        if (depth < 3) {
+            whileWaiting();
+        }
+        --depth;
+    });
+    cell(kLong);
+    EXPECT_EQ(deepest, 1);
 }
 
 TEST_F(Waiting, MayBeEndedInTheMeantime) {

@@ -5,6 +5,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <chrono>
 #include <future>
 #include <stdexcept>
 #include <thread>
@@ -26,6 +27,14 @@ TEST(Beside, RunsAllCallsOnOneThread) {
     }
     EXPECT_NE(ran.front(), std::this_thread::get_id());
     EXPECT_EQ(std::count(ran.begin(), ran.end(), ran.front()), 100);
+}
+
+TEST(Beside, IsOverAsSoonAsItsCall) {
+    const auto begun = std::chrono::steady_clock::now();
+    for (int call = 0; call < 100; ++call) {
+        besideThread();
+    }
+    EXPECT_LT(std::chrono::steady_clock::now() - begun, std::chrono::seconds(2)) << "a fiftieth of a second each";
 }
 
 TEST(Beside, RunsThoseOfAnotherThreadOnAnotherOneThatEndsWithIt) {

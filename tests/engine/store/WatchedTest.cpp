@@ -58,6 +58,18 @@ TEST_F(WatchedStorage, LeavesNothingBehindAtTheConnection) {
     EXPECT_EQ(calls, 0);
 }
 
+TEST_F(WatchedStorage, LeavesTheConnectionAloneWhereThereIsNoIdler) {
+    constexpr int kSteps = 10'000;
+    sqlite3_progress_handler(
+        connection.handle(), kSteps,
+        [](void* /*unused*/) {
+            ++calls;
+            return 0;
+        },
+        nullptr);
+    EXPECT_GT(callsOf(kLong), 10);
+}
+
 TEST_F(WatchedStorage, IsTheThreadsOwn) {
     setIdler(count);
     bool has = true;

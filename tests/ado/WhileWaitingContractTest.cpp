@@ -61,6 +61,17 @@ TEST_F(Waiting, IsFilledWhileAStatementWritesToo) {
     EXPECT_GE(times, 2);
 }
 
+TEST_F(Waiting, IsFilledDuringABatchToo) {
+    const WhileWaiting waiting(counting());
+    const auto result = connection.driverConnection()->run(std::string("select 'primo'; ") + kLong);
+    for (int statement = 1; statement <= 2; ++statement) {
+        ASSERT_TRUE(result->nextResult());
+        ASSERT_TRUE(result->nextRow());
+        ASSERT_FALSE(result->nextRow());
+    }
+    EXPECT_GE(times, 2);
+}
+
 TEST_F(Waiting, IsOverWithItsScopeAndThenAsItWasBefore) {
     int outer = 0;
     {
@@ -239,16 +250,18 @@ TEST_F(Waiting, RowsAheadOfAFailureComeAsEver) {
 
 TEST_F(Waiting, RowsThatAreReadOneByOneMayBeLeftForTheNextResult) {
     const WhileWaiting waiting(counting());
-    const auto result = connection.driverConnection()->run("select n from Numeri order by n; select 'ultimo'");
-    ASSERT_TRUE(result->nextResult());
-    ASSERT_TRUE(result->nextRow());
-    ASSERT_TRUE(result->nextRow());
-    EXPECT_EQ(result->integer(0), 2);
-    ASSERT_TRUE(result->nextResult());
-    ASSERT_TRUE(result->nextRow());
-    EXPECT_EQ(result->text(0), "ultimo");
-    EXPECT_FALSE(result->nextRow());
-    EXPECT_FALSE(result->nextResult());
+    for (const char* const first : {"select n from Numeri order by n", "select n from Numeri where n < 6 order by n"}) {
+        const auto result = connection.driverConnection()->run(std::string(first) + "; select 'ultimo'");
+        ASSERT_TRUE(result->nextResult());
+        ASSERT_TRUE(result->nextRow());
+        ASSERT_TRUE(result->nextRow());
+        EXPECT_EQ(result->integer(0), 2);
+        ASSERT_TRUE(result->nextResult());
+        ASSERT_TRUE(result->nextRow()) << first;
+        EXPECT_EQ(result->text(0), "ultimo");
+        EXPECT_FALSE(result->nextRow());
+        EXPECT_FALSE(result->nextResult());
+    }
 }
 
 } // namespace

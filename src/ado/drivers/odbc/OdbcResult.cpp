@@ -103,6 +103,7 @@ bool OdbcResult::nextResult() {
     rows_.clear();
     at_ = read_ = 0;
     fetched_ = SQL_SUCCESS;
+    failure_ = nullptr;
     affected_ = -1;
     // For an UPDATE or DELETE that found no row SQLExecDirect returns "no data", which is a result here.
     if (!answered(code, first ? "SQLExecDirect" : "SQLMoreResults") && !first) {

@@ -1,6 +1,5 @@
 #include "geography/TabellaStati.h"
 
-#include "geography/ControllaData.h"
 #include "kit/ApriScrivibile.h"
 #include "kit/Colonne.h"
 #include "kit/ErrorHandling.h"
@@ -72,17 +71,6 @@ void SalvaStato(double chiave, const CampiStato& campi) {
 
 void EliminaStatiSenzaNome() {
     DbAzienda.Execute("delete from stati where descstato is null");
-}
-
-DataLasciata LasciaData(std::string& testo) {
-    std::string data = testo;
-    Flag esito = kFalso;
-    ControllaData(data, esito);
-    if (esito != kFalso) {
-        testo = data;
-        return DataLasciata::Scritta;
-    }
-    return IsEmptyValue(data) ? DataLasciata::Vuota : DataLasciata::Rifiutata;
 }
 
 } // namespace vabo

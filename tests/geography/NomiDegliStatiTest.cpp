@@ -1,6 +1,7 @@
 // The names of states: missing, taken, hostile, purged. The date that is left.
 
 #include "ado/Error.h"
+#include "geography/ControllaData.h"
 #include "geography/TabellaStatiAperta.h"
 
 namespace vabo {

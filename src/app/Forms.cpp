@@ -3,6 +3,7 @@
 #include "dblife/FormRegistraAziendeNeiDns.h"
 #include "fiscal/I_Iva_sezionali.h"
 #include "general_tables/Avvio_Morlan.h"
+#include "general_tables/TabelleBustePaga.h"
 #include "geography/stati.h"
 #include "locks/Scegli_progetto_4.h"
 #include "locks/Scegli_sede_Pd.h"
@@ -33,6 +34,7 @@ void registerForms(controls::FormRegistry& registry) {
     registry.add("Scegli_progetto_4", make<vabo::Scegli_progetto_4>);
     registry.add("Scegli_sede_Pd", make<vabo::Scegli_sede_Pd>);
     registry.add("stati", make<vabo::stati>);
+    registry.add("TabelleBustePaga", make<vabo::TabelleBustePaga>);
 }
 
 } // namespace app

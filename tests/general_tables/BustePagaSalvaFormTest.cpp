@@ -33,16 +33,16 @@ TEST_F(BustePagaSalva, WithoutAPickEmptiesTheOtherFundsAndIrap) {
 
 TEST_F(BustePagaSalva, WritesEachPickToItsColumnsAndTheGroupsOfTheCharges) {
     apri();
-    const int scelti[] = {1099, 1100, 1087, 1085, 1086, 1180, 1003, 1190, 1090};
+    const int scelti[] = {1099, 1100, 1087, 1085, 1086, 1180, 1003, 1191, 1090};
     esegui("update conti set idmastro = 4, IdGruppoVabo = 11 where IdConto = 1003 update conti set IdGruppoVabo = 46 "
-           "where IdConto = 1190");
+           "where IdConto = 1191");
     riapri();
     for (int i = 0; i < kSelettori; ++i) {
         prendi(i, scelti[i]);
     }
     const auto prima = tutte();
     salva();
-    EXPECT_EQ(righe(4), (Riga{"1099", "1100", "1087", "1085", "1086", "1180", "44", "1003", "11", "1190", "46", "1090",
+    EXPECT_EQ(righe(4), (Riga{"1099", "1100", "1087", "1085", "1086", "1180", "44", "1003", "11", "1191", "46", "1090",
                               "0", "0", "0"}));
     for (const int altro : {5, 6, 9}) {
         EXPECT_EQ(righe(altro),
@@ -57,15 +57,25 @@ TEST_F(BustePagaSalva, SendsItsStatementsInTheirOrderAndNoOther) {
     const support::StatementRecorder recorder;
     salva();
     std::vector<std::string> inviate = recorder.texts();
-    // Without the data layer's own statement that holds the row, which isn't sent to every kind of server.
-    std::erase_if(inviate, [](const std::string& testo) { return testo.find("UPDLOCK") != std::string::npos; });
-    ASSERT_EQ(inviate.size(), 7U);
-    EXPECT_TRUE(inviate.at(4).starts_with("UPDATE [")) << inviate.at(4);
-    inviate.erase(inviate.begin() + 4);
-    EXPECT_EQ(inviate, (Riga{"select * from TipoAnagraficaCPartite where id =4",
-                             "SELECT  IdGruppoVabo From conti where IdConto =1185",
-                             "SELECT  IdGruppoVabo From conti where IdConto =1187",
-                             "SELECT  IdGruppoVabo From conti where IdConto =1183", kElencoTipi, kElencoTipi}));
+    ASSERT_GE(inviate.size(), 2U);
+    // How a row is held is the driver's matter.
+    const std::string tenuta = " WITH (UPDLOCK, ROWLOCK)";
+    if (const auto dove = inviate[1].find(tenuta); dove != std::string::npos) {
+        inviate[1].erase(dove, tenuta.size());
+    }
+    EXPECT_EQ(inviate,
+              (Riga{"select * from TipoAnagraficaCPartite where id =4",
+                    "SELECT [id], [IdIrpef], [IdIrpefReg], [IdIrpefCom], [IdInpsP], [IdInailP], [IdCInpsE], "
+                    "[IdGInpsE], [IdCInailE], [IdGInailE], [IdCAltriFondiE], [IdGAltriFondiE], [IdAltriFondiP], "
+                    "[IdCIrapE], [IdGIrapE], [IdIrapP] FROM [TipoAnagraficaCPartite] WHERE [id] = 4",
+                    "SELECT  IdGruppoVabo From conti where IdConto =1185",
+                    "SELECT  IdGruppoVabo From conti where IdConto =1187",
+                    "SELECT  IdGruppoVabo From conti where IdConto =1183",
+                    "UPDATE [TipoAnagraficaCPartite] SET [IdIrpef] = 1080, [IdIrpefReg] = 1082, [IdIrpefCom] = 1083, "
+                    "[IdInpsP] = 1089, [IdInailP] = 1091, [IdCInpsE] = 1185, [IdGInpsE] = 45, [IdCInailE] = 1187, "
+                    "[IdGInailE] = 45, [IdCAltriFondiE] = 1183, [IdGAltriFondiE] = 44, [IdAltriFondiP] = 0, "
+                    "[IdCIrapE] = 0, [IdGIrapE] = 0, [IdIrapP] = 0 WHERE [id] = 4",
+                    kElencoTipi, kElencoTipi}));
 }
 
 TEST_F(BustePagaSalva, APickOfTheLastTwoIsWrittenIntoEveryRowSavedAfterIt) {

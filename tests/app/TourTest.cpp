@@ -45,8 +45,8 @@ TEST(Tour, LeavesAPictureOfEveryFormInThreeKinds) {
             << name;
     }
     // These fill the screen, which is less than twice as large at 200 %.
-    for (const char* name :
-         {"21-sezionali-iva", "22-sezionali-iva-modifica", "23-stati", "24-stati-modifica", "25-stati-aree"}) {
+    for (const char* name : {"21-sezionali-iva", "22-sezionali-iva-modifica", "23-stati", "24-stati-modifica",
+                             "25-stati-aree", "26-buste-paga", "27-buste-paga-tipo", "28-buste-paga-elenco"}) {
         expectThreeKinds(folder.path(), name);
     }
 }

@@ -75,6 +75,10 @@ protected:
         return riga(std::string("select ") + kColonne +
                     " from TipoAnagraficaCPartite where id = " + std::to_string(tipo));
     }
+    Riga letti(const char* colonne, int tipo) const {
+        return riga(std::string("select ") + colonne +
+                    " from TipoAnagraficaCPartite where id = " + std::to_string(tipo));
+    }
     std::vector<Riga> tutte() const {
         return posto.rows(support::kCompany,
                           std::string("select id, ") + kColonne + " from TipoAnagraficaCPartite order by id");

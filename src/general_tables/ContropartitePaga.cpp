@@ -60,7 +60,6 @@ void ScriviContropartite(double tipo, const ContiPaga& conti) {
     }
     ScriviColonne(kSaltando, rs, {{"IdCIrapE", 0}, {"IdGIrapE", 0}, {"IdIrapP", 0}});
     salta([&] { rs.Update(); });
-    salta([&] { rs.Close(); });
 }
 
 } // namespace vabo

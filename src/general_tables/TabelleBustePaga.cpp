@@ -7,6 +7,7 @@
 #include "general_tables/CaricaValoriControlli.h"
 #include "kit/IsEmptyValue.h"
 #include "kit/Regole.h"
+#include "kit/Riposiziona.h"
 #include "kit/Titolo.h"
 #include "session/TreatForms.h"
 #include "state/variabili.h"
@@ -31,7 +32,6 @@ TabelleBustePaga::TabelleBustePaga() : Form("TabelleBustePaga"), ui_(std::make_u
     on(ui_->DataGrid1, &controls::DataGrid::DblClick, [this] { LeggiRiga(); });
     on(ui_->Command9, &QPushButton::clicked, [this] { SalvaContropartite(); });
     on(ui_->Command4, &QPushButton::clicked, [this] { UnloadMe(); });
-    ui_->DataGrid1->setFocus();
     takeScreen();
 }
 
@@ -99,7 +99,7 @@ void TabelleBustePaga::SalvaContropartite() {
     salta([&] { posizione = ui_->elenco->Recordset().AbsolutePosition(); });
     salta([this] { ui_->elenco->Refresh(); });
     salta([this] { AggiornaElenco(); });
-    salta([&] { ui_->elenco->Recordset().MoveFromFirst(posizione); });
+    Riposiziona(*ui_->elenco, posizione);
 }
 
 void TabelleBustePaga::Unload() {

@@ -128,6 +128,14 @@ TEST_F(BustePagaCaricamento, TheGridShowsTypeAndAccountAndTakesNoText) {
     EXPECT_EQ(pagina.cell("DataGrid1", 1, 2), "Erario c/ritenute Irpef autonomi");
 }
 
+TEST_F(BustePagaCaricamento, TheColumnsFillTheGrid) {
+    apri();
+    const controls::DataGrid& griglia = pagina.grid("DataGrid1");
+    constexpr int kSommaDelleLarghezze = 600;
+    ASSERT_GT(griglia.viewport()->width(), kSommaDelleLarghezze);
+    EXPECT_NEAR(griglia.columnWidth(1) + griglia.columnWidth(2), griglia.viewport()->width(), 2);
+}
+
 TEST_F(BustePagaCaricamento, WithoutTypesTheFormIsEmptyAndNeitherReadsNorStores) {
     esegui("delete from tipoanagrafica");
     const auto prima = tutte();

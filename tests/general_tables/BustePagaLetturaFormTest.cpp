@@ -112,11 +112,27 @@ TEST_F(BustePagaLettura, ATypeWithoutANameLeavesTheFormerOne) {
     EXPECT_EQ(valore("select IdInpsP from TipoAnagraficaCPartite where id = 5"), "1090") << "it is the row read last";
 }
 
+TEST_F(BustePagaLettura, ADoubleClickWhereTheRowsHaveGoneReadsNothing) {
+    apri();
+    prendi(0, 1099);
+    esegui("delete from tipoanagrafica");
+    salva();
+    ASSERT_EQ(pagina.rows("DataGrid1"), 0);
+    const Riga mostrati = conti();
+    const support::StatementRecorder recorder;
+    QTest::mouseDClick(pagina.grid("DataGrid1").viewport(), Qt::LeftButton);
+    EXPECT_TRUE(recorder.texts().empty());
+    EXPECT_EQ(conti(), mostrati);
+}
+
 /// A column of the row that is read, and the picker that shows it.
 struct Nullo {
     const char* colonna;
     int indice;
 };
+std::ostream& operator<<(std::ostream& out, const Nullo& nullo) {
+    return out << nullo.colonna;
+}
 
 class BustePagaNulli : public BustePagaForm, public testing::WithParamInterface<Nullo> {};
 

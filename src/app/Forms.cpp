@@ -4,6 +4,7 @@
 #include "fiscal/I_Iva_sezionali.h"
 #include "fiscal/frmDatiAzienda.h"
 #include "general_tables/Avvio_Morlan.h"
+#include "general_tables/TabelleBustePaga.h"
 #include "geography/frmComuni.h"
 #include "geography/stati.h"
 #include "locks/Scegli_progetto_4.h"
@@ -37,6 +38,7 @@ void registerForms(controls::FormRegistry& registry) {
     registry.add("Scegli_sede_Pd", make<vabo::Scegli_sede_Pd>);
     registry.add("stati", make<vabo::stati>);
     registry.add("frmComuni", make<vabo::frmComuni>);
+    registry.add("TabelleBustePaga", make<vabo::TabelleBustePaga>);
 }
 
 } // namespace app

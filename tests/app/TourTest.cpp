@@ -45,9 +45,10 @@ TEST(Tour, LeavesAPictureOfEveryFormInThreeKinds) {
             << name;
     }
     // These fill the screen, which is less than twice as large at 200 %.
-    for (const char* name : {"21-sezionali-iva", "22-sezionali-iva-modifica", "23-stati", "24-stati-modifica",
-                             "25-stati-aree", "30-dati-azienda", "31-dati-azienda-comuni", "32-dati-azienda-comune",
-                             "40-comuni", "41-comuni-modifica", "42-comuni-stati"}) {
+    for (const char* name :
+         {"21-sezionali-iva", "22-sezionali-iva-modifica", "23-stati", "24-stati-modifica", "25-stati-aree",
+          "26-buste-paga", "27-buste-paga-tipo", "28-buste-paga-elenco", "30-dati-azienda", "31-dati-azienda-comuni",
+          "32-dati-azienda-comune", "40-comuni", "41-comuni-modifica", "42-comuni-stati"}) {
         expectThreeKinds(folder.path(), name);
     }
 }

@@ -77,8 +77,8 @@ void dataSources(Tour& tour) {
 } // namespace
 
 void walk(Tour& tour) {
-    for (const auto page :
-         {start, login, box, console, links, generalTables, locks, vatSections, dataSources, geography, companyData}) {
+    for (const auto page : {start, login, box, console, links, generalTables, locks, vatSections, dataSources,
+                            geography, payroll, companyData}) {
         page(tour);
     }
 }

@@ -6,6 +6,8 @@
 #include "geography/stati.h"
 #include "locks/Scegli_progetto_4.h"
 #include "locks/Scegli_sede_Pd.h"
+#include "payment_terms/CondizioniPagamento.h"
+#include "payment_terms/CondizioniPagamentoDecorrenza.h"
 #include "session/About.h"
 #include "session/Avvio.h"
 #include "session/Avvio_Azienda.h"
@@ -32,6 +34,8 @@ void registerForms(controls::FormRegistry& registry) {
     registry.add("I_Iva_sezionali", make<vabo::I_Iva_sezionali>);
     registry.add("Scegli_progetto_4", make<vabo::Scegli_progetto_4>);
     registry.add("Scegli_sede_Pd", make<vabo::Scegli_sede_Pd>);
+    registry.add("CondizioniPagamento", make<vabo::CondizioniPagamento>);
+    registry.add("CondizioniPagamentoDecorrenza", make<vabo::CondizioniPagamentoDecorrenza>);
     registry.add("stati", make<vabo::stati>);
 }
 

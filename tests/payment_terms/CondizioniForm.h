@@ -5,6 +5,7 @@
 #include "controls/DataControl.h"
 #include "controls/TextBox.h"
 #include "support/FormPage.h"
+#include "support/SomebodyElse.h"
 
 #include <QTest>
 

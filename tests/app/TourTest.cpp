@@ -46,7 +46,10 @@ TEST(Tour, LeavesAPictureOfEveryFormInThreeKinds) {
     }
     // These fill the screen, which is less than twice as large at 200 %.
     for (const char* name :
-         {"21-sezionali-iva", "22-sezionali-iva-modifica", "23-stati", "24-stati-modifica", "25-stati-aree"}) {
+         {"21-sezionali-iva", "22-sezionali-iva-modifica", "23-stati", "24-stati-modifica", "25-stati-aree",
+          "26-condizioni", "26-condizioni-modifica", "26-condizioni-en", "26-condizioni-es", "26-condizioni-po",
+          "26-condizioni-fr", "27-condizioni-decorrenze", "28-decorrenze", "28-decorrenze-modifica", "28-decorrenze-en",
+          "28-decorrenze-es", "28-decorrenze-po", "28-decorrenze-fr"}) {
         expectThreeKinds(folder.path(), name);
     }
 }

@@ -20,9 +20,14 @@ namespace vabo {
 
 namespace {
 
+constexpr const char* kNomeDelCampo = nullptr;
+
 // The days keep the names of their fields, but for the last one.
-constexpr std::array<controls::ColumnLayout, 6> kColonne = {{{0, nullptr, 0},
+constexpr std::array<controls::ColumnLayout, 9> kColonne = {{{0, kNomeDelCampo, 0},
                                                              {1, "Scadenze  ", 5000},
+                                                             {2, kNomeDelCampo, 1000},
+                                                             {3, kNomeDelCampo, 1000},
+                                                             {4, kNomeDelCampo, 1000},
                                                              {5, "GG", 1000},
                                                              {6, "Escluso", 600},
                                                              {7, "Escluso", 600},

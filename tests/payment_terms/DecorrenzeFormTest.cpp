@@ -58,22 +58,20 @@ TEST_F(FormDecorrenze, WithoutTheTableTheErrorIsToldAndTheFormStands) {
 /// What a column of the grid has.
 struct Colonna {
     const char* titolo;
-    int twips; ///< 0 where it is hidden, -1 where it isn't set
+    int twips; ///< 0 where it is hidden
 };
 
 TEST_F(FormDecorrenze, LaysItsGridAgainAfterEachReading) {
-    const Colonna colonne[] = {{"IDDecorrenza", 0},     {"Scadenze", 5000},      {"GiornoScadenza", -1},
-                               {"GiornoScadenza1", -1}, {"GiornoScadenza2", -1}, {"GG", 1000},
-                               {"Escluso", 600},        {"Escluso", 600},        {"Escluso", 600}};
+    const Colonna colonne[] = {{"IDDecorrenza", 0},       {"Scadenze", 5000},        {"GiornoScadenza", 1000},
+                               {"GiornoScadenza1", 1000}, {"GiornoScadenza2", 1000}, {"GG", 1000},
+                               {"Escluso", 600},          {"Escluso", 600},          {"Escluso", 600}};
     const auto verifica = [&] {
         ASSERT_EQ(griglia().ColumnCount(), 9);
         for (int i = 0; i < 9; ++i) {
             EXPECT_TRUE(griglia().Columns(i).Locked()) << i;
             EXPECT_EQ(griglia().Columns(i).Caption(), colonne[i].titolo);
             EXPECT_EQ(griglia().Columns(i).Visible(), colonne[i].twips != 0) << i;
-            if (colonne[i].twips >= 0) {
-                EXPECT_EQ(griglia().Columns(i).Width(), colonne[i].twips) << i;
-            }
+            EXPECT_EQ(griglia().Columns(i).Width(), colonne[i].twips) << i;
         }
     };
     apri();

@@ -29,6 +29,7 @@ void close(Tour& tour, const char* form) {
 /// Picks the last row of the grid, as a user does.
 void pickLast(Tour& tour, const char* form) {
     auto& grid = dynamic_cast<controls::DataGrid&>(tour.control(form, "DataGrid1"));
+    grid.setFocus();
     grid.selectRow(grid.model()->rowCount() - 1);
     Tour::press(grid, Qt::Key_Space);
 }

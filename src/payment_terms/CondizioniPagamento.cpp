@@ -9,7 +9,6 @@
 #include "controls/TextBox.h"
 #include "kit/IsEmptyValue.h"
 #include "kit/Regole.h"
-#include "kit/Testi.h"
 #include "payment_terms/Importo.h"
 #include "payment_terms/LinguaDelForm.h"
 #include "payment_terms/TabellaCondizioni.h"
@@ -17,8 +16,8 @@
 #include "state/variabili.h"
 #include "ui_CondizioniPagamento.h"
 
-#include <algorithm>
 #include <array>
+#include <vector>
 
 namespace vabo {
 
@@ -40,25 +39,8 @@ constexpr std::array<controls::ColumnLayout, kColonne> Colonne() {
     return colonne;
 }
 
-std::array<controls::TextBox*, kRate> Scadenze(const Ui::CondizioniPagamento& ui) {
-    return {ui.Scadenza1, ui.Scadenza2, ui.Scadenza3, ui.Scadenza4,  ui.Scadenza5,  ui.Scadenza6,
-            ui.Scadenza7, ui.Scadenza8, ui.Scadenza9, ui.Scadenza10, ui.Scadenza11, ui.Scadenza12};
-}
-
 void VaiA(QWidget* campo) {
     campo->setFocus(Qt::TabFocusReason);
-}
-
-/// Shows the name of the row that a filter leaves in the list; without one the combo stays as it is.
-template<typename Regola>
-void MostraScelta(Regola&& regola, controls::DataCombo& combo, controls::DataControl& elenco,
-                  const std::string& filtro) {
-    regola([&] { elenco.Recordset().setFilter(filtro); });
-    regola([&] {
-        if (!elenco.Recordset().EOF()) {
-            combo.setText(ado::toText(elenco.Recordset()["Descrizione"]));
-        }
-    });
 }
 
 } // namespace
@@ -66,6 +48,8 @@ void MostraScelta(Regola&& regola, controls::DataCombo& combo, controls::DataCon
 CondizioniPagamento::CondizioniPagamento()
     : Form("CondizioniPagamento"), ui_(std::make_unique<Ui::CondizioniPagamento>()) {
     ui_->setupUi(this);
+    scadenze_ = {ui_->Scadenza1, ui_->Scadenza2, ui_->Scadenza3, ui_->Scadenza4,  ui_->Scadenza5,  ui_->Scadenza6,
+                 ui_->Scadenza7, ui_->Scadenza8, ui_->Scadenza9, ui_->Scadenza10, ui_->Scadenza11, ui_->Scadenza12};
     ui_->DataGrid1->setDataSource(ui_->CPAdo);
     ui_->DataGrid1->fillWidth();
     lingua_ = std::make_unique<LinguaDelForm>(*this, *ui_->ComboLingua, kDidascalieCondizioni);
@@ -98,7 +82,7 @@ void CondizioniPagamento::CollegaScadenze() {
     constexpr int kScelti = 5; // characters selected
     std::vector<controls::KeyRow> righe;
     for (std::size_t i = 0; i < kRate; ++i) {
-        controls::TextBox* campo = Scadenze(*ui_)[i];
+        controls::TextBox* campo = scadenze_[i];
         campo->selectAtMost(kScelti);
         on(campo, &controls::TextBox::GotFocus, [this, campo] {
             AggiornaRate();
@@ -147,7 +131,7 @@ void CondizioniPagamento::Load() {
 // Failing statements are skipped.
 void CondizioniPagamento::Activate() {
     salta([this] { lingua_->Riprendi(); });
-    NominaCampi(*ui_->Scadenza1Etichetta, Scadenze(*ui_));
+    NominaCampi(*ui_->Scadenza1Etichetta, scadenze_);
     salta([this] { ui_->CPAdo->load(StringaAzienda, ElencoCondizioni()); });
     salta([this] { ui_->Decorrenza->load(StringaAzienda, ElencoRegole()); });
     salta([this] { ui_->TipoIncasso->load(StringaAzienda, ElencoTipiRimessa()); });
@@ -158,60 +142,6 @@ void CondizioniPagamento::Activate() {
 void CondizioniPagamento::FormattaGriglia() {
     ui_->DataGrid1->lay(Colonne());
     lingua_->Intesta(*ui_->DataGrid1, kIntestazioniCondizioni);
-}
-
-CampiCondizione CondizioniPagamento::Campi() const {
-    CampiCondizione campi{.descrizione = ui_->Descrizione->Text(),
-                          .numeroRate = ui_->NRrate->Text(),
-                          .decorrenza = ui_->IDDecorrenza->Text(),
-                          .anticipo = ui_->RataAnticipo->Text(),
-                          .tipoRimessa = ui_->IdTipoRimessa->Text()};
-    std::ranges::transform(Scadenze(*ui_), campi.scadenze.begin(), &controls::TextBox::Text);
-    return campi;
-}
-
-// What is worked out; the other fields are the user's.
-void CondizioniPagamento::MostraCampi(const CampiCondizione& campi) {
-    ui_->Descrizione->setText(campi.descrizione);
-    ui_->NRrate->setText(campi.numeroRate);
-    for (std::size_t i = 0; i < kRate; ++i) {
-        Scadenze(*ui_)[i]->setText(campi.scadenze[i]);
-    }
-}
-
-// Failing statements are skipped from the amount on. Ahead of it nothing is shown of a row that lacks a value, or the
-// fields of one term would be stored under the key of another.
-void CondizioniPagamento::MostraRecord() {
-    ado::Recordset& rs = ui_->CPAdo->Recordset();
-    const double chiave = ado::toDouble(rs["IDPagamento"]), regola = ado::toDouble(rs["IDDecorrenza"]);
-    const std::string descrizione = ado::toText(rs["Descrizione"]), numeroRate = ado::toText(rs["NRrate"]);
-    chiave_ = chiave;
-    decorrenza_ = regola;
-    ui_->IDPagamento->setText(QStringLiteral("N. ") + QString::fromStdString(ado::plainNumber(chiave)));
-    ui_->Descrizione->setText(descrizione);
-    ui_->NRrate->setText(numeroRate);
-    MostraScelta(kSenzaRegola, *ui_->IDDecorrenza, *ui_->Decorrenza, "iddecorrenza=" + ado::plainNumber(regola));
-    ui_->Decorrenza->Refresh();
-    salta([&] { ui_->RataAnticipo->setText(ado::toText(rs["RataAnticipo"])); });
-    for (controls::TextBox* campo : Scadenze(*ui_)) {
-        salta([&] { campo->setText(ado::toText(rs[campo->objectName().toStdString()])); });
-    }
-    salta([&] { tipoRimessa_ = ado::toDouble(rs["IdTipoRimessa"]); });
-    MostraScelta(kSaltando, *ui_->IdTipoRimessa, *ui_->TipoIncasso, "idtiporimessa=" + ado::plainNumber(tipoRimessa_));
-    salta([this] { ui_->TipoIncasso->Recordset().setFilter(""); });
-    CampiCondizione campi = Campi();
-    TogliRateVuote(campi);
-    MostraCampi(campi);
-}
-
-void CondizioniPagamento::PulisciCampi() {
-    MostraCampi({});
-    ui_->RataAnticipo->setText("0,00");
-    decorrenza_ = 0;
-    tipoRimessa_ = 0;
-    ui_->IDDecorrenza->setText(kNessunaScelta);
-    ui_->IdTipoRimessa->setText(kNessunaScelta);
-    ui_->IDPagamento->clear();
 }
 
 void CondizioniPagamento::AggiornaRate() {
@@ -230,8 +160,8 @@ void CondizioniPagamento::NominaCondizione() {
 
 void CondizioniPagamento::LasciaScadenza(std::size_t posto) {
     AggiornaRate();
-    const bool finita = posto == kUltima || IsEmptyValue(Scadenze(*ui_)[posto]->Text());
-    VaiA(finita ? static_cast<QWidget*>(ui_->IdTipoRimessa) : Scadenze(*ui_)[posto + 1]);
+    const bool finita = posto == kUltima || IsEmptyValue(scadenze_[posto]->Text());
+    VaiA(finita ? static_cast<QWidget*>(ui_->IdTipoRimessa) : scadenze_[posto + 1]);
 }
 
 // Without a rule: an amount that is no number keeps the focus.

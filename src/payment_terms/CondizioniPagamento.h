@@ -1,6 +1,7 @@
 #pragma once
 
 #include "controls/Form.h"
+#include "payment_terms/Rate.h"
 
 #include <memory>
 
@@ -18,7 +19,6 @@ class TextBox;
 namespace vabo {
 
 class LinguaDelForm;
-struct CampiCondizione;
 
 /// The payment terms: a grid, and the fields of one term above it. Their number of instalments and their name are
 /// worked out while the user goes from field to field; Enter in the name, the last field, stores the term.
@@ -54,6 +54,7 @@ private:
     std::unique_ptr<Ui::CondizioniPagamento> ui_;
     std::unique_ptr<LinguaDelForm> lingua_;
     std::unique_ptr<controls::Picker> regole_, tipi_;
+    std::array<controls::TextBox*, kRate> scadenze_{};
     double chiave_ = 0; ///< of the term in the fields, 0 for a new one
     double decorrenza_ = 0;
     double tipoRimessa_ = 0;

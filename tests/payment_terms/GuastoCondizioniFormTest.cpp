@@ -25,7 +25,7 @@ TEST_F(FormCondizioni, WhateverStatementFailsOfTheOpeningNothingIsSaid) {
             const GuastoAPosto guasto(posto);
             apri();
         }
-        EXPECT_EQ(gui.visibleForms(), kCondizioni);
+        EXPECT_TRUE(gui.isVisible(kCondizioni));
         EXPECT_EQ(fuoco(), "IDDecorrenza");
         EXPECT_FALSE(pagina.control("ComboLingua").isVisible());
         gui.click(kCondizioni, "Chiudi");

@@ -149,6 +149,8 @@ void DataCombo::picked(int row) {
     }
     pickedRow_ = row;
     setChosen(list_->textAt(row));
+    // Queued, since the completer sets the row's text again behind the Click: a text that the form sets there counts.
+    QMetaObject::invokeMethod(this, &DataCombo::restoreChosen, Qt::QueuedConnection);
     emit Click(List);
 }
 

@@ -57,7 +57,6 @@ CondizioniPagamento::CondizioniPagamento()
     CollegaScadenze();
     CollegaCampi();
     PulisciCampi();
-    ui_->IDDecorrenza->setFocus();
     takeScreen();
 }
 
@@ -132,7 +131,8 @@ void CondizioniPagamento::Load() {
 void CondizioniPagamento::Activate() {
     salta([this] { lingua_->Riprendi(); });
     NominaCampi(*ui_->Scadenza1Etichetta, scadenze_);
-    salta([this] { ui_->CPAdo->load(StringaAzienda, ElencoCondizioni()); });
+    ui_->CPAdo->RecordSource = ElencoCondizioni();
+    salta([this] { ui_->CPAdo->Refresh(); });
     salta([this] { ui_->Decorrenza->load(StringaAzienda, ElencoRegole()); });
     salta([this] { ui_->TipoIncasso->load(StringaAzienda, ElencoTipiRimessa()); });
     salta([this] { FormattaGriglia(); });

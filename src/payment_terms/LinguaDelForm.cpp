@@ -17,7 +17,7 @@ LinguaDelForm::LinguaDelForm(controls::Form& form, controls::ItemCombo& combo, s
     for (const char* codice : {"EN", "ES", "IT"}) {
         combo.addItem(codice, 0);
     }
-    combo.hide();
+    combo.hide(); // or it would be seen until the form becomes active
     QObject::connect(&combo, &controls::ItemCombo::Click, &combo, &QWidget::hide);
 }
 

@@ -160,6 +160,10 @@ TEST_F(FormCondizioni, ARuleOrAKindThatIsGoneLeavesItsComboAsItWas) {
     scegli(3);
     EXPECT_EQ(campi()[0], "Data fattura");
     EXPECT_EQ(testo("IDPagamento"), "N. 3");
+    vaiA("Descrizione");
+    invio();
+    EXPECT_EQ(condizione("IDPagamento = 3")[2], "2") << "what is stored is the key of the row";
+    scegli(14);
     esegui("delete from CondizioniPagamentoTipoIncasso where IdTipoRimessa = 4");
     pagina.control<controls::DataControl>("TipoIncasso").Refresh();
     scegli(9);
@@ -167,7 +171,7 @@ TEST_F(FormCondizioni, ARuleOrAKindThatIsGoneLeavesItsComboAsItWas) {
     EXPECT_EQ(pagina.combo("IdTipoRimessa").count(), 4) << "the list is whole";
     vaiA("Descrizione");
     invio();
-    EXPECT_EQ(condizione("IDPagamento = 9")[5], "4") << "what is stored is the key of the row";
+    EXPECT_EQ(condizione("IDPagamento = 9")[5], "4");
 }
 
 /// The table again, with every column nullable, and one term that is null in the column.

@@ -9,6 +9,8 @@
 #include "geography/stati.h"
 #include "locks/Scegli_progetto_4.h"
 #include "locks/Scegli_sede_Pd.h"
+#include "payment_terms/CondizioniPagamento.h"
+#include "payment_terms/CondizioniPagamentoDecorrenza.h"
 #include "session/About.h"
 #include "session/Avvio.h"
 #include "session/Avvio_Azienda.h"
@@ -36,6 +38,8 @@ void registerForms(controls::FormRegistry& registry) {
     registry.add("frmDatiAzienda", make<vabo::frmDatiAzienda>);
     registry.add("Scegli_progetto_4", make<vabo::Scegli_progetto_4>);
     registry.add("Scegli_sede_Pd", make<vabo::Scegli_sede_Pd>);
+    registry.add("CondizioniPagamento", make<vabo::CondizioniPagamento>);
+    registry.add("CondizioniPagamentoDecorrenza", make<vabo::CondizioniPagamentoDecorrenza>);
     registry.add("stati", make<vabo::stati>);
     registry.add("frmComuni", make<vabo::frmComuni>);
     registry.add("TabelleBustePaga", make<vabo::TabelleBustePaga>);

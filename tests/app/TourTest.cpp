@@ -45,10 +45,33 @@ TEST(Tour, LeavesAPictureOfEveryFormInThreeKinds) {
             << name;
     }
     // These fill the screen, which is less than twice as large at 200 %.
-    for (const char* name :
-         {"21-sezionali-iva", "22-sezionali-iva-modifica", "23-stati", "24-stati-modifica", "25-stati-aree",
-          "26-buste-paga", "27-buste-paga-tipo", "28-buste-paga-elenco", "30-dati-azienda", "31-dati-azienda-comuni",
-          "32-dati-azienda-comune", "40-comuni", "41-comuni-modifica", "42-comuni-stati"}) {
+    for (const char* name : {"21-sezionali-iva",
+                             "22-sezionali-iva-modifica",
+                             "23-stati",
+                             "24-stati-modifica",
+                             "25-stati-aree",
+                             "26-condizioni",
+                             "26-condizioni-modifica",
+                             "26-condizioni-en",
+                             "26-condizioni-es",
+                             "26-condizioni-po",
+                             "26-condizioni-fr",
+                             "27-condizioni-decorrenze",
+                             "28-decorrenze",
+                             "28-decorrenze-modifica",
+                             "28-decorrenze-en",
+                             "28-decorrenze-es",
+                             "28-decorrenze-po",
+                             "28-decorrenze-fr",
+                             "30-dati-azienda",
+                             "31-dati-azienda-comuni",
+                             "32-dati-azienda-comune",
+                             "33-buste-paga",
+                             "34-buste-paga-tipo",
+                             "35-buste-paga-elenco",
+                             "40-comuni",
+                             "41-comuni-modifica",
+                             "42-comuni-stati"}) {
         expectThreeKinds(folder.path(), name);
     }
 }

@@ -78,7 +78,7 @@ void dataSources(Tour& tour) {
 
 void walk(Tour& tour) {
     for (const auto page : {start, login, box, console, links, generalTables, locks, vatSections, dataSources,
-                            geography, payroll, companyData}) {
+                            geography, paymentTerms, companyData, payroll}) {
         page(tour);
     }
 }

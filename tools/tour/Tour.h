@@ -50,6 +50,9 @@ void companyData(Tour& tour);
 /// The states and the municipalities, without and with one picked, and their lists.
 void geography(Tour& tour);
 
+/// The payment terms and their commencement rules, empty and with one picked, and in every language.
+void paymentTerms(Tour& tour);
+
 /// Every form of the program, in the order in which a user meets them. A new form adds its page here.
 void walk(Tour& tour);
 

@@ -4,6 +4,8 @@
 #include "session/FormFixture.h"
 #include "support/FormPage.h"
 
+#include <QEvent>
+
 #include <gmock/gmock.h>
 
 namespace {

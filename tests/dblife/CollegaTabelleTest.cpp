@@ -192,4 +192,11 @@ TEST_F(CollegaTabelleTest, TheCustomersReportsStandInTheCompanysFolderAndInAnyCa
     EXPECT_THAT(links("C:\\vabo\\sedi\\TLV_PERSONALIZZATE.MDB"), ElementsAre(kAurora));
 }
 
+TEST_F(CollegaTabelleTest, WithoutAFolderTheCustomersReportsAreSoughtOnTheDriveItself) {
+    CartellaFile.clear();
+    make("C:\\Tlv_personalizzate.mdb", {{"LINK", "dbo_conti", kPrima}});
+    CollegaTabellePersonalizzate();
+    EXPECT_THAT(links("C:\\Tlv_personalizzate.mdb"), ElementsAre(kAurora));
+}
+
 } // namespace

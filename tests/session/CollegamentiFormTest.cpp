@@ -58,8 +58,6 @@ protected:
 };
 
 TEST_F(CollegamentiForm, TheStartPointsTheLinksOfTheSampleAtTheCompany) {
-    const std::string user = "UID=" + server.substr(server.find("UID=") + 4, 2);
-    ASSERT_EQ(user, "UID=sa");
     gui.forms().show("Avvio");
     support::Gui::handleEvents();
     const auto pointed = tables(kLocale, kAurora);

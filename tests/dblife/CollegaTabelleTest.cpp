@@ -151,6 +151,15 @@ TEST_F(CollegaTabelleTest, WithoutAProgressFormTheLinksArePointedAllTheSame) {
     EXPECT_THAT(vista.nomi, IsEmpty());
 }
 
+TEST_F(CollegaTabelleTest, TheEndOfAnEarlierFormLeavesThePresentOneTold) {
+    main({{"LINK", "dbo_conti", kPrima}});
+    auto earlier = std::make_unique<VistaRegistrata>();
+    const VistaRegistrata present;
+    earlier.reset();
+    CollegaTabelle();
+    EXPECT_THAT(present.nomi, ElementsAre("CONTI"));
+}
+
 TEST_F(CollegaTabelleTest, WithoutCustomersReportsTheSecondPassDoesNothing) {
     main({{"LINK", "dbo_conti", kPrima}});
     CollegaTabellePersonalizzate();

@@ -34,6 +34,15 @@ protected:
         return 0;
     }
 
+    static std::string descriptionOf(const std::string& path) {
+        try {
+            platform::linkCatalogs().open("Provider=Microsoft.Jet.OLEDB.4.0;Data Source=" + path);
+        } catch (const ado::Error& error) {
+            return error.description();
+        }
+        return {};
+    }
+
     support::TestWorkstation workstation{support::TestWorkstation::DriveC::Empty};
 };
 
@@ -102,6 +111,9 @@ TEST_F(LinkCatalogs, RefuseOtherProvidersAndFilesThatAreNoCatalog) {
         EXPECT_EQ(errorOf(std::string("Provider=Microsoft.Jet.OLEDB.4.0;Data Source=") + path), ado::kUnspecified)
             << path;
     }
+    EXPECT_EQ(descriptionOf("C:\\vabo\\Files\\manca.mdb"), "Could not find file.");
+    EXPECT_EQ(descriptionOf("C:\\vabo\\Files"), "Could not find file.");
+    EXPECT_EQ(descriptionOf("C:\\vabo\\Files\\vuoto.mdb"), "Unrecognized database format.");
     EXPECT_TRUE(fs::is_empty(workstation.driveC().real("C:\\vabo\\Files\\vuoto.mdb"))) << "and is left as it is";
 }
 

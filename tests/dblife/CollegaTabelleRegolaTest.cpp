@@ -5,7 +5,6 @@ namespace {
 
 using namespace vabo;
 using testing::ElementsAre;
-using testing::IsEmpty;
 
 /// Each statement that fails is skipped alone, and a test that fails counts as true.
 class CollegaTabelleRegolaTest : public CollegamentiTest {

@@ -123,6 +123,10 @@ TEST_F(AvvioForm, SendsItsStatementsLetterForLetter) {
                                                   readLanguage,
                                                   options,
                                                   "Select * from link_programma where dbname like 'VaBoDatiAurora'",
+                                                  "Select * from progetti where id = 10000001",
+                                                  "Create table Version (id int null, Version int not null default 1 )",
+                                                  "select * from Version where id = 1",
+                                                  "INSERT INTO [Version] ([id], [Version]) VALUES (1, 1)",
                                                   makeLanguage,
                                                   readLanguage,
                                                   "select * from [AbilitazioneAccessi]"};

@@ -6,6 +6,7 @@
 #include "geography/stati.h"
 #include "locks/Scegli_progetto_4.h"
 #include "locks/Scegli_sede_Pd.h"
+#include "rights/Login.h"
 #include "session/About.h"
 #include "session/Avvio.h"
 #include "session/Avvio_Azienda.h"
@@ -30,6 +31,7 @@ void registerForms(controls::FormRegistry& registry) {
     registry.add("FormRegistraAziendeNeiDns", make<vabo::FormRegistraAziendeNeiDns>);
     registry.add("Avvio_Morlan", make<vabo::Avvio_Morlan>);
     registry.add("I_Iva_sezionali", make<vabo::I_Iva_sezionali>);
+    registry.add("Login", make<vabo::Login>);
     registry.add("Scegli_progetto_4", make<vabo::Scegli_progetto_4>);
     registry.add("Scegli_sede_Pd", make<vabo::Scegli_sede_Pd>);
     registry.add("stati", make<vabo::stati>);

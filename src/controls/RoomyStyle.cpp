@@ -59,7 +59,7 @@ void drawArrow(QPainter& painter, const QStyleOption& option, const QRect& place
     painter.restore();
 }
 
-/// The square of a check box: empty, ticked or greyed.
+/// The square of a check box: empty, ticked, or with a grey tick.
 void drawCheckBox(QPainter& painter, const QStyleOption& option) {
     const bool on = has(option, QStyle::State_On);
     const bool greyed = has(option, QStyle::State_NoChange);
@@ -74,11 +74,7 @@ void drawCheckBox(QPainter& painter, const QStyleOption& option) {
     QPen pen(option.palette.color(on ? QPalette::Text : QPalette::PlaceholderText), 2);
     pen.setCapStyle(Qt::RoundCap);
     painter.setPen(pen);
-    if (on) {
-        painter.drawPolyline(QPolygonF{at(0.25, 0.5), at(0.43, 0.7), at(0.75, 0.3)});
-    } else {
-        painter.drawLine(at(0.28, 0.5), at(0.72, 0.5));
-    }
+    painter.drawPolyline(QPolygonF{at(0.25, 0.5), at(0.43, 0.7), at(0.75, 0.3)});
     painter.restore();
 }
 

@@ -42,6 +42,9 @@ void locks(Tour& tour);
 /// The VAT sections, without and with one picked.
 void vatSections(Tour& tour);
 
+/// The users, one of them picked, and with all rights ticked.
+void users(Tour& tour);
+
 /// Every form of the program, in the order in which a user meets them. A new form adds its page here.
 void walk(Tour& tour);
 

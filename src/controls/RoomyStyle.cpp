@@ -117,6 +117,9 @@ int RoomyStyle::styleHint(StyleHint hint, const QStyleOption* option, const QWid
     if (hint == SH_DialogButtonBox_ButtonsHaveIcons) {
         return 0;
     }
+    if (hint == SH_LineEdit_PasswordCharacter) {
+        return '*';
+    }
     return QProxyStyle::styleHint(hint, option, widget, more);
 }
 

@@ -48,7 +48,6 @@ Login::Login() : Form("Login"), ui_(std::make_unique<Ui::Login>()) {
     PulisciCampi();
     CollegaEventi();
     ui_->txtNomeUtente->setFocus();
-    takeScreen();
 }
 
 Login::~Login() = default;
@@ -98,12 +97,11 @@ void Login::PulisciCampi() {
     AbilitaCampi(false);
 }
 
+// The boxes and the buttons, which are in these frames alone.
 void Login::AbilitaCampi(bool abilita) {
-    for (controls::CheckBox* casella : caselle_) {
-        casella->setEnabled(abilita);
+    for (QWidget* cornice : {ui_->Frame1, ui_->Frame2, ui_->diritti}) {
+        cornice->setEnabled(abilita);
     }
-    ui_->Command1->setEnabled(abilita);
-    ui_->CancelButton->setEnabled(abilita);
 }
 
 /// The ten rights between Administrator and Disabilita.

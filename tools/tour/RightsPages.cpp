@@ -8,7 +8,6 @@ void users(Tour& tour) {
     Tour::press(tour.control("Avvio_Azienda", "Command2"), Qt::Key_Space);
     tour.take("26-utenti", form);
     QWidget& grid = tour.control(form, "DataGrid1");
-    Tour::press(grid, Qt::Key_End);
     Tour::press(grid, Qt::Key_Space);
     tour.take("27-utenti-scelto", form);
     Tour::press(tour.control(form, "txtNomeUtente"), Qt::Key_Return);

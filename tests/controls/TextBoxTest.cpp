@@ -1,6 +1,7 @@
 #include "controls/TextBox.h"
 
 #include "RecordedForm.h"
+#include "controls/RoomyStyle.h"
 #include "support/Gui.h"
 
 #include <QApplication>
@@ -159,6 +160,15 @@ TEST_F(TextBox, TextsBeyondTheGreatestLengthAreCut) {
     EXPECT_EQ(field("second").Text(), "abc");
     gui.typeInto("A", "second", "12345");
     EXPECT_EQ(field("second").Text(), "123") << "typing replaces the selection";
+}
+
+TEST(PasswordBox, ShowsStars) {
+    controls::RoomyStyle style;
+    controls::TextBox box;
+    box.setStyle(&style);
+    box.setEchoMode(QLineEdit::Password);
+    box.setText("abc");
+    EXPECT_EQ(box.displayText(), "***");
 }
 
 } // namespace

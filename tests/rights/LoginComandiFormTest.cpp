@@ -230,6 +230,7 @@ TEST_F(LoginComandi, WhoIsNoLongerAnAdministratorIsSentToTheLoginByAnyKeyBehindA
         if (nome().empty()) {
             scegli("disabilitato");
         }
+        vaiA("DataGrid1");
         script.expectMessage(kNonDisponi);
         gui.press(tasto);
         EXPECT_FALSE(gui.forms().isLoaded("Login"));

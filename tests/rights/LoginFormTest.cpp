@@ -23,10 +23,15 @@ TEST_F(UtentiForm, ItIsOpenedByItsNameAndClosesToTheFormBelow) {
     EXPECT_EQ(PilaForm, Riga{"Avvio_Azienda"});
 }
 
-class DallaConsole : public FormTest {};
+class DallaConsole : public FormTest {
+protected:
+    DallaConsole() {
+        NomeTerminale = support::kTerminalName;
+        DirittiUtente.Administrator = kVero;
+    }
+};
 
 TEST_F(DallaConsole, AnAdministratorOpensItAndComesBack) {
-    DirittiUtente.Administrator = kVero;
     gui.forms().show("Avvio_Azienda");
     gui.click("Avvio_Azienda", "Command2");
     EXPECT_EQ(gui.visibleForms(), "Login");
@@ -38,7 +43,6 @@ TEST_F(DallaConsole, AnAdministratorOpensItAndComesBack) {
 
 // The login loses the rights, and the console comes back below it as with any form that closes.
 TEST_F(DallaConsole, WithoutTheRightItGivesWayToTheLogin) {
-    DirittiUtente.Administrator = kVero;
     gui.forms().show("Avvio_Azienda");
     gui.click("Avvio_Azienda", "Command2");
     DirittiUtente.Administrator = kFalso;

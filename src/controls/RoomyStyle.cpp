@@ -71,7 +71,8 @@ void drawCheckBox(QPainter& painter, const QStyleOption& option) {
     const auto at = [&](double x, double y) { return box.topLeft() + QPointF(x * box.width(), y * box.height()); };
     painter.save();
     painter.setRenderHint(QPainter::Antialiasing);
-    QPen pen(option.palette.color(on ? QPalette::Text : QPalette::PlaceholderText), 2);
+    const bool pale = greyed && has(option, QStyle::State_Enabled);
+    QPen pen(option.palette.color(pale ? QPalette::PlaceholderText : QPalette::Text), 2);
     pen.setCapStyle(Qt::RoundCap);
     painter.setPen(pen);
     painter.drawPolyline(QPolygonF{at(0.25, 0.5), at(0.43, 0.7), at(0.75, 0.3)});

@@ -61,10 +61,11 @@ TEST(CheckBox, AGreyedBoxIsSwitchedOffByTheUser) {
 }
 
 /// As the program's style draws it.
-QImage drawn(int value) {
+QImage drawn(int value, bool enabled = true) {
     controls::RoomyStyle style;
     controls::CheckBox box;
     box.setStyle(&style);
+    box.setEnabled(enabled);
     box.setValue(value);
     box.resize(box.sizeHint());
     return box.grab().toImage().convertToFormat(QImage::Format_Grayscale8);
@@ -86,6 +87,11 @@ TEST(CheckBox, AGreyedOneIsDrawnWithTheSameTickInAPalerColour) {
     }
     EXPECT_GT(greyInk, 0);
     EXPECT_LT(greyInk, ink);
+}
+
+TEST(CheckBox, DisabledOnesHaveTheSameTickWhetherTickedOrGreyed) {
+    EXPECT_EQ(drawn(1, false), drawn(2, false));
+    EXPECT_NE(drawn(0, false), drawn(2, false));
 }
 
 TEST(CheckBox, OtherValuesAreRefused) {

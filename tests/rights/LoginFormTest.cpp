@@ -167,6 +167,14 @@ TEST_F(UtentiForm, LaysItsGridAgainAfterEachReading) {
     verifica();
 }
 
+TEST_F(UtentiForm, TheNamesFillTheWidthOfTheList) {
+    apri();
+    gui.form("Login").resize(1600, 900);
+    support::Gui::handleEvents();
+    const controls::DataGrid& griglia = pagina.grid("DataGrid1");
+    EXPECT_NEAR(griglia.columnWidth(1), griglia.viewport()->width(), 1);
+}
+
 TEST_F(UtentiForm, StartsClosedWithEmptyFieldsAndTheFocusOnTheName) {
     apri();
     EXPECT_EQ(nome(), "");

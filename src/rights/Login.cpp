@@ -116,7 +116,6 @@ void Login::ConfermaNome() {
     ui_->txtNomeUtente->setText(Normalizzato(ui_->txtNomeUtente->Text()));
     AbilitaCampi(true);
     ui_->cmdUpdate->setVisible(true);
-    ui_->cmdUpdate->setEnabled(true);
 }
 
 void Login::MostraUtente() {
@@ -145,8 +144,8 @@ void Login::LeggiUtente() {
     }
 }
 
+// The button is never disabled, only hidden until the first of these.
 void Login::MostraSalva() {
-    ui_->cmdUpdate->setEnabled(true);
     ui_->cmdUpdate->setVisible(true);
     ui_->cmdUpdate->setFocus();
 }

@@ -41,7 +41,6 @@ std::string ElencoUtenti() {
 }
 
 bool MancaAmministratore(double escluso, int casella) {
-    const Restituzione restituzione(kPostoUtenti);
     ado::Recordset& rs = RsCondivisi(kPostoUtenti);
     rs.Open(ProvaAmministratore(escluso), DbAzienda, ado::CursorType::Dynamic, ado::LockType::ReadOnly);
     const bool manca = rs.EOF() && casella < kSpuntata;

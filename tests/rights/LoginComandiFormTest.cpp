@@ -50,6 +50,9 @@ TEST_F(LoginComandi, AllRightsAreTickedInGreyAndTheUserIsEnabled) {
     EXPECT_EQ(caselle(), "022222222220");
     EXPECT_TRUE(salvaSiVede());
     EXPECT_EQ(fuoco(), "cmdUpdate");
+    spazioSu("txtDisabilita");
+    premi("Command1");
+    EXPECT_EQ(caselle(), "022222222220") << "the rights were all ticked already";
     scegli("amministratore");
     premi("Command1");
     EXPECT_EQ(caselle(), "122222222220") << "the administrator's box is left alone";

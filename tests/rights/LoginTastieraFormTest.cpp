@@ -1,6 +1,7 @@
 // The form of the users with the keyboard alone: a new user, a change, a deletion, the way out.
 
 #include "UtentiForm.h"
+#include "controls/DataControl.h"
 
 namespace vabo {
 namespace {
@@ -65,6 +66,23 @@ TEST_F(LoginTastiera, TheMousePicksOnARowAndBesideTheRows) {
     EXPECT_EQ(nome(), "contabile") << "the row on which the list is";
     clicca(griglia.visualRect(griglia.model()->index(1, 1)).center());
     EXPECT_EQ(nome(), "disabilitato");
+}
+
+TEST_F(LoginTastiera, AClickBesideTheRowsOfAListWithoutAPositionShowsNobody) {
+    apri();
+    ado::Recordset& rs = pagina.control<controls::DataControl>("elenco").Recordset();
+    const auto verifica = [&](bool fine) {
+        ASSERT_EQ(rs.EOF(), fine);
+        ASSERT_EQ(rs.BOF(), !fine);
+        QWidget& sfondo = *pagina.grid("DataGrid1").viewport();
+        QTest::mouseClick(&sfondo, Qt::LeftButton, Qt::NoModifier, sfondo.rect().bottomLeft() + QPoint(5, -5));
+        EXPECT_EQ(caselle(), "000000000002");
+    };
+    rs.MovePrevious();
+    verifica(false);
+    rs.MoveLast();
+    rs.MoveNext();
+    verifica(true);
 }
 
 TEST_F(LoginTastiera, AnEmptyListIsClickedInSilence) {

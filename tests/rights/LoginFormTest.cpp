@@ -41,6 +41,33 @@ TEST_F(DallaConsole, AnAdministratorOpensItAndComesBack) {
     EXPECT_EQ(PilaForm, std::vector<std::string>{"Avvio_Azienda"});
 }
 
+TEST_F(DallaConsole, AUserAddedThereComesInWithAFirstPassword) {
+    gui.forms().show("Avvio_Azienda");
+    gui.click("Avvio_Azienda", "Command2");
+    gui.waitForFront("Login");
+    gui.type("Mario");
+    gui.press(Qt::Key_Return);
+    gui.click("Login", "Command1");
+    gui.press(Qt::Key_Return);
+    gui.click("Login", "cmdClose");
+    gui.forms().show("About");
+    gui.forms().unload("Avvio_Azienda");
+    gui.waitForFront("About");
+    gui.type("mario");
+    gui.press(Qt::Key_Return);
+    script.expectMessage("Please enter your personal Password, max length. 12 char");
+    gui.press(Qt::Key_Return);
+    script.expectMessage("Confirm your Password");
+    for (int i = 0; i < 2; ++i) {
+        gui.type("sole");
+        gui.press(Qt::Key_Return);
+    }
+    EXPECT_EQ(gui.visibleForms(), "Avvio_Azienda");
+    EXPECT_EQ(DirittiUtente.Administrator, kFalso);
+    EXPECT_EQ(DirittiUtente.A_PFinanza, kVero);
+    EXPECT_EQ(DirittiUtente.A_EmettiPagamenti, kVero);
+}
+
 // The login loses the rights, and the console comes back below it as with any form that closes.
 TEST_F(DallaConsole, WithoutTheRightItGivesWayToTheLogin) {
     gui.forms().show("Avvio_Azienda");

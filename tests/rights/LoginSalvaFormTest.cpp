@@ -195,6 +195,7 @@ TEST_F(LoginSalva, WithoutAnyAdministratorOnlyOneWhoIsTickedPasses) {
     spazioSu("txtAdministrator");
     premi("cmdUpdate");
     EXPECT_EQ(flag("contabile"), "110110010000");
+    attesaChiusa();
 }
 
 TEST_F(LoginSalva, ANewUserNeedsAnotherAdministratorToo) {

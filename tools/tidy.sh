@@ -11,10 +11,8 @@ database=build/$preset/compile_commands.json
     echo "Build first: cmake --preset $preset && cmake --build --preset $preset" >&2
     exit 1
 }
-if [ $# -gt 0 ]; then
-    files=("$@")
-else
-    mapfile -t files < <(sed -n 's/^ *"file": "\(.*\)",\{0,1\}$/\1/p' "$database" | grep -v "^$PWD/build/" | sort -u)
+if [ $# -eq 0 ]; then
+    exec tools/tidy.py "$preset"
 fi
-echo "clang-tidy: ${#files[@]} sources"
-printf '%s\n' "${files[@]}" | xargs -P "$(nproc)" -n 3 clang-tidy --quiet --extra-arg=-Wno-unknown-warning-option -p "build/$preset" 2> >(grep -v 'warnings generated\|^Suppressed\|^Use -header-filter' >&2)
+echo "clang-tidy: $# sources"
+printf '%s\n' "$@" | xargs -P "$(nproc)" -n 3 clang-tidy --quiet --extra-arg=-Wno-unknown-warning-option -p "build/$preset" 2> >(grep -v 'warnings generated\|^Suppressed\|^Use -header-filter' >&2)

@@ -53,9 +53,10 @@ public:
 
     virtual bool nextRow() = 0;
     virtual bool isNull(int field) const = 0;
-    virtual std::int64_t integer(int field) const = 0;  ///< booleans are 0 and 1
-    virtual double real(int field) const = 0;           ///< decimals too
-    virtual std::string_view text(int field) const = 0; ///< dates YYYY-MM-DD hh:mm:ss.mmm, decimals with a point
+    virtual std::int64_t integer(int field) const = 0; ///< booleans are 0 and 1
+    virtual double real(int field) const = 0;          ///< decimals too
+    /// Dates as YYYY-MM-DD hh:mm:ss.mmm, decimals with a point. Of a null it has no data (`data()` is null).
+    virtual std::string_view text(int field) const = 0;
 };
 
 /// Rows that no other connection can write while this object lives. Their own writes must go through `run`.

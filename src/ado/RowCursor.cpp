@@ -28,16 +28,11 @@ void RowCursor::added(std::size_t row) {
     position_ = count_++;
 }
 
-std::size_t RowCursor::row() const {
-    return rowAt(position_);
-}
-
 std::size_t RowCursor::rowAt(long position) const {
     if (position < 0 || position >= count_) {
         throw Error(kNoCurrentRecord);
     }
-    const auto place = static_cast<std::size_t>(position);
-    return filtered_ ? shown_[place] : place;
+    return shown(position);
 }
 
 void RowCursor::first() {

@@ -21,7 +21,8 @@ public:
     bool eof() const { return count_ == 0 || position_ >= count_; }
     bool onRow() const { return position_ >= 0 && position_ < count_; }
     long count() const { return count_; }
-    std::size_t row() const; ///< the current row's place in the store; only to be called where there is a current row
+    /// The current row's place in the store; only to be called where there is a current row.
+    std::size_t row() const { return shown(position_); }
     long position() const { return position_; }
     std::size_t rowAt(long position) const; ///< the place in the store of a shown row, from 0; raises 3021
 
@@ -31,6 +32,10 @@ public:
     void moveFromFirst(long rows);
 
 private:
+    std::size_t shown(long position) const {
+        const auto place = static_cast<std::size_t>(position);
+        return filtered_ ? shown_[place] : place;
+    }
     void demandRows() const;
     void place(long position);
 

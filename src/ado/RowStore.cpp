@@ -4,8 +4,10 @@
 
 #include <algorithm>
 #include <array>
+#include <bit>
 #include <chrono>
 #include <cmath>
+#include <cstring>
 #include <type_traits>
 
 namespace ado {
@@ -72,6 +74,11 @@ int scaleOf(const FieldDescription& field) {
     return field.type == FieldType::Currency ? 4 : field.type == FieldType::Decimal ? field.scale : 0;
 }
 
+bool comesAsText(FieldType type) {
+    return type == FieldType::DateTime || type == FieldType::Char || type == FieldType::WChar ||
+           type == FieldType::Binary;
+}
+
 /// A decimal without its point, read from its text where it has more digits than a double holds.
 std::int64_t unscaled(const DriverResult& result, int field, int scale) {
     if (scale <= kLargestPower) {
@@ -85,132 +92,138 @@ std::int64_t unscaled(const DriverResult& result, int field, int scale) {
 
 } // namespace
 
-RowStore::RowStore(const std::vector<FieldDescription>& fields) {
+RowStore::RowStore(const std::vector<FieldDescription>& fields) : wordsOfNulls_((fields.size() + 63) / 64) {
+    const std::size_t rows =
+        Block::kUsualSize / (sizeof(Cell) * std::max<std::size_t>(1, wordsOfNulls_ + fields.size()));
+    logRowsOfBlock_ = static_cast<unsigned>(std::bit_width(std::max<std::size_t>(1, rows))) - 1;
     for (const FieldDescription& field : fields) {
-        columns_.push_back({field.type, scaleOf(field)});
+        columns_.push_back({field.type, comesAsText(field.type), scaleOf(field)});
     }
 }
 
 void RowStore::fetch(DriverResult& result) {
     const int count = static_cast<int>(columns_.size());
     while (result.nextRow()) {
-        Cell* cells = nextRow();
+        Cell* row = nextRow();
         for (int field = 0; field < count; ++field) {
-            cells[field] = read(result, field);
+            if (!read(result, field, cellOf(row, field))) {
+                setNull(row, field);
+            }
         }
         ++rows_;
     }
 }
 
 void RowStore::append(const std::vector<Value>& row) {
-    std::transform(row.begin(), row.end(), nextRow(), [this](const Value& value) { return toCell(value); });
+    Cell* written = nextRow();
+    for (std::size_t column = 0; column < row.size(); ++column) {
+        write(written, static_cast<int>(column), row[column]);
+    }
     ++rows_;
 }
 
 void RowStore::replace(std::size_t row, int column, const Value& value) {
-    blocks_[row / kRowsOfBlock][row % kRowsOfBlock * columns_.size() + static_cast<std::size_t>(column)] =
-        toCell(value);
+    write(this->row(row), column, value);
 }
 
 RowStore::Cell* RowStore::nextRow() {
-    const std::size_t place = rows_ % kRowsOfBlock;
-    if (rows_ / kRowsOfBlock == blocks_.size()) {
-        blocks_.push_back(std::make_unique_for_overwrite<Cell[]>(kRowsOfBlock * columns_.size()));
+    if (rows_ >> logRowsOfBlock_ == blocks_.size()) {
+        blocks_.emplace_back(rowsOfBlock() * widthOfRow() * sizeof(Cell));
     }
-    return &blocks_.back()[place * columns_.size()];
+    Cell* fresh = row(rows_);
+    std::fill_n(fresh, wordsOfNulls_, Cell{});
+    return fresh;
 }
 
-RowStore::Cell RowStore::textCell(std::string_view text) {
-    if (text.size() > textRoom_) {
-        textRoom_ = std::max(kTextBlock, text.size());
-        texts_.push_back(std::make_unique_for_overwrite<char[]>(textRoom_));
-        nextText_ = texts_.back().get();
+const std::byte* RowStore::kept(std::string_view text) {
+    const auto length = static_cast<std::uint32_t>(text.size());
+    const std::size_t size = sizeof length + text.size();
+    if (size > textRoom_) {
+        const Block& block = texts_.emplace_back(size);
+        textRoom_ = block.size();
+        nextText_ = block.data();
     }
-    Cell cell{};
-    cell.kind = Kind::Text;
-    cell.text = nextText_;
-    cell.length = static_cast<std::uint32_t>(text.size());
-    text.copy(nextText_, text.size());
-    nextText_ += text.size();
-    textRoom_ -= text.size();
-    return cell;
+    std::byte* place = nextText_;
+    std::memcpy(place, &length, sizeof length);
+    text.copy(reinterpret_cast<char*>(place) + sizeof length, text.size());
+    nextText_ += size;
+    textRoom_ -= size;
+    return place;
 }
 
-RowStore::Cell RowStore::read(const DriverResult& result, int field) {
-    Cell cell{};
-    if (result.isNull(field)) {
-        return cell;
-    }
+bool RowStore::read(const DriverResult& result, int field, Cell& cell) {
     const Column& column = columns_[static_cast<std::size_t>(field)];
+    if (column.comesAsText) { // a null is told by the text itself
+        const std::string_view text = result.text(field);
+        if (text.data() == nullptr) {
+            return false;
+        }
+        if (column.type == FieldType::DateTime) {
+            const Date date = readDate(text);
+            cell.date = {date.day, date.millisecond};
+        } else {
+            cell.text = kept(text);
+        }
+        return true;
+    }
+    if (result.isNull(field)) {
+        return false;
+    }
     switch (column.type) {
-    case FieldType::Boolean:
-    case FieldType::Byte:
-    case FieldType::SmallInt:
-    case FieldType::Integer:
-    case FieldType::BigInt:
-        cell.kind = Kind::Integer;
-        cell.integer = result.integer(field);
-        return cell;
     case FieldType::Single:
     case FieldType::Double:
-        cell.kind = Kind::Real;
         cell.real = result.real(field);
-        return cell;
+        break;
     case FieldType::Currency:
     case FieldType::Decimal:
-        cell.kind = Kind::Integer;
         cell.integer = unscaled(result, field, column.scale);
-        return cell;
-    case FieldType::DateTime: {
-        const Date date = readDate(result.text(field));
-        cell.kind = Kind::Date;
-        cell.date = {date.day, date.millisecond};
-        return cell;
-    }
-    case FieldType::Char:
-    case FieldType::WChar:
-    case FieldType::Binary:
+        break;
+    default:
+        cell.integer = result.integer(field);
         break;
     }
-    return textCell(result.text(field));
+    return true;
 }
 
-RowStore::Cell RowStore::toCell(const Value& value) {
-    Cell cell{};
-    const auto write = [&]<typename T>(const T& content) {
+void RowStore::write(Cell* row, int column, const Value& value) {
+    row[static_cast<std::size_t>(column) / 64].nulls &= ~bitOf(column);
+    Cell& cell = cellOf(row, column);
+    const auto set = [&]<typename T>(const T& content) {
         if constexpr (std::is_same_v<T, std::string>) {
-            cell = textCell(content);
+            cell.text = kept(content);
         } else if constexpr (std::is_same_v<T, Date>) {
-            cell.kind = Kind::Date;
             cell.date = {content.day, content.millisecond};
         } else if constexpr (std::is_floating_point_v<T>) {
-            cell.kind = Kind::Real;
             cell.real = static_cast<double>(content);
-        } else if constexpr (!std::is_same_v<T, std::monostate> && !std::is_same_v<T, Null>) {
-            cell.kind = Kind::Integer;
-            if constexpr (std::is_same_v<T, Currency>) {
-                cell.integer = content.tenThousandths;
-            } else if constexpr (std::is_same_v<T, Decimal>) {
-                cell.integer = content.unscaled;
-            } else {
-                cell.integer = content;
-            }
+        } else if constexpr (std::is_same_v<T, std::monostate> || std::is_same_v<T, Null>) {
+            setNull(row, column);
+        } else if constexpr (std::is_same_v<T, Currency>) {
+            cell.integer = content.tenThousandths;
+        } else if constexpr (std::is_same_v<T, Decimal>) {
+            cell.integer = content.unscaled;
+        } else {
+            cell.integer = content;
         }
     };
-    std::visit(write, value.variant());
-    return cell;
+    std::visit(set, value.variant());
+}
+
+std::string_view RowStore::textOf(const Cell& cell) {
+    std::uint32_t length = 0;
+    std::memcpy(&length, cell.text, sizeof length);
+    return {reinterpret_cast<const char*>(cell.text) + sizeof length, length};
 }
 
 std::string_view RowStore::text(std::size_t row, int column) const {
-    const Cell& found = cell(row, column);
-    return {found.text, found.length};
+    return isNull(row, column) ? std::string_view() : textOf(cellOf(this->row(row), column));
 }
 
 Value RowStore::value(std::size_t row, int column) const {
-    const Cell& found = cell(row, column);
-    if (found.kind == Kind::Null) {
+    Cell* cells = this->row(row);
+    if (hasNull(cells, column)) {
         return Null{};
     }
+    const Cell& found = cellOf(cells, column);
     const Column& description = columns_[static_cast<std::size_t>(column)];
     switch (description.type) {
     case FieldType::Boolean:
@@ -237,7 +250,7 @@ Value RowStore::value(std::size_t row, int column) const {
     case FieldType::Binary:
         break;
     }
-    return text(row, column);
+    return textOf(found);
 }
 
 } // namespace ado

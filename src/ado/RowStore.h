@@ -1,18 +1,18 @@
 #pragma once
 
+#include "ado/Block.h"
 #include "ado/Driver.h"
 #include "ado/Value.h"
 
 #include <cstdint>
-#include <memory>
 #include <string>
 #include <string_view>
 #include <vector>
 
 namespace ado {
 
-/// The rows of a selection in memory: cells of 16 bytes, and their texts. Both lie in blocks that stay where they are:
-/// moving them as they grow would cost more than reading the rows.
+/// The rows of a selection in memory: cells of 8 bytes, a bit per cell that tells the nulls, and the texts. All lie in
+/// blocks that stay where they are: moving them as they grow would cost more than reading the rows.
 class RowStore {
 public:
     RowStore() = default;
@@ -25,51 +25,60 @@ public:
     void replace(std::size_t row, int column, const Value& value);
 
     std::size_t rows() const { return rows_; }
-    bool isNull(std::size_t row, int column) const { return cell(row, column).kind == Kind::Null; }
+    bool isNull(std::size_t row, int column) const { return hasNull(this->row(row), column); }
     Value value(std::size_t row, int column) const;
-    /// The characters of a text cell, not copied.
+    /// The characters of a text cell, not copied; empty for a null.
     std::string_view text(std::size_t row, int column) const;
 
 private:
-    static constexpr std::size_t kRowsOfBlock = 64;
-    static constexpr std::size_t kTextBlock = 32'768;
-
-    enum class Kind : std::uint8_t { Null, Integer, Real, Text, Date };
     struct DayTime {
         std::int32_t day, millisecond;
     };
-    struct Cell {
-        union {
-            std::int64_t integer; ///< decimals without their point
-            double real;
-            const char* text;
-            DayTime date;
-        };
-        std::uint32_t length;
-        Kind kind;
+    /// The column's type tells which of them it is. A text is its length, four bytes, and its characters.
+    union Cell {
+        std::uint64_t nulls;  ///< at the begin of a row: a bit for each of 64 columns
+        std::int64_t integer; ///< decimals without their point
+        double real;
+        const std::byte* text;
+        DayTime date;
     };
-    static_assert(sizeof(Cell) == 16);
+    static_assert(sizeof(Cell) == 8);
 
     struct Column {
         FieldType type;
+        bool comesAsText; ///< from the driver
         int scale;
     };
 
-    const Cell& cell(std::size_t row, int column) const {
-        return blocks_[row / kRowsOfBlock][row % kRowsOfBlock * columns_.size() + static_cast<std::size_t>(column)];
+    static std::uint64_t bitOf(int column) { return std::uint64_t{1} << (static_cast<unsigned>(column) % 64); }
+    std::size_t widthOfRow() const { return wordsOfNulls_ + columns_.size(); }
+    std::size_t rowsOfBlock() const { return std::size_t{1} << logRowsOfBlock_; }
+    Cell* row(std::size_t number) const {
+        auto* cells = reinterpret_cast<Cell*>(blocks_[number >> logRowsOfBlock_].data());
+        return cells + (number & (rowsOfBlock() - 1)) * widthOfRow();
     }
-    /// The cells of the row behind the last one, to be written before it is counted.
+    Cell& cellOf(Cell* row, int column) const { return row[wordsOfNulls_ + static_cast<std::size_t>(column)]; }
+    static bool hasNull(const Cell* row, int column) {
+        return (row[static_cast<std::size_t>(column) / 64].nulls & bitOf(column)) != 0;
+    }
+    static void setNull(Cell* row, int column) { row[static_cast<std::size_t>(column) / 64].nulls |= bitOf(column); }
+    /// The row behind the last one, to be written before it is counted; no cell of it is null.
     Cell* nextRow();
-    Cell read(const DriverResult& result, int field);
-    Cell textCell(std::string_view text);
-    Cell toCell(const Value& value);
+    /// False for a null.
+    bool read(const DriverResult& result, int field, Cell& cell);
+    void write(Cell* row, int column, const Value& value);
+    /// Where a copy of a text lies.
+    const std::byte* kept(std::string_view text);
+    static std::string_view textOf(const Cell& cell);
 
     std::vector<Column> columns_;
-    std::vector<std::unique_ptr<Cell[]>> blocks_;
+    std::size_t wordsOfNulls_ = 0; ///< at the begin of each row
+    unsigned logRowsOfBlock_ = 0;  ///< a power of two, since a division would cost as much as reading a cell
+    std::vector<Block> blocks_;
     std::size_t rows_ = 0;
-    std::vector<std::unique_ptr<char[]>> texts_;
+    std::vector<Block> texts_;
     std::size_t textRoom_ = 0; ///< left at the end of the last block of texts
-    char* nextText_ = nullptr;
+    std::byte* nextText_ = nullptr;
 };
 
 } // namespace ado

@@ -1,10 +1,12 @@
 #include "session/Avviamento.h"
 
 #include "ado/Conversions.h"
+#include "dblife/VerDb.h"
 #include "kit/ApriScrivibile.h"
 #include "kit/ErrorHandling.h"
 #include "kit/PulisciNome.h"
 #include "kit/Regole.h"
+#include "kit/Testi.h"
 #include "kit/Titolo.h"
 #include "platform/Workstation.h"
 #include "rights/AbilitazioneUtente.h"
@@ -69,6 +71,18 @@ void PreparaServer() {
     LeggiIndirizzoMdf();
     salta([] { ApriDbTemp(); });
     ChiudiRecordset();
+}
+
+void RegistraProgramma() {
+    constexpr int kPrincipale = 1;
+    constexpr int kDonazioni = 2;
+    const auto registra = [](int programma) { salta([=] { Appoggio = ado::toText(VerDb(programma)); }); };
+    salta([] { Appoggio = ado::toText(LeggiPrimoGennaio()); });
+    const std::string nome = Minuscolo(platform::workstation().programName);
+    if (ado::matches(nome, "tlv")) {
+        registra(kPrincipale);
+    }
+    registra(ado::matches(nome, "tlv_donazioni") ? kDonazioni : kPrincipale);
 }
 
 bool ServeLogin() {

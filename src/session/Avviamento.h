@@ -28,6 +28,9 @@ void PrendiLingua();
 /// Sets the server's options, reads where the company's data file is and opens the temporary database, in this order.
 void PreparaServer();
 
+/// Records in the temporary database which program of the suite runs, by its file name.
+void RegistraProgramma();
+
 /// Whether the login form is needed. An empty or unreadable table of users sets the rights of a start without login.
 bool ServeLogin();
 

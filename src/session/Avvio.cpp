@@ -27,6 +27,8 @@ void Avvio::Activate() {
     PrendiLingua();
     Avanza(30);
     PreparaServer();
+    Avanza(60);
+    RegistraProgramma();
     Avanza(80);
     PrendiLingua();
     const bool login = ServeLogin();

@@ -46,6 +46,21 @@ TEST_F(Reading, ANameThatStandsTwiceIsTheFirst) {
     EXPECT_EQ(rs["a"].Value(), Value(1));
 }
 
+TEST_F(Reading, AnEmptyTextIsToldFromANull) {
+    connection.Execute("create table #vuoti (testo nvarchar(10) null, corto varchar(5) null, giorno datetime null)");
+    connection.Execute("insert into #vuoti values ('', '', '20040307'), (null, null, null)");
+    Recordset rs;
+    rs.Open("select testo, corto, giorno, testo + 'x' from #vuoti order by giorno desc", connection);
+    for (const int column : {0, 1}) {
+        EXPECT_EQ(rs[column].Value(), Value("")) << column;
+    }
+    EXPECT_EQ(rs[3].Value(), Value("x"));
+    rs.MoveNext();
+    for (const int column : {0, 1, 2, 3}) {
+        EXPECT_EQ(rs[column].Value(), Value(Null{})) << column;
+    }
+}
+
 TEST_F(Reading, AnUnknownNameIsToldFromAMissingRow) {
     Recordset rs;
     open(rs, "select * from Comuni where id = 0");

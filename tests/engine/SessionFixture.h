@@ -23,15 +23,15 @@ inline std::string shown(Batch& batch) {
     if (!batch.hasRows()) {
         return lines + (batch.affected() < 0 ? "-" : "(" + std::to_string(batch.affected()) + ")");
     }
-    const auto row = [&](auto value) {
+    const auto line = [&](auto value) {
         for (int i = 0; i < static_cast<int>(batch.columns().size()); ++i) {
             lines += (i == 0 ? "" : "|") + value(i);
         }
     };
-    row([&](int i) { return batch.columns()[static_cast<std::size_t>(i)].name; });
-    while (batch.nextRow()) {
+    line([&](int i) { return batch.columns()[static_cast<std::size_t>(i)].name; });
+    while (const ResultRow* row = batch.nextRow()) {
         lines += "\n";
-        row([&](int i) { return batch.isNull(i) ? std::string("NULL") : std::string(batch.text(i)); });
+        line([&](int i) { return row->isNull(i) ? std::string("NULL") : std::string(row->text(i)); });
     }
     return lines;
 }

@@ -48,10 +48,10 @@ protected:
         const auto blocco = lato->execute(testo);
         blocco->nextResult();
         const int colonne = static_cast<int>(blocco->columns().size());
-        while (blocco->nextRow()) {
+        while (const engine::ResultRow* letta = blocco->nextRow()) {
             std::string& riga = righe.emplace_back();
             for (int i = 0; i < colonne; ++i) {
-                riga += (i == 0 ? "" : "|") + (blocco->isNull(i) ? "NULL" : std::string(blocco->text(i)));
+                riga += (i == 0 ? "" : "|") + (letta->isNull(i) ? "NULL" : std::string(letta->text(i)));
             }
         }
         return righe;

@@ -167,8 +167,8 @@ void Client::runResult(engine::Batch& batch) {
     releaseHeld();
     tokens_.columns(batch.columns());
     std::uint64_t rows = 0;
-    while (!stopped_ && batch.nextRow()) {
-        tokens_.row(batch, batch.columns());
+    while (const engine::ResultRow* row = stopped_ ? nullptr : batch.nextRow()) {
+        tokens_.row(*row, batch.columns());
         if (++rows % kRowsBetweenLooks == 0) {
             flush(false);
             stopped_ = askedToStop();

@@ -152,11 +152,11 @@ void TokenWriter::typeInfo(const engine::DataType& type) {
     }
 }
 
-void TokenWriter::value(const engine::Batch& batch, int column, const engine::DataType& type) {
-    const bool null = batch.isNull(column);
+void TokenWriter::value(const engine::ResultRow& row, int column, const engine::DataType& type) {
+    const bool null = row.isNull(column);
     switch (type.kind) {
     case Kind::Bit:
-        null ? out_.u8(0) : out_.u8(1).u8(batch.integer(column) != 0);
+        null ? out_.u8(0) : out_.u8(1).u8(row.integer(column) != 0);
         return;
     case Kind::Unknown:
     case Kind::TinyInt:
@@ -168,7 +168,7 @@ void TokenWriter::value(const engine::Batch& batch, int column, const engine::Da
             return;
         }
         const int bytes = integerBytes(type.kind);
-        const auto number = static_cast<std::uint64_t>(batch.integer(column));
+        const auto number = static_cast<std::uint64_t>(row.integer(column));
         out_.u8(static_cast<std::uint8_t>(bytes));
         for (int i = 0; i < bytes; ++i) {
             out_.u8(static_cast<std::uint8_t>(number >> (8 * i)));
@@ -176,10 +176,10 @@ void TokenWriter::value(const engine::Batch& batch, int column, const engine::Da
         return;
     }
     case Kind::Real:
-        null ? out_.u8(0) : out_.u8(4).u32(std::bit_cast<std::uint32_t>(static_cast<float>(batch.real(column))));
+        null ? out_.u8(0) : out_.u8(4).u32(std::bit_cast<std::uint32_t>(static_cast<float>(row.real(column))));
         return;
     case Kind::Float:
-        null ? out_.u8(0) : out_.u8(8).u64(std::bit_cast<std::uint64_t>(batch.real(column)));
+        null ? out_.u8(0) : out_.u8(8).u64(std::bit_cast<std::uint64_t>(row.real(column)));
         return;
     case Kind::Decimal: {
         if (null) {
@@ -188,7 +188,7 @@ void TokenWriter::value(const engine::Batch& batch, int column, const engine::Da
         }
         const int bytes = decimalBytes(type.precision);
         bool negative = false;
-        unsigned long long digits = magnitude(batch.text(column), negative);
+        unsigned long long digits = magnitude(row.text(column), negative);
         out_.u8(static_cast<std::uint8_t>(bytes)).u8(negative ? 0 : 1);
         for (int i = 1; i < bytes; ++i, digits = i <= 8 ? digits >> 8 : 0) {
             out_.u8(static_cast<std::uint8_t>(digits));
@@ -200,26 +200,26 @@ void TokenWriter::value(const engine::Batch& batch, int column, const engine::Da
             out_.u8(0);
             return;
         }
-        const WireDate date = wireDate(batch.text(column));
+        const WireDate date = wireDate(row.text(column));
         out_.u8(8).u32(static_cast<std::uint32_t>(date.days)).u32(date.ticks);
         return;
     }
     case Kind::VarBinary:
-        writeNarrow(out_, null, std::string(batch.text(column)));
+        writeNarrow(out_, null, std::string(row.text(column)));
         return;
     case Kind::Char:
     case Kind::VarChar:
         if (unlimited(type)) {
             break;
         }
-        writeNarrow(out_, null, toCodePage(batch.text(column)));
+        writeNarrow(out_, null, toCodePage(row.text(column)));
         return;
     case Kind::NChar:
     case Kind::NVarChar:
         break;
     }
 
-    const std::u16string wide = null ? std::u16string() : toUtf16(batch.text(column));
+    const std::u16string wide = null ? std::u16string() : toUtf16(row.text(column));
     const std::size_t bytes = wide.size() * 2;
     if (!unlimited(type)) {
         out_.u16(null ? kPartial : static_cast<std::uint16_t>(bytes));

@@ -71,10 +71,10 @@ void TokenWriter::columns(std::span<const engine::ResultColumn> columns) {
     }
 }
 
-void TokenWriter::row(const engine::Batch& batch, std::span<const engine::ResultColumn> columns) {
+void TokenWriter::row(const engine::ResultRow& row, std::span<const engine::ResultColumn> columns) {
     out_.u8(0xD1);
     for (int i = 0; i < static_cast<int>(columns.size()); ++i) {
-        value(batch, i, columns[static_cast<std::size_t>(i)].type);
+        value(row, i, columns[static_cast<std::size_t>(i)].type);
     }
 }
 

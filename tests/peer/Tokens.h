@@ -35,7 +35,7 @@ public:
     void error(int number, int severity, std::string_view text);
     void message(int number, std::string_view text);
     void columns(std::span<const engine::ResultColumn> columns);
-    void row(const engine::Batch& batch, std::span<const engine::ResultColumn> columns);
+    void row(const engine::ResultRow& row, std::span<const engine::ResultColumn> columns);
     void statementDone(std::uint16_t status, std::uint64_t rows);
     void procedureDone(std::uint16_t status);
     void returnStatus(std::int32_t status);
@@ -47,7 +47,7 @@ private:
     void notice(std::uint8_t token, int number, int severity, std::string_view text);
     void change(std::uint8_t type, const ByteWriter& now, const ByteWriter& before);
     void typeInfo(const engine::DataType& type);
-    void value(const engine::Batch& batch, int column, const engine::DataType& type);
+    void value(const engine::ResultRow& row, int column, const engine::DataType& type);
     void doneToken(std::uint8_t token, std::uint16_t status, std::uint64_t rows);
 
     std::uint32_t version_;

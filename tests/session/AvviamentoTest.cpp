@@ -167,6 +167,40 @@ TEST_F(Avviamento, TheLanguageIsRead) {
     EXPECT_EQ(LinguaCorrente, "ES");
 }
 
+/// The program's file name and how often it writes which version.
+struct Programma {
+    const char* name;
+    std::vector<const char*> versions;
+};
+
+class Programmi : public Avviamento, public testing::WithParamInterface<Programma> {};
+
+TEST_P(Programmi, RecordWhichOfThemStartedLast) {
+    PrendiAziendaDelTerminale();
+    platform::workstation().programName = GetParam().name;
+    const support::StatementRecorder recorder;
+    RegistraProgramma();
+    EXPECT_EQ(recorder.count("Create table Version (id int null, Version int not null default 1 )"),
+              static_cast<int>(GetParam().versions.size()));
+    EXPECT_EQ(recorder.texts().front(), "Select * from progetti where id = 10000001");
+    EXPECT_EQ(workstation.value(support::kTemporaryDatabase, "select Version from Version"),
+              GetParam().versions.back());
+    EXPECT_EQ(Appoggio, "0");
+    EXPECT_FALSE(DbTemp.IsOpen());
+}
+
+INSTANTIATE_TEST_SUITE_P(Avviamento, Programmi,
+                         testing::Values(Programma{"tlv", {"1", "1"}}, Programma{"TLV", {"1", "1"}},
+                                         Programma{"tlv_donazioni", {"2"}}, Programma{"Tlv_Donazioni", {"2"}},
+                                         Programma{"tlv2", {"1"}}, Programma{"vabo", {"1"}}, Programma{"", {"1"}}));
+
+TEST_F(Avviamento, RecordingTheProgramWithoutServersIsSilent) {
+    workstation.putFile("C:\\vabo\\Leggi_ServerLocal.txt", "Server=127.0.0.1,9;\r\n");
+    RegistraProgramma();
+    EXPECT_EQ(Appoggio, "0");
+    EXPECT_FALSE(DbTemp.IsOpen());
+}
+
 TEST_F(Avviamento, WhereThereAreUsersTheLoginIsNeeded) {
     PrendiAziendaDelTerminale();
     EXPECT_TRUE(ServeLogin());

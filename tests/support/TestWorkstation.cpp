@@ -112,10 +112,10 @@ std::vector<TestWorkstation::Row> TestWorkstation::rows(const std::string& datab
     std::vector<Row> all;
     while (batch->nextResult()) {
         const int columns = static_cast<int>(batch->columns().size());
-        while (batch->hasRows() && batch->nextRow()) {
+        while (const engine::ResultRow* read = batch->nextRow()) {
             Row& row = all.emplace_back();
             for (int column = 0; column < columns; ++column) {
-                row.emplace_back(batch->isNull(column) ? "NULL" : batch->text(column));
+                row.emplace_back(read->isNull(column) ? "NULL" : read->text(column));
             }
         }
     }

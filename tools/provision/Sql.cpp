@@ -15,11 +15,11 @@ constexpr int kRowsPerStatement = 20; // with more the time per row grows again
 
 template<typename Read>
 auto firstColumn(engine::Session& session, std::string_view select, Read read) {
-    std::vector<decltype(read(std::declval<engine::Batch&>()))> values;
+    std::vector<decltype(read(std::declval<const engine::ResultRow&>()))> values;
     const auto batch = session.execute(select);
     while (batch->nextResult()) {
-        while (batch->hasRows() && batch->nextRow()) {
-            values.push_back(read(*batch));
+        while (const engine::ResultRow* row = batch->nextRow()) {
+            values.push_back(read(*row));
         }
     }
     return values;
@@ -40,11 +40,11 @@ void runScript(engine::Session& session, std::string_view name) {
 }
 
 std::vector<std::int64_t> integers(engine::Session& session, std::string_view select) {
-    return firstColumn(session, select, [](engine::Batch& row) { return row.integer(0); });
+    return firstColumn(session, select, [](const engine::ResultRow& row) { return row.integer(0); });
 }
 
 std::vector<std::string> texts(engine::Session& session, std::string_view select) {
-    return firstColumn(session, select, [](engine::Batch& row) { return std::string(row.text(0)); });
+    return firstColumn(session, select, [](const engine::ResultRow& row) { return std::string(row.text(0)); });
 }
 
 std::string literal(std::string_view text) {

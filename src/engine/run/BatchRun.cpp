@@ -144,8 +144,8 @@ const std::vector<ResultColumn>& BatchRun::columns() const {
     return outcome_.rows ? outcome_.rows->columns() : kNone;
 }
 
-bool BatchRun::nextRow() {
-    return outcome_.rows && guarded([this] { return outcome_.rows->next(); });
+const ResultRow* BatchRun::nextRow() {
+    return outcome_.rows && guarded([this] { return outcome_.rows->next(); }) ? outcome_.rows.get() : nullptr;
 }
 
 void BatchRun::failed(const Error& error) {

@@ -24,11 +24,7 @@ public:
     const std::vector<ResultColumn>& columns() const override;
     std::int64_t affected() const override { return outcome_.affected; }
     const std::vector<Message>& messages() const override { return messages_; }
-    bool nextRow() override;
-    bool isNull(int column) const override { return outcome_.rows->isNull(column); }
-    std::int64_t integer(int column) const override { return outcome_.rows->integer(column); }
-    double real(int column) const override { return outcome_.rows->real(column); }
-    std::string_view text(int column) const override { return outcome_.rows->text(column); }
+    const ResultRow* nextRow() override;
 
     /// Another batch starts, or the session ends: nothing more comes of this one.
     void stop();

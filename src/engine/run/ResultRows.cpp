@@ -61,7 +61,10 @@ std::string_view ListedRows::text(int column) const {
     if (const auto* text = std::get_if<std::string>(&value(column))) {
         return *text;
     }
-    formatted_ = isNull(column) ? std::string() : integerText(integer(column));
+    if (isNull(column)) {
+        return {};
+    }
+    formatted_ = integerText(integer(column));
     return formatted_;
 }
 

@@ -3,6 +3,7 @@
 // The rows of one result, walked once from the first to the last.
 
 #include "engine/run/ServerSession.h"
+#include "engine/run/Session.h"
 
 #include <cstdint>
 #include <string>
@@ -11,18 +12,12 @@
 
 namespace engine {
 
-/// Values are read as Batch tells, after a `next` that gave true.
-class ResultRows {
+/// Values are read after a `next` that gave true.
+class ResultRows : public ResultRow {
 public:
-    virtual ~ResultRows() = default;
-
     /// Known before the first row and after the last one.
     virtual const std::vector<ResultColumn>& columns() const = 0;
     virtual bool next() = 0;
-    virtual bool isNull(int column) const = 0;
-    virtual std::int64_t integer(int column) const = 0;
-    virtual double real(int column) const = 0;
-    virtual std::string_view text(int column) const = 0;
 };
 
 /// The rows of a SELECT, read from the storage one by one. The session learns their number behind the last one.

@@ -20,6 +20,20 @@ struct Message {
     std::string text;
 };
 
+/// The present row of a result.
+class ResultRow {
+public:
+    virtual ~ResultRow() = default;
+
+    virtual bool isNull(int column) const = 0;
+    /// Bits are 0 and 1.
+    virtual std::int64_t integer(int column) const = 0;
+    virtual double real(int column) const = 0;
+    /// UTF-8; valid until the next step. Dates read `YYYY-MM-DD hh:mm:ss.mmm`, decimals carry all digits of their
+    /// scale and a point. Of a null it has no data (`data()` is null).
+    virtual std::string_view text(int column) const = 0;
+};
+
 /// The running of one batch, result by result. Owned by the caller; its session must outlive it, and a session runs
 /// one batch at a time: starting another ends this one.
 class Batch {
@@ -36,15 +50,9 @@ public:
     virtual std::int64_t affected() const = 0;
     virtual const std::vector<Message>& messages() const = 0;
 
-    /// Steps to the next row of the present result.
-    virtual bool nextRow() = 0;
-    virtual bool isNull(int column) const = 0;
-    /// Bits are 0 and 1.
-    virtual std::int64_t integer(int column) const = 0;
-    virtual double real(int column) const = 0;
-    /// UTF-8; valid until the next step. Dates read `YYYY-MM-DD hh:mm:ss.mmm`, decimals carry all digits of their
-    /// scale and a point.
-    virtual std::string_view text(int column) const = 0;
+    /// Steps to the next row of the present result: the row, valid until this batch or its session does something else,
+    /// or nullptr behind the last one.
+    virtual const ResultRow* nextRow() = 0;
 };
 
 /// Rows held for their holder alone; the hold ends with this object or with the process.

@@ -57,6 +57,7 @@ public:
 private:
     sqlite3* handle_ = nullptr;
     std::unique_ptr<Statement> begin_, lock_, commit_; ///< prepared when first needed
+    std::int64_t changedBefore_ = 0;                   ///< rows, ahead of the transaction
 };
 
 class Statement {
@@ -81,7 +82,7 @@ public:
     bool isNull(int column) const;
     std::int64_t integer(int column) const;
     double real(int column) const;
-    std::string_view text(int column) const;
+    std::string_view text(int column) const; ///< without data for a null
 
 private:
     sqlite3_stmt* handle_ = nullptr;

@@ -60,9 +60,9 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
             for (int errors = 0; errors < kMostErrors; ++errors) {
                 try {
                     while (batch->nextResult()) {
-                        while (batch->nextRow()) {
+                        while (const engine::ResultRow* row = batch->nextRow()) {
                             for (int i = 0; i < static_cast<int>(batch->columns().size()); ++i) {
-                                batch->text(i);
+                                row->text(i);
                             }
                         }
                     }
@@ -79,7 +79,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     };
     run({reinterpret_cast<const char*>(data), size});
     const auto batch = session->execute("select 1");
-    if (!batch->nextResult() || !batch->nextRow() || batch->integer(0) != 1) {
+    const engine::ResultRow* row = batch->nextResult() ? batch->nextRow() : nullptr;
+    if (row == nullptr || row->integer(0) != 1) {
         std::abort();
     }
     return 0;

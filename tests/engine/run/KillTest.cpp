@@ -46,8 +46,8 @@ protected:
         std::set<std::int64_t> found;
         const auto batch = session->execute("select id from t");
         batch->nextResult();
-        while (batch->nextRow()) {
-            found.insert(batch->integer(0));
+        while (const ResultRow* row = batch->nextRow()) {
+            found.insert(row->integer(0));
         }
         return found;
     }

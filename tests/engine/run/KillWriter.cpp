@@ -39,12 +39,12 @@ int main(int argc, char** argv) {
         for (bool alone = true;; alone = !alone) {
             alone ? appendAlone(*session) : appendWithCopy(*session);
             // The copy has no identity: the last one given is still that of `t`.
-            std::int64_t row = 0;
+            std::int64_t written = 0;
             const auto last = session->execute("SELECT IDENT_CURRENT('t')");
-            if (last->nextResult() && last->nextRow()) {
-                row = last->integer(0);
+            if (const engine::ResultRow* row = last->nextResult() ? last->nextRow() : nullptr) {
+                written = row->integer(0);
             }
-            std::printf("%lld\n", static_cast<long long>(row));
+            std::printf("%lld\n", static_cast<long long>(written));
             if (std::fflush(stdout) != 0) {
                 return 1;
             }

@@ -3,6 +3,7 @@
 #include "ado/Drivers.h"
 #include "ado/PresentEvent.h"
 #include "ado/ServerErrors.h"
+#include "ado/WhileWaiting.h"
 #include "engine/run/InternalErrors.h"
 #include "engine/run/Session.h"
 
@@ -23,6 +24,7 @@ using SessionPtr = std::shared_ptr<engine::Session>;
 /// Converts the engine's errors into the data layer's.
 template<typename Work>
 decltype(auto) translated(Work&& work) {
+    refuseWhileWaiting();
     try {
         return work();
     } catch (const engine::Error& error) {
@@ -102,16 +104,18 @@ public:
     std::int64_t affected() const override { return batch_->affected(); }
 
     bool nextRow() override {
-        return translated([&] { return batch_->nextRow(); });
+        row_ = translated([&] { return batch_->nextRow(); });
+        return row_ != nullptr;
     }
-    bool isNull(int field) const override { return batch_->isNull(field); }
-    std::int64_t integer(int field) const override { return batch_->integer(field); }
-    double real(int field) const override { return batch_->real(field); }
-    std::string_view text(int field) const override { return batch_->text(field); }
+    bool isNull(int field) const override { return row_->isNull(field); }
+    std::int64_t integer(int field) const override { return row_->integer(field); }
+    double real(int field) const override { return row_->real(field); }
+    std::string_view text(int field) const override { return row_->text(field); }
 
 private:
     SessionPtr session_;
     std::unique_ptr<engine::Batch> batch_; // declared after the session, so that it is destroyed first
+    const engine::ResultRow* row_ = nullptr;
     std::vector<FieldDescription> fields_;
 };
 

@@ -53,6 +53,9 @@ void geography(Tour& tour);
 /// The payment terms and their commencement rules, empty and with one picked, and in every language.
 void paymentTerms(Tour& tour);
 
+/// The users, one of them picked, and with all rights ticked.
+void users(Tour& tour);
+
 /// Every form of the program, in the order in which a user meets them. A new form adds its page here.
 void walk(Tour& tour);
 

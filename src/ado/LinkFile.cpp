@@ -43,15 +43,17 @@ std::unique_ptr<engine::sqlite::Connection> opened(const fs::path& file, bool cr
     });
 }
 
-/// Anything but a file with contents is refused here: opening it would write to it, or wait for it.
+/// Anything but a catalog is refused here: opening it would write to it, or wait for it. A catalog has passwords in its
+/// links, whoever has put it there.
 const fs::path& checked(const fs::path& file) {
     std::error_code reason;
     if (!fs::is_regular_file(file, reason)) {
         throw Error(kUnspecified, "Could not find file.");
     }
-    if (fs::file_size(file, reason) == 0) {
+    if (fs::file_size(file, reason) == 0 || !engine::sqlite::holdsTable(file, "tables")) {
         throw Error(kUnspecified, "Unrecognized database format.");
     }
+    fs::permissions(file, fs::perms::owner_read | fs::perms::owner_write, reason);
     return file;
 }
 

@@ -25,7 +25,8 @@ public:
 
     /// Creates an empty catalog that only its owner can read. Where the file exists, it must be empty.
     static LinkFile create(const std::filesystem::path& file);
-    /// Opens an existing catalog; a file that is empty or no catalog isn't changed.
+    /// Opens an existing catalog, which from then on only its owner can read. Any other file is refused unchanged, and
+    /// so is one that another program keeps for itself.
     explicit LinkFile(const std::filesystem::path& file);
     LinkFile(LinkFile&&) noexcept;
     LinkFile& operator=(LinkFile&&) noexcept;

@@ -18,15 +18,20 @@ namespace controls {
 
 namespace {
 
-/// Waits until the system shows the window, since it can't paint earlier.
-void waitUntilExposed(const QWidget& form) {
+bool isExposed(const QWidget& form) {
+    const QWindow* window = form.windowHandle();
+    return window != nullptr && window->isExposed();
+}
+
+/// Waits until the system shows the window, since it can't paint earlier; whether it does.
+bool waitUntilExposed(const QWidget& form) {
     constexpr int kLongestMilliseconds = 1000;
     constexpr int kSliceMilliseconds = 20;
     const QDeadlineTimer deadline(kLongestMilliseconds);
-    const QWindow* window = form.windowHandle();
-    while (window != nullptr && !window->isExposed() && !deadline.hasExpired()) {
+    while (form.windowHandle() != nullptr && !isExposed(form) && !deadline.hasExpired()) {
         QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents, kSliceMilliseconds);
     }
+    return isExposed(form);
 }
 
 } // namespace
@@ -81,7 +86,8 @@ void Form::Refresh() {
     if (!isVisible()) {
         return;
     }
-    waitUntilExposed(*this);
+    // A minimised window, or one on another desktop, is waited for once.
+    outOfSight_ = !isExposed(*this) && (outOfSight_ || !waitUntilExposed(*this));
     repaint();
     QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
 }

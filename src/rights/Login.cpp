@@ -199,6 +199,7 @@ void Login::Salva() {
         return;
     }
     SalvaUtente(IdUtenteCorrente, campi);
+    PulisciCampi(); // ahead of the list too: where that can't be read, a second save would store the user again
     Rileggi();
 }
 

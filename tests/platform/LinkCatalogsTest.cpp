@@ -7,9 +7,13 @@
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
+#include <sqlite3.h>
 
 #include <filesystem>
+#include <fstream>
 #include <functional>
+#include <iterator>
+#include <string>
 #include <vector>
 
 namespace {
@@ -126,6 +130,41 @@ TEST_F(LinkCatalogs, AreForTheirOwnerAndLeaveNoFilesBesideThem) {
         names.push_back(entry.path().filename().string());
     }
     EXPECT_THAT(names, ElementsAre("locale.mdb"));
+}
+
+std::string bytesOf(const fs::path& file) {
+    std::ifstream in(file, std::ios::binary);
+    return {std::istreambuf_iterator<char>(in), {}};
+}
+
+TEST_F(LinkCatalogs, RefuseADatabaseOfAnotherKindWithoutTouchingIt) {
+    sqlite3* other = nullptr;
+    ASSERT_EQ(sqlite3_open(file().c_str(), &other), SQLITE_OK);
+    ASSERT_EQ(sqlite3_exec(other, "CREATE TABLE altro (id INTEGER)", nullptr, nullptr, nullptr), SQLITE_OK);
+    sqlite3_close(other);
+    fs::permissions(file(), fs::perms::group_read, fs::perm_options::add);
+    const std::string before = bytesOf(file());
+    EXPECT_EQ(errorOf(kText), ado::kUnspecified);
+    EXPECT_EQ(bytesOf(file()), before);
+    EXPECT_NE(fs::status(file()).permissions() & fs::perms::group_read, fs::perms::none);
+}
+
+TEST_F(LinkCatalogs, ThatAnInstallerLeftReadableForAllAreForTheirOwnerOnceOpened) {
+    ado::LinkFile::create(file()).add("LINK", "alfa", "ODBC;a");
+    fs::permissions(file(), fs::perms::group_read | fs::perms::others_read, fs::perm_options::add);
+    platform::linkCatalogs().open(kText);
+    EXPECT_EQ(fs::status(file()).permissions(), fs::perms::owner_read | fs::perms::owner_write);
+}
+
+TEST_F(LinkCatalogs, ThatAnotherProgramKeepsForItselfAreRefused) {
+    ado::LinkFile::create(file()).add("LINK", "alfa", "ODBC;a");
+    sqlite3* other = nullptr;
+    ASSERT_EQ(sqlite3_open(file().c_str(), &other), SQLITE_OK);
+    ASSERT_EQ(sqlite3_exec(other, "PRAGMA locking_mode=EXCLUSIVE; BEGIN EXCLUSIVE", nullptr, nullptr, nullptr),
+              SQLITE_OK);
+    EXPECT_EQ(errorOf(kText), ado::kUnspecified);
+    sqlite3_close(other);
+    EXPECT_EQ(errorOf(kText), 0);
 }
 
 TEST_F(LinkCatalogs, AreNotMadeWhereATableIsInTheFileAlready) {

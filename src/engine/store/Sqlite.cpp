@@ -114,6 +114,21 @@ int stepped(sqlite3_stmt* statement) {
 
 } // namespace
 
+bool holdsTable(const std::filesystem::path& file, std::string_view table) {
+    sqlite3* handle = nullptr;
+    sqlite3_stmt* row = nullptr;
+    const int flags = SQLITE_OPEN_READONLY | SQLITE_OPEN_NOMUTEX;
+    const bool found =
+        sqlite3_open_v2(file.string().c_str(), &handle, flags, nullptr) == SQLITE_OK &&
+        sqlite3_prepare_v2(handle, "SELECT 1 FROM sqlite_master WHERE type = 'table' AND name = ?1", -1, &row,
+                           nullptr) == SQLITE_OK &&
+        sqlite3_bind_text(row, 1, table.data(), static_cast<int>(table.size()), SQLITE_STATIC) == SQLITE_OK &&
+        sqlite3_step(row) == SQLITE_ROW;
+    sqlite3_finalize(row);
+    sqlite3_close_v2(handle);
+    return found;
+}
+
 Connection::Connection(const std::filesystem::path& file, bool create) {
     if (create) {
         makeFileOfOwner(file);

@@ -26,6 +26,10 @@ private:
 
 class Statement;
 
+/// Whether a file is a database with that table. Writes nothing to it, and doesn't wait for another program that keeps
+/// it for itself: false.
+bool holdsTable(const std::filesystem::path& file, std::string_view table);
+
 class Connection {
 public:
     /// Opens a file with WAL, synchronous=FULL and a busy timeout; `create` makes a missing file (owner only).

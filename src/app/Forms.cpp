@@ -1,6 +1,7 @@
 #include "app/Forms.h"
 
 #include "dblife/FormRegistraAziendeNeiDns.h"
+#include "dblife/caricasedecentrale.h"
 #include "fiscal/I_Iva_sezionali.h"
 #include "general_tables/Avvio_Morlan.h"
 #include "geography/stati.h"
@@ -10,6 +11,7 @@
 #include "session/Avvio.h"
 #include "session/Avvio_Azienda.h"
 #include "session/FormRefreshLinks.h"
+#include "session/IndirizzoVaboSuServer.h"
 
 namespace app {
 
@@ -32,6 +34,8 @@ void registerForms(controls::FormRegistry& registry) {
     registry.add("I_Iva_sezionali", make<vabo::I_Iva_sezionali>);
     registry.add("Scegli_progetto_4", make<vabo::Scegli_progetto_4>);
     registry.add("Scegli_sede_Pd", make<vabo::Scegli_sede_Pd>);
+    registry.add("IndirizzoVaboSuServer", make<vabo::IndirizzoVaboSuServer>);
+    registry.add("caricasedecentrale", make<vabo::caricasedecentrale>);
     registry.add("stati", make<vabo::stati>);
 }
 

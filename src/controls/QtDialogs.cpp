@@ -4,12 +4,14 @@
 
 #include <QApplication>
 #include <QDialogButtonBox>
-#include <QDir>
 #include <QFileDialog>
 #include <QGridLayout>
 #include <QInputDialog>
 #include <QMessageBox>
 #include <QPushButton>
+#include <QUrl>
+
+#include <optional>
 
 namespace controls {
 
@@ -72,6 +74,42 @@ bool ask(const std::string& text, QMessageBox::Icon icon, const QStringList& cap
     return box.clickedButton() == buttons.first();
 }
 
+/// The folders of drive C: whoever leaves it is back in its root. A folder elsewhere has no path that the programs of
+/// the workstation could read. Drawn by the toolkit, since a desktop's own browser can't be kept on the drive.
+class FolderBrowser : public QFileDialog {
+public:
+    explicit FolderBrowser(const QString& title) : QFileDialog(QApplication::activeWindow(), title) {
+        setOption(DontUseNativeDialog);
+        setOption(ShowDirsOnly);
+        setFileMode(Directory);
+        setLabelText(Accept, kOk);
+        setLabelText(Reject, kAnnulla);
+        setSidebarUrls({QUrl::fromLocalFile(root())});
+        setDirectory(root());
+        connect(this, &QFileDialog::directoryEntered, this, [this](const QString& place) {
+            if (!pathOf(place)) {
+                setDirectory(root());
+            }
+        });
+    }
+
+    std::string chosen() const { return pathOf(selectedFiles().value(0)).value_or(""); }
+
+    void accept() override {
+        if (pathOf(selectedFiles().value(0))) {
+            QFileDialog::accept();
+        } else {
+            setDirectory(root());
+        }
+    }
+
+private:
+    static QString root() { return QString::fromStdString(platform::workstation().driveC.root().string()); }
+    static std::optional<std::string> pathOf(const QString& place) {
+        return platform::workstation().driveC.pathOf(place.toStdString());
+    }
+};
+
 } // namespace
 
 void QtDialogs::message(const std::string& text, platform::Icon icon) {
@@ -97,24 +135,8 @@ std::string QtDialogs::input(const std::string& prompt, const std::string& title
 }
 
 std::string QtDialogs::folder(const std::string& title) {
-    const QString root = QString::fromStdString(platform::workstation().driveC.root().string());
-    QFileDialog box(QApplication::activeWindow(), titleOr(title), root);
-    box.setFileMode(QFileDialog::Directory);
-    box.setOption(QFileDialog::ShowDirsOnly);
-    box.setLabelText(QFileDialog::Accept, kOk);
-    box.setLabelText(QFileDialog::Reject, kAnnulla);
-    if (box.exec() != QDialog::Accepted) {
-        return {};
-    }
-    const QString chosen = box.selectedFiles().value(0);
-    const QString inside = QDir(root).relativeFilePath(chosen);
-    if (inside == QLatin1String(".")) {
-        return "C:\\";
-    }
-    if (inside.startsWith(QLatin1String("..")) || QDir::isAbsolutePath(inside)) {
-        return QDir::toNativeSeparators(chosen).toStdString();
-    }
-    return "C:\\" + QString(inside).replace(QLatin1Char('/'), QLatin1Char('\\')).toStdString();
+    FolderBrowser box(titleOr(title));
+    return box.exec() == QDialog::Accepted ? box.chosen() : std::string();
 }
 
 } // namespace controls

@@ -94,7 +94,7 @@ void states(Tour& tour) {
 
 void walk(Tour& tour) {
     for (const auto page :
-         {start, login, box, console, links, generalTables, locks, vatSections, dataSources, states}) {
+         {start, login, box, console, links, generalTables, locks, vatSections, dataSources, states, setup}) {
         page(tour);
     }
 }

@@ -42,6 +42,9 @@ void locks(Tour& tour);
 /// The VAT sections, without and with one picked.
 void vatSections(Tour& tour);
 
+/// The folder on the server with the boxes that ask for it, and the headquarters.
+void setup(Tour& tour);
+
 /// Every form of the program, in the order in which a user meets them. A new form adds its page here.
 void walk(Tour& tour);
 

@@ -39,6 +39,9 @@ caricasedecentrale::caricasedecentrale() : Form("caricasedecentrale"), ui_(std::
     ui_->setupUi(this);
     ui_->DataGrid1->setDataSource(ui_->elenco);
     ui_->DataGrid1->fillWidth();
+    ui_->DCStato->ListField = "Descstato";
+    ui_->DCStato->BoundColumn = "idstato";
+    ui_->DCStato->setRowSource(ui_->AdcStati);
     ui_->DCStato->setText(kNessunaScelta);
     CollegaCampi();
     on(ui_->DataGrid1, &controls::DataGrid::RowPicked, [this] { MostraRecord(); });
@@ -68,9 +71,6 @@ void caricasedecentrale::Load() {
     setWindowTitle(QString::fromUtf8(kTitolo));
     IdSedeCorrente = 0;
     ui_->AdcStati->load(StringaAzienda, ElencoStatiSede());
-    ui_->DCStato->ListField = "Descstato";
-    ui_->DCStato->BoundColumn = "idstato";
-    ui_->DCStato->setRowSource(ui_->AdcStati);
     salta([this] { ui_->elenco->load(StringaAzienda, ElencoSediConStato()); });
     salta([this] { FormattaGriglia(); });
 }

@@ -6,6 +6,7 @@
 
 #include <QFileDialog>
 #include <QLineEdit>
+#include <QPushButton>
 #include <QToolButton>
 
 #include <gmock/gmock.h>
@@ -77,6 +78,22 @@ TEST_F(FolderBrowser, AFolderPickedIsAPathOfTheDrive) {
 TEST_F(FolderBrowser, TheRootIsPickedByItsPath) {
     const std::string whole = root().string();
     EXPECT_EQ(pick([&](QFileDialog& box) { typePath(box, whole); }), "C:\\");
+}
+
+TEST_F(FolderBrowser, OkAloneIsTheFolderThatIsOpen) {
+    const auto ok = [](QFileDialog& box) {
+        for (auto* button : box.findChildren<QPushButton*>()) {
+            if (button->text() == QLatin1String("OK")) {
+                button->click();
+            }
+        }
+    };
+    EXPECT_EQ(pick(ok), "C:\\");
+    EXPECT_EQ(pick([&](QFileDialog& box) {
+                  box.setDirectory(QString::fromStdString((root() / "vabo").string()));
+                  ok(box);
+              }),
+              "C:\\vabo");
 }
 
 TEST_F(FolderBrowser, AFolderElsewhereIsNotTakenAndLeadsBackToTheRoot) {

@@ -118,7 +118,7 @@ TEST_F(CaricaSedeApplica, TheFieldsAreStoredAsTheyStandAndTheStateAsTheBranchHas
     for (const auto& [campo, testo] : scritti) {
         gui.typeInto(kForm, campo, testo);
     }
-    pagina.pick("DCStato", "Kosovo");
+    pagina.pick("DCStato", "Italia");
     attendiScelta("C:\\Nuova", true);
     applica();
     EXPECT_EQ(sedi(), (std::vector<Riga>{{"4", "Nairobi'", "\";--", "/*", "00100", numeroDelloStato(4), "1", "2", "a@b",
@@ -126,7 +126,7 @@ TEST_F(CaricaSedeApplica, TheFieldsAreStoredAsTheyStandAndTheStateAsTheBranchHas
 }
 
 TEST_F(CaricaSedeApplica, NotesOfSeveralLinesGoThroughTheFieldUnchanged) {
-    esegui("update ElencoSedi set Note = 'una' + char(13) + char(10) + 'due' + char(9) + 'tre' where IdSede = 4");
+    esegui("update ElencoSedi set Note = 'una\r\ndue\ttre' where IdSede = 4");
     apri();
     scegli("4");
     attendiScelta("C:\\Nuova", true);
@@ -158,8 +158,7 @@ TEST_F(CaricaSedeApplica, ATextTooLongForItsColumnIsToldAndNothingIsWritten) {
 TEST_F(CaricaSedeApplica, AFileThatCanNotBeWrittenEndsItBehindTheRowAndTheFilesAheadOfIt) {
     apri();
     scegli("4");
-    posto.driveC().remove("C:\\vabo\\DirectoryHq.txt");
-    posto.driveC().makeFolder("C:\\vabo\\DirectoryHq.txt");
+    impedisci(posto, "DirectoryHq.txt");
     const Riga primaCartelle = cartelle();
     attendiScelta("C:\\Nuova", true);
     script.expectMessage("Path/File access error");
@@ -185,9 +184,7 @@ TEST_F(CaricaSedeApplica, AMissingTableEndsItThere) {
     for (const auto& [tabella, file, hq] : {Manca{"Directorybackup", true, "C:\\N\\VaboDatiHQ"},
                                             Manca{"DirectoryHQ", true, ""}, Manca{"sedecentrale", false, ""}}) {
         SCOPED_TRACE(tabella);
-        for (const auto& [nome, riga] : puntatoriDi("prima")) {
-            posto.putFile("C:\\vabo\\" + nome, riga);
-        }
+        metti(posto, puntatoriDi("prima"));
         esegui(std::string("drop table ") + tabella);
         gui.forms().unload(kForm);
         support::Gui::handleEvents();

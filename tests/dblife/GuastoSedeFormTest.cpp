@@ -105,9 +105,7 @@ TEST_F(GuastoSede, AtWhateverStatementOfTheCommandItEndsOneBoxTellsItAndWhatStan
     ASSERT_GE(tutte, 6);
     for (int fatale = 1; fatale <= tutte; ++fatale) {
         SCOPED_TRACE(fatale);
-        for (const auto& [nome, riga] : puntatoriDi("prima")) {
-            posto.putFile("C:\\vabo\\" + nome, riga);
-        }
+        metti(posto, puntatoriDi("prima"));
         esegui("update sedecentrale set idsede = 1, Note = 'prima'");
         esegui("update DirectoryHQ set Directoryfile = 'prima'");
         esegui("update Directorybackup set Directoryfile = 'prima'");

@@ -137,18 +137,19 @@ TEST_F(SedeCentrale, ATextThatItsColumnCanNotHoldRaisesAndTheNextOneIsStored) {
     EXPECT_EQ(sedi(), Righe{kRigaDiBari}) << "the shared recordset was given back";
 }
 
-const Righe prima = sedi();
-ado::Connection altrui;
-altrui.Open(StringaAzienda);
-{
-    ado::Recordset tenuta;
-    ApriScrivibile(tenuta, "select * from sedecentrale", altrui);
-    tenuta["Note"] = "mia";
-    EXPECT_THROW(SalvaSedeCentrale(5, 2, kBari), ado::Error);
-    tenuta.CancelUpdate();
-}
-EXPECT_EQ(sedi(), prima);
-SalvaSedeCentrale(5, 2, kBari);
+TEST_F(SedeCentrale, ARowThatSomebodyElseHoldsRaisesAtOnce) {
+    const Righe prima = sedi();
+    ado::Connection altrui;
+    altrui.Open(StringaAzienda);
+    {
+        ado::Recordset tenuta;
+        ApriScrivibile(tenuta, "select * from sedecentrale", altrui);
+        tenuta["Note"] = "mia";
+        EXPECT_THROW(SalvaSedeCentrale(5, 2, kBari), ado::Error);
+        tenuta.CancelUpdate();
+    }
+    EXPECT_EQ(sedi(), prima);
+    SalvaSedeCentrale(5, 2, kBari);
 }
 
 TEST_F(SedeCentrale, TheFoldersRowsAreWrittenOverWhateverTheirNumber) {

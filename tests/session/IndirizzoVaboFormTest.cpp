@@ -149,8 +149,7 @@ TEST_F(IndirizzoVaboForm, TheServersLineIsTheFirstOneOfItsFile) {
 TEST_F(IndirizzoVaboForm, AFileThatCanNotBeWrittenIsToldAndThoseAheadOfItStand) {
     apri();
     const Puntatori prima = puntatori(posto);
-    posto.driveC().remove("C:\\vabo\\IndirizzoVabodati.txt");
-    posto.driveC().makeFolder("C:\\vabo\\IndirizzoVabodati.txt");
+    impedisci(posto, "IndirizzoVabodati.txt");
     attendiScelta("C:\\Nuova", true);
     script.expectMessage("Path/File access error");
     premi();

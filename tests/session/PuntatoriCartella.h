@@ -23,13 +23,26 @@ inline Puntatori puntatoriDi(const std::string& cartella) {
             {"DirectoryBackup.txt", cartella + "\\Backup\r\n"}};
 }
 
-/// As they are on the disk; a file that is missing is empty.
+/// As they are on the disk; what is missing or no file is empty.
 inline Puntatori puntatori(const support::TestWorkstation& posto) {
     Puntatori tutti = puntatoriDi("");
-    for (auto& [file, testo] : tutti) {
-        testo = posto.fileText("C:\\vabo\\" + file).value_or("");
+    for (auto& [nome, testo] : tutti) {
+        const std::string file = "C:\\vabo\\" + nome;
+        testo = posto.driveC().isFile(file) ? posto.fileText(file).value_or("") : "";
     }
     return tutti;
+}
+
+inline void metti(const support::TestWorkstation& posto, const Puntatori& tutti) {
+    for (const auto& [nome, testo] : tutti) {
+        posto.putFile("C:\\vabo\\" + nome, testo);
+    }
+}
+
+/// Makes one of them impossible to write.
+inline void impedisci(const support::TestWorkstation& posto, const std::string& nome) {
+    posto.driveC().remove("C:\\vabo\\" + nome);
+    posto.driveC().makeFolder("C:\\vabo\\" + nome);
 }
 
 } // namespace vabo

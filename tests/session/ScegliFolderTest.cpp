@@ -65,9 +65,7 @@ TEST_F(ScegliFolder, ADrivesRootLeavesTwoBackslashes) {
 }
 
 TEST_F(ScegliFolder, EachFileIsReplacedWhole) {
-    for (const auto& [file, riga] : puntatoriDi("x")) {
-        posto.putFile("C:\\vabo\\" + file, "una riga molto più lunga della nuova\r\ne un'altra\r\n");
-    }
+    metti(posto, puntatoriDi("una riga molto più lunga della nuova\r\ne un'altra"));
     ScriviPuntatoriCartella("C:\\S");
     EXPECT_EQ(puntatori(posto), puntatoriDi("C:\\S"));
 }
@@ -84,13 +82,10 @@ TEST_F(ScegliFolder, WithoutTheirFolderTheFirstFileRaises) {
 TEST_F(ScegliFolder, AFileThatCanNotBeWrittenRaisesBehindTheOnesAheadOfIt) {
     const Puntatori nuovi = puntatoriDi("C:\\Nuova");
     for (std::size_t guasto = 0; guasto < nuovi.size(); ++guasto) {
-        const std::string file = "C:\\vabo\\" + nuovi[guasto].first;
-        SCOPED_TRACE(file);
-        for (const auto& [nome, riga] : nuovi) {
-            posto.putFile("C:\\vabo\\" + nome, "prima");
-        }
-        posto.driveC().remove(file);
-        posto.driveC().makeFolder(file);
+        SCOPED_TRACE(nuovi[guasto].first);
+        const Puntatori vecchi = puntatoriDi("prima");
+        metti(posto, vecchi);
+        impedisci(posto, nuovi[guasto].first);
         try {
             ScriviPuntatoriCartella("C:\\Nuova");
             ADD_FAILURE() << "nothing raised";
@@ -99,9 +94,12 @@ TEST_F(ScegliFolder, AFileThatCanNotBeWrittenRaisesBehindTheOnesAheadOfIt) {
         }
         const Puntatori adesso = puntatori(posto);
         for (std::size_t i = 0; i < nuovi.size(); ++i) {
-            EXPECT_EQ(adesso[i].second, i < guasto ? nuovi[i].second : i == guasto ? "" : "prima") << nuovi[i].first;
+            EXPECT_EQ(adesso[i].second, i < guasto    ? nuovi[i].second
+                                        : i == guasto ? ""
+                                                      : vecchi[i].second)
+                << nuovi[i].first;
         }
-        std::filesystem::remove(posto.driveC().real(file));
+        std::filesystem::remove(posto.driveC().real("C:\\vabo\\" + nuovi[guasto].first));
     }
 }
 

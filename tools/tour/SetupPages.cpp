@@ -2,13 +2,14 @@
 
 #include <QApplication>
 #include <QDialog>
+#include <QLineEdit>
 
 namespace tour {
 
 namespace {
 
-/// What comes while a command runs: the box that announces the browser, the browser, and the box with its answer, which
-/// is cancelled.
+/// What comes while a command runs: the box that announces the browser, the browser, where a folder is picked, and the
+/// box that shows it, which is cancelled.
 class Boxes : public QObject {
 public:
     Boxes(Tour& tour, std::string name) : tour_(tour), name_(std::move(name)) { qApp->installEventFilter(this); }
@@ -30,7 +31,12 @@ private:
         static constexpr const char* kSuffixes[] = {"-avviso", "-cartella", "-conferma"};
         Tour::settle();
         tour_.take(name_ + kSuffixes[shown_++ % std::size(kSuffixes)], *box);
-        box->reject();
+        if (auto* path = box->findChild<QLineEdit*>()) {
+            path->setText(QStringLiteral("vabo"));
+            Tour::press(*path, Qt::Key_Return);
+        } else {
+            box->reject();
+        }
     }
 
     Tour& tour_;
@@ -40,23 +46,24 @@ private:
 
 } // namespace
 
+// The server's folder comes last, since its form leaves the program without the company's lists.
 void setup(Tour& tour) {
+    const char* const branch = "caricasedecentrale";
+    tour.show(branch);
+    tour.take("26-sede-centrale", branch);
+    Tour::press(tour.control(branch, "DataGrid1"), Qt::Key_Down);
+    tour.take("26-sede-centrale-scelta", branch);
+    tour.forms().unload(branch);
+    Tour::settle();
+
     const char* const server = "IndirizzoVaboSuServer";
     tour.show(server);
-    tour.take("26-indirizzo-server", server);
+    tour.take("27-indirizzo-server", server);
     {
-        const Boxes boxes(tour, "26-indirizzo-server");
+        const Boxes boxes(tour, "27-indirizzo-server");
         Tour::press(tour.control(server, "Command1"), Qt::Key_Space);
     }
     tour.forms().unload(server);
-    Tour::settle();
-
-    const char* const branch = "caricasedecentrale";
-    tour.show(branch);
-    tour.take("27-sede-centrale", branch);
-    Tour::press(tour.control(branch, "DataGrid1"), Qt::Key_Down);
-    tour.take("27-sede-centrale-scelta", branch);
-    tour.forms().unload(branch);
     Tour::settle();
 }
 

@@ -42,7 +42,7 @@ void locks(Tour& tour);
 /// The VAT sections, without and with one picked.
 void vatSections(Tour& tour);
 
-/// The folder on the server with the boxes that ask for it, and the headquarters.
+/// The headquarters, and the folder on the server with the boxes that ask for it.
 void setup(Tour& tour);
 
 /// Every form of the program, in the order in which a user meets them. A new form adds its page here.

@@ -123,16 +123,22 @@ TEST_F(AvvioForm, SendsItsStatementsLetterForLetter) {
                                                   readLanguage,
                                                   options,
                                                   "Select * from link_programma where dbname like 'VaBoDatiAurora'",
+                                                  "Select * from progetti where id = 10000001",
+                                                  "Create table Version (id int null, Version int not null default 1 )",
+                                                  "select * from Version where id = 1",
+                                                  "INSERT INTO [Version] ([id], [Version]) VALUES (1, 1)",
                                                   makeLanguage,
                                                   readLanguage,
                                                   "select * from [AbilitazioneAccessi]"};
     ASSERT_EQ(idOf(kCompany), 1);
     const support::StatementRecorder recorder;
     gui.forms().show("Avvio");
-    // The start takes the company up and prepares the server; the login takes the company up again.
+    // The start takes the company up and prepares the server; the login takes the company up again and reads
+    // the folder of the branch's file.
     std::vector<std::string> expected = takingUp;
     expected.insert(expected.end(), preparation.begin(), preparation.end());
     expected.insert(expected.end(), takingUp.begin(), takingUp.end());
+    expected.emplace_back("Select * from DirectorySede");
     expected.emplace_back("select * from [AbilitazioneAccessi]");
     EXPECT_EQ(recorder.texts(), expected);
 }

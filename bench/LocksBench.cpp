@@ -1,14 +1,15 @@
 // The two locks on ledgers of 10 000 to 1 000 000 rows, a tenth of which makes its transaction definitive in any case,
 // against a raw SQLite program that runs the same statements prepared, on a copy of the same file, at the same
-// durability. `ratio` is ours over theirs, `peak_mb` the most memory that a process needed for ours.
+// durability. `ratio` is ours over theirs, `peak_mb` the most memory that a process needed for ours, `gap_ms` the
+// longest time without a drawing of the window, `gap_unwatched_ms` the same where it is drawn between statements only.
 //
 // The ledgers lie in the folder in which the benchmark is started: on a disk a commit costs what a commit costs.
 
+#include "DrawnLock.h"
 #include "LockLedger.h"
 #include "Pairs.h"
 #include "ado/Drivers.h"
 #include "engine/store/Instance.h"
-#include "locks/Avanzamento.h"
 #include "locks/BloccoProgetto.h"
 #include "locks/BloccoSede.h"
 #include "provision/Sql.h"
@@ -82,13 +83,6 @@ Ledger& ledgerOf(long rows) {
     return *ledger;
 }
 
-class Unseen : public vabo::Avanzamento {
-public:
-    void Porta(double /*part*/) override {}
-    void Comincia(long /*steps*/) override {}
-    void Avanza() override {}
-};
-
 class Company {
 public:
     explicit Company(const fs::path& folder) {
@@ -100,13 +94,15 @@ public:
     Company(const Company&) = delete;
     Company& operator=(const Company&) = delete;
 
-    static void lock(Lock which) {
-        Unseen nobody;
-        if (which == Project) {
-            vabo::AggiornaDataDefinitiva(bench::kLockedProject, bench::kLockDate, nobody);
-        } else {
-            vabo::BloccaSede(bench::kLockedBranch, bench::kLockDate, nobody);
-        }
+    /// The longest time without a drawing, in milliseconds.
+    static double lock(Lock which, bool alsoWhileWaiting = true) {
+        return bench::longestWithoutDrawing(alsoWhileWaiting, [&](vabo::Avanzamento& drawn) {
+            if (which == Project) {
+                vabo::AggiornaDataDefinitiva(bench::kLockedProject, bench::kLockDate, drawn);
+            } else {
+                vabo::BloccaSede(bench::kLockedBranch, bench::kLockDate, drawn);
+            }
+        });
     }
 };
 
@@ -236,10 +232,11 @@ void locks(benchmark::State& state, Lock which) {
     Raw raw(ledger.copy());
     const Company company(ledger.folder());
     for (auto _ : state) {
-        const double ours = bench::seconds([&] { Company::lock(which); });
+        const double ours = bench::seconds([&] { state.counters["gap_ms"] = Company::lock(which); });
         const double theirs = bench::seconds([&] { raw.lock(which); });
         bench::report(state, ours, theirs);
     }
+    state.counters["gap_unwatched_ms"] = Company::lock(which, false);
     state.counters["peak_mb"] = peak(ledger.folder(), which);
 }
 

@@ -1,13 +1,13 @@
 // The two locks over the wire against bare ODBC calls that send the same texts in the same order to the same server, on
-// ledgers of 10 000 to 1 000 000 rows. Read `ratio`.
+// ledgers of 10 000 to 1 000 000 rows. Read `ratio`; `gap_ms` and `gap_unwatched_ms` as in LocksBench.cpp.
 
+#include "DrawnLock.h"
 #include "LockLedger.h"
 #include "Pairs.h"
 #include "PeerProcess.h"
 #include "RawOdbc.h"
 #include "ado/drivers/odbc/OdbcConnection.h"
 #include "engine/store/Instance.h"
-#include "locks/Avanzamento.h"
 #include "locks/BloccoProgetto.h"
 #include "locks/BloccoSede.h"
 #include "state/variabili.h"
@@ -19,13 +19,6 @@
 namespace {
 
 enum Lock { Project, Branch };
-
-class Unseen : public vabo::Avanzamento {
-public:
-    void Porta(double /*part*/) override {}
-    void Comincia(long /*steps*/) override {}
-    void Avanza() override {}
-};
 
 /// A server with a ledger of so many rows; one at a time.
 bench::PeerProcess& serverWith(long rows) {
@@ -41,13 +34,15 @@ bench::PeerProcess& serverWith(long rows) {
     return *server;
 }
 
-void lock(Lock which) {
-    Unseen nobody;
-    if (which == Project) {
-        vabo::AggiornaDataDefinitiva(bench::kLockedProject, bench::kLockDate, nobody);
-    } else {
-        vabo::BloccaSede(bench::kLockedBranch, bench::kLockDate, nobody);
-    }
+/// The longest time without a drawing, in milliseconds.
+double lock(Lock which, bool alsoWhileWaiting = true) {
+    return bench::longestWithoutDrawing(alsoWhileWaiting, [&](vabo::Avanzamento& drawn) {
+        if (which == Project) {
+            vabo::AggiornaDataDefinitiva(bench::kLockedProject, bench::kLockDate, drawn);
+        } else {
+            vabo::BloccaSede(bench::kLockedBranch, bench::kLockDate, drawn);
+        }
+    });
 }
 
 /// The groups of the accounts are read on connections of their own, here as there.
@@ -75,10 +70,10 @@ void locks(benchmark::State& state, Lock which) {
     const std::string driverText = ado::odbc::driverText(ado::ConnectionString(server.connectionString()), "FreeTDS");
     std::vector<std::string> texts;
     ado::setStatementRecorder([&](const std::string& text) { texts.push_back(text); });
-    lock(which);
+    state.counters["gap_unwatched_ms"] = lock(which, false);
     ado::setStatementRecorder({});
     for (auto _ : state) {
-        const double ours = bench::seconds([&] { lock(which); });
+        const double ours = bench::seconds([&] { state.counters["gap_ms"] = lock(which); });
         const double theirs = bench::seconds([&] { send(texts, driverText); });
         bench::report(state, ours, theirs);
     }

@@ -9,7 +9,7 @@ namespace ado {
 
 namespace {
 
-constexpr std::size_t kMostKept = 128;
+constexpr std::size_t kMostKept = 512; // 16 MiB
 
 struct Kept {
     std::mutex mutex;

@@ -1,6 +1,7 @@
 #include "ado/Connection.h"
 
 #include "ado/Drivers.h"
+#include "ado/WhileWaiting.h"
 
 #include <QLoggingCategory>
 
@@ -57,6 +58,7 @@ void Connection::Open() {
 }
 
 void Connection::connect() {
+    refuseWhileWaiting();
     const ado::ConnectionString text(connectionString_);
     driver_ = driverFor(text).connect(text);
 }
@@ -64,6 +66,7 @@ void Connection::connect() {
 /// Connects again where the server was lost. Recordsets and holds opened before keep the lost connection, and their
 /// next use of it fails.
 void Connection::reconnect() {
+    refuseWhileWaiting();
     if (!driver_->alive()) {
         connect();
     }
@@ -78,6 +81,7 @@ void Connection::Close() {
     if (!IsOpen()) {
         throw Error(kObjectClosed);
     }
+    refuseWhileWaiting();
     driver_.reset();
 }
 

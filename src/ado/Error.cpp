@@ -36,6 +36,7 @@ constexpr std::array kOwnTexts = std::to_array<OwnText>({
     {kConnectionUnusable,
      "The connection cannot be used to perform this operation. It is either closed or invalid in this context.",
      "08003"},
+    {kStillExecuting, "Operation cannot be performed while executing asynchronously.", "HY010"},
     {kMultipleStep, "Multiple-step operation generated errors. Check each status value.", ""},
     {kRowChanged, "Row cannot be located for updating. Some values may have been changed since it was last read.",
      "01001"},

@@ -21,6 +21,7 @@ enum ErrorNumber : int {
     kObjectOpen = 3705,
     kProviderNotFound = 3706,
     kConnectionUnusable = 3709,
+    kStillExecuting = 3711,
     kMultipleStep = -2147217887,
     kObjectMissing = -2147217865,
     kSyntaxOrColumn = -2147217900,

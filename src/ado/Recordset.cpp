@@ -3,6 +3,7 @@
 #include "ado/Names.h"
 #include "ado/RecordsetState.h"
 #include "ado/Source.h"
+#include "ado/WhileWaiting.h"
 
 #include <algorithm>
 #include <utility>
@@ -64,6 +65,7 @@ void Recordset::Close() {
     if (state_->edit != State::Edit::None) {
         throw Error(kNotAllowedHere);
     }
+    refuseWhileWaiting();
     state_->close();
 }
 

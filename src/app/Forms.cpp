@@ -3,10 +3,15 @@
 #include "dblife/FormRegistraAziendeNeiDns.h"
 #include "dblife/caricasedecentrale.h"
 #include "fiscal/I_Iva_sezionali.h"
+#include "fiscal/frmDatiAzienda.h"
 #include "general_tables/Avvio_Morlan.h"
+#include "general_tables/TabelleBustePaga.h"
+#include "geography/frmComuni.h"
 #include "geography/stati.h"
 #include "locks/Scegli_progetto_4.h"
 #include "locks/Scegli_sede_Pd.h"
+#include "payment_terms/CondizioniPagamento.h"
+#include "payment_terms/CondizioniPagamentoDecorrenza.h"
 #include "session/About.h"
 #include "session/Avvio.h"
 #include "session/Avvio_Azienda.h"
@@ -32,11 +37,16 @@ void registerForms(controls::FormRegistry& registry) {
     registry.add("FormRegistraAziendeNeiDns", make<vabo::FormRegistraAziendeNeiDns>);
     registry.add("Avvio_Morlan", make<vabo::Avvio_Morlan>);
     registry.add("I_Iva_sezionali", make<vabo::I_Iva_sezionali>);
+    registry.add("frmDatiAzienda", make<vabo::frmDatiAzienda>);
     registry.add("Scegli_progetto_4", make<vabo::Scegli_progetto_4>);
     registry.add("Scegli_sede_Pd", make<vabo::Scegli_sede_Pd>);
     registry.add("IndirizzoVaboSuServer", make<vabo::IndirizzoVaboSuServer>);
     registry.add("caricasedecentrale", make<vabo::caricasedecentrale>);
+    registry.add("CondizioniPagamento", make<vabo::CondizioniPagamento>);
+    registry.add("CondizioniPagamentoDecorrenza", make<vabo::CondizioniPagamentoDecorrenza>);
     registry.add("stati", make<vabo::stati>);
+    registry.add("frmComuni", make<vabo::frmComuni>);
+    registry.add("TabelleBustePaga", make<vabo::TabelleBustePaga>);
 }
 
 } // namespace app

@@ -77,16 +77,25 @@ void DataCombo::ReFill() {
 }
 
 void DataCombo::setText(const std::string& text) {
+    const QString wanted = QString::fromStdString(text);
     pickedRow_ = -1;
-    chosen_ = QString::fromStdString(text);
     setCurrentIndex(-1);
-    setEditText(chosen_);
+    setEditText(wanted);
+    setChosen(wanted);
+}
+
+// To be called when the field shows the text, which a handler may read.
+void DataCombo::setChosen(const QString& text) {
+    if (chosen_ != text) {
+        chosen_ = text;
+        emit Change();
+    }
 }
 
 void DataCombo::takeTyped(const QString& text) {
     if (freeText_) {
         pickedRow_ = -1;
-        chosen_ = text;
+        setChosen(text);
     }
 }
 
@@ -129,8 +138,8 @@ void DataCombo::setBoundText(const std::string& key) {
         return;
     }
     pickedRow_ = row;
-    chosen_ = list_->textAt(row);
     setCurrentIndex(row);
+    setChosen(list_->textAt(row));
 }
 
 void DataCombo::picked(int row) {
@@ -139,7 +148,9 @@ void DataCombo::picked(int row) {
         return;
     }
     pickedRow_ = row;
-    chosen_ = list_->textAt(row);
+    setChosen(list_->textAt(row));
+    // Queued, since the completer sets the row's text again behind the Click: a text that the form sets there counts.
+    QMetaObject::invokeMethod(this, &DataCombo::restoreChosen, Qt::QueuedConnection);
     emit Click(List);
 }
 
@@ -147,7 +158,11 @@ void DataCombo::keyPressEvent(QKeyEvent* event) {
     switch (event->key()) {
     case Qt::Key_Return:
     case Qt::Key_Enter:
-        event->ignore(); // the form handles Enter
+        if (event->modifiers().testFlag(Qt::ControlModifier)) {
+            emit DblClick();
+        } else {
+            event->ignore(); // the form handles Enter
+        }
         return;
     case Qt::Key_Up:
     case Qt::Key_Down:
@@ -262,6 +277,9 @@ void DataCombo::widenPopup() {
 bool DataCombo::eventFilter(QObject* watched, QEvent* event) {
     if (watched == lineEdit() && event->type() == QEvent::MouseButtonPress) {
         emit Click(Edit);
+    }
+    if (watched == lineEdit() && event->type() == QEvent::MouseButtonDblClick) {
+        emit DblClick();
     }
     if (watched == lineEdit() && event->type() == QEvent::MouseButtonRelease && selectAtRelease_) {
         selectAtRelease_ = false;

@@ -53,6 +53,10 @@ signals:
     void GotFocus();
     void LostFocus(); ///< only when the focus moves to another control of the program
     void Click(int area);
+    void DblClick(); ///< on the text; or Ctrl+Enter
+    /// The text set by the form or picked is another one; emitted before the Click of a pick. Not emitted while the
+    /// user searches, which picks nothing, but for each letter where typed text counts.
+    void Change();
 
 protected:
     void keyPressEvent(QKeyEvent* event) override;
@@ -68,6 +72,7 @@ private:
     void takeFocus(const QWidget* control);
     void loseFocus(const QWidget* control);
     void takeTyped(const QString& text);
+    void setChosen(const QString& text);
     void picked(int row);
     bool keyInSearch(const QKeyEvent& key);
     void highlightOnlyMatch();

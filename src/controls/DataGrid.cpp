@@ -45,6 +45,7 @@ void DataGrid::Column::setWidth(int twips) {
 void DataGrid::Column::setCaption(const std::string& caption) {
     grid_->model_->column(index_).caption = QString::fromStdString(caption);
     grid_->model_->columnChanged(index_);
+    grid_->shareWidth();
 }
 
 void DataGrid::Column::setAlignment(Qt::Alignment alignment) {

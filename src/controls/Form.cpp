@@ -1,5 +1,6 @@
 #include "controls/Form.h"
 
+#include "controls/Label.h"
 #include "controls/UserInput.h"
 #include "platform/Forms.h"
 
@@ -25,15 +26,6 @@ void waitUntilExposed(const QWidget& form) {
     while (window != nullptr && !window->isExposed() && !deadline.hasExpired()) {
         QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents, kSliceMilliseconds);
     }
-}
-
-QString spokenName(QString caption) {
-    caption.remove(QLatin1Char('&'));
-    caption = caption.trimmed();
-    while (caption.endsWith(QLatin1Char(':'))) {
-        caption = caption.chopped(1).trimmed();
-    }
-    return caption;
 }
 
 } // namespace

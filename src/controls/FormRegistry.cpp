@@ -145,6 +145,15 @@ bool FormRegistry::isLoaded(std::string_view name) const {
     return loaded(name) != nullptr;
 }
 
+void FormRegistry::mark(std::string_view name, std::string_view word) {
+    marks_.insert_or_assign(std::string(name), std::string(word));
+}
+
+std::string FormRegistry::markOf(std::string_view name) const {
+    const auto found = marks_.find(name);
+    return found == marks_.end() ? std::string() : found->second;
+}
+
 Form* FormRegistry::loaded(std::string_view name) const {
     const auto found = forms_.find(name);
     return found == forms_.end() ? nullptr : found->second.get();

@@ -32,9 +32,12 @@ public:
     void hide(std::string_view name) override;
     void unload(std::string_view name) override;
     bool isLoaded(std::string_view name) const override;
+    void mark(std::string_view name, std::string_view word) override;
 
     /// The form of that name; null where it isn't loaded.
     Form* loaded(std::string_view name) const;
+    /// The word that was noted for the form of that name, empty where there is none.
+    std::string markOf(std::string_view name) const;
     /// The form that became active last and is still visible.
     Form* active() const { return active_; }
 
@@ -53,6 +56,7 @@ private:
     std::map<std::string, Holder, std::less<>> forms_;
     std::map<std::string, QByteArray, std::less<>> places_; ///< place and size of unloaded forms with takeScreen
     std::set<std::string, std::less<>> wantedAgain_;        ///< forms shown during their own Unload
+    std::map<std::string, std::string, std::less<>> marks_;
     QPointer<Form> active_;
 };
 

@@ -82,6 +82,7 @@ public:
         setOption(DontUseNativeDialog);
         setOption(ShowDirsOnly);
         setFileMode(Directory);
+        setViewMode(List);
         setLabelText(Accept, kOk);
         setLabelText(Reject, kAnnulla);
         setSidebarUrls({QUrl::fromLocalFile(root())});

@@ -18,14 +18,22 @@ TextBox::TextBox(QWidget* parent) : QLineEdit(parent) {
 
 void TextBox::SetFocus() {
     setFocus(Qt::TabFocusReason);
-    selectAll();
+    Select();
+}
+
+void TextBox::Select() {
+    if (selectAtMost_ < 0) {
+        selectAll();
+    } else {
+        setSelection(0, selectAtMost_);
+    }
 }
 
 void TextBox::takeFocus(const QWidget* control) {
     if (control != this) {
         return;
     }
-    selectAll();
+    Select();
     // A mouse press that sets the focus also sets the caret and ends the selection, so the text is selected again
     // when the button is released.
     selectAtRelease_ = QApplication::mouseButtons() != Qt::NoButton;
@@ -35,7 +43,7 @@ void TextBox::takeFocus(const QWidget* control) {
 void TextBox::mouseReleaseEvent(QMouseEvent* event) {
     QLineEdit::mouseReleaseEvent(event);
     if (selectAtRelease_ && !hasSelectedText()) {
-        selectAll();
+        Select();
     }
     selectAtRelease_ = false;
 }

@@ -6,15 +6,19 @@
 
 namespace controls {
 
-/// A field of one line. Its whole text is selected whenever it gets the focus, so that typing replaces it.
+/// A field of one line. Its text is selected whenever it gets the focus, so that typing replaces it.
 class TextBox : public QLineEdit {
     Q_OBJECT
 public:
     explicit TextBox(QWidget* parent = nullptr);
 
     std::string Text() const { return text().toStdString(); }
-    /// Gives it the focus, with the whole text selected also where it has the focus already.
+    /// Gives it the focus, with the text selected also where it has the focus already.
     void SetFocus();
+    /// Selects the text as when the focus comes.
+    void Select();
+    /// From now on no more than that many characters are selected, from the first on.
+    void selectAtMost(int characters) { selectAtMost_ = characters; }
     using QLineEdit::setText;
     /// Shows the text, cut at the field's greatest length.
     void setText(const std::string& text) { setText(QString::fromStdString(text)); }
@@ -31,6 +35,7 @@ private:
     void takeFocus(const QWidget* control);
 
     bool selectAtRelease_ = false;
+    int selectAtMost_ = -1; ///< the whole text
 };
 
 } // namespace controls

@@ -52,12 +52,12 @@ ado::Date LeggiDataBilancioProgetto() {
     ado::Date data = kDataZero;
     ado::Recordset& rs = RsCondivisi(1);
     salta([&] { rs.Open("Select * from progetti where id = 10000001", DbAzienda); });
-    const bool manca =
-        vera([&] { return rs.EOF(); }) || vera([&] { return IsEmptyValue(rs["idDataBilancio"].Value()); });
-    if (manca) {
-        salta([&] { data = ado::toDate("31/12/1990"); });
-    } else {
+    const bool trovata =
+        vera([&] { return !rs.EOF(); }) && vera([&] { return !IsEmptyValue(rs["idDataBilancio"].Value()); });
+    if (trovata) {
         salta([&] { data = ado::toDate(rs["idDataBilancio"].Value()); });
+    } else {
+        salta([&] { data = ado::toDate("31/12/1990"); });
     }
     salta([&] { rs.Close(); });
     // A machine whose dates are written with points.

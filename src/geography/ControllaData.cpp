@@ -90,4 +90,15 @@ void ControllaData(std::string& data, std::int16_t& esito) {
     }
 }
 
+DataLasciata LasciaData(std::string& testo) {
+    std::string data = testo;
+    Flag esito = kFalso;
+    ControllaData(data, esito);
+    if (esito != kFalso) {
+        testo = data;
+        return DataLasciata::Scritta;
+    }
+    return IsEmptyValue(data) ? DataLasciata::Vuota : DataLasciata::Rifiutata;
+}
+
 } // namespace vabo

@@ -10,4 +10,9 @@ namespace vabo {
 /// no day or month, one that isn't a number, or one that is too high. Shows nothing and raises nothing.
 void ControllaData(std::string& data, std::int16_t& esito);
 
+/// What becomes of a date field that is left.
+enum class DataLasciata { Vuota, Rifiutata, Scritta };
+/// The same check for a field that may be empty. `testo` changes where the date is Scritta alone.
+DataLasciata LasciaData(std::string& testo);
+
 } // namespace vabo

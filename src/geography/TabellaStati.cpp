@@ -1,9 +1,9 @@
 #include "geography/TabellaStati.h"
 
-#include "geography/ControllaData.h"
 #include "kit/ApriScrivibile.h"
 #include "kit/Colonne.h"
 #include "kit/ErrorHandling.h"
+#include "kit/Filtra.h"
 #include "kit/IsEmptyValue.h"
 #include "kit/Regole.h"
 #include "kit/Testi.h"
@@ -56,8 +56,7 @@ bool NomeMancante(const std::string& nome) {
 }
 
 bool GiaInserito(ado::Recordset& elenco, const std::string& nome) {
-    elenco.setFilter("descstato='" + nome + "'");
-    return !elenco.EOF();
+    return Filtra(elenco, "descstato", nome);
 }
 
 void SalvaStato(double chiave, const CampiStato& campi) {
@@ -72,17 +71,6 @@ void SalvaStato(double chiave, const CampiStato& campi) {
 
 void EliminaStatiSenzaNome() {
     DbAzienda.Execute("delete from stati where descstato is null");
-}
-
-DataLasciata LasciaData(std::string& testo) {
-    std::string data = testo;
-    Flag esito = kFalso;
-    ControllaData(data, esito);
-    if (esito != kFalso) {
-        testo = data;
-        return DataLasciata::Scritta;
-    }
-    return IsEmptyValue(data) ? DataLasciata::Vuota : DataLasciata::Rifiutata;
 }
 
 } // namespace vabo

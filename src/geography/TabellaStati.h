@@ -34,9 +34,4 @@ void SalvaStato(double chiave, const CampiStato& campi);
 /// The rows without a name. Raises.
 void EliminaStatiSenzaNome();
 
-/// What becomes of a date field that is left.
-enum class DataLasciata { Vuota, Rifiutata, Scritta };
-/// The check of typed dates for a field that may be empty. `testo` changes where the date is Scritta alone.
-DataLasciata LasciaData(std::string& testo);
-
 } // namespace vabo

@@ -4,6 +4,7 @@
 #include "controls/DataCombo.h"
 #include "controls/DataGrid.h"
 #include "controls/TextBox.h"
+#include "geography/ControllaData.h"
 #include "geography/TabellaStati.h"
 #include "kit/ErrorHandling.h"
 #include "kit/IsEmptyValue.h"

@@ -14,7 +14,8 @@ void Corsa::Nascondi(controls::ProgressBar& barra) {
     barra.hide();
 }
 
-Corsa::Corsa(QWidget& form, controls::ProgressBar& barra) : ferma_(form), barra_(barra) {
+Corsa::Corsa(QWidget& form, controls::ProgressBar& barra)
+    : ferma_(form), barra_(barra), attesa_([this] { MostraOgniTanto(); }) {
     ValoreProgresso = 0;
     barra_.setValue(ValoreProgresso);
     barra_.show();
@@ -41,11 +42,15 @@ void Corsa::Comincia(long passi) {
     Mostra();
 }
 
-// A statement is much shorter than a look at the screen.
 void Corsa::Avanza() {
-    constexpr qint64 kMillisecondi = 50;
     ValoreProgresso = barra_.advanced(ValoreProgresso, PassoProgresso);
     barra_.setValue(ValoreProgresso);
+    MostraOgniTanto();
+}
+
+// Most statements are much shorter than a look at the screen.
+void Corsa::MostraOgniTanto() {
+    constexpr qint64 kMillisecondi = 50;
     if (mostrata_.hasExpired(kMillisecondi)) {
         Mostra();
     }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "ado/WhileWaiting.h"
 #include "controls/Disabled.h"
 #include "controls/Hourglass.h"
 #include "locks/Avanzamento.h"
@@ -12,8 +13,8 @@ class ProgressBar;
 
 namespace vabo {
 
-/// A lock on the screen, for as long as it runs: its bar is seen and moves, and what the user does at the form
-/// meanwhile is dropped.
+/// A lock on the screen, for as long as it runs: its bar is seen and moves, the window is drawn during a long statement
+/// too, and what the user does at the form meanwhile is dropped.
 class Corsa : public Avanzamento {
 public:
     /// The bar as it is between two runs: unseen, its room kept.
@@ -28,11 +29,13 @@ public:
 
 private:
     void Mostra();
+    void MostraOgniTanto();
 
     controls::Disabled ferma_;
     controls::Hourglass clessidra_;
     controls::ProgressBar& barra_;
     QElapsedTimer mostrata_;
+    ado::WhileWaiting attesa_; // declared last, since it uses the others
 };
 
 } // namespace vabo

@@ -55,13 +55,16 @@ void Scegli_progetto_4::ScegliProgetto() {
 
 void Scegli_progetto_4::ConfermaData() {
     std::string data = ui_->iddateend->Text();
-    Flag esito = kFalso;
-    ControllaData(data, esito);
-    if (esito != kFalso) {
+    switch (LasciaData(data)) {
+    case DataLasciata::Vuota:
+        break;
+    case DataLasciata::Rifiutata:
+        ui_->iddateend->selectAll();
+        break;
+    case DataLasciata::Scritta:
         ui_->iddateend->setText(data);
         ui_->Command1->setFocus(Qt::TabFocusReason);
-    } else if (!IsEmptyValue(data)) {
-        ui_->iddateend->selectAll();
+        break;
     }
 }
 

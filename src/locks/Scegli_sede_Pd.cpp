@@ -64,9 +64,7 @@ void Scegli_sede_Pd::MostraData() {
 // A date that is refused is compared all the same.
 void Scegli_sede_Pd::ConfermaData() {
     std::string data = ui_->DataInizio->Text();
-    Flag esito = kFalso;
-    ControllaData(data, esito);
-    if (esito != kFalso) {
+    if (LasciaData(data) == DataLasciata::Scritta) {
         ui_->DataInizio->setText(data);
     } else {
         ui_->DataInizio->selectAll();

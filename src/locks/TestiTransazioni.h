@@ -14,10 +14,11 @@ namespace vabo {
 /// are read here, twice each time: a test and a value, statements of the rule. `giri` is how often the four stand in
 /// the list.
 template<typename Regola>
-std::string ContiDefinitivi(Regola&& regola, const NoveConti& ContiBlocco, const std::string& campo, int giri = 1) {
-    constexpr std::size_t kSpelti = 7;
+std::string ContiDefinitivi(const Regola& regola, const NoveConti& ContiBlocco, const std::string& campo,
+                            int giri = 1) {
+    constexpr std::size_t kFissi = 7;
     std::string elenco = campo + std::to_string(ContiBlocco[0]);
-    for (std::size_t i = 1; i < kSpelti; ++i) {
+    for (std::size_t i = 1; i < kFissi; ++i) {
         elenco += " or" + campo + std::to_string(ContiBlocco[i]);
     }
     for (int giro = 0; giro < giri; ++giro) {

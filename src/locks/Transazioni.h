@@ -13,7 +13,7 @@ namespace vabo {
 /// Runs `modifica` on the transaction of each row of a selection, a statement a row, repeats included. `selezione`
 /// gives the text. A selection that can't be opened has no rows.
 template<typename Regola, typename Selezione>
-void ModificaTransazioni(Regola&& regola, Selezione&& selezione, const std::string& modifica,
+void ModificaTransazioni(const Regola& regola, const Selezione& selezione, const std::string& modifica,
                          Avanzamento& avanzamento) {
     const Restituzione restituzione(kPostoRighe);
     ado::Recordset& rs = RsCondivisi(kPostoRighe);
@@ -30,7 +30,7 @@ void ModificaTransazioni(Regola&& regola, Selezione&& selezione, const std::stri
             DbAzienda.Execute(SqlCorrente = modifica + DellaTransazione(rs["numerotransazione"], rs["idsede"]));
         });
         avanzamento.Avanza();
-        rs.MoveNext();
+        regola([&] { rs.MoveNext(); }); // the recordset is shared, and events run meanwhile
     }
 }
 

@@ -15,6 +15,8 @@ public:
     virtual void hide(std::string_view name) = 0;
     virtual void unload(std::string_view name) = 0;
     virtual bool isLoaded(std::string_view name) const = 0;
+    /// Notes a word for the form, loaded or not, by which it may know who asks for it. It stays until the next one.
+    virtual void mark(std::string_view name, std::string_view word) = 0;
 };
 
 FormHost& formHost();

@@ -38,17 +38,44 @@ TEST(Tour, LeavesAPictureOfEveryFormInThreeKinds) {
          {"01-avvio", "02-login", "03-login-password", "04-messaggio", "05-console", "06-console-elenco",
           "07-collegamenti", "17-registra-aziende", "18-registra-aziende-fonte", "19-blocco-progetto",
           "19-blocco-progetto-scelta", "19-blocco-progetto-corsa", "20-blocco-sede", "20-blocco-sede-scelta",
-          "20-blocco-sede-domanda", "20-blocco-sede-corsa", "27-indirizzo-server", "27-indirizzo-server-avviso",
-          "27-indirizzo-server-conferma"}) {
+          "20-blocco-sede-domanda", "20-blocco-sede-corsa", "51-indirizzo-server", "51-indirizzo-server-avviso",
+          "51-indirizzo-server-conferma"}) {
         expectThreeKinds(folder.path(), name);
         EXPECT_GE(picture(folder.path(), std::string(name) + "-200").height(),
                   2 * picture(folder.path(), name).height() - 2)
             << name;
     }
     // These fill the screen, which is less than twice as large at 200 %.
-    for (const char* name :
-         {"21-sezionali-iva", "22-sezionali-iva-modifica", "23-stati", "24-stati-modifica", "25-stati-aree",
-          "27-indirizzo-server-cartella", "26-sede-centrale", "26-sede-centrale-scelta"}) {
+    for (const char* name : {"21-sezionali-iva",
+                             "22-sezionali-iva-modifica",
+                             "23-stati",
+                             "24-stati-modifica",
+                             "25-stati-aree",
+                             "26-condizioni",
+                             "26-condizioni-modifica",
+                             "26-condizioni-en",
+                             "26-condizioni-es",
+                             "26-condizioni-po",
+                             "26-condizioni-fr",
+                             "27-condizioni-decorrenze",
+                             "28-decorrenze",
+                             "28-decorrenze-modifica",
+                             "28-decorrenze-en",
+                             "28-decorrenze-es",
+                             "28-decorrenze-po",
+                             "28-decorrenze-fr",
+                             "30-dati-azienda",
+                             "31-dati-azienda-comuni",
+                             "32-dati-azienda-comune",
+                             "33-buste-paga",
+                             "34-buste-paga-tipo",
+                             "35-buste-paga-elenco",
+                             "40-comuni",
+                             "41-comuni-modifica",
+                             "42-comuni-stati",
+                             "50-sede-centrale",
+                             "50-sede-centrale-scelta",
+                             "51-indirizzo-server-cartella"}) {
         expectThreeKinds(folder.path(), name);
     }
 }

@@ -420,6 +420,17 @@ TEST_F(DataCombo, AListOfThousandsIsWholeAndOpens) {
     combo().hidePopup();
 }
 
+TEST_F(DataCombo, ADoubleClickOnTheTextIsToldOnce) {
+    int told = 0;
+    QObject::connect(&combo(), &controls::DataCombo::DblClick, [&] { ++told; });
+    QTest::mouseClick(combo().lineEdit(), Qt::LeftButton);
+    EXPECT_EQ(told, 0);
+    QTest::mouseDClick(combo().lineEdit(), Qt::LeftButton);
+    EXPECT_EQ(told, 1);
+    QTest::mouseDClick(&gui.find("F", "field"), Qt::LeftButton);
+    EXPECT_EQ(told, 1);
+}
+
 TEST_F(DataCombo, TabPassesAComboThatIsNoTabStop) {
     QWidget& field = gui.find("F", "field");
     EXPECT_TRUE(combo().TabStop());

@@ -245,6 +245,15 @@ TEST_F(DataGrid, AColumnThatFillsItsGridShowsItsWholeCaption) {
     EXPECT_NEAR(grid.columnWidth(1) + grid.columnWidth(2), grid.viewport()->width(), 2);
 }
 
+TEST_F(DataGrid, ALongerCaptionSetLaterWidensItsColumn) {
+    grid.fillWidth();
+    grid.Columns(1).setWidth(150);
+    grid.Columns(2).setWidth(3000);
+    grid.resize(500, 300);
+    grid.Columns(1).setCaption("Didascalia molto lunga");
+    EXPECT_GE(grid.columnWidth(1), grid.horizontalHeader()->sectionSizeHint(1));
+}
+
 TEST_F(DataGrid, ARefreshMakesTheColumnsAnew) {
     grid.Columns(0).setVisible(false);
     grid.Columns(1).setCaption("Frutto");

@@ -208,6 +208,18 @@ TEST_F(FormRegistry, AnErrorInTheUnloadIsToldAndTheFormGoes) {
     EXPECT_FALSE(gui.forms().isLoaded("A"));
 }
 
+TEST_F(FormRegistry, AMarkStandsForAFormOfThatNameAndLoadsNone) {
+    add("A");
+    EXPECT_EQ(gui.forms().markOf("A"), "");
+    gui.forms().mark("A", "one");
+    gui.forms().mark("B", "other");
+    gui.forms().mark("A", "two");
+    EXPECT_FALSE(gui.forms().isLoaded("A"));
+    EXPECT_EQ(gui.forms().markOf("A"), "two");
+    EXPECT_EQ(gui.forms().markOf("B"), "other");
+    EXPECT_EQ(gui.forms().markOf("a"), "");
+}
+
 TEST_F(FormRegistry, TheEndOfTheProcessPassesEveryEvent) {
     add("A", {.load = [](RecordedForm&) { platform::TerminaProcesso(); }});
     add("B", {.activate = [this](RecordedForm&) { gui.forms().show("A"); }});

@@ -161,4 +161,19 @@ TEST_F(TextBox, TextsBeyondTheGreatestLengthAreCut) {
     EXPECT_EQ(field("second").Text(), "123") << "typing replaces the selection";
 }
 
+TEST_F(TextBox, NoMoreIsSelectedThanTheFormAllows) {
+    field("second").selectAtMost(3);
+    field("second").setFocus();
+    EXPECT_EQ(field("second").selectedText(), "tes");
+    field("second").deselect();
+    field("second").SetFocus();
+    EXPECT_EQ(field("second").selectedText(), "tes") << "where the focus is already";
+    field("first").setFocus();
+    gui.click("A", "second");
+    EXPECT_EQ(field("second").selectedText(), "tes") << "by a click";
+    field("second").setText(std::string("ab"));
+    field("second").Select();
+    EXPECT_EQ(field("second").selectedText(), "ab") << "a shorter text whole";
+}
+
 } // namespace

@@ -1,25 +1,11 @@
 // The form of states with the keyboard alone: a new state with a new area, a change, the way out.
 
-#include "StatiFixture.h"
+#include "geography/StatiFixture.h"
 
 namespace vabo {
 namespace {
 
-class StatiTastiera : public StatiForm {
-protected:
-    /// Presses a key until that control has the focus.
-    void premiFinoA(const std::string& nome, Qt::Key tasto) const {
-        constexpr int kPiuDelleFermate = 20;
-        for (int i = 0; i < kPiuDelleFermate && fuoco() != nome; ++i) {
-            gui.press(tasto);
-        }
-        ASSERT_EQ(fuoco(), nome);
-    }
-    void campo(const std::string& lettere) const {
-        gui.type(lettere);
-        invio();
-    }
-};
+class StatiTastiera : public StatiForm {};
 
 TEST_F(StatiTastiera, FromTheFirstStateToTheWayOut) {
     apri();
@@ -48,7 +34,7 @@ TEST_F(StatiTastiera, FromTheFirstStateToTheWayOut) {
     premiFinoA("DataGrid1", Qt::Key_Backtab);
     gui.type("somalil");
     EXPECT_EQ(fuoco(), "DataGrid1");
-    EXPECT_EQ(campi(), kCampiVuoti);
+    EXPECT_EQ(campi(), kStatoVuoto);
     gui.press(Qt::Key_Space);
     EXPECT_EQ(testo("DescStato"), "Somaliland britannico");
     EXPECT_EQ(fuoco(), "DescStato");

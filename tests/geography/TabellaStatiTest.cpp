@@ -1,42 +1,14 @@
-#include "geography/TabellaStati.h"
+// What is stored of a state, and how.
 
-#include "ZonaAttesa.h"
 #include "ado/Error.h"
-#include "general_tables/AziendaAperta.h"
+#include "geography/TabellaStatiAperta.h"
+#include "geography/ZonaAttesa.h"
 #include "kit/ApriScrivibile.h"
 
 namespace vabo {
 namespace {
 
-using Testi = std::vector<std::string>;
-
-const CampiStato kKosovo = {.nome = "Repubblica del Kosovo",
-                            .area = "Balcani",
-                            .istituzione = "17/02/2008",
-                            .soppressione = "",
-                            .isoValuta = "EUR"};
-
-class TabellaStati : public AziendaAperta {
-protected:
-    double chiave(const std::string& nome) const {
-        return std::stod(valore("select IdStato from stati where DescStato = '" + nome + "'"));
-    }
-    /// Name, both dates, currency and area.
-    Riga stato(const std::string& dove) const {
-        return riga("select DescStato, DataIstituzioneStato, DataSoppressioneStato, IsoValuta, Area from stati where " +
-                    dove);
-    }
-    Riga nuovo() const { return stato("IdStato = (select max(IdStato) from stati)"); }
-    int quanti(const std::string& tabella) const { return std::stoi(valore("select count(*) from " + tabella)); }
-    /// The list as the form has it.
-    static std::unique_ptr<ado::Recordset> elenco() {
-        auto rs = std::make_unique<ado::Recordset>();
-        rs->Open(ElencoStati(), DbAzienda, ado::CursorType::Static, ado::LockType::Optimistic);
-        return rs;
-    }
-};
-
-constexpr const char* kNulla = "NULL";
+class TabellaStati : public TabellaStatiAperta {};
 
 TEST_F(TabellaStati, ReadsTheListsLetterForLetter) {
     EXPECT_EQ(ElencoStati(), "SELECT * from stati order by DescStato");
@@ -95,36 +67,6 @@ TEST_F(TabellaStati, ARowThatIsGoneRaisesAndIsNotMadeAnew) {
     EXPECT_EQ(quanti("stati where DescStato = 'Repubblica del Kosovo'"), 1) << "the shared recordset was given back";
 }
 
-TEST_F(TabellaStati, AnAreaThatIsThereIsNotAddedAgainWhateverItsCase) {
-    const int prima = quanti("ZoneGeografiche");
-    SalvaStato(0, {"A", "Caraibi", "", "", ""});
-    SalvaStato(0, {"B", "CARAIBI", "", "", ""});
-    SalvaStato(0, {"C", "Caraibi  ", "", "", ""});
-    EXPECT_EQ(quanti("ZoneGeografiche"), prima);
-    EXPECT_EQ(stato("DescStato = 'B'").back(), "CARAIBI");
-}
-
-TEST_F(TabellaStati, NoAreaChosenIsStoredAsItReadsAndIsNoArea) {
-    const int prima = quanti("ZoneGeografiche");
-    const support::StatementRecorder recorder;
-    SalvaStato(0, {"A", "Seleziona", "", "", ""});
-    EXPECT_EQ(nuovo().back(), "Seleziona");
-    EXPECT_TRUE(recorder.holding("eografiche").empty());
-    EXPECT_EQ(quanti("ZoneGeografiche"), prima);
-}
-
-TEST_F(TabellaStati, NoAreaChosenInAnotherCaseIsAnArea) {
-    SalvaStato(0, {"A", "seleziona", "", "", ""});
-    EXPECT_EQ(quanti("ZoneGeografiche where Descrizione = 'seleziona'"), 1);
-}
-
-TEST_F(TabellaStati, AnEmptyAreaIsAnAreaToo) {
-    SalvaStato(0, {"A", "", "", "", ""});
-    SalvaStato(0, {"B", "", "", "", ""});
-    EXPECT_EQ(stato("DescStato = 'B'").back(), "");
-    EXPECT_EQ(quanti("ZoneGeografiche where Descrizione = ''"), 1);
-}
-
 TEST_F(TabellaStati, AnEmptyDateIsRefusedByItsColumnWhichKeepsTheOldOne) {
     const double id = chiave("Cecoslovacchia");
     SalvaStato(id, {"Cecoslovacchia", "Seleziona", "", "", "CSK"});
@@ -179,52 +121,6 @@ TEST_F(TabellaStati, ANameThatIsTooLongLeavesARowWithoutNameForThePurge) {
     EXPECT_EQ(quanti("stati where DescStato is null"), 0);
 }
 
-TEST_F(TabellaStati, AnAreaThatIsTooLongLeavesAnAreaWithoutText) {
-    const int prima = quanti("ZoneGeografiche");
-    SalvaStato(0, {"A", std::string(4'000, 'x'), "", "", "EUR"});
-    EXPECT_EQ(nuovo(), (Riga{"A", kNulla, kNulla, "EUR", kNulla}));
-    EXPECT_EQ(quanti("ZoneGeografiche"), prima + 1);
-    EXPECT_EQ(quanti("ZoneGeografiche where Descrizione is null"), 1);
-}
-
-/// An area that somebody types to do harm, and what its statement does.
-struct AreaOstile {
-    const char* area;
-    const char* istruzione;
-    bool aggiunta; ///< stands in the list of areas afterwards
-};
-
-TEST_F(TabellaStati, AnAreaEntersItsStatementAsItIsTyped) {
-    const AreaOstile casi[] = {
-        {"l'Est", "select * from Zonegeografiche where descrizione ='l'Est'", false},
-        {"'", "select * from Zonegeografiche where descrizione ='''", false},
-        {"''", "select * from Zonegeografiche where descrizione =''''", true},
-        {"x' --", "select * from Zonegeografiche where descrizione ='x' --'", true},
-        {"x' /*", "select * from Zonegeografiche where descrizione ='x' /*'", false},
-        {"x' or '1'='1", "select * from Zonegeografiche where descrizione ='x' or '1'='1'", false},
-        {"a;b", "select * from Zonegeografiche where descrizione ='a;b'", true},
-        {"-- x", "select * from Zonegeografiche where descrizione ='-- x'", true},
-        {"\"x\"", "select * from Zonegeografiche where descrizione ='\"x\"'", true},
-        {"a\tb\x01\x7f", "select * from Zonegeografiche where descrizione ='a\tb\x01\x7f'", true},
-        {"città ’ß", "select * from Zonegeografiche where descrizione ='città ’ß'", true},
-    };
-    for (const AreaOstile& caso : casi) {
-        SCOPED_TRACE(caso.area);
-        const support::StatementRecorder recorder;
-        const int prima = quanti("ZoneGeografiche");
-        SalvaStato(0, {"A", caso.area, "", "", "EUR"});
-        EXPECT_EQ(nuovo(), (Riga{"A", kNulla, kNulla, "EUR", caso.area})) << "the row takes it as it is";
-        EXPECT_EQ(recorder.count(caso.istruzione), 1);
-        EXPECT_EQ(quanti("ZoneGeografiche"), prima + (caso.aggiunta ? 1 : 0));
-    }
-}
-
-TEST_F(TabellaStati, AStatementBehindAQuoteInTheAreaIsRun) {
-    SalvaStato(0, {"A", "x'; delete from progetti --", "", "", "EUR"});
-    EXPECT_EQ(quanti("progetti"), 0);
-    EXPECT_EQ(nuovo().back(), "x'; delete from progetti --");
-}
-
 TEST_F(TabellaStati, NamesDatesAndCurrenciesEnterNoText) {
     for (const std::string testo : {"'", "x'; delete from stati --", "a;b", "-- x", "/*", "\"", "a\tb", "\x01\x7f"}) {
         SCOPED_TRACE(testo);
@@ -249,12 +145,6 @@ TEST_F(TabellaStati, ARowThatSomebodyElseHoldsStaysAsItIsAndNothingIsTold) {
     EXPECT_EQ(quanti("ZoneGeografiche where Descrizione = 'Balcani'"), 1);
 }
 
-TEST_F(TabellaStati, WithoutTheListOfAreasTheStateIsStoredAlone) {
-    esegui("drop table ZoneGeografiche");
-    SalvaStato(0, kKosovo);
-    EXPECT_EQ(nuovo().back(), "Balcani");
-}
-
 TEST_F(TabellaStati, WithoutTheTableOfStatesTheErrorRises) {
     esegui("drop table stati");
     EXPECT_THROW(SalvaStato(0, kKosovo), ado::Error);
@@ -268,93 +158,6 @@ TEST_F(TabellaStati, ARowThatTheServerRefusesIsSkippedAndItsAreaAdded) {
     SalvaStato(0, {"Kenya", "Balcani", "", "", ""});
     EXPECT_EQ(quanti("stati"), prima);
     EXPECT_EQ(quanti("ZoneGeografiche where Descrizione = 'Balcani'"), 1);
-}
-
-TEST_F(TabellaStati, ANameIsMissingWhenItIsEmptyOrTheWordForNone) {
-    for (const char* nome : {"", " ", "0", "000", "Seleziona", "seleziona", "SELEZIONA"}) {
-        EXPECT_TRUE(NomeMancante(nome)) << nome;
-    }
-    for (const char* nome : {"  ", "Seleziona ", "Selezion", "Italia", "0.00"}) {
-        EXPECT_FALSE(NomeMancante(nome)) << nome;
-    }
-}
-
-TEST_F(TabellaStati, ADuplicateIsLookedForInTheListByTheNameAsTyped) {
-    const auto rs = elenco();
-    EXPECT_TRUE(GiaInserito(*rs, "Kenya"));
-    EXPECT_EQ(rs->Filter(), "descstato='Kenya'");
-    EXPECT_EQ(rs->RecordCount(), 1);
-    EXPECT_TRUE(GiaInserito(*rs, "KENYA"));
-    EXPECT_FALSE(GiaInserito(*rs, "Keny"));
-    EXPECT_FALSE(GiaInserito(*rs, "Ken*"));
-    EXPECT_FALSE(GiaInserito(*rs, "Ken%"));
-    EXPECT_TRUE(GiaInserito(*rs, "x' or descstato='Kenya"));
-    EXPECT_FALSE(GiaInserito(*rs, "d''Avorio"));
-    esegui("update stati set DescStato = 'Costa d''Avorio' where DescStato = 'Kenya'");
-    rs->Requery();
-    EXPECT_TRUE(GiaInserito(*rs, "Costa d''Avorio")) << "a doubled apostrophe is one";
-}
-
-TEST_F(TabellaStati, ANameThatBreaksTheFilterIsAnErrorAndTheListStaysWhole) {
-    const auto rs = elenco();
-    const long tutti = rs->RecordCount();
-    for (const char* nome : {"Costa d'Avorio", "'", "x' or", "x' --", "x'; delete from stati --", "x')"}) {
-        SCOPED_TRACE(nome);
-        try {
-            GiaInserito(*rs, nome);
-            ADD_FAILURE() << "nothing raised";
-        } catch (const ado::Error& errore) {
-            EXPECT_EQ(errore.number(), 3001);
-        }
-        EXPECT_EQ(rs->RecordCount(), tutti);
-    }
-    for (const std::string& nome : {std::string("a;b"), std::string("--"), std::string("/*"), std::string("\""),
-                                    std::string("\x01\t\x7f"), std::string(4'000, 'x')}) {
-        EXPECT_FALSE(GiaInserito(*rs, nome)) << nome;
-    }
-}
-
-TEST_F(TabellaStati, ThePurgeTakesTheRowsWithoutANameAlone) {
-    esegui("insert into stati (DescStato, IsoValuta) values (null, 'AAA'), (null, 'BBB'), ('', 'CCC')");
-    const int prima = quanti("stati");
-    const support::StatementRecorder recorder;
-    EliminaStatiSenzaNome();
-    EXPECT_EQ(recorder.texts(), Testi{"delete from stati where descstato is null"});
-    EXPECT_EQ(quanti("stati"), prima - 2);
-    EXPECT_EQ(quanti("stati where IsoValuta = 'CCC'"), 1);
-}
-
-TEST_F(TabellaStati, ThePurgeRaises) {
-    esegui("drop table stati");
-    EXPECT_THROW(EliminaStatiSenzaNome(), ado::Error);
-}
-
-TEST(LasciaData, ChangesTheTextOfAGoodDateAlone) {
-    struct Caso {
-        const char* scritto;
-        DataLasciata esito;
-        const char* resta;
-    };
-    const Caso casi[] = {
-        {"01/02/2003", DataLasciata::Scritta, "01/02/2003"},
-        {"01022003", DataLasciata::Scritta, "01/02/2003"},
-        {"0102", DataLasciata::Scritta, "0102"},
-        {"01/02", DataLasciata::Scritta, "0102"},
-        {"", DataLasciata::Vuota, ""},
-        {" ", DataLasciata::Vuota, " "},
-        {"/", DataLasciata::Vuota, "/"},
-        {"0", DataLasciata::Vuota, "0"},
-        {"00/00", DataLasciata::Vuota, "00/00"},
-        {"32/01/2003", DataLasciata::Rifiutata, "32/01/2003"},
-        {"00/01/2003", DataLasciata::Rifiutata, "00/01/2003"},
-        {"x", DataLasciata::Rifiutata, "x"},
-    };
-    for (const Caso& caso : casi) {
-        SCOPED_TRACE(caso.scritto);
-        std::string testo = caso.scritto;
-        EXPECT_EQ(LasciaData(testo), caso.esito);
-        EXPECT_EQ(testo, caso.resta);
-    }
 }
 
 } // namespace

@@ -13,6 +13,9 @@
 #include <QApplication>
 #include <QTest>
 
+#include <functional>
+#include <utility>
+
 namespace vabo {
 
 /// One of the two locks over the first sample company, opened from a bare form that stands for the console.
@@ -66,6 +69,20 @@ protected:
         }
     }
     void premi(const char* comando) { gui.click(form, comando); }
+    /// What an impatient user does while a lock runs: clicks both buttons, closes the window, turns to the list.
+    void insisti() {
+        for (const char* nome : {"Command1", "Command4"}) {
+            QWidget& comando = pagina.control(nome);
+            for (const QEvent::Type tipo : {QEvent::MouseButtonPress, QEvent::MouseButtonRelease}) {
+                QCoreApplication::postEvent(
+                    &comando,
+                    new QMouseEvent(tipo, comando.rect().center(), QCursor::pos(), Qt::LeftButton,
+                                    tipo == QEvent::MouseButtonPress ? Qt::LeftButton : Qt::NoButton, Qt::NoModifier));
+            }
+        }
+        gui.form(form).close();
+        QCoreApplication::postEvent(&elenco(), new QKeyEvent(QEvent::KeyPress, Qt::Key_Down, Qt::NoModifier));
+    }
     /// As at its opening.
     void aspettaVuota() const {
         EXPECT_EQ(elenco().ListIndex(), -1);
@@ -85,17 +102,25 @@ protected:
     support::FormPage pagina;
 };
 
-/// How often something is drawn.
+/// How often something is drawn; told at each time.
 class Disegni : public QObject {
 public:
-    explicit Disegni(QWidget& widget) { widget.installEventFilter(this); }
+    explicit Disegni(QWidget& widget, std::function<void(int)> ogniVolta = {}) : ogniVolta_(std::move(ogniVolta)) {
+        widget.installEventFilter(this);
+    }
     int volte = 0;
 
 private:
     bool eventFilter(QObject* /*watched*/, QEvent* event) override {
-        volte += event->type() == QEvent::Paint ? 1 : 0;
+        if (event->type() == QEvent::Paint) {
+            ++volte;
+            if (ogniVolta_) {
+                ogniVolta_(volte);
+            }
+        }
         return false;
     }
+    std::function<void(int)> ogniVolta_;
 };
 
 } // namespace vabo

@@ -169,8 +169,8 @@ TEST_F(BranchLock, AFailureStopsTheRunWhereItStandsAndASecondOnePutsItRight) {
                 EXPECT_EQ(guasto.inviate(), posto) << "nothing runs behind the failure";
             }
         }
-        for (int shared = 1; shared <= RecordsetCondivisi::kNumero; ++shared) {
-            ASSERT_FALSE(RsCondivisi(shared).IsOpen()) << shared;
+        for (int condiviso = 1; condiviso <= RecordsetCondivisi::kNumero; ++condiviso) {
+            ASSERT_FALSE(RsCondivisi(condiviso).IsOpen()) << condiviso;
         }
         bloccaSede("31/03/2024");
         ASSERT_EQ(letto(), atteso);

@@ -157,7 +157,9 @@ TEST_F(LockQueries, AnEmptyPlaceHasTheGroupOfTheAccountBeforeIt) {
     EXPECT_THAT(gruppi(), ElementsAre(19, 19, 19, 19, 19, 19, 19, 19, 19));
     conto(1, "null");
     conto(2, "1058");
+    const support::StatementRecorder recorder;
     EXPECT_THAT(gruppi(), ElementsAre(0, 21, 21, 21, 21, 21, 21, 21, 21)) << "no account yet has no group";
+    EXPECT_EQ(recorder.count("SELECT  IdGruppoVabo From conti where IdConto =0"), 1);
 }
 
 TEST_F(LockQueries, AnAccountThatIsNotInTheChartHasGroupZero) {
@@ -185,6 +187,7 @@ TEST_F(LockQueries, WhatFailsIsSkippedAndLeavesZeroInItsPlace) {
     esegui("drop table TabellaContiUtili");
     EXPECT_THAT(conti(), ElementsAre(0, 0, 0, 0, 0, 0, 0, 0, 0));
     DbAzienda.Close();
+    StringaAzienda = "Provider=Nessuno;";
     NoveConti ContiBlocco{1, 1, 1, 1, 1, 1, 1, 1, 1}, GruppiBlocco = ContiBlocco;
     CaricaContiBlocco(ContiBlocco, GruppiBlocco);
     EXPECT_EQ(ContiBlocco, NoveConti{}) << "what was there before is gone";

@@ -62,6 +62,18 @@ TEST_F(GlobalsOfTheProject, HoldTheStatementThatRunsAndHowFarTheRowsHaveCome) {
     EXPECT_THAT(passi, Each(20));
 }
 
+TEST_F(GlobalsOfTheProject, HoldTheStepOfTheLastRowsThatWereThere) {
+    apri();
+    PassoProgresso = 12; // of a run before
+    for (const bool conRiga : {false, true}) {
+        metti(conRiga ? libro::Libro{{.id = 1, .seziva = 1}} : libro::Libro{});
+        prendi(kProgetto);
+        digita("31/03/2024");
+        premi("Command1");
+        EXPECT_EQ(PassoProgresso, conRiga ? 100 : 12);
+    }
+}
+
 TEST_F(GlobalsOfTheProject, ARunReleasesEverySharedRecordsetAndTheLocalConnection) {
     metti({});
     apri();

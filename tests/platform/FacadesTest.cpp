@@ -16,6 +16,7 @@ public:
     void hide(std::string_view /*name*/) override {}
     void unload(std::string_view /*name*/) override {}
     bool isLoaded(std::string_view /*name*/) const override { return false; }
+    void mark(std::string_view /*name*/, std::string_view /*word*/) override {}
 };
 
 class NullAutomation : public platform::Automation {

@@ -23,6 +23,9 @@ public:
     void hide(std::string_view name) override { asked("hide", name); }
     void unload(std::string_view name) override { asked("unload", name); }
     bool isLoaded(std::string_view /*name*/) const override { return false; }
+    void mark(std::string_view name, std::string_view word) override {
+        calls_.push_back("mark " + std::string(name) + " " + std::string(word));
+    }
 
     void miss(const std::string& name) { missing_.insert(name); }
     const std::vector<std::string>& calls() const { return calls_; }

@@ -72,8 +72,8 @@ TEST(SampleData, FillsEveryTableOfBothCompanies) {
         {"IvaSezionale", 3, 2},
         {"DatiAzienda", 1, 1},
         {"CondizioniPagamentoTipoIncasso", 5, 5},
-        {"CondizioniPagamentoDecorrenza", 5, 5},
-        {"CondizioniPagamento", 8, 8},
+        {"CondizioniPagamentoDecorrenza", 8, 8},
+        {"CondizioniPagamento", 14, 14},
     };
     for (const Expected& expected : tables) {
         const std::string select = "SELECT COUNT(*) FROM " + std::string(expected.table);
@@ -211,6 +211,15 @@ TEST(SampleData, HasTermsWhoseRulesAndKindsExist) {
                              "CondizioniPagamentoDecorrenza AS D WHERE D.IDDecorrenza = C.IDDecorrenza) OR NOT EXISTS "
                              "(SELECT * FROM CondizioniPagamentoTipoIncasso AS T WHERE T.IdTipoRimessa = "
                              "C.IdTipoRimessa)"),
+                IsEmpty());
+}
+
+TEST(SampleData, HasTermsOfOneToTwelveInstalmentsAndOneForEachRule) {
+    EXPECT_THAT(sample().texts(kAurora, "SELECT DISTINCT NRrate FROM CondizioniPagamento ORDER BY NRrate"),
+                ElementsAre("1", "2", "3", "4", "5", "6", "12"));
+    EXPECT_THAT(sample().texts(kAurora, "SELECT Descrizione FROM CondizioniPagamentoDecorrenza AS D WHERE NOT EXISTS "
+                                        "(SELECT * FROM CondizioniPagamento AS C WHERE C.IDDecorrenza = "
+                                        "D.IDDecorrenza)"),
                 IsEmpty());
 }
 

@@ -74,27 +74,11 @@ void dataSources(Tour& tour) {
     Tour::settle();
 }
 
-/// Empty, with a state in the fields, and while an area is typed.
-void states(Tour& tour) {
-    const char* const form = "stati";
-    tour.show(form);
-    tour.take("23-stati", form);
-    Tour::press(tour.control(form, "DataGrid1"), Qt::Key_Down);
-    tour.take("24-stati-modifica", form);
-    Tour::press(tour.control(form, "DescStato"), Qt::Key_Return);
-    auto& areas = dynamic_cast<controls::DataCombo&>(tour.control(form, "DataCombo1"));
-    Tour::press(areas, Qt::Key_Down);
-    tour.take("25-stati-aree", *areas.view()->window());
-    areas.hidePopup();
-    tour.forms().unload(form);
-    Tour::settle();
-}
-
 } // namespace
 
 void walk(Tour& tour) {
-    for (const auto page :
-         {start, login, box, console, links, generalTables, locks, vatSections, dataSources, states, setup}) {
+    for (const auto page : {start, login, box, console, links, generalTables, locks, vatSections, dataSources,
+                            geography, paymentTerms, companyData, payroll, setup}) {
         page(tour);
     }
 }

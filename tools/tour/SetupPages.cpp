@@ -50,17 +50,17 @@ private:
 void setup(Tour& tour) {
     const char* const branch = "caricasedecentrale";
     tour.show(branch);
-    tour.take("26-sede-centrale", branch);
+    tour.take("50-sede-centrale", branch);
     Tour::press(tour.control(branch, "DataGrid1"), Qt::Key_Down);
-    tour.take("26-sede-centrale-scelta", branch);
+    tour.take("50-sede-centrale-scelta", branch);
     tour.forms().unload(branch);
     Tour::settle();
 
     const char* const server = "IndirizzoVaboSuServer";
     tour.show(server);
-    tour.take("27-indirizzo-server", server);
+    tour.take("51-indirizzo-server", server);
     {
-        const Boxes boxes(tour, "27-indirizzo-server");
+        const Boxes boxes(tour, "51-indirizzo-server");
         Tour::press(tour.control(server, "Command1"), Qt::Key_Space);
     }
     tour.forms().unload(server);

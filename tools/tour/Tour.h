@@ -39,8 +39,19 @@ void generalTables(Tour& tour);
 /// The two locks, opened from that console, on their way and after it.
 void locks(Tour& tour);
 
+/// The accounts of pay slips, opened from that console: of the first type and of another one, and a list of accounts.
+void payroll(Tour& tour);
+
 /// The VAT sections, without and with one picked.
 void vatSections(Tour& tour);
+/// The company's data, the towns among which its own is picked, and the address that it fills.
+void companyData(Tour& tour);
+
+/// The states and the municipalities, without and with one picked, and their lists.
+void geography(Tour& tour);
+
+/// The payment terms and their commencement rules, empty and with one picked, and in every language.
+void paymentTerms(Tour& tour);
 
 /// The headquarters, and the folder on the server with the boxes that ask for it.
 void setup(Tour& tour);

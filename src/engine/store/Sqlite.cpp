@@ -1,5 +1,8 @@
 #include "engine/store/Sqlite.h"
 
+#include "engine/store/Beside.h"
+#include "engine/store/Idler.h"
+#include "engine/store/Watched.h"
 #include "engine/values/Collation.h"
 
 #include <sqlite3.h>
@@ -95,13 +98,18 @@ void useWriteAheadLog(sqlite3* handle) {
 
 void configure(sqlite3* handle) {
     check(handle, sqlite3_extended_result_codes(handle, 1));
-    check(handle, sqlite3_busy_timeout(handle, static_cast<int>(kBusyTimeout.count())));
+    check(handle, sqlite3_busy_handler(handle, waitForWriter, nullptr));
     check(handle, sqlite3_create_collation_v2(handle, "TSQL", SQLITE_UTF8, nullptr, collate, nullptr));
     // A name in double quotes that isn't known must be refused, not read as a text.
     check(handle, sqlite3_db_config(handle, SQLITE_DBCONFIG_DQS_DML, 0, nullptr));
     check(handle, sqlite3_db_config(handle, SQLITE_DBCONFIG_DQS_DDL, 0, nullptr));
     useWriteAheadLog(handle);
     check(handle, sqlite3_exec(handle, "PRAGMA synchronous=FULL; PRAGMA foreign_keys=OFF", nullptr, nullptr, nullptr));
+}
+
+int stepped(sqlite3_stmt* statement) {
+    const Watched watched(sqlite3_db_handle(statement));
+    return sqlite3_step(statement);
 }
 
 } // namespace
@@ -134,6 +142,7 @@ Connection::~Connection() {
 }
 
 void Connection::run(const std::string& text) {
+    const Watched watched(handle_);
     check(handle_, sqlite3_exec(handle_, text.c_str(), nullptr, nullptr, nullptr));
 }
 
@@ -162,6 +171,7 @@ std::int64_t Connection::lastRow() const {
 }
 
 void Connection::begin() {
+    changedBefore_ = sqlite3_total_changes64(handle_);
     if (!begin_) {
         begin_ = std::make_unique<Statement>(*this, lock_ ? "BEGIN" : "BEGIN IMMEDIATE");
     }
@@ -181,7 +191,13 @@ void Connection::commit() {
     if (!commit_) {
         commit_ = std::make_unique<Statement>(*this, "COMMIT");
     }
-    commit_->run();
+    // What many rows leave to be written takes long, and SQLite tells nothing of its progress.
+    constexpr std::int64_t kMany = 1'000;
+    if (hasIdler() && sqlite3_total_changes64(handle_) - changedBefore_ >= kMany) {
+        runBeside([this] { commit_->run(); });
+    } else {
+        commit_->run();
+    }
 }
 
 void Connection::rollback() noexcept {
@@ -234,7 +250,7 @@ void Statement::bind(int place, std::string_view value) {
 }
 
 bool Statement::step() {
-    const int code = sqlite3_step(handle_);
+    const int code = stepped(handle_);
     if (code == SQLITE_ROW) {
         return true;
     }

@@ -57,6 +57,7 @@ public:
 private:
     sqlite3* handle_ = nullptr;
     std::unique_ptr<Statement> begin_, lock_, commit_; ///< prepared when first needed
+    std::int64_t changedBefore_ = 0;                   ///< rows, ahead of the transaction
 };
 
 class Statement {

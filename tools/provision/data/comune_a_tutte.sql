@@ -54,7 +54,9 @@ INSERT INTO [CondizioniPagamentoDecorrenza] ([Descrizione], [GiornoScadenza], [G
     (N'Fine mese escluso Agosto  Dicembre', 31, 0, 0, 0, 8, 12, 0),
     (N'Sc.il 10 del mese', 10, 0, 0, 0, 0, 0, 0),
     (N'Sc.il 10 - 25 del mese', 10, 25, 0, 0, 0, 0, 0),
-    (N'Sc.il 5 - 15 - 25 del mese escluso Agosto', 5, 15, 25, 0, 8, 0, 0)
+    (N'Sc.il 5 - 15 - 25 del mese escluso Agosto', 5, 15, 25, 0, 8, 0, 0),
+    (N'Sc.il 5 - 10 - 15 - 20 del mese', 5, 10, 15, 20, 0, 0, 0),
+    (N'Fine mese escluso Luglio  Agosto  Dicembre', 31, 0, 0, 0, 7, 8, 12)
 GO
 INSERT INTO [CondizioniPagamento] ([Descrizione], [NRrate], [IDDecorrenza], [Scadenza1], [Scadenza2], [Scadenza3], [Scadenza4], [Scadenza5], [Scadenza6], [IdTipoRimessa]) VALUES
     (N'Contanti a  Data fattura', 1, 1, 0, 0, 0, 0, 0, 0, 5),
@@ -66,6 +68,14 @@ INSERT INTO [CondizioniPagamento] ([Descrizione], [NRrate], [IDDecorrenza], [Sca
     (N'Ricevuta bancaria a 60 Sc.il 10 del mese', 1, 4, 60, 0, 0, 0, 0, 0, 3),
     (N'Ricevuta bancaria a 30-60 Sc.il 10 - 25 del mese', 2, 5, 30, 60, 0, 0, 0, 0, 3),
     (N'Assegno a 30-60-90-120-150-180 Data fattura', 6, 1, 30, 60, 90, 120, 150, 180, 4)
+GO
+-- One for each rule that the terms above don't use, and one with all instalments. A name ends at its fiftieth letter.
+INSERT INTO [CondizioniPagamento] ([Descrizione], [NRrate], [IDDecorrenza], [Scadenza1], [Scadenza2], [Scadenza3], [Scadenza4], [Scadenza5], [Scadenza6], [Scadenza7], [Scadenza8], [Scadenza9], [Scadenza10], [Scadenza11], [Scadenza12], [IdTipoRimessa]) VALUES
+    (N'Bonifico bancario a 90 Fine mese escluso Agosto  D', 1, 3, 90, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 2),
+    (N'Assegno a 15-45 Sc.il 5 - 15 - 25 del mese escluso', 2, 6, 15, 45, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 4),
+    (N'Contanti a 10-20-30-40 Sc.il 5 - 10 - 15 - 20 del ', 4, 7, 10, 20, 30, 40, 0, 0, 0, 0, 0, 0, 0, 0, 5),
+    (N'Ricevuta bancaria a 30-60-90-120-150 Fine mese esc', 5, 8, 30, 60, 90, 120, 150, 0, 0, 0, 0, 0, 0, 0, 3),
+    (N'Rimessa diretta a 30-60-90-120-150-180-210-240-270', 12, 1, 30, 60, 90, 120, 150, 180, 210, 240, 270, 300, 330, 360, 1)
 GO
 
 -- Options with fixed numbers, which the identity column assigns in this order.

@@ -1,4 +1,5 @@
--- Provincial capitals with their general postal code. Leading zeros are missing, as if imported as numbers.
+-- Provincial capitals with their general postal code, all in Italy, the first state. Leading zeros are missing, as if
+-- imported as numbers.
 
 INSERT INTO [Comuni] ([DES_COMUNE], [DES_PROVIN], [COD_CAP], [IdStato]) VALUES
     (N'Agrigento', N'AG', N'92100', 1),
@@ -112,4 +113,13 @@ INSERT INTO [Comuni] ([DES_COMUNE], [DES_PROVIN], [COD_CAP], [IdStato]) VALUES
     (N'Vibo Valentia', N'VV', N'89900', 1),
     (N'Vicenza', N'VI', N'36100', 1),
     (N'Viterbo', N'VT', N'1100', 1)
+GO
+
+-- One whose state is missing, and some abroad, without a province
+INSERT INTO [Comuni] ([DES_COMUNE], [DES_PROVIN], [COD_CAP], [IdStato]) VALUES
+    (N'Campione d''Italia', N'CO', N'22061', NULL)
+GO
+INSERT INTO [Comuni] ([DES_COMUNE], [COD_CAP], [IdStato]) SELECT N'Nairobi', N'100', [IdStato] FROM [stati] WHERE [Sigla] = 'KE'
+GO
+INSERT INTO [Comuni] ([DES_COMUNE], [COD_CAP], [IdStato]) SELECT N'Lugano', N'6900', [IdStato] FROM [stati] WHERE [Sigla] = 'CH'
 GO

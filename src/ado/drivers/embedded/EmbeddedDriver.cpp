@@ -3,6 +3,7 @@
 #include "ado/Drivers.h"
 #include "ado/PresentEvent.h"
 #include "ado/ServerErrors.h"
+#include "ado/WhileWaiting.h"
 #include "engine/run/InternalErrors.h"
 #include "engine/run/Session.h"
 
@@ -23,6 +24,7 @@ using SessionPtr = std::shared_ptr<engine::Session>;
 /// Converts the engine's errors into the data layer's.
 template<typename Work>
 decltype(auto) translated(Work&& work) {
+    refuseWhileWaiting();
     try {
         return work();
     } catch (const engine::Error& error) {

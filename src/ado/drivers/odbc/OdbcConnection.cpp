@@ -4,6 +4,8 @@
 #include "ado/Literals.h"
 #include "ado/Names.h"
 #include "ado/Text.h"
+#include "ado/WhileWaiting.h"
+#include "ado/drivers/odbc/Aside.h"
 #include "ado/drivers/odbc/OdbcDriverName.h"
 #include "ado/drivers/odbc/OdbcResult.h"
 #include "ado/drivers/odbc/OdbcSources.h"
@@ -78,10 +80,13 @@ void connect(const Handle& connection, const ConnectionString& text, const std::
     std::u16string wide = toUtf16(driverText(text, driver));
     QElapsedTimer waited;
     waited.start();
+    SQLRETURN code = SQL_ERROR;
+    aside([&] {
+        code = SQLDriverConnectW(connection.get(), nullptr, reinterpret_cast<SQLWCHAR*>(wide.data()),
+                                 static_cast<SQLSMALLINT>(wide.size()), nullptr, 0, nullptr, SQL_DRIVER_NOPROMPT);
+    });
     try {
-        check(SQLDriverConnectW(connection.get(), nullptr, reinterpret_cast<SQLWCHAR*>(wide.data()),
-                                static_cast<SQLSMALLINT>(wide.size()), nullptr, 0, nullptr, SQL_DRIVER_NOPROMPT),
-              connection, "SQLDriverConnect");
+        check(code, connection, "SQLDriverConnect");
     } catch (const Error& error) {
         if (!isOutOfReach(error)) {
             throw;
@@ -138,6 +143,7 @@ public:
     }
 
     std::unique_ptr<DriverResult> run(std::string_view text, int seconds) {
+        refuseWhileWaiting();
         return std::make_unique<OdbcResult>(std::shared_ptr<const Handle>(shared_from_this(), &handle_), place_, text,
                                             seconds);
     }

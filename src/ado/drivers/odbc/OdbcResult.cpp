@@ -1,12 +1,16 @@
 #include "ado/drivers/odbc/OdbcResult.h"
 
+#include "ado/WhileWaiting.h"
+#include "ado/drivers/odbc/Aside.h"
 #include "ado/drivers/odbc/SilentServers.h"
 
 #include <QString>
 
 #include <array>
 #include <charconv>
+#include <chrono>
 #include <cstdio>
+#include <utility>
 
 namespace ado::odbc {
 
@@ -63,8 +67,10 @@ OdbcResult::OdbcResult(std::shared_ptr<const Handle> connection, std::string ser
     }
     qCDebug(odbcLog).noquote() << QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
     std::u16string wide = toUtf16(text);
-    executed_ = SQLExecDirectW(statement_.get(), reinterpret_cast<SQLWCHAR*>(wide.data()),
-                               static_cast<SQLINTEGER>(wide.size()));
+    aside([&] {
+        executed_ = SQLExecDirectW(statement_.get(), reinterpret_cast<SQLWCHAR*>(wide.data()),
+                                   static_cast<SQLINTEGER>(wide.size()));
+    });
 }
 
 /// As `check`, but gives the error for a lost server a text of its own, for which drivers have no common one.
@@ -86,10 +92,18 @@ bool OdbcResult::answered(SQLRETURN code, const char* call) {
 }
 
 bool OdbcResult::nextResult() {
-    const SQLRETURN code = started_ ? SQLMoreResults(statement_.get()) : executed_;
+    refuseWhileWaiting();
+    SQLRETURN code = executed_;
     const bool first = !started_;
+    if (!first) {
+        aside([&] { code = SQLMoreResults(statement_.get()); });
+    }
     started_ = true;
     fields_.clear();
+    rows_.clear();
+    at_ = read_ = 0;
+    fetched_ = SQL_SUCCESS;
+    failure_ = nullptr;
     affected_ = -1;
     // For an UPDATE or DELETE that found no row SQLExecDirect returns "no data", which is a result here.
     if (!answered(code, first ? "SQLExecDirect" : "SQLMoreResults") && !first) {
@@ -105,7 +119,6 @@ void OdbcResult::describe() {
     for (SQLSMALLINT number = 1; number <= columns; ++number) {
         fields_.push_back(describeField(static_cast<SQLUSMALLINT>(number)));
     }
-    cells_.resize(fields_.size());
     if (columns > 0) {
         return;
     }
@@ -136,17 +149,63 @@ FieldDescription OdbcResult::describeField(SQLUSMALLINT number) {
 }
 
 bool OdbcResult::nextRow() {
-    if (!answered(SQLFetch(statement_.get()), "SQLFetch")) {
+    refuseWhileWaiting();
+    if (++at_ < read_) {
+        return true;
+    }
+    if (SQL_SUCCEEDED(fetched_) && !failure_) {
+        at_ = read_ = 0;
+        readAhead();
+    }
+    if (at_ < read_) {
+        return true;
+    }
+    if (failure_) {
+        std::rethrow_exception(std::exchange(failure_, nullptr));
+    }
+    return answered(std::exchange(fetched_, SQL_SUCCESS), "SQLFetch");
+}
+
+/// One row; or, where the thread has something to do while it waits, several of them: to wait for each on its own would
+/// take longer than to read it.
+void OdbcResult::readAhead() {
+    using Clock = std::chrono::steady_clock;
+    static constexpr std::size_t kMost = 100;
+    static constexpr std::chrono::milliseconds kMoment{20};
+    if (!isWaitingUsed()) {
+        readRow();
+        return;
+    }
+    aside([&] {
+        const auto end = Clock::now() + kMoment;
+        while (readRow() && read_ < kMost && Clock::now() < end) {
+        }
+    });
+    whileWaiting();
+}
+
+/// False where there is no further row for now: `fetched_` or `failure_` tells why.
+bool OdbcResult::readRow() {
+    fetched_ = SQLFetch(statement_.get());
+    if (!SQL_SUCCEEDED(fetched_)) {
         return false;
     }
-    for (std::size_t number = 1; number <= fields_.size(); ++number) {
-        read(static_cast<SQLUSMALLINT>(number));
+    if (read_ == rows_.size()) {
+        rows_.emplace_back(fields_.size());
     }
+    try {
+        for (std::size_t number = 1; number <= fields_.size(); ++number) {
+            read(static_cast<SQLUSMALLINT>(number), rows_[read_][number - 1]);
+        }
+    } catch (...) {
+        failure_ = std::current_exception();
+        return false;
+    }
+    ++read_;
     return true;
 }
 
-void OdbcResult::read(SQLUSMALLINT number) {
-    Cell& cell = cells_[number - 1U];
+void OdbcResult::read(SQLUSMALLINT number, Cell& cell) {
     SQLLEN length = 0;
     const auto get = [&](SQLSMALLINT type, SQLPOINTER target, SQLLEN room) {
         check(SQLGetData(statement_.get(), number, type, target, room, &length), statement_, "SQLGetData");

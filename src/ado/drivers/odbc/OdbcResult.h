@@ -3,6 +3,7 @@
 #include "ado/Driver.h"
 #include "ado/drivers/odbc/OdbcHandles.h"
 
+#include <exception>
 #include <memory>
 #include <string>
 #include <vector>
@@ -21,12 +22,11 @@ public:
     std::int64_t affected() const override { return affected_; }
 
     bool nextRow() override;
-    bool isNull(int field) const override { return cells_[static_cast<std::size_t>(field)].null; }
-    std::int64_t integer(int field) const override { return cells_[static_cast<std::size_t>(field)].integer; }
-    double real(int field) const override { return cells_[static_cast<std::size_t>(field)].real; }
+    bool isNull(int field) const override { return cell(field).null; }
+    std::int64_t integer(int field) const override { return cell(field).integer; }
+    double real(int field) const override { return cell(field).real; }
     std::string_view text(int field) const override {
-        const Cell& cell = cells_[static_cast<std::size_t>(field)];
-        return cell.null ? std::string_view() : cell.text;
+        return cell(field).null ? std::string_view() : std::string_view(cell(field).text);
     }
 
 private:
@@ -40,7 +40,10 @@ private:
     bool answered(SQLRETURN code, const char* call);
     void describe();
     FieldDescription describeField(SQLUSMALLINT number);
-    void read(SQLUSMALLINT number);
+    const Cell& cell(int field) const { return rows_[at_][static_cast<std::size_t>(field)]; }
+    void readAhead();
+    bool readRow();
+    void read(SQLUSMALLINT number, Cell& cell);
     void readText(SQLUSMALLINT number, Cell& cell);
 
     std::shared_ptr<const Handle> connection_; // declared before the statement, so that it is destroyed later
@@ -49,7 +52,10 @@ private:
     SQLRETURN executed_ = SQL_ERROR;
     bool started_ = false;
     std::vector<FieldDescription> fields_;
-    std::vector<Cell> cells_;
+    std::vector<std::vector<Cell>> rows_; ///< read ahead
+    std::size_t at_ = 0, read_ = 0;       ///< the present one of how many
+    SQLRETURN fetched_ = SQL_SUCCESS;
+    std::exception_ptr failure_;
     std::vector<SQLWCHAR> buffer_;
     std::int64_t affected_ = -1;
 };

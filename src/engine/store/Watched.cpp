@@ -1,0 +1,45 @@
+#include "engine/store/Watched.h"
+
+#include "engine/store/Idler.h"
+
+#include <sqlite3.h>
+
+#include <algorithm>
+
+namespace engine::sqlite {
+
+namespace {
+
+constexpr int kSteps = 10'000; // a few milliseconds
+
+int keepOn(void* /*unused*/) {
+    idle();
+    return 0;
+}
+
+} // namespace
+
+Watched::Watched(sqlite3* handle) : handle_(hasIdler() ? handle : nullptr) {
+    if (handle_ != nullptr) {
+        sqlite3_progress_handler(handle_, kSteps, keepOn, nullptr);
+    }
+}
+
+Watched::~Watched() {
+    if (handle_ != nullptr) {
+        sqlite3_progress_handler(handle_, 0, nullptr, nullptr);
+    }
+}
+
+int waitForWriter(void* /*unused*/, int times) {
+    constexpr int kLongestPause = 25; // milliseconds; the first ones are shorter
+    constexpr int kMostPauses = 10'000 / kLongestPause;
+    if (times >= kMostPauses) {
+        return 0;
+    }
+    sqlite3_sleep(std::min(times + 1, kLongestPause));
+    idle();
+    return 1;
+}
+
+} // namespace engine::sqlite

@@ -1,0 +1,139 @@
+// The combo's change and double click, and a text that the form sets in the Click of a pick.
+
+#include "DataFixture.h"
+#include "RecordedForm.h"
+#include "controls/DataCombo.h"
+#include "support/Gui.h"
+
+#include <QAbstractItemView>
+#include <QCompleter>
+#include <QLineEdit>
+#include <QTest>
+
+#include <gmock/gmock.h>
+
+namespace {
+
+using support::Gui;
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+class DataComboEvents : public DataFixture {
+protected:
+    DataComboEvents() {
+        gui.forms().add("F", [this] {
+            auto form = std::make_unique<RecordedForm>("F", log);
+            auto* list = new controls::DataCombo(form.get());
+            auto* field = new QLineEdit(form.get());
+            list->setObjectName("combo");
+            field->setObjectName("field");
+            list->ListField = "NOME";
+            list->BoundColumn = "id";
+            list->setRowSource(&source);
+            form->on(list, &controls::DataCombo::Change,
+                     [this] { events.push_back("change to " + combo().Text() + "=" + combo().BoundText()); });
+            form->on(list, &controls::DataCombo::DblClick, [this] { events.emplace_back("double click"); });
+            form->on(list, &controls::DataCombo::Click, [this](int area) {
+                if (area == controls::DataCombo::List) {
+                    events.emplace_back("pick");
+                    if (!afterwards.empty()) {
+                        combo().setText(afterwards);
+                    }
+                }
+            });
+            form->chain({{list, controls::EndOfEntry::Enter, [this] { events.emplace_back("enter"); }}});
+            return form;
+        });
+        source.Refresh();
+        gui.forms().show("F");
+        gui.waitForFront("F");
+        combo().ReFill();
+        combo().setFocus();
+    }
+    controls::DataCombo& combo() { return gui.find<controls::DataCombo>("F", "combo"); }
+    QAbstractItemView& search(const std::string& letters) {
+        gui.type(letters);
+        QAbstractItemView* found = combo().completer()->popup();
+        Gui::waitFor("the search", [&] { return found->isVisible(); });
+        return *found;
+    }
+
+    std::vector<std::string> events, log;
+    std::string afterwards; ///< set by the form in the Click of a pick
+    Gui gui;
+};
+
+TEST_F(DataComboEvents, ATextOfTheFormIsAChangeWhereItIsAnother) {
+    combo().setText("Mela");
+    combo().setText("Mela");
+    combo().setBoundText("2");
+    combo().setText("Seleziona");
+    combo().setBoundText("99");
+    EXPECT_THAT(events, ElementsAre("change to Mela=1", "change to Pera=2", "change to Seleziona=", "change to =4"))
+        << "an empty text is that of the row without one";
+}
+
+TEST_F(DataComboEvents, ReadingTheListAgainIsNoChange) {
+    combo().setText("Mela");
+    events.clear();
+    source.Refresh();
+    combo().ReFill();
+    EXPECT_THAT(events, IsEmpty());
+    EXPECT_EQ(combo().Text(), "Mela");
+}
+
+TEST_F(DataComboEvents, APickIsAChangeAheadOfItsClick) {
+    gui.pick("F", "combo", "Albicocca");
+    EXPECT_THAT(events, ElementsAre("change to Albicocca=3", "pick"));
+}
+
+TEST_F(DataComboEvents, AnotherRowOfTheSameTextIsAPickWithoutAChange) {
+    combo().setText("Pera");
+    events.clear();
+    gui.pick("F", "combo", "Pera");
+    EXPECT_THAT(events, ElementsAre("pick"));
+}
+
+TEST_F(DataComboEvents, TypingIsAChangeOnlyWhereTypedTextCounts) {
+    search("me");
+    combo().hide();
+    combo().show();
+    EXPECT_THAT(events, IsEmpty());
+    combo().takeFreeText();
+    combo().setFocus();
+    combo().lineEdit()->selectAll();
+    gui.type("Uv");
+    EXPECT_THAT(events, ElementsAre("change to U=", "change to Uv="));
+}
+
+TEST_F(DataComboEvents, ADoubleClickOnTheTextIsTold) {
+    QTest::mouseDClick(combo().lineEdit(), Qt::LeftButton);
+    EXPECT_THAT(events, ElementsAre("double click"));
+}
+
+TEST_F(DataComboEvents, CtrlEnterIsTheDoubleClickOfAKeyboardAndNoEnter) {
+    gui.press(Qt::Key_Return, Qt::ControlModifier);
+    gui.press(Qt::Key_Enter, Qt::ControlModifier);
+    EXPECT_THAT(events, ElementsAre("double click", "double click"));
+    gui.press(Qt::Key_Return);
+    EXPECT_EQ(events.back(), "enter");
+}
+
+TEST_F(DataComboEvents, WhatTheFormSetsInTheClickOfAPickStays) {
+    afterwards = "Seleziona";
+    gui.pick("F", "combo", "Mela");
+    Gui::handleEvents();
+    EXPECT_EQ(combo().Text(), "Seleziona");
+    EXPECT_EQ(combo().BoundText(), "");
+}
+
+TEST_F(DataComboEvents, WhatTheFormSetsInTheClickOfAPickInTheSearchStays) {
+    afterwards = "Seleziona";
+    QTest::keyClick(&search("alb"), Qt::Key_Return);
+    Gui::handleEvents();
+    EXPECT_THAT(events, ElementsAre("change to Albicocca=3", "pick", "change to Seleziona="));
+    EXPECT_EQ(combo().Text(), "Seleziona");
+    EXPECT_EQ(combo().BoundText(), "");
+}
+
+} // namespace

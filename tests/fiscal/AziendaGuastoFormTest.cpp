@@ -1,0 +1,116 @@
+// The form of the company's data while statements are refused, and while another user has the row.
+
+#include "fiscal/AziendaForm.h"
+#include "kit/ApriScrivibile.h"
+#include "locks/GuastoAPosto.h"
+#include "support/HeardBoxes.h"
+
+namespace vabo {
+namespace {
+
+TEST_F(AziendaForm, AtWhicheverStatementTheLoadFailsTheFormStandsAndNothingIsTold) {
+    int tutte = 0;
+    {
+        const GuastoAPosto nessuno;
+        apri();
+        tutte = nessuno.inviate();
+        chiudi();
+    }
+    ASSERT_GE(tutte, 7);
+    for (const GuastoAPosto::Durata durata : {GuastoAPosto::Durata::Una, GuastoAPosto::Durata::DaQui}) {
+        for (int posto = 1; posto <= tutte; ++posto) {
+            SCOPED_TRACE(posto);
+            const GuastoAPosto guasto(posto, durata);
+            apri();
+            EXPECT_TRUE(gui.isVisible("frmDatiAzienda"));
+            EXPECT_EQ(testo("nomesocietà"), posto == 1 ? "" : "Associazione Aurora");
+            EXPECT_EQ(testo("Banca"), posto == 1 ? "" : "Banca del Mattino");
+            chiudi();
+        }
+    }
+}
+
+TEST_F(AziendaForm, AtWhicheverStatementTheSaveFailsItIsToldTheFormStaysAndTheNextSaveStores) {
+    int tutte = 0;
+    apri();
+    {
+        const GuastoAPosto nessuno;
+        salva();
+        tutte = nessuno.inviate();
+    }
+    ASSERT_GE(tutte, 2);
+    const Riga prima = tutto();
+    for (int posto = 1; posto <= tutte; ++posto) {
+        SCOPED_TRACE(posto);
+        apri();
+        metti("Banca", "Altra");
+        script.expectMessage(GuastoAPosto::kRifiuto);
+        {
+            const GuastoAPosto guasto(posto);
+            salva();
+        }
+        EXPECT_TRUE(script.allShown());
+        EXPECT_TRUE(aperta());
+        EXPECT_EQ(testo("Banca"), "Altra");
+        EXPECT_EQ(tutto(), prima);
+        salva();
+        EXPECT_FALSE(aperta());
+        EXPECT_EQ(colonna("Banca"), "Altra");
+        esegui("update DatiAzienda set Banca = 'Banca del Mattino'");
+    }
+}
+
+TEST_F(AziendaForm, AtWhicheverStatementTheTownFailsItIsToldAndMayBeLeftAgain) {
+    apri();
+    for (int posto = 1; posto <= 3; ++posto) { // the list on entry, the state, the list on leaving
+        SCOPED_TRACE(posto);
+        vaiA("nomesocietà");
+        metti("statooprovincia", "");
+        const support::HeardBoxes scatole;
+        {
+            const GuastoAPosto guasto(posto);
+            vaiA("DataCombo1");
+            vaiA("cap");
+        }
+        EXPECT_EQ(scatole.texts.front(), GuastoAPosto::kRifiuto);
+        EXPECT_EQ(fuoco(), "cap");
+        vaiA("DataCombo1");
+        vaiA("cap");
+        EXPECT_EQ(testi({"DataCombo1", "cap", "statooprovincia"}), (Riga{"Torino", "10121", "TO"}));
+        EXPECT_EQ(std::to_string(pagina.combo("DataCombo1").count()), valore("select count(*) from comuni"));
+    }
+}
+
+TEST_F(AziendaForm, ARowThatAnotherUserHoldsIsToldAndLaterStored) {
+    const Riga prima = tutto();
+    apri();
+    metti("Banca", "Altra");
+    ado::Connection altro;
+    altro.Open(StringaAzienda);
+    ado::Recordset presa;
+    ApriScrivibile(presa, "Select * from DatiAzienda", altro);
+    presa["Nome"] = "Presa";
+    script.expectMessage("Lock request time out period exceeded.");
+    salva();
+    EXPECT_TRUE(script.allShown());
+    EXPECT_TRUE(aperta());
+    EXPECT_EQ(tutto(), prima);
+    presa.CancelUpdate();
+    presa.Close();
+    salva();
+    EXPECT_EQ(colonna("Banca"), "Altra");
+}
+
+TEST_F(AziendaForm, ATableThatIsGoneIsToldAndTheFormStays) {
+    apri();
+    esegui("drop table DatiAzienda");
+    script.expectMessage("Invalid object name 'DatiAzienda'.");
+    salva();
+    EXPECT_TRUE(script.allShown());
+    EXPECT_TRUE(aperta());
+    premi("Command4");
+    EXPECT_EQ(gui.visibleForms(), "Avvio_Azienda");
+}
+
+} // namespace
+} // namespace vabo

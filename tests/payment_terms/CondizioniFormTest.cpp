@@ -1,0 +1,286 @@
+// The form of the payment terms: what it shows, its lists, the row that is picked.
+
+#include "CondizioniForm.h"
+
+#include "session/LinguaClient.h"
+#include "session/TreatForms.h"
+
+#include <QLineEdit>
+
+namespace vabo {
+namespace {
+
+constexpr const char* kColonna =
+    "alter TABLE [condizionipagamento] add    RataAnticipo decimal(18,2) not NULL default 0";
+constexpr const char* kRegole = "SELECT * from  CondizioniPagamentoDecorrenza order by Descrizione";
+constexpr const char* kTipi = "SELECT * from  CondizioniPagamentoTipoIncasso order by descrizione";
+
+TEST_F(FormCondizioni, ItIsOpenedByItsNameAndClosesToTheFormBelow) {
+    gui.forms().show("Avvio_Azienda");
+    PilaForm = {"Avvio_Azienda"};
+    CimaForm = 0;
+    EXPECT_TRUE(ApriForm(kCondizioni, true));
+    EXPECT_TRUE(gui.isVisible(kCondizioni));
+    EXPECT_TRUE(FormInCima(kCondizioni));
+    gui.click(kCondizioni, "Chiudi");
+    EXPECT_EQ(gui.visibleForms(), "Avvio_Azienda");
+    EXPECT_EQ(PilaForm, Riga{"Avvio_Azienda"});
+}
+
+TEST_F(FormCondizioni, TheCloseOfTheWindowLeadsToTheFormBelowToo) {
+    apri();
+    gui.form(kCondizioni).close();
+    support::Gui::handleEvents();
+    EXPECT_EQ(gui.visibleForms(), "Avvio_Azienda");
+}
+
+TEST_F(FormCondizioni, AddsItsColumnAndReadsItsLists) {
+    LeggiLinguaClient(""); // the database of the language is there
+    const support::StatementRecorder recorder;
+    apri();
+    const auto& elenco = pagina.control<controls::DataControl>("CPAdo");
+    EXPECT_TRUE(elenco.RecordSource.starts_with("SELECT CondizioniPagamento.IDPagamento, Condizioni"));
+    EXPECT_TRUE(recorder.sentInOrder(
+        {kColonna, "select * from LinguaClient where id = 1", elenco.RecordSource, kRegole, kTipi}));
+    for (const std::string& testo :
+         {std::string(kColonna), elenco.RecordSource, std::string(kRegole), std::string(kTipi)}) {
+        EXPECT_EQ(recorder.count(testo), 1) << testo;
+    }
+    for (const char* dati : {"CPAdo", "Decorrenza", "TipoIncasso"}) {
+        EXPECT_EQ(pagina.control<controls::DataControl>(dati).ConnectionString, StringaAzienda);
+    }
+}
+
+TEST_F(FormCondizioni, ComingBackToItReadsTheListsAndNotTheColumn) {
+    apri();
+    scegli(3);
+    pagina.combo("IDDecorrenza").DblClick();
+    support::Gui::handleEvents();
+    esegui("update CondizioniPagamento set Descrizione = 'Aaa' where IDPagamento = 4");
+    esegui("insert into CondizioniPagamentoDecorrenza (Descrizione) values ('Nuova')");
+    const support::StatementRecorder recorder;
+    gui.click(kDecorrenze, "Chiudi");
+    EXPECT_EQ(gui.visibleForms(), kCondizioni);
+    EXPECT_EQ(recorder.count(kColonna), 0);
+    EXPECT_EQ(recorder.count(kRegole), 1);
+    EXPECT_EQ(recorder.count(kTipi), 1);
+    EXPECT_EQ(pagina.cell("DataGrid1", 0, 1), "Aaa");
+    EXPECT_GE(pagina.combo("IDDecorrenza").findText("Nuova"), 0);
+    EXPECT_EQ(campi()[0], "Fine mese") << "the fields stay";
+    EXPECT_EQ(griglia().Columns(0).Width(), 0);
+}
+
+TEST_F(FormCondizioni, StartsEmptyWithTheFocusOnTheRule) {
+    apri();
+    EXPECT_EQ(campi(), kVuota);
+    EXPECT_EQ(testo("IDPagamento"), "");
+    EXPECT_EQ(fuoco(), "IDDecorrenza");
+    EXPECT_EQ(pagina.combo("IDDecorrenza").count(), 8);
+    EXPECT_EQ(pagina.combo("IdTipoRimessa").count(), 5);
+    EXPECT_EQ(pagina.combo("IdTipoRimessa").itemText(0), "Assegno") << "in the order of the names";
+    EXPECT_EQ(gui.mnemonics(kCondizioni), "C");
+}
+
+/// What a column of the grid has.
+struct Colonna {
+    int posto;
+    const char* titolo;
+    int twips; ///< 0 where it is hidden
+};
+
+TEST_F(FormCondizioni, LaysItsGridAgainAfterEachReading) {
+    const Colonna colonne[] = {{0, "IDPagamento", 0},  {1, "Descrizione", 5000}, {2, "NRrate", 1000},
+                               {3, "IDDecorrenza", 0}, {4, "Scadenze", 4000},    {5, "RataAnticipo", 0},
+                               {6, "Scadenza1", 0},    {17, "Scadenza12", 0},    {18, "Tipo Pagamento", 0},
+                               {19, "Descrizione", 0}};
+    const auto verifica = [&] {
+        ASSERT_EQ(griglia().ColumnCount(), 20);
+        for (int i = 0; i < 20; ++i) {
+            EXPECT_TRUE(griglia().Columns(i).Locked()) << i;
+            EXPECT_EQ(griglia().Columns(i).Visible(), i == 1 || i == 2 || i == 4) << i;
+        }
+        for (const Colonna& colonna : colonne) {
+            EXPECT_EQ(griglia().Columns(colonna.posto).Caption(), colonna.titolo);
+            EXPECT_EQ(griglia().Columns(colonna.posto).Width(), colonna.twips) << colonna.posto;
+        }
+    };
+    apri();
+    verifica();
+    EXPECT_EQ(pagina.cell("DataGrid1", rigaDi(3), 4), "Fine mese") << "the rule, under the heading of the days";
+    scegli(3);
+    vaiA("Descrizione");
+    invio(); // behind a save
+    verifica();
+}
+
+TEST_F(FormCondizioni, APickedRowIsShownInTheFields) {
+    apri();
+    for (const bool conIlMouse : {false, true}) {
+        conIlMouse ? clicca(3) : scegli(3);
+        EXPECT_EQ(campi(), (Riga{"Fine mese", "0", "|30|60|90", "Rimessa diretta", "3",
+                                 "Rimessa diretta a 30-60-90 Fine mese"}));
+        EXPECT_EQ(testo("IDPagamento"), "N. 3");
+        EXPECT_EQ(fuoco(), "IDDecorrenza");
+        conIlMouse ? clicca(14) : scegli(14);
+        EXPECT_EQ(campi(), (Riga{"Data fattura", "0", "|30|60|90|120|150|180|210|240|270|300|330|360",
+                                 "Rimessa diretta", "12", "Rimessa diretta a 30-60-90-120-150-180-210-240-270"}));
+    }
+    scegli(9);
+    EXPECT_EQ(testo("RataAnticipo"), "10,5");
+    vaiA("DataGrid1");
+    gui.press(Qt::Key_Down);
+    EXPECT_EQ(testo("IDPagamento"), "N. 4") << "an arrow picks the next one";
+    EXPECT_EQ(fuoco(), "IDDecorrenza");
+}
+
+TEST_F(FormCondizioni, AfterAPickEveryRuleAndKindCanBeChosen) {
+    apri();
+    scegli(3);
+    EXPECT_EQ(pagina.combo("IDDecorrenza").count(), 8);
+    EXPECT_EQ(pagina.combo("IdTipoRimessa").count(), 5);
+    pagina.pick("IdTipoRimessa", "Contanti");
+    vaiA("Descrizione");
+    invio();
+    EXPECT_EQ(condizione("IDPagamento = 3")[5], "5");
+}
+
+TEST_F(FormCondizioni, AStoredZeroIsAnEmptyFieldAndEndsTheList) {
+    esegui("update CondizioniPagamento set Scadenza2 = 0, Scadenza4 = 120, NRrate = 7 where IDPagamento = 3");
+    apri();
+    scegli(3);
+    EXPECT_EQ(scadenze(), "|30|||||||||||");
+    EXPECT_EQ(testo("NRrate"), "7") << "as it is stored";
+}
+
+TEST_F(FormCondizioni, ARuleOrAKindThatIsGoneLeavesItsComboAsItWas) {
+    apri();
+    scegli(14);
+    esegui("delete from CondizioniPagamentoDecorrenza where IDDecorrenza = 2");
+    pagina.control<controls::DataControl>("Decorrenza").Refresh();
+    scegli(3);
+    EXPECT_EQ(campi()[0], "Data fattura");
+    EXPECT_EQ(testo("IDPagamento"), "N. 3");
+    vaiA("Descrizione");
+    invio();
+    EXPECT_EQ(condizione("IDPagamento = 3")[2], "2") << "what is stored is the key of the row";
+    scegli(14);
+    esegui("delete from CondizioniPagamentoTipoIncasso where IdTipoRimessa = 4");
+    pagina.control<controls::DataControl>("TipoIncasso").Refresh();
+    scegli(9);
+    EXPECT_EQ(tipo(), "Rimessa diretta");
+    EXPECT_EQ(pagina.combo("IdTipoRimessa").count(), 4) << "the list is whole";
+    vaiA("Descrizione");
+    invio();
+    EXPECT_EQ(condizione("IDPagamento = 9")[5], "4");
+}
+
+/// The table again, with every column nullable, and one term that is null in the column.
+void conNullo(const std::function<void(const std::string&)>& esegui, const std::string& colonna) {
+    std::string colonne;
+    for (int i = 1; i <= 12; ++i) {
+        colonne += ", Scadenza" + std::to_string(i) + " int null";
+    }
+    esegui("drop table CondizioniPagamento");
+    esegui("create table CondizioniPagamento (IDPagamento int null, Descrizione nvarchar(50) null, NRrate int null, "
+           "IDDecorrenza int null, RataAnticipo decimal(18,2) null, IdTipoRimessa int null" +
+           colonne + ")");
+    for (const char* chiave : {"1", "2"}) {
+        const std::string giorni = std::string(chiave) == "1" ? "10" : "20";
+        std::string valori;
+        for (int i = 1; i <= 12; ++i) {
+            valori += ", " + giorni;
+        }
+        esegui(std::string("insert into CondizioniPagamento values (") + chiave + ", 'Nome " + chiave + "', " + chiave +
+               ", " + chiave + ", " + chiave + ", " + chiave + valori + ")");
+    }
+    esegui("update CondizioniPagamento set " + colonna + " = null where IDPagamento = 2");
+}
+
+TEST_F(FormCondizioni, ANullAheadOfTheAmountIsToldAndTheTermShownStays) {
+    for (const char* colonna : {"IDPagamento", "Descrizione", "NRrate"}) {
+        SCOPED_TRACE(colonna);
+        conNullo([this](const std::string& sql) { esegui(sql); }, colonna);
+        apri();
+        scegli(1);
+        const Riga prima = campi();
+        EXPECT_EQ(prima[5], "Nome 1");
+        vaiA("DataGrid1");
+        script.expectMessage("Invalid use of Null");
+        // By its place, since it may have no key.
+        griglia().selectRow(griglia().currentIndex().row() == 0 ? 1 : 0);
+        gui.press(Qt::Key_Space);
+        EXPECT_TRUE(script.allShown());
+        EXPECT_EQ(campi(), prima);
+        EXPECT_EQ(testo("IDPagamento"), "N. 1");
+        EXPECT_EQ(fuoco(), "DataGrid1");
+        gui.click(kCondizioni, "Chiudi");
+    }
+}
+
+TEST_F(FormCondizioni, ANullBehindItLeavesItsFieldAsItWas) {
+    for (const std::string colonna : {"RataAnticipo", "Scadenza1", "Scadenza7", "Scadenza12"}) {
+        SCOPED_TRACE(colonna);
+        conNullo([this](const std::string& sql) { esegui(sql); }, colonna);
+        apri();
+        scegli(1);
+        scegli(2);
+        for (int i = 1; i <= 12; ++i) {
+            EXPECT_EQ(testo(scadenza(i)), colonna == scadenza(i) ? "10" : "20") << i;
+        }
+        EXPECT_EQ(testo("RataAnticipo"), colonna == "RataAnticipo" ? "1" : "2");
+        EXPECT_EQ(tipo(), "Bonifico bancario");
+        gui.click(kCondizioni, "Chiudi");
+    }
+}
+
+TEST_F(FormCondizioni, ListsThatCannotBeReadAreSkippedAtTheOpening) {
+    esegui("drop table CondizioniPagamento");
+    apri();
+    EXPECT_EQ(gui.visibleForms(), kCondizioni);
+    EXPECT_EQ(righe(), 0);
+    EXPECT_EQ(pagina.combo("IDDecorrenza").count(), 8);
+    EXPECT_EQ(pagina.combo("IdTipoRimessa").count(), 5);
+    gui.click(kCondizioni, "Chiudi");
+    esegui("drop table CondizioniPagamentoDecorrenza");
+    apri();
+    EXPECT_EQ(pagina.combo("IDDecorrenza").count(), 0);
+    EXPECT_EQ(pagina.combo("IdTipoRimessa").count(), 5);
+    gui.click(kCondizioni, "Chiudi");
+    esegui("drop table CondizioniPagamentoTipoIncasso");
+    apri();
+    EXPECT_EQ(pagina.combo("IdTipoRimessa").count(), 0);
+    EXPECT_EQ(fuoco(), "IDDecorrenza");
+}
+
+TEST_F(FormCondizioni, ANullNameInAListIsSkippedForTheKindAndToldForTheRule) {
+    esegui("update CondizioniPagamentoTipoIncasso set Descrizione = null where IdTipoRimessa = 1");
+    apri();
+    scegli(9);
+    scegli(3);
+    EXPECT_EQ(tipo(), "Assegno");
+    EXPECT_EQ(pagina.combo("IdTipoRimessa").count(), 5) << "the list is whole again";
+    esegui("update CondizioniPagamentoDecorrenza set Descrizione = null where IDDecorrenza = 2");
+    pagina.control<controls::DataControl>("Decorrenza").Refresh();
+    scegli(9);
+    script.expectMessage("Invalid use of Null");
+    scegli(3);
+    EXPECT_TRUE(script.allShown());
+}
+
+TEST_F(FormCondizioni, AnEmptyTableHasNothingToPick) {
+    esegui("delete from CondizioniPagamento");
+    apri();
+    vaiA("DataGrid1");
+    gui.press(Qt::Key_Space);
+    gui.press(Qt::Key_Down);
+    QTest::mouseClick(griglia().viewport(), Qt::LeftButton);
+    EXPECT_EQ(campi(), kVuota);
+}
+
+TEST_F(FormCondizioni, ItFitsANarrowScreen) {
+    apri();
+    EXPECT_LE(gui.form(kCondizioni).minimumSizeHint().width(), 960);
+}
+
+} // namespace
+} // namespace vabo

@@ -1,24 +1,20 @@
 #include "controls/QtDialogs.h"
 
+#include "controls/Captions.h"
+#include "controls/FolderBrowser.h"
 #include "platform/Workstation.h"
 
 #include <QApplication>
 #include <QDialogButtonBox>
-#include <QFileDialog>
 #include <QGridLayout>
 #include <QInputDialog>
 #include <QMessageBox>
 #include <QPushButton>
-#include <QUrl>
-
-#include <optional>
 
 namespace controls {
 
 namespace {
 
-const QString kOk = QStringLiteral("OK");
-const QString kAnnulla = QStringLiteral("Annulla");
 const QString kSi = QStringLiteral("Sì");
 const QString kNo = QStringLiteral("No");
 
@@ -74,43 +70,6 @@ bool ask(const std::string& text, QMessageBox::Icon icon, const QStringList& cap
     return box.clickedButton() == buttons.first();
 }
 
-/// The folders of drive C: whoever leaves it is back in its root. A folder elsewhere has no path that the programs of
-/// the workstation could read. Drawn by the toolkit, since a desktop's own browser can't be kept on the drive.
-class FolderBrowser : public QFileDialog {
-public:
-    explicit FolderBrowser(const QString& title) : QFileDialog(QApplication::activeWindow(), title) {
-        setOption(DontUseNativeDialog);
-        setOption(ShowDirsOnly);
-        setFileMode(Directory);
-        setViewMode(List);
-        setLabelText(Accept, kOk);
-        setLabelText(Reject, kAnnulla);
-        setSidebarUrls({QUrl::fromLocalFile(root())});
-        setDirectory(root());
-        connect(this, &QFileDialog::directoryEntered, this, [this](const QString& place) {
-            if (!pathOf(place)) {
-                setDirectory(root());
-            }
-        });
-    }
-
-    std::string chosen() const { return pathOf(selectedFiles().value(0)).value_or(""); }
-
-    void accept() override {
-        if (pathOf(selectedFiles().value(0))) {
-            QFileDialog::accept();
-        } else {
-            setDirectory(root());
-        }
-    }
-
-private:
-    static QString root() { return QString::fromStdString(platform::workstation().driveC.root().string()); }
-    static std::optional<std::string> pathOf(const QString& place) {
-        return platform::workstation().driveC.pathOf(place.toStdString());
-    }
-};
-
 } // namespace
 
 void QtDialogs::message(const std::string& text, platform::Icon icon) {
@@ -136,7 +95,7 @@ std::string QtDialogs::input(const std::string& prompt, const std::string& title
 }
 
 std::string QtDialogs::folder(const std::string& title) {
-    FolderBrowser box(titleOr(title));
+    FolderBrowser box(QApplication::activeWindow(), titleOr(title));
     return box.exec() == QDialog::Accepted ? box.chosen() : std::string();
 }
 

@@ -2,7 +2,7 @@
 
 #include <QApplication>
 #include <QDialog>
-#include <QLineEdit>
+#include <QTreeWidget>
 
 namespace tour {
 
@@ -31,9 +31,9 @@ private:
         static constexpr const char* kSuffixes[] = {"-avviso", "-cartella", "-conferma"};
         Tour::settle();
         tour_.take(name_ + kSuffixes[shown_++ % std::size(kSuffixes)], *box);
-        if (auto* path = box->findChild<QLineEdit*>()) {
-            path->setText(QStringLiteral("vabo"));
-            Tour::press(*path, Qt::Key_Return);
+        if (auto* folders = box->findChild<QTreeWidget*>()) {
+            Tour::press(*folders, Qt::Key_Down);
+            box->accept();
         } else {
             box->reject();
         }

@@ -4,6 +4,7 @@
 #include "session/TreatForms.h"
 
 #include <QLabel>
+#include <QScreen>
 
 namespace vabo {
 namespace {
@@ -95,6 +96,26 @@ TEST_F(CaricaSedeForm, TheGridIsLockedAndHidesItsKeys) {
         }
     }
     EXPECT_EQ(griglia.Columns(6).Caption(), "Stato");
+}
+
+TEST_F(CaricaSedeForm, TakesTheScreenAndItsColumnsTheWholeWidth) {
+    apri();
+    const controls::Form& form = gui.form(kForm);
+    EXPECT_GE(form.height(), form.screen()->availableSize().height() * 9 / 10);
+    const controls::DataGrid& griglia = pagina.grid("DataGrid1");
+    int larghezza = 0;
+    for (int colonna = 0; colonna < 7; ++colonna) {
+        larghezza += griglia.columnWidth(colonna);
+    }
+    EXPECT_NEAR(larghezza, griglia.viewport()->width(), 6);
+}
+
+TEST_F(CaricaSedeForm, ABranchIsReadOnTheOpenConnection) {
+    apri();
+    StringaAzienda = "Server=altrove";
+    scegli("4");
+    EXPECT_EQ(testo("città"), "Nairobi");
+    EXPECT_EQ(stato(), "Kenya");
 }
 
 TEST_F(CaricaSedeForm, ListsTheBranchesWithAStateInTheOrderOfTheirNumbers) {

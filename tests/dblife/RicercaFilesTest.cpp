@@ -51,6 +51,11 @@ TEST_F(RicercaFiles, AKnownPathIsReadLetterForLetterAndNotSearched) {
     EXPECT_EQ(recorder.texts(), Testi{"Select * from DirectorySede"});
 }
 
+TEST_F(RicercaFiles, TheTableIsReadOnTheOpenConnection) {
+    StringaAzienda = "Server=altrove";
+    EXPECT_EQ(cartella(), "C:\\vabo\\");
+}
+
 TEST_F(RicercaFiles, AnEmptyTableIsAnEmptyFolderWithoutASearch) {
     esegui("delete from DirectorySede");
     EXPECT_EQ(cartella(), "");

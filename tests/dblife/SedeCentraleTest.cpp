@@ -152,6 +152,17 @@ TEST_F(SedeCentrale, ARowThatSomebodyElseHoldsRaisesAtOnce) {
     SalvaSedeCentrale(5, 2, kBari);
 }
 
+TEST_F(SedeCentrale, TheRowIsWrittenOnAConnectionOfItsOwnAndTheFoldersOnTheOpenOne) {
+    const std::string azienda = StringaAzienda;
+    StringaAzienda = "Server=altrove";
+    SalvaCartelleSede("C:\\Nuova");
+    EXPECT_EQ(cartelle("Directorybackup"), (Righe{{"1", "C:\\Nuova\\Backup"}}));
+    StringaAzienda = azienda;
+    DbAzienda.Close();
+    SalvaSedeCentrale(5, 2, kBari);
+    EXPECT_EQ(sedi(), Righe{kRigaDiBari});
+}
+
 TEST_F(SedeCentrale, TheFoldersRowsAreWrittenOverWhateverTheirNumber) {
     esegui("update DirectoryHQ set IdAutonumber = 7");
     const support::StatementRecorder recorder;

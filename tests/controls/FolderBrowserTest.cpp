@@ -33,6 +33,7 @@ protected:
         return support::withBox(
             seen,
             [&](QDialog& box) {
+                support::Gui::waitFor("the browser", [] { return QApplication::focusWidget() != nullptr; });
                 answer(box);
                 stayed = box.isVisible();
                 if (stayed) {

@@ -5,7 +5,6 @@
 
 #include <QDialogButtonBox>
 #include <QLabel>
-#include <QPushButton>
 #include <QTreeWidget>
 #include <QVBoxLayout>
 
@@ -60,7 +59,7 @@ FolderBrowser::FolderBrowser(QWidget* parent, const QString& title) : QDialog(pa
     path->setTextFormat(Qt::PlainText);
     path->setWordWrap(true);
     auto* buttons = new QDialogButtonBox(this);
-    buttons->addButton(kOk, QDialogButtonBox::AcceptRole)->setDefault(true);
+    buttons->addButton(kOk, QDialogButtonBox::AcceptRole);
     buttons->addButton(kAnnulla, QDialogButtonBox::RejectRole);
     auto* layout = new QVBoxLayout(this);
     layout->addWidget(tree_);
@@ -75,7 +74,6 @@ FolderBrowser::FolderBrowser(QWidget* parent, const QString& title) : QDialog(pa
     add(tree_->invisibleRootItem(), QString::fromUtf8(kRoot), kRoot);
     tree_->setCurrentItem(tree_->topLevelItem(0));
     tree_->topLevelItem(0)->setExpanded(true);
-    tree_->setFocus();
 }
 
 std::string FolderBrowser::chosen() const {

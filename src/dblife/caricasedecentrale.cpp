@@ -69,7 +69,6 @@ void caricasedecentrale::CollegaCampi() {
 // The list of states without a rule; then failing statements are skipped.
 void caricasedecentrale::Load() {
     setWindowTitle(QString::fromUtf8(kTitolo));
-    IdSedeCorrente = 0;
     ui_->AdcStati->load(StringaAzienda, ElencoStatiSede());
     salta([this] { ui_->elenco->load(StringaAzienda, ElencoSediConStato()); });
     salta([this] { FormattaGriglia(); });

@@ -16,7 +16,6 @@ IndirizzoVaboSuServer::IndirizzoVaboSuServer()
     ui_->setupUi(this);
     on(ui_->Command1, &QPushButton::clicked, [this] { Scegli(); });
     on(ui_->Command7, &QPushButton::clicked, [this] { UnloadMe(); });
-    ui_->Command1->setFocus();
 }
 
 IndirizzoVaboSuServer::~IndirizzoVaboSuServer() = default;

@@ -114,6 +114,28 @@ TEST_F(IndirizzoVaboForm, OkOnAnEmptyFolderWritesNothingAndStaysOnThePick) {
     EXPECT_EQ(pagina.focus(), "Command1");
 }
 
+/// Picks nothing and agrees to it; meanwhile the focus goes elsewhere.
+struct Distratto : platform::Dialogs {
+    explicit Distratto(QWidget& altrove) : altrove(altrove) {}
+    void message(const std::string& /*text*/, platform::Icon /*icon*/) override { altrove.setFocus(); }
+    bool question(const std::string& /*text*/) override { return false; }
+    bool confirm(const std::string& /*text*/) override { return true; }
+    std::string input(const std::string& /*prompt*/, const std::string& /*title*/,
+                      const std::string& /*proposed*/) override {
+        return {};
+    }
+    std::string folder(const std::string& /*title*/) override { return {}; }
+
+    QWidget& altrove;
+};
+
+TEST_F(IndirizzoVaboForm, AfterAnEmptyFolderTheFocusIsOnThePickWhereverItWent) {
+    apri();
+    platform::setDialogs(std::make_unique<Distratto>(pagina.control("Command7")));
+    premi();
+    EXPECT_EQ(pagina.focus(), "Command1");
+}
+
 TEST_F(IndirizzoVaboForm, TheCompanysConnectionTextIsAnOddOneFromThePickOn) {
     apri();
     for (const bool si : {false, true}) {

@@ -12,6 +12,7 @@
 #include "locks/Scegli_sede_Pd.h"
 #include "payment_terms/CondizioniPagamento.h"
 #include "payment_terms/CondizioniPagamentoDecorrenza.h"
+#include "rights/Login.h"
 #include "session/About.h"
 #include "session/Avvio.h"
 #include "session/Avvio_Azienda.h"
@@ -38,6 +39,7 @@ void registerForms(controls::FormRegistry& registry) {
     registry.add("Avvio_Morlan", make<vabo::Avvio_Morlan>);
     registry.add("I_Iva_sezionali", make<vabo::I_Iva_sezionali>);
     registry.add("frmDatiAzienda", make<vabo::frmDatiAzienda>);
+    registry.add("Login", make<vabo::Login>);
     registry.add("Scegli_progetto_4", make<vabo::Scegli_progetto_4>);
     registry.add("Scegli_sede_Pd", make<vabo::Scegli_sede_Pd>);
     registry.add("IndirizzoVaboSuServer", make<vabo::IndirizzoVaboSuServer>);

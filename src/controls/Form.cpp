@@ -11,6 +11,7 @@
 #include <QGuiApplication>
 #include <QLabel>
 #include <QPushButton>
+#include <QScopedValueRollback>
 #include <QWindow>
 
 namespace controls {
@@ -44,7 +45,12 @@ void Form::runLoad() {
     runUnlessUnloading([this] { Load(); });
 }
 
+// Painting handles events, by which the window system may report the form as active while its Activate still runs.
 void Form::runActivate() {
+    if (activating_) {
+        return;
+    }
+    const QScopedValueRollback runs(activating_, true);
     runUnlessUnloading([this] { Activate(); });
 }
 

@@ -68,6 +68,7 @@ private:
     void nameForAssistiveTools();
 
     bool unloading_ = false;
+    bool activating_ = false;
     bool takesScreen_ = false;
 };
 

@@ -59,7 +59,7 @@ void drawArrow(QPainter& painter, const QStyleOption& option, const QRect& place
     painter.restore();
 }
 
-/// The square of a check box: empty, ticked or greyed.
+/// The square of a check box: empty, ticked, or with a grey tick.
 void drawCheckBox(QPainter& painter, const QStyleOption& option) {
     const bool on = has(option, QStyle::State_On);
     const bool greyed = has(option, QStyle::State_NoChange);
@@ -71,14 +71,11 @@ void drawCheckBox(QPainter& painter, const QStyleOption& option) {
     const auto at = [&](double x, double y) { return box.topLeft() + QPointF(x * box.width(), y * box.height()); };
     painter.save();
     painter.setRenderHint(QPainter::Antialiasing);
-    QPen pen(option.palette.color(on ? QPalette::Text : QPalette::PlaceholderText), 2);
+    const bool pale = greyed && has(option, QStyle::State_Enabled);
+    QPen pen(option.palette.color(pale ? QPalette::PlaceholderText : QPalette::Text), 2);
     pen.setCapStyle(Qt::RoundCap);
     painter.setPen(pen);
-    if (on) {
-        painter.drawPolyline(QPolygonF{at(0.25, 0.5), at(0.43, 0.7), at(0.75, 0.3)});
-    } else {
-        painter.drawLine(at(0.28, 0.5), at(0.72, 0.5));
-    }
+    painter.drawPolyline(QPolygonF{at(0.25, 0.5), at(0.43, 0.7), at(0.75, 0.3)});
     painter.restore();
 }
 
@@ -120,6 +117,9 @@ int RoomyStyle::styleHint(StyleHint hint, const QStyleOption* option, const QWid
                           QStyleHintReturn* more) const {
     if (hint == SH_DialogButtonBox_ButtonsHaveIcons) {
         return 0;
+    }
+    if (hint == SH_LineEdit_PasswordCharacter) {
+        return '*';
     }
     return QProxyStyle::styleHint(hint, option, widget, more);
 }

@@ -1,5 +1,6 @@
 #include "controls/UserInput.h"
 
+#include <QAbstractButton>
 #include <QApplication>
 #include <QKeyEvent>
 #include <QPointer>
@@ -30,12 +31,15 @@ struct Release {
 };
 Release last;
 
-bool isRepeatedEnter(const QEvent& event) {
+/// Of Enter anywhere, and of Space on a button: held over a grid it may have moved the focus there.
+bool isRepeatedCommand(const QObject* watched, const QEvent& event) {
     if (event.type() != QEvent::KeyPress) {
         return false;
     }
     const auto& key = static_cast<const QKeyEvent&>(event);
-    return (key.key() == Qt::Key_Return || key.key() == Qt::Key_Enter) && UserInput::isRepeat(key);
+    const bool enter = key.key() == Qt::Key_Return || key.key() == Qt::Key_Enter;
+    const bool space = key.key() == Qt::Key_Space && qobject_cast<const QAbstractButton*>(watched) != nullptr;
+    return (enter || space) && UserInput::isRepeat(key);
 }
 
 void goToButton(QPushButton* button) {
@@ -76,7 +80,7 @@ bool UserInput::eventFilter(QObject* watched, QEvent* event) {
         goToButton(qobject_cast<QPushButton*>(watched));
     }
     const auto* control = qobject_cast<const QWidget*>(watched);
-    return control != nullptr && (!control->isVisible() || isRepeatedEnter(*event));
+    return control != nullptr && (!control->isVisible() || isRepeatedCommand(control, *event));
 }
 
 } // namespace controls

@@ -7,8 +7,9 @@ class QKeyEvent;
 namespace controls {
 
 /// Drops keys and clicks that must not count, everywhere in the program. Enter acts once for each time the key is
-/// pressed: the repeats of a held key are dropped, so that no command and no store runs again. A control that isn't
-/// visible gets no input: the second click of a double click may arrive after the first has hidden the form.
+/// pressed: the repeats of a held key are dropped, so that no command and no store runs again; so are those of Space on
+/// a button. A control that isn't visible gets no input: the second click of a double click may arrive after the first
+/// has hidden the form.
 ///
 /// A button's mnemonic sets the focus to the button, as a click does, so that the field that had it gets its LostFocus.
 class UserInput : public QObject {

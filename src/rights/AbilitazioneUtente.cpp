@@ -5,37 +5,14 @@
 #include "kit/IsEmptyValue.h"
 #include "platform/Dialogs.h"
 #include "platform/Forms.h"
-
-#include <array>
-#include <utility>
+#include "rights/TabellaUtenti.h"
 
 namespace vabo {
 
 namespace {
 
-constexpr std::array<std::pair<const char*, Flag Diritti::*>, 12> kColonne = {{
-    {"Administrator", &Diritti::Administrator},
-    {"A_Inserisci", &Diritti::A_Inserisci},
-    {"A_Cancella", &Diritti::A_Cancella},
-    {"A_Iva", &Diritti::A_Iva},
-    {"A_Bilancio", &Diritti::A_Bilancio},
-    {"A_Personale", &Diritti::A_Personale},
-    {"A_ArchivioStoria", &Diritti::A_ArchivioStoria},
-    {"A_PFinanza", &Diritti::A_PFinanza},
-    {"A_Synchro", &Diritti::A_Synchro},
-    {"A_EmettiPagamenti", &Diritti::A_EmettiPagamenti},
-    {"A_Progetta", &Diritti::A_Progetta},
-    {"Disabilita", &Diritti::Disabilita},
-}};
-
 std::string Istruzione(const std::string& utente, const std::string& password) {
-    std::string testo = "Select  idautonumber, NomeUtente,";
-    const char* separatore = "";
-    for (const auto& [colonna, flag] : kColonne) {
-        testo += std::string(separatore) + " " + colonna;
-        separatore = ",";
-    }
-    testo += std::string(" from ") + " AbilitazioneAccessi" + " where " + " NomeUtente = '" + utente + "'";
+    std::string testo = SelezioneUtenti() + " where " + " NomeUtente = '" + utente + "'";
     if (!IsEmptyValue(password)) {
         testo += std::string(" and ") + " PaswUtente = '" + password + "'";
     }
@@ -69,7 +46,7 @@ void CaricaAbilitazione(const std::string& NomeUtente, const std::string& PaswUt
         return;
     }
     Diritti diritti;
-    for (const auto& [colonna, flag] : kColonne) {
+    for (const auto& [colonna, flag] : kColonneDiritti) {
         diritti.*flag = ado::toBoolean(rs[colonna]) ? kVero : kFalso;
     }
     DirittiUtente = diritti;

@@ -1,5 +1,6 @@
 #include "session/Avvio.h"
 
+#include "dblife/CollegaTabelleLinked.h"
 #include "platform/Forms.h"
 #include "session/Avviamento.h"
 #include "ui_Avvio.h"
@@ -31,6 +32,7 @@ void Avvio::Activate() {
     RegistraProgramma();
     Avanza(80);
     PrendiLingua();
+    CollegaTabelle();
     const bool login = ServeLogin();
     Avanza(100);
     platform::formHost().show(login ? "About" : "Avvio_Azienda");

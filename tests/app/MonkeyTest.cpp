@@ -92,7 +92,7 @@ constexpr std::array kKeys = {Qt::Key_Return, Qt::Key_Return, Qt::Key_Enter, Qt:
                               Qt::Key_F2,     Qt::Key_F4,     Qt::Key_F5,    Qt::Key_F10,    Qt::Key_F12,
                               Qt::Key_Home,   Qt::Key_End,    Qt::Key_Menu,  Qt::Key_PageUp, Qt::Key_PageDown};
 constexpr std::array kMnemonics = {Qt::Key_A, Qt::Key_B, Qt::Key_C, Qt::Key_D, Qt::Key_E,
-                                   Qt::Key_M, Qt::Key_P, Qt::Key_S, Qt::Key_T};
+                                   Qt::Key_M, Qt::Key_P, Qt::Key_R, Qt::Key_S, Qt::Key_T};
 
 /// Presses any key or button at random, also in windows that were just closed.
 class Monkey : public FormTest {
@@ -101,7 +101,7 @@ protected:
 
     /// Starts with the console, the login or the form of the data sources.
     void start() {
-        for (const char* form : {"Avvio_Morlan", "FormRegistraAziendeNeiDns", "About", "Avvio_Azienda"}) {
+        for (const char* form : {"Login", "Avvio_Morlan", "FormRegistraAziendeNeiDns", "About", "Avvio_Azienda"}) {
             gui.forms().unload(form);
         }
         Gui::handleEvents();
@@ -148,7 +148,7 @@ protected:
 private:
     QWidget* oneOfTheForms() {
         std::vector<QWidget*> forms;
-        for (const char* name : {"Avvio_Azienda", "About", "FormRegistraAziendeNeiDns", "Avvio_Morlan"}) {
+        for (const char* name : {"Avvio_Azienda", "About", "FormRegistraAziendeNeiDns", "Avvio_Morlan", "Login"}) {
             if (controls::Form* loaded = gui.forms().loaded(name)) {
                 forms.push_back(loaded);
             }

@@ -1,7 +1,9 @@
 #include "controls/CheckBox.h"
 
 #include "ado/Error.h"
+#include "controls/RoomyStyle.h"
 
+#include <QImage>
 #include <QTest>
 
 #include <gtest/gtest.h>
@@ -56,6 +58,40 @@ TEST(CheckBox, AGreyedBoxIsSwitchedOffByTheUser) {
     box.box.show();
     QTest::keyClick(&box.box, Qt::Key_Space);
     EXPECT_EQ(box.box.Value(), 0);
+}
+
+/// As the program's style draws it.
+QImage drawn(int value, bool enabled = true) {
+    controls::RoomyStyle style;
+    controls::CheckBox box;
+    box.setStyle(&style);
+    box.setEnabled(enabled);
+    box.setValue(value);
+    box.resize(box.sizeHint());
+    return box.grab().toImage().convertToFormat(QImage::Format_Grayscale8);
+}
+
+TEST(CheckBox, AGreyedOneIsDrawnWithTheSameTickInAPalerColour) {
+    const QImage empty = drawn(0), ticked = drawn(1), greyed = drawn(2);
+    int ink = 0, greyInk = 0;
+    for (int y = 0; y < empty.height(); ++y) {
+        for (int x = 0; x < empty.width(); ++x) {
+            const int ground = empty.pixelColor(x, y).lightness();
+            const int black = ground - ticked.pixelColor(x, y).lightness();
+            const int grey = ground - greyed.pixelColor(x, y).lightness();
+            EXPECT_EQ(black > 0, grey > 0) << x << "," << y;
+            EXPECT_LE(grey, black) << x << "," << y;
+            ink += black;
+            greyInk += grey;
+        }
+    }
+    EXPECT_GT(greyInk, 0);
+    EXPECT_LT(greyInk, ink);
+}
+
+TEST(CheckBox, DisabledOnesHaveTheSameTickWhetherTickedOrGreyed) {
+    EXPECT_EQ(drawn(1, false), drawn(2, false));
+    EXPECT_NE(drawn(0, false), drawn(2, false));
 }
 
 TEST(CheckBox, OtherValuesAreRefused) {

@@ -84,6 +84,22 @@ TEST_F(FormRegistry, TheFormBelowBecomesActiveWhenTheUserGoesToIt) {
     EXPECT_THAT(log, ElementsAre("A.Load", "A.Activate", "B.Load", "B.Activate", "A.Activate"));
 }
 
+TEST_F(FormRegistry, AFormWhoseActivateStillRunsIsNotActivatedAgain) {
+    add("B");
+    add("A", {.activate = [&](RecordedForm& form) {
+            gui.forms().show("B");
+            gui.forms().unload("B");
+            form.activateWindow();
+            Gui::handleEvents();
+            log.emplace_back("A is ready");
+        }});
+    gui.forms().show("A");
+    EXPECT_THAT(log, ElementsAre("A.Load", "A.Activate", "B.Load", "B.Activate", "B.Unload", "deleted", "A is ready"));
+    gui.forms().hide("A");
+    gui.forms().show("A");
+    EXPECT_EQ(std::ranges::count(log, "A.Activate"), 2) << "the next one runs again";
+}
+
 TEST_F(FormRegistry, ABoxInBetweenActivatesNothing) {
     add("A");
     gui.forms().show("A");

@@ -124,6 +124,26 @@ TEST_F(Form, APressAtTheMomentOfItsReleaseIsAHeldKeysToo) {
     EXPECT_EQ(presses, 2) << "down anew";
 }
 
+// Its first press went to another control, which gave the focus to the button.
+TEST_F(Form, ASpaceHeldBeforeTheButtonGotTheFocusPressesNothing) {
+    int presses = 0;
+    clicked = [&](RecordedForm&) { ++presses; };
+    const auto send = [this](QEvent::Type type, quint64 time) {
+        QKeyEvent event(type, Qt::Key_Space, Qt::NoModifier);
+        event.setTimestamp(time);
+        QApplication::sendEvent(&gui.find("A", "button"), &event);
+    };
+    for (const quint64 time : {1660, 1700, 1740}) {
+        send(QEvent::KeyRelease, time);
+        send(QEvent::KeyPress, time);
+    }
+    send(QEvent::KeyRelease, 1800);
+    EXPECT_EQ(presses, 0);
+    send(QEvent::KeyPress, 1860);
+    send(QEvent::KeyRelease, 1900);
+    EXPECT_EQ(presses, 1) << "down anew";
+}
+
 TEST_F(Form, KeysAndClicksThatReachAHiddenFormAreNone) {
     int presses = 0;
     clicked = [&](RecordedForm&) { ++presses; };

@@ -1,6 +1,7 @@
 #include "controls/TextBox.h"
 
 #include "RecordedForm.h"
+#include "controls/RoomyStyle.h"
 #include "support/Gui.h"
 
 #include <QApplication>
@@ -174,6 +175,15 @@ TEST_F(TextBox, NoMoreIsSelectedThanTheFormAllows) {
     field("second").setText(std::string("ab"));
     field("second").Select();
     EXPECT_EQ(field("second").selectedText(), "ab") << "a shorter text whole";
+}
+
+TEST(PasswordBox, ShowsStars) {
+    controls::RoomyStyle style;
+    controls::TextBox box;
+    box.setStyle(&style);
+    box.setEchoMode(QLineEdit::Password);
+    box.setText("abc");
+    EXPECT_EQ(box.displayText(), "***");
 }
 
 } // namespace

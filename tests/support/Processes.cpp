@@ -11,7 +11,7 @@ namespace support {
 
 namespace {
 
-constexpr int kPatience = 30'000; // milliseconds; only a process that hangs takes longer
+constexpr int kPatience = 120'000; // milliseconds; only a process that hangs takes longer
 
 QString pathOf(const std::string& program) {
     const QString name = QString::fromStdString(program);

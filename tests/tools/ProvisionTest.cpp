@@ -1,5 +1,6 @@
 #include "provision/Provision.h"
 
+#include "ado/LinkFile.h"
 #include "engine/errors/Error.h"
 #include "provision/PointerFiles.h"
 #include "provision/Sql.h"
@@ -82,12 +83,57 @@ TEST(Provision, WritesEveryPointerFileAsOneLine) {
     EXPECT_EQ(provision::pointerFiles("x").size(), expected.size());
 }
 
-TEST(Provision, MakesTheFoldersOfAWorkstationAndNoLocalFile) {
+TEST(Provision, MakesTheFoldersOfAWorkstation) {
     const fs::path vabo = SampleWorkstation::shared().vabo();
     EXPECT_TRUE(fs::is_directory(vabo / "sedi"));
     EXPECT_TRUE(fs::is_directory(vabo / "istanze" / "POSTO_7$sqlexpress"));
     EXPECT_TRUE(fs::is_regular_file(vabo / "Server" / "VaBoDati" / "VaBoDatiAurora.mdf"));
-    EXPECT_TRUE(fs::is_empty(vabo / "Files"));
+}
+
+TEST(Provision, MakesALocalFileForEachCompanyAndOneForReports) {
+    const fs::path files = SampleWorkstation::shared().vabo() / "Files";
+    EXPECT_EQ(std::distance(fs::directory_iterator(files), fs::directory_iterator()), 3);
+    for (const char* const name : {"tlv_locale_sql.mdb", "tlv_locale_ponte.mdb", "Tlv_personalizzate.mdb"}) {
+        const support::TemporaryFolder copy;
+        fs::copy(files / name, copy.path()); // the shared workstation is only read
+        ado::LinkFile file(copy.path() / name);
+        std::map<std::string, int> types;
+        for (const ado::LinkFile::Entry& entry : file.entries()) {
+            const std::string type = std::get<std::string>(entry.type.variant());
+            ++types[type];
+            EXPECT_EQ(file.provider(entry.id).isNull(), type != "LINK" && type != "PASS-THROUGH") << name;
+        }
+        EXPECT_GT(types["LINK"], 0) << name;
+        EXPECT_GT(types["PASS-THROUGH"], 0) << name;
+        EXPECT_GT(types["TABLE"], 0) << name;
+    }
+}
+
+TEST(Provision, LinksTheTablesOfACompanyAndThoseOfItsDocuments) {
+    const support::TemporaryFolder copy;
+    fs::copy(SampleWorkstation::shared().vabo() / "Files" / "tlv_locale_sql.mdb", copy.path());
+    ado::LinkFile file(copy.path() / "tlv_locale_sql.mdb");
+    const auto server = SampleWorkstation::shared().session(provision::kFirstDatabase);
+    int found = 0;
+    std::vector<std::string> others;
+    for (const ado::LinkFile::Entry& entry : file.entries()) {
+        const std::string name = std::get<std::string>(entry.name.variant());
+        if (entry.type != ado::Value("LINK")) {
+            continue;
+        }
+        ASSERT_TRUE(name.starts_with("dbo_")) << name;
+        try {
+            provision::integers(*server, "SELECT COUNT(*) FROM [" + name.substr(4) + "]");
+            ++found;
+        } catch (const engine::Error&) {
+            others.push_back(name.substr(4));
+        }
+    }
+    EXPECT_EQ(found, 25);
+    EXPECT_THAT(others,
+                testing::UnorderedElementsAre("Fattura", "PiedeFattura", "ScadenzeFattura", "TotaliIva", "Ordine",
+                                              "PiedeOrdine", "Bolla", "PiedeBolla", "StampaBolla", "Offerta",
+                                              "PiedeOfferta", "Chiusura", "Utile", "LinguaClient", "Version"));
 }
 
 TEST(Provision, KeepsEverythingForTheOwner) {
@@ -196,7 +242,8 @@ TEST(Provision, RefusesTheMarkOfAnotherVersion) {
 
 TEST(Provision, SaysWhatIsMissing) {
     for (const char* const name :
-         {"NomeServerLocal.txt", "istanze/POSTO_7$sqlexpress", "Server/VaBoDati/VaBoDatiPonte.mdf"}) {
+         {"NomeServerLocal.txt", "istanze/POSTO_7$sqlexpress", "Server/VaBoDati/VaBoDatiPonte.mdf",
+          "Files/tlv_locale_ponte.mdb", "Files/Tlv_personalizzate.mdb"}) {
         const support::TemporaryFolder driveC;
         layDown(smallPlan(driveC.path()));
         fs::remove_all(driveC.path() / "vabo" / name);

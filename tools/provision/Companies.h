@@ -12,7 +12,7 @@ namespace provision {
 /// One of the sample companies: its row in the registry, and what its database is filled with.
 struct Company {
     std::string_view name, database;
-    std::string_view localFile; ///< the name of its Jet file, which isn't created
+    std::string_view localFile; ///< the name of its file in the folder of local files
     std::string_view script;    ///< the script with its own rows
     bool grown;                 ///< whether its database has the columns of later versions
     long ledgerShare;           ///< it gets the plan's number of ledger rows divided by this

@@ -5,6 +5,7 @@
 #include "platform/DriveC.h"
 #include "provision/Companies.h"
 #include "provision/Folders.h"
+#include "provision/LocalFiles.h"
 #include "provision/Marker.h"
 #include "provision/PointerFiles.h"
 #include "provision/Sql.h"
@@ -70,6 +71,9 @@ void checkWhole(const platform::DriveC& drive, const Plan& plan) {
     for (const Company& company : companies()) {
         demand(dataFile(company), drive.isFile(dataFile(company)));
     }
+    for (const std::string& file : localFiles()) {
+        demand(file, drive.isFile(file));
+    }
 }
 
 void createDatabases(engine::Session& master) {
@@ -131,6 +135,7 @@ Outcome layDown(const Plan& plan) {
         drive.makeFolder(folder);
     }
     makeInstance(drive, plan);
+    makeLocalFiles(drive);
     for (const PointerFile& file : pointerFiles(serverName(plan.terminal))) {
         drive.writeLine(file.path, file.line);
     }

@@ -25,8 +25,8 @@ public:
 };
 
 /// Creates a workstation: drive C with its pointer files, one instance that is both server and local instance, the
-/// registry of companies and two companies with their data. A finished workstation of the same plan isn't changed; an
-/// unfinished one is made again. Throws Refused, std::filesystem::filesystem_error and engine::Error.
+/// registry of companies, two companies with their data, and their local files. A finished workstation of the same plan
+/// isn't changed; an unfinished one is made again. Throws Refused, std::filesystem::filesystem_error and engine::Error.
 Outcome layDown(const Plan& plan);
 
 /// The name of the instance: terminal, "\sqlexpress".

@@ -1,10 +1,12 @@
 #include "ado/Connection.h"
 #include "controls/DataCombo.h"
+#include "dblife/CollegaTabelleLinked.h"
 #include "platform/Dialogs.h"
 #include "tour/Tour.h"
 
 #include <QAbstractItemView>
 #include <QApplication>
+#include <QProgressBar>
 
 namespace tour {
 
@@ -58,10 +60,23 @@ void console(Tour& tour) {
     list.hidePopup();
 }
 
+/// The form hides itself at the end of its run, so its picture is taken half-way.
 void links(Tour& tour) {
-    tour.show("FormRefreshLinks");
-    tour.take("07-collegamenti", "FormRefreshLinks");
-    tour.forms().unload("FormRefreshLinks");
+    const char* const form = "FormRefreshLinks";
+    tour.show(form);
+    auto& bar = dynamic_cast<QProgressBar&>(tour.control(form, "ProgressBar1"));
+    bool taken = false;
+    QObject::connect(&bar, &QProgressBar::valueChanged, [&](int value) {
+        if (!taken && value >= bar.maximum() / 2) {
+            taken = true;
+            tour.take("07-collegamenti", form);
+        }
+    });
+    vabo::CollegaTabelle();
+    Tour::settle();
+    if (!taken) {
+        throw std::runtime_error("The refresh of the links was never seen on its way");
+    }
 }
 
 void dataSources(Tour& tour) {
@@ -78,7 +93,7 @@ void dataSources(Tour& tour) {
 
 void walk(Tour& tour) {
     for (const auto page : {start, login, box, console, links, generalTables, locks, vatSections, dataSources,
-                            geography, paymentTerms, companyData, payroll, setup}) {
+                            geography, paymentTerms, companyData, payroll, users, setup}) {
         page(tour);
     }
 }

@@ -53,6 +53,9 @@ void geography(Tour& tour);
 /// The payment terms and their commencement rules, empty and with one picked, and in every language.
 void paymentTerms(Tour& tour);
 
+/// The users, one of them picked, and with all rights ticked.
+void users(Tour& tour);
+
 /// The headquarters, and the folder on the server with the boxes that ask for it.
 void setup(Tour& tour);
 

@@ -1,6 +1,7 @@
 #include "app/Forms.h"
 
 #include "dblife/FormRegistraAziendeNeiDns.h"
+#include "dblife/caricasedecentrale.h"
 #include "fiscal/I_Iva_sezionali.h"
 #include "fiscal/frmDatiAzienda.h"
 #include "general_tables/Avvio_Morlan.h"
@@ -16,6 +17,7 @@
 #include "session/Avvio.h"
 #include "session/Avvio_Azienda.h"
 #include "session/FormRefreshLinks.h"
+#include "session/IndirizzoVaboSuServer.h"
 
 namespace app {
 
@@ -40,6 +42,8 @@ void registerForms(controls::FormRegistry& registry) {
     registry.add("Login", make<vabo::Login>);
     registry.add("Scegli_progetto_4", make<vabo::Scegli_progetto_4>);
     registry.add("Scegli_sede_Pd", make<vabo::Scegli_sede_Pd>);
+    registry.add("IndirizzoVaboSuServer", make<vabo::IndirizzoVaboSuServer>);
+    registry.add("caricasedecentrale", make<vabo::caricasedecentrale>);
     registry.add("CondizioniPagamento", make<vabo::CondizioniPagamento>);
     registry.add("CondizioniPagamentoDecorrenza", make<vabo::CondizioniPagamentoDecorrenza>);
     registry.add("stati", make<vabo::stati>);

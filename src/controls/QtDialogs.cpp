@@ -1,11 +1,11 @@
 #include "controls/QtDialogs.h"
 
+#include "controls/Captions.h"
+#include "controls/FolderBrowser.h"
 #include "platform/Workstation.h"
 
 #include <QApplication>
 #include <QDialogButtonBox>
-#include <QDir>
-#include <QFileDialog>
 #include <QGridLayout>
 #include <QInputDialog>
 #include <QMessageBox>
@@ -15,8 +15,6 @@ namespace controls {
 
 namespace {
 
-const QString kOk = QStringLiteral("OK");
-const QString kAnnulla = QStringLiteral("Annulla");
 const QString kSi = QStringLiteral("Sì");
 const QString kNo = QStringLiteral("No");
 
@@ -97,24 +95,8 @@ std::string QtDialogs::input(const std::string& prompt, const std::string& title
 }
 
 std::string QtDialogs::folder(const std::string& title) {
-    const QString root = QString::fromStdString(platform::workstation().driveC.root().string());
-    QFileDialog box(QApplication::activeWindow(), titleOr(title), root);
-    box.setFileMode(QFileDialog::Directory);
-    box.setOption(QFileDialog::ShowDirsOnly);
-    box.setLabelText(QFileDialog::Accept, kOk);
-    box.setLabelText(QFileDialog::Reject, kAnnulla);
-    if (box.exec() != QDialog::Accepted) {
-        return {};
-    }
-    const QString chosen = box.selectedFiles().value(0);
-    const QString inside = QDir(root).relativeFilePath(chosen);
-    if (inside == QLatin1String(".")) {
-        return "C:\\";
-    }
-    if (inside.startsWith(QLatin1String("..")) || QDir::isAbsolutePath(inside)) {
-        return QDir::toNativeSeparators(chosen).toStdString();
-    }
-    return "C:\\" + QString(inside).replace(QLatin1Char('/'), QLatin1Char('\\')).toStdString();
+    FolderBrowser box(QApplication::activeWindow(), titleOr(title));
+    return box.exec() == QDialog::Accepted ? box.chosen() : std::string();
 }
 
 } // namespace controls

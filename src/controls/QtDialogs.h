@@ -11,7 +11,7 @@ public:
     bool question(const std::string& text) override;
     bool confirm(const std::string& text) override;
     std::string input(const std::string& prompt, const std::string& title, const std::string& proposed) override;
-    /// A folder of drive C is returned as a path of that drive, any other as the system writes it.
+    /// Only folders of drive C can be picked.
     std::string folder(const std::string& title) override;
 };
 

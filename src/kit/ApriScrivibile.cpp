@@ -6,4 +6,8 @@ void ApriScrivibile(ado::Recordset& rs, const std::string& testo, ado::Connectio
     rs.Open(testo, connessione, ado::CursorType::Keyset, ado::LockType::Pessimistic);
 }
 
+void ApriScrivibile(ado::Recordset& rs, const std::string& testo, const std::string& connessione) {
+    rs.Open(testo, connessione, ado::CursorType::Keyset, ado::LockType::Pessimistic);
+}
+
 } // namespace vabo

@@ -104,6 +104,11 @@ std::optional<fs::path> find(const fs::path& root, std::string_view path) {
     return place;
 }
 
+/// Whether a path of the drive can have that name: it is text, and no separator is in it.
+bool isName(const std::string& name) {
+    return name.find('\\') == std::string::npos && QString::fromStdString(name).toStdString() == name;
+}
+
 /// The error for a file that the system refused to read, write or remove.
 FileError refusal(const fs::path& file, std::error_code reason) {
     std::error_code ignored;
@@ -162,6 +167,24 @@ fs::path DriveC::real(std::string_view path) const {
         return *place;
     }
     throw FileError(kPathNotFound);
+}
+
+std::optional<std::string> DriveC::pathOf(const fs::path& place) const {
+    const auto plain = [](const fs::path& path) { return fs::absolute(path).lexically_normal(); };
+    const fs::path inside = plain(place).lexically_relative(plain(root_));
+    if (inside.empty() || *inside.begin() == "..") {
+        return std::nullopt;
+    }
+    std::string path = "C:";
+    for (const fs::path& name : inside) {
+        if (!isName(name.string())) {
+            return std::nullopt;
+        }
+        if (name != "." && !name.empty()) {
+            path += "\\" + name.string();
+        }
+    }
+    return path == "C:" ? "C:\\" : path;
 }
 
 bool DriveC::exists(std::string_view path) const {

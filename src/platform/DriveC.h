@@ -1,6 +1,7 @@
 #pragma once
 
 #include <filesystem>
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -28,6 +29,9 @@ public:
     /// The system's path for a path of the drive (`C:\vabo\x.txt`, with `\` or `/`, in any case). Parts that don't
     /// exist keep their spelling.
     std::filesystem::path real(std::string_view path) const;
+    /// The drive's path for a path of the system, without a separator at its end but for the root itself (`C:\`).
+    /// Nothing where that place isn't on the drive, or has a name that can't be part of such a path.
+    std::optional<std::string> pathOf(const std::filesystem::path& place) const;
     bool exists(std::string_view path) const;
     bool isFile(std::string_view path) const;
     bool isFolder(std::string_view path) const;

@@ -1,7 +1,9 @@
 #include "session/About.h"
 
+#include "dblife/RicercaFiles.h"
 #include "kit/ErrorHandling.h"
 #include "kit/IsEmptyValue.h"
+#include "kit/Regole.h"
 #include "kit/Titolo.h"
 #include "platform/Dialogs.h"
 #include "platform/Forms.h"
@@ -54,12 +56,21 @@ void About::Load() {
         return;
     }
     ApriDatiLogin();
+    MostraDirectorySede();
     ui_->Label1->setText(QString::fromStdString(TestoDatabase()));
     ui_->PswLabels_0->setText(QStringLiteral("Password :"));
     ui_->txtPassword->show();
     Mostra(*ui_->txtPassword1, false);
     ui_->txtPassword->setFocus();
     ChiudiRecordset();
+}
+
+// A failing search is skipped.
+void About::MostraDirectorySede() {
+    salta([this] { CercaDirectorySede(PercorsoDirectorySede); });
+    for (QWidget* elenco : {ui_->Dir1, ui_->File1}) {
+        elenco->setProperty("Path", QString::fromStdString(PercorsoDirectorySede));
+    }
 }
 
 void About::Controlla_server() {

@@ -30,6 +30,7 @@ protected:
     void Unload() override;
 
 private:
+    void MostraDirectorySede();
     void ConfermaNome();
     void ConfermaPrimaPassword();
     void ControllaPassword();
@@ -41,6 +42,7 @@ private:
     std::unique_ptr<Ui::About> ui_;
     double IdUtenteNuovo = 0; ///< the user who sets a first password; the name in the field may change meanwhile
     std::string NomeUtenteNuovo;
+    std::string PercorsoDirectorySede;
 };
 
 } // namespace vabo

@@ -34,11 +34,29 @@ TEST(Tour, LeavesAPictureOfEveryFormInThreeKinds) {
     ASSERT_EQ(tour.finish(), 0);
     EXPECT_FALSE(std::filesystem::exists(users)) << "the user's own data sources";
     EXPECT_TRUE(std::filesystem::exists(workstation.dataSourceFile()));
-    for (const char* name : {"01-avvio", "02-login", "03-login-password", "04-messaggio", "05-console",
-                             "06-console-elenco", "07-collegamenti", "17-registra-aziende", "18-registra-aziende-fonte",
-                             "19-blocco-progetto", "19-blocco-progetto-scelta", "19-blocco-progetto-corsa",
-                             "20-blocco-sede", "20-blocco-sede-scelta", "20-blocco-sede-domanda",
-                             "20-blocco-sede-corsa", "36-utenti", "37-utenti-scelto", "38-utenti-tutti-i-diritti"}) {
+    for (const char* name : {"01-avvio",
+                             "02-login",
+                             "03-login-password",
+                             "04-messaggio",
+                             "05-console",
+                             "06-console-elenco",
+                             "07-collegamenti",
+                             "17-registra-aziende",
+                             "18-registra-aziende-fonte",
+                             "19-blocco-progetto",
+                             "19-blocco-progetto-scelta",
+                             "19-blocco-progetto-corsa",
+                             "20-blocco-sede",
+                             "20-blocco-sede-scelta",
+                             "20-blocco-sede-domanda",
+                             "20-blocco-sede-corsa",
+                             "36-utenti",
+                             "37-utenti-scelto",
+                             "38-utenti-tutti-i-diritti",
+                             "51-indirizzo-server",
+                             "51-indirizzo-server-avviso",
+                             "51-indirizzo-server-cartella",
+                             "51-indirizzo-server-conferma"}) {
         expectThreeKinds(folder.path(), name);
         EXPECT_GE(picture(folder.path(), std::string(name) + "-200").height(),
                   2 * picture(folder.path(), name).height() - 2)
@@ -71,7 +89,9 @@ TEST(Tour, LeavesAPictureOfEveryFormInThreeKinds) {
                              "35-buste-paga-elenco",
                              "40-comuni",
                              "41-comuni-modifica",
-                             "42-comuni-stati"}) {
+                             "42-comuni-stati",
+                             "50-sede-centrale",
+                             "50-sede-centrale-scelta"}) {
         expectThreeKinds(folder.path(), name);
     }
 }

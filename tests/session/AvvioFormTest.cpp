@@ -133,10 +133,12 @@ TEST_F(AvvioForm, SendsItsStatementsLetterForLetter) {
     ASSERT_EQ(idOf(kCompany), 1);
     const support::StatementRecorder recorder;
     gui.forms().show("Avvio");
-    // The start takes the company up and prepares the server; the login takes the company up again.
+    // The start takes the company up and prepares the server; the login takes the company up again and reads
+    // the folder of the branch's file.
     std::vector<std::string> expected = takingUp;
     expected.insert(expected.end(), preparation.begin(), preparation.end());
     expected.insert(expected.end(), takingUp.begin(), takingUp.end());
+    expected.emplace_back("Select * from DirectorySede");
     expected.emplace_back("select * from [AbilitazioneAccessi]");
     EXPECT_EQ(recorder.texts(), expected);
 }

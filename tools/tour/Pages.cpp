@@ -93,7 +93,7 @@ void dataSources(Tour& tour) {
 
 void walk(Tour& tour) {
     for (const auto page : {start, login, box, console, links, generalTables, locks, vatSections, dataSources,
-                            geography, paymentTerms, companyData, payroll, users}) {
+                            geography, paymentTerms, companyData, payroll, users, setup}) {
         page(tour);
     }
 }

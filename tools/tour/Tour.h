@@ -56,6 +56,9 @@ void paymentTerms(Tour& tour);
 /// The users, one of them picked, and with all rights ticked.
 void users(Tour& tour);
 
+/// The headquarters, and the folder on the server with the boxes that ask for it.
+void setup(Tour& tour);
+
 /// Every form of the program, in the order in which a user meets them. A new form adds its page here.
 void walk(Tour& tour);
 

@@ -5,7 +5,10 @@
 #include "session/LinguaClient.h"
 #include "session/TreatForms.h"
 
+#include <QAbstractItemView>
 #include <QLineEdit>
+
+#include <set>
 
 namespace vabo {
 namespace {
@@ -262,9 +265,53 @@ TEST_F(FormCondizioni, ANullNameInAListIsSkippedForTheKindAndToldForTheRule) {
     esegui("update CondizioniPagamentoDecorrenza set Descrizione = null where IDDecorrenza = 2");
     pagina.control<controls::DataControl>("Decorrenza").Refresh();
     scegli(9);
+    const Riga prima = campi(), nona = condizione("IDPagamento = 9"), terza = condizione("IDPagamento = 3");
     script.expectMessage("Invalid use of Null");
     scegli(3);
     EXPECT_TRUE(script.allShown());
+    EXPECT_EQ(campi(), prima) << "the term shown stays";
+    EXPECT_EQ(testo("IDPagamento"), "N. 9");
+    EXPECT_EQ(pagina.combo("IDDecorrenza").count(), 8) << "the list of rules is whole again";
+    EXPECT_EQ(pagina.combo("IdTipoRimessa").count(), 5);
+    vaiA("Scadenza1");
+    gui.type("45");
+    vaiA("Descrizione");
+    invio();
+    EXPECT_EQ(condizione("IDPagamento = 9")[4].substr(0, 3), "45 ") << "and is the one that is stored";
+    EXPECT_EQ(condizione("IDPagamento = 9")[2], nona[2]);
+    EXPECT_EQ(condizione("IDPagamento = 3"), terza);
+}
+
+TEST_F(FormCondizioni, OfTwoRulesWithOneNameTheOneOfTheTermIsKeptAndTheOnePickedIsTaken) {
+    esegui("update CondizioniPagamentoDecorrenza set Descrizione = 'Fine mese' where IDDecorrenza = 5");
+    esegui("update CondizioniPagamento set IDDecorrenza = 5 where IDPagamento = 9");
+    apri();
+    for (const int prima : {14, 3, 9}) { // from another rule, from the namesake and from itself
+        scegli(prima);
+        scegli(9);
+        EXPECT_EQ(decorrenza(), "Fine mese");
+        vaiA("Descrizione");
+        invio();
+        EXPECT_EQ(condizione("IDPagamento = 9")[2], "5") << prima;
+    }
+    auto& combo = pagina.combo("IDDecorrenza");
+    const int primo = combo.findText("Fine mese");
+    std::set<std::string> scelte;
+    for (const int riga : {primo + 1, primo}) {
+        scegli(14);
+        combo.setFocus();
+        gui.press(Qt::Key_Down);
+        combo.view()->setCurrentIndex(combo.model()->index(riga, 0));
+        QTest::keyClick(combo.view(), Qt::Key_Return);
+        support::Gui::handleEvents();
+        const std::string chiave = combo.BoundText();
+        EXPECT_TRUE(chiave == "2" || chiave == "5");
+        scelte.insert(chiave);
+        vaiA("Descrizione");
+        invio();
+        EXPECT_EQ(condizione("IDPagamento = 14")[2], chiave);
+    }
+    EXPECT_EQ(scelte.size(), 2U);
 }
 
 TEST_F(FormCondizioni, AnEmptyTableHasNothingToPick) {

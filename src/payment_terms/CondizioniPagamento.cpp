@@ -178,7 +178,7 @@ bool CondizioniPagamento::focusNextPrevChild(bool next) {
 void CondizioniPagamento::TornaAlleScadenze() {
     const auto* fine = std::ranges::find_if(scadenze_.begin(), scadenze_.begin() + kUltima - 1,
                                             [](const auto* campo) { return IsEmptyValue(campo->Text()); });
-    VaiA(*fine);
+    (*fine)->SetFocus();
 }
 
 // Without a rule: an amount that is no number keeps the focus.

@@ -119,6 +119,19 @@ TEST_F(FormCondizioni, ACharacterOfTwoHalvesIsNotCutInTwo) {
     }
 }
 
+TEST_F(FormCondizioni, AnAdvanceLeftByMouseIsStoredAsItStands) {
+    apri();
+    for (const auto& [digitato, scritto] : {std::pair{"1.500", "1500.00"}, std::pair{"12,5", "12.50"}}) {
+        scegli(3);
+        vaiA("RataAnticipo");
+        gui.type(digitato);
+        vaiA("Descrizione");
+        EXPECT_EQ(testo("RataAnticipo"), digitato);
+        invio();
+        EXPECT_EQ(condizione("IDPagamento = 3")[3], scritto);
+    }
+}
+
 TEST_F(FormCondizioni, AWorkedOutNameIsCutToo) {
     apri();
     componi("Data fattura", "", {"30", "60", "90", "120", "150", "180", "210", "240", "270", "300", "330", "360"},

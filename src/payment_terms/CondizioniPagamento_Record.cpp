@@ -18,6 +18,9 @@ namespace {
 
 /// The name of a rule, none where the list hasn't got it. Raises for one without a name; the list is whole then, too.
 std::optional<std::string> NomeDellaRegola(controls::DataControl& elenco, double regola) {
+    if (!elenco.hasRecordset()) {
+        elenco.Refresh(); // the last one failed
+    }
     ado::Recordset& righe = elenco.Recordset();
     righe.setFilter("iddecorrenza=" + ado::plainNumber(regola));
     std::optional<ado::Value> nome;

@@ -70,6 +70,14 @@ TEST_F(FormCondizioni, WhateverStatementFailsOfAPickTheTermShownIsWhollyTheOldOn
         EXPECT_EQ(campi(), kVuota) << "it is stored";
         EXPECT_EQ(condizione("IDPagamento = 3"), terza);
         EXPECT_EQ(condizione("IDPagamento = 14"), ultima);
+        scegli(3);
+        {
+            const GuastoAPosto guasto(posto);
+            scegli(14);
+        }
+        scegli(14);
+        EXPECT_EQ(campi(), nuova) << "a second try";
+        EXPECT_EQ(scatole.texts.size(), 2U) << "the first one's";
     }
 }
 

@@ -214,6 +214,8 @@ void DataGrid::keyPressEvent(QKeyEvent* event) {
     const bool enter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
     if (onARow && enter) {
         takeRow();
+        tellMove(0);
+        emit Click();
         emit DblClick();
     } else if (onARow && event->key() == Qt::Key_Space && (currentIndex().flags() & Qt::ItemIsEditable) == 0) {
         takeRow();
@@ -230,8 +232,9 @@ void DataGrid::keyPressEvent(QKeyEvent* event) {
 
 void DataGrid::mousePressEvent(QMouseEvent* event) {
     QTableView::mousePressEvent(event);
-    pressed_ = event->button() == Qt::LeftButton;
-    if (indexAt(event->position().toPoint()).isValid()) {
+    const bool onARow = indexAt(event->position().toPoint()).isValid();
+    pressed_ = onARow && event->button() == Qt::LeftButton;
+    if (onARow) {
         takeRow();
         tellMove(0);
     }
@@ -246,7 +249,8 @@ void DataGrid::mouseMoveEvent(QMouseEvent* event) {
 
 void DataGrid::mouseReleaseEvent(QMouseEvent* event) {
     QTableView::mouseReleaseEvent(event);
-    const bool clicked = pressed_ && viewport()->rect().contains(event->position().toPoint());
+    const QPoint place = event->position().toPoint();
+    const bool clicked = pressed_ && viewport()->rect().contains(place) && indexAt(place).isValid();
     if (event->button() == Qt::LeftButton) {
         pressed_ = false;
         if (clicked) {

@@ -61,8 +61,8 @@ public:
 
 signals:
     void DblClick(); ///< a double click or Enter on a row, or a double click on a grid without rows
-    void Click();    ///< of the left button, on or beside the rows; or Space in a locked column
-    /// The user has gone to a row, which is current now: to another one, or by a press or Space to the same. Not
+    void Click();    ///< of the left button on a row, Enter, or Space in a locked column
+    /// The user has gone to a row, which is current now: to another one, or by a press, Enter or Space to the same. Not
     /// emitted for moves in code, nor while typed letters search a row.
     void RowPicked();
     /// A key was pressed; emitted once, however long it is held, and before the grid handles the key.

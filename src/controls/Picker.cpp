@@ -6,6 +6,7 @@
 #include "controls/UserInput.h"
 
 #include <QAbstractItemView>
+#include <QApplication>
 #include <QCompleter>
 #include <QKeyEvent>
 
@@ -25,7 +26,11 @@ void Picker::load(const std::string& connection, const std::string& source) {
     combo_->Refresh();
 }
 
+// Like any other event of a form, a pick doesn't count while the form is disabled or a box is open.
 void Picker::take(int area) {
+    if (!combo_->isEnabled() || QApplication::activeModalWidget() != nullptr) {
+        return;
+    }
     if (area == DataCombo::List && guarded([this] { *key_ = ado::toDouble(combo_->BoundText()); })) {
         emit Picked();
     }

@@ -9,6 +9,7 @@
 #include "fiscal/IndirizzoDaComune.h"
 #include "fiscal/LasciaCodici.h"
 #include "kit/IsEmptyValue.h"
+#include "kit/Regole.h"
 #include "kit/Testi.h"
 #include "platform/Dialogs.h"
 #include "platform/Forms.h"
@@ -16,6 +17,8 @@
 #include "ui_frmDatiAzienda.h"
 
 #include <QLineEdit>
+
+#include <utility>
 
 namespace vabo {
 
@@ -63,6 +66,7 @@ void frmDatiAzienda::CollegaElenchi() {
 void frmDatiAzienda::CollegaCondizione(controls::DataCombo& combo, double& chiave, QWidget& successivo) {
     const auto* scelta = new controls::Picker(combo, *ui_->CondiPagamento, "Descrizione", "IDPagamento", chiave);
     on(scelta, &controls::Picker::Picked, [&successivo] { VaiA(successivo); });
+    on(&combo, &controls::DataCombo::DblClick, [this] { ApriCondizioni(); });
     on(&combo, &controls::DataCombo::GotFocus, [&combo, &chiave] {
         MostraCondizione(combo, chiave);
         combo.lineEdit()->selectAll();
@@ -174,6 +178,21 @@ void frmDatiAzienda::LasciaComune() {
 void frmDatiAzienda::ApriComuni() {
     platform::formHost().mark("frmComuni", "anagrafica");
     ApriForm("frmComuni", true);
+}
+
+void frmDatiAzienda::ApriCondizioni() {
+    CondizioniAperte = true;
+    ApriDa(Name(), "CondizioniPagamento");
+}
+
+// What the user has changed among the payment terms is seen at once. Failing statements are skipped.
+void frmDatiAzienda::Activate() {
+    if (!std::exchange(CondizioniAperte, false)) {
+        return;
+    }
+    salta([this] { ui_->CondiPagamento->Refresh(); });
+    MostraCondizione(*ui_->DCPagamento1, IdIncasso);
+    MostraCondizione(*ui_->DCPagamento2, IDPagamento);
 }
 
 void frmDatiAzienda::Unload() {

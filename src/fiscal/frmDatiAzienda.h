@@ -28,6 +28,7 @@ public:
 
 protected:
     void Load() override;
+    void Activate() override;
     void Unload() override;
 
 private:
@@ -52,11 +53,13 @@ private:
     void ScegliFraIComuni();
     void LasciaComune();
     void ApriComuni();
+    void ApriCondizioni();
 
     std::unique_ptr<Ui::frmDatiAzienda> ui_;
     double IdStato = 0; ///< 0 where none is set
     double IDPagamento = 0, IdIncasso = 0;
-    Flag CampoMancante = kFalso; ///< whether a save stopped for a field that is missing
+    Flag CampoMancante = kFalso;   ///< whether a save stopped for a field that is missing
+    bool CondizioniAperte = false; ///< whether the form is to read the payment terms again
 };
 
 } // namespace vabo

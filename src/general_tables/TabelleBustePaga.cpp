@@ -79,7 +79,7 @@ void TabelleBustePaga::LeggiRiga() {
         return;
     }
     salta([&] { ui_->Titolo->setText(ado::toText(rs["tipoanagrafe"])); });
-    salta([&] { IdTipo = ado::toDouble(rs["IdTipoAnagrafica"]); });
+    salta([&] { idTipo_ = ado::toDouble(rs["IdTipoAnagrafica"]); });
     for (std::size_t i = 0; i < selettori_.size(); ++i) {
         salta([&] { ContoLetto(i) = ado::toDouble(rs[kContropartite.at(i).letta]); });
     }
@@ -91,10 +91,10 @@ void TabelleBustePaga::LeggiRiga() {
 // Without a rule until the row is stored; then failing statements are skipped. The grid ends one row below the one that
 // was current: the position counts from 1, the move from the first row.
 void TabelleBustePaga::SalvaContropartite() {
-    if (IsEmptyValue(IdTipo)) {
+    if (IsEmptyValue(idTipo_)) {
         return;
     }
-    ScriviContropartite(IdTipo, conti_);
+    ScriviContropartite(idTipo_, conti_);
     long posizione = 0;
     salta([&] { posizione = ui_->elenco->Recordset().AbsolutePosition(); });
     salta([this] { ui_->elenco->Refresh(); });

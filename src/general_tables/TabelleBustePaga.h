@@ -37,7 +37,7 @@ private:
     std::array<controls::Picker*, kContropartite.size()> selettori_{};
 
     // Nothing clears these when another row is read.
-    double IdTipo = 0; ///< of the row read last
+    double idTipo_ = 0; ///< of the row read last
     /// The accounts that a save writes, as read with the row or picked after it. The last two are only picked.
     ContiPaga conti_{};
     /// The last two as read, which are only shown.

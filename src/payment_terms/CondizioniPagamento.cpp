@@ -16,6 +16,7 @@
 #include "state/variabili.h"
 #include "ui_CondizioniPagamento.h"
 
+#include <algorithm>
 #include <array>
 #include <vector>
 
@@ -164,6 +165,22 @@ void CondizioniPagamento::LasciaScadenza(std::size_t posto) {
     VaiA(finita ? static_cast<QWidget*>(ui_->IdTipoRimessa) : scadenze_[posto + 1]);
 }
 
+// From the last field of the instalments an empty one leads to the kind again, so the way back is to the place where
+// they end.
+bool CondizioniPagamento::focusNextPrevChild(bool next) {
+    if (next || focusWidget() != ui_->IdTipoRimessa || !IsEmptyValue(ui_->Scadenza12->Text())) {
+        return Form::focusNextPrevChild(next);
+    }
+    TornaAlleScadenze();
+    return true;
+}
+
+void CondizioniPagamento::TornaAlleScadenze() {
+    const auto* fine = std::ranges::find_if(scadenze_.begin(), scadenze_.begin() + kUltima - 1,
+                                            [](const auto* campo) { return IsEmptyValue(campo->Text()); });
+    (*fine)->SetFocus();
+}
+
 // Without a rule: an amount that is no number keeps the focus.
 void CondizioniPagamento::LasciaAnticipo() {
     ui_->RataAnticipo->setText(ImportoScritto(ui_->RataAnticipo->Text()));
@@ -172,7 +189,11 @@ void CondizioniPagamento::LasciaAnticipo() {
 
 void CondizioniPagamento::LasciaDescrizione() {
     constexpr int kLunghezza = 50;
-    ui_->Descrizione->setText(ui_->Descrizione->text().left(kLunghezza));
+    QString nome = ui_->Descrizione->text().left(kLunghezza);
+    if (nome.size() == kLunghezza && nome.back().isHighSurrogate()) {
+        nome.chop(1); // half a character isn't one
+    }
+    ui_->Descrizione->setText(nome);
     SalvaRecord();
     VaiA(ui_->IDDecorrenza);
 }

@@ -32,6 +32,7 @@ protected:
     void Load() override;
     void Activate() override;
     void Unload() override;
+    bool focusNextPrevChild(bool next) override;
 
 private:
     void CollegaCampi();
@@ -41,12 +42,14 @@ private:
     CampiCondizione Campi() const;
     void MostraCampi(const CampiCondizione& campi);
     void MostraRecord();
+    void MostraTipo();
     void PulisciCampi();
 
     void AggiornaRate();
     void NominaCondizione();
     void LasciaScadenza(std::size_t posto);
     void LasciaAnticipo();
+    void TornaAlleScadenze();
     void LasciaDescrizione();
     void PrendiRegola();
     void SalvaRecord();

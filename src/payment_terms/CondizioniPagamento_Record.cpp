@@ -10,21 +10,25 @@
 #include "ui_CondizioniPagamento.h"
 
 #include <algorithm>
+#include <optional>
 
 namespace vabo {
 
 namespace {
 
-/// Shows the name of the row that a filter leaves in the list; without one the combo stays as it is.
-template<typename Regola>
-void MostraScelta(Regola&& regola, controls::DataCombo& combo, controls::DataControl& elenco,
-                  const std::string& filtro) {
-    regola([&] { elenco.Recordset().setFilter(filtro); });
-    regola([&] {
-        if (!elenco.Recordset().EOF()) {
-            combo.setText(ado::toText(elenco.Recordset()["Descrizione"]));
-        }
-    });
+/// The name of a rule, none where the list hasn't got it. Raises for one without a name; the list is whole then, too.
+std::optional<std::string> NomeDellaRegola(controls::DataControl& elenco, double regola) {
+    if (!elenco.hasRecordset()) {
+        elenco.Refresh(); // the last one failed
+    }
+    ado::Recordset& righe = elenco.Recordset();
+    righe.setFilter("iddecorrenza=" + ado::plainNumber(regola));
+    std::optional<ado::Value> nome;
+    if (!righe.EOF()) {
+        nome = righe["Descrizione"].Value();
+    }
+    elenco.Refresh(); // drops the filter
+    return nome ? std::optional(ado::toText(*nome)) : std::nullopt;
 }
 
 } // namespace
@@ -48,29 +52,42 @@ void CondizioniPagamento::MostraCampi(const CampiCondizione& campi) {
     }
 }
 
-// Failing statements are skipped from the amount on. Ahead of it nothing is shown of a row that lacks a value, or the
-// fields of one term would be stored under the key of another.
+// Failing statements are skipped from the amount on. Ahead of it nothing is shown of a row of which something can't be
+// read, or the fields of one term would be stored under the key of another.
 void CondizioniPagamento::MostraRecord() {
     ado::Recordset& rs = ui_->CPAdo->Recordset();
     const double chiave = ado::toDouble(rs["IDPagamento"]), regola = ado::toDouble(rs["IDDecorrenza"]);
     const std::string descrizione = ado::toText(rs["Descrizione"]), numeroRate = ado::toText(rs["NRrate"]);
+    const std::optional<std::string> nomeRegola = NomeDellaRegola(*ui_->Decorrenza, regola);
     chiave_ = chiave;
-    decorrenza_ = regola;
+    if (nomeRegola) {
+        ui_->IDDecorrenza->setText(*nomeRegola);
+    }
+    decorrenza_ = regola; // last, since by its name the combo finds the first one of several
     ui_->IDPagamento->setText(QStringLiteral("N. ") + QString::fromStdString(ado::plainNumber(chiave)));
     ui_->Descrizione->setText(descrizione);
     ui_->NRrate->setText(numeroRate);
-    MostraScelta(kSenzaRegola, *ui_->IDDecorrenza, *ui_->Decorrenza, "iddecorrenza=" + ado::plainNumber(regola));
-    ui_->Decorrenza->Refresh();
     salta([&] { ui_->RataAnticipo->setText(ado::toText(rs["RataAnticipo"])); });
     for (controls::TextBox* campo : scadenze_) {
         salta([&] { campo->setText(ado::toText(rs[campo->objectName().toStdString()])); });
     }
     salta([&] { tipoRimessa_ = ado::toDouble(rs["IdTipoRimessa"]); });
-    MostraScelta(kSaltando, *ui_->IdTipoRimessa, *ui_->TipoIncasso, "idtiporimessa=" + ado::plainNumber(tipoRimessa_));
-    salta([this] { ui_->TipoIncasso->Recordset().setFilter(""); });
+    MostraTipo();
     CampiCondizione campi = Campi();
     TogliRateVuote(campi);
     MostraCampi(campi);
+}
+
+// Failing statements are skipped. The filter doesn't stay, so that another kind can be chosen.
+void CondizioniPagamento::MostraTipo() {
+    controls::DataControl& elenco = *ui_->TipoIncasso;
+    salta([&] { elenco.Recordset().setFilter("idtiporimessa=" + ado::plainNumber(tipoRimessa_)); });
+    salta([&] {
+        if (!elenco.Recordset().EOF()) {
+            ui_->IdTipoRimessa->setText(ado::toText(elenco.Recordset()["Descrizione"]));
+        }
+    });
+    salta([&] { elenco.Recordset().setFilter(""); });
 }
 
 void CondizioniPagamento::PulisciCampi() {

@@ -5,6 +5,8 @@
 #include "kit/IsEmptyValue.h"
 #include "payment_terms/SenzaBuchi.h"
 
+#include <cstdint>
+
 namespace vabo {
 
 namespace {

@@ -19,8 +19,8 @@ void TogliZeri(CampiDecorrenza& campi);
 
 /// Makes the name of a rule out of its days and adds the months to it, also where it has them already. Days replace a
 /// name where there is a second one, and are added to it else; a rule without a name gets its months alone. Raises 9
-/// "Subscript out of range" for a month below 0 or above 13, 13 "Type mismatch" for one that is no number; the name
-/// has then what comes ahead of that month.
+/// "Subscript out of range" for a month below 0 or above 13, 6 "Overflow" for one that is too large for a number of
+/// that kind, 13 "Type mismatch" for one that is no number; the name has then what comes ahead of that month.
 void ComponiNome(CampiDecorrenza& campi);
 
 } // namespace vabo

@@ -39,6 +39,7 @@ bool SalvaDecorrenza(double chiave, const CampiDecorrenza& campi) {
     const Restituzione restituzione(kPostoDecorrenza);
     ado::Recordset& rs = RsCondivisi(kPostoDecorrenza);
     ApriDecorrenza(rs, chiave);
+    // Whether the third month is stored is asked of the second alone; where it is empty itself it is 0 as the others.
     ScriviColonne(kSenzaRegola, rs,
                   {{"Descrizione", campi.descrizione},
                    {"GiornoScadenza", campi.giorni[0], SeVuoto::Zero},

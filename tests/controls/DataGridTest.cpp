@@ -336,6 +336,9 @@ TEST_F(DataGrid, TypedLettersSearchARowAndPickNone) {
     EXPECT_EQ(told(), Told{});
     QTest::keyClick(&grid, Qt::Key_Space);
     EXPECT_EQ(told(), (Told{"row 2", "click"}));
+    told().clear();
+    QTest::keyClick(&grid, Qt::Key_Return);
+    EXPECT_EQ(told(), (Told{"row 2", "click", "double"}));
 }
 
 TEST_F(DataGrid, AheadOfItsFirstRowItSearchesTheFirstColumnThatIsSeen) {
@@ -385,24 +388,31 @@ TEST_F(DataGrid, ADoubleClickIsOneClickAndThenItself) {
     EXPECT_EQ(told(), (Told{"row 2", "click", "double"}));
 }
 
-TEST_F(DataGrid, AClickBesideTheRowsIsAClickAlone) {
+TEST_F(DataGrid, AClickBesideTheRowsIsNone) {
     told();
     const QPoint below(10, grid.viewport()->height() - 5);
     QTest::mouseClick(grid.viewport(), Qt::LeftButton, {}, below);
-    EXPECT_EQ(told(), Told{"click"});
+    EXPECT_EQ(told(), Told{});
     QTest::mousePress(grid.viewport(), Qt::LeftButton, {}, below);
+    QTest::mouseRelease(grid.viewport(), Qt::LeftButton, {}, middleOf(1));
+    EXPECT_EQ(told(), Told{}) << "nor one that begins there";
+    QTest::mousePress(grid.viewport(), Qt::LeftButton, {}, middleOf(1));
+    QTest::mouseRelease(grid.viewport(), Qt::LeftButton, {}, below);
+    EXPECT_EQ(told(), Told{"row 2"}) << "nor one that ends there";
+    QTest::mousePress(grid.viewport(), Qt::LeftButton, {}, middleOf(1));
     QTest::mouseRelease(grid.viewport(), Qt::LeftButton, {}, QPoint(10, grid.viewport()->height() + 40));
-    QTest::mouseClick(grid.viewport(), Qt::RightButton, {}, below);
-    EXPECT_EQ(told(), Told{"click"}) << "the button came up elsewhere, or was the other one";
+    QTest::mouseClick(grid.viewport(), Qt::RightButton, {}, middleOf(1));
+    EXPECT_EQ(told(), (Told{"row 2", "row 2", "row 2"})) << "the button came up elsewhere, or was the other one";
 }
 
 TEST_F(DataGrid, AGridWithoutRowsGoesNowhere) {
     told();
     source.Recordset().setFilter("id = 99");
     QTest::mouseClick(grid.viewport(), Qt::LeftButton, {}, QPoint(10, 10));
-    QTest::keyClick(&grid, Qt::Key_Down);
-    QTest::keyClick(&grid, Qt::Key_Space);
-    EXPECT_EQ(told(), Told{"click"});
+    for (const Qt::Key key : {Qt::Key_Down, Qt::Key_Space, Qt::Key_Return}) {
+        QTest::keyClick(&grid, key);
+    }
+    EXPECT_EQ(told(), Told{});
 }
 
 TEST_F(DataGrid, EachKeyIsToldOnceWithItsModifiersAheadOfItsEffect) {

@@ -7,6 +7,7 @@
 
 #include <QAbstractItemView>
 #include <QCompleter>
+#include <QDialog>
 #include <QLineEdit>
 #include <QTest>
 
@@ -56,6 +57,24 @@ TEST_F(Picker, APickGivesTheKeyOfItsRow) {
     gui.pick("F", "secondo", "Mela");
     EXPECT_EQ(picked, (Told{"primo 3.000000", "secondo 1.000000"})) << "the key is one for both";
     EXPECT_EQ(&pickers.at(0)->key(), &pickers.at(1)->key());
+}
+
+TEST_F(Picker, APickWhileTheFormIsDisabledOrABoxIsOpenIsNone) {
+    key = 7;
+    const int row = combo().findText("Albicocca");
+    gui.form("F").setEnabled(false);
+    emit combo().activated(row);
+    EXPECT_EQ(key, 7);
+    gui.form("F").setEnabled(true);
+    QDialog box;
+    box.setModal(true);
+    box.show();
+    emit combo().activated(row);
+    EXPECT_EQ(key, 7);
+    EXPECT_EQ(picked, Told{});
+    box.hide();
+    gui.pick("F", "primo", "Albicocca");
+    EXPECT_EQ(key, 3);
 }
 
 TEST_F(Picker, AClickElsewhereAndATextFromCodePickNothing) {

@@ -27,6 +27,7 @@ protected:
         PilaForm = {"Avvio_Azienda", form};
         CimaForm = 1;
         pagina.show();
+        support::Gui::handleEvents(); // the form becomes active once more where the one below was in front meanwhile
     }
     std::string testo(const std::string& nome) const { return pagina.text(nome); }
     std::string fuoco() const { return pagina.focus(); }

@@ -174,65 +174,6 @@ TEST_F(FormCondizioni, ARuleOrAKindThatIsGoneLeavesItsComboAsItWas) {
     EXPECT_EQ(condizione("IDPagamento = 9")[5], "4");
 }
 
-/// The table again, with every column nullable, and one term that is null in the column.
-void conNullo(const std::function<void(const std::string&)>& esegui, const std::string& colonna) {
-    std::string colonne;
-    for (int i = 1; i <= 12; ++i) {
-        colonne += ", Scadenza" + std::to_string(i) + " int null";
-    }
-    esegui("drop table CondizioniPagamento");
-    esegui("create table CondizioniPagamento (IDPagamento int null, Descrizione nvarchar(50) null, NRrate int null, "
-           "IDDecorrenza int null, RataAnticipo decimal(18,2) null, IdTipoRimessa int null" +
-           colonne + ")");
-    for (const char* chiave : {"1", "2"}) {
-        const std::string giorni = std::string(chiave) == "1" ? "10" : "20";
-        std::string valori;
-        for (int i = 1; i <= 12; ++i) {
-            valori += ", " + giorni;
-        }
-        esegui(std::string("insert into CondizioniPagamento values (") + chiave + ", 'Nome " + chiave + "', " + chiave +
-               ", " + chiave + ", " + chiave + ", " + chiave + valori + ")");
-    }
-    esegui("update CondizioniPagamento set " + colonna + " = null where IDPagamento = 2");
-}
-
-TEST_F(FormCondizioni, ANullAheadOfTheAmountIsToldAndTheTermShownStays) {
-    for (const char* colonna : {"IDPagamento", "Descrizione", "NRrate"}) {
-        SCOPED_TRACE(colonna);
-        conNullo([this](const std::string& sql) { esegui(sql); }, colonna);
-        apri();
-        scegli(1);
-        const Riga prima = campi();
-        EXPECT_EQ(prima[5], "Nome 1");
-        vaiA("DataGrid1");
-        script.expectMessage("Invalid use of Null");
-        // By its place, since it may have no key.
-        griglia().selectRow(griglia().currentIndex().row() == 0 ? 1 : 0);
-        gui.press(Qt::Key_Space);
-        EXPECT_TRUE(script.allShown());
-        EXPECT_EQ(campi(), prima);
-        EXPECT_EQ(testo("IDPagamento"), "N. 1");
-        EXPECT_EQ(fuoco(), "DataGrid1");
-        gui.click(kCondizioni, "Chiudi");
-    }
-}
-
-TEST_F(FormCondizioni, ANullBehindItLeavesItsFieldAsItWas) {
-    for (const std::string colonna : {"RataAnticipo", "Scadenza1", "Scadenza7", "Scadenza12"}) {
-        SCOPED_TRACE(colonna);
-        conNullo([this](const std::string& sql) { esegui(sql); }, colonna);
-        apri();
-        scegli(1);
-        scegli(2);
-        for (int i = 1; i <= 12; ++i) {
-            EXPECT_EQ(testo(scadenza(i)), colonna == scadenza(i) ? "10" : "20") << i;
-        }
-        EXPECT_EQ(testo("RataAnticipo"), colonna == "RataAnticipo" ? "1" : "2");
-        EXPECT_EQ(tipo(), "Bonifico bancario");
-        gui.click(kCondizioni, "Chiudi");
-    }
-}
-
 TEST_F(FormCondizioni, ListsThatCannotBeReadAreSkippedAtTheOpening) {
     esegui("drop table CondizioniPagamento");
     apri();
@@ -250,21 +191,6 @@ TEST_F(FormCondizioni, ListsThatCannotBeReadAreSkippedAtTheOpening) {
     apri();
     EXPECT_EQ(pagina.combo("IdTipoRimessa").count(), 0);
     EXPECT_EQ(fuoco(), "IDDecorrenza");
-}
-
-TEST_F(FormCondizioni, ANullNameInAListIsSkippedForTheKindAndToldForTheRule) {
-    esegui("update CondizioniPagamentoTipoIncasso set Descrizione = null where IdTipoRimessa = 1");
-    apri();
-    scegli(9);
-    scegli(3);
-    EXPECT_EQ(tipo(), "Assegno");
-    EXPECT_EQ(pagina.combo("IdTipoRimessa").count(), 5) << "the list is whole again";
-    esegui("update CondizioniPagamentoDecorrenza set Descrizione = null where IDDecorrenza = 2");
-    pagina.control<controls::DataControl>("Decorrenza").Refresh();
-    scegli(9);
-    script.expectMessage("Invalid use of Null");
-    scegli(3);
-    EXPECT_TRUE(script.allShown());
 }
 
 TEST_F(FormCondizioni, AnEmptyTableHasNothingToPick) {

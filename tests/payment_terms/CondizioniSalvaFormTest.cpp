@@ -108,6 +108,30 @@ TEST_F(FormCondizioni, ANameOfFiftyLettersIsNotCut) {
     EXPECT_EQ(ultima()[0], std::string(50, 'x'));
 }
 
+TEST_F(FormCondizioni, ACharacterOfTwoHalvesIsNotCutInTwo) {
+    apri();
+    const std::string faccina = "\xF0\x9F\x98\x80";
+    for (const int davanti : {48, 49, 50}) {
+        componi("Fine mese", "", {}, "Assegno");
+        campo("Descrizione").setText(std::string(davanti, 'x') + faccina + "y");
+        invio();
+        EXPECT_EQ(ultima()[0], std::string(davanti, 'x') + (davanti == 48 ? faccina : std::string()));
+    }
+}
+
+TEST_F(FormCondizioni, AnAdvanceLeftByMouseIsStoredAsItStands) {
+    apri();
+    for (const auto& [digitato, scritto] : {std::pair{"1.500", "1500.00"}, std::pair{"12,5", "12.50"}}) {
+        scegli(3);
+        vaiA("RataAnticipo");
+        gui.type(digitato);
+        vaiA("Descrizione");
+        EXPECT_EQ(testo("RataAnticipo"), digitato);
+        invio();
+        EXPECT_EQ(condizione("IDPagamento = 3")[3], scritto);
+    }
+}
+
 TEST_F(FormCondizioni, AWorkedOutNameIsCutToo) {
     apri();
     componi("Data fattura", "", {"30", "60", "90", "120", "150", "180", "210", "240", "270", "300", "330", "360"},
@@ -213,27 +237,49 @@ TEST_F(FormCondizioni, HostileTextsInTheNameAreStoredAsTheyStand) {
 TEST_F(FormCondizioni, HostileTextsInTheNumbersAreRefusedByTheirColumnsAndTold) {
     apri();
     const int quante = quanti("CondizioniPagamento");
+    const Riga ultimaPrima = condizione("IDPagamento = 14");
     Testi testi = ostili();
     testi.emplace_back(4'000, 'x');
     testi.emplace_back(4'000, '9');
+    Testi numeri = {"RataAnticipo"};
+    for (int i = 1; i <= 12; ++i) {
+        numeri.push_back(scadenza(i));
+    }
     for (const std::string& ostile : testi) {
-        for (const std::string nome : {"RataAnticipo", "Scadenza1"}) {
+        for (const std::string& nome : numeri) {
             SCOPED_TRACE(ostile.substr(0, 20) + " in " + nome);
-            componi("Fine mese", "", {}, "Assegno");
+            scegli(14);
             campo(nome).setText(ostile);
-            vaiA("IDDecorrenza");
             vaiA("Descrizione");
             const Riga prima = campi();
+            EXPECT_EQ(testo(nome), QLineEdit(QString::fromStdString(ostile)).text().toStdString());
             script.expectMessage(kRifiutato);
             invio();
             EXPECT_TRUE(script.allShown());
-            EXPECT_EQ(campi()[1], prima[1]) << "the fields stay";
+            EXPECT_EQ(campi()[0], prima[0]) << "the fields stay";
+            EXPECT_EQ(campi()[1], prima[1]);
+            EXPECT_EQ(campi()[2], prima[2]);
+            EXPECT_EQ(campi()[3], prima[3]);
+            EXPECT_EQ(campi()[4], prima[4]);
+            EXPECT_EQ(campi()[5], QString::fromStdString(prima[5]).left(50).toStdString()) << "the name is cut";
             EXPECT_EQ(fuoco(), "Descrizione");
-            gui.click(kCondizioni, "Chiudi");
-            apri();
         }
     }
     EXPECT_EQ(quanti("CondizioniPagamento"), quante);
+    EXPECT_EQ(condizione("IDPagamento = 14"), ultimaPrima);
+}
+
+TEST_F(FormCondizioni, HostileTextsInTheNumberOfInstalmentsAreWorkedOutAnew) {
+    apri();
+    for (const std::string& ostile : ostili()) {
+        scegli(3);
+        vaiA("NRrate");
+        campo("NRrate").setText(ostile);
+        vaiA("Descrizione");
+        EXPECT_EQ(testo("NRrate"), "3") << ostile;
+        invio();
+        EXPECT_EQ(condizione("IDPagamento = 3")[1], "3") << ostile;
+    }
 }
 
 TEST_F(FormCondizioni, HostileTextsInTheCombosAreTakenBack) {

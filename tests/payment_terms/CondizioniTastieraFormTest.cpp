@@ -2,6 +2,8 @@
 
 #include "CondizioniForm.h"
 
+#include <algorithm>
+
 namespace vabo {
 namespace {
 
@@ -46,6 +48,52 @@ TEST_F(FormCondizioni, ATermIsEnteredChangedAndLeftByKeyboardAlone) {
     EXPECT_EQ(ultima()[0], "Bonifico bancario a 30 Sc.il 10 - 25 del mese");
     QTest::keyClick(gui.form(kCondizioni).windowHandle(), Qt::Key_C, Qt::AltModifier);
     support::Gui::waitFor("the form below", [this] { return gui.visibleForms() == "Avvio_Azienda"; });
+}
+
+TEST_F(FormCondizioni, ShiftTabLeadsFromTheKindToWhereTheInstalmentsEnd) {
+    apri();
+    for (int piene = 0; piene <= 12; ++piene) {
+        SCOPED_TRACE(piene);
+        for (int i = 1; i <= 12; ++i) {
+            campo(scadenza(i)).setText(i <= piene ? "30" : "");
+        }
+        vaiA("IdTipoRimessa");
+        ASSERT_EQ(fuoco(), "IdTipoRimessa");
+        gui.press(Qt::Key_Backtab, Qt::ShiftModifier);
+        const int meta = piene == 12 ? 12 : std::min(piene + 1, 11);
+        ASSERT_EQ(fuoco(), scadenza(meta));
+        for (int i = meta - 1; i >= 1; --i) {
+            gui.press(Qt::Key_Backtab, Qt::ShiftModifier);
+            ASSERT_EQ(fuoco(), scadenza(i));
+        }
+        gui.press(Qt::Key_Backtab, Qt::ShiftModifier);
+        EXPECT_EQ(fuoco(), "RataAnticipo");
+    }
+}
+
+TEST_F(FormCondizioni, AnEmptyKindIsLeftBackwards) {
+    apri();
+    for (const char* vuoto : {"", " ", "0"}) {
+        vaiA("IdTipoRimessa");
+        pagina.combo("IdTipoRimessa").setText(vuoto);
+        gui.press(Qt::Key_Backtab, Qt::ShiftModifier);
+        EXPECT_EQ(fuoco(), "Scadenza1") << vuoto;
+    }
+}
+
+TEST_F(FormCondizioni, ARowFoundByItsLettersIsShownByEnter) {
+    apri();
+    for (const Qt::Key tasto : {Qt::Key_Return, Qt::Key_Enter}) {
+        const int prima = tasto == Qt::Key_Return ? 3 : 14;
+        const int meta = tasto == Qt::Key_Return ? 9 : 3;
+        scegli(prima);
+        vaiA("DataGrid1");
+        griglia().selectRow(rigaDi(meta));
+        EXPECT_EQ(testo("IDPagamento"), "N. " + std::to_string(prima));
+        gui.press(tasto);
+        EXPECT_EQ(testo("IDPagamento"), "N. " + std::to_string(meta));
+        EXPECT_EQ(fuoco(), "IDDecorrenza");
+    }
 }
 
 TEST_F(FormCondizioni, EveryControlIsReachedByTab) {

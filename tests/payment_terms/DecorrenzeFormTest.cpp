@@ -181,7 +181,31 @@ TEST_F(FormDecorrenze, AGridWithoutRowsShowsNothing) {
     QTest::mouseClick(griglia().viewport(), Qt::LeftButton);
     support::Gui::handleEvents();
     EXPECT_EQ(campi(), (Riga{"", "", "", "", "8", "", "", ""}));
-    EXPECT_EQ(fuoco(), "GiornoScadenza");
+    EXPECT_EQ(fuoco(), "DataGrid1");
+}
+
+TEST_F(FormDecorrenze, ARuleIsShownByEnterToo) {
+    apri();
+    for (const int chiave : {5, 2}) {
+        vaiA("DataGrid1");
+        griglia().selectRow(rigaDi(chiave));
+        gui.press(chiave == 5 ? Qt::Key_Return : Qt::Key_Enter);
+        EXPECT_EQ(testo("Descrizione"), regola("IDDecorrenza = " + std::to_string(chiave))[0]);
+        EXPECT_EQ(fuoco(), "GiornoScadenza");
+    }
+}
+
+TEST_F(FormDecorrenze, AClickBesideTheRowsLeavesAHalfTypedRule) {
+    apri();
+    ASSERT_GE(righe(), 1);
+    vaiA("GiornoScadenza");
+    gui.type("7");
+    const Riga prima = campi();
+    QTest::mouseClick(griglia().viewport(), Qt::LeftButton, {}, QPoint(20, griglia().viewport()->height() - 4));
+    support::Gui::handleEvents();
+    EXPECT_EQ(campi(), prima);
+    clicca(5);
+    EXPECT_EQ(testo("Descrizione"), regola("IDDecorrenza = 5")[0]);
 }
 
 } // namespace

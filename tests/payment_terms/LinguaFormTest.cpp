@@ -150,6 +150,23 @@ TEST_F(FormCondizioni, WithoutALocalInstanceTheCaptionsAreItalian) {
     EXPECT_EQ(righe(), 14);
 }
 
+TEST_F(FormCondizioni, AStoredLanguageThatCannotBeReadIsItalian) {
+    LeggiLinguaClient("EN");
+    posto.run(support::kTemporaryDatabase, "drop table LinguaClient");
+    posto.run(support::kTemporaryDatabase, "create table LinguaClient (id int null)");
+    for (const char* riga : {"", "insert into LinguaClient (id) values (1)"}) {
+        if (*riga != '\0') {
+            posto.run(support::kTemporaryDatabase, riga);
+        }
+        apri();
+        EXPECT_EQ(testo("Label21"), "Condizioni di pagamento");
+        EXPECT_EQ(pagina.control<controls::ItemCombo>("ComboLingua").Text(), "IT");
+        EXPECT_EQ(LinguaCorrente, "IT");
+        EXPECT_EQ(righe(), 14);
+        gui.click(kCondizioni, "Chiudi");
+    }
+}
+
 // Nobody sees the combo; a pick in it can come from code alone.
 template<typename Form>
 class ComboDelleLingue : public Form {};

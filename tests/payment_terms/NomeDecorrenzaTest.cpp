@@ -83,7 +83,7 @@ void rifiuta(const Mesi& mesi, const std::string& fin, int errore) {
         ADD_FAILURE() << mesi[0] << " is named";
     } catch (const ado::Error& error) {
         EXPECT_EQ(error.number(), errore);
-        EXPECT_STREQ(error.what(), errore == 9 ? "Subscript out of range" : "Type mismatch");
+        EXPECT_STREQ(error.what(), errore == 9 ? "Subscript out of range" : errore == 6 ? "Overflow" : "Type mismatch");
     }
     EXPECT_EQ(campi.descrizione, fin);
 }
@@ -94,6 +94,8 @@ TEST(ComponiNome, AMonthOutOfRangeIsRefusedBehindWhatComesAheadOfIt) {
     rifiuta({"8", "20"}, "Sc.il 10 - 25 del mese escluso Agosto", 9);
     rifiuta({"8", "9", "99"}, "Sc.il 10 - 25 del mese escluso Agosto  Settembre", 9);
     rifiuta({"agosto"}, "Sc.il 10 - 25 del mese", 13);
+    rifiuta({"2147483647"}, "Sc.il 10 - 25 del mese", 9);
+    rifiuta({"8", "99999999999"}, "Sc.il 10 - 25 del mese escluso Agosto", 6);
 }
 
 /// Days and months behind TogliZeri.
@@ -133,9 +135,12 @@ TEST(DecorrenzeACaso, WhatIsStoredIsShownWithoutGapsAndASecondTimeTheSame) {
         RC_ASSERT(std::ranges::is_partitioned(campi.giorni, pieno));
         RC_ASSERT(std::ranges::is_partitioned(campi.mesi, pieno));
         RC_ASSERT(std::ranges::count(campi.giorni, "0") + std::ranges::count(campi.mesi, "0") == 0);
-        for (std::size_t i = 0; i < 4; ++i) {
-            RC_ASSERT(campi.giorni[i].empty() || campi.giorni[i] == prima.giorni[i]);
-        }
+        const auto restano = [](const auto& dopo, const auto& davanti) {
+            const auto zero = std::ranges::find(davanti, "0");
+            return std::equal(davanti.begin(), zero, dopo.begin());
+        };
+        RC_ASSERT(restano(campi.giorni, prima.giorni));
+        RC_ASSERT(restano(campi.mesi, prima.mesi));
         CampiDecorrenza dopo = campi;
         TogliZeri(dopo);
         RC_ASSERT(dopo.giorni == campi.giorni);

@@ -179,17 +179,5 @@ TEST(RateACaso, ASecondRunChangesNothing) {
     }));
 }
 
-TEST(RateACaso, AFieldTypedAnywhereLeavesNoGapBehind) {
-    EXPECT_TRUE(rc::check([] {
-        CampiCondizione campi = condizioneACaso();
-        const auto quanti = *rc::gen::inRange(0, 40);
-        for (int i = 0; i < quanti; ++i) {
-            campi.scadenze[*rc::gen::inRange<std::size_t>(0, kRate)] = campoACaso();
-            AggiornaRate(campi);
-            RC_ASSERT(senzaBuchi(campi));
-        }
-    }));
-}
-
 } // namespace
 } // namespace vabo

@@ -62,7 +62,7 @@ std::string ElencoStatiPerNome() {
     return "SELECT * FROM stati order by descstato";
 }
 
-std::string ElencoCondizioni() {
+std::string ElencoCondizioniAzienda() {
     return "SELECT CondizioniPagamento.IDPagamento, CondizioniPagamento.Descrizione FROM "
            "(CondizioniPagamentoDecorrenza INNER JOIN CondizioniPagamento ON "
            "CondizioniPagamentoDecorrenza.IDDecorrenza = CondizioniPagamento.IDDecorrenza) INNER JOIN "

@@ -22,7 +22,7 @@ std::string ElencoAzienda();
 std::string ElencoComuni();
 std::string ElencoStatiPerNome();
 /// The payment terms whose rule of commencement and kind of payment exist.
-std::string ElencoCondizioni();
+std::string ElencoCondizioniAzienda();
 
 /// The description of a payment term; empty where it has none and where it can't be read.
 std::string DescrizioneCondizione(double idPagamento);

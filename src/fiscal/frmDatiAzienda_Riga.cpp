@@ -20,7 +20,7 @@ namespace vabo {
 // Failing statements are skipped, and a failing test counts as true.
 void frmDatiAzienda::Load() {
     salta([this] { ui_->elenco->load(StringaAzienda, ElencoAzienda()); });
-    salta([this] { ui_->CondiPagamento->load(StringaAzienda, ElencoCondizioni()); });
+    salta([this] { ui_->CondiPagamento->load(StringaAzienda, ElencoCondizioniAzienda()); });
     salta([this] { ui_->comuni->load(StringaAzienda, ElencoComuni()); });
     salta([this] { ui_->r_stati->load(StringaAzienda, ElencoStatiPerNome()); });
     if (vera([this] { return !ui_->elenco->Recordset().EOF(); })) {

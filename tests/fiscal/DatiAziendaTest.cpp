@@ -66,7 +66,7 @@ TEST_F(DatiAzienda, ItsListsAreReadLetterForLetter) {
     EXPECT_EQ(ElencoAzienda(), "select * from DatiAzienda Order by ID");
     EXPECT_EQ(ElencoComuni(), "SELECT * from comuni order by des_comune");
     EXPECT_EQ(ElencoStatiPerNome(), "SELECT * FROM stati order by descstato");
-    EXPECT_EQ(ElencoCondizioni(),
+    EXPECT_EQ(ElencoCondizioniAzienda(),
               "SELECT CondizioniPagamento.IDPagamento, CondizioniPagamento.Descrizione FROM "
               "(CondizioniPagamentoDecorrenza INNER JOIN CondizioniPagamento ON "
               "CondizioniPagamentoDecorrenza.IDDecorrenza = CondizioniPagamento.IDDecorrenza) INNER JOIN "
@@ -75,7 +75,7 @@ TEST_F(DatiAzienda, ItsListsAreReadLetterForLetter) {
 }
 
 TEST_F(DatiAzienda, ATermIsListedOnlyWhereItsCommencementAndItsKindExist) {
-    const auto termini = [this] { return posto.rows(support::kCompany, ElencoCondizioni()).size(); };
+    const auto termini = [this] { return posto.rows(support::kCompany, ElencoCondizioniAzienda()).size(); };
     EXPECT_EQ(termini(), 9U);
     esegui("update CondizioniPagamento set IDDecorrenza = 99 where IDPagamento = 1");
     esegui("update CondizioniPagamento set IDDecorrenza = null where IDPagamento = 2");

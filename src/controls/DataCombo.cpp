@@ -251,6 +251,11 @@ void DataCombo::mousePressEvent(QMouseEvent* event) {
     QComboBox::mousePressEvent(event);
 }
 
+void DataCombo::focusInEvent(QFocusEvent* event) {
+    byMouse_ = event->reason() == Qt::MouseFocusReason;
+    QComboBox::focusInEvent(event);
+}
+
 void DataCombo::focusOutEvent(QFocusEvent* event) {
     const QScopedValueRollback leaving(leaving_, true);
     QComboBox::focusOutEvent(event);
@@ -295,7 +300,7 @@ bool DataCombo::eventFilter(QObject* watched, QEvent* event) {
 void DataCombo::takeFocus(const QWidget* control) {
     if (control == this) {
         lineEdit()->selectAll();
-        selectAtRelease_ = QApplication::mouseButtons() != Qt::NoButton;
+        selectAtRelease_ = byMouse_;
         emit GotFocus();
     }
 }

@@ -63,6 +63,7 @@ protected:
     void inputMethodEvent(QInputMethodEvent* event) override;
     void wheelEvent(QWheelEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
+    void focusInEvent(QFocusEvent* event) override;
     void focusOutEvent(QFocusEvent* event) override;
     void hideEvent(QHideEvent* event) override;
     void showPopup() override;
@@ -85,6 +86,7 @@ private:
     QString chosen_;     ///< the text last picked or set by the form, or typed where typed text counts
     bool freeText_ = false;
     bool leaving_ = false;
+    bool byMouse_ = false; ///< the focus came by a press of the mouse
     bool selectAtRelease_ = false;
 };
 

@@ -1,14 +1,20 @@
 #pragma once
 
 #include <QObject>
+#include <QPointer>
+#include <QWidget>
 
 class QKeyEvent;
+class QMouseEvent;
 
 namespace controls {
 
 /// Drops keys and clicks that must not count, everywhere in the program. Enter acts once for each time the key is
 /// pressed: the repeats of a held key are dropped, so that no command and no store runs again. A control that isn't
 /// visible gets no input: the second click of a double click may arrive after the first has hidden the form.
+///
+/// A press that moves the focus may open a box, in the LostFocus of the field before, and the mouse is then released
+/// over the box. The control gets the release behind its press: a button is clicked, and doesn't stay down.
 ///
 /// A button's mnemonic sets the focus to the button, as a click does, so that the field that had it gets its LostFocus.
 class UserInput : public QObject {
@@ -26,6 +32,9 @@ public:
 
 private:
     using QObject::QObject;
+    void releaseBehind(QWidget& control, const QMouseEvent& press);
+
+    QPointer<QWidget> pressed_; ///< will get its release
 };
 
 } // namespace controls

@@ -99,6 +99,16 @@ void DataCombo::takeTyped(const QString& text) {
     }
 }
 
+void DataCombo::endEntry() {
+    const int row = typedRow_ && currentText() != chosen_ ? list_->rowTyped(currentText()) : -1;
+    if (row >= 0) {
+        pickedRow_ = row;
+        setEditText(list_->textAt(row));
+        setChosen(list_->textAt(row));
+    }
+    restoreChosen();
+}
+
 void DataCombo::restoreChosen() {
     completer()->popup()->hide();
     if (currentText() == chosen_) {
@@ -307,7 +317,7 @@ void DataCombo::takeFocus(const QWidget* control) {
 
 void DataCombo::loseFocus(const QWidget* control) {
     if (control == this) {
-        restoreChosen();
+        endEntry();
         emit LostFocus();
     }
 }

@@ -1,6 +1,7 @@
 #include "controls/DataGrid.h"
 
 #include "ado/Conversions.h"
+#include "controls/RowsInSight.h"
 #include "controls/UserInput.h"
 
 #include <QHeaderView>
@@ -79,7 +80,8 @@ ado::Value DataGrid::Column::Value() const {
     return grid_->model_->source()->Recordset()[index_].Value();
 }
 
-DataGrid::DataGrid(QWidget* parent) : QTableView(parent), model_(new RecordsetModel(this)) {
+DataGrid::DataGrid(QWidget* parent)
+    : QTableView(parent), model_(new RecordsetModel(this)), inSight_(new RowsInSight(*this)) {
     setModel(model_);
     setSelectionBehavior(SelectRows);
     setSelectionMode(SingleSelection);
@@ -228,10 +230,25 @@ void DataGrid::keyPressEvent(QKeyEvent* event) {
     }
 }
 
+void DataGrid::pickFromAfar(int row) {
+    if (row >= 0) {
+        setCurrentIndex(model_->index(row, visibleColumn()));
+        takeRow();
+        tellMove(0);
+    }
+}
+
 void DataGrid::mousePressEvent(QMouseEvent* event) {
+    const QPoint place = event->position().toPoint();
+    const int row = inSight_->pressedRow(place.y());
+    elsewhere_ = row != rowAt(place.y());
+    pressed_ = event->button() == Qt::LeftButton && !elsewhere_;
+    if (elsewhere_) {
+        pickFromAfar(row);
+        return;
+    }
     QTableView::mousePressEvent(event);
-    pressed_ = event->button() == Qt::LeftButton;
-    if (indexAt(event->position().toPoint()).isValid()) {
+    if (indexAt(place).isValid()) {
         takeRow();
         tellMove(0);
     }
@@ -239,12 +256,16 @@ void DataGrid::mousePressEvent(QMouseEvent* event) {
 
 // Moving with the button held down changes the row, too.
 void DataGrid::mouseMoveEvent(QMouseEvent* event) {
+    if (elsewhere_) {
+        return;
+    }
     const long before = position();
     QTableView::mouseMoveEvent(event);
     tellMove(before);
 }
 
 void DataGrid::mouseReleaseEvent(QMouseEvent* event) {
+    elsewhere_ = false;
     QTableView::mouseReleaseEvent(event);
     const bool clicked = pressed_ && viewport()->rect().contains(event->position().toPoint());
     if (event->button() == Qt::LeftButton) {
@@ -318,6 +339,9 @@ void DataGrid::initViewItemOption(QStyleOptionViewItem* option) const {
 }
 
 void DataGrid::focusInEvent(QFocusEvent* event) {
+    if (event->reason() == Qt::MouseFocusReason) {
+        inSight_->remember();
+    }
     QTableView::focusInEvent(event);
     followRecordset();
 }

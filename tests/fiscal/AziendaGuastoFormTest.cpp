@@ -60,10 +60,24 @@ TEST_F(AziendaForm, AtWhicheverStatementTheSaveFailsItIsToldTheFormStaysAndTheNe
     }
 }
 
+/// What the town's statements cost, where the one at this place fails.
+struct Costo {
+    Testi scatole;
+    int inviate;
+    std::string provincia;
+};
+
 TEST_F(AziendaForm, AtWhicheverStatementTheTownFailsItIsToldAndMayBeLeftAgain) {
+    const std::string rifiuto = GuastoAPosto::kRifiuto;
+    const std::vector<Costo> costi = {
+        {{}, 3, "TO"},
+        {{rifiuto, "Object variable or With block variable not set"}, 1, ""}, // the list on entry
+        {{rifiuto}, 2, "TO"},                                                 // the state
+        {{rifiuto}, 3, "TO"}};                                                // the list on leaving
     apri();
-    for (int posto = 1; posto <= 3; ++posto) { // the list on entry, the state, the list on leaving
+    for (int posto = 0; posto < static_cast<int>(costi.size()); ++posto) {
         SCOPED_TRACE(posto);
+        const Costo& costo = costi[static_cast<std::size_t>(posto)];
         vaiA("nomesocietà");
         metti("statooprovincia", "");
         const support::HeardBoxes scatole;
@@ -71,14 +85,28 @@ TEST_F(AziendaForm, AtWhicheverStatementTheTownFailsItIsToldAndMayBeLeftAgain) {
             const GuastoAPosto guasto(posto);
             vaiA("DataCombo1");
             vaiA("cap");
+            EXPECT_EQ(guasto.inviate(), costo.inviate);
         }
-        EXPECT_EQ(scatole.texts.front(), GuastoAPosto::kRifiuto);
+        EXPECT_EQ(scatole.texts, costo.scatole);
         EXPECT_EQ(fuoco(), "cap");
+        EXPECT_EQ(testi({"DataCombo1", "cap", "statooprovincia"}), (Riga{"Torino", "10121", costo.provincia}));
         vaiA("DataCombo1");
         vaiA("cap");
         EXPECT_EQ(testi({"DataCombo1", "cap", "statooprovincia"}), (Riga{"Torino", "10121", "TO"}));
         EXPECT_EQ(std::to_string(pagina.combo("DataCombo1").count()), valore("select count(*) from comuni"));
+        EXPECT_EQ(scatole.texts, costo.scatole) << "the second time all is well";
     }
+}
+
+TEST_F(AziendaForm, WhatIsReadAheadOfAMissingColumnOfTheTownIsShown) {
+    esegui("exec sp_rename 'comuni.DES_PROVIN', 'altro', 'COLUMN'");
+    apri();
+    metti("cap", "99999");
+    metti("statooprovincia", "XX");
+    script.expectMessage("Item cannot be found in the collection corresponding to the requested name or ordinal.");
+    vaiA("DataCombo1");
+    gui.press(Qt::Key_Return);
+    EXPECT_EQ(testi({"cap", "statooprovincia"}), (Riga{"10121", "XX"}));
 }
 
 TEST_F(AziendaForm, ARowThatAnotherUserHoldsIsToldAndLaterStored) {

@@ -100,7 +100,8 @@ void DataCombo::takeTyped(const QString& text) {
 }
 
 void DataCombo::endEntry() {
-    const int row = typedRow_ && currentText() != chosen_ ? list_->rowTyped(currentText()) : -1;
+    const bool typed = !currentText().isEmpty() && currentText() != chosen_;
+    const int row = typedRow_ && typed ? list_->rowTyped(currentText()) : -1;
     if (row >= 0) {
         pickedRow_ = row;
         setEditText(list_->textAt(row));

@@ -16,7 +16,7 @@ TEST_F(AziendaForm, AtWhicheverStatementTheLoadFailsTheFormStandsAndNothingIsTol
         tutte = nessuno.inviate();
         chiudi();
     }
-    ASSERT_GE(tutte, 7);
+    ASSERT_EQ(tutte, 7); // the company, the terms, the towns, the states; both descriptions, the state's name
     for (const GuastoAPosto::Durata durata : {GuastoAPosto::Durata::Una, GuastoAPosto::Durata::DaQui}) {
         for (int posto = 1; posto <= tutte; ++posto) {
             SCOPED_TRACE(posto);
@@ -25,6 +25,16 @@ TEST_F(AziendaForm, AtWhicheverStatementTheLoadFailsTheFormStandsAndNothingIsTol
             EXPECT_TRUE(gui.isVisible("frmDatiAzienda"));
             EXPECT_EQ(testo("nomesocietà"), posto == 1 ? "" : "Associazione Aurora");
             EXPECT_EQ(testo("Banca"), posto == 1 ? "" : "Banca del Mattino");
+            const auto fallita = [&](int quale) {
+                return posto == quale || (durata == GuastoAPosto::Durata::DaQui && posto < quale);
+            };
+            for (const auto& [elenco, quale] : {std::pair("DCPagamento1", 2), {"DataCombo1", 3}, {"DataCombo2", 4}}) {
+                EXPECT_EQ(pagina.combo(elenco).count() == 0, fallita(quale)) << elenco;
+            }
+            EXPECT_EQ(testo("DataCombo1") == "Seleziona", posto == 1);
+            EXPECT_EQ(testo("DCPagamento2").empty(), posto == 1 || fallita(5));
+            EXPECT_EQ(testo("DCPagamento1").empty(), posto == 1 || fallita(6));
+            EXPECT_EQ(testo("DataCombo2") == "Seleziona", posto == 1 || fallita(7));
             chiudi();
         }
     }

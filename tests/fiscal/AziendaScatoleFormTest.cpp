@@ -42,7 +42,7 @@ TEST_F(AziendaScatole, AWrongFiscalCodeKeepsTheFocusFromTheMouse) {
     for (const RealBoxes::Answer risposta : {RealBoxes::Answer::ByKey, RealBoxes::Answer::ByMouse}) {
         for (const char* altrove : {"p_iva", "Banca", "DataCombo1", "Check1"}) {
             scatole.answered = risposta;
-        scatole.texts.clear();
+            scatole.texts.clear();
             clicca(scatole, altrove);
             EXPECT_EQ(scatole.texts, Testi{kErrato}) << altrove;
             EXPECT_EQ(fuoco(), "codice_fiscale") << altrove;
@@ -111,7 +111,9 @@ TEST_F(AziendaScatole, ATownThatIsMissingIsToldAndTheFormCloses) {
     apri();
     metti("Banca", "Altra");
     RealBoxes scatole;
+    const support::StatementRecorder recorder;
     clicca(scatole, "cmdCancel");
+    EXPECT_EQ(recorder.texts(), Testi{}) << "the form is gone before the town has the focus";
     EXPECT_EQ(scatole.texts, Testi{"Attenzione nome città non inserito."});
     EXPECT_FALSE(aperta());
     EXPECT_EQ(tutto(), prima);

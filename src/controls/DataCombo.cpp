@@ -269,7 +269,11 @@ void DataCombo::focusInEvent(QFocusEvent* event) {
 
 void DataCombo::focusOutEvent(QFocusEvent* event) {
     const QScopedValueRollback leaving(leaving_, true);
+    const QString text = currentText();
     QComboBox::focusOutEvent(event);
+    if (currentText() != text) {
+        setEditText(text); // the toolkit shows a row that differs in its case
+    }
 }
 
 void DataCombo::showPopup() {

@@ -29,13 +29,13 @@ protected:
         auto* layout = new QVBoxLayout(form.get());
         const auto add = [&](QWidget* control, const char* name) {
             control->setObjectName(name);
-            layout->addWidget(control);
+            layout->addWidget(control, 0, Qt::AlignLeft); // a tick is changed on its text, not beside it
         };
         auto* field = new controls::TextBox;
         auto* button = new QPushButton;
         add(field, "field");
         add(button, "button");
-        add(new QCheckBox, "box");
+        add(new QCheckBox("spunta"), "box");
         auto* other = new controls::TextBox;
         other->setText("testo");
         add(other, "other");
@@ -64,14 +64,6 @@ TEST_F(BoxOfALostFocus, TheButtonIsClickedOnceAndDoesNotStayDown) {
         boxes.click(button());
         EXPECT_EQ(clicks, 2) << "the next click is one as ever";
     }
-}
-
-TEST_F(BoxOfALostFocus, AButtonThatIsHeldUntilTheBoxIsClosedIsClickedAtItsRelease) {
-    boxes.holds = true;
-    boxes.click(button());
-    EXPECT_THAT(boxes.texts, ElementsAre("Errato"));
-    EXPECT_EQ(clicks, 1);
-    EXPECT_FALSE(button().isDown());
 }
 
 TEST_F(BoxOfALostFocus, ATickChangesOnce) {

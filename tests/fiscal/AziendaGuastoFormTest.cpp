@@ -109,7 +109,9 @@ TEST_F(AziendaForm, AtWhicheverStatementTheTownFailsItIsToldAndMayBeLeftAgain) {
 }
 
 TEST_F(AziendaForm, WhatIsReadAheadOfAMissingColumnOfTheTownIsShown) {
-    esegui("exec sp_rename 'comuni.DES_PROVIN', 'altro', 'COLUMN'");
+    esegui("drop table comuni");
+    esegui("create table comuni (des_comune nvarchar(50), COD_CAP nvarchar(5), IdStato int)");
+    esegui("insert into comuni values ('Torino', '10121', 1)");
     apri();
     metti("cap", "99999");
     metti("statooprovincia", "XX");

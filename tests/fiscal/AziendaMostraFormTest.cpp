@@ -187,8 +187,8 @@ TEST_F(AziendaForm, ATermThatIsNotListedIsShownAllTheSame) {
     esegui("update CondizioniPagamento set IDDecorrenza = 99 where IDPagamento = 4");
     apri();
     EXPECT_EQ(testo("DCPagamento2"), "Bonifico bancario a 30 Fine mese");
-    EXPECT_EQ(pagina.combo("DCPagamento1").count(), 8);
-    EXPECT_EQ(pagina.combo("DCPagamento2").count(), 8);
+    EXPECT_EQ(pagina.combo("DCPagamento1").count(), 13);
+    EXPECT_EQ(pagina.combo("DCPagamento2").count(), 13);
     EXPECT_EQ(pagina.combo("DCPagamento2").findText("Bonifico bancario a 30 Fine mese"), -1);
 }
 

@@ -41,8 +41,8 @@ TEST_F(AziendaForm, TheCompanyIsEnteredAndStoredByKeyboardAlone) {
     cerca("DataCombo1", "cagliari");
     invio("09131");
     gui.press(Qt::Key_Tab);
-    cerca("DCPagamento1", "assegno");
-    cerca("DCPagamento2", "contanti");
+    cerca("DCPagamento1", "assegno a 30");
+    cerca("DCPagamento2", "contanti a  ");
     invio("97088120015");
     EXPECT_EQ(scelto("p_iva"), "97088120015");
     gui.press(Qt::Key_Return);

@@ -65,16 +65,13 @@ public:
     }
 
     Answer answered = Answer::ByKey;
-    bool holds = false; ///< the mouse button that is down, until the box is closed
     std::vector<std::string> texts;
 
 private:
     void answer(QMessageBox& box) {
         Gui::waitFor("the box in front", [&box] { return QApplication::activeWindow() == &box; });
         texts.push_back(box.text().toStdString());
-        if (!holds) {
-            release();
-        }
+        release();
         QWindow* window = box.windowHandle();
         if (answered == Answer::ByKey) {
             QTest::keyClick(window, Qt::Key_Return);

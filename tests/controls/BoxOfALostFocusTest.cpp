@@ -66,6 +66,19 @@ TEST_F(BoxOfALostFocus, TheButtonIsClickedOnceAndDoesNotStayDown) {
     }
 }
 
+TEST_F(BoxOfALostFocus, WithoutABoxAButtonIsClickedWhenTheMouseIsReleased) {
+    gui.find("F", "other").setFocus();
+    RealBoxes::settle(&gui.form("F"));
+    boxes.texts.clear();
+    QTest::mousePress(&button(), Qt::LeftButton);
+    Gui::handleEvents();
+    EXPECT_EQ(clicks, 0);
+    EXPECT_TRUE(button().isDown());
+    QTest::mouseRelease(&button(), Qt::LeftButton);
+    EXPECT_EQ(clicks, 1);
+    EXPECT_TRUE(boxes.texts.empty());
+}
+
 TEST_F(BoxOfALostFocus, ATickChangesOnce) {
     auto& box = gui.find<QCheckBox>("F", "box");
     boxes.click(box);

@@ -99,6 +99,17 @@ void DataCombo::takeTyped(const QString& text) {
     }
 }
 
+void DataCombo::endEntry() {
+    const bool typed = !currentText().isEmpty() && currentText() != chosen_;
+    const int row = typedRow_ && typed ? list_->rowTyped(currentText()) : -1;
+    if (row >= 0) {
+        pickedRow_ = row;
+        setEditText(list_->textAt(row));
+        setChosen(list_->textAt(row));
+    }
+    restoreChosen();
+}
+
 void DataCombo::restoreChosen() {
     completer()->popup()->hide();
     if (currentText() == chosen_) {
@@ -251,9 +262,18 @@ void DataCombo::mousePressEvent(QMouseEvent* event) {
     QComboBox::mousePressEvent(event);
 }
 
+void DataCombo::focusInEvent(QFocusEvent* event) {
+    byMouse_ = event->reason() == Qt::MouseFocusReason;
+    QComboBox::focusInEvent(event);
+}
+
 void DataCombo::focusOutEvent(QFocusEvent* event) {
     const QScopedValueRollback leaving(leaving_, true);
+    const QString text = currentText();
     QComboBox::focusOutEvent(event);
+    if (currentText() != text) {
+        setEditText(text); // the toolkit shows a row that differs in its case
+    }
 }
 
 void DataCombo::showPopup() {
@@ -295,14 +315,14 @@ bool DataCombo::eventFilter(QObject* watched, QEvent* event) {
 void DataCombo::takeFocus(const QWidget* control) {
     if (control == this) {
         lineEdit()->selectAll();
-        selectAtRelease_ = QApplication::mouseButtons() != Qt::NoButton;
+        selectAtRelease_ = byMouse_;
         emit GotFocus();
     }
 }
 
 void DataCombo::loseFocus(const QWidget* control) {
     if (control == this) {
-        restoreChosen();
+        endEntry();
         emit LostFocus();
     }
 }

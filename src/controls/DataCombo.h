@@ -43,6 +43,11 @@ public:
     /// What is typed counts from now on as it stands, in the list or not: it stays when the field is left and at Enter,
     /// and no match is highlighted unless the user goes to it. For lists that grow by what is typed.
     void takeFreeText() { freeText_ = true; }
+    /// From now on a text of the list that is typed in full, in whichever case, counts as its first row when the field
+    /// is left and at Enter: a Change without a Click. For forms that go by BoundText.
+    void takeTypedRow() { typedRow_ = true; }
+    /// What the end of an entry does: takes or takes back what was typed and not picked, and closes the search.
+    void endEntry();
     /// Whether Tab sets the focus here. A click always does.
     bool TabStop() const;
     void setTabStop(bool stops);
@@ -63,6 +68,7 @@ protected:
     void inputMethodEvent(QInputMethodEvent* event) override;
     void wheelEvent(QWheelEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
+    void focusInEvent(QFocusEvent* event) override;
     void focusOutEvent(QFocusEvent* event) override;
     void hideEvent(QHideEvent* event) override;
     void showPopup() override;
@@ -84,7 +90,9 @@ private:
     int pickedRow_ = -1; ///< tells rows with the same text apart
     QString chosen_;     ///< the text last picked or set by the form, or typed where typed text counts
     bool freeText_ = false;
+    bool typedRow_ = false;
     bool leaving_ = false;
+    bool byMouse_ = false; ///< the focus came by a press of the mouse
     bool selectAtRelease_ = false;
 };
 

@@ -1,6 +1,7 @@
 #include "controls/DataGrid.h"
 
 #include "ado/Conversions.h"
+#include "controls/RowsInSight.h"
 #include "controls/UserInput.h"
 
 #include <QHeaderView>
@@ -79,7 +80,8 @@ ado::Value DataGrid::Column::Value() const {
     return grid_->model_->source()->Recordset()[index_].Value();
 }
 
-DataGrid::DataGrid(QWidget* parent) : QTableView(parent), model_(new RecordsetModel(this)) {
+DataGrid::DataGrid(QWidget* parent)
+    : QTableView(parent), model_(new RecordsetModel(this)), inSight_(new RowsInSight(*this)) {
     setModel(model_);
     setSelectionBehavior(SelectRows);
     setSelectionMode(SingleSelection);
@@ -230,10 +232,26 @@ void DataGrid::keyPressEvent(QKeyEvent* event) {
     }
 }
 
+void DataGrid::pickFromAfar(int row) {
+    if (row >= 0) {
+        setCurrentIndex(model_->index(row, visibleColumn()));
+        takeRow();
+        tellMove(0);
+    }
+}
+
 void DataGrid::mousePressEvent(QMouseEvent* event) {
+    const QPoint place = event->position().toPoint();
+    const int row = inSight_->pressedRow(place.y());
+    elsewhere_ = row != rowAt(place.y());
+    pressed_ = event->button() == Qt::LeftButton && !elsewhere_;
+    if (elsewhere_) {
+        pickFromAfar(row);
+        return;
+    }
     QTableView::mousePressEvent(event);
-    const bool onARow = indexAt(event->position().toPoint()).isValid();
-    pressed_ = onARow && event->button() == Qt::LeftButton;
+    const bool onARow = indexAt(place).isValid();
+    pressed_ = pressed_ && onARow;
     if (onARow) {
         takeRow();
         tellMove(0);
@@ -242,12 +260,16 @@ void DataGrid::mousePressEvent(QMouseEvent* event) {
 
 // Moving with the button held down changes the row, too.
 void DataGrid::mouseMoveEvent(QMouseEvent* event) {
+    if (elsewhere_) {
+        return;
+    }
     const long before = position();
     QTableView::mouseMoveEvent(event);
     tellMove(before);
 }
 
 void DataGrid::mouseReleaseEvent(QMouseEvent* event) {
+    elsewhere_ = false;
     QTableView::mouseReleaseEvent(event);
     const QPoint place = event->position().toPoint();
     const bool clicked = pressed_ && viewport()->rect().contains(place) && indexAt(place).isValid();
@@ -322,6 +344,9 @@ void DataGrid::initViewItemOption(QStyleOptionViewItem* option) const {
 }
 
 void DataGrid::focusInEvent(QFocusEvent* event) {
+    if (event->reason() == Qt::MouseFocusReason) {
+        inSight_->remember();
+    }
     QTableView::focusInEvent(event);
     followRecordset();
 }

@@ -8,6 +8,8 @@
 
 namespace controls {
 
+class RowsInSight;
+
 /// One row of a grid's layout.
 struct ColumnLayout {
     int place;           ///< of the column, counted from 0
@@ -63,7 +65,8 @@ signals:
     void DblClick(); ///< a double click or Enter on a row, or a double click on a grid without rows
     void Click();    ///< of the left button on a row, Enter, or Space in a locked column
     /// The user has gone to a row, which is current now: to another one, or by a press, Enter or Space to the same. Not
-    /// emitted for moves in code, nor while typed letters search a row.
+    /// emitted for moves in code, nor while typed letters search a row. Where the list is read again while a press
+    /// gives the grid the focus, it is the row that the user saw, or none where that is gone.
     void RowPicked();
     /// A key was pressed; emitted once, however long it is held, and before the grid handles the key.
     void KeyDown(int key, Qt::KeyboardModifiers modifiers);
@@ -85,6 +88,7 @@ private:
     void takeRow();
     long position() const;
     void tellMove(long from);
+    void pickFromAfar(int row);
     bool isInSight(const QSize& viewport) const;
     int visibleColumn() const;
     void leaveHiddenColumn();
@@ -92,6 +96,8 @@ private:
     void shareWidth();
 
     RecordsetModel* model_;
+    RowsInSight* inSight_;
+    bool elsewhere_ = false; ///< the row that was pressed isn't where the mouse is
     bool following_ = false;
     bool pressed_ = false; ///< the left button was pressed on the grid and not yet released
     bool fillsWidth_ = false;

@@ -6,6 +6,15 @@
 
 namespace controls {
 
+namespace {
+
+bool isInAForm(const QWidget& control) {
+    const QWidget* window = control.window();
+    return qobject_cast<const QDialog*>(window) == nullptr && window->windowType() != Qt::Popup;
+}
+
+} // namespace
+
 FocusTracker& FocusTracker::instance() {
     static QPointer<FocusTracker> tracker;
     if (tracker.isNull()) {
@@ -19,12 +28,7 @@ FocusTracker::FocusTracker(QObject* parent) : QObject(parent) {
 }
 
 void FocusTracker::follow(QWidget* now) {
-    if (now == nullptr) {
-        return;
-    }
-    const QWidget* window = now->window();
-    const bool inAForm = qobject_cast<const QDialog*>(window) == nullptr && window->windowType() != Qt::Popup;
-    if (!inAForm) {
+    if (now == nullptr || !isInAForm(*now)) {
         return;
     }
     now_ = now;
@@ -38,9 +42,23 @@ void FocusTracker::tell() {
     while (!now_.isNull() && now_ != last_) {
         if (!last_.isNull()) {
             emit left(last_);
+            followInactive();
         }
         last_ = now_;
         emit entered(last_);
+        followInactive();
+    }
+}
+
+// Where a handler has shown a box, its form becomes active again only later, and until then the toolkit doesn't tell
+// where in that form the handler has sent the focus.
+void FocusTracker::followInactive() {
+    const QWidget* focused = QApplication::focusWidget();
+    if (now_.isNull() || (focused != nullptr && isInAForm(*focused))) {
+        return;
+    }
+    if (QWidget* next = now_->window()->focusWidget()) {
+        now_ = next;
     }
 }
 

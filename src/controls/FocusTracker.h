@@ -25,6 +25,7 @@ private:
     explicit FocusTracker(QObject* parent);
     void follow(QWidget* now);
     void tell();
+    void followInactive();
 
     QPointer<QWidget> last_; ///< what has been told of
     QPointer<QWidget> now_;

@@ -24,11 +24,14 @@ bool endsEntry(const QKeyEvent& key, EndOfEntry keys) {
 
 } // namespace
 
+void SetFocus(QWidget& control) {
+    control.setFocus(Qt::TabFocusReason);
+}
+
 KeyRow::KeyRow(QWidget* field, EndOfEntry keys, std::function<void()> handler)
     : field(field), keys(keys), handler(std::move(handler)) {}
 
-KeyRow::KeyRow(QWidget* field, EndOfEntry keys, QWidget* next)
-    : KeyRow(field, keys, [next] { next->setFocus(Qt::TabFocusReason); }) {}
+KeyRow::KeyRow(QWidget* field, EndOfEntry keys, QWidget* next) : KeyRow(field, keys, [next] { SetFocus(*next); }) {}
 
 KeyChain::KeyChain(QObject* parent, Runner run, std::vector<KeyRow> rows)
     : QObject(parent), run_(std::move(run)), rows_(std::move(rows)) {
@@ -52,7 +55,7 @@ bool KeyChain::eventFilter(QObject* watched, QEvent* event) {
         return true; // a key that is held down ends only one entry
     }
     if (auto* combo = qobject_cast<DataCombo*>(row->field)) {
-        combo->restoreChosen();
+        combo->endEntry();
     }
     run_(row->handler);
     return true;

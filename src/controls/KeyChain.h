@@ -14,6 +14,9 @@ namespace controls {
 /// Which keys end the entry of a field. Enter is Return or the keypad's Enter.
 enum class EndOfEntry { Enter, EnterOrTab };
 
+/// Gives a control the focus as Tab does, so that a field selects its text.
+void SetFocus(QWidget& control);
+
 /// One field of a form's chain and what happens at the end of its entry.
 struct KeyRow {
     KeyRow(QWidget* field, EndOfEntry keys, std::function<void()> handler);

@@ -68,6 +68,17 @@ int ListModel::rowOfText(const QString& text) const {
     return -1;
 }
 
+int ListModel::rowTyped(const QString& text) const {
+    const int exact = rowOfText(text);
+    const int count = rowCount();
+    for (int row = 0; exact < 0 && row < count; ++row) {
+        if (textAt(row).compare(text, Qt::CaseInsensitive) == 0) {
+            return row;
+        }
+    }
+    return exact;
+}
+
 int ListModel::rowOfKey(const std::string& key) const {
     const int count = rowCount();
     for (int row = 0; row < count; ++row) {

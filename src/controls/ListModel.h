@@ -23,6 +23,8 @@ public:
     std::string keyAt(int row) const;
     /// The first row with that text or key, -1 where there is none.
     int rowOfText(const QString& text) const;
+    /// The same for a text as a user types it: where none has it, the first row that differs in the case alone.
+    int rowTyped(const QString& text) const;
     int rowOfKey(const std::string& key) const;
     /// The length of the longest text, in bytes.
     qsizetype longest() const;

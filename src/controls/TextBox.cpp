@@ -2,7 +2,7 @@
 
 #include "controls/FocusTracker.h"
 
-#include <QApplication>
+#include <QFocusEvent>
 #include <QMouseEvent>
 
 namespace controls {
@@ -36,8 +36,13 @@ void TextBox::takeFocus(const QWidget* control) {
     Select();
     // A mouse press that sets the focus also sets the caret and ends the selection, so the text is selected again
     // when the button is released.
-    selectAtRelease_ = QApplication::mouseButtons() != Qt::NoButton;
+    selectAtRelease_ = byMouse_;
     emit GotFocus();
+}
+
+void TextBox::focusInEvent(QFocusEvent* event) {
+    byMouse_ = event->reason() == Qt::MouseFocusReason;
+    QLineEdit::focusInEvent(event);
 }
 
 void TextBox::mouseReleaseEvent(QMouseEvent* event) {

@@ -29,11 +29,13 @@ signals:
     void LostFocus(); ///< only when the focus moves to another control of the program
 
 protected:
+    void focusInEvent(QFocusEvent* event) override;
     void mouseReleaseEvent(QMouseEvent* event) override;
 
 private:
     void takeFocus(const QWidget* control);
 
+    bool byMouse_ = false; ///< the focus came by a press of the mouse
     bool selectAtRelease_ = false;
     int selectAtMost_ = -1; ///< the whole text
 };

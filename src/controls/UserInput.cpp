@@ -3,9 +3,11 @@
 #include <QAbstractButton>
 #include <QApplication>
 #include <QKeyEvent>
-#include <QPointer>
+#include <QMouseEvent>
 #include <QPushButton>
-#include <QWidget>
+
+#include <memory>
+#include <utility>
 
 namespace controls {
 
@@ -79,8 +81,30 @@ bool UserInput::eventFilter(QObject* watched, QEvent* event) {
     if (event->type() == QEvent::Shortcut) {
         goToButton(qobject_cast<QPushButton*>(watched));
     }
-    const auto* control = qobject_cast<const QWidget*>(watched);
-    return control != nullptr && (!control->isVisible() || isRepeatedCommand(control, *event));
+    auto* control = qobject_cast<QWidget*>(watched);
+    const bool dropped = control != nullptr && (!control->isVisible() || isRepeatedCommand(control, *event));
+    if (control != nullptr && !dropped && event->type() == QEvent::MouseButtonPress) {
+        releaseBehind(*control, static_cast<const QMouseEvent&>(*event));
+    }
+    return dropped;
+}
+
+void UserInput::releaseBehind(QWidget& control, const QMouseEvent& press) {
+    const bool isHeld = QApplication::mouseButtons().testFlag(press.button());
+    // A press that a control ignores goes on to the widgets around it.
+    if (!press.spontaneous() || isHeld || !pressed_.isNull()) {
+        return;
+    }
+    pressed_ = &control;
+    const std::shared_ptr<QMouseEvent> release(new QMouseEvent(QEvent::MouseButtonRelease, press.position(),
+                                                               press.scenePosition(), press.globalPosition(),
+                                                               press.button(), Qt::NoButton, press.modifiers()));
+    const auto send = [this, release] {
+        if (!pressed_.isNull()) {
+            QApplication::sendEvent(std::exchange(pressed_, nullptr), release.get());
+        }
+    };
+    QMetaObject::invokeMethod(this, send, Qt::QueuedConnection);
 }
 
 } // namespace controls

@@ -1,8 +1,11 @@
 #pragma once
 
 #include <QObject>
+#include <QPointer>
+#include <QWidget>
 
 class QKeyEvent;
+class QMouseEvent;
 
 namespace controls {
 
@@ -10,6 +13,9 @@ namespace controls {
 /// pressed: the repeats of a held key are dropped, so that no command and no store runs again; so are those of Space on
 /// a button. A control that isn't visible gets no input: the second click of a double click may arrive after the first
 /// has hidden the form.
+///
+/// A press that moves the focus may open a box, in the LostFocus of the field before, and the mouse is then released
+/// over the box. The control gets the release behind its press: a button is clicked, and doesn't stay down.
 ///
 /// A button's mnemonic sets the focus to the button, as a click does, so that the field that had it gets its LostFocus.
 class UserInput : public QObject {
@@ -27,6 +33,9 @@ public:
 
 private:
     using QObject::QObject;
+    void releaseBehind(QWidget& control, const QMouseEvent& press);
+
+    QPointer<QWidget> pressed_; ///< will get its release
 };
 
 } // namespace controls

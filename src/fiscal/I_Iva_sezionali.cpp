@@ -32,10 +32,6 @@ constexpr std::array<controls::ColumnLayout, 7> kColonne = {{{0, kNomeDelCampo, 
 
 constexpr std::int32_t kMensile = 1, kTrimestrale = 3;
 
-void VaiA(QWidget& campo) {
-    campo.setFocus(Qt::TabFocusReason);
-}
-
 void MostraSePieno(controls::TextBox& campo, const ado::Value& valore, bool senzaSpazi = false) {
     if (!IsEmptyValue(valore)) {
         const std::string testo = ado::toText(valore);
@@ -64,7 +60,7 @@ void I_Iva_sezionali::CollegaCampi() {
     const auto avanti = [](controls::TextBox* campo, QWidget* successivo) {
         return [campo, successivo] {
             if (!IsEmptyValue(campo->Text())) {
-                VaiA(*successivo);
+                controls::SetFocus(*successivo);
             }
         };
     };

@@ -22,14 +22,6 @@
 
 namespace vabo {
 
-namespace {
-
-void VaiA(QWidget& campo) {
-    campo.setFocus(Qt::TabFocusReason);
-}
-
-} // namespace
-
 frmDatiAzienda::frmDatiAzienda() : Form("frmDatiAzienda"), ui_(std::make_unique<Ui::frmDatiAzienda>()) {
     ui_->setupUi(this);
     ui_->ComboFattura->setText(kNessunaScelta);
@@ -50,9 +42,10 @@ frmDatiAzienda::~frmDatiAzienda() = default;
 void frmDatiAzienda::CollegaElenchi() {
     ui_->DataCombo1->ListField = "des_comune";
     ui_->DataCombo1->setRowSource(ui_->comuni);
+    ui_->DataCombo1->takeTypedRow();
     on(ui_->DataCombo1, &controls::DataCombo::Click, [this](int area) {
         if (area == controls::DataCombo::List) {
-            VaiA(*ui_->cap);
+            controls::SetFocus(*ui_->cap);
         }
     });
     on(ui_->DataCombo1, &controls::DataCombo::GotFocus, [this] { ScegliFraIComuni(); });
@@ -65,7 +58,7 @@ void frmDatiAzienda::CollegaElenchi() {
 
 void frmDatiAzienda::CollegaCondizione(controls::DataCombo& combo, double& chiave, QWidget& successivo) {
     const auto* scelta = new controls::Picker(combo, *ui_->CondiPagamento, "Descrizione", "IDPagamento", chiave);
-    on(scelta, &controls::Picker::Picked, [&successivo] { VaiA(successivo); });
+    on(scelta, &controls::Picker::Picked, [&successivo] { controls::SetFocus(successivo); });
     on(&combo, &controls::DataCombo::DblClick, [this] { ApriCondizioni(); });
     on(&combo, &controls::DataCombo::GotFocus, [&combo, &chiave] {
         MostraCondizione(combo, chiave);
@@ -79,7 +72,7 @@ void frmDatiAzienda::CollegaOrdine() {
     chain({{ui_->nomesocietà, EnterOrTab,
             [this] {
                 if (!IsEmptyValue(ui_->nomesocietà->Text())) {
-                    VaiA(*ui_->Indirizzo);
+                    controls::SetFocus(*ui_->Indirizzo);
                 }
             }},
            {ui_->Indirizzo, EnterOrTab, ui_->DataCombo1},
@@ -133,13 +126,13 @@ void frmDatiAzienda::MostraCondizione(controls::DataCombo& combo, double chiave)
 void frmDatiAzienda::LasciaCondizione(controls::DataCombo& combo, double chiave, QWidget& successivo) {
     if (!IsEmptyValue(chiave)) {
         MostraCondizione(combo, chiave);
-        VaiA(successivo);
+        controls::SetFocus(successivo);
     }
 }
 
 void frmDatiAzienda::LasciaNumero(const controls::TextBox& campo, QWidget& successivo) {
     if (ado::isNumeric(campo.Text())) {
-        VaiA(successivo);
+        controls::SetFocus(successivo);
     } else {
         platform::dialogs().message("Inserire un valore numerico");
     }
@@ -149,7 +142,7 @@ void frmDatiAzienda::LasciaIntestatario() {
     if (IsEmptyValue(ui_->Intestatario->Text())) {
         ui_->Intestatario->setText(ui_->nomesocietà->Text());
     }
-    VaiA(*ui_->Check1);
+    controls::SetFocus(*ui_->Check1);
 }
 
 void frmDatiAzienda::ScegliFraIComuni() {
@@ -164,9 +157,17 @@ void frmDatiAzienda::LasciaComune() {
         return;
     }
     Indirizzo indirizzo{.cap = ui_->cap->Text(), .provincia = ui_->statooprovincia->Text(), .idStato = {}};
-    RiempiIndirizzo(ui_->comuni->Recordset(), ui_->DataCombo1->BoundText(), indirizzo);
-    ui_->cap->setText(indirizzo.cap);
-    ui_->statooprovincia->setText(indirizzo.provincia);
+    const auto mostra = [&] {
+        ui_->cap->setText(indirizzo.cap);
+        ui_->statooprovincia->setText(indirizzo.provincia);
+    };
+    try {
+        RiempiIndirizzo(ui_->comuni->Recordset(), ui_->DataCombo1->BoundText(), indirizzo);
+    } catch (...) {
+        mostra(); // what was read ahead of a column that is missing
+        throw;
+    }
+    mostra();
     if (indirizzo.idStato) {
         IdStato = *indirizzo.idStato;
         MostraStato();

@@ -17,7 +17,8 @@
 
 namespace vabo {
 
-// Failing statements are skipped, and a failing test counts as true.
+// Failing statements are skipped, and a failing test counts as true. No term is shown with its list: there is no key
+// before the row is read.
 void frmDatiAzienda::Load() {
     salta([this] { ui_->elenco->load(StringaAzienda, ElencoAzienda()); });
     salta([this] { ui_->CondiPagamento->load(StringaAzienda, CondizioniDaScegliere()); });
@@ -129,7 +130,7 @@ CampiDatiAzienda frmDatiAzienda::Campi() const {
 
 void frmDatiAzienda::RifiutaSenza(const char* avviso, QWidget& campo) {
     platform::dialogs().message(avviso, platform::Icon::Stop);
-    campo.setFocus(Qt::TabFocusReason);
+    controls::SetFocus(campo);
     CampoMancante = kVero;
 }
 

@@ -44,6 +44,7 @@ frmComuni::frmComuni() : Form("frmComuni"), ui_(std::make_unique<Ui::frmComuni>(
     ui_->DataCombo1->ListField = "DescStato";
     ui_->DataCombo1->BoundColumn = "IdStato";
     ui_->DataCombo1->setRowSource(ui_->r_stati);
+    ui_->DataCombo1->takeTypedRow();
     CollegaCampi();
     CollegaStato();
     on(ui_->DataGrid1, &controls::DataGrid::RowPicked, [this] { ScegliRiga(); });

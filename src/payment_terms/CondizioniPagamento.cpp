@@ -40,10 +40,6 @@ constexpr std::array<controls::ColumnLayout, kColonne> Colonne() {
     return colonne;
 }
 
-void VaiA(QWidget* campo) {
-    campo->setFocus(Qt::TabFocusReason);
-}
-
 } // namespace
 
 CondizioniPagamento::CondizioniPagamento()
@@ -69,7 +65,7 @@ void CondizioniPagamento::CollegaElenchi() {
     tipi_ = std::make_unique<controls::Picker>(*ui_->IdTipoRimessa, *ui_->TipoIncasso, "Descrizione", "IdTipoRimessa",
                                                tipoRimessa_);
     on(regole_.get(), &controls::Picker::Picked, [this] { ui_->RataAnticipo->SetFocus(); });
-    on(tipi_.get(), &controls::Picker::Picked, [this] { VaiA(ui_->Descrizione); });
+    on(tipi_.get(), &controls::Picker::Picked, [this] { controls::SetFocus(*ui_->Descrizione); });
     on(ui_->IDDecorrenza, &controls::DataCombo::Change, [this] { PrendiRegola(); });
     on(ui_->IDDecorrenza, &controls::DataCombo::DblClick, [this] { ApriDa(Name(), "CondizioniPagamentoDecorrenza"); });
     on(ui_->IdTipoRimessa, &controls::DataCombo::GotFocus, [this] {
@@ -93,7 +89,7 @@ void CondizioniPagamento::CollegaScadenze() {
     chain(std::move(righe));
     on(ui_->Scadenza12, &controls::TextBox::LostFocus, [this] {
         if (IsEmptyValue(ui_->Scadenza12->Text())) {
-            VaiA(ui_->IdTipoRimessa);
+            controls::SetFocus(*ui_->IdTipoRimessa);
         }
     });
 }
@@ -106,7 +102,7 @@ void CondizioniPagamento::CollegaCampi() {
            {ui_->IdTipoRimessa, EndOfEntry::EnterOrTab,
             [this] {
                 if (!IsEmptyValue(ui_->IdTipoRimessa->Text())) {
-                    VaiA(ui_->Descrizione);
+                    controls::SetFocus(*ui_->Descrizione);
                 }
             }},
            {ui_->Descrizione, EndOfEntry::EnterOrTab, [this] { LasciaDescrizione(); }}});
@@ -118,7 +114,7 @@ void CondizioniPagamento::CollegaCampi() {
     on(ui_->Descrizione, &controls::TextBox::GotFocus, [this] { NominaCondizione(); });
     on(ui_->DataGrid1, &controls::DataGrid::RowPicked, [this] {
         MostraRecord();
-        VaiA(ui_->IDDecorrenza);
+        controls::SetFocus(*ui_->IDDecorrenza);
     });
     on(ui_->Chiudi, &QPushButton::clicked, [this] { UnloadMe(); });
 }
@@ -162,7 +158,7 @@ void CondizioniPagamento::NominaCondizione() {
 void CondizioniPagamento::LasciaScadenza(std::size_t posto) {
     AggiornaRate();
     const bool finita = posto == kUltima || IsEmptyValue(scadenze_[posto]->Text());
-    VaiA(finita ? static_cast<QWidget*>(ui_->IdTipoRimessa) : scadenze_[posto + 1]);
+    controls::SetFocus(finita ? static_cast<QWidget&>(*ui_->IdTipoRimessa) : *scadenze_[posto + 1]);
 }
 
 // From the last field of the instalments an empty one leads to the kind again, so the way back is to the place where
@@ -184,7 +180,7 @@ void CondizioniPagamento::TornaAlleScadenze() {
 // Without a rule: an amount that is no number keeps the focus.
 void CondizioniPagamento::LasciaAnticipo() {
     ui_->RataAnticipo->setText(ImportoScritto(ui_->RataAnticipo->Text()));
-    VaiA(ui_->Scadenza1);
+    controls::SetFocus(*ui_->Scadenza1);
 }
 
 void CondizioniPagamento::LasciaDescrizione() {
@@ -195,7 +191,7 @@ void CondizioniPagamento::LasciaDescrizione() {
     }
     ui_->Descrizione->setText(nome);
     SalvaRecord();
-    VaiA(ui_->IDDecorrenza);
+    controls::SetFocus(*ui_->IDDecorrenza);
 }
 
 // A text that is in the list brings its rule with it; another one leaves the rule as it is.

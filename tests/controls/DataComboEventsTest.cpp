@@ -106,6 +106,53 @@ TEST_F(DataComboEvents, TypingIsAChangeOnlyWhereTypedTextCounts) {
     EXPECT_THAT(events, ElementsAre("change to U=", "change to Uv="));
 }
 
+TEST_F(DataComboEvents, ATextTypedInFullIsARowWhereTheFormSaysSo) {
+    combo().takeTypedRow();
+    combo().setText("Mela");
+    const auto type = [this](const char* text) {
+        combo().setFocus();
+        combo().lineEdit()->selectAll();
+        events.clear();
+        gui.type(text);
+    };
+    const auto leave = [this] {
+        combo().completer()->popup()->hide();
+        gui.form("F").activateWindow();
+        gui.waitForFront("F");
+        gui.find("F", "field").setFocus();
+    };
+    type("pERA");
+    QTest::keyClick(combo().completer()->popup(), Qt::Key_Return);
+    EXPECT_THAT(events, ElementsAre("change to Pera=2", "enter")) << "no pick, so that the form moves on once";
+    type("Albicocca");
+    leave();
+    EXPECT_THAT(events, ElementsAre("change to Albicocca=3"));
+    for (const char* other : {"Alb", "xyz"}) {
+        type(other);
+        leave();
+        EXPECT_THAT(events, IsEmpty()) << other;
+        EXPECT_EQ(combo().Text(), "Albicocca");
+    }
+    combo().setFocus();
+    combo().lineEdit()->clear();
+    leave();
+    EXPECT_EQ(combo().Text(), "Albicocca") << "no text isn't that of the row without one";
+    type("Mela");
+    combo().restoreChosen();
+    EXPECT_THAT(events, IsEmpty()) << "taken back, as by Esc";
+    EXPECT_EQ(combo().Text(), "Albicocca");
+}
+
+TEST_F(DataComboEvents, ATextTypedInFullIsTakenBackWhereTheFormSaysNothing) {
+    combo().setText("Mela");
+    combo().lineEdit()->selectAll();
+    events.clear();
+    search("Pera");
+    QTest::keyClick(combo().completer()->popup(), Qt::Key_Return);
+    EXPECT_THAT(events, ElementsAre("enter"));
+    EXPECT_EQ(combo().Text(), "Mela");
+}
+
 TEST_F(DataComboEvents, ADoubleClickOnTheTextIsTold) {
     QTest::mouseDClick(combo().lineEdit(), Qt::LeftButton);
     EXPECT_THAT(events, ElementsAre("double click"));

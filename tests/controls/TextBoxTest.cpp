@@ -43,6 +43,11 @@ protected:
         return form;
     }
     controls::TextBox& field(const char* name) { return gui.find<controls::TextBox>("A", name); }
+    /// What a window manager does behind a box.
+    void comeToFront() {
+        gui.form("A").activateWindow();
+        gui.waitForFront("A");
+    }
 
     std::vector<std::string> events, log;
     Gui gui;
@@ -84,8 +89,7 @@ TEST_F(TextBox, ABoxTakesNoFocus) {
     Gui::waitFor("the box in front", [&] { return QApplication::activeWindow() == &box; });
     inside.setFocus();
     box.close();
-    gui.form("A").activateWindow(); // what a window manager does
-    gui.waitForFront("A");
+    comeToFront();
     EXPECT_TRUE(log.empty());
 }
 
@@ -125,12 +129,56 @@ TEST_F(TextBox, ABoxOfALostFocusLeavesTheFocusWhereItWasGoing) {
         box.show();
         Gui::waitFor("the box in front", [&] { return QApplication::activeWindow() == &box; });
         box.close();
-        gui.form("A").activateWindow();
-        gui.waitForFront("A");
+        comeToFront();
     });
     field("second").setFocus();
     EXPECT_EQ(gui.focus(), "A.second");
     EXPECT_THAT(log, ElementsAre("-A.first", "+A.second"));
+}
+
+/// Shows a box as the program does; the form isn't active again yet when this returns.
+void showBox(QWidget& form) {
+    QDialog box(&form);
+    const auto close = [&box] {
+        Gui::waitFor("the box in front", [&box] { return QApplication::activeWindow() == &box; });
+        box.accept();
+    };
+    QMetaObject::invokeMethod(&box, close, Qt::QueuedConnection);
+    box.exec();
+}
+
+TEST_F(TextBox, AFieldThatTakesTheFocusBackBehindABoxDoesNotMakeTheNextOneLoseIt) {
+    int boxes = 0;
+    QObject::connect(&field("first"), &controls::TextBox::LostFocus, [&] {
+        ++boxes;
+        showBox(gui.form("A"));
+        field("first").SetFocus();
+    });
+    field("second").setFocus();
+    comeToFront();
+    EXPECT_EQ(gui.focus(), "A.first");
+    EXPECT_THAT(log, ElementsAre("-A.first", "+A.first"));
+    EXPECT_EQ(boxes, 1);
+}
+
+TEST_F(TextBox, ABoxOfALostFocusThatIsNotActiveAgainLeavesTheFocusWhereItWasGoing) {
+    QObject::connect(&field("first"), &controls::TextBox::LostFocus, [this] { showBox(gui.form("A")); });
+    field("second").setFocus();
+    comeToFront();
+    EXPECT_EQ(gui.focus(), "A.second");
+    EXPECT_THAT(log, ElementsAre("-A.first", "+A.second"));
+}
+
+TEST_F(TextBox, AFieldThatSendsTheFocusBackBehindABoxGetsAndLosesItAtOnce) {
+    QObject::connect(&field("second"), &controls::TextBox::GotFocus, [this] {
+        showBox(gui.form("A"));
+        field("first").SetFocus();
+    });
+    field("second").setFocus();
+    EXPECT_THAT(log, ElementsAre("-A.first", "+A.second", "-A.second", "+A.first"));
+    comeToFront();
+    EXPECT_EQ(gui.focus(), "A.first");
+    EXPECT_EQ(log.size(), 4U) << "the form that is active again tells nothing new";
 }
 
 TEST_F(TextBox, AFieldThatIsGoneLosesNoFocus) {

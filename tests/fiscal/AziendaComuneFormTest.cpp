@@ -121,6 +121,31 @@ TEST_F(AziendaForm, TheTownsAreReadAgainWhenTheirFieldIsEntered) {
     EXPECT_EQ(scelto("DataCombo1"), "Torino");
 }
 
+TEST_F(AziendaForm, TheTownsAreConnectedAgainWhenTheirFieldIsEntered) {
+    apri();
+    auto& comuni = pagina.control<controls::DataControl>("comuni");
+    comuni.RecordSource = "select * from stati";
+    StringaAzienda += ";";
+    const support::StatementRecorder recorder;
+    vaiA("DataCombo1");
+    EXPECT_EQ(recorder.texts(), Testi{kComuni});
+    EXPECT_EQ(comuni.RecordSource, kComuni);
+    EXPECT_EQ(comuni.ConnectionString, StringaAzienda);
+}
+
+TEST_F(AziendaForm, ATownTypedInFullIsTakenAndFillsTheAddress) {
+    esegui("insert into comuni values ('Cagliaritano', 'XX', '9000', 1)");
+    for (const char* scritto : {"Cagliari", "cagliari"}) {
+        apri();
+        vaiA("DataCombo1");
+        pagina.typeWithoutPick("DataCombo1", scritto);
+        gui.press(Qt::Key_Return);
+        EXPECT_EQ(testi(kIndirizzo), (Riga{"Cagliari", "09121", "CA", "Italia"}));
+        EXPECT_EQ(fuoco(), "cap");
+        chiudi();
+    }
+}
+
 TEST_F(AziendaForm, TownsThatCannotBeReadAreTold) {
     apri();
     esegui("drop table comuni");
@@ -142,6 +167,21 @@ TEST_F(AziendaForm, ADoubleClickAsksForATownFormOfANameThatNobodyHas) {
     EXPECT_FALSE(gui.forms().isLoaded("frmComuni"));
     EXPECT_EQ(PilaForm, Riga{"Avvio_Azienda"});
     EXPECT_EQ(CimaForm, 0);
+    EXPECT_TRUE(aperta());
+    EXPECT_TRUE(gui.isVisible("frmDatiAzienda"));
+    pagina.comeToFront();
+    premi("Command4");
+    EXPECT_EQ(gui.visibleForms(), "Avvio_Azienda");
+    EXPECT_EQ(PilaForm, Riga{"Avvio_Azienda"});
+}
+
+TEST_F(AziendaForm, CtrlEnterOnTheTownIsItsDoubleClick) {
+    apri();
+    vaiA("DataCombo1");
+    gui.press(Qt::Key_Return, Qt::ControlModifier);
+    EXPECT_EQ(gui.forms().markOf("frmComuni"), "anagrafica");
+    EXPECT_TRUE(gui.isVisible("Avvio_Azienda"));
+    EXPECT_EQ(PilaForm, Riga{"Avvio_Azienda"});
 }
 
 // The tax codes.
@@ -212,6 +252,11 @@ TEST_F(AziendaForm, AbroadTheCodesAreTakenAsTyped) {
     gui.press(Qt::Key_Return);
     EXPECT_EQ(fuoco(), "telefonoufficio");
     EXPECT_EQ(testi({"codice_fiscale", "p_iva"}), (Riga{"rssmra85t10a562t", "fr1"}));
+    metti("codice_fiscale", "123");
+    metti("p_iva", "");
+    vaiA("codice_fiscale");
+    gui.press(Qt::Key_Return);
+    EXPECT_EQ(testo("p_iva"), "123") << "a number is copied from abroad too";
 }
 
 TEST_F(AziendaForm, WithoutAStateTheCodesAreChecked) {

@@ -273,7 +273,7 @@ TEST_F(AziendaForm, WrongCodesDoNotStopTheSave) {
     EXPECT_FALSE(aperta());
 }
 
-TEST_F(AziendaForm, TheTickTheKindOfInvoiceAndTheContactAreNotStored) {
+TEST_F(AziendaForm, TheTickAndTheContactAreNotStored) {
     const Riga prima = tutto();
     apri();
     vaiA("Check1");

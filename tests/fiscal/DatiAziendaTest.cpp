@@ -76,12 +76,12 @@ TEST_F(DatiAzienda, ItsListsAreReadLetterForLetter) {
 
 TEST_F(DatiAzienda, ATermIsListedOnlyWhereItsCommencementAndItsKindExist) {
     const auto termini = [this] { return posto.rows(support::kCompany, CondizioniDaScegliere()).size(); };
-    EXPECT_EQ(termini(), 9U);
+    EXPECT_EQ(termini(), 14U);
     esegui("update CondizioniPagamento set IDDecorrenza = 99 where IDPagamento = 1");
     esegui("update CondizioniPagamento set IDDecorrenza = null where IDPagamento = 2");
-    EXPECT_EQ(termini(), 7U);
+    EXPECT_EQ(termini(), 12U);
     esegui("update CondizioniPagamento set IdTipoRimessa = 99 where IDPagamento = 3");
-    EXPECT_EQ(termini(), 6U);
+    EXPECT_EQ(termini(), 11U);
 }
 
 TEST_F(DatiAzienda, TheRowIsWrittenInOneUpdateLetterForLetter) {

@@ -176,5 +176,26 @@ TEST_F(ComuniFuoco, GoingToTheStatesLeavesTheStateWhichStoresTheRow) {
     EXPECT_EQ(fuoco(), "DES_COMUNE");
 }
 
+TEST_F(ComuniFuoco, GoingToTheStatesWithANameThatIsRefusedIsToldFirst) {
+    for (const auto& [nome, avviso] : std::initializer_list<std::pair<const char*, const char*>>{
+             {"Aosta", kComuneDoppio}, {"Sant'Angelo", kFiltroRifiutato}}) {
+        apri();
+        scrivi({"Palestrina", "RM", "00036", "Italia"});
+        scrivi({nome, "RM", "00036"});
+        script.expectMessage(avviso);
+        gui.press(Qt::Key_Return, Qt::ControlModifier);
+        gui.waitForFront("stati");
+        EXPECT_TRUE(script.allShown());
+        EXPECT_EQ(PilaForm.back(), "stati");
+        gui.click("stati", "Command4");
+        gui.waitForFront("frmComuni");
+        EXPECT_EQ(testo("DES_COMUNE"), std::string(nome) == "Aosta" ? "" : nome);
+        EXPECT_EQ(quanti(std::string("Comuni where COD_CAP = '00036' and DES_COMUNE <> 'Palestrina'")), 0);
+        esegui("delete from Comuni where DES_COMUNE = 'Palestrina'");
+        gui.forms().unload("frmComuni");
+        support::Gui::handleEvents();
+    }
+}
+
 } // namespace
 } // namespace vabo

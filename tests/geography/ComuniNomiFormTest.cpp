@@ -148,8 +148,8 @@ protected:
     }
 
     const std::string lungo = std::string(4'000, '7');
-    const Testi ostili = {"\"",           ";",    "a;b",       "--",        "/* x", "*/",
-                          "\x01\x1b\x7f", "a\tb", "città ’ß€", "x' or 1=1", lungo};
+    const Testi ostili = {"\"",        ";",         "a;b", "--", "/* x", "*/", "\x01\x1b\x7f", "a\tb",
+                          "città ’ß€", "x' or 1=1", "%",   "*",  "[x]",  "_",  lungo};
 };
 
 TEST_F(ComuniOstili, ANameEntersTheFilterAndTheRowAsItIs) {

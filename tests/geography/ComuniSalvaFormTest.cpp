@@ -120,23 +120,30 @@ TEST_F(ComuniSalva, OfTwoStatesOfOneNameTheOneThatIsPickedIsStored) {
 }
 
 // "Niger" is also the beginning of another, so that the search highlights none of the two.
-TEST_F(ComuniSalva, AStateTypedInFullIsNoneUntilItIsPicked) {
+TEST_F(ComuniSalva, AStateTypedInFullIsTaken) {
     apri();
-    const support::StatementRecorder recorder;
     scrivi({"Niamey", "NE", "8000", "Niger"});
-    EXPECT_EQ(recorder.texts(), Testi{});
-    EXPECT_EQ(campi(), (Riga{"Niamey", "NE", "8000", "Seleziona"}));
-    vaiA("DataCombo1");
-    gui.type("Niger");
-    QTest::keyClick(QApplication::activePopupWidget(), Qt::Key_Down);
-    invio();
+    EXPECT_EQ(comune("Niamey")[3], idStato("Niger"));
+    scrivi({"Zinder", "ZR", "9000", "nIGER"});
+    EXPECT_EQ(comune("Zinder")[3], idStato("Niger")) << "in whichever case";
+    scrivi({"Lagos", "LA", "100", "Nigeri"});
+    EXPECT_EQ(comune("Lagos")[3], idStato("Nigeria")) << "the only one that is found";
+    scrivi({"Maradi", "MA", "1", "Niger"});
+    EXPECT_EQ(comune("Maradi")[3], idStato("Niger"));
+}
+
+TEST_F(ComuniSalva, AStateTypedInFullIsTakenAlsoWhereTheMouseLeavesIt) {
+    apri();
+    scrivi({"Niamey", "NE", "8000"});
+    pagina.typeWithoutPick("DataCombo1", "Niger");
+    gui.click("frmComuni", "DES_PROVIN");
     EXPECT_EQ(comune("Niamey")[3], idStato("Niger"));
 }
 
 TEST_F(ComuniSalva, AStateThatIsNotPickedGivesWayToTheOneChosen) {
     apri();
     scegli("Nairobi");
-    scrivi({"Nairobi", "NB", "00100", "Niger"});
+    scrivi({"Nairobi", "NB", "00100", "Nige"});
     EXPECT_EQ(comune("Nairobi")[3], idStato("Kenya")) << "as the field showed it then";
     scrivi({"Mombasa", "KE", "80100", "nessuno stato"});
     EXPECT_EQ(comune("Mombasa")[3], idStato("Kenya"));
@@ -166,6 +173,29 @@ TEST_F(ComuniSalva, AnotherRowChosenFromTheStateIsShownBehindTheSave) {
     EXPECT_EQ(comune("Aosta")[1], "VA");
     EXPECT_EQ(campi(), (Riga{"Ancona", "AN", "60121", "Italia"}));
     EXPECT_EQ(fuoco(), "DES_COMUNE");
+}
+
+TEST_F(ComuniSalva, TheRowUnderTheMouseIsShownThoughTheSaveReadsTheListAgain) {
+    apri();
+    const std::string ultimo = pagina.cell("DataGrid1", pagina.rows("DataGrid1") - 1, 1);
+    scrivi({"Palestrina", "RM", "00036", "Italia"}); // the list is sorted: it stands among the others
+    const std::string sotto = pagina.cell("DataGrid1", rigaDi("Palestrina") + 1, 1);
+    esegui("delete from Comuni where DES_COMUNE = 'Palestrina'");
+    gui.forms().unload("frmComuni");
+    support::Gui::handleEvents();
+    for (const std::string& altro : {ultimo, sotto}) {
+        apri();
+        scrivi({"Palestrina", "RM", "00036"});
+        pagina.typeWithoutPick("DataCombo1", "Italia");
+        clicca(altro);
+        EXPECT_EQ(comune("Palestrina")[0], "Palestrina") << "stored by the press";
+        EXPECT_EQ(testo("DES_COMUNE"), altro);
+        EXPECT_EQ(corrente(), altro);
+        EXPECT_EQ(fuoco(), "DES_COMUNE");
+        esegui("delete from Comuni where DES_COMUNE = 'Palestrina'");
+        gui.forms().unload("frmComuni");
+        support::Gui::handleEvents();
+    }
 }
 
 TEST_F(ComuniSalva, TheCommandsStoreWhatTheStateIsLeftWith) {

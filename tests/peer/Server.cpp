@@ -7,6 +7,7 @@
 #include <arpa/inet.h>
 #include <array>
 #include <cerrno>
+#include <chrono>
 #include <cstdio>
 #include <netinet/in.h>
 #include <netinet/tcp.h>
@@ -73,6 +74,18 @@ std::filesystem::path onDrive(const std::filesystem::path& drive, std::string_vi
     return drive / path;
 }
 
+/// A server that comes back binds its port of before, which somebody's connection may have taken for a while.
+void bindListener(int listener, const sockaddr_in& address) {
+    constexpr int kMostTries = 200;
+    constexpr std::chrono::milliseconds kPause{50};
+    for (int tries = 1; ::bind(listener, reinterpret_cast<const sockaddr*>(&address), sizeof address) < 0; ++tries) {
+        if (errno != EADDRINUSE || tries == kMostTries) {
+            fail("bind");
+        }
+        std::this_thread::sleep_for(kPause);
+    }
+}
+
 } // namespace
 
 struct Server::State {
@@ -96,9 +109,7 @@ Server::Server(std::filesystem::path instanceFolder, std::filesystem::path drive
     address.sin_port = htons(static_cast<std::uint16_t>(port));
     const int yes = 1;
     ::setsockopt(state_->listener, SOL_SOCKET, SO_REUSEADDR, &yes, sizeof yes);
-    if (::bind(state_->listener, reinterpret_cast<sockaddr*>(&address), sizeof address) < 0) {
-        fail("bind");
-    }
+    bindListener(state_->listener, address);
     if (::listen(state_->listener, 64) < 0) {
         fail("listen");
     }

@@ -99,7 +99,6 @@ def unused_usings(file):
 
 class Tidy:
     def __init__(self, root, preset):
-        self.root = root
         self.database = root / "build" / preset
         self.joined = self.database / "tidy"
         self.joined.mkdir(exist_ok=True)
@@ -110,8 +109,7 @@ class Tidy:
 
     def run_tool(self, folder, files):
         done = subprocess.run(
-            ["clang-tidy", "--quiet", "--extra-arg=-Wno-unknown-warning-option",
-             f"--config-file={self.root / '.clang-tidy'}", "-p", str(folder), *files],
+            ["clang-tidy", "--quiet", "--extra-arg=-Wno-unknown-warning-option", "-p", str(folder), *files],
             capture_output=True, text=True, check=False)
         noise = re.compile(r"warnings? generated|^Suppressed|^Use -header-filter")
         told = "".join(line + "\n" for line in done.stderr.splitlines() if not noise.search(line))

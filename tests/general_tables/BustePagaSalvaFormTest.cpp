@@ -61,16 +61,16 @@ TEST_F(BustePagaSalva, SendsItsStatementsInTheirOrderAndNoOther) {
     }
     EXPECT_EQ(inviate,
               (Riga{"select * from TipoAnagraficaCPartite where id =4",
-                    "SELECT [id], [IdIrpef], [IdIrpefReg], [IdIrpefCom], [IdInpsP], [IdInailP], [IdCInpsE], "
-                    "[IdGInpsE], [IdCInailE], [IdGInailE], [IdCAltriFondiE], [IdGAltriFondiE], [IdAltriFondiP], "
-                    "[IdCIrapE], [IdGIrapE], [IdIrapP] FROM [TipoAnagraficaCPartite] WHERE [id] = 4",
+                    ("SELECT [id], [IdIrpef], [IdIrpefReg], [IdIrpefCom], [IdInpsP], [IdInailP], [IdCInpsE], "
+                     "[IdGInpsE], [IdCInailE], [IdGInailE], [IdCAltriFondiE], [IdGAltriFondiE], [IdAltriFondiP], "
+                     "[IdCIrapE], [IdGIrapE], [IdIrapP] FROM [TipoAnagraficaCPartite] WHERE [id] = 4"),
                     "SELECT  IdGruppoVabo From conti where IdConto =1185",
                     "SELECT  IdGruppoVabo From conti where IdConto =1187",
                     "SELECT  IdGruppoVabo From conti where IdConto =1183",
-                    "UPDATE [TipoAnagraficaCPartite] SET [IdIrpef] = 1080, [IdIrpefReg] = 1082, [IdIrpefCom] = 1083, "
-                    "[IdInpsP] = 1089, [IdInailP] = 1091, [IdCInpsE] = 1185, [IdGInpsE] = 45, [IdCInailE] = 1187, "
-                    "[IdGInailE] = 45, [IdCAltriFondiE] = 1183, [IdGAltriFondiE] = 44, [IdAltriFondiP] = 0, "
-                    "[IdCIrapE] = 0, [IdGIrapE] = 0, [IdIrapP] = 0 WHERE [id] = 4",
+                    ("UPDATE [TipoAnagraficaCPartite] SET [IdIrpef] = 1080, [IdIrpefReg] = 1082, [IdIrpefCom] = 1083, "
+                     "[IdInpsP] = 1089, [IdInailP] = 1091, [IdCInpsE] = 1185, [IdGInpsE] = 45, [IdCInailE] = 1187, "
+                     "[IdGInailE] = 45, [IdCAltriFondiE] = 1183, [IdGAltriFondiE] = 44, [IdAltriFondiP] = 0, "
+                     "[IdCIrapE] = 0, [IdGIrapE] = 0, [IdIrapP] = 0 WHERE [id] = 4"),
                     kElencoTipi, kElencoTipi}));
 }
 

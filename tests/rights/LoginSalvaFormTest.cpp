@@ -30,10 +30,10 @@ TEST_F(LoginSalva, ANewUserIsStoredByTheseStatements) {
     premi("cmdUpdate");
     EXPECT_EQ(recorder.texts(),
               (Testi{kProvaAttesa, kProvaAttesa, kSelezioneAttesa,
-                     "INSERT INTO [AbilitazioneAccessi] ([NomeUtente], [Administrator], [A_Inserisci], [A_Cancella], "
-                     "[A_Iva], [A_Bilancio], [A_Personale], [A_ArchivioStoria], [A_PFinanza], [A_Synchro], "
-                     "[A_EmettiPagamenti], [A_Progetta], [Disabilita]) VALUES (N'mario', 0, 0, 0, 1, 0, 0, 0, 0, 0, "
-                     "0, 0, 0)",
+                     ("INSERT INTO [AbilitazioneAccessi] ([NomeUtente], [Administrator], [A_Inserisci], [A_Cancella], "
+                      "[A_Iva], [A_Bilancio], [A_Personale], [A_ArchivioStoria], [A_PFinanza], [A_Synchro], "
+                      "[A_EmettiPagamenti], [A_Progetta], [Disabilita]) VALUES (N'mario', 0, 0, 0, 1, 0, 0, 0, 0, 0, "
+                      "0, 0, 0)"),
                      kElencoAtteso}));
     EXPECT_EQ(tabella().back(),
               (Riga{"5", "mario", "NULL", "0", "0", "0", "1", "0", "0", "0", "0", "0", "0", "0", "0"}));

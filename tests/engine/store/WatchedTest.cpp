@@ -137,6 +137,7 @@ TEST_F(WatchedStorage, WaitsForAnotherWriterAndLetsTheIdlerRunMeanwhile) {
         }
     });
     connection.run("INSERT INTO t VALUES (1)");
+    writing = nullptr;
     EXPECT_EQ(calls, 3);
 }
 

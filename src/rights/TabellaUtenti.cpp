@@ -41,6 +41,7 @@ std::string ElencoUtenti() {
 }
 
 bool MancaAmministratore(double escluso, int casella) {
+    RilasciaRecordset(kPostoUtenti); // a login that failed half-way may have left it open
     ado::Recordset& rs = RsCondivisi(kPostoUtenti);
     rs.Open(ProvaAmministratore(escluso), DbAzienda, ado::CursorType::Dynamic, ado::LockType::ReadOnly);
     const bool manca = rs.EOF() && casella < kSpuntata;

@@ -1,9 +1,6 @@
 // The combo's change and double click, and a text that the form sets in the Click of a pick.
 
-#include "DataFixture.h"
-#include "RecordedForm.h"
-#include "controls/DataCombo.h"
-#include "support/Gui.h"
+#include "DataComboFixture.h"
 
 #include <QAbstractItemView>
 #include <QCompleter>
@@ -18,22 +15,14 @@ using support::Gui;
 using testing::ElementsAre;
 using testing::IsEmpty;
 
-class DataComboEvents : public DataFixture {
+class DataComboEvents : public DataComboFixture {
 protected:
     DataComboEvents() {
-        gui.forms().add("F", [this] {
-            auto form = std::make_unique<RecordedForm>("F", log);
-            auto* list = new controls::DataCombo(form.get());
-            auto* field = new QLineEdit(form.get());
-            list->setObjectName("combo");
-            field->setObjectName("field");
-            list->ListField = "NOME";
-            list->BoundColumn = "id";
-            list->setRowSource(&source);
-            form->on(list, &controls::DataCombo::Change,
-                     [this] { events.push_back("change to " + combo().Text() + "=" + combo().BoundText()); });
-            form->on(list, &controls::DataCombo::DblClick, [this] { events.emplace_back("double click"); });
-            form->on(list, &controls::DataCombo::Click, [this](int area) {
+        open([this](RecordedForm& form, controls::DataCombo& list) {
+            form.on(&list, &controls::DataCombo::Change,
+                    [this] { events.push_back("change to " + combo().Text() + "=" + combo().BoundText()); });
+            form.on(&list, &controls::DataCombo::DblClick, [this] { events.emplace_back("double click"); });
+            form.on(&list, &controls::DataCombo::Click, [this](int area) {
                 if (area == controls::DataCombo::List) {
                     events.emplace_back("pick");
                     if (!afterwards.empty()) {
@@ -41,26 +30,12 @@ protected:
                     }
                 }
             });
-            form->chain({{list, controls::EndOfEntry::Enter, [this] { events.emplace_back("enter"); }}});
-            return form;
+            form.chain({{&list, controls::EndOfEntry::Enter, [this] { events.emplace_back("enter"); }}});
         });
-        source.Refresh();
-        gui.forms().show("F");
-        gui.waitForFront("F");
-        combo().ReFill();
-        combo().setFocus();
-    }
-    controls::DataCombo& combo() { return gui.find<controls::DataCombo>("F", "combo"); }
-    QAbstractItemView& search(const std::string& letters) {
-        gui.type(letters);
-        QAbstractItemView* found = combo().completer()->popup();
-        Gui::waitFor("the search", [&] { return found->isVisible(); });
-        return *found;
     }
 
-    std::vector<std::string> events, log;
+    std::vector<std::string> events;
     std::string afterwards; ///< set by the form in the Click of a pick
-    Gui gui;
 };
 
 TEST_F(DataComboEvents, ATextOfTheFormIsAChangeWhereItIsAnother) {

@@ -1,8 +1,6 @@
 #include "controls/DataCombo.h"
 
-#include "DataFixture.h"
-#include "RecordedForm.h"
-#include "support/Gui.h"
+#include "DataComboFixture.h"
 
 #include <QAbstractItemView>
 #include <QApplication>
@@ -21,41 +19,15 @@ namespace {
 using support::Gui;
 using testing::ElementsAre;
 
-/// A form with the combo and a field after it.
-class DataCombo : public DataFixture {
+class DataCombo : public DataComboFixture {
 protected:
     DataCombo() {
-        gui.forms().add("F", [this] {
-            auto form = std::make_unique<RecordedForm>("F", log);
-            auto* layout = new QVBoxLayout(form.get());
-            auto* list = new controls::DataCombo;
-            auto* field = new QLineEdit;
-            list->setObjectName("combo");
-            field->setObjectName("field");
-            list->ListField = "NOME";
-            list->BoundColumn = "id";
-            list->setRowSource(&source);
-            form->on(list, &controls::DataCombo::Click, [this](int area) { clicks.push_back(area); });
-            form->chain({{list, controls::EndOfEntry::Enter, [this] { stored.push_back(combo().Text()); }}});
-            layout->addWidget(list);
-            layout->addWidget(field);
-            return form;
+        open([this](RecordedForm& form, controls::DataCombo& list) {
+            form.on(&list, &controls::DataCombo::Click, [this](int area) { clicks.push_back(area); });
+            form.chain({{&list, controls::EndOfEntry::Enter, [this] { stored.push_back(combo().Text()); }}});
         });
-        source.Refresh();
-        gui.forms().show("F");
-        gui.waitForFront("F");
-        combo().ReFill();
-        combo().setFocus();
     }
-    controls::DataCombo& combo() { return gui.find<controls::DataCombo>("F", "combo"); }
 
-    /// Types, and returns the search list that opens.
-    QAbstractItemView& search(const std::string& letters) {
-        gui.type(letters);
-        QAbstractItemView* found = combo().completer()->popup();
-        Gui::waitFor("the search", [&] { return found->isVisible(); });
-        return *found;
-    }
     /// Sets a text as the form does, and selects it as the focus does.
     void choose(const std::string& text) {
         combo().setText(text);
@@ -72,8 +44,6 @@ protected:
 
     std::vector<int> clicks;
     std::vector<std::string> stored; ///< the text at each Enter that reaches the form
-    std::vector<std::string> log;
-    Gui gui;
 };
 
 TEST_F(DataCombo, ShowsTheListFieldOfEveryRow) {

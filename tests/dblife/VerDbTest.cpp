@@ -1,5 +1,6 @@
 #include "dblife/VerDb.h"
 
+#include "ado/Conversions.h"
 #include "session/ApriDbSede.h"
 #include "state/variabili.h"
 #include "support/DialogScript.h"
@@ -100,6 +101,24 @@ TEST_F(VerDbTest, ATextThatIsNoNumberRecordsZero) {
     EXPECT_EQ(recorded(), (Rows{{"1", "0"}}));
 }
 
+TEST_F(VerDbTest, ATableWithoutTheColumnIsReadAsZeroAndLeftAsItIs) {
+    ASSERT_TRUE(ApriDbTemp());
+    workstation.run(kTemporaryDatabase, "create table Version (id int null, Altro int null)");
+    workstation.run(kTemporaryDatabase, "insert into Version (id, Altro) values (1, 5)");
+    EXPECT_EQ(VerDb(), 0);
+    EXPECT_EQ(VerDb(2), 0);
+    EXPECT_EQ(workstation.rows(kTemporaryDatabase, "select id, Altro from Version"), (Rows{{"1", "5"}}));
+    EXPECT_FALSE(DbTemp.IsOpen());
+}
+
+TEST_F(VerDbTest, ARowThatTheServerRefusesIsNotAddedAndTheConnectionIsClosed) {
+    ASSERT_TRUE(ApriDbTemp());
+    workstation.run(kTemporaryDatabase, "create table Version (id int null, Version int not null, Altro int not null)");
+    EXPECT_EQ(VerDb(1), 0);
+    EXPECT_EQ(recorded(), Rows{});
+    EXPECT_FALSE(DbTemp.IsOpen());
+}
+
 class BalanceDate : public VerDbTest {
 protected:
     BalanceDate() {
@@ -141,6 +160,21 @@ TEST_F(BalanceDate, WithoutTheProjectIsTheLastDayOf1990) {
 TEST_F(BalanceDate, KeepsItsTimeThroughItsText) {
     balance("'20040705 10:20:30'");
     EXPECT_EQ(LeggiDataBilancioProgetto(), Date::of(2004, 7, 5, 10, 20, 30));
+}
+
+TEST_F(BalanceDate, WithoutItsColumnIsTheZeroDate) {
+    workstation.run(kCompany, "drop table progetti");
+    workstation.run(kCompany, "create table progetti (id int not null)");
+    workstation.run(kCompany, "insert into progetti (id) values (10000001)");
+    EXPECT_EQ(LeggiDataBilancioProgetto(), kZero);
+    EXPECT_EQ(LeggiPrimoGennaio(), Date::of(1900, 1, 1));
+}
+
+TEST_F(BalanceDate, IsReadBackWhereDatesAreWrittenWithPoints) {
+    balance("'20040705 10:20:30'");
+    ado::regionalSettings().dateSeparator = '.';
+    EXPECT_EQ(LeggiDataBilancioProgetto(), Date::of(2004, 7, 5, 10, 20, 30));
+    ado::regionalSettings().dateSeparator = '/';
 }
 
 TEST_F(BalanceDate, OfACompanyThatCannotBeReadIsTheZeroDate) {

@@ -60,6 +60,12 @@ TEST_F(TabellaUtenti, ATestReleasesEverySharedRecordsetAndTheLocalConnection) {
     }
 }
 
+TEST_F(TabellaUtenti, ATestClosesWhatALoginHasLeftOpen) {
+    RsCondivisi(2).Open("select * from progetti", DbAzienda);
+    EXPECT_FALSE(MancaAmministratore(0, 0));
+    EXPECT_FALSE(RsCondivisi(2).IsOpen());
+}
+
 TEST_F(TabellaUtenti, ATestThatFailsLeavesNothingOpen) {
     esegui("drop table AbilitazioneAccessi");
     EXPECT_THROW(MancaAmministratore(0, 1), ado::Error);

@@ -2,6 +2,7 @@
 
 #include <cstdint>
 #include <ctime>
+#include <filesystem>
 #include <string>
 
 namespace engine {
@@ -13,5 +14,8 @@ std::int64_t processNumber();
 /// process.
 void refuseTooLargeFiles();
 std::tm localTime(std::time_t time);
+/// Makes an empty file that nobody but its owner can ever open. Does nothing where there is one, or where none can be
+/// made.
+void makeFileOfOwner(const std::filesystem::path& file);
 
 } // namespace engine

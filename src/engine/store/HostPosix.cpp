@@ -2,6 +2,7 @@
 
 #include <array>
 #include <csignal>
+#include <fcntl.h>
 #include <unistd.h>
 
 namespace engine {
@@ -19,6 +20,14 @@ std::int64_t processNumber() {
 
 void refuseTooLargeFiles() {
     std::signal(SIGXFSZ, SIG_IGN);
+}
+
+void makeFileOfOwner(const std::filesystem::path& file) {
+    constexpr mode_t kOwnerOnly = 0600;
+    const int descriptor = open(file.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, kOwnerOnly);
+    if (descriptor >= 0) {
+        close(descriptor);
+    }
 }
 
 std::tm localTime(std::time_t time) {

@@ -1,6 +1,7 @@
 #include "engine/store/Sqlite.h"
 
 #include "engine/store/Beside.h"
+#include "engine/store/Host.h"
 #include "engine/store/Idler.h"
 #include "engine/store/Watched.h"
 #include "engine/values/Collation.h"
@@ -9,7 +10,6 @@
 
 #include <cerrno>
 #include <chrono>
-#include <fstream>
 #include <utility>
 
 namespace engine::sqlite {
@@ -55,18 +55,6 @@ void check(sqlite3* handle, int code) {
 int collate(void* /*unused*/, int leftSize, const void* left, int rightSize, const void* right) {
     return compareTexts({static_cast<const char*>(left), static_cast<std::size_t>(leftSize)},
                         {static_cast<const char*>(right), static_cast<std::size_t>(rightSize)});
-}
-
-/// SQLite gives the files beside a database (log and index of the log) the rights of the database itself.
-void makeFileOfOwner(const std::filesystem::path& file) {
-    if (std::filesystem::exists(file)) {
-        return;
-    }
-    const std::ofstream made(file, std::ios::app);
-    if (made) {
-        using std::filesystem::perms;
-        std::filesystem::permissions(file, perms::owner_read | perms::owner_write);
-    }
 }
 
 /// A database in use is never empty, so an empty file with a log beside it was emptied by somebody else. Turning the
@@ -131,7 +119,7 @@ bool holdsTable(const std::filesystem::path& file, std::string_view table) {
 
 Connection::Connection(const std::filesystem::path& file, bool create) {
     if (create) {
-        makeFileOfOwner(file);
+        makeFileOfOwner(file); // SQLite gives the files beside a database (log and index of the log) its rights
     }
     if (wasEmptied(file)) {
         throw Failure(SQLITE_NOTADB, sqlite3_errstr(SQLITE_NOTADB));

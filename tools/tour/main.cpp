@@ -25,7 +25,17 @@ constexpr std::array kWalks = {Walk{"light", "", "1", controls::style::Scheme::L
                                Walk{"large", "-200", "2", controls::style::Scheme::Light},
                                Walk{"dark", "-scuro", "1", controls::style::Scheme::Dark}};
 
+QtMessageHandler toldBefore = nullptr;
+
+/// The platform without a screen says of each window what it can't do with it.
+void tellAllButWhatNoScreenCan(QtMsgType type, const QMessageLogContext& context, const QString& text) {
+    if (!text.startsWith(QLatin1String("This plugin does not support"))) {
+        toldBefore(type, context, text);
+    }
+}
+
 int walkOnce(int argc, char** argv, const Walk& walk) {
+    toldBefore = qInstallMessageHandler(tellAllButWhatNoScreenCan);
     app::Program program(argc, argv, walk.scheme);
     try {
         tour::Tour tour(program.forms(), argv[2], walk.suffix);

@@ -88,7 +88,7 @@ bound::ExpressionPtr Binder::convertTo(bound::ExpressionPtr value, const DataTyp
     if (const auto* use = std::get_if<bound::ParameterUse>(&value->node)) {
         auto& conversion = parameters_[static_cast<std::size_t>(use->place)].conversion;
         if (conversion.to.kind == Kind::Unknown) {
-            conversion = {value->type, type, style, purpose, false};
+            conversion = {value->type, type, style, purpose, {}};
             value->type = type;
             return value;
         }
@@ -125,7 +125,7 @@ bound::ExpressionPtr Binder::convertWritten(bound::ExpressionPtr value, const Da
         return convertTo(std::move(value), type, purpose, style);
     }
     literal->digitsMatter = false;
-    literal->conversion = {value->type, type, style, purpose, false};
+    literal->conversion = {value->type, type, style, purpose, {}};
     value->type = type;
     return value;
 }

@@ -2,7 +2,7 @@
 
 // Errors of statements that define tables, indexes and settings.
 
-#include "engine/errors/ErrorText.h"
+#include "engine/errors/TextErrors.h"
 
 namespace engine::errors {
 
@@ -10,6 +10,7 @@ namespace engine::errors {
 inline constexpr Text kCannotFind =
     "Cannot find the object \"{table}\" because it does not exist or you do not have permissions.";
 inline constexpr ErrorText<Text> missingTableToChange{1088, Reach::Statement, kCannotFind};
+inline constexpr ErrorText<Text> unknownSetOption{195, Reach::Batch, "'{option}' is not a recognized SET option."};
 inline constexpr ErrorText<Text, Text> duplicateInNewKey{
     1505, Reach::Statement,
     "The CREATE UNIQUE INDEX statement terminated because a duplicate key was found for the "
@@ -32,6 +33,13 @@ inline constexpr ErrorText<Text> severalIdentities{
     2744, Reach::Batch,
     "Multiple identity columns specified for table '{table}'. Only one identity column per "
     "table is allowed."};
+inline constexpr ErrorText<Text> unknownLanguage{
+    2740, Reach::Statement,
+    "SET LANGUAGE failed because '{language}' is not an official language name or a language "
+    "alias on this SQL Server."};
+inline constexpr ErrorText<Text> invalidDateOrder{2741, Reach::Statement,
+                                                  "SET DATEFORMAT date order '{order}' is invalid."};
+inline constexpr ErrorText<Text> dateFirstOutOfRange{2742, Reach::Statement, "SET DATEFIRST {number} is out of range."};
 inline constexpr ErrorText<Text, Text> indexOfConstraint{
     3723, Reach::Statement,
     "An explicit DROP INDEX is not allowed on index '{index}'. It is being used for "
@@ -55,5 +63,11 @@ inline constexpr ErrorText<Text, Text> identityInsertBusy{
     8107, Reach::Statement,
     "IDENTITY_INSERT is already ON for table '{holder}'. Cannot perform SET operation for "
     "table '{table}'."};
+
+/// The words of nullableKey, for a column that the table has already.
+inline constexpr ErrorText<Text> nullableColumnOfKey{8111, Reach::Statement, nullableKey.words()};
+/// What a server offers and this one doesn't, in the words in which a server of another edition refuses.
+inline constexpr ErrorText<Text> notSupported{
+    40510, Reach::Statement, "Statement '{statement}' is not supported in this version of SQL Server."};
 
 } // namespace engine::errors

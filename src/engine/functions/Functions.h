@@ -25,9 +25,11 @@ enum class Fact {
     DatabaseId,
     DatabaseName,
     Error,
+    FirstDayOfWeek,
     Host,
     Language,
     LastIdentity,
+    LockTimeout,
     Login,
     ObjectId,
     Options,
@@ -44,8 +46,9 @@ enum class Fact {
 
 /// What the bodies need beyond their arguments; lives as long as the connection they are registered on.
 struct FunctionContext {
-    bool dayFirst = false;
-    std::string now; ///< one instant for the whole statement, empty until it is asked for
+    DateOrder dateOrder = DateOrder::MonthDayYear;
+    int firstDayOfWeek = 7; ///< 1 is Monday, 7 Sunday
+    std::string now;        ///< one instant for the whole statement, empty until it is asked for
     /// The session's answer; the argument is null where there is none.
     std::function<Scalar(Fact fact, const Scalar& argument)> fact;
     /// Set by a body that refused its arguments; it is the cause of the storage's failure.

@@ -162,7 +162,17 @@ Scalar dateDiff(FunctionContext& /*context*/, Arguments arguments) {
     return difference;
 }
 
-Scalar datePart(FunctionContext& /*context*/, Arguments arguments) {
+/// Weeks begun up to a date. 1900-01-01, day 0, was a Monday.
+std::int64_t weeksUpTo(const CalendarDate& date, int firstDayOfWeek) {
+    return floorDivide(date.days() - (firstDayOfWeek - 1), kDaysOfWeek);
+}
+
+std::int64_t dayOfWeek(const CalendarDate& date, int firstDayOfWeek) {
+    const std::int64_t days = date.days() - (firstDayOfWeek - 1);
+    return days - floorDivide(days, kDaysOfWeek) * kDaysOfWeek + 1;
+}
+
+Scalar datePart(FunctionContext& context, Arguments arguments) {
     const CalendarDate date = CalendarDate::stored(textAt(arguments, 1));
     CalendarDate newYear;
     newYear.year = date.year;
@@ -177,9 +187,9 @@ Scalar datePart(FunctionContext& /*context*/, Arguments arguments) {
     case Part::Day:
         return std::int64_t{date.day};
     case Part::Week:
-        return beginningsUpTo(date, part) - beginningsUpTo(newYear, part) + 1;
+        return weeksUpTo(date, context.firstDayOfWeek) - weeksUpTo(newYear, context.firstDayOfWeek) + 1;
     case Part::WeekDay:
-        return date.days() + 1 - floorDivide(date.days() + 1, kDaysOfWeek) * kDaysOfWeek + 1;
+        return dayOfWeek(date, context.firstDayOfWeek);
     case Part::Hour:
         return std::int64_t{date.hour};
     case Part::Minute:
@@ -219,7 +229,7 @@ Scalar isDate(FunctionContext& context, Arguments arguments) {
         return std::int64_t{0};
     }
     try {
-        toDateTime(*text, std::nullopt, context.dayFirst);
+        toDateTime(*text, std::nullopt, context.dateOrder);
         return std::int64_t{!withoutTrailingBlanks(*text).empty()};
     } catch (const Error&) {
         return std::int64_t{0};

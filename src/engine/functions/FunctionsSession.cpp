@@ -22,9 +22,11 @@ constexpr FunctionRow kFunctions[] = {
 };
 
 constexpr FunctionRow kVariables[] = {
+    {"@@DATEFIRST", {}, Result::Int, ask<Fact::FirstDayOfWeek>},
     {"@@ERROR", {}, Result::Int, ask<Fact::Error>},
     {"@@IDENTITY", {}, Result::Numeric, ask<Fact::LastIdentity>},
     {"@@LANGUAGE", {}, Result::SystemName, ask<Fact::Language>},
+    {"@@LOCK_TIMEOUT", {}, Result::Int, ask<Fact::LockTimeout>},
     {"@@MAX_PRECISION", {}, Result::Int, ask<Fact::WidestDecimal>},
     {"@@MICROSOFTVERSION", {}, Result::Int, ask<Fact::VersionNumber>},
     {"@@OPTIONS", {}, Result::Int, ask<Fact::Options>},

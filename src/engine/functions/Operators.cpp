@@ -52,7 +52,7 @@ Scalar convertValue(FunctionContext& context, Arguments arguments) {
         request.style = static_cast<int>(integerAt(arguments, 3));
     }
     request.purpose = integerAt(arguments, 4) != 0 ? Purpose::Assignment : Purpose::Cast;
-    request.dayFirst = context.dayFirst;
+    request.dateOrder = context.dateOrder;
     return convert(arguments[0], request);
 }
 

@@ -16,6 +16,16 @@ namespace {
 /// Errors that end the open transaction together with the batch.
 constexpr std::array kConversionErrors = {241, 242, 245, 248, 8114, 8115, 517, 537};
 
+/// SET IMPLICIT_TRANSACTIONS: what begins a transaction.
+template<class Node>
+bool touchesTable(const Node& node) {
+    if constexpr (std::is_same_v<Node, Select>) {
+        return !node.cores.front().from.empty();
+    } else {
+        return kKindOf<Node>.writes;
+    }
+}
+
 /// Names are looked up before the first statement runs, as far as they can be. False where what the batch makes itself,
 /// or the database it goes to, isn't there yet.
 bool checkAll(ServerSession& session, const std::vector<StatementPtr>& statements) {
@@ -86,12 +96,12 @@ bool BatchRun::nextResult() {
 }
 
 bool BatchRun::runNext() {
-    if (!std::exchange(checked_, true)) {
+    if (!std::exchange(checked_, true) && !session_->settings.parseOnly) {
         checkAll(*session_, tree_.statements);
     }
     if (const PlanPtr plan = std::exchange(ready_, nullptr)) {
         session_->prepareFor(session_->current(), plan->writes());
-        show(runPlan(*session_, plan, {&shape_->literals, session_->dayFirst}));
+        show(runPlan(*session_, plan, {&shape_->literals, session_->settings.dateOrder}));
         return true;
     }
     bool shown = false;
@@ -103,10 +113,11 @@ bool BatchRun::runNext() {
                 constexpr StatementKind kKind = kKindOf<decltype(node)>;
                 if constexpr (kKind.runBy == StatementKind::RunBy::Batch) {
                     enter(node);
+                } else if constexpr (std::is_same_v<std::remove_cvref_t<decltype(node)>, SetOption>) {
+                    shown = run(statement, kKind.writes, false);
                 } else {
-                    begin(kKind.writes);
-                    show(runStatement(*session_, statement, shape_, messages_));
-                    shown = true;
+                    shown = session_->settings.runsNothing() ? describe(statement)
+                                                             : run(statement, kKind.writes, touchesTable(node));
                 }
             },
             statement.node);
@@ -114,13 +125,43 @@ bool BatchRun::runNext() {
     return shown;
 }
 
-void BatchRun::begin(bool writes) {
+bool BatchRun::run(const Statement& statement, bool writes, bool touchesTable) {
+    begin(writes, touchesTable);
+    show(runStatement(*session_, statement, shape_, messages_));
+    return true;
+}
+
+bool BatchRun::describe(const Statement& statement) {
+    const Settings& settings = session_->settings;
+    if (settings.parseOnly || kindOf(statement).runBy != StatementKind::RunBy::Plan) {
+        return false;
+    }
+    begin(false, false);
+    PlanPtr plan = makePlan(*session_, statement);
+    if (!settings.formatOnly || plan->writes()) {
+        return false;
+    }
+    outcome_.rows = std::make_unique<ListedRows>(Listing{plan->columns, {}});
+    return true;
+}
+
+void BatchRun::begin(bool writes, bool touchesTable) {
     session_->current().refresh();
+    session_->beginTransactionOf(touchesTable);
     session_->prepareFor(session_->current(), writes);
 }
 
 void BatchRun::enter(const If& branch) {
-    begin(kKindOf<If>.writes);
+    const Settings& settings = session_->settings;
+    if (settings.runsNothing()) {
+        for (const Statement* each : {branch.otherwise.get(), branch.then.get()}) {
+            if (each != nullptr) {
+                pending_.push_back(each);
+            }
+        }
+        return;
+    }
+    begin(kKindOf<If>.writes, false);
     const StatementPtr& taken = holds(*session_, *branch.condition) ? branch.then : branch.otherwise;
     if (taken) {
         pending_.push_back(taken.get());
@@ -144,6 +185,10 @@ const std::vector<ResultColumn>& BatchRun::columns() const {
     return outcome_.rows ? outcome_.rows->columns() : kNone;
 }
 
+std::int64_t BatchRun::affected() const {
+    return session_ != nullptr && session_->settings.noCount ? -1 : outcome_.affected;
+}
+
 const ResultRow* BatchRun::nextRow() {
     return outcome_.rows && guarded([this] { return outcome_.rows->next(); }) ? outcome_.rows.get() : nullptr;
 }
@@ -158,12 +203,13 @@ void BatchRun::failed(const Error& error) {
     if (session_->endLostTransaction()) {
         pending_.clear();
     }
-    if (error.reach() == Error::Reach::Statement) {
+    const bool aborts = session_->settings.abortsTransactions;
+    if (error.reach() == Error::Reach::Statement && !aborts) {
         return;
     }
     pending_.clear();
     const auto number = std::find(kConversionErrors.begin(), kConversionErrors.end(), error.number());
-    if (number != kConversionErrors.end() && session_->inTransaction()) {
+    if ((aborts || number != kConversionErrors.end()) && session_->inTransaction()) {
         session_->rollbackTransaction();
     }
 }

@@ -22,7 +22,7 @@ public:
     bool nextResult() override;
     bool hasRows() const override { return outcome_.rows != nullptr; }
     const std::vector<ResultColumn>& columns() const override;
-    std::int64_t affected() const override { return outcome_.affected; }
+    std::int64_t affected() const override;
     const std::vector<Message>& messages() const override { return messages_; }
     const ResultRow* nextRow() override;
 
@@ -31,7 +31,10 @@ public:
 
 private:
     bool runNext();
-    void begin(bool writes);
+    bool run(const Statement& statement, bool writes, bool touchesTable);
+    /// Under NOEXEC and its kind: looks up the names, and tells the columns under FMTONLY. Whether there is a result.
+    bool describe(const Statement& statement);
+    void begin(bool writes, bool touchesTable);
     void enter(const If& branch);
     void enter(const Block& block);
     void queue(const std::vector<StatementPtr>& statements);

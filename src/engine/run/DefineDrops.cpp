@@ -59,8 +59,11 @@ void dropIndex(ServerSession& session, const Name& name, bool ifExists) {
             throw errors::indexOfConstraint(table + "." + name.last(), key.primary ? "PRIMARY KEY" : "UNIQUE KEY");
         }
     }
-    changeSchema(session, nullptr,
-                 [&] { session.current().connection().run("DROP INDEX main." + stored::quoted(index)); });
+    changeSchema(session, nullptr, [&] {
+        sqlite::Connection& connection = session.current().connection();
+        connection.run("DROP INDEX main." + stored::quoted(index));
+        connection.run("DROP INDEX IF EXISTS main." + stored::quoted(stored::nullsIndexName(index)));
+    });
 }
 
 } // namespace

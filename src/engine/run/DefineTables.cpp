@@ -14,18 +14,21 @@ namespace engine {
 
 namespace {
 
-/// Whether a table or a key of the database has that name: they share one set of names.
+/// Whether a table or a constraint of the database has that name: they share one set of names.
 bool isObject(Catalog& catalog, const TableInfo& table, const std::string& name) {
-    const auto hasKey = [&](const TableInfo& one) {
+    const auto hasConstraint = [&](const TableInfo& one) {
         return std::any_of(one.keys.begin(), one.keys.end(),
-                           [&](const KeyInfo& key) { return sameText(key.name, name); });
+                           [&](const KeyInfo& key) { return sameText(key.name, name); }) ||
+               std::any_of(one.columns.begin(), one.columns.end(), [&](const ColumnInfo& column) {
+                   return !column.defaultName.empty() && sameText(column.defaultName, name);
+               });
     };
-    if (sameText(table.name, name) || hasKey(table) || catalog.table(name) != nullptr) {
+    if (sameText(table.name, name) || hasConstraint(table) || catalog.table(name) != nullptr) {
         return true;
     }
     const std::vector<std::string> tables = catalog.tableNames();
     return std::any_of(tables.begin(), tables.end(),
-                       [&](const std::string& other) { return hasKey(*catalog.table(other)); });
+                       [&](const std::string& other) { return hasConstraint(*catalog.table(other)); });
 }
 
 /// A name like those that the server gives to keys without one.
@@ -54,17 +57,20 @@ ColumnInfo columnOf(const ColumnDefinition& definition) {
     return column;
 }
 
-void addColumn(TableInfo& table, const ColumnDefinition& definition) {
+void addColumn(Catalog& catalog, TableInfo& table, const ColumnDefinition& definition) {
     if (table.find(definition.name) >= 0) {
         throw errors::duplicateColumn(definition.name, table.name);
     }
     if (definition.identity && table.identity() != nullptr) {
         throw errors::severalIdentities(table.name);
     }
+    if (!definition.defaultName.empty() && isObject(catalog, table, definition.defaultName)) {
+        throw errors::objectExists(definition.defaultName);
+    }
     table.columns.push_back(columnOf(definition));
 }
 
-KeyInfo keyOf(Catalog& catalog, TableInfo& table, const KeyDefinition& definition) {
+KeyInfo keyOf(Catalog& catalog, const TableInfo& table, const KeyDefinition& definition) {
     KeyInfo key;
     key.name = definition.name.empty() ? keyName(table.name, definition) : definition.name;
     while (isObject(catalog, table, key.name)) {
@@ -82,8 +88,10 @@ KeyInfo keyOf(Catalog& catalog, TableInfo& table, const KeyDefinition& definitio
         if (place < 0) {
             throw errors::keyColumnMissing(name);
         }
-        ColumnInfo& column = table.columns[static_cast<std::size_t>(place)];
-        column.nullable = column.nullable && !key.primary;
+        const ColumnInfo& column = table.columns[static_cast<std::size_t>(place)];
+        if (key.primary && column.nullable) {
+            throw errors::nullableColumnOfKey(table.name);
+        }
         key.columns.push_back(column.name);
     }
     return key;
@@ -98,7 +106,7 @@ std::string defaultLiteral(ServerSession& session, const ColumnDefinition& defin
     translate::write(text, *value);
     text += ')';
     sqlite::Statement statement(session.current().connection(), text.sql());
-    bindLiterals(statement, text.parameters(binder.parameters()), {nullptr, session.dayFirst});
+    bindLiterals(statement, text.parameters(binder.parameters()), {nullptr, session.settings.dateOrder});
     statement.step();
     return std::string(statement.text(0));
 }
@@ -109,10 +117,13 @@ bool hasRows(Database& database, const TableInfo& table) {
     return any.step();
 }
 
-/// Makes a unique index; rows that are there already may be against it. `name` is the one in the error.
-void makeUnique(ServerSession& session, const std::string& table, const std::string& name, const std::string& text) {
+/// Rows that are there already may be against a unique index. `name` is the one in the error.
+void makeIndex(ServerSession& session, const std::string& table, const std::string& name,
+               const std::vector<std::string>& texts) {
     try {
-        session.current().connection().run(text);
+        for (const std::string& text : texts) {
+            session.current().connection().run(text);
+        }
     } catch (const sqlite::Failure& failure) {
         if (isDuplicate(failure)) {
             throw errors::duplicateInNewKey(table, name);
@@ -125,7 +136,7 @@ void addKey(ServerSession& session, const TableInfo& table, const KeyInfo& key) 
     if (!storedIndex(session.current(), table, key.name).empty()) {
         throw errors::indexExists(key.name, table.name);
     }
-    makeUnique(session, table.name, key.name, translate::createKey(table, key));
+    makeIndex(session, table.name, key.name, translate::createKey(table, key));
     session.current().catalog().addKey(table.name, key);
 }
 
@@ -134,7 +145,7 @@ void addColumn(ServerSession& session, const AlterTable& alter, const ColumnDefi
     Database& database = session.current();
     TableInfo table = *database.catalog().table(alter.table.last());
     const bool filled = hasRows(database, table);
-    addColumn(table, definition);
+    addColumn(database.catalog(), table, definition);
     ColumnInfo& column = table.columns.back();
     std::string initial;
     if (!column.nullable) {
@@ -179,7 +190,7 @@ void define(ServerSession& session, const CreateTable& create) {
         throw errors::objectExists(table.name);
     }
     for (const ColumnDefinition& definition : create.columns) {
-        addColumn(table, definition);
+        addColumn(database.catalog(), table, definition);
     }
     for (const KeyDefinition& definition : create.keys) {
         table.keys.push_back(keyOf(database.catalog(), table, definition));
@@ -188,7 +199,7 @@ void define(ServerSession& session, const CreateTable& create) {
         database.connection().run(translate::createTable(table));
         for (const KeyInfo& key : table.keys) {
             if (!(key.primary && translate::rowNumber(table) != nullptr)) {
-                database.connection().run(translate::createKey(table, key));
+                makeIndex(session, table.name, key.name, translate::createKey(table, key));
             }
         }
         database.catalog().addTable(table);
@@ -207,7 +218,7 @@ void define(ServerSession& session, const AlterTable& alter) {
         }
         for (const KeyDefinition& definition : alter.keys) {
             Catalog& catalog = session.current().catalog();
-            TableInfo table = *catalog.table(before.name);
+            const TableInfo table = *catalog.table(before.name);
             addKey(session, table, keyOf(catalog, table, definition));
         }
     });
@@ -219,25 +230,23 @@ void define(ServerSession& session, const CreateIndex& create) {
         throw errors::missingTableToChange(create.table.last());
     }
     Database& database = session.current();
-    const std::string name = stored::indexName(table->name, create.name);
     if (!storedIndex(database, *table, create.name).empty()) {
         throw errors::indexExists(create.name, table->name);
     }
-    std::string text = std::string(create.unique ? "CREATE UNIQUE INDEX " : "CREATE INDEX ") + stored::quoted(name) +
-                       " ON " + stored::quoted(stored::tableName(table->name)) + " (";
-    bool first = true;
+    const TableInfo indexed = *table;
+    std::vector<translate::IndexColumn> columns;
     for (const OrderItem& item : create.columns) {
         const auto& reference = std::get<ColumnReference>(item.expression->node);
-        const int place = table->find(reference.name.last());
+        const int place = indexed.find(reference.name.last());
         if (place < 0) {
             throw errors::keyColumnMissing(reference.name.last());
         }
-        text += (first ? "" : ", ") + stored::quoted(table->columns[static_cast<std::size_t>(place)].name) +
-                (item.descending ? " DESC" : "");
-        first = false;
+        columns.push_back({&indexed.columns[static_cast<std::size_t>(place)], item.descending});
     }
-    const TableInfo indexed = *table;
-    changeSchema(session, &indexed, [&] { makeUnique(session, indexed.name, create.name, text + ")"); });
+    changeSchema(session, &indexed, [&] {
+        makeIndex(session, indexed.name, create.name,
+                  translate::createIndex(indexed, create.name, columns, create.unique));
+    });
 }
 
 } // namespace engine

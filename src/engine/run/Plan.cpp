@@ -23,7 +23,7 @@ Scalar valueOf(const bound::Parameter& parameter, const Bindings& bindings) {
         return value;
     }
     ConversionRequest request = parameter.conversion;
-    request.dayFirst = bindings.dayFirst;
+    request.dateOrder = bindings.dateOrder;
     if (request.from.kind == DataType::Kind::Decimal) {
         request.from = decimalOf(literal); // the plan may have been made for other digits
     }

@@ -51,7 +51,7 @@ using PlanPtr = std::shared_ptr<Plan>;
 struct Bindings {
     /// Of this run; nullptr where the statement runs with the literals it was bound with.
     const std::vector<LiteralToken>* literals = nullptr;
-    bool dayFirst = false;
+    DateOrder dateOrder = DateOrder::MonthDayYear;
 };
 
 Scalar valueOf(const bound::Parameter& parameter, const Bindings& bindings);

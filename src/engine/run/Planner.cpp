@@ -1,6 +1,7 @@
 #include "engine/run/Planner.h"
 
 #include "engine/bind/BoundMakers.h"
+#include "engine/errors/DefinitionErrors.h"
 #include "engine/errors/Error.h"
 #include "engine/run/SessionTables.h"
 #include "engine/run/StatementKinds.h"
@@ -70,7 +71,12 @@ private:
         return plan;
     }
 
+    std::int64_t most() const { return session_.settings.rowCount; }
+
     PlanPtr prepare(const bound::Insert& insert) {
+        if (most() != 0 && !insert.select && insert.rows.size() > static_cast<std::size_t>(most())) {
+            throw errors::notSupported("INSERT … VALUES of more rows than SET ROWCOUNT");
+        }
         PlanPtr plan = made(translate::insert(insert), Plan::Kind::Insert);
         plan->table = insert.table.info;
         plan->identity = insert.identity;
@@ -88,16 +94,16 @@ private:
     }
 
     PlanPtr prepare(const bound::Update& update) {
-        PlanPtr plan = made(translate::update(update), Plan::Kind::Update);
+        PlanPtr plan = made(translate::update(update, most()), Plan::Kind::Update);
         plan->table = update.table.info;
-        addRows(*plan, translate::rowsOf(update));
+        addRows(*plan, translate::rowsOf(update, most()));
         return plan;
     }
 
     PlanPtr prepare(const bound::Delete& remove) {
-        PlanPtr plan = made(translate::remove(remove), Plan::Kind::Delete);
+        PlanPtr plan = made(translate::remove(remove, most()), Plan::Kind::Delete);
         plan->table = remove.table.info;
-        addRows(*plan, translate::rowsOf(remove));
+        addRows(*plan, translate::rowsOf(remove, most()));
         return plan;
     }
 

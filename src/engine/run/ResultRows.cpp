@@ -5,8 +5,8 @@
 
 namespace engine {
 
-PlanRows::PlanRows(ServerSession& session, PlanPtr plan, const Bindings& bindings)
-    : session_(session), database_(session.current()), plan_(std::move(plan)) {
+PlanRows::PlanRows(ServerSession& session, PlanPtr plan, const Bindings& bindings, std::int64_t most)
+    : session_(session), database_(session.current()), plan_(std::move(plan)), most_(most) {
     try {
         for (const std::string& table : plan_->systemTables) {
             fillSystemTable(table, database_, session_.instance());
@@ -26,7 +26,7 @@ bool PlanRows::next() {
         return false;
     }
     try {
-        if (plan_->statement.step()) {
+        if ((most_ == 0 || walked_ < most_) && plan_->statement.step()) {
             ++walked_;
             return true;
         }

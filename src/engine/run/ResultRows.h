@@ -23,8 +23,9 @@ public:
 /// The rows of a SELECT, read from the storage one by one. The session learns their number behind the last one.
 class PlanRows final : public ResultRows {
 public:
-    /// Fills the server's own tables that the plan reads. Throws the errors of the literals' conversions.
-    PlanRows(ServerSession& session, PlanPtr plan, const Bindings& bindings);
+    /// Fills the server's own tables that the plan reads. Throws the errors of the literals' conversions. Gives `most`
+    /// rows at most, 0 is all.
+    PlanRows(ServerSession& session, PlanPtr plan, const Bindings& bindings, std::int64_t most = 0);
     ~PlanRows() override;
     PlanRows(const PlanRows&) = delete;
     PlanRows& operator=(const PlanRows&) = delete;
@@ -42,6 +43,7 @@ private:
     PlanPtr plan_;
     bool over_ = false;
     std::int64_t walked_ = 0;
+    std::int64_t most_; ///< 0 for all
     mutable std::string formatted_;
 };
 

@@ -78,7 +78,7 @@ std::unique_ptr<RowHold> ServerSession::holdRows(const Select& select) {
         sqlite::Transaction transaction(current_->connection());
         const translate::Text text = translate::rowsOf(bound);
         sqlite::Statement rows(current_->connection(), text.sql());
-        bindLiterals(rows, text.parameters(binder.parameters()), {nullptr, dayFirst});
+        bindLiterals(rows, text.parameters(binder.parameters()), {nullptr, settings.dateOrder});
         const int rowNumber = rows.columns() - 1;
         while (rows.step()) {
             hold->take(rows.integer(rowNumber));

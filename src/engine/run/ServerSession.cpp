@@ -39,7 +39,7 @@ ServerSession::ServerSession(std::shared_ptr<Instance> instance, Login login, st
 ServerSession::~ServerSession() {
     stopBatch();
     // Plans that were made under IDENTITY_INSERT are this session's alone.
-    if (kept_ == nullptr || !identityInsert.empty()) {
+    if (kept_ == nullptr || !settings.identityInsert.empty()) {
         return;
     }
     transactionHolds_.clear();
@@ -103,7 +103,7 @@ std::unique_ptr<Batch> ServerSession::begin(std::string_view text) {
     const std::vector<Token> tokens = tokenize(text);
     Shape shape = shapeOf(tokens);
     current_->refresh();
-    if (PlanPtr plan = current_->cache().find(shape)) {
+    if (PlanPtr plan = settings.takesPlans() ? current_->cache().find(shape) : nullptr) {
         return std::make_unique<BatchRun>(*this, std::move(plan), std::move(shape));
     }
     BatchTree tree = parse(text);
@@ -114,7 +114,13 @@ std::unique_ptr<Batch> ServerSession::begin(std::string_view text) {
 }
 
 void ServerSession::beginTransaction() {
-    ++transactions_;
+    transactions_ += settings.implicitTransactions && transactions_ == 0 ? 2 : 1;
+}
+
+void ServerSession::beginTransactionOf(bool touchesTable) {
+    if (settings.implicitTransactions && touchesTable && transactions_ == 0) {
+        transactions_ = 1;
+    }
 }
 
 void ServerSession::takeBack(Database& database) {
@@ -143,7 +149,8 @@ bool ServerSession::endLostTransaction() {
 
 void ServerSession::prepareFor(Database& database, bool writes) {
     firstWrite_ = nullptr;
-    if (writes && transactions_ > 0 && !database.connection().inTransaction()) {
+    database.connection().waitAtMost(settings.lockTimeout);
+    if ((writes || settings.stableReads) && transactions_ > 0 && !database.connection().inTransaction()) {
         try {
             database.connection().begin();
             firstWrite_ = &database;
@@ -152,7 +159,8 @@ void ServerSession::prepareFor(Database& database, bool writes) {
             database.raise(failure, nullptr, "");
         }
     }
-    database.functions().dayFirst = dayFirst;
+    database.functions().dateOrder = settings.dateOrder;
+    database.functions().firstDayOfWeek = settings.firstDayOfWeek;
     database.functions().now.clear();
 }
 

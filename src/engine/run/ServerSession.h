@@ -6,6 +6,7 @@
 #include "engine/run/InternalErrors.h"
 #include "engine/run/KeptDatabases.h"
 #include "engine/run/Session.h"
+#include "engine/run/Settings.h"
 #include "engine/text/Tree.h"
 
 #include <map>
@@ -41,9 +42,7 @@ public:
     /// Before a database is dropped: closes this session's own connection to it, unless it is the current one.
     void forget(std::string_view name);
 
-    /// Settings that SET changes.
-    bool dayFirst = false;
-    std::string identityInsert; ///< the table of SET IDENTITY_INSERT … ON, empty where none
+    Settings settings;
 
     /// What the session answers to the @@variables.
     void wrote(std::int64_t rows) { rowCount_ = rows; }
@@ -51,6 +50,8 @@ public:
     void gaveIdentity(std::int64_t value) { lastIdentity_ = value; }
 
     void beginTransaction();
+    /// SET IMPLICIT_TRANSACTIONS: before a statement that touches a table.
+    void beginTransactionOf(bool touchesTable);
     /// Throws 3902, 3903.
     void commitTransaction();
     void rollbackTransaction();

@@ -12,8 +12,6 @@ namespace engine {
 namespace {
 
 constexpr int kBitsBehindVersion = 24;
-constexpr const char* kLanguage = "us_english";
-constexpr std::int64_t kQuotedIdentifierAndNulls = 5496; ///< the usual settings of a connection, as bits
 
 std::string versionText(const Instance& instance) {
     return std::to_string(instance.version()) + ".00";
@@ -77,12 +75,16 @@ Scalar ServerSession::fact(Fact fact, const Scalar& argument) {
     }
     case Fact::Error:
         return std::int64_t{lastError_};
+    case Fact::FirstDayOfWeek:
+        return std::int64_t{settings.firstDayOfWeek};
     case Fact::Host:
         return hostName();
     case Fact::Language:
-        return std::string(kLanguage);
+        return settings.language;
     case Fact::LastIdentity:
         return lastIdentity_ == 0 ? Scalar() : Scalar(lastIdentity_);
+    case Fact::LockTimeout:
+        return settings.lockTimeout;
     case Fact::Login:
         return login_.user.empty() ? std::string("sa") : login_.user;
     case Fact::ObjectId: {
@@ -90,7 +92,7 @@ Scalar ServerSession::fact(Fact fact, const Scalar& argument) {
         return info == nullptr ? Scalar() : Scalar(numberOf(*info, current_->catalog()));
     }
     case Fact::Options:
-        return kQuotedIdentifierAndNulls;
+        return settings.options();
     case Fact::Process:
         return processNumber();
     case Fact::RowCount:

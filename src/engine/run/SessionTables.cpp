@@ -85,7 +85,9 @@ TableFinder::Found SessionTables::inOtherDatabase(const Name& name) {
 }
 
 bool SessionTables::takesIdentity(const TableInfo& table) {
-    return !session_.identityInsert.empty() && sameText(session_.identityInsert, table.name);
+    const Settings& settings = session_.settings;
+    return !settings.identityInsert.empty() && sameText(settings.identityInsert, table.name) &&
+           sameText(settings.identityInsertDatabase, session_.database());
 }
 
 } // namespace engine

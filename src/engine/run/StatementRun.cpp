@@ -29,15 +29,15 @@ Outcome runByPlan(ServerSession& session, const Statement& statement, const std:
         session.holdUntilTransactionEnds(*select);
     }
     const PlanPtr plan = makePlan(session, statement);
-    if (shape && plan->reusable && !holding) {
+    if (shape && plan->reusable && !holding && session.settings.takesPlans()) {
         fixLiterals(*plan, *shape);
         session.current().cache().add(*shape, plan);
     }
-    return runPlan(session, plan, {nullptr, session.dayFirst});
+    return runPlan(session, plan, {nullptr, session.settings.dateOrder});
 }
 
 Message messageOf(ServerSession& session, const Print& print) {
-    PlanRows row(session, makeValuePlan(session, *print.text), {nullptr, session.dayFirst});
+    PlanRows row(session, makeValuePlan(session, *print.text), {nullptr, session.settings.dateOrder});
     return {0, row.next() && !row.isNull(0) ? std::string(row.text(0)) : std::string()};
 }
 
@@ -73,13 +73,13 @@ Outcome runPlan(ServerSession& session, const PlanPtr& plan, const Bindings& bin
     if (plan->writes()) {
         outcome.affected = write(session, *plan, bindings);
     } else {
-        outcome.rows = std::make_unique<PlanRows>(session, plan, bindings);
+        outcome.rows = std::make_unique<PlanRows>(session, plan, bindings, session.settings.rowCount);
     }
     return outcome;
 }
 
 bool holds(ServerSession& session, const Expression& condition) {
-    PlanRows row(session, makeConditionPlan(session, condition), {nullptr, session.dayFirst});
+    PlanRows row(session, makeConditionPlan(session, condition), {nullptr, session.settings.dateOrder});
     return row.next() && row.integer(0) != 0;
 }
 

@@ -2,6 +2,7 @@
 
 #include "engine/errors/Error.h"
 #include "engine/errors/StoreErrors.h"
+#include "engine/store/StorageErrors.h"
 #include "engine/store/StoredNames.h"
 #include "engine/translate/SqlText.h"
 
@@ -76,7 +77,8 @@ private:
         // All rows are read before the first is written: the table may be its own source.
         std::vector<Row> rows;
         const int columns = source.columns();
-        while (source.step()) {
+        const auto most = static_cast<std::size_t>(session_.settings.rowCount);
+        while ((most == 0 || rows.size() < most) && source.step()) {
             Row row;
             for (int i = 0; i < columns; ++i) {
                 row.push_back(storedValue(source, i, rowType(i)));
@@ -104,14 +106,61 @@ private:
         bindLiterals(plan_.statement, plan_.parameters, bindings_);
         // Asked under the write lock, so that no session can take a hold between the question and the write.
         if (database_.locks().anyHeldByOthers()) {
-            if (!plan_.rows) {
-                plan_.rows.emplace(database_.connection(), plan_.rowsText);
+            refuseHeldRows(database_, plan_.table->name, rowsToChange());
+        }
+        try {
+            run();
+        } catch (const sqlite::Failure& failure) {
+            plan_.statement.reset();
+            if (!isDuplicate(failure) || !changesSeveralRows()) {
+                throw;
             }
-            bindLiterals(*plan_.rows, plan_.rowsParameters, bindings_);
-            refuseHeldRows(database_, plan_.table->name, *plan_.rows);
+            return changeAtOnce();
+        }
+        return database_.connection().changes();
+    }
+
+    sqlite::Statement& rowsToChange() {
+        if (!plan_.rows) {
+            plan_.rows.emplace(database_.connection(), plan_.rowsText);
+        }
+        bindLiterals(*plan_.rows, plan_.rowsParameters, bindings_);
+        return *plan_.rows;
+    }
+
+    bool changesSeveralRows() {
+        sqlite::Statement& rows = rowsToChange();
+        const bool several = rows.step() && rows.step();
+        rows.reset();
+        return several;
+    }
+
+    /// SQLite compares each row with the others as soon as it is written, the server all of them behind the last one:
+    /// `n = n + 1` is no duplicate. So the unique indexes are made anew behind it, and their failure is the answer.
+    std::int64_t changeAtOnce() {
+        sqlite::Connection& connection = database_.connection();
+        sqlite::Transaction transaction(connection);
+        std::vector<std::string> made;
+        std::vector<std::string> names;
+        sqlite::Statement unique(connection,
+                                 "SELECT i.name, s.sql FROM pragma_index_list(?1) AS i JOIN sqlite_schema AS "
+                                 "s ON s.name = i.name WHERE i.\"unique\" AND s.sql IS NOT NULL");
+        unique.bind(1, std::string_view(stored::tableName(plan_.table->name)));
+        while (unique.step()) {
+            names.emplace_back(unique.text(0));
+            made.emplace_back(unique.text(1));
+        }
+        unique.reset();
+        for (const std::string& name : names) {
+            connection.run("DROP INDEX main." + stored::quoted(name));
         }
         run();
-        return database_.connection().changes();
+        const std::int64_t changed = connection.changes();
+        for (const std::string& text : made) {
+            connection.run(text);
+        }
+        transaction.commit();
+        return changed;
     }
 
     void run() {

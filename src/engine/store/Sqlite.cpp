@@ -15,7 +15,6 @@
 namespace engine::sqlite {
 namespace {
 
-constexpr std::chrono::milliseconds kBusyTimeout{10'000};
 constexpr std::chrono::milliseconds kWalRetryPause{5};
 
 /// The system's number of the last error of a file, 0 where it had none.
@@ -71,7 +70,7 @@ bool wasEmptied(const std::filesystem::path& file) {
 /// Turning the write-ahead log on needs an exclusive lock for a moment, and the busy timeout doesn't cover it when two
 /// processes make the same database.
 void useWriteAheadLog(sqlite3* handle) {
-    const auto end = std::chrono::steady_clock::now() + kBusyTimeout;
+    const auto end = std::chrono::steady_clock::now() + Patience::kUsual;
     while (true) {
         const int code = sqlite3_exec(handle, "PRAGMA journal_mode=WAL", nullptr, nullptr, nullptr);
         if (code == SQLITE_OK) {
@@ -84,9 +83,9 @@ void useWriteAheadLog(sqlite3* handle) {
     }
 }
 
-void configure(sqlite3* handle) {
+void configure(sqlite3* handle, Patience& patience) {
     check(handle, sqlite3_extended_result_codes(handle, 1));
-    check(handle, sqlite3_busy_handler(handle, waitForWriter, nullptr));
+    check(handle, sqlite3_busy_handler(handle, waitForWriter, &patience));
     check(handle, sqlite3_create_collation_v2(handle, "TSQL", SQLITE_UTF8, nullptr, collate, nullptr));
     // A name in double quotes that isn't known must be refused, not read as a text.
     check(handle, sqlite3_db_config(handle, SQLITE_DBCONFIG_DQS_DML, 0, nullptr));
@@ -117,7 +116,7 @@ bool holdsTable(const std::filesystem::path& file, std::string_view table) {
     return found;
 }
 
-Connection::Connection(const std::filesystem::path& file, bool create) {
+Connection::Connection(const std::filesystem::path& file, bool create) : patience_(std::make_unique<Patience>()) {
     if (create) {
         makeFileOfOwner(file); // SQLite gives the files beside a database (log and index of the log) its rights
     }
@@ -130,7 +129,7 @@ Connection::Connection(const std::filesystem::path& file, bool create) {
         if (code != SQLITE_OK) {
             fail(handle_);
         }
-        configure(handle_);
+        configure(handle_, *patience_);
     } catch (...) {
         sqlite3_close_v2(handle_);
         throw;
@@ -157,6 +156,10 @@ bool Connection::isIdle() const {
     constexpr int kFirstBeside = 2; // behind the database itself and the one of temporary tables
     return !inTransaction() && sqlite3_txn_state(handle_, nullptr) == SQLITE_TXN_NONE &&
            sqlite3_db_name(handle_, kFirstBeside) == nullptr;
+}
+
+void Connection::waitAtMost(std::int64_t milliseconds) {
+    patience_->most = milliseconds < 0 ? Patience::kUsual : std::chrono::milliseconds(milliseconds);
 }
 
 bool Connection::isMoved() const {

@@ -24,6 +24,7 @@ private:
     int code_;
 };
 
+struct Patience;
 class Statement;
 
 /// Whether a file is a database with that table. Writes nothing to it, and doesn't wait for another program that keeps
@@ -46,6 +47,8 @@ public:
     bool isIdle() const;
     /// Whether the file has gone, was emptied, or is another one by now.
     bool isMoved() const;
+    /// How long it waits for another writer, in milliseconds; below 0 the usual ten seconds.
+    void waitAtMost(std::int64_t milliseconds);
     std::int64_t changes() const;
     std::int64_t lastRow() const;
 
@@ -60,6 +63,7 @@ public:
 
 private:
     sqlite3* handle_ = nullptr;
+    std::unique_ptr<Patience> patience_;               ///< at a place that stays
     std::unique_ptr<Statement> begin_, lock_, commit_; ///< prepared when first needed
     std::int64_t changedBefore_ = 0;                   ///< rows, ahead of the transaction
 };

@@ -31,12 +31,29 @@ std::string asNamed(const std::string& table, const std::vector<std::string>& co
     return all;
 }
 
+/// SQLite names an index instead of its columns where it is over expressions: `index 'name'`.
+std::string_view indexNamedIn(std::string_view named) {
+    constexpr std::string_view kBefore = "index '";
+    return named.starts_with(kBefore) && named.ends_with('\'')
+               ? stored::withoutNullsMark(named.substr(kBefore.size(), named.size() - kBefore.size() - 1))
+               : std::string_view();
+}
+
+Error duplicateInIndex(const TableInfo& table, std::string_view index) {
+    return errors::duplicateIndexKey("dbo." + table.name,
+                                     std::string(index.substr(stored::indexName(table.name, "").size())));
+}
+
 Error duplicate(sqlite::Connection& connection, std::string_view message, const TableInfo& table) {
     const std::string_view named = namedIn(message);
+    const std::string_view index = indexNamedIn(named);
     for (const KeyInfo& key : table.keys) {
-        if (sameText(asNamed(table.name, key.columns), named)) {
+        if (sameText(asNamed(table.name, key.columns), named) || stored::indexName(table.name, key.name) == index) {
             return errors::duplicateKey(key.primary ? "PRIMARY KEY" : "UNIQUE KEY", key.name, "dbo." + table.name);
         }
+    }
+    if (!index.empty()) {
+        return duplicateInIndex(table, index);
     }
     sqlite::Statement indexes(connection, "SELECT name FROM pragma_index_list(?1) WHERE \"unique\"");
     sqlite::Statement columns(connection, "SELECT name FROM pragma_index_info(?1) ORDER BY seqno");
@@ -49,8 +66,7 @@ Error duplicate(sqlite::Connection& connection, std::string_view message, const 
         }
         columns.reset();
         if (asNamed(table.name, names) == named) {
-            return errors::duplicateIndexKey(
-                "dbo." + table.name, std::string(indexes.text(0).substr(stored::indexName(table.name, "").size())));
+            return duplicateInIndex(table, indexes.text(0));
         }
     }
     throw InternalError("an unknown key: " + std::string(message));

@@ -10,6 +10,7 @@ namespace engine::stored {
 namespace {
 
 constexpr std::array<std::string_view, 2> kReserved{"sqlite_", "_vabo_"};
+constexpr std::string_view kNullsMark = "_vabo_n:";
 
 } // namespace
 
@@ -38,6 +39,14 @@ std::string qualifiedTable(const std::string& schema, const std::string& table) 
 std::string indexName(const std::string& table, const std::string& index) {
     const std::string name = tableName(table);
     return name == table ? table + "." + index : "_vabo_i" + std::to_string(table.size()) + ":" + table + "." + index;
+}
+
+std::string nullsIndexName(const std::string& storedIndex) {
+    return std::string(kNullsMark) + storedIndex;
+}
+
+std::string_view withoutNullsMark(std::string_view storedIndex) {
+    return storedIndex.substr(storedIndex.starts_with(kNullsMark) ? kNullsMark.size() : 0);
 }
 
 } // namespace engine::stored

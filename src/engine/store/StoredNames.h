@@ -16,5 +16,9 @@ std::string tableName(const std::string& table);
 std::string qualifiedTable(const std::string& schema, const std::string& table);
 /// With the name of the table, since SQLite wants the names of all indexes of a database different.
 std::string indexName(const std::string& table, const std::string& index);
+/// The index beside a unique one that has the rows with a null.
+std::string nullsIndexName(const std::string& storedIndex);
+/// The unique index that a name of SQLite's belongs to.
+std::string_view withoutNullsMark(std::string_view storedIndex);
 
 } // namespace engine::stored

@@ -31,10 +31,14 @@ Watched::~Watched() {
     }
 }
 
-int waitForWriter(void* /*unused*/, int times) {
+int waitForWriter(void* patience, int times) {
     constexpr int kLongestPause = 25; // milliseconds; the first ones are shorter
-    constexpr int kMostPauses = 10'000 / kLongestPause;
-    if (times >= kMostPauses) {
+    auto& wait = *static_cast<Patience*>(patience);
+    const auto now = std::chrono::steady_clock::now();
+    if (times == 0) {
+        wait.since = now;
+    }
+    if (now - wait.since >= wait.most) {
         return 0;
     }
     sqlite3_sleep(std::min(times + 1, kLongestPause));

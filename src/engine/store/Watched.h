@@ -1,5 +1,7 @@
 #pragma once
 
+#include <chrono>
+
 struct sqlite3;
 
 namespace engine::sqlite {
@@ -16,8 +18,15 @@ private:
     sqlite3* handle_; ///< nullptr where there is no idler
 };
 
-/// For sqlite3_busy_handler: waits for another writer, and lets the thread's idler run meanwhile. After some ten
-/// seconds 0, which gives up.
-int waitForWriter(void* unused, int times);
+/// How long a connection waits for another writer.
+struct Patience {
+    static constexpr std::chrono::milliseconds kUsual{10'000};
+    std::chrono::milliseconds most = kUsual;
+    std::chrono::steady_clock::time_point since; ///< of the present wait
+};
+
+/// For sqlite3_busy_handler with a Patience: waits for another writer, and lets the thread's idler run meanwhile. 0
+/// gives up.
+int waitForWriter(void* patience, int times);
 
 } // namespace engine::sqlite

@@ -48,16 +48,41 @@ std::string createTable(const TableInfo& table) {
     return text + ")";
 }
 
-std::string createKey(const TableInfo& table, const KeyInfo& key) {
-    std::string text = "CREATE UNIQUE INDEX " + stored::quoted(stored::indexName(table.name, key.name)) + " ON " +
-                       stored::quoted(stored::tableName(table.name)) + " (";
-    bool first = true;
-    for (const std::string& column : key.columns) {
-        text += first ? "" : ", ";
-        first = false;
-        text += stored::quoted(column);
+std::vector<std::string> createIndex(const TableInfo& table, const std::string& index,
+                                     const std::vector<IndexColumn>& columns, bool unique) {
+    const std::string name = stored::indexName(table.name, index);
+    const std::string onTable = " ON " + stored::quoted(stored::tableName(table.name)) + " (";
+    std::string plain;
+    std::string nullsCompared;
+    std::string anyNull;
+    for (const auto& [column, descending] : columns) {
+        const std::string quoted = stored::quoted(column->name);
+        const std::string comma = plain.empty() ? "" : ", ";
+        plain += comma + quoted + (descending ? " DESC" : "");
+        nullsCompared += comma;
+        if (!column->nullable) {
+            nullsCompared += quoted;
+            continue;
+        }
+        nullsCompared +=
+            quoted + " IS NULL, ifnull(" + quoted + ", 0)" + (column->type.isText() ? " COLLATE TSQL" : "");
+        anyNull += (anyNull.empty() ? " WHERE " : " OR ") + quoted + " IS NULL";
     }
-    return text + ")";
+    std::vector<std::string> texts{(unique ? "CREATE UNIQUE INDEX " : "CREATE INDEX ") + stored::quoted(name) +
+                                   onTable + plain + ")"};
+    if (unique && !anyNull.empty()) {
+        texts.push_back("CREATE UNIQUE INDEX " + stored::quoted(stored::nullsIndexName(name)) + onTable +
+                        nullsCompared + ")" + anyNull);
+    }
+    return texts;
+}
+
+std::vector<std::string> createKey(const TableInfo& table, const KeyInfo& key) {
+    std::vector<IndexColumn> columns;
+    for (const std::string& column : key.columns) {
+        columns.push_back({&table.columns[static_cast<std::size_t>(table.find(column))], false});
+    }
+    return createIndex(table, key.name, columns, true);
 }
 
 std::string addColumn(const TableInfo& table, const ColumnInfo& column, const std::string& defaultText) {

@@ -13,12 +13,21 @@ Text onTarget(const std::string& verb, const bound::Delete& remove) {
 
 } // namespace
 
-Text remove(const bound::Delete& remove) {
-    return onTarget("DELETE FROM ", remove);
+Text remove(const bound::Delete& remove, std::int64_t most) {
+    if (most == 0) {
+        return onTarget("DELETE FROM ", remove);
+    }
+    Text text("DELETE FROM " + stored::qualifiedTable(remove.table.schema, remove.table.info->name) + " WHERE " +
+              rowidOf(*remove.table.info) + " IN (");
+    text += rowsOf(remove, most);
+    text += ")";
+    return text;
 }
 
-Text rowsOf(const bound::Delete& remove) {
-    return onTarget("SELECT " + rowidOf(*remove.table.info) + " FROM ", remove);
+Text rowsOf(const bound::Delete& remove, std::int64_t most) {
+    Text text = onTarget("SELECT " + rowidOf(*remove.table.info) + " FROM ", remove);
+    writeLimit(text, most);
+    return text;
 }
 
 } // namespace engine::translate

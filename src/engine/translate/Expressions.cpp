@@ -153,4 +153,10 @@ void writeWhere(Text& text, const bound::ExpressionPtr& condition) {
     }
 }
 
+void writeLimit(Text& text, std::int64_t most) {
+    if (most != 0) {
+        text += " LIMIT " + std::to_string(most);
+    }
+}
+
 } // namespace engine::translate

@@ -7,8 +7,10 @@
 #include "engine/text/Tree.h"
 #include "engine/translate/Text.h"
 
+#include <cstdint>
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace engine::translate {
 
@@ -24,20 +26,31 @@ void write(Text& text, const bound::Source& source);
 void write(Text& text, const bound::Select& select);
 /// ` WHERE …`, nothing where there is no condition.
 void writeWhere(Text& text, const bound::ExpressionPtr& condition);
+/// ` LIMIT …`, nothing where `most` is 0.
+void writeLimit(Text& text, std::int64_t most);
 
 Text select(const bound::Select& select);
 Text insert(const bound::Insert& insert);
-Text update(const bound::Update& update);
-Text remove(const bound::Delete& remove);
+/// `most`: so many rows at most, 0 for all.
+Text update(const bound::Update& update, std::int64_t most);
+Text remove(const bound::Delete& remove, std::int64_t most);
 /// The numbers of the rows that an UPDATE or DELETE is going to write.
-Text rowsOf(const bound::Update& update);
-Text rowsOf(const bound::Delete& remove);
+Text rowsOf(const bound::Update& update, std::int64_t most);
+Text rowsOf(const bound::Delete& remove, std::int64_t most);
 /// A SELECT on one table with the number of each row as its last column, for holding the rows.
 Text rowsOf(const bound::Select& select);
 
 /// Definitions, from the catalog's description of a table.
 std::string createTable(const TableInfo& table);
-std::string createKey(const TableInfo& table, const KeyInfo& key);
+struct IndexColumn {
+    const ColumnInfo* column;
+    bool descending;
+};
+/// The statements that make an index. A unique one over columns that take nulls is two, since a null is equal to
+/// another there, and in SQLite's unique indexes it isn't.
+std::vector<std::string> createIndex(const TableInfo& table, const std::string& index,
+                                     const std::vector<IndexColumn>& columns, bool unique);
+std::vector<std::string> createKey(const TableInfo& table, const KeyInfo& key);
 std::string addColumn(const TableInfo& table, const ColumnInfo& column, const std::string& defaultText);
 std::string columnDefinition(const TableInfo& table, const ColumnInfo& column);
 /// The column that is SQLite's row number, nullptr where none is: an identity that is the whole primary key.

@@ -4,6 +4,12 @@
 
 namespace engine::translate {
 
+Text& Text::operator+=(const Text& more) {
+    sql_ += more.sql_;
+    places_.insert(places_.end(), more.places_.begin(), more.places_.end());
+    return *this;
+}
+
 void Text::parameter(int place) {
     places_.push_back(place);
     sql_ += many_ ? std::string(operators::kLiteral) + "(?)" : "?";

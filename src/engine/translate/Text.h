@@ -23,6 +23,7 @@ public:
         sql_ += more;
         return *this;
     }
+    Text& operator+=(const Text& more);
     /// The parameter at a place of the binder's list.
     void parameter(int place);
 

@@ -25,7 +25,7 @@ std::string targetAlias(const bound::Update& update) {
 }
 
 /// A SELECT reads target and sources, because SQLite's UPDATE can't name the row numbers of several sources.
-Text updateFrom(const bound::Update& update) {
+Text updateFrom(const bound::Update& update, std::int64_t most) {
     Text text("UPDATE " + stored::qualifiedTable(update.table.schema, update.table.info->name) + " AS target SET ");
     for (std::size_t i = 0; i < update.assignments.size(); ++i) {
         text += (i == 0 ? "" : ", ") + stored::quoted(update.assignments[i].column->name) + " = found.v" +
@@ -40,14 +40,19 @@ Text updateFrom(const bound::Update& update) {
     }
     writeSources(text, update);
     text += ") AS found WHERE target." + rowid + " = found.row";
+    if (most != 0) {
+        text += " AND target." + rowid + " IN (";
+        text += rowsOf(update, most);
+        text += ")";
+    }
     return text;
 }
 
 } // namespace
 
-Text update(const bound::Update& update) {
-    if (!update.from.empty()) {
-        return updateFrom(update);
+Text update(const bound::Update& update, std::int64_t most) {
+    if (!update.from.empty() || most != 0) {
+        return updateFrom(update, most);
     }
     Text text("UPDATE " + stored::qualifiedTable(update.table.schema, update.table.info->name) + " AS " +
               alias(update.table.number) + " SET ");
@@ -62,9 +67,10 @@ Text update(const bound::Update& update) {
     return text;
 }
 
-Text rowsOf(const bound::Update& update) {
-    Text text("SELECT " + targetAlias(update) + "." + rowidOf(*update.table.info));
+Text rowsOf(const bound::Update& update, std::int64_t most) {
+    Text text((most == 0 ? "SELECT " : "SELECT DISTINCT ") + targetAlias(update) + "." + rowidOf(*update.table.info));
     writeSources(text, update);
+    writeLimit(text, most);
     return text;
 }
 

@@ -4,6 +4,7 @@
 // a decimal, real or float a double, a date the text `YYYY-MM-DD hh:mm:ss.mmm`, and a text is a text.
 
 #include "engine/values/DataType.h"
+#include "engine/values/DateOrder.h"
 
 #include <cstdint>
 #include <optional>
@@ -27,10 +28,10 @@ double toDecimal(double number, const DataType& target);
 double toFloat(std::string_view text);
 /// Throws 8115 for what left the range of float and real, which have no infinity.
 double finiteNumber(double number, const DataType& type);
-/// '' is 1900-01-01. Without a style the order is day first where `dayFirst`, else month first; `yyyymmdd` always.
+/// '' is 1900-01-01. Without a style the numbers stand in the session's `order`; `yyyymmdd` always.
 /// Style 102 reads year, month, day with any separator; 103 day, month, year; 101 month, day, year; 112 yyyymmdd;
 /// 120 and 121 with time. Throws 241, 242.
-std::string toDateTime(std::string_view text, std::optional<int> style, bool dayFirst = false);
+std::string toDateTime(std::string_view text, std::optional<int> style, DateOrder order = DateOrder::MonthDayYear);
 /// The date so many days after 1900-01-01. Throws 242, 8115.
 std::string toDateTime(double days);
 double daysOf(std::string_view dateTime);

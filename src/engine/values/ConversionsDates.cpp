@@ -10,16 +10,14 @@
 namespace engine {
 namespace {
 
-enum class Order { YearMonthDay, MonthDayYear, DayMonthYear };
-
 struct StyleOrder {
     int style;
-    std::optional<Order> order; ///< none: the order of the session
+    std::optional<DateOrder> order; ///< none: the order of the session
 };
 
-constexpr auto kYearFirst = Order::YearMonthDay;
-constexpr auto kMonthFirst = Order::MonthDayYear;
-constexpr auto kDayFirstOrder = Order::DayMonthYear;
+constexpr auto kYearFirst = DateOrder::YearMonthDay;
+constexpr auto kMonthFirst = DateOrder::MonthDayYear;
+constexpr auto kDayFirstOrder = DateOrder::DayMonthYear;
 
 /// How a style that reads a text orders its numbers; a year of two digits may stand wherever one of four does.
 constexpr std::array kStyleOrders{
@@ -50,8 +48,7 @@ constexpr std::array kStyleOrders{
     StyleOrder{105, kDayFirstOrder},
 };
 
-Order orderOf(std::optional<int> style, bool dayFirst) {
-    const Order session = dayFirst ? Order::DayMonthYear : Order::MonthDayYear;
+DateOrder orderOf(std::optional<int> style, DateOrder session) {
     if (!style) {
         return session;
     }
@@ -71,7 +68,7 @@ struct Number {
 /// Reads a date and a time from a text; every refusal is 241, or 242 where a number is out of its range.
 class Reader {
 public:
-    Reader(std::string_view text, Order order) : text_(text), order_(order) {}
+    Reader(std::string_view text, DateOrder order) : text_(text), order_(order) {}
 
     CalendarDate read() {
         skipBlanks();
@@ -145,7 +142,7 @@ private:
         const Number third = number();
         // The form with a T is the international one, whatever the order of the session.
         const bool international = separator == '-' && first.digits == 4 && peek() == 'T';
-        setDate(first, second, third, international ? Order::YearMonthDay : order_);
+        setDate(first, second, third, international ? DateOrder::YearMonthDay : order_);
         return international;
     }
 
@@ -169,22 +166,22 @@ private:
         date_.day = number.value % 100;
     }
 
-    void setDate(Number first, Number second, Number third, Order order) {
+    void setDate(Number first, Number second, Number third, DateOrder order) {
         if (second.digits > 2) {
             refuse();
         }
         if (first.digits == 4) {
             date_.year = first.value;
-            setMonthAndDay(second, third, order == Order::DayMonthYear);
+            setMonthAndDay(second, third, order == DateOrder::DayMonthYear);
         } else if (third.digits == 4) {
             date_.year = third.value;
-            setMonthAndDay(first, second, order == Order::DayMonthYear);
-        } else if (order == Order::YearMonthDay) {
+            setMonthAndDay(first, second, order == DateOrder::DayMonthYear);
+        } else if (order == DateOrder::YearMonthDay) {
             date_.year = yearOfShort(first);
             setMonthAndDay(second, third, false);
         } else {
             date_.year = yearOfShort(third);
-            setMonthAndDay(first, second, order == Order::DayMonthYear);
+            setMonthAndDay(first, second, order == DateOrder::DayMonthYear);
         }
     }
 
@@ -265,15 +262,15 @@ private:
     }
 
     std::string_view text_;
-    Order order_;
+    DateOrder order_;
     std::size_t place_ = 0;
     CalendarDate date_;
 };
 
 } // namespace
 
-std::string toDateTime(std::string_view text, std::optional<int> style, bool dayFirst) {
-    const CalendarDate date = Reader(text, orderOf(style, dayFirst)).read();
+std::string toDateTime(std::string_view text, std::optional<int> style, DateOrder order) {
+    const CalendarDate date = Reader(text, orderOf(style, order)).read();
     return CalendarDate::ofTicks(date.days(), date.ticks()).text();
 }
 

@@ -70,7 +70,7 @@ Scalar toRealValue(const Scalar& value, const ConversionRequest& request) {
 
 Scalar toDateValue(const Scalar& value, const ConversionRequest& request) {
     if (const auto* text = std::get_if<std::string>(&value)) {
-        return toDateTime(*text, request.style, request.dayFirst);
+        return toDateTime(*text, request.style, request.dateOrder);
     }
     return toDateTime(numberOf(value));
 }

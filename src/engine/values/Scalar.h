@@ -3,6 +3,7 @@
 // One value of the dialect, as literals, expressions and the storage exchange it, and its conversion from type to type.
 
 #include "engine/values/DataType.h"
+#include "engine/values/DateOrder.h"
 #include "engine/values/Literal.h"
 
 #include <cstdint>
@@ -32,7 +33,7 @@ struct ConversionRequest {
     DataType from, to;
     std::optional<int> style;
     Purpose purpose = Purpose::Cast;
-    bool dayFirst = false;
+    DateOrder dateOrder = DateOrder::MonthDayYear;
 };
 
 /// Throws 241, 242, 245, 8114, 8115, 8152.

@@ -49,6 +49,7 @@ TEST(ErrorTexts, OfDefinitions) {
     expectTexts({
         {errors::missingTableToChange("Table"), 1088, kStatement,
          "Cannot find the object \"Table\" because it does not exist or you do not have permissions."},
+        {errors::unknownSetOption("Option"), 195, kBatch, "'Option' is not a recognized SET option."},
         {errors::duplicateInNewKey("Table", "Key"), 1505, kStatement,
          "The CREATE UNIQUE INDEX statement terminated because a duplicate key was found for the object "
          "name 'dbo.Table' and the index name 'Key'."},
@@ -66,6 +67,15 @@ TEST(ErrorTexts, OfDefinitions) {
         {errors::severalIdentities("Table"), 2744, kBatch,
          "Multiple identity columns specified for table 'Table'. Only one identity column per table is "
          "allowed."},
+        {errors::unknownLanguage("Language"), 2740, kStatement,
+         "SET LANGUAGE failed because 'Language' is not an official language name or a language alias on this SQL "
+         "Server."},
+        {errors::invalidDateOrder("Order"), 2741, kStatement, "SET DATEFORMAT date order 'Order' is invalid."},
+        {errors::dateFirstOutOfRange("9"), 2742, kStatement, "SET DATEFIRST 9 is out of range."},
+        {errors::nullableColumnOfKey("Table"), 8111, kStatement,
+         "Cannot define PRIMARY KEY constraint on nullable column in table 'Table'."},
+        {errors::notSupported("Statement"), 40510, kStatement,
+         "Statement 'Statement' is not supported in this version of SQL Server."},
         {errors::indexOfConstraint("Index", "Constraint"), 3723, kStatement,
          "An explicit DROP INDEX is not allowed on index 'Index'. It is being used for Constraint "
          "constraint enforcement."},

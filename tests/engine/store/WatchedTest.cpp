@@ -141,13 +141,29 @@ TEST_F(WatchedStorage, WaitsForAnotherWriterAndLetsTheIdlerRunMeanwhile) {
     EXPECT_EQ(calls, 3);
 }
 
-TEST_F(WatchedStorage, GivesUpWaitingForAWriterOnlyAfterSomeTime) {
+TEST_F(WatchedStorage, GivesUpWaitingForAWriterWhenItsPatienceEnds) {
     setIdler(count);
-    EXPECT_EQ(waitForWriter(nullptr, 0), 1);
-    EXPECT_EQ(waitForWriter(nullptr, 300), 1);
+    Patience patience;
+    EXPECT_EQ(waitForWriter(&patience, 0), 1);
+    EXPECT_EQ(waitForWriter(&patience, 1), 1);
     EXPECT_EQ(calls, 2);
-    EXPECT_EQ(waitForWriter(nullptr, 400), 0);
+    patience.since -= Patience::kUsual;
+    EXPECT_EQ(waitForWriter(&patience, 2), 0);
     EXPECT_EQ(calls, 2);
+    EXPECT_EQ(waitForWriter(&patience, 0), 1) << "another wait begins";
+}
+
+TEST_F(WatchedStorage, AConnectionWithoutPatienceDoesNotWaitForAWriter) {
+    Connection other(folder.path() / "a.mdf", false);
+    other.run("CREATE TABLE t (a)");
+    other.begin();
+    setIdler(count);
+    connection.waitAtMost(0);
+    EXPECT_THROW(connection.run("INSERT INTO t VALUES (1)"), Failure);
+    EXPECT_EQ(calls, 0);
+    other.commit();
+    connection.waitAtMost(-1);
+    connection.run("INSERT INTO t VALUES (1)");
 }
 
 } // namespace

@@ -13,84 +13,95 @@ const std::string kGarbage = "241 Conversion failed when converting date and/or 
 const std::string kOutOfRange =
     "242 The conversion of a varchar data type to a datetime data type resulted in an out-of-range value.";
 
+constexpr DateOrder kMonthFirst = DateOrder::MonthDayYear;
+constexpr DateOrder kDayFirst = DateOrder::DayMonthYear;
+constexpr DateOrder kYearFirst = DateOrder::YearMonthDay;
+
 struct Case {
     const char* text;
     std::optional<int> style;
-    bool dayFirst;
+    DateOrder order;
     std::string result; ///< a date alone stands for its midnight
 };
 
 void expectAll(std::initializer_list<Case> cases) {
     for (const Case& c : cases) {
         std::string result;
-        const std::string error = errorOf([&] { result = toDateTime(c.text, c.style, c.dayFirst); });
+        const std::string error = errorOf([&] { result = toDateTime(c.text, c.style, c.order); });
         const std::string expected = c.result.size() == 10 ? c.result + " 00:00:00.000" : c.result;
-        EXPECT_EQ(result.empty() ? error : result, expected)
-            << '"' << c.text << "\" style " << c.style.value_or(-1) << (c.dayFirst ? " day first" : " month first");
+        EXPECT_EQ(result.empty() ? error : result, expected) << '"' << c.text << "\" style " << c.style.value_or(-1)
+                                                             << (c.order == kDayFirst     ? " day first"
+                                                                 : c.order == kMonthFirst ? " month first"
+                                                                                          : " year first");
     }
 }
 
 TEST(DateOfText, WithoutAStyleFollowsTheSession) {
     expectAll({
-        {"20040307", {}, false, "2004-03-07"},
-        {"20040307", {}, true, "2004-03-07"},
-        {"040307", {}, true, "2004-03-07"},
-        {"2004", {}, false, "2004-01-01"},
-        {"2004-03-07", {}, false, "2004-03-07"},
-        {"2004-03-07", {}, true, "2004-07-03"},
-        {"2004-03-17", {}, true, kOutOfRange},
-        {"2004-03-17T10:11:12", {}, true, "2004-03-17 10:11:12.000"},
-        {"7/3/2004", {}, true, "2004-03-07"},
-        {"7/3/2004", {}, false, "2004-07-03"},
-        {"7.3.04", {}, true, "2004-03-07"},
-        {"7-3-50", {}, true, "1950-03-07"},
-        {"7-3-49", {}, true, "2049-03-07"},
-        {"31/12/2020", {}, true, "2020-12-31"},
-        {"31/12/2020", {}, false, kOutOfRange},
-        {"", {}, false, "1900-01-01"},
-        {"   ", {}, false, "1900-01-01"},
-        {" 20040307 ", {}, false, "2004-03-07"},
+        {"20040307", {}, kMonthFirst, "2004-03-07"},
+        {"20040307", {}, kDayFirst, "2004-03-07"},
+        {"040307", {}, kDayFirst, "2004-03-07"},
+        {"2004", {}, kMonthFirst, "2004-01-01"},
+        {"2004-03-07", {}, kMonthFirst, "2004-03-07"},
+        {"2004-03-07", {}, kDayFirst, "2004-07-03"},
+        {"2004-03-17", {}, kDayFirst, kOutOfRange},
+        {"2004-03-17T10:11:12", {}, kDayFirst, "2004-03-17 10:11:12.000"},
+        {"7/3/2004", {}, kDayFirst, "2004-03-07"},
+        {"7/3/2004", {}, kMonthFirst, "2004-07-03"},
+        {"7.3.04", {}, kDayFirst, "2004-03-07"},
+        {"7-3-50", {}, kDayFirst, "1950-03-07"},
+        {"7-3-49", {}, kDayFirst, "2049-03-07"},
+        {"31/12/2020", {}, kDayFirst, "2020-12-31"},
+        {"31/12/2020", {}, kMonthFirst, kOutOfRange},
+        {"04.3.7", {}, kYearFirst, "2004-03-07"},
+        {"2004-03-07", {}, kYearFirst, "2004-03-07"},
+        {"3/7/2004", {}, kYearFirst, "2004-03-07"},
+        {"31/12/20", {}, kYearFirst, "2031-12-20"},
+        {"20/31/12", {}, kYearFirst, kOutOfRange},
+        {"", {}, kMonthFirst, "1900-01-01"},
+        {"   ", {}, kMonthFirst, "1900-01-01"},
+        {" 20040307 ", {}, kMonthFirst, "2004-03-07"},
     });
 }
 
 TEST(DateOfText, WithAStyleFollowsTheStyle) {
     expectAll({
-        {"2004-3-7", 102, true, "2004-03-07"},
-        {"2004-3-7", 102, false, "2004-03-07"},
-        {"2004.3.7", 102, false, "2004-03-07"},
-        {"2004/03/07", 111, true, "2004-03-07"},
-        {"04.03.07", 102, true, "2004-03-07"},
-        {"07/03/2004", 103, false, "2004-03-07"},
-        {"07/03/2004", 101, true, "2004-07-03"},
-        {"07.03.2004", 104, false, "2004-03-07"},
-        {"07-03-2004", 105, false, "2004-03-07"},
-        {"7-3-2004", 5, false, "2004-03-07"},
-        {"20040307", 112, true, "2004-03-07"},
-        {"2004-03-07 15:16:17", 120, true, "2004-03-07 15:16:17.000"},
-        {"2004-03-07 15:16:17.123", 121, true, "2004-03-07 15:16:17.123"},
-        {"2004-03-07T15:16:17", 126, true, "2004-03-07 15:16:17.000"},
-        {"2004-31-12", 102, false, kOutOfRange},
-        {"20040307", 999, false, "9809 The style 999 is not supported for conversions from varchar to datetime."},
-        {"", 102, false, "1900-01-01"},
+        {"2004-3-7", 102, kDayFirst, "2004-03-07"},
+        {"2004-3-7", 102, kMonthFirst, "2004-03-07"},
+        {"2004.3.7", 102, kMonthFirst, "2004-03-07"},
+        {"2004/03/07", 111, kDayFirst, "2004-03-07"},
+        {"04.03.07", 102, kDayFirst, "2004-03-07"},
+        {"07/03/2004", 103, kMonthFirst, "2004-03-07"},
+        {"07/03/2004", 101, kDayFirst, "2004-07-03"},
+        {"07.03.2004", 104, kMonthFirst, "2004-03-07"},
+        {"07-03-2004", 105, kMonthFirst, "2004-03-07"},
+        {"7-3-2004", 5, kMonthFirst, "2004-03-07"},
+        {"20040307", 112, kDayFirst, "2004-03-07"},
+        {"2004-03-07 15:16:17", 120, kDayFirst, "2004-03-07 15:16:17.000"},
+        {"2004-03-07 15:16:17.123", 121, kDayFirst, "2004-03-07 15:16:17.123"},
+        {"2004-03-07T15:16:17", 126, kDayFirst, "2004-03-07 15:16:17.000"},
+        {"2004-31-12", 102, kMonthFirst, kOutOfRange},
+        {"20040307", 999, kMonthFirst, "9809 The style 999 is not supported for conversions from varchar to datetime."},
+        {"", 102, kMonthFirst, "1900-01-01"},
     });
 }
 
 TEST(DateOfText, HasATime) {
     expectAll({
-        {"20040307 10:11", {}, false, "2004-03-07 10:11:00.000"},
-        {"20040307 1:02:03 PM", {}, false, "2004-03-07 13:02:03.000"},
-        {"20040307 12:00am", {}, false, "2004-03-07"},
-        {"20040307 12:00PM", {}, false, "2004-03-07 12:00:00.000"},
-        {"10:11:12", {}, false, "1900-01-01 10:11:12.000"},
-        {"20040307 10:11:12.5", {}, false, "2004-03-07 10:11:12.500"},
-        {"20040307 10:11:12:5", {}, false, "2004-03-07 10:11:12.007"},
-        {"20040307 24:00", {}, false, kOutOfRange},
-        {"20040307 10:60", {}, false, kOutOfRange},
-        {"20040307 10:10:60", {}, false, kOutOfRange},
-        {"20040307 13:00PM", {}, false, kOutOfRange},
-        {"20040307 10", {}, false, kGarbage},
-        {"20040307 10:11:12.1234", {}, false, kGarbage},
-        {"20040307 10:11 XM", {}, false, kGarbage},
+        {"20040307 10:11", {}, kMonthFirst, "2004-03-07 10:11:00.000"},
+        {"20040307 1:02:03 PM", {}, kMonthFirst, "2004-03-07 13:02:03.000"},
+        {"20040307 12:00am", {}, kMonthFirst, "2004-03-07"},
+        {"20040307 12:00PM", {}, kMonthFirst, "2004-03-07 12:00:00.000"},
+        {"10:11:12", {}, kMonthFirst, "1900-01-01 10:11:12.000"},
+        {"20040307 10:11:12.5", {}, kMonthFirst, "2004-03-07 10:11:12.500"},
+        {"20040307 10:11:12:5", {}, kMonthFirst, "2004-03-07 10:11:12.007"},
+        {"20040307 24:00", {}, kMonthFirst, kOutOfRange},
+        {"20040307 10:60", {}, kMonthFirst, kOutOfRange},
+        {"20040307 10:10:60", {}, kMonthFirst, kOutOfRange},
+        {"20040307 13:00PM", {}, kMonthFirst, kOutOfRange},
+        {"20040307 10", {}, kMonthFirst, kGarbage},
+        {"20040307 10:11:12.1234", {}, kMonthFirst, kGarbage},
+        {"20040307 10:11 XM", {}, kMonthFirst, kGarbage},
     });
 }
 
@@ -110,17 +121,17 @@ TEST(DateOfText, KeepsThirdsOfAHundredthOfASecond) {
 
 TEST(DateOfText, OutsideTheCalendarIsRefused) {
     expectAll({
-        {"20040230", {}, false, kOutOfRange},
-        {"20040229", {}, false, "2004-02-29"},
-        {"20030229", {}, false, kOutOfRange},
-        {"20041301", {}, false, kOutOfRange},
-        {"20040001", {}, false, kOutOfRange},
-        {"20040100", {}, false, kOutOfRange},
-        {"17530101", {}, false, "1753-01-01"},
-        {"17521231", {}, false, kOutOfRange},
-        {"99991231", {}, false, "9999-12-31"},
-        {"0000-01-01", 102, false, kOutOfRange},
-        {"32/1/2004", {}, true, kOutOfRange},
+        {"20040230", {}, kMonthFirst, kOutOfRange},
+        {"20040229", {}, kMonthFirst, "2004-02-29"},
+        {"20030229", {}, kMonthFirst, kOutOfRange},
+        {"20041301", {}, kMonthFirst, kOutOfRange},
+        {"20040001", {}, kMonthFirst, kOutOfRange},
+        {"20040100", {}, kMonthFirst, kOutOfRange},
+        {"17530101", {}, kMonthFirst, "1753-01-01"},
+        {"17521231", {}, kMonthFirst, kOutOfRange},
+        {"99991231", {}, kMonthFirst, "9999-12-31"},
+        {"0000-01-01", 102, kMonthFirst, kOutOfRange},
+        {"32/1/2004", {}, kDayFirst, kOutOfRange},
     });
 }
 

@@ -76,6 +76,8 @@ private:
 
     // BinderSelect.cpp
     bound::Select select(const Select& select, Scope* parent);
+    /// A SELECT inside of another statement.
+    bound::Select inner(const Select& select, Scope* parent);
     bound::Core core(const SelectCore& core, Scope& scope, std::vector<ResultColumn>& columns);
     void items(const SelectCore& core, Scope& scope, bound::Core& result, std::vector<ResultColumn>& columns);
     void starItems(const Name& starOf, Scope& scope, bound::Core& result, std::vector<ResultColumn>& columns);
@@ -94,6 +96,7 @@ private:
     bound::ExpressionPtr node(const Unary& unary);
     bound::ExpressionPtr node(const Binary& binary);
     bound::ExpressionPtr node(const Like& like);
+    bound::ExpressionPtr escape(const Expression& written);
     bound::ExpressionPtr node(const Between& between);
     bound::ExpressionPtr node(const In& in);
     bound::ExpressionPtr node(const Exists& exists);
@@ -138,6 +141,8 @@ private:
     bool insideAggregate_ = false;
 };
 
+/// Whether two expressions are written alike, but for the values of their literals.
+bool sameExpression(const bound::Expression& left, const bound::Expression& right);
 /// The type of the result where two types meet, by the server's precedence.
 DataType commonType(const DataType& left, const DataType& right);
 

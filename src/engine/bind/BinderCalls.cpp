@@ -50,14 +50,6 @@ DataType sumType(const DataType& type, bool average) {
     return type.isInteger() ? DataType{Kind::Int, 0, 0, 0} : DataType{Kind::Float, 0, 0, 0};
 }
 
-std::string quotedText(const std::string& text) {
-    std::string result = "'";
-    for (const char c : text) {
-        result += c == '\'' ? "''" : std::string(1, c);
-    }
-    return result + "'";
-}
-
 } // namespace
 
 bound::ExpressionPtr Binder::node(const Call& call) {
@@ -85,6 +77,9 @@ bound::ExpressionPtr Binder::node(const Call& call) {
         want(2);
         auto first = expression(*call.arguments[0]);
         const DataType type = first->type;
+        if (type.kind == Kind::Unknown) {
+            throw errors::nullIfOfNull();
+        }
         bound::Case choice;
         choice.branches.push_back(
             {compare("=", std::move(first), expression(*call.arguments[1])), bound::constant("NULL", DataType{})});
@@ -103,6 +98,9 @@ bound::ExpressionPtr Binder::node(const Call& call) {
         for (const ExpressionPtr& argument : call.arguments) {
             arguments.push_back(expression(*argument));
             common = commonType(common, arguments.back()->type);
+        }
+        if (common.kind == Kind::Unknown) {
+            throw errors::coalesceOfNulls();
         }
         for (bound::ExpressionPtr& argument : arguments) {
             argument = convertTo(std::move(argument), common, Purpose::Cast);
@@ -151,6 +149,9 @@ bound::ExpressionPtr Binder::aggregate(const Call& call, const std::string& name
     }
     if (name == "MIN" || name == "MAX") {
         made.function = name == "MIN" ? "min" : "max";
+        if (type.kind == Kind::Bit) {
+            throw errors::aggregateOfText(typeName(type), made.function);
+        }
         result->type = type;
         result->node = std::move(made);
         return result;
@@ -175,7 +176,7 @@ bound::ExpressionPtr Binder::argument(const Call& call, std::size_t place, Funct
         if (part == nullptr) {
             throw errors::invalidParameter(static_cast<int>(place) + 1, call.function, written.position);
         }
-        return bound::constant(quotedText(part->name.last()), DataType{Kind::VarChar, kSystemNameLength, 0, 0});
+        return bound::constant(bound::quotedText(part->name.last()), DataType{Kind::VarChar, kSystemNameLength, 0, 0});
     }
     auto value = expression(written);
     const bool needsNumber = kind == Parameter::Float || kind == Parameter::Number;
@@ -224,6 +225,10 @@ bound::ExpressionPtr Binder::builtIn(const Call& call) {
     }
     const DataType type = resultType(row->result, arguments);
     auto result = bound::callOf(storageName(*row), type, std::move(arguments));
+    if (row->result == Result::LongText) {
+        result->type.length = -1;
+        return convertTo(std::move(result), type, Purpose::Cast);
+    }
     if (row->result == Result::AsFirstBeyond && type.kind != Kind::Float) {
         result->type = DataType{type.isInteger() ? Kind::BigInt : Kind::Float, 0, 0, 0};
         return convertTo(std::move(result), type, Purpose::Cast);

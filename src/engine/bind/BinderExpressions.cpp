@@ -3,6 +3,7 @@
 #include "engine/errors/BindErrors.h"
 #include "engine/errors/TextErrors.h"
 #include "engine/functions/Operators.h"
+#include "engine/values/Collation.h"
 
 namespace engine {
 
@@ -227,8 +228,14 @@ bound::ExpressionPtr Binder::arithmetic(Binary::Operator op, bound::ExpressionPt
             throw errors::incompatibleTypes(typeName(left->type), typeName(right->type), kNames[static_cast<int>(op)]);
         }
         const bool long_ = left->type.length < 0 || right->type.length < 0;
-        common.length = long_ ? -1 : std::min(left->type.length + right->type.length, longestText(common));
-        return bound::infix("||", std::move(left), std::move(right), common);
+        const int length = left->type.length + right->type.length;
+        common.length = long_ ? -1 : length;
+        auto joined = bound::infix("||", std::move(left), std::move(right), common);
+        if (length <= longestText(common) || long_) {
+            return joined;
+        }
+        common.length = longestText(common);
+        return convertTo(std::move(joined), common, Purpose::Cast);
     }
     if (common.kind == Kind::Unknown || common.kind == Kind::Bit) {
         common = DataType{Kind::Int};
@@ -266,6 +273,17 @@ bound::ExpressionPtr Binder::arithmetic(Binary::Operator op, bound::ExpressionPt
     return convertTo(std::move(result), decimal ? decimalResult(op, leftType, rightType) : common, Purpose::Cast);
 }
 
+/// One character, which is part of the plan.
+bound::ExpressionPtr Binder::escape(const Expression& written) {
+    const auto* literal = std::get_if<Literal>(&written.node);
+    const bool text =
+        literal != nullptr && (literal->kind == Literal::Kind::Text || literal->kind == Literal::Kind::NationalText);
+    if (!text || characters(literal->text) != 1) {
+        throw errors::invalidEscape(literal == nullptr ? std::string_view() : literal->text);
+    }
+    return bound::constant(bound::quotedText(literal->text), DataType{Kind::NVarChar, 1, 0, 0});
+}
+
 bound::ExpressionPtr Binder::node(const Like& like) {
     const DataType text{Kind::NVarChar, -1, 0, 0};
     const auto asText = [&](const Expression& part) {
@@ -276,7 +294,7 @@ bound::ExpressionPtr Binder::node(const Like& like) {
     auto pattern = asText(*like.pattern);
     auto result = like.escape
                       ? bound::call(operators::kLike, DataType{Kind::Bit}, std::move(operand), std::move(pattern),
-                                    asText(*like.escape))
+                                    escape(*like.escape))
                       : bound::call(operators::kLike, DataType{Kind::Bit}, std::move(operand), std::move(pattern));
     return negatedIf(like.negated, std::move(result));
 }
@@ -294,11 +312,13 @@ bound::ExpressionPtr Binder::node(const In& in) {
     bound::ExpressionPtr result = std::make_unique<bound::Expression>();
     result->type = DataType{Kind::Bit};
     if (in.select) {
-        auto select = std::make_unique<bound::Select>(this->select(*in.select, scope_));
+        auto select = std::make_unique<bound::Select>(inner(*in.select, scope_));
         if (select->columns.size() != 1) {
             throw errors::oneColumnOnly();
         }
-        const DataType common = comparable(commonType(operand->type, select->columns.front().type));
+        const bool nulls = select->cores.front().items.front()->type.kind == Kind::Unknown;
+        const DataType common =
+            comparable(nulls ? operand->type : commonType(operand->type, select->columns.front().type));
         for (bound::Core& core : select->cores) {
             core.items.front() = convertTo(std::move(core.items.front()), common, Purpose::Cast);
         }
@@ -327,13 +347,13 @@ bound::ExpressionPtr Binder::node(const Exists& exists) {
     auto result = std::make_unique<bound::Expression>();
     result->type = DataType{Kind::Bit};
     result->node = bound::Subselect{bound::Subselect::Kind::Exists, nullptr,
-                                    std::make_unique<bound::Select>(select(*exists.select, scope_))};
+                                    std::make_unique<bound::Select>(inner(*exists.select, scope_))};
     return result;
 }
 
 bound::ExpressionPtr Binder::node(const ScalarSelect& scalar) {
     auto result = std::make_unique<bound::Expression>();
-    auto select = std::make_unique<bound::Select>(this->select(*scalar.select, scope_));
+    auto select = std::make_unique<bound::Select>(inner(*scalar.select, scope_));
     if (select->columns.size() != 1) {
         throw errors::oneColumnOnly();
     }

@@ -9,6 +9,38 @@ namespace {
 
 using bound::Expression;
 
+const Expression* bare(const Expression& expression) {
+    const auto* operation = std::get_if<bound::Operation>(&expression.node);
+    return operation != nullptr && operation->op == "COLLATE TSQL" ? operation->operands.front().get() : &expression;
+}
+
+bool bothParameters(const Expression& left, const Expression& right) {
+    return std::holds_alternative<bound::ParameterUse>(left.node) &&
+           std::holds_alternative<bound::ParameterUse>(right.node);
+}
+
+bool sameAll(const std::vector<bound::ExpressionPtr>& left, const std::vector<bound::ExpressionPtr>& right) {
+    return std::equal(left.begin(), left.end(), right.begin(), right.end(),
+                      [](const bound::ExpressionPtr& a, const bound::ExpressionPtr& b) {
+                          return sameExpression(*a, *b) || bothParameters(*a, *b);
+                      });
+}
+
+bool sameShape(const Expression& left, const Expression& right) {
+    if (const auto* call = std::get_if<bound::Call>(&left.node)) {
+        const auto& other = std::get<bound::Call>(right.node);
+        return call->function == other.function && sameAll(call->arguments, other.arguments);
+    }
+    if (const auto* operation = std::get_if<bound::Operation>(&left.node)) {
+        const auto& other = std::get<bound::Operation>(right.node);
+        return operation->op == other.op && sameAll(operation->operands, other.operands);
+    }
+    if (const auto* constant = std::get_if<bound::Constant>(&left.node)) {
+        return constant->text == std::get<bound::Constant>(right.node).text;
+    }
+    return false;
+}
+
 /// Finds a column of this core outside of every aggregate and every grouped expression.
 class LooseColumn {
 public:
@@ -24,51 +56,9 @@ public:
 private:
     using Pointer = bound::ExpressionPtr;
 
-    static const Expression* bare(const Expression& expression) {
-        const auto* operation = std::get_if<bound::Operation>(&expression.node);
-        return operation != nullptr && operation->op == "COLLATE TSQL" ? operation->operands.front().get()
-                                                                       : &expression;
-    }
-
     bool grouped(const Expression& expression) const {
         return std::any_of(core_.groupBy.begin(), core_.groupBy.end(),
-                           [&](const Pointer& group) { return same(*bare(*group), *bare(expression)); });
-    }
-
-    static bool same(const Expression& left, const Expression& right) {
-        const auto* a = std::get_if<bound::Column>(&left.node);
-        const auto* b = std::get_if<bound::Column>(&right.node);
-        if (a != nullptr && b != nullptr) {
-            return a->source == b->source && a->column == b->column;
-        }
-        // An expression written twice has other parameters each time, so only the shapes can be compared.
-        return left.node.index() == right.node.index() && a == nullptr && b == nullptr && left.type == right.type &&
-               !std::holds_alternative<bound::ParameterUse>(left.node) && sameShape(left, right);
-    }
-
-    static bool sameAll(const std::vector<Pointer>& left, const std::vector<Pointer>& right) {
-        return std::equal(left.begin(), left.end(), right.begin(), right.end(),
-                          [](const Pointer& a, const Pointer& b) { return same(*a, *b) || bothParameters(*a, *b); });
-    }
-
-    static bool bothParameters(const Expression& left, const Expression& right) {
-        return std::holds_alternative<bound::ParameterUse>(left.node) &&
-               std::holds_alternative<bound::ParameterUse>(right.node);
-    }
-
-    static bool sameShape(const Expression& left, const Expression& right) {
-        if (const auto* call = std::get_if<bound::Call>(&left.node)) {
-            const auto& other = std::get<bound::Call>(right.node);
-            return call->function == other.function && sameAll(call->arguments, other.arguments);
-        }
-        if (const auto* operation = std::get_if<bound::Operation>(&left.node)) {
-            const auto& other = std::get<bound::Operation>(right.node);
-            return operation->op == other.op && sameAll(operation->operands, other.operands);
-        }
-        if (const auto* constant = std::get_if<bound::Constant>(&left.node)) {
-            return constant->text == std::get<bound::Constant>(right.node).text;
-        }
-        return false;
+                           [&](const Pointer& group) { return sameExpression(*bare(*group), *bare(expression)); });
     }
 
     const Expression* first(const std::vector<Pointer>& expressions) const {
@@ -146,6 +136,17 @@ void Binder::checkGrouping(const bound::Core& core, const std::vector<bound::Ord
     for (const bound::Order& order : orderBy) {
         check(order.expression, errors::notGroupedInOrder);
     }
+}
+
+bool sameExpression(const bound::Expression& left, const bound::Expression& right) {
+    const auto* a = std::get_if<bound::Column>(&left.node);
+    const auto* b = std::get_if<bound::Column>(&right.node);
+    if (a != nullptr && b != nullptr) {
+        return a->source == b->source && a->column == b->column;
+    }
+    // An expression written twice has other parameters each time, so only the shapes can be compared.
+    return left.node.index() == right.node.index() && a == nullptr && b == nullptr && left.type == right.type &&
+           !std::holds_alternative<bound::ParameterUse>(left.node) && sameShape(left, right);
 }
 
 bool Binder::refersTo(const Scope& scope, const bound::Expression& expression) const {

@@ -127,7 +127,18 @@ bound::SourcePtr Binder::namedTable(const NamedTable& named, Scope& scope, bool 
 }
 
 bound::SourcePtr Binder::derivedTable(const DerivedTable& derived, Scope& scope, bool outer) {
-    auto select = std::make_unique<bound::Select>(this->select(*derived.select, scope.parent));
+    auto select = std::make_unique<bound::Select>(inner(*derived.select, scope.parent));
+    for (std::size_t i = 0; i < select->columns.size(); ++i) {
+        const std::string& name = select->columns[i].name;
+        if (name.empty()) {
+            throw errors::columnWithoutName(static_cast<int>(i) + 1, derived.alias);
+        }
+        for (std::size_t before = 0; before < i; ++before) {
+            if (sameText(select->columns[before].name, name)) {
+                throw errors::columnNamedTwice(name, derived.alias);
+            }
+        }
+    }
     Visible visible;
     visible.qualifier = derived.alias;
     visible.number = tables_++;

@@ -3,6 +3,7 @@
 #include "engine/errors/TextErrors.h"
 #include "engine/values/Collation.h"
 
+#include <algorithm>
 #include <cstdlib>
 
 namespace engine {
@@ -60,6 +61,11 @@ bound::Select Binder::select(const Select& select, Scope* parent) {
         }
         result.cores.push_back(std::move(made));
     }
+    for (ResultColumn& column : result.columns) {
+        if (column.type.kind == DataType::Kind::Unknown) {
+            column.type.kind = DataType::Kind::Int; // nothing but nulls
+        }
+    }
     result.unionAll = select.unionAll;
     const InScope inside(scope_, scope);
     scope.aggregates = true;
@@ -67,6 +73,12 @@ bound::Select Binder::select(const Select& select, Scope* parent) {
         result.orderBy.push_back(order(item, result, single));
     }
     bound::Core& last = result.cores.back();
+    for (const bound::Order& order : result.orderBy) {
+        const auto isIt = [&](const bound::ExpressionPtr& item) { return sameExpression(*item, *order.expression); };
+        if (last.distinct && order.expression && std::none_of(last.items.begin(), last.items.end(), isIt)) {
+            throw errors::orderNotDistinct();
+        }
+    }
     if (single && scope.sawAggregate && !last.aggregated) {
         last.aggregated = last.hiddenAggregate = true;
     }
@@ -74,6 +86,13 @@ bound::Select Binder::select(const Select& select, Scope* parent) {
         checkGrouping(last, result.orderBy);
     }
     return result;
+}
+
+bound::Select Binder::inner(const Select& select, Scope* parent) {
+    if (!select.orderBy.empty() && !select.cores.back().top) {
+        throw errors::orderOfSubquery();
+    }
+    return this->select(select, parent);
 }
 
 bound::Core Binder::core(const SelectCore& core, Scope& scope, std::vector<ResultColumn>& columns) {
@@ -122,9 +141,6 @@ void Binder::items(const SelectCore& core, Scope& scope, bound::Core& result, st
             result.items.push_back(expression(*item.expression));
             described.type = result.items.back()->type;
             described.nullable = result.items.back()->nullable;
-            if (described.type.kind == DataType::Kind::Unknown) {
-                described.type.kind = DataType::Kind::Int;
-            }
         }
         if (!item.alias.empty()) {
             described.name = item.alias;

@@ -32,6 +32,14 @@ DataType asDecimal(const DataType& type) {
 
 namespace bound {
 
+std::string quotedText(std::string_view text) {
+    std::string result = "'";
+    for (const char c : text) {
+        result += c == '\'' ? "''" : std::string(1, c);
+    }
+    return result + "'";
+}
+
 ExpressionPtr constant(std::string text, const DataType& type) {
     auto result = std::make_unique<Expression>();
     result->node = Constant{std::move(text)};

@@ -10,6 +10,8 @@ namespace engine {
 
 namespace bound {
 
+/// A text as a literal of SQLite.
+std::string quotedText(std::string_view text);
 ExpressionPtr constant(std::string text, const DataType& type);
 ExpressionPtr prefix(std::string op, ExpressionPtr operand, const DataType& type);
 ExpressionPtr postfix(std::string op, ExpressionPtr operand, const DataType& type);

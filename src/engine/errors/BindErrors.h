@@ -44,6 +44,8 @@ inline constexpr ErrorText<> aggregateOfAggregate{
     130, Reach::Batch,
     "Cannot perform an aggregate function on an expression containing an aggregate or a "
     "subquery."};
+inline constexpr ErrorText<> orderNotDistinct{
+    145, Reach::Batch, "ORDER BY items must appear in the select list if SELECT DISTINCT is specified."};
 inline constexpr ErrorText<> aggregateMisplaced{
     147, Reach::Batch,
     "An aggregate may not appear in the WHERE clause unless it is in a subquery contained in "
@@ -76,6 +78,8 @@ inline constexpr ErrorText<Text> columnTwice{
     "your code."};
 inline constexpr ErrorText<Text, Text, Text> incompatibleTypes{
     402, Reach::Batch, "The data types {left} and {right} are incompatible in the {operation} operator."};
+inline constexpr ErrorText<Text> invalidEscape{
+    506, Reach::Batch, "The invalid escape character \"{escape}\" was specified in a LIKE predicate."};
 inline constexpr ErrorText<Text> explicitIdentity{
     544, Reach::Statement,
     "Cannot insert explicit value for identity column in table '{table}' when "
@@ -91,8 +95,20 @@ inline constexpr ErrorText<Text, Text> sameExposedName{
     "names. Use correlation names to distinguish them."};
 inline constexpr PlacedErrorText<int, Text> invalidParameter{1023, Reach::Batch,
                                                              "Invalid parameter {place} specified for {function}."};
+inline constexpr ErrorText<> orderOfSubquery{
+    1033, Reach::Batch,
+    "The ORDER BY clause is invalid in views, inline functions, derived tables, subqueries, and "
+    "common table expressions, unless TOP or FOR XML is also specified."};
 inline constexpr ErrorText<Text> unboundIdentifier{4104, Reach::Batch,
                                                    "The multi-part identifier \"{identifier}\" could not be bound."};
+inline constexpr ErrorText<> coalesceOfNulls{
+    4127, Reach::Batch,
+    "At least one of the arguments to COALESCE must be an expression that is not the NULL "
+    "constant."};
+inline constexpr ErrorText<> nullIfOfNull{
+    4151, Reach::Batch,
+    "The type of the first argument to NULLIF cannot be the NULL constant because the type of "
+    "the first argument has to be known."};
 inline constexpr ErrorText<Text> updateIdentity{8102, Reach::Batch, "Cannot update identity column '{column}'."};
 inline constexpr ErrorText<Text, int, Text> argumentType{
     8116, Reach::Batch, "Argument data type {type} is invalid for argument {place} of {function} function."};
@@ -115,6 +131,10 @@ inline constexpr ErrorText<Text> notGroupedInOrder{
     8127, Reach::Batch,
     "Column \"{column}\" is invalid in the ORDER BY clause because it is not contained in "
     "either an aggregate function or the GROUP BY clause."};
+inline constexpr ErrorText<int, Text> columnWithoutName{
+    8155, Reach::Batch, "No column name was specified for column {place} of '{table}'."};
+inline constexpr ErrorText<Text, Text> columnNamedTwice{
+    8156, Reach::Batch, "The column '{column}' was specified multiple times for '{table}'."};
 inline constexpr ErrorText<> valuesCountMismatch{
     10709, Reach::Batch, "The number of columns for each row in a table value constructor must be the same."};
 inline constexpr ErrorText<> tooManyRows{

@@ -21,6 +21,8 @@ inline constexpr ErrorText<> nothingToRollBack{
     3903, Reach::Statement, "The ROLLBACK TRANSACTION request has no corresponding BEGIN TRANSACTION."};
 inline constexpr ErrorText<Text> cannotOpenDatabase{
     4060, Reach::Connection, "Cannot open database \"{database}\" requested by the login. The login failed."};
+inline constexpr ErrorText<Text> unknownTransaction{
+    6401, Reach::Statement, "Cannot roll back {name}. No transaction or savepoint of that name was found."};
 /// The words of conversionError for an argument of a procedure; the batch goes on.
 inline constexpr ErrorText<Text, Text> parameterConversion{8114, Reach::Statement, conversionError.words()};
 inline constexpr ErrorText<Text> tooManyArguments{

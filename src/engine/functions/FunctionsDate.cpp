@@ -117,7 +117,7 @@ Scalar dateAdd(FunctionContext& /*context*/, Arguments arguments) {
     case Part::Second:
         return addTicks(date, 0, number * kTicksOfSecond);
     case Part::Millisecond:
-        return addTicks(date, 0, number * kTicksOfSecond / 1000);
+        return addTicks(date, 0, floorDivide(number * kTicksOfSecond + 500, 1000)); // to the nearest tick
     }
     return {};
 }

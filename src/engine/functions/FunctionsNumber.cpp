@@ -77,16 +77,54 @@ Scalar roundOf(FunctionContext& /*context*/, Arguments arguments) {
     return toDecimal(number, DataType{DataType::Kind::Decimal, 0, kWidestDecimal, static_cast<int>(places)});
 }
 
+/// An amount: currency and sign once each, digits with commas, a point. Nothing but one of these is a number too.
+bool isAmount(std::string_view text) {
+    bool currency = false;
+    bool sign = false;
+    bool point = false;
+    bool begun = false;
+    while (!text.empty()) {
+        const auto takes = [&](std::string_view wanted) {
+            const bool found = text.starts_with(wanted);
+            text.remove_prefix(found ? wanted.size() : 0);
+            return found;
+        };
+        if (takes("$") || takes("€") || takes("£") || takes("¥")) {
+            if (currency || begun) {
+                return false;
+            }
+            currency = true;
+        } else if (takes("+") || takes("-")) {
+            if (sign || begun) {
+                return false;
+            }
+            sign = true;
+        } else if (takes(".")) {
+            if (point) {
+                return false;
+            }
+            point = begun = true;
+        } else if (isDigit(text.front()) || (text.front() == ',' && !point)) {
+            text.remove_prefix(1);
+            begun = true;
+        } else {
+            return false;
+        }
+    }
+    return true;
+}
+
 Scalar isNumeric(FunctionContext& /*context*/, Arguments arguments) {
     const auto* text = std::get_if<std::string>(&arguments[0]);
     if (text == nullptr) {
         return std::int64_t{!isNull(arguments[0])};
     }
+    const std::string_view written = trimmed(*text);
     try {
-        toFloat(*text);
-        return std::int64_t{!withoutTrailingBlanks(*text).empty()};
+        toFloat(written);
+        return std::int64_t{!written.empty()};
     } catch (const Error&) {
-        return std::int64_t{0};
+        return std::int64_t{isAmount(written)};
     }
 }
 

@@ -1,4 +1,5 @@
 #include "engine/errors/DefinitionErrors.h"
+#include "engine/errors/RunErrors.h"
 #include "engine/run/Definitions.h"
 #include "engine/text/DatabaseOptions.h"
 
@@ -38,12 +39,15 @@ void define(ServerSession& session, const Reconfigure& /*reconfigure*/) {
 void define(ServerSession& session, const Transaction& transaction) {
     switch (transaction.kind) {
     case Transaction::Kind::Begin:
-        session.beginTransaction();
+        session.beginTransaction(transaction.name);
         break;
     case Transaction::Kind::Commit:
         session.commitTransaction();
         break;
     case Transaction::Kind::Rollback:
+        if (!transaction.name.empty() && session.inTransaction() && !session.isOutermost(transaction.name)) {
+            throw errors::unknownTransaction(transaction.name);
+        }
         session.rollbackTransaction();
         break;
     }

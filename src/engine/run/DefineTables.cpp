@@ -186,6 +186,9 @@ void define(ServerSession& session, const CreateTable& create) {
     Database& database = session.current();
     TableInfo table;
     table.name = create.table.last();
+    if (table.name.starts_with('#')) {
+        throw errors::notSupported("CREATE TABLE " + table.name); // it would have to be the session's own
+    }
     if (database.catalog().table(table.name) != nullptr) {
         throw errors::objectExists(table.name);
     }

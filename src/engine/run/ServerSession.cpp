@@ -113,13 +113,22 @@ std::unique_ptr<Batch> ServerSession::begin(std::string_view text) {
                                       keepsPlan ? std::optional(std::move(shape)) : std::nullopt);
 }
 
-void ServerSession::beginTransaction() {
+void ServerSession::beginTransaction(const std::string& name) {
+    if (transactions_ == 0) {
+        transactionName_ = name;
+    }
     transactions_ += settings.implicitTransactions && transactions_ == 0 ? 2 : 1;
+}
+
+/// Names of transactions are told apart by their letters too, whatever the collation.
+bool ServerSession::isOutermost(std::string_view transactionName) const {
+    return transactionName == transactionName_;
 }
 
 void ServerSession::beginTransactionOf(bool touchesTable) {
     if (settings.implicitTransactions && touchesTable && transactions_ == 0) {
         transactions_ = 1;
+        transactionName_.clear();
     }
 }
 

@@ -49,7 +49,9 @@ public:
     void failed(int error) { lastError_ = error; }
     void gaveIdentity(std::int64_t value) { lastIdentity_ = value; }
 
-    void beginTransaction();
+    /// `name` may be empty. Only the outermost one's is remembered.
+    void beginTransaction(const std::string& name);
+    bool isOutermost(std::string_view transactionName) const;
     /// SET IMPLICIT_TRANSACTIONS: before a statement that touches a table.
     void beginTransactionOf(bool touchesTable);
     /// Throws 3902, 3903.
@@ -92,6 +94,7 @@ private:
     std::int64_t rowCount_ = 0;
     int lastError_ = 0;
     int transactions_ = 0;
+    std::string transactionName_;      ///< of the outermost
     std::set<const Database*> joined_; ///< databases that the open transaction has written to
     Database* firstWrite_ = nullptr;   ///< the database that the present statement joined to the transaction
     std::vector<std::unique_ptr<RowHold>> transactionHolds_;

@@ -100,6 +100,6 @@ void define(ServerSession& session, const AlterDatabase& alter);   // 5011
 void define(ServerSession& session, const Use& use);               // 911
 void define(ServerSession& session, const SetOption& option);      // 1088, 8107, 2743
 void define(ServerSession& session, const Reconfigure& reconfigure);
-void define(ServerSession& session, const Transaction& transaction); // 3902, 3903
+void define(ServerSession& session, const Transaction& transaction); // 3902, 3903, 6401
 
 } // namespace engine

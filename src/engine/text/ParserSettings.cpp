@@ -80,18 +80,19 @@ std::string Grammar::optionValue() {
     return std::to_string(expectInteger());
 }
 
-/// BEGIN, COMMIT and ROLLBACK of a transaction, whose name has no effect.
+/// BEGIN, COMMIT and ROLLBACK of a transaction.
 Grammar::Node Grammar::transaction(Transaction::Kind kind) {
     if (kind != Transaction::Kind::Begin) {
         consume();
     }
     const bool named = consumeIf(Keyword::Tran) || consumeIf(Keyword::Transaction);
+    Transaction node{kind, {}};
     if (named && now().isName()) {
-        consume();
+        node.name = valueOf(consume());
     } else if (!named) {
         consumeIfWord("WORK");
     }
-    return Transaction{kind};
+    return node;
 }
 
 } // namespace engine

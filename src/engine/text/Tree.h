@@ -294,6 +294,7 @@ struct Reconfigure {
 struct Transaction {
     enum class Kind { Begin, Commit, Rollback };
     Kind kind;
+    std::string name; ///< may be empty
 };
 
 struct Statement;

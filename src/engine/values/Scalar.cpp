@@ -33,8 +33,11 @@ Scalar toInteger(const Scalar& value, const ConversionRequest& request) {
     return engine::toInteger(std::get<std::int64_t>(value), request.to);
 }
 
-Scalar toBitValue(const Scalar& value) {
+Scalar toBitValue(const Scalar& value, const ConversionRequest& request) {
     if (const auto* text = std::get_if<std::string>(&value)) {
+        if (request.from.kind == Kind::DateTime) {
+            return std::int64_t{daysOf(*text) != 0.0};
+        }
         return std::int64_t{toBit(*text)};
     }
     return std::int64_t{numberOf(value) != 0.0};
@@ -118,7 +121,7 @@ Scalar convert(Scalar value, const ConversionRequest& request) {
     case Kind::Unknown:
         return value;
     case Kind::Bit:
-        return toBitValue(value);
+        return toBitValue(value, request);
     case Kind::TinyInt:
     case Kind::SmallInt:
     case Kind::Int:

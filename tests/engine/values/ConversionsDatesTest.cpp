@@ -135,6 +135,54 @@ TEST(DateOfText, OutsideTheCalendarIsRefused) {
     });
 }
 
+TEST(DateOfText, HasItsMonthByName) {
+    for (const char* text :
+         {"Mar 7 2004", "March 7, 2004", "mar 07,2004", "7 Mar 2004", "07-MAR-2004", "7 march, 2004", "2004 mar 7",
+          "2004 7 Mar", "Mar 2004 7", "7 2004 mar", "Mar 7 04", "7/Mar/04", "  Mar  7  2004 "}) {
+        for (const DateOrder order : {kMonthFirst, kDayFirst, kYearFirst}) {
+            EXPECT_EQ(toDateTime(text, {}, order), "2004-03-07 00:00:00.000") << text;
+        }
+    }
+    expectAll({
+        {"Mar 2004", {}, kMonthFirst, "2004-03-01"},
+        {"sep 7 2004 10:11", {}, kMonthFirst, "2004-09-07 10:11:00.000"},
+        {"7 Dec 2004 3PM", {}, kMonthFirst, "2004-12-07 15:00:00.000"},
+        {"Dec 2004 12:00:01.5 am", {}, kMonthFirst, "2004-12-01 00:00:01.500"},
+        {"Mar 7 50", {}, kMonthFirst, "1950-03-07"},
+        {"Feb 30 2004", {}, kMonthFirst, kOutOfRange},
+    });
+    for (const char* text : {"Mar", "Mar 7", "Marc 7 2004", "Mar Apr 2004", "Mar 7 2004x", "7 Mar 2004 3",
+                             "Mar 7 8 2004", "Mar 7 204", "gen 7 2004", "marzo 7 2004", "Mar 7 2004T10:11:12"}) {
+        EXPECT_EQ(errorOf([&] { toDateTime(text, {}); }), kGarbage) << text;
+    }
+}
+
+TEST(DateOfText, HasAnHourOfHalfADay) {
+    expectAll({
+        {"3PM", {}, kMonthFirst, "1900-01-01 15:00:00.000"},
+        {"3 pm", {}, kMonthFirst, "1900-01-01 15:00:00.000"},
+        {"12am", {}, kMonthFirst, "1900-01-01"},
+        {"2004-03-07 11AM", {}, kMonthFirst, "2004-03-07 11:00:00.000"},
+        {"13PM", {}, kMonthFirst, kOutOfRange},
+    });
+    for (const char* text : {"3P", "3XM", "PM", "3PM 4", "3 P M"}) {
+        EXPECT_EQ(errorOf([&] { toDateTime(text, {}); }), kGarbage) << text;
+    }
+}
+
+TEST(DateOfText, InTheInternationalFormHasAllItsDigits) {
+    expectAll({
+        {"2022-01-22T13:34:12", {}, kDayFirst, "2022-01-22 13:34:12.000"},
+        {"2022-01-22T13:34:12.123", {}, kDayFirst, "2022-01-22 13:34:12.123"},
+        {"20220122T13:34:12", {}, kDayFirst, "2022-01-22 13:34:12.000"},
+    });
+    for (const char* text : {"2022-1-22T13:34:12.123", "2022-01-2T13:34:12", "2022-01-22T3:34:12", "2022-01-22T13:34",
+                             "2022-01-22T13", "2022-01-22T13:4:12", "2022-01-22T13:34:12PM", "2022-01-22T 13:34:12",
+                             "2022-01-22T", "2022/01/22T13:34:12"}) {
+        EXPECT_EQ(errorOf([&] { toDateTime(text, {}); }), kGarbage) << text;
+    }
+}
+
 TEST(DateOfText, GarbageIsRefused) {
     for (const char* text :
          {"abc",          "1/2",     "1//2",      "1/2/3/4",    "1/2/345",     "12345",        "123456789",

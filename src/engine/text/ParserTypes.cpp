@@ -20,11 +20,11 @@ struct TypeRow {
     int largest = 0; ///< the largest length
 };
 
+/// A type that isn't here is refused: those that keep other values than one of these, as date and smalldatetime, too.
 constexpr auto kTypes = std::to_array<TypeRow>({{"bigint", {Kind::BigInt}},
                                                 {"bit", {Kind::Bit}},
                                                 {"char", {Kind::Char}, Size::Length, kLongestText},
                                                 {"character", {Kind::Char}, Size::Length, kLongestText},
-                                                {"date", {Kind::DateTime}},
                                                 {"datetime", {Kind::DateTime}},
                                                 {"dec", {Kind::Decimal, 0, 18, 0}, Size::Precision},
                                                 {"decimal", {Kind::Decimal, 0, 18, 0}, Size::Precision},
@@ -38,9 +38,7 @@ constexpr auto kTypes = std::to_array<TypeRow>({{"bigint", {Kind::BigInt}},
                                                 {"numeric", {Kind::Decimal, 0, 18, 0}, Size::Precision},
                                                 {"nvarchar", {Kind::NVarChar}, Size::LengthOrMax, kLongestNationalText},
                                                 {"real", {Kind::Real}},
-                                                {"smalldatetime", {Kind::DateTime}},
                                                 {"smallint", {Kind::SmallInt}},
-                                                {"smallmoney", {Kind::Decimal, 0, 10, 4}},
                                                 {"sysname", {Kind::NVarChar, kSystemNameLength}},
                                                 {"text", {Kind::NVarChar, -1}},
                                                 {"tinyint", {Kind::TinyInt}},

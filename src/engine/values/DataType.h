@@ -18,10 +18,10 @@ struct DataType {
         SmallInt,
         Int,
         BigInt,
-        Decimal, ///< also numeric, money (19,4) and smallmoney (10,4)
+        Decimal, ///< also numeric and money (19,4)
         Real,
         Float,
-        DateTime, ///< also smalldatetime and date
+        DateTime,
         Char,
         VarChar,
         NChar,

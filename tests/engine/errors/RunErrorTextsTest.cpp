@@ -110,6 +110,8 @@ TEST(ErrorTexts, OfSessionsAndProcedures) {
         {errors::procedureMissing("Procedure"), 2812, kStatement, "Could not find stored procedure 'Procedure'."},
         {errors::nothingToCommit(), 3902, kStatement,
          "The COMMIT TRANSACTION request has no corresponding BEGIN TRANSACTION."},
+        {errors::unknownTransaction("Name"), 6401, kStatement,
+         "Cannot roll back Name. No transaction or savepoint of that name was found."},
         {errors::nothingToRollBack(), 3903, kStatement,
          "The ROLLBACK TRANSACTION request has no corresponding BEGIN TRANSACTION."},
         {errors::cannotOpenDatabase("Database"), 4060, kConnection,

@@ -113,6 +113,21 @@ TEST(ErrorTexts, OfFunctions) {
 
 TEST(ErrorTexts, OfNamesAndTypes) {
     expectTexts({
+        {errors::orderNotDistinct(), 145, kBatch,
+         "ORDER BY items must appear in the select list if SELECT DISTINCT is specified."},
+        {errors::invalidEscape("Escape"), 506, kBatch,
+         "The invalid escape character \"Escape\" was specified in a LIKE predicate."},
+        {errors::orderOfSubquery(), 1033, kBatch,
+         "The ORDER BY clause is invalid in views, inline functions, derived tables, subqueries, and common table "
+         "expressions, unless TOP or FOR XML is also specified."},
+        {errors::coalesceOfNulls(), 4127, kBatch,
+         "At least one of the arguments to COALESCE must be an expression that is not the NULL constant."},
+        {errors::nullIfOfNull(), 4151, kBatch,
+         "The type of the first argument to NULLIF cannot be the NULL constant because the type of the first argument "
+         "has to be known."},
+        {errors::columnWithoutName(1, "Table"), 8155, kBatch, "No column name was specified for column 1 of 'Table'."},
+        {errors::columnNamedTwice("Column", "Table"), 8156, kBatch,
+         "The column 'Column' was specified multiple times for 'Table'."},
         {errors::orderNotSelected(), 104, kBatch,
          "ORDER BY items must appear in the select list if the statement contains a UNION, INTERSECT or "
          "EXCEPT operator."},

@@ -173,6 +173,19 @@ TEST_F(Documented, ATableOfASessionIsRefused) {
     });
 }
 
+TEST_F(Documented, TypesWhoseValuesAreNotKeptAreRefused) {
+    expect({
+        {"CREATE TABLE t (n date)", "!2715 Column, parameter, or variable #1: Cannot find data type date.",
+         "a refusal of ours"},
+        {"CREATE TABLE t (n smalldatetime)",
+         "!2715 Column, parameter, or variable #1: Cannot find data type smalldatetime.", "a refusal of ours"},
+        {"CREATE TABLE t (n smallmoney)", "!2715 Column, parameter, or variable #1: Cannot find data type smallmoney.",
+         "a refusal of ours"},
+        {"SELECT CAST('20040307' AS date)", "!243 Type date is not a defined system type.", "a refusal of ours"},
+        {"SELECT CAST(1 AS binary(2))", "!243 Type binary is not a defined system type.", "a refusal of ours"},
+    });
+}
+
 TEST_F(Documented, ConstraintsThatAreNotKeptAreRefused) {
     expect({
         {"CREATE TABLE figli (n int REFERENCES voci (n))", "!156 Incorrect syntax near the keyword 'REFERENCES'.",

@@ -132,12 +132,11 @@ INSTANTIATE_TEST_SUITE_P(
                  "(create-table Version (column id int null) (column Version int not-null (default 1)))"},
         TreeCase{"create table t (a int constraint pk primary key, b varchar(10) collate Latin1_General_CI_AS null,)",
                  "(create-table t (column a int not-null) (column b varchar(10) null) (primary-key pk (on a)))"},
-        TreeCase{"create table t (a bit, b tinyint, c smallint, d integer, e bigint, f dec, g numeric(9), h money, i "
-                 "smallmoney, j float, k float(24), l real, m smalldatetime, n date)",
+        TreeCase{"create table t (a bit, b tinyint, c smallint, d integer, e bigint, f dec, g numeric(9), h money, "
+                 "j float, k float(24), l real, m datetime)",
                  "(create-table t (column a bit) (column b tinyint) (column c smallint) (column d int) (column e "
-                 "bigint) (column f decimal(18,0)) (column g decimal(9,0)) (column h decimal(19,4)) (column i "
-                 "decimal(10,4)) (column j float) (column k real) (column l real) (column m datetime) (column n "
-                 "datetime))"},
+                 "bigint) (column f decimal(18,0)) (column g decimal(9,0)) (column h decimal(19,4)) "
+                 "(column j float) (column k real) (column l real) (column m datetime))"},
         TreeCase{"create table t (a char, b varchar(8000), c nchar(4000), d nvarchar(max), e text, f ntext, g sysname, "
                  "h image, i varbinary(10))",
                  "(create-table t (column a char(1)) (column b varchar(8000)) (column c nchar(4000)) (column d "

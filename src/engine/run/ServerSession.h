@@ -77,6 +77,8 @@ private:
     std::unique_ptr<Batch> begin(std::string_view text);
     std::unique_ptr<RowHold> takeRows(std::string_view select);
     Scalar fact(Fact fact, const Scalar& argument);
+    /// OBJECT_ID of a name, its pieces from the last to the first; null where there is none.
+    Scalar objectOf(const std::vector<std::string>& pieces);
     void stopBatch();
     std::unique_ptr<RowHold> holdRows(const Select& select);
     void takeBack(Database& database);

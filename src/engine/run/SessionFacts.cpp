@@ -1,6 +1,7 @@
 // What a session answers when a statement asks about the server, the session or its databases.
 
 #include "engine/run/ServerSession.h"
+#include "engine/run/SystemTables.h"
 #include "engine/store/Host.h"
 #include "engine/values/Collation.h"
 
@@ -39,18 +40,48 @@ Scalar serverProperty(const std::string& property, const Instance& instance) {
     return {};
 }
 
-/// The number of a table among those of its database, counted from 1.
-std::int64_t numberOf(const TableInfo& table, Catalog& catalog) {
-    const std::vector<std::string> names = catalog.tableNames();
-    return std::find(names.begin(), names.end(), table.name) - names.begin() + 1;
+/// The pieces of a name, from the last to the first, without brackets and quotes.
+std::vector<std::string> piecesOf(std::string_view name) {
+    std::vector<std::string> pieces(1);
+    char closing = '\0';
+    for (const char c : name) {
+        if (closing != '\0') {
+            if (c == closing) {
+                closing = '\0';
+            } else {
+                pieces.back() += c;
+            }
+        } else if (c == '[' || c == '"') {
+            closing = c == '[' ? ']' : c;
+        } else if (c == '.') {
+            pieces.emplace_back();
+        } else {
+            pieces.back() += c;
+        }
+    }
+    return {pieces.rbegin(), pieces.rend()};
 }
 
 } // namespace
 
+Scalar ServerSession::objectOf(const std::vector<std::string>& pieces) {
+    const bool ofDbo = pieces.size() < 2 || pieces[1].empty() || sameText(pieces[1], "dbo");
+    const bool elsewhere = pieces.size() > 2 && !pieces[2].empty();
+    const std::shared_ptr<Database> database = elsewhere ? open(pieces[2]) : current_;
+    if (!ofDbo || database == nullptr) {
+        return {};
+    }
+    if (elsewhere) {
+        database->refresh();
+    }
+    const TableInfo* table = database->catalog().table(pieces.front());
+    return table == nullptr ? Scalar() : Scalar(objectId(*database, *table));
+}
+
 Scalar ServerSession::fact(Fact fact, const Scalar& argument) {
     const auto* text = std::get_if<std::string>(&argument);
-    const auto table = [&] {
-        return text == nullptr ? nullptr : current_->catalog().table(text->substr(text->rfind('.') + 1));
+    const auto table = [&]() -> const TableInfo* {
+        return text == nullptr ? nullptr : current_->catalog().table(piecesOf(*text).front());
     };
     switch (fact) {
     case Fact::CurrentIdentity: {
@@ -88,8 +119,7 @@ Scalar ServerSession::fact(Fact fact, const Scalar& argument) {
     case Fact::Login:
         return login_.user.empty() ? std::string("sa") : login_.user;
     case Fact::ObjectId: {
-        const TableInfo* info = table();
-        return info == nullptr ? Scalar() : Scalar(numberOf(*info, current_->catalog()));
+        return text == nullptr ? Scalar() : objectOf(piecesOf(*text));
     }
     case Fact::Options:
         return settings.options();

@@ -59,9 +59,14 @@ Rows databasesOfSys(Database& /*database*/, const Instance& instance) {
 
 Rows objects(Database& database, const Instance& /*instance*/) {
     Rows rows;
-    std::int64_t id = 0;
     for (const std::string& name : database.catalog().tableNames()) {
-        rows.push_back({name, ++id, std::string("U "), std::int64_t{1}});
+        const TableInfo& table = *database.catalog().table(name);
+        const std::int64_t id = objectId(database, table);
+        rows.push_back({name, id, std::string("U "), std::int64_t{1}, std::int64_t{0}});
+        std::int64_t keyId = id;
+        for (const KeyInfo& key : table.keys) {
+            rows.push_back({key.name, ++keyId, std::string(key.primary ? "PK" : "UQ"), std::int64_t{1}, id});
+        }
     }
     return rows;
 }
@@ -149,7 +154,7 @@ const std::vector<SystemTable>& systemTables() {
                  databases));
         made.push_back(make("dbo", "sysobjects",
                             {column("name", kName), column("id", kInt), column("xtype", DataType{Kind::Char, 2, 0, 0}),
-                             column("uid", kSmall)},
+                             column("uid", kSmall), column("parent_obj", kInt)},
                             objects));
         made.push_back(
             make("sys", "databases",
@@ -196,6 +201,12 @@ const TableInfo* systemTable(std::string_view schema, std::string_view name) {
         }
     }
     return nullptr;
+}
+
+std::int64_t objectId(const Database& database, const TableInfo& table) {
+    constexpr std::int64_t kOfADatabase = 10'000'000;
+    constexpr std::int64_t kOfATable = 100; // itself and its keys
+    return database.entry().id * kOfADatabase + table.id * kOfATable;
 }
 
 void fillSystemTable(const std::string& name, Database& database, const Instance& instance) {

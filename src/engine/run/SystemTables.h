@@ -16,6 +16,8 @@ namespace engine {
 const TableInfo* systemTable(std::string_view schema, std::string_view name);
 
 /// Fills the copy of a table, by the name in its description, as things stand now.
+/// The number of a table among all of the instance; those of its keys follow it.
+std::int64_t objectId(const Database& database, const TableInfo& table);
 void fillSystemTable(const std::string& name, Database& database, const Instance& instance);
 
 } // namespace engine

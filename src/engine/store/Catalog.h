@@ -32,7 +32,8 @@ struct KeyInfo {
 };
 
 struct TableInfo {
-    std::string name; ///< spelt as it was created
+    std::string name;    ///< spelt as it was created
+    std::int64_t id = 0; ///< its own in its database while it exists; 0 before it is made
     std::vector<ColumnInfo> columns;
     std::vector<KeyInfo> keys;
 

@@ -71,6 +71,7 @@ void Catalog::State::load() {
         auto entry = std::make_unique<Entry>();
         entry->id = rows.integer(0);
         entry->info.name = rows.text(1);
+        entry->info.id = entry->id;
         reload(*entry);
         std::string key = collationKey(entry->info.name);
         tables.emplace(std::move(key), std::move(entry));
@@ -143,6 +144,7 @@ Catalog::State::Entry& Catalog::State::insertTable(const std::string& name) {
     auto entry = std::make_unique<Entry>();
     entry->id = connection.lastRow();
     entry->info.name = name;
+    entry->info.id = entry->id;
     return *tables.insert_or_assign(collationKey(name), std::move(entry)).first->second;
 }
 

@@ -173,6 +173,28 @@ TEST_F(Documented, ATableOfASessionIsRefused) {
     });
 }
 
+TEST_F(Documented, AnObjectKeepsItsNumber) {
+    const std::string id = rows("SELECT OBJECT_ID('voci')");
+    run("CREATE TABLE altre (n int CONSTRAINT pk_altre PRIMARY KEY, m int CONSTRAINT uq_altre UNIQUE)");
+    for (const char* name : {"VOCI", "dbo.voci", "[dbo].[voci]", "prova.dbo.voci", "prova..voci", "\"voci\""}) {
+        EXPECT_EQ(rows("SELECT OBJECT_ID('" + std::string(name) + "')"), id) << name;
+    }
+    expect({
+        {"SELECT OBJECT_ID('manca'), OBJECT_ID('x.voci'), OBJECT_ID('manca..voci'), OBJECT_ID('')",
+         "|||\nNULL|NULL|NULL|NULL", "object_id"},
+        {"SELECT name, xtype FROM sysobjects WHERE parent_obj = OBJECT_ID('altre') ORDER BY name",
+         "name|xtype\npk_altre|PK\nuq_altre|UQ", "sysobjects"},
+        {"SELECT COUNT(*) FROM sysobjects WHERE id = OBJECT_ID('altre') AND xtype = 'U' AND parent_obj = 0", "\n1",
+         "sysobjects"},
+        {"SELECT COUNT(*) - COUNT(DISTINCT id) FROM sysobjects", "\n0", "sysobjects"},
+        {"SELECT * FROM syscomments", "!208 Invalid object name 'syscomments'.", "a refusal of ours"},
+    });
+    instance->createDatabase("seconda", "", "");
+    run("USE seconda; CREATE TABLE voci (n int)");
+    EXPECT_EQ(rows("SELECT OBJECT_ID('prova..voci')"), id);
+    EXPECT_NE(rows("SELECT OBJECT_ID('voci')"), id);
+}
+
 TEST_F(Documented, TypesWhoseValuesAreNotKeptAreRefused) {
     expect({
         {"CREATE TABLE t (n date)", "!2715 Column, parameter, or variable #1: Cannot find data type date.",

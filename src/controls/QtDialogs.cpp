@@ -6,10 +6,16 @@
 
 #include <QApplication>
 #include <QDialogButtonBox>
+#include <QFontMetrics>
 #include <QGridLayout>
 #include <QInputDialog>
+#include <QLabel>
 #include <QMessageBox>
+#include <QPlainTextEdit>
 #include <QPushButton>
+#include <QScreen>
+
+#include <algorithm>
 
 namespace controls {
 
@@ -41,6 +47,38 @@ void fillRoomOfIcon(QMessageBox& box) {
     }
 }
 
+constexpr int kTextWidth = 500; ///< of a text that is scrolled, for which the buttons must stay on the screen
+
+int mostTextHeight(const QMessageBox& box) {
+    return box.screen()->availableGeometry().height() / 2;
+}
+
+/// Whether a box's own label would grow higher than half the screen, or cut off a word that is too long for a line.
+bool needsScrolling(const QMessageBox& box, const QLabel& label) {
+    const QRect all =
+        label.fontMetrics().boundingRect(QRect(0, 0, kTextWidth, QWIDGETSIZE_MAX), Qt::TextWordWrap, label.text());
+    return all.width() > kTextWidth || all.height() > mostTextHeight(box);
+}
+
+/// The text in the label's place, wrapped wherever it must be, as high as it needs to be up to half the screen.
+void showScrolled(QMessageBox& box, QLabel& label) {
+    auto* text = new QPlainTextEdit(label.text(), &box);
+    text->setObjectName(QStringLiteral("scrolledText"));
+    text->setAccessibleName(box.windowTitle());
+    text->setReadOnly(true);
+    text->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
+    text->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    text->setTabChangesFocus(true);
+    text->setWordWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
+    text->setFixedWidth(kTextWidth);
+    text->ensurePolished();
+    // In a plain text's layout a height is a number of lines.
+    const int lines = static_cast<int>(text->document()->size().height()) + 1;
+    text->setFixedHeight(std::min(lines * text->fontMetrics().lineSpacing(), mostTextHeight(box)));
+    label.hide();
+    box.layout()->replaceWidget(&label, text);
+}
+
 /// Shows a box with its buttons; true when the first one was chosen.
 bool ask(const std::string& text, QMessageBox::Icon icon, const QStringList& captions,
          Leaving leaving = Leaving::ByEscToo) {
@@ -65,6 +103,10 @@ bool ask(const std::string& text, QMessageBox::Icon icon, const QStringList& cap
         box.setEscapeButton(buttons.last());
     } else {
         box.setWindowFlags(Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint);
+    }
+    if (auto* label = box.findChild<QLabel*>(QStringLiteral("qt_msgbox_label"));
+        label != nullptr && needsScrolling(box, *label)) {
+        showScrolled(box, *label);
     }
     box.exec();
     return box.clickedButton() == buttons.first();

@@ -51,6 +51,17 @@ TEST_F(BranchForm, ABranchWithoutADateLeavesTheTextAsItIs) {
     prendi(1);
     EXPECT_EQ(testo(), "31/03/2024") << "the one of the branch before";
     EXPECT_EQ(fuoco(), "DataInizio");
+    EXPECT_TRUE(tuttoScelto()) << "as in every field that gets the focus";
+    EXPECT_FALSE(RsCondivisi(1).IsOpen());
+}
+
+TEST_F(BranchForm, ABranchDeletedMeanwhileLeavesTheTextAsItIs) {
+    apri();
+    prendi(kSede);
+    esegui("delete from ElencoSedi where IdSede = 1");
+    prendi(1);
+    EXPECT_EQ(testo(), "31/03/2024");
+    EXPECT_TRUE(tuttoScelto());
 }
 
 TEST_F(BranchForm, TheDateIsReadWheneverTheFocusComesBack) {

@@ -14,8 +14,11 @@
 #include <QPlainTextEdit>
 #include <QPushButton>
 #include <QScreen>
+#include <QStyle>
+#include <QTextDocument>
 
 #include <algorithm>
+#include <cmath>
 
 namespace controls {
 
@@ -60,6 +63,19 @@ bool needsScrolling(const QMessageBox& box, const QLabel& label) {
     return all.width() > kTextWidth || all.height() > mostTextHeight(box);
 }
 
+/// What the field needs for its whole text, where that is less than a screen.
+int wrappedHeight(const QPlainTextEdit& field) {
+    constexpr int kMostLetters = 10000; // more than a screen holds
+    QTextDocument text(field.toPlainText().left(kMostLetters));
+    QTextOption option;
+    option.setWrapMode(field.wordWrapMode());
+    text.setDefaultTextOption(option);
+    text.setDefaultFont(field.font());
+    text.setTextWidth(kTextWidth - field.style()->pixelMetric(QStyle::PM_ScrollBarExtent));
+    const int spare = field.fontMetrics().lineSpacing() / 2; // or the field scrolls by a few pixels
+    return static_cast<int>(std::ceil(text.size().height())) + 2 * field.frameWidth() + spare;
+}
+
 /// The text in the label's place, wrapped wherever it must be, as high as it needs to be up to half the screen.
 void showScrolled(QMessageBox& box, QLabel& label) {
     auto* text = new QPlainTextEdit(label.text(), &box);
@@ -71,10 +87,7 @@ void showScrolled(QMessageBox& box, QLabel& label) {
     text->setTabChangesFocus(true);
     text->setWordWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
     text->setFixedWidth(kTextWidth);
-    text->ensurePolished();
-    // In a plain text's layout a height is a number of lines.
-    const int lines = static_cast<int>(text->document()->size().height()) + 1;
-    text->setFixedHeight(std::min(lines * text->fontMetrics().lineSpacing(), mostTextHeight(box)));
+    text->setFixedHeight(std::min(wrappedHeight(*text), mostTextHeight(box)));
     label.hide();
     box.layout()->replaceWidget(&label, text);
 }

@@ -87,7 +87,11 @@ void showScrolled(QMessageBox& box, QLabel& label) {
     text->setTabChangesFocus(true);
     text->setWordWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
     text->setFixedWidth(kTextWidth);
-    text->setFixedHeight(std::min(wrappedHeight(*text), mostTextHeight(box)));
+    const int wanted = wrappedHeight(*text);
+    const int most = mostTextHeight(box);
+    text->setFixedHeight(std::min(wanted, most));
+    // Not as needed: the field notices late that a single paragraph is longer than itself.
+    text->setVerticalScrollBarPolicy(wanted > most ? Qt::ScrollBarAlwaysOn : Qt::ScrollBarAlwaysOff);
     label.hide();
     box.layout()->replaceWidget(&label, text);
 }

@@ -94,6 +94,7 @@ TEST_P(BoxOfALongText, StaysOnTheScreenWithTheWholeTextInIt) {
             EXPECT_LE(text->document()->size().width(), text->viewport()->width()) << "every line is wrapped";
             EXPECT_GT(text->height(), 2 * text->fontMetrics().lineSpacing());
             const bool wholeInSight = text->verticalScrollBar()->maximum() == 0;
+            EXPECT_EQ(text->verticalScrollBar()->isVisible(), !wholeInSight);
             EXPECT_TRUE(wholeInSight || text->height() >= box.screen()->availableSize().height() / 3)
                 << "as much of it as there is room for";
             EXPECT_TRUE(text->isReadOnly());

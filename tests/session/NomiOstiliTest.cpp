@@ -2,6 +2,7 @@
 
 #include "ado/Error.h"
 #include "session/ApriAzienda.h"
+#include "session/ApriDbSede.h"
 #include "session/Aziende.h"
 #include "session/SessionFixture.h"
 
@@ -13,8 +14,10 @@ using support::kOtherCompany;
 
 class NomiOstili : public SessionTest {
 protected:
-    /// Gives the first company's row this name of a database; the database itself is dropped.
+    /// Gives the first company's row this name of a database; the database itself is dropped, with the temporary one
+    /// made before, so that the search for companies doesn't find that one first.
     double renamed(const std::string& name) {
+        EXPECT_TRUE(ApriDbTemp());
         const double id = idOf(kCompany);
         std::string doubled;
         for (const char c : name) {

@@ -81,10 +81,8 @@ void showScrolled(QMessageBox& box, QLabel& label) {
     auto* text = new QPlainTextEdit(label.text(), &box);
     text->setObjectName(QStringLiteral("scrolledText"));
     text->setAccessibleName(box.windowTitle());
-    text->setReadOnly(true);
     text->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
     text->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    text->setTabChangesFocus(true);
     text->setWordWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
     text->setFixedWidth(kTextWidth);
     const int wanted = wrappedHeight(*text);

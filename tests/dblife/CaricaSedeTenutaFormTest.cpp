@@ -24,7 +24,9 @@ TEST_F(CaricaSedeTenuta, AFolderRowThatSomebodyHoldsIsToldAndWhatStandsAheadOfIt
             ado::Recordset tenuta;
             ApriScrivibile(tenuta, std::string("select * from ") + tabella, altrui);
             tenuta["Directoryfile"] = "mia";
+            const support::StatementRecorder recorder;
             applica();
+            EXPECT_TRUE(recorder.holding(std::string("UPDATE [") + tabella).empty()) << "refused before it is written";
             tenuta.CancelUpdate();
         }
         EXPECT_TRUE(script.allShown());

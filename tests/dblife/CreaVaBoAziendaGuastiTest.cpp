@@ -9,16 +9,37 @@
 #include "support/SomebodyElse.h"
 #include "support/StatementRecorder.h"
 
+#include <QDeadlineTimer>
+
+#include <thread>
+
 namespace vabo {
 namespace {
 
 class CreaVaBoAziendaGuasti : public CreaVaBoAzienda {
 protected:
     void bareInstance() const {
-        DbTemp.Close();
+        if (DbTemp.IsOpen()) {
+            DbTemp.Close();
+        }
         for (const char* name : {"VaBoDatiTemp", "VaBoDatiAzienda"}) {
             if (quantiDatabase(name) == "1") {
-                workstation.run("master", std::string("DROP DATABASE ") + name);
+                dropped(name);
+            }
+        }
+    }
+    /// A server behind a wire learns a moment later that nobody uses the database any more.
+    void dropped(const std::string& name) const {
+        constexpr int kLongestMilliseconds = 5000;
+        for (const QDeadlineTimer deadline(kLongestMilliseconds);;) {
+            try {
+                workstation.run("master", "DROP DATABASE " + name);
+                return;
+            } catch (const engine::Error&) {
+                if (deadline.hasExpired()) {
+                    throw;
+                }
+                std::this_thread::yield();
             }
         }
     }
@@ -45,10 +66,11 @@ TEST_F(CreaVaBoAziendaGuasti, WhicheverStatementIsRefusedAllOthersAreSentAndOnly
             });
             EXPECT_NO_THROW(opened = ApriDbTemp());
         }
-        EXPECT_EQ(sent, all);
+        // Without the control database there is no connection for its two tables.
+        const bool control = all[refused] != kCreateControl;
+        EXPECT_EQ(sent, std::vector<std::string>(all.begin(), all.end() - (control ? 0 : 2)));
         EXPECT_EQ(opened, all[refused] != kCreateTemporary);
         EXPECT_EQ(quantiDatabase("VaBoDatiTemp"), opened ? "1" : "0");
-        const bool control = all[refused] != kCreateControl;
         ASSERT_EQ(quantiDatabase("VaBoDatiAzienda"), control ? "1" : "0");
         if (control) {
             EXPECT_EQ(hasTable("link_programma"), all[refused] != kCompanies);

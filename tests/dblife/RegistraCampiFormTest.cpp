@@ -1,6 +1,7 @@
 // The form of the data sources: fields that the chain enables, an empty driver, hostile texts in server and names.
 
 #include "RegistraFormFixture.h"
+#include "kit/ApriScrivibile.h"
 #include "support/Attacks.h"
 #include "support/HeardBoxes.h"
 
@@ -22,6 +23,11 @@ protected:
         gui.press(Qt::Key_Delete);
         gui.type(tutto.left(kBattute).toStdString());
         campo(nome).insert(tutto.mid(kBattute));
+    }
+    CampiAzienda conNome(const std::string& azienda) const {
+        CampiAzienda tutti = campi();
+        tutti.Azienda = azienda;
+        return tutti;
     }
     /// The registry of companies in the company's own database, with one row.
     void conRegistro() {
@@ -93,9 +99,7 @@ TEST_F(RegistraCampi, HostileNamesAreStoredAndRegisteredAsTheyStand) {
         const std::string aperta = NomeAzienda;
         premi("cmdCancel");
         support::Gui::handleEvents();
-        CampiAzienda attesi = campi();
-        attesi.Azienda = nome;
-        EXPECT_EQ(fonti.calls(), registrazioni(attesi, std::string(nome).substr(0, 30), aperta));
+        EXPECT_EQ(fonti.calls(), registrazioni(conNome(nome), std::string(nome).substr(0, 30), aperta));
         EXPECT_EQ(registro(), (Rows{{"VaBoDati", campi().Server, kCompany, nome, campi().Utente, campi().Password}}));
         EXPECT_EQ(NomeDsn, nome);
         apri();
@@ -110,10 +114,47 @@ TEST_F(RegistraCampi, ANameOfTheCompanyTooLongForItsColumnLeavesItsColumnAlone) 
     const std::string aperta = NomeAzienda;
     premi("cmdCancel");
     support::Gui::handleEvents();
-    CampiAzienda attesi = campi();
-    attesi.Azienda = lungo;
-    EXPECT_EQ(fonti.calls(), registrazioni(attesi, "Tlv_Server", aperta));
+    EXPECT_EQ(fonti.calls(), registrazioni(conNome(lungo), "Tlv_Server", aperta));
     EXPECT_EQ(registro(), (Rows{{"VaBoDati", campi().Server, kCompany, "prima", campi().Utente, campi().Password}}));
+}
+
+// Not held while its columns are set: the write alone is refused, in silence.
+TEST_F(RegistraCampi, ARowOfTheRegistryThatSomebodyHoldsIsTriedAndLeftAndTheDataSourcesAreRegistered) {
+    conRegistro();
+    ado::Connection altrui;
+    altrui.Open(StringaAzienda);
+    ado::Recordset tenuta;
+    ApriScrivibile(tenuta, "select * from link_programma", altrui);
+    tenuta["Nserver"] = "mio";
+    const support::StatementRecorder recorder;
+    premi("cmdCancel");
+    tenuta.CancelUpdate();
+    EXPECT_EQ(recorder.holding("UPDATE [link_programma]").size(), 1U);
+    EXPECT_EQ(registro(), (Rows{{"NULL", "NULL", "NULL", "prima", "NULL", "NULL"}}));
+    EXPECT_FALSE(fonti.calls().empty());
+    aspettaConsole();
+}
+
+// As a server's name comes from where it is copied.
+TEST_F(RegistraCampi, LineBreaksPastedIntoTheFieldsDoNotReachThePointerFiles) {
+    for (const char* fine : {"\n", "\r\n", "\r"}) {
+        for (const char* nome : {"txtServer", "txtUID", "txtPWD"}) {
+            SCOPED_TRACE(nome);
+            const std::string prima = testo(nome);
+            metti(nome, prima + fine);
+            removeFile("C:\\vabo\\IndirizzoServer.txt");
+            removeFile("C:\\vabo\\NomeServer.txt");
+            premi("txtServer");
+            EXPECT_EQ(fuoco(), "txtDatabase");
+            EXPECT_EQ(indirizzo(), server + "\r\n");
+            EXPECT_EQ(nomeServer(), campi().Server + "\r\n");
+            metti(nome, prima);
+        }
+    }
+    metti("txtServer", campi().Server + "\n");
+    premi("cmdCancel");
+    EXPECT_EQ(indirizzo(), server + "\r\n");
+    EXPECT_EQ(fonti.calls(), registrazioni(conNome(companyName()), "Tlv_Server", companyName()));
 }
 
 } // namespace

@@ -98,6 +98,8 @@ TEST_P(BoxOfALongText, StaysOnTheScreenWithTheWholeTextInIt) {
             EXPECT_TRUE(wholeInSight || text->height() >= box.screen()->availableSize().height() / 3)
                 << "as much of it as there is room for";
             EXPECT_TRUE(text->isReadOnly());
+            EXPECT_EQ(text->accessibleName(), box.windowTitle());
+            EXPECT_FALSE(box.findChild<QLabel*>("qt_msgbox_label")->isVisible()) << "the text is there once";
             for (const auto* button : dynamic_cast<QMessageBox&>(box).buttons()) {
                 EXPECT_TRUE(isWhollyOnItsScreen(*button)) << button->text().toStdString();
             }

@@ -151,6 +151,7 @@ TEST_F(RegistraCampi, LineBreaksPastedIntoTheFieldsDoNotReachThePointerFiles) {
             metti(nome, prima);
         }
     }
+    elenco("cboDrivers").setEditText("SQL Server\n");
     metti("txtServer", campi().Server + "\n");
     premi("cmdCancel");
     EXPECT_EQ(indirizzo(), server + "\r\n");

@@ -141,6 +141,17 @@ TEST_F(BranchForm, WithoutItsTableItIsToldAndTheListIsEmpty) {
     EXPECT_EQ(gui.form(form).windowTitle(), "Tlv - Aldane Works Software Solutions - Ver.Nr. 1.2.3");
 }
 
+TEST_F(BranchForm, ABranchWithoutAKeyEndsTheListThereAndIsTold) {
+    scrivi("drop table ElencoSedi");
+    scrivi("create table ElencoSedi (IdSede int null, città nvarchar(50) null, IdStato int null, idDatainvio datetime "
+           "null)");
+    scrivi("insert into ElencoSedi (IdSede, città) values (4, 'Asti'), (null, 'Bari'), (5, 'Como')");
+    script.expectMessage("Invalid use of Null");
+    apri();
+    EXPECT_TRUE(script.allShown());
+    EXPECT_THAT(voci(), testing::ElementsAre("Asti   -   "));
+}
+
 TEST_F(BranchForm, ClosesBackToWhatOpenedItAndForgetsItsBranch) {
     apri();
     prendi(kSede);

@@ -50,7 +50,11 @@ void fillRoomOfIcon(QMessageBox& box) {
     }
 }
 
-constexpr int kTextWidth = 500; ///< of a text that is scrolled, for which the buttons must stay on the screen
+/// Of a text that is scrolled: icon, margins and buttons must find room beside it on a small screen too.
+int textWidth(const QMessageBox& box) {
+    constexpr int kUsual = 500;
+    return std::min(kUsual, box.screen()->availableGeometry().width() * 2 / 3);
+}
 
 int mostTextHeight(const QMessageBox& box) {
     return box.screen()->availableGeometry().height() / 2;
@@ -58,9 +62,10 @@ int mostTextHeight(const QMessageBox& box) {
 
 /// Whether a box's own label would grow higher than half the screen, or cut off a word that is too long for a line.
 bool needsScrolling(const QMessageBox& box, const QLabel& label) {
+    const int width = textWidth(box);
     const QRect all =
-        label.fontMetrics().boundingRect(QRect(0, 0, kTextWidth, QWIDGETSIZE_MAX), Qt::TextWordWrap, label.text());
-    return all.width() > kTextWidth || all.height() > mostTextHeight(box);
+        label.fontMetrics().boundingRect(QRect(0, 0, width, QWIDGETSIZE_MAX), Qt::TextWordWrap, label.text());
+    return all.width() > width || all.height() > mostTextHeight(box);
 }
 
 /// What the field needs for its whole text, where that is less than a screen.
@@ -71,7 +76,7 @@ int wrappedHeight(const QPlainTextEdit& field) {
     option.setWrapMode(field.wordWrapMode());
     text.setDefaultTextOption(option);
     text.setDefaultFont(field.font());
-    text.setTextWidth(kTextWidth - field.style()->pixelMetric(QStyle::PM_ScrollBarExtent));
+    text.setTextWidth(field.width() - field.style()->pixelMetric(QStyle::PM_ScrollBarExtent));
     const int spare = field.fontMetrics().lineSpacing() / 2; // or the field scrolls by a few pixels
     return static_cast<int>(std::ceil(text.size().height())) + 2 * field.frameWidth() + spare;
 }
@@ -84,7 +89,7 @@ void showScrolled(QMessageBox& box, QLabel& label) {
     text->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
     text->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     text->setWordWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
-    text->setFixedWidth(kTextWidth);
+    text->setFixedWidth(textWidth(box));
     const int wanted = wrappedHeight(*text);
     const int most = mostTextHeight(box);
     text->setFixedHeight(std::min(wanted, most));

@@ -6,10 +6,19 @@
 
 #include <QApplication>
 #include <QDialogButtonBox>
+#include <QFontMetrics>
 #include <QGridLayout>
 #include <QInputDialog>
+#include <QLabel>
 #include <QMessageBox>
+#include <QPlainTextEdit>
 #include <QPushButton>
+#include <QScreen>
+#include <QStyle>
+#include <QTextDocument>
+
+#include <algorithm>
+#include <cmath>
 
 namespace controls {
 
@@ -41,6 +50,55 @@ void fillRoomOfIcon(QMessageBox& box) {
     }
 }
 
+/// Of a text that is scrolled: icon, margins and buttons must find room beside it on a small screen too.
+int textWidth(const QMessageBox& box) {
+    constexpr int kUsual = 500;
+    return std::min(kUsual, box.screen()->availableGeometry().width() * 2 / 3);
+}
+
+int mostTextHeight(const QMessageBox& box) {
+    return box.screen()->availableGeometry().height() / 2;
+}
+
+/// Whether a box's own label would grow higher than half the screen, or cut off a word that is too long for a line.
+bool needsScrolling(const QMessageBox& box, const QLabel& label) {
+    const int width = textWidth(box);
+    const QRect all =
+        label.fontMetrics().boundingRect(QRect(0, 0, width, QWIDGETSIZE_MAX), Qt::TextWordWrap, label.text());
+    return all.width() > width || all.height() > mostTextHeight(box);
+}
+
+/// What the field needs for its whole text, where that is less than a screen.
+int wrappedHeight(const QPlainTextEdit& field) {
+    constexpr int kMostLetters = 10000; // more than a screen holds
+    QTextDocument text(field.toPlainText().left(kMostLetters));
+    QTextOption option;
+    option.setWrapMode(field.wordWrapMode());
+    text.setDefaultTextOption(option);
+    text.setDefaultFont(field.font());
+    text.setTextWidth(field.width() - field.style()->pixelMetric(QStyle::PM_ScrollBarExtent));
+    const int spare = field.fontMetrics().lineSpacing() / 2; // or the field scrolls by a few pixels
+    return static_cast<int>(std::ceil(text.size().height())) + 2 * field.frameWidth() + spare;
+}
+
+/// The text in the label's place, wrapped wherever it must be, as high as it needs to be up to half the screen.
+void showScrolled(QMessageBox& box, QLabel& label) {
+    auto* text = new QPlainTextEdit(label.text(), &box);
+    text->setObjectName(QStringLiteral("scrolledText"));
+    text->setAccessibleName(box.windowTitle());
+    text->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
+    text->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    text->setWordWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
+    text->setFixedWidth(textWidth(box));
+    const int wanted = wrappedHeight(*text);
+    const int most = mostTextHeight(box);
+    text->setFixedHeight(std::min(wanted, most));
+    // Not as needed: the field notices late that a single paragraph is longer than itself.
+    text->setVerticalScrollBarPolicy(wanted > most ? Qt::ScrollBarAlwaysOn : Qt::ScrollBarAlwaysOff);
+    label.hide();
+    box.layout()->replaceWidget(&label, text);
+}
+
 /// Shows a box with its buttons; true when the first one was chosen.
 bool ask(const std::string& text, QMessageBox::Icon icon, const QStringList& captions,
          Leaving leaving = Leaving::ByEscToo) {
@@ -65,6 +123,10 @@ bool ask(const std::string& text, QMessageBox::Icon icon, const QStringList& cap
         box.setEscapeButton(buttons.last());
     } else {
         box.setWindowFlags(Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint);
+    }
+    if (auto* label = box.findChild<QLabel*>(QStringLiteral("qt_msgbox_label"));
+        label != nullptr && needsScrolling(box, *label)) {
+        showScrolled(box, *label);
     }
     box.exec();
     return box.clickedButton() == buttons.first();

@@ -23,6 +23,12 @@ bool Prova(const std::string& stringa) {
     return ConnessioneValida(stringa);
 }
 
+/// Without the line breaks that a pasted text may have: a pointer file is one line.
+std::string UnaRiga(std::string testo) {
+    std::erase_if(testo, [](char c) { return c == '\r' || c == '\n'; });
+    return testo;
+}
+
 void VaiA(QWidget& campo) {
     campo.setEnabled(true);
     campo.setFocus(Qt::TabFocusReason);
@@ -92,11 +98,11 @@ void FormRegistraAziendeNeiDns::MostraCampi(const CampiAzienda& campi) {
 }
 
 CampiAzienda FormRegistraAziendeNeiDns::Campi() const {
-    return {.Driver = ui_->cboDrivers->currentText().toStdString(),
-            .Server = ui_->txtServer->Text(),
+    return {.Driver = UnaRiga(ui_->cboDrivers->currentText().toStdString()),
+            .Server = UnaRiga(ui_->txtServer->Text()),
             .Database = ui_->txtDatabase->Text(),
-            .Utente = ui_->txtUID->Text(),
-            .Password = ui_->txtPWD->Text(),
+            .Utente = UnaRiga(ui_->txtUID->Text()),
+            .Password = UnaRiga(ui_->txtPWD->Text()),
             .Fonte = ui_->Nome_Odbc->Text(),
             .Azienda = ui_->Nome_Az->Text()};
 }

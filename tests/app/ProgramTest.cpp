@@ -27,4 +27,14 @@ TEST(Program, RunsUntilItIsTerminated) {
     EXPECT_EQ(program.finish(), -1) << "ended by the signal alone";
 }
 
+TEST(Program, StandsWithItsHiddenStartFormWhenTheLastFormIsClosed) {
+    const support::TestWorkstation workstation;
+    support::HelperProcess program(
+        "program_probe", {},
+        {{"VABO_DRIVE_C", workstation.driveC().root().string()}, {"QT_QPA_PLATFORM", "offscreen"}});
+    EXPECT_EQ(program.readLine(), "closed");
+    EXPECT_EQ(program.readLine(), "running with the start form");
+    EXPECT_EQ(program.finish(), 0);
+}
+
 } // namespace

@@ -96,6 +96,16 @@ TEST_F(VerDbTest, WithoutALocalServerItGivesZeroInSilence) {
     EXPECT_EQ(VerDb(), 0);
 }
 
+TEST_F(VerDbTest, WithoutTheFolderOfTheTemporaryDatabaseItGivesZeroInSilence) {
+    std::filesystem::remove_all(workstation.driveC().real("C:\\vabo\\sedi"));
+    const support::StatementRecorder recorder;
+    EXPECT_EQ(VerDb(1), 0);
+    EXPECT_EQ(VerDb(), 0);
+    EXPECT_FALSE(recorder.holding("CREATE DATABASE [VaBoDatiTemp]").empty()) << "it was tried";
+    EXPECT_EQ(workstation.value("master", "select count(*) from sysdatabases where name = 'VaBoDatiTemp'"), "0");
+    EXPECT_FALSE(DbTemp.IsOpen());
+}
+
 TEST_F(VerDbTest, ATextThatIsNoNumberRecordsZero) {
     EXPECT_EQ(VerDb("due"), 0);
     EXPECT_EQ(recorded(), (Rows{{"1", "0"}}));
@@ -149,6 +159,11 @@ TEST_F(BalanceDate, WithoutADateIsTheLastDayOf1990) {
     balance("null");
     EXPECT_EQ(LeggiDataBilancioProgetto(), Date::of(1990, 12, 31));
     EXPECT_EQ(LeggiPrimoGennaio(), Date::of(1991, 1, 1));
+}
+
+TEST_F(BalanceDate, ADateOfZerosCountsAsNone) {
+    balance("'18991230'");
+    EXPECT_EQ(LeggiDataBilancioProgetto(), Date::of(1990, 12, 31));
 }
 
 TEST_F(BalanceDate, WithoutTheProjectIsTheLastDayOf1990) {

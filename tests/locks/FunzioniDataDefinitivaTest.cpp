@@ -70,6 +70,16 @@ TEST_F(LockQueries, TheBalanceDateRaisesWhereItCanNotBeReadAndLeavesItsRecordset
     EXPECT_THROW(LeggiDataBilancio(), ado::Error);
 }
 
+TEST_F(LockQueries, EmptyTablesOfTheSystemsAccountsGiveZerosAndRaiseNothing) {
+    esegui("delete from TabellaContiUtili");
+    esegui("delete from TabellaContiUtiliTransfersHq");
+    for (const auto leggi : {ContoHq2, ContoHq1, Conto18, Conto19, Conto27, Conto29, Conto1, Conto2, Conto5}) {
+        EXPECT_EQ(leggi(), 0);
+    }
+    EXPECT_THAT(conti(), testing::Each(0));
+    EXPECT_THAT(gruppi(), testing::Each(0));
+}
+
 TEST_F(LockQueries, TheBalanceDateIsReadWhileTheOtherSharedRecordsetsAreOpen) {
     for (int posto = 1; posto <= RecordsetCondivisi::kNumero; ++posto) {
         if (posto != 5) {

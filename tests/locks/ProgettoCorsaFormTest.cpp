@@ -142,6 +142,22 @@ TEST_F(ProjectForm, WhatTheUserDoesDuringARunIsDropped) {
     EXPECT_EQ(gui.visibleForms(), "Avvio_Morlan");
 }
 
+TEST_F(ProjectForm, ACounterTableWithoutARowReopensNothingAndTheOtherPassesRun) {
+    metti({{.id = 1, .transazione = alle("2024-05-02"), .report = {}, .definito = -1},
+           {.id = 2, .numero = 2, .transazione = alle("2024-05-02"), .report = alle("2024-03-31")}});
+    esegui("delete from contatorepd");
+    apri();
+    prendi(kProgetto);
+    digita("30/04/2024");
+    const support::StatementRecorder recorder;
+    premi("Command1");
+    EXPECT_TRUE(recorder.holding("set definito =0").empty());
+    EXPECT_EQ(dataDelProgetto(), alle("2024-04-30"));
+    EXPECT_EQ(lettura("select definito from partitadoppia order by idautonumber"),
+              (std::vector<std::string>{"-1", "-1"}));
+    aspettaVuota();
+}
+
 TEST_F(ProjectForm, ARunWithoutALedgerSaysNothingAndLeavesTheFormReady) {
     apri();
     prendi(kProgetto);

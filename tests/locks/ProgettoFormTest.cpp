@@ -134,6 +134,18 @@ TEST_F(ProjectForm, WithoutItsTableItIsToldAndTheListIsEmpty) {
     EXPECT_EQ(gui.visibleForms(), "Avvio_Morlan");
 }
 
+TEST_F(ProjectForm, AProjectWithoutAKeyEndsTheListThereAndIsTold) {
+    scrivi("drop table progetti");
+    scrivi("create table progetti (id int null, titolobreve nvarchar(50) null, iddate datetime null)");
+    scrivi("insert into progetti (id, titolobreve) values (10000003, 'Acqua'), (null, 'Boschi'), (10000004, 'Campi')");
+    script.expectMessage("Invalid use of Null");
+    apri();
+    EXPECT_TRUE(script.allShown());
+    EXPECT_EQ(elenco().count(), 1);
+    prendi(kProgetto);
+    EXPECT_EQ(IdProgettoScelto, kProgetto) << "those ahead of it can be used";
+}
+
 TEST_F(ProjectForm, TheKeyboardAloneDoesItAll) {
     metti({{.id = 1, .transazione = alle("2023-05-02"), .report = alle("2023-05-02")}});
     apri();

@@ -143,6 +143,25 @@ TEST_F(BranchForm, AFailureIsToldAndTheFormStandsReadyForASecondRun) {
     aspettaVuota();
 }
 
+TEST_F(BranchForm, ACounterTableWithoutARowStopsTheDateAndTheRunInTheirWords) {
+    constexpr const char* kSenzaRiga = "Either BOF or EOF is True, or the current record has been deleted. Requested "
+                                       "operation requires a current record.";
+    metti({{.id = 1, .transazione = alle("2023-05-02")}});
+    const auto prima = letto();
+    esegui("delete from contatorepd");
+    apri();
+    prendi(kSede);
+    script.expectMessage(kSenzaRiga);
+    gui.press(Qt::Key_Return);
+    EXPECT_EQ(fuoco(), "DataInizio");
+    script.expectQuestion(domanda("31/03/2024"), true);
+    script.expectMessage(kSenzaRiga);
+    premi("Command1");
+    EXPECT_TRUE(script.allShown());
+    EXPECT_EQ(letto(), prima);
+    EXPECT_EQ(elenco().ItemData(), kSede);
+}
+
 TEST_F(BranchForm, WithoutTheBalanceADateCanNotBeCompared) {
     scrivi("drop table contatorepd");
     apri();

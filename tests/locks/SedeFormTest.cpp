@@ -51,6 +51,17 @@ TEST_F(BranchForm, ABranchWithoutADateLeavesTheTextAsItIs) {
     prendi(1);
     EXPECT_EQ(testo(), "31/03/2024") << "the one of the branch before";
     EXPECT_EQ(fuoco(), "DataInizio");
+    EXPECT_TRUE(tuttoScelto()) << "as in every field that gets the focus";
+    EXPECT_FALSE(RsCondivisi(1).IsOpen());
+}
+
+TEST_F(BranchForm, ABranchDeletedMeanwhileLeavesTheTextAsItIs) {
+    apri();
+    prendi(kSede);
+    esegui("delete from ElencoSedi where IdSede = 1");
+    prendi(1);
+    EXPECT_EQ(testo(), "31/03/2024");
+    EXPECT_TRUE(tuttoScelto());
 }
 
 TEST_F(BranchForm, TheDateIsReadWheneverTheFocusComesBack) {
@@ -128,6 +139,17 @@ TEST_F(BranchForm, WithoutItsTableItIsToldAndTheListIsEmpty) {
     EXPECT_EQ(elenco().count(), 0);
     EXPECT_EQ(elenco().Text(), "Seleziona");
     EXPECT_EQ(gui.form(form).windowTitle(), "Tlv - Aldane Works Software Solutions - Ver.Nr. 1.2.3");
+}
+
+TEST_F(BranchForm, ABranchWithoutAKeyEndsTheListThereAndIsTold) {
+    scrivi("drop table ElencoSedi");
+    scrivi("create table ElencoSedi (IdSede int null, città nvarchar(50) null, IdStato int null, idDatainvio datetime "
+           "null)");
+    scrivi("insert into ElencoSedi (IdSede, città) values (4, 'Asti'), (null, 'Bari'), (5, 'Como')");
+    script.expectMessage("Invalid use of Null");
+    apri();
+    EXPECT_TRUE(script.allShown());
+    EXPECT_THAT(voci(), testing::ElementsAre("Asti   -   "));
 }
 
 TEST_F(BranchForm, ClosesBackToWhatOpenedItAndForgetsItsBranch) {

@@ -147,6 +147,15 @@ TEST_F(AbilitazioneUtente, TheThirdFailureShowsOneMessageAndTheFourthTwoAndClose
     EXPECT_EQ(forms.calls(), std::vector<std::string>{"unload About"});
 }
 
+TEST_F(AbilitazioneUtente, EveryFailureBehindTheFourthShowsBothToo) {
+    TentativiLogin = 4;
+    expectRefusal();
+    script.expectMessage("Non è possibile riprovare! ");
+    CaricaAbilitazione("contabile", "sbagliata");
+    EXPECT_EQ(TentativiLogin, 5);
+    EXPECT_EQ(forms.calls(), std::vector<std::string>{"unload About"});
+}
+
 TEST_F(AbilitazioneUtente, AnApostropheInTheNameSurfacesAsAnErrorOfTheDatabase) {
     DirittiUtente = kDirittiPrimaDelLogin;
     EXPECT_THROW(CaricaAbilitazione("o'brien", "x"), ado::Error);
@@ -187,6 +196,34 @@ TEST_P(NullRight, GoesIntoNoFlagAndChangesNothing) {
 }
 
 INSTANTIATE_TEST_SUITE_P(AbilitazioneUtente, NullRight, testing::ValuesIn(kColumns), columnName);
+
+/// The table as another program might have created it: its flags are numbers.
+class NumberRight : public OneRight {
+protected:
+    NumberRight() {
+        workstation.run(kCompany, "drop table AbilitazioneAccessi");
+        workstation.run(kCompany,
+                        "create table AbilitazioneAccessi (idautonumber int identity(1,1) not null, NomeUtente "
+                        "nvarchar(25) null, PaswUtente nvarchar(12) null, Administrator int null, A_Inserisci int "
+                        "null, A_Cancella int null, A_Iva int null, A_Bilancio int null, A_Personale int null, "
+                        "A_ArchivioStoria int null, A_PFinanza int null, A_Synchro int null, A_EmettiPagamenti int "
+                        "null, A_Progetta int null, Disabilita int null)");
+        workstation.run(kCompany, "insert into AbilitazioneAccessi values ('contabile', 'estate24', 0, 0, 0, 0, 0, 0, "
+                                  "0, 0, 0, 0, 0, 0)");
+    }
+};
+
+TEST_P(NumberRight, IsTrueWhateverTheNumberButZero) {
+    for (const char* number : {"2", "-1", "1", "256", "65536"}) {
+        setFlags(std::string(GetParam().name) + " = " + number);
+        CaricaAbilitazione("contabile", "estate24");
+        Diritti expected;
+        expected.*GetParam().flag = kVero;
+        EXPECT_EQ(DirittiUtente, expected) << number;
+    }
+}
+
+INSTANTIATE_TEST_SUITE_P(AbilitazioneUtente, NumberRight, testing::ValuesIn(kColumns), columnName);
 
 TEST_F(AbilitazioneUtente, ANullNameOrPasswordIsFoundByNobody) {
     workstation.run(kCompany, "insert into AbilitazioneAccessi (NomeUtente, PaswUtente) values (null, 'x1')");

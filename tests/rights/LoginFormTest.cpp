@@ -162,6 +162,11 @@ TEST_F(UtentiForm, TheFormAndItsControlsHaveTheirHelpTopics) {
     for (const char* controllo : {"DataGrid1", "txtNomeUtente", "txtA_PFinanza", "cmdClose"}) {
         EXPECT_EQ(pagina.control(controllo).property("HelpContextID"), 60) << controllo;
     }
+    const auto tutti = gui.form("Login").findChildren<QWidget*>();
+    EXPECT_GT(tutti.size(), 30);
+    for (const auto* controllo : tutti) {
+        EXPECT_EQ(controllo->property("HelpContextID"), 60) << controllo->objectName().toStdString();
+    }
 }
 
 TEST_F(UtentiForm, AdministratorsComeLastAndEachGroupGoesByName) {

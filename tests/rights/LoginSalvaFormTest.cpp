@@ -66,6 +66,17 @@ TEST_F(LoginSalva, ANewUserHasNoPasswordYetAndTheLoginAsksForOne) {
     EXPECT_EQ(utente, 5);
 }
 
+// The cleaner runs ahead of the trimming, so a blank behind the name has become an underscore by then.
+TEST_F(LoginSalva, ANameWithABlankBehindItIsStoredInSmallLettersWithoutTheBlank) {
+    apri();
+    for (const auto& [digitato, salvato] : {std::pair{"MARIO ", "mario_"}, std::pair{"Anna  ", "anna__"}}) {
+        nuovo(digitato);
+        premi("Command1");
+        premi("cmdUpdate");
+        EXPECT_EQ(tabella().back()[1], salvato);
+    }
+}
+
 TEST_F(LoginSalva, APickedUserIsChangedAndKeepsItsPassword) {
     apri();
     const auto prima = tabella();

@@ -270,4 +270,15 @@ TEST_F(ApriAziendaTest, ACompanyWithoutADatabaseAndALocalFileKeepsThePathBefore)
     EXPECT_EQ(PercorsoFileLocale, "C:\\Vabo\\Files\\tlv_locale_sql.mdb");
 }
 
+TEST_F(ApriAziendaTest, AFolderOfLocalFilesThatCanNotBeMadeIsSkipped) {
+    const std::filesystem::path folder = workstation.driveC().real("C:\\vabo\\Files");
+    std::filesystem::remove_all(folder);
+    std::ofstream(folder) << "a file in the folder's place";
+    double id = idOf(kCompany);
+    ApriAzienda(id);
+    EXPECT_EQ(CartellaFile, "C:\\Vabo\\Files");
+    EXPECT_TRUE(DbAzienda.IsOpen());
+    EXPECT_EQ(NomeDatabase, kCompany);
+}
+
 } // namespace

@@ -79,6 +79,16 @@ TEST_P(PointerFile, OfTheServerLeavesACompanyThatIsAskedForUnopened) {
     EXPECT_FALSE(DbAzienda.IsOpen());
 }
 
+TEST_P(PointerFile, OfTheServersNameLeavesACompanyThatIsAskedForUnopened) {
+    double id = idOf(support::kCompany);
+    NomeDatabase = "prima";
+    damage("C:\\vabo\\NomeServer.txt");
+    script.expectMessage("Non è possibile caricare il DataBase");
+    EXPECT_TRUE(end.endedBy([&] { ApriAzienda(id); }));
+    EXPECT_EQ(NomeDatabase, "prima");
+    EXPECT_FALSE(DbAzienda.IsOpen());
+}
+
 TEST_P(PointerFile, OfTheLocalTextGivesTheDefault) {
     damage("C:\\vabo\\Leggi_ServerLocal.txt");
     EXPECT_EQ(Leggi_ServerLocal(), "Driver=SQL Server;Server=POSTO_7\\sqlexpress;ID utente=;Password=;");

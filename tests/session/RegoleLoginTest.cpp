@@ -170,6 +170,14 @@ TEST_F(RegoleLogin, TheFourthFailureSaysThatItIsOver) {
     EXPECT_TRUE(ContaTentativo());
 }
 
+TEST_F(RegoleLogin, EveryFailureBehindTheFourthSaysSoToo) {
+    TentativiLogin = 4;
+    script.expectMessage("User not allowed! ");
+    script.expectMessage("It is no more possible to try! ");
+    EXPECT_TRUE(ContaTentativo());
+    EXPECT_EQ(TentativiLogin, 5);
+}
+
 TEST_F(RegoleLogin, ACountedFailureClosesTheSharedRecordsets) {
     RsCondivisi(4).Open("select * from Sede", DbAzienda);
     script.expectMessage("User not allowed! ");

@@ -7,6 +7,7 @@
 
 #include <gtest/gtest.h>
 
+#include <stdexcept>
 #include <string>
 #include <vector>
 
@@ -156,6 +157,27 @@ TEST_F(TreatForms, AFormThatDoesNotExistIsNotRemembered) {
     expectStack({"Avvio_Azienda"});
     EXPECT_TRUE(ApriForm("Avvio_Morlan", true));
     expectStack({"Avvio_Azienda", "Avvio_Morlan"});
+}
+
+/// A host whose forms can't be brought back.
+class FailingForms : public support::RecordedForms {
+public:
+    bool makeVisible(std::string_view name) override {
+        RecordedForms::makeVisible(name);
+        throw std::runtime_error("no window for it");
+    }
+};
+
+TEST_F(TreatForms, AFormThatCanNotBeBroughtBackIsPassedOver) {
+    FailingForms failing;
+    PilaForm = {"Avvio_Azienda", "Avvio_Morlan", "stati"};
+    CimaForm = 2;
+    EXPECT_NO_THROW(ChiudiForm());
+    expectStack({"Avvio_Azienda", "Avvio_Morlan"});
+    EXPECT_NO_THROW(ChiudiForm());
+    expectStack({"Avvio_Azienda"});
+    EXPECT_EQ(failing.calls(), (Names{"makeVisible Avvio_Morlan", "makeVisible Avvio_Azienda"}));
+    platform::setFormHost(&forms);
 }
 
 TEST_F(TreatForms, FormInCimaLooksAtTheTopAlone) {

@@ -136,11 +136,11 @@ TEST_F(FormCondizioni, APickedRowIsShownInTheFields) {
 TEST_F(FormCondizioni, LargeKeysEnterTheFiltersInPlainDigits) {
     esegui("drop table CondizioniPagamentoDecorrenza create table CondizioniPagamentoDecorrenza (IDDecorrenza int, "
            "Descrizione nvarchar(255))");
-    esegui("insert into CondizioniPagamentoDecorrenza values (1000000, 'Regola lontana'), (2, 'Fine mese')");
+    esegui("insert into CondizioniPagamentoDecorrenza values (1234567, 'Regola lontana'), (2, 'Fine mese')");
     esegui("drop table CondizioniPagamentoTipoIncasso create table CondizioniPagamentoTipoIncasso (IdTipoRimessa int, "
            "Descrizione nvarchar(50))");
-    esegui("insert into CondizioniPagamentoTipoIncasso values (2000000, 'Tipo lontano'), (2, 'Bonifico bancario')");
-    esegui("update CondizioniPagamento set IDDecorrenza = 1000000, IdTipoRimessa = 2000000 where IDPagamento = 4");
+    esegui("insert into CondizioniPagamentoTipoIncasso values (7654321, 'Tipo lontano'), (2, 'Bonifico bancario')");
+    esegui("update CondizioniPagamento set IDDecorrenza = 1234567, IdTipoRimessa = 7654321 where IDPagamento = 4");
     apri();
     scegli(4);
     EXPECT_EQ(decorrenza(), "Regola lontana");

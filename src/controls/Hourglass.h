@@ -13,4 +13,11 @@ public:
     ~Hourglass() { QGuiApplication::restoreOverrideCursor(); }
 };
 
+/// Restores the default pointer, however many hourglasses are shown.
+inline void restoreDefaultPointer() {
+    while (QGuiApplication::overrideCursor() != nullptr) {
+        QGuiApplication::restoreOverrideCursor();
+    }
+}
+
 } // namespace controls

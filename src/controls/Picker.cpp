@@ -22,6 +22,17 @@ Picker::Picker(DataCombo& combo, DataControl& list, const char* textField, const
 
 void Picker::load(const std::string& connection, const std::string& source) {
     list_->load(connection, source);
+    fill();
+}
+
+void Picker::read(const std::string& connection, const std::string& source) {
+    combo_->setRowSource(nullptr);
+    combo_->ReFill();
+    list_->load(connection, source);
+}
+
+void Picker::fill() {
+    combo_->setRowSource(list_);
     combo_->ReFill();
     combo_->Refresh();
 }

@@ -22,6 +22,10 @@ public:
 
     /// Reads the list again; the text in the field stays.
     void load(const std::string& connection, const std::string& source);
+    /// `load` in two steps, where several lists are to be read before any combo is filled. In between, and where the
+    /// list can't be read, the combo's list is empty.
+    void read(const std::string& connection, const std::string& source);
+    void fill();
     /// From now on the key Delete clears text and key, in the field and in the list of the search.
     void clearWithDelete();
 

@@ -16,6 +16,8 @@ public:
     void start(int milliseconds) { timer_.start(milliseconds); }
     void stop() { timer_.stop(); }
     bool isOn() const { return timer_.isActive(); }
+    /// In milliseconds.
+    int Interval() const { return timer_.interval(); }
 
 signals:
     void Tick();

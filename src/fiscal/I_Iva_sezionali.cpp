@@ -2,7 +2,9 @@
 
 #include "ado/Conversions.h"
 #include "ado/Text.h"
+#include "controls/DataControl.h"
 #include "controls/DataGrid.h"
+#include "controls/Hourglass.h"
 #include "controls/ItemCombo.h"
 #include "controls/TextBox.h"
 #include "fiscal/SezionaliIva.h"
@@ -68,6 +70,7 @@ void I_Iva_sezionali::CollegaCampi() {
            {ui_->AreaAttività, EndOfEntry::EnterOrTab, avanti(ui_->AreaAttività, ui_->NSezionale)},
            {ui_->NSezionale, EndOfEntry::EnterOrTab, [this] { SalvaRecord(); }}});
     on(ui_->DataGrid1, &controls::DataGrid::RowPicked, [this] { MostraRecord(); });
+    on(ui_->IvaSezionale, &controls::DataControl::moved, [this] { MostraPosizione(); });
 }
 
 void I_Iva_sezionali::CollegaComandi() {
@@ -106,12 +109,19 @@ void I_Iva_sezionali::FormattaGriglia() {
 void I_Iva_sezionali::Rileggi() {
     ui_->IvaSezionale->Refresh();
     FormattaGriglia();
+    MostraPosizione();
+}
+
+// Empty where the list stands on no row.
+void I_Iva_sezionali::MostraPosizione() {
+    const long posizione = ui_->IvaSezionale->Recordset().AbsolutePosition();
+    ui_->didascalia->setText(posizione > 0 ? QStringLiteral("Record: ") + QString::number(posizione) : QString());
 }
 
 // A field keeps what it shows where the section has nothing for it.
 void I_Iva_sezionali::MostraRecord() {
     ado::Recordset& rs = ui_->IvaSezionale->Recordset();
-    ui_->didascalia->setText(QStringLiteral("Record: ") + QString::number(rs.AbsolutePosition()));
+    MostraPosizione();
     const ado::Value chiave = rs["IdAutonumber"];
     if (IsEmptyValue(chiave)) {
         return;
@@ -155,6 +165,7 @@ void I_Iva_sezionali::Elimina() {
 }
 
 void I_Iva_sezionali::Unload() {
+    controls::restoreDefaultPointer();
     ChiudiForm();
 }
 

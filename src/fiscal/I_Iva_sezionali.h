@@ -29,6 +29,7 @@ private:
     void CollegaComandi();
     void FormattaGriglia();
     void Rileggi();
+    void MostraPosizione();
     void MostraRecord();
     void PulisciCampi();
     CampiSezionale Campi() const;

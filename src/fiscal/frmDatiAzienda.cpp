@@ -2,6 +2,7 @@
 
 #include "ado/Conversions.h"
 #include "controls/DataCombo.h"
+#include "controls/Hourglass.h"
 #include "controls/ItemCombo.h"
 #include "controls/Picker.h"
 #include "controls/TextBox.h"
@@ -197,6 +198,7 @@ void frmDatiAzienda::Activate() {
 }
 
 void frmDatiAzienda::Unload() {
+    controls::restoreDefaultPointer();
     ChiudiForm();
 }
 

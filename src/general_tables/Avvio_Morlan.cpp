@@ -49,13 +49,15 @@ void Avvio_Morlan::CollegaComandi() {
        [] { StampaReportAccess(PercorsoFileLocale, "AccessoMorlan", kAnteprima); });
 }
 
-// An error while the first two lists load is shown and ends the load; the general switches stay unread then. After the
-// lists failing statements are skipped.
+// An error while the first two lists load is shown and ends the load; the general switches stay unread then, and
+// neither combo is filled where one list can't be read. After the lists failing statements are skipped.
 void Avvio_Morlan::Load() {
     CaricaTassiEBadge();
     if (!controls::guarded([this] {
-            contoUtile_->load(StringaAzienda, ElencoContiUtili());
-            altroConto_->load(StringaAzienda, ElencoAltriConti());
+            contoUtile_->read(StringaAzienda, ElencoContiUtili());
+            altroConto_->read(StringaAzienda, ElencoAltriConti());
+            contoUtile_->fill();
+            altroConto_->fill();
         })) {
         return;
     }

@@ -230,6 +230,7 @@ void frmComuni::ScriviNuovo() {
 }
 
 void frmComuni::Unload() {
+    controls::restoreDefaultPointer();
     ChiudiForm();
 }
 

@@ -3,6 +3,7 @@
 #include "ado/Conversions.h"
 #include "controls/DataCombo.h"
 #include "controls/DataGrid.h"
+#include "controls/Hourglass.h"
 #include "controls/TextBox.h"
 #include "geography/ControllaData.h"
 #include "geography/TabellaStati.h"
@@ -204,6 +205,7 @@ void stati::Chiudi() {
 }
 
 void stati::Unload() {
+    controls::restoreDefaultPointer();
     ChiudiForm();
 }
 

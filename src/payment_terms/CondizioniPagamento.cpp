@@ -4,6 +4,7 @@
 #include "controls/DataCombo.h"
 #include "controls/DataControl.h"
 #include "controls/DataGrid.h"
+#include "controls/Hourglass.h"
 #include "controls/ItemCombo.h"
 #include "controls/Picker.h"
 #include "controls/TextBox.h"
@@ -215,6 +216,7 @@ void CondizioniPagamento::SalvaRecord() {
 }
 
 void CondizioniPagamento::Unload() {
+    controls::restoreDefaultPointer();
     ChiudiForm();
 }
 

@@ -2,6 +2,7 @@
 
 #include "ado/Conversions.h"
 #include "controls/DataGrid.h"
+#include "controls/Hourglass.h"
 #include "controls/ItemCombo.h"
 #include "controls/TextBox.h"
 #include "kit/Regole.h"
@@ -152,6 +153,7 @@ void CondizioniPagamentoDecorrenza::SalvaRecord() {
 }
 
 void CondizioniPagamentoDecorrenza::Unload() {
+    controls::restoreDefaultPointer();
     ChiudiForm();
 }
 

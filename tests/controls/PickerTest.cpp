@@ -59,6 +59,19 @@ TEST_F(Picker, APickGivesTheKeyOfItsRow) {
     EXPECT_EQ(&pickers.at(0)->key(), &pickers.at(1)->key());
 }
 
+TEST_F(Picker, AListThatIsOnlyReadFillsItsComboLater) {
+    const int all = combo().count();
+    ASSERT_GT(all, 0);
+    pickers.at(0)->read(source.ConnectionString, source.RecordSource);
+    EXPECT_EQ(combo().count(), 0);
+    pickers.at(0)->fill();
+    EXPECT_EQ(combo().count(), all);
+    EXPECT_THROW(pickers.at(0)->read(source.ConnectionString, "select * from non_esiste"), ado::Error);
+    EXPECT_EQ(combo().count(), 0);
+    pickers.at(0)->load(source.ConnectionString, source.RecordSource);
+    EXPECT_EQ(combo().count(), all);
+}
+
 TEST_F(Picker, APickWhileTheFormIsDisabledOrABoxIsOpenIsNone) {
     key = 7;
     const int row = combo().findText("Albicocca");

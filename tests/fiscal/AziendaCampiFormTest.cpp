@@ -95,12 +95,14 @@ TEST_F(AziendaForm, TabReachesWhatTheOrderOfEntryLeavesOut) {
     EXPECT_EQ(fuoco(), "statooprovincia");
 }
 
+const Testi kNonNumeri = {"", " ", "x", "1234A", "0x1", "1;2", "''", "--", "\x01", "1\x1b", std::string(4'000, 'x')};
+
 TEST_F(AziendaForm, AbiAndCabAreLeftOnlyAsNumbers) {
     apri();
     const std::pair<const char*, const char*> campi[] = {{"Abi", "Cab"}, {"Cab", "Cin"}};
     for (const auto& [campo, prossimo] : campi) {
         for (const Qt::Key tasto : kTasti) {
-            for (const char* nessuno : {"", " ", "x", "1234A", "0x1", "1;2", "''", "--"}) {
+            for (const std::string& nessuno : kNonNumeri) {
                 metti(campo, nessuno);
                 vaiA(campo);
                 script.expectMessage(kNumerico, platform::Icon::None);
@@ -242,6 +244,21 @@ TEST_F(AziendaForm, APickedStateIsStoredAndTheFocusStays) {
 TEST_F(AziendaForm, ItFitsANarrowScreen) {
     apri();
     EXPECT_LE(gui.form("frmDatiAzienda").minimumSizeHint().width(), 960);
+}
+
+TEST_F(AziendaForm, AClickOnARowOfAListMovesOnAsEnterDoes) {
+    apri();
+    pagina.pickByMouse("DataCombo1", "Aosta");
+    EXPECT_EQ(fuoco(), "cap");
+    EXPECT_EQ(testi({"DataCombo1", "cap", "statooprovincia"}), (Riga{"Aosta", "11100", "AO"}));
+    pagina.pickByMouse("DCPagamento1", "Bonifico bancario a 60 Fine mese");
+    EXPECT_EQ(fuoco(), "DCPagamento2");
+    pagina.pickByMouse("DCPagamento2", "Contanti a  Data fattura");
+    EXPECT_EQ(fuoco(), "codice_fiscale");
+    pagina.pickByMouse("DataCombo2", "Kenya");
+    salva();
+    EXPECT_EQ(colonne("IdIncasso, IDPagamento, IdStato"),
+              (Riga{"5", "1", valore("select IdStato from stati where DescStato = 'Kenya'")}));
 }
 
 } // namespace

@@ -267,8 +267,12 @@ TEST_F(DatiAzienda, ATermIsLookedUpByItsKey) {
     EXPECT_EQ(DescrizioneCondizione(4), "Bonifico bancario a 30 Fine mese");
     EXPECT_EQ(DescrizioneCondizione(99), "");
     EXPECT_EQ(DescrizioneCondizione(0), "");
+    EXPECT_EQ(DescrizioneCondizione(1'000'000), "");
+    EXPECT_EQ(DescrizioneCondizione(2.5), "");
     EXPECT_EQ(recorder.texts(), (Testi{" select Descrizione from CondizioniPagamento Where IDPagamento = 4",
-                                       " select Descrizione from CondizioniPagamento Where IDPagamento = 99"}));
+                                       " select Descrizione from CondizioniPagamento Where IDPagamento = 99",
+                                       " select Descrizione from CondizioniPagamento Where IDPagamento = 1000000",
+                                       " select Descrizione from CondizioniPagamento Where IDPagamento = 2.5"}));
     esegui("drop table CondizioniPagamento");
     EXPECT_EQ(DescrizioneCondizione(4), "");
 }
@@ -277,7 +281,11 @@ TEST_F(DatiAzienda, TheNameOfAStateIsItsSecondColumn) {
     const support::StatementRecorder recorder;
     EXPECT_EQ(NomeStato(1), "Italia");
     EXPECT_EQ(NomeStato(-3), std::nullopt);
-    EXPECT_EQ(recorder.texts(), (Testi{"Select * from stati where idstato=1", "Select * from stati where idstato=-3"}));
+    EXPECT_EQ(NomeStato(1'000'000), std::nullopt);
+    EXPECT_EQ(NomeStato(2.5), std::nullopt);
+    EXPECT_EQ(recorder.texts(),
+              (Testi{"Select * from stati where idstato=1", "Select * from stati where idstato=-3",
+                     "Select * from stati where idstato=1000000", "Select * from stati where idstato=2.5"}));
     esegui("update stati set descstato = null where idstato = 1");
     EXPECT_EQ(NomeStato(1), std::nullopt);
     esegui("drop table stati create table stati (idstato int, codice int)");

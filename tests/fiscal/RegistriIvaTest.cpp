@@ -1,4 +1,4 @@
-// What is done to sections that are there: the liquidation period, the resets, the carry, the deletion.
+// What is done to sections that are there: the liquidation period, the carry, the deletion.
 
 #include "ado/Error.h"
 #include "fiscal/SezionaliAperti.h"
@@ -11,10 +11,6 @@ constexpr const char* kFineAnno = "2024-12-31 00:00:00.000";
 constexpr const char* kRiporto = "Azzero tutti i campi delle liquidazioni mensili,\nMemorizzo il riporto annuale,\n"
                                  "Azzero i contatori dei Registri Iva!\nSei sicuro";
 constexpr const char* kCancellare = "Sei sicuro di voler cancellare ?";
-
-std::string azzero(const std::string& chiave) {
-    return "Azzero i contatori del Sezionale " + chiave + "\nSei sicuro";
-}
 
 /// The number of the error that a command raises.
 template<typename Comando>
@@ -47,99 +43,20 @@ TEST_F(SezionaliAperti, ALiquidationIsThatOfAllSectionsAndOfTheBranchsCounters) 
               (Righe{{"1", "3"}, {"5", "1"}}));
 }
 
+TEST_F(SezionaliAperti, ABranchWithoutCountersGetsNoneByALiquidation) {
+    IdSede = 9;
+    const Righe prima = posto.rows(support::kCompany, "select * from contatorepd");
+    script.expectQuestion("Sei sicuro", true);
+    EXPECT_TRUE(CambiaLiquidazione(1));
+    EXPECT_EQ(ovunque("Liquidazione"), "1 1 1");
+    EXPECT_EQ(posto.rows(support::kCompany, "select * from contatorepd"), prima);
+}
+
 TEST_F(SezionaliAperti, WithoutCountersTheLiquidationOfTheSectionsStays) {
     esegui("drop table contatorepd");
     script.expectQuestion("Sei sicuro", true);
     EXPECT_EQ(errore([] { CambiaLiquidazione(1); }), ado::kObjectMissing);
     EXPECT_EQ(ovunque("Liquidazione"), "1 1 1");
-}
-
-// Resets.
-
-TEST_F(SezionaliAperti, AResetNeedsASection) {
-    const support::StatementRecorder recorder;
-    for (const Registro registro : {Registro::Acquisti, Registro::Vendite}) {
-        script.expectMessage("Selezionare il Sezionale da annullare", platform::Icon::None);
-        EXPECT_FALSE(AzzeraContatori(registro, 0));
-        script.expectQuestion(azzero("2"), false);
-        EXPECT_FALSE(AzzeraContatori(registro, 2));
-    }
-    EXPECT_TRUE(recorder.texts().empty());
-}
-
-TEST_F(SezionaliAperti, PurchasesAreSetBackToTheEndOfTheDefinitiveYear) {
-    const Righe importiPrima = importi(), progressiviPrima = progressivi();
-    const support::StatementRecorder recorder;
-    script.expectQuestion(azzero("2"), true);
-    EXPECT_TRUE(AzzeraContatori(Registro::Acquisti, 2));
-    EXPECT_EQ(recorder.texts().front(), " select * from ivasezionale where id = 2");
-    EXPECT_EQ(scritture(recorder).back(),
-              "UPDATE [IvaSezionale] SET [UltimaDataAcquisti] = CONVERT(DATETIME, '2024-12-31 00:00:00.000', 121), "
-              "[ultimaFatturaAcquisti] = 0, [Ultimaresoacquisti] = 0 WHERE [idautonumber] = 2");
-    EXPECT_EQ(contatori(), (Righe{{"214", "3", "388", "5"}, {"0", "0", "57", "1"}, {"0", "0", "0", "0"}}));
-    EXPECT_EQ(date()[1],
-              (Riga{kFineAnno, "2024-03-31 00:00:00.000", "2024-06-20 00:00:00.000", "2024-03-31 00:00:00.000"}));
-    EXPECT_EQ(importi(), importiPrima);
-    EXPECT_EQ(progressivi(), progressiviPrima);
-}
-
-TEST_F(SezionaliAperti, SalesAreSetBackToTheEndOfTheDefinitiveYear) {
-    esegui("update IvaSezionale set UltimaDatavenditer = '20191231 10:20:30' where idautonumber = 1");
-    const support::StatementRecorder recorder;
-    script.expectQuestion(azzero("1"), true);
-    EXPECT_TRUE(AzzeraContatori(Registro::Vendite, 1));
-    EXPECT_EQ(scritture(recorder).back(),
-              "UPDATE [IvaSezionale] SET [UltimaDatavendite] = CONVERT(DATETIME, '2019-12-31 00:00:00.000', 121), "
-              "[ultimaFatturavendite] = 0, [Ultimaresivendite] = 0 WHERE [idautonumber] = 1");
-    EXPECT_EQ(contatori(), (Righe{{"214", "3", "0", "0"}, {"41", "0", "57", "1"}, {"0", "0", "0", "0"}}));
-    EXPECT_EQ(date()[0], (Riga{"2024-06-28 00:00:00.000", "2024-03-31 00:00:00.000", "2019-12-31 00:00:00.000",
-                               "2019-12-31 10:20:30.000"}));
-}
-
-TEST_F(SezionaliAperti, TheSectionSetBackIsTheOneWhoseNumberIsThePickedKey) {
-    esegui("update IvaSezionale set id = 30 - idautonumber");
-    esegui("update IvaSezionale set id = 3 where idautonumber = 1");
-    script.expectQuestion(azzero("3"), true);
-    EXPECT_TRUE(AzzeraContatori(Registro::Acquisti, 3));
-    EXPECT_EQ(ovunque("ultimaFatturaAcquisti"), "0 41 0");
-    EXPECT_EQ(date()[0][0], kFineAnno);
-    EXPECT_EQ(date()[2][0], "NULL");
-}
-
-TEST_F(SezionaliAperti, WhereNoNumberIsThePickedKeyNothingIsSetBack) {
-    const Righe prima = tutto();
-    const support::StatementRecorder recorder;
-    script.expectQuestion(azzero("3"), true);
-    EXPECT_TRUE(AzzeraContatori(Registro::Acquisti, 3)) << "the list is read again all the same";
-    EXPECT_EQ(recorder.texts(), Testi{" select * from ivasezionale where id = 3"});
-    EXPECT_EQ(tutto(), prima);
-}
-
-TEST_F(SezionaliAperti, OfSeveralSectionsOfThatNumberTheFirstIsSetBack) {
-    esegui("update IvaSezionale set id = 1");
-    script.expectQuestion(azzero("1"), true);
-    EXPECT_TRUE(AzzeraContatori(Registro::Acquisti, 1));
-    EXPECT_EQ(ovunque("ultimaFatturaAcquisti"), "0 41 0");
-}
-
-TEST_F(SezionaliAperti, WithoutADefinitiveDateAResetFailsAndTheCountersStay) {
-    esegui("update IvaSezionale set UltimaDataAcquistir = null, UltimaDatavenditer = null");
-    const Righe prima = tutto();
-    for (const Registro registro : {Registro::Acquisti, Registro::Vendite}) {
-        script.expectQuestion(azzero("2"), true);
-        EXPECT_EQ(errore([&] { AzzeraContatori(registro, 2); }), ado::kInvalidUseOfNull);
-    }
-    EXPECT_EQ(tutto(), prima);
-    esegui("update IvaSezionale set UltimaDataAcquistir = '20200101'");
-    script.expectQuestion(azzero("2"), true);
-    EXPECT_TRUE(AzzeraContatori(Registro::Acquisti, 2)) << "the shared recordset was given back";
-}
-
-TEST_F(SezionaliAperti, ALargeKeyGoesIntoTheStatementInPlainDigits) {
-    const support::StatementRecorder recorder;
-    script.expectQuestion(azzero("1000000"), true);
-    EXPECT_TRUE(AzzeraContatori(Registro::Vendite, 1'000'000));
-    EXPECT_EQ(recorder.texts(), Testi{" select * from ivasezionale where id = 1000000"});
 }
 
 // The carry.
@@ -169,6 +86,18 @@ TEST_F(SezionaliAperti, DecemberIsCarriedAndTheYearBeginsAnew) {
     EXPECT_EQ(testate(), (Righe{{"1", "1", "Attività commerciale", "Botteghe", "3"},
                                 {"2", "1", "Formazione", "Corsi", "3"},
                                 {"10", "1", "Affitto sale", "Immobili", "3"}}));
+}
+
+TEST_F(SezionaliAperti, DecemberIsCarriedWhateverThePeriod) {
+    for (const char* periodo : {"1", "3", "null", "0"}) {
+        SCOPED_TRACE(periodo);
+        esegui(
+            std::string("update IvaSezionale set importodefinitivo9 = 5, importodefinitivo12 = 77.8, Liquidazione = ") +
+            periodo);
+        script.expectQuestion(kRiporto, true);
+        EXPECT_TRUE(RiportaAnno());
+        EXPECT_EQ(ovunque("importodefinitivoAnno"), "77.80 77.80 77.80");
+    }
 }
 
 TEST_F(SezionaliAperti, TheYearOfTheDatesStaysAsItIs) {

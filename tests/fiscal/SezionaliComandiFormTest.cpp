@@ -111,6 +111,71 @@ TEST_F(SezionaliForm, APeriodPickedIsThatOfAllSections) {
     EXPECT_EQ(liquidazione(), "Mensile") << "it shows what was picked, not what is stored";
 }
 
+TEST_F(SezionaliForm, APeriodAndACarryKeepTheSectionThatWasPicked) {
+    apri();
+    scegli("2");
+    script.expectQuestion("Sei sicuro", true);
+    scegliLiquidazione(0);
+    EXPECT_EQ(ovunque("Liquidazione"), "1 1 1") << "not that of the picked one alone";
+    script.expectQuestion(azzero("2"), false);
+    premi("Command1");
+    script.expectQuestion(kRiporto, true);
+    premi("Command4");
+    script.expectQuestion(azzero("2"), false);
+    premi("Command1");
+    EXPECT_EQ(campi(), (Riga{"Formazione", "Corsi", "2"}));
+}
+
+TEST_F(SezionaliForm, OnlyADeletionAsksForARight) {
+    DirittiUtente = {};
+    apri();
+    scegli("2");
+    script.expectQuestion(azzero("2"), true);
+    premi("Command1");
+    script.expectQuestion(azzero("2"), true);
+    premi("Command2");
+    EXPECT_EQ(contatori()[1], (Riga{"0", "0", "0", "0"}));
+    script.expectQuestion(kRiporto, true);
+    premi("Command4");
+    EXPECT_EQ(ovunque("importodefinitivoAnno"), "77.80 0.00 0.00");
+    script.expectQuestion("Sei sicuro", true);
+    scegliLiquidazione(0);
+    EXPECT_EQ(ovunque("Liquidazione"), "1 1 1");
+    script.expectQuestion("Sei sicuro?", true);
+    premi("Command5");
+    EXPECT_EQ(date()[1], date()[0]);
+    script.expectMessage("Utente non abilitato!\nContattare l'amministratore di sistema");
+    premi("Command3");
+    EXPECT_EQ(righe(), 3);
+}
+
+TEST_F(SezionaliForm, ASectionThatSomebodyElseHoldsIsToldAndTheSecondTryStores) {
+    apri();
+    scegli("2");
+    const Righe prima = tutto();
+    const std::pair<const char*, std::string> comandi[] = {
+        {"Command1", azzero("2")}, {"Command2", azzero("2")}, {"Command5", "Sei sicuro?"}};
+    for (const auto& [bottone, domanda] : comandi) {
+        SCOPED_TRACE(bottone);
+        {
+            const auto altro = posto.engineSession(support::kCompany);
+            const auto tenuta = altro->hold("select * from IvaSezionale where idautonumber = 2");
+            script.expectQuestion(domanda, true);
+            script.expectMessage("Lock request time out period exceeded.");
+            premi(bottone);
+            EXPECT_TRUE(script.allShown());
+        }
+        EXPECT_EQ(tutto(), prima);
+        EXPECT_EQ(campi(), (Riga{"Formazione", "Corsi", "2"}));
+    }
+    for (const auto& [bottone, domanda] : comandi) {
+        script.expectQuestion(domanda, true);
+        premi(bottone);
+    }
+    EXPECT_EQ(contatori()[1], (Riga{"0", "0", "0", "0"}));
+    EXPECT_EQ(importi()[1], Riga(13, "0.00"));
+}
+
 TEST_F(SezionaliForm, TheRegistersAreSetBackApart) {
     apri();
     for (const char* bottone : {"Command1", "Command2"}) {
@@ -144,64 +209,6 @@ TEST_F(SezionaliForm, TheYearIsCarriedOverByItsButton) {
     premi("Command4");
     EXPECT_EQ(ovunque("importodefinitivoAnno"), "77.80 0.00 0.00");
     EXPECT_EQ(pagina.cell("DataGrid1", 0, 4), "31/12/2024") << "the list is read again";
-}
-
-// The position counts from 1 and the move from the first row: it ends below, or past the end.
-TEST_F(SezionaliForm, AfterADeletionTheGridIsOneRowBelow) {
-    for (int id = 11; id <= 14; ++id) {
-        esegui("insert into IvaSezionale (id) values (" + std::to_string(id) + ")");
-    }
-    apri();
-    scegli("3");
-    script.expectQuestion(kCancellare, true);
-    premi("Command3");
-    EXPECT_EQ(righe(), 6);
-    EXPECT_EQ(corrente(), "5") << "behind 4, which followed";
-    EXPECT_EQ(pagina.control<controls::DataControl>("IvaSezionale").Recordset().AbsolutePosition(), 4);
-    script.expectMessage(kNessuno);
-    premi("Command1"); // none is picked any more
-    scegli("7");
-    script.expectQuestion(kCancellare, true);
-    premi("Command3");
-    EXPECT_TRUE(pagina.control<controls::DataControl>("IvaSezionale").Recordset().EOF());
-}
-
-TEST_F(SezionaliForm, ASectionInUseStaysAndIsNoMoreThePickedOne) {
-    esegui("update partitadoppia set seziva = 1 where seziva = 2");
-    apri();
-    scegli("1");
-    script.expectQuestion(kCancellare, true);
-    script.expectMessage("Il sezionale è stato usato, non è possibile cancellarlo");
-    premi("Command3");
-    EXPECT_EQ(righe(), 3);
-    EXPECT_EQ(corrente(), "2");
-    premi("Command3"); // nothing is picked
-}
-
-TEST_F(SezionaliForm, ADeletionRefusedKeepsTheKey) {
-    apri();
-    scegli("3");
-    script.expectQuestion(kCancellare, false);
-    premi("Command3");
-    script.expectQuestion(azzero("3"), false);
-    premi("Command1");
-    EXPECT_EQ(righe(), 3);
-}
-
-// The list has no row to move to: the error ends the command, and the key stays.
-TEST_F(SezionaliForm, AfterTheLastSectionTheMoveFails) {
-    esegui("delete from IvaSezionale where idautonumber > 1");
-    esegui("update partitadoppia set seziva = 0");
-    apri();
-    scegli("1");
-    script.expectQuestion(kCancellare, true);
-    script.expectMessage("Either BOF or EOF is True, or the current record has been deleted. Requested operation "
-                         "requires a current record.");
-    premi("Command3");
-    EXPECT_EQ(righe(), 0);
-    EXPECT_EQ(valore("select count(*) from IvaSezionale"), "0");
-    script.expectQuestion(azzero("1"), false);
-    premi("Command1");
 }
 
 TEST_F(SezionaliForm, ASectionIsAddedSetBackAndDeletedByKeyboardAlone) {

@@ -207,6 +207,59 @@ TEST_F(SezionaliForm, WhatARowDoesNotHaveLeavesItsFieldAsItWas) {
     premi("Command1");
 }
 
+TEST_F(SezionaliForm, ARowWithoutAKeyIsNotPickedAndItsPositionIsShown) {
+    esegui("drop table IvaSezionale");
+    esegui(
+        "create table IvaSezionale (idautonumber int null, id int null, descrizione nvarchar(255) null, AreaAttivita "
+        "nvarchar(255) null, UltimaDataAcquistir datetime null, UltimaDatavenditer datetime null, Liquidazione int "
+        "null)");
+    esegui("insert into IvaSezionale (idautonumber, id, descrizione, AreaAttivita) values (7, 1, 'Scuola', 'Lezioni'), "
+           "(null, 2, 'Mostre', 'Arte'), (0, 3, 'Negozio', 'Dischi'), (8, 4, null, 'Feste')");
+    apri();
+    const auto vaiAllaRiga = [this](int riga) {
+        vaiA("DataGrid1");
+        griglia().selectRow(riga);
+        gui.press(Qt::Key_Space);
+    };
+    vaiAllaRiga(0);
+    for (const int senzaChiave : {1, 2}) {
+        SCOPED_TRACE(senzaChiave);
+        vaiAllaRiga(senzaChiave);
+        EXPECT_EQ(campi(), (Riga{"Scuola", "Lezioni", "1"}));
+        EXPECT_EQ(testo("didascalia"), "Record: " + std::to_string(senzaChiave + 1));
+        script.expectQuestion("Azzero i contatori del Sezionale 7\nSei sicuro", false);
+        premi("Command1");
+    }
+    vaiAllaRiga(3);
+    EXPECT_EQ(campi(), (Riga{"Scuola", "Feste", "4"})) << "a null description leaves the former one";
+}
+
+TEST_F(SezionaliForm, AKeyThatSelectsARowSaysSo) {
+    apri();
+    EXPECT_EQ(testo("istruzioni"), "Un clic, Spazio o Invio su una riga porta il sezionale nei campi.");
+    vaiA("DataGrid1");
+    griglia().selectRow(1);
+    gui.press(Qt::Key_Return);
+    EXPECT_EQ(campi(), (Riga{"Formazione", "Corsi", "2"}));
+}
+
+TEST_F(SezionaliForm, BehindAQuickSaveTheKeyboardLeadsBackAndToTheCommands) {
+    apri();
+    scrivi("Mostre", "Arte", "4");
+    gui.press(Qt::Key_Tab);
+    EXPECT_EQ(fuoco(), "NSezionale");
+    gui.press(Qt::Key_Tab);
+    EXPECT_EQ(fuoco(), "NSezionale") << "an empty number is stored by no Tab and left by none";
+    gui.press(Qt::Key_Backtab, Qt::ShiftModifier);
+    EXPECT_EQ(fuoco(), "AreaAttività");
+    vaiA("NSezionale");
+    script.expectMessage("Inserire la descrizione");
+    QTest::keyClick(gui.form("I_Iva_sezionali").windowHandle(), Qt::Key_A, Qt::AltModifier);
+    support::Gui::waitFor("the box", [this] { return script.allShown(); });
+    support::Gui::handleEvents();
+    EXPECT_EQ(fuoco(), "Command5");
+}
+
 TEST_F(SezionaliForm, ItFitsANarrowScreen) {
     apri();
     EXPECT_LE(gui.form("I_Iva_sezionali").minimumSizeHint().width(), 960);

@@ -1,4 +1,4 @@
-// The list of sections, the columns of later versions, the quick save and the addition.
+// The list of sections, the columns of later versions, and the quick save.
 
 #include "ado/Error.h"
 #include "fiscal/SezionaliAperti.h"
@@ -6,8 +6,6 @@
 
 namespace vabo {
 namespace {
-
-constexpr const char* kPrimo = "select * from IvaSezionale order by id";
 
 TEST_F(SezionaliAperti, TheListIsReadLetterForLetterInTheOrderOfTheNumbers) {
     EXPECT_EQ(ElencoSezionali(),
@@ -121,6 +119,21 @@ TEST_F(SezionaliAperti, ANumberThatGoesOnIsRunAndThenRefusedByItsColumn) {
     EXPECT_EQ(valore("select count(*) from contatorepd"), "0") << "a second statement behind the number is run";
 }
 
+// Blanks of any kind around a number end nothing in the statement; the column takes some of them.
+TEST_F(SezionaliAperti, AControlCharacterInTheNumberIsABlankOrRefused) {
+    for (const char* numero : {"2\t", "\t2", "2\n", "2\r\n", "\n 2"}) {
+        SCOPED_TRACE(testing::PrintToString(numero));
+        EXPECT_TRUE(SalvaSezionale({numero, "Scuola", "Lezioni"}));
+        EXPECT_EQ(ovunque("id"), "1 2 10");
+    }
+    const Righe prima = tutto();
+    for (const char* numero : {"\x01", "2\x01", "2\x7f", "2\v"}) {
+        SCOPED_TRACE(testing::PrintToString(numero));
+        EXPECT_THROW(SalvaSezionale({numero, "Altro", "Altra"}), ado::Error);
+        EXPECT_EQ(tutto(), prima);
+    }
+}
+
 // A point groups digits in the column and ends a whole number in the statement.
 TEST_F(SezionaliAperti, APointInTheNumberIsReadOtherwiseByTheColumn) {
     EXPECT_TRUE(SalvaSezionale({"2.0", "Scuola", "Lezioni"}));
@@ -162,112 +175,6 @@ TEST_F(SezionaliAperti, ARowThatSomebodyElseHoldsMakesTheQuickSaveFail) {
     EXPECT_THROW(SalvaSezionale({"2", "Scuola", "Lezioni"}), ado::Error);
     tenuta.CancelUpdate();
     EXPECT_EQ(tutto(), prima);
-}
-
-// Addition.
-
-TEST_F(SezionaliAperti, AnAdditionNeedsADescription) {
-    const support::StatementRecorder recorder;
-    for (const char* vuoto : {"", " ", "0"}) {
-        script.expectMessage("Inserire la descrizione", platform::Icon::None);
-        EXPECT_FALSE(AggiungiSezionale({"", vuoto, ""}, 0)) << vuoto;
-    }
-    EXPECT_TRUE(recorder.texts().empty());
-}
-
-TEST_F(SezionaliAperti, AnAdditionWithoutANumberDoesNothing) {
-    const support::StatementRecorder recorder;
-    for (const char* vuoto : {"", " ", "0"}) {
-        EXPECT_FALSE(AggiungiSezionale({vuoto, "Mostre", "Arte"}, 0)) << vuoto;
-    }
-    EXPECT_TRUE(recorder.texts().empty());
-}
-
-TEST_F(SezionaliAperti, AnAdditionRefusedReadsTheListAgainAndNothingElse) {
-    const support::StatementRecorder recorder;
-    script.expectQuestion("Sei sicuro?", false);
-    EXPECT_TRUE(AggiungiSezionale({"4", "Mostre", "Arte"}, 0));
-    EXPECT_TRUE(recorder.texts().empty());
-}
-
-TEST_F(SezionaliAperti, ANewSectionTakesTheDatesAndThePeriodOfTheFirst) {
-    const support::StatementRecorder recorder;
-    script.expectQuestion("Sei sicuro?", true);
-    EXPECT_TRUE(AggiungiSezionale({"4", " Mostre ", " Arte "}, 0));
-    EXPECT_EQ(recorder.holding("select"), (Testi{kPrimo, "select * from IvaSezionale where idautonumber = 0"}));
-    EXPECT_EQ(
-        scritture(recorder),
-        (Testi{"INSERT INTO [IvaSezionale] ([id], [idsede], [UltimaDataAcquisti], [UltimaDatavendite], "
-               "[UltimaDataAcquistir], [UltimaDatavenditer], [ultimaFatturaAcquisti], [Ultimaresoacquisti], "
-               "[ultimaFatturavendite], [Ultimaresivendite], [ultimoprogressivoAcquisti], [Ultimoprogressivovendite], "
-               "[importodefinitivo1], [importodefinitivo2], [importodefinitivo3], [importodefinitivo4], "
-               "[importodefinitivo5], [importodefinitivo6], [importodefinitivo7], [importodefinitivo8], "
-               "[importodefinitivo9], [importodefinitivo10], [importodefinitivo11], [importodefinitivo12], "
-               "[importodefinitivoAnno], [Liquidazione], [UltimaPaginaAcquisti], [UltimaPaginaVendite], "
-               "[descrizione], [AreaAttivita]) VALUES (4, 1, CONVERT(DATETIME, '2024-06-28 00:00:00.000', 121), "
-               "CONVERT(DATETIME, '2024-06-29 00:00:00.000', 121), CONVERT(DATETIME, '2024-03-31 00:00:00.000', 121), "
-               "CONVERT(DATETIME, '2024-03-31 00:00:00.000', 121), 0, 0, 0, 0, 0, 0, 0.00, 0.00, 0.00, 0.00, "
-               "0.00, 0.00, 0.00, 0.00, 0.00, 0.00, 0.00, 0.00, 0.00, 3, 0, 0, N'Mostre', N'Arte')"}));
-    EXPECT_EQ(testate().back(), (Riga{"4", "1", "Mostre", "Arte", "3"}));
-    EXPECT_EQ(date().back(), (Riga{"2024-06-28 00:00:00.000", "2024-03-31 00:00:00.000", "2024-06-29 00:00:00.000",
-                                   "2024-03-31 00:00:00.000"}));
-}
-
-TEST_F(SezionaliAperti, ThePickedSectionIsWrittenOverAsIfItWereNew) {
-    esegui("update IvaSezionale set idsede = 9 where idautonumber = 2");
-    const support::StatementRecorder recorder;
-    script.expectQuestion("Sei sicuro?", true);
-    EXPECT_TRUE(AggiungiSezionale({"4", "Mostre", "Arte"}, 2));
-    EXPECT_EQ(recorder.texts()[1], "select * from IvaSezionale where idautonumber = 2");
-    EXPECT_EQ(testate(), (Righe{{"1", "1", "Attività commerciale", "Botteghe", "3"},
-                                {"4", "1", "Mostre", "Arte", "3"},
-                                {"10", "1", "Affitto sale", "Immobili", "3"}}));
-    EXPECT_EQ(contatori()[1], (Riga{"0", "0", "0", "0"}));
-    EXPECT_EQ(progressivi()[1], (Riga{"0", "0", "0", "0"}));
-    EXPECT_EQ(importi()[1], Riga(13, "0.00"));
-    EXPECT_EQ(date()[1], date()[0]);
-    EXPECT_EQ(contatori()[0], (Riga{"214", "3", "388", "5"}));
-}
-
-TEST_F(SezionaliAperti, AnEmptyFirstSectionGivesNulls) {
-    esegui("update IvaSezionale set id = null, Liquidazione = null where idautonumber = 3"); // nulls come first
-    script.expectQuestion("Sei sicuro?", true);
-    EXPECT_TRUE(AggiungiSezionale({"4", "Mostre", "Arte"}, 2));
-    EXPECT_EQ(testate()[1], (Riga{"4", "1", "Mostre", "Arte", "NULL"}));
-    EXPECT_EQ(date()[1], (Riga{"NULL", "NULL", "NULL", "NULL"}));
-}
-
-TEST_F(SezionaliAperti, WithNoSectionAtAllTheNewOneHasNoDates) {
-    esegui("delete from IvaSezionale");
-    script.expectQuestion("Sei sicuro?", true);
-    EXPECT_TRUE(AggiungiSezionale({"1", "Mostre", ""}, 2));
-    EXPECT_EQ(testate(), (Righe{{"1", "1", "Mostre", "", "NULL"}}));
-    EXPECT_EQ(date(), (Righe{{"NULL", "NULL", "NULL", "NULL"}}));
-}
-
-TEST_F(SezionaliAperti, AnAreaThatIsTooLongIsSkippedAndTheRestAdded) {
-    script.expectQuestion("Sei sicuro?", true);
-    EXPECT_TRUE(AggiungiSezionale({"4", "Mostre", std::string(4'000, 'x')}, 0));
-    EXPECT_EQ(testate().back(), (Riga{"4", "1", "Mostre", "NULL", "3"}));
-}
-
-TEST_F(SezionaliAperti, ANumberOrADescriptionThatDoesNotFitMakesTheAdditionFail) {
-    const Righe prima = tutto();
-    for (const CampiSezionale& campi :
-         {CampiSezionale{"abc", "Mostre", ""}, CampiSezionale{"99999999999", "Mostre", ""},
-          CampiSezionale{"4; delete from IvaSezionale", "Mostre", ""},
-          CampiSezionale{"4", std::string(4'000, 'x'), ""}}) {
-        script.expectQuestion("Sei sicuro?", true);
-        EXPECT_THROW(AggiungiSezionale(campi, 2), ado::Error);
-        EXPECT_EQ(tutto(), prima);
-    }
-}
-
-TEST_F(SezionaliAperti, AnAdditionClosesTheSharedRecordsets) {
-    ApriScrivibile(RsCondivisi(20), "select * from stati", DbAzienda);
-    script.expectQuestion("Sei sicuro?", true);
-    EXPECT_TRUE(AggiungiSezionale({"4", "Mostre", "Arte"}, 0));
-    EXPECT_FALSE(RsCondivisi(20).IsOpen());
 }
 
 } // namespace

@@ -125,6 +125,18 @@ TEST_F(BustePagaLettura, ADoubleClickWhereTheRowsHaveGoneReadsNothing) {
     EXPECT_EQ(conti(), mostrati);
 }
 
+TEST_F(BustePagaLettura, NullGroupsOfARowAreWrittenWithItsAccounts) {
+    for (const char* colonna : {"IdGIrapE", "IdGInpsE", "IdGInailE"}) {
+        esegui(std::string("update TipoAnagraficaCPartite set ") + colonna + " = null where id = 4");
+    }
+    apri();
+    scegli(4);
+    EXPECT_EQ(conti(), (Riga{nomeDi(1080), nomeDi(1082), nomeDi(1083), nomeDi(1089), nomeDi(1091), nomeDi(1185),
+                             nomeDi(1187), nomeDi(1189), nomeDi(1084)}));
+    salva();
+    EXPECT_EQ(letti("IdGInpsE, IdGInailE", 4), (Riga{"45", "45"}));
+}
+
 /// A column of the row that is read, and the picker that shows it.
 struct Nullo {
     const char* colonna;

@@ -75,6 +75,20 @@ TEST_F(LeggiGruppoVaboTest, RaisesForANullGroup) {
     }
 }
 
+TEST_F(LeggiGruppoVaboTest, RaisesWhereItCannotConnect) {
+    const std::string buona = StringaAzienda;
+    StringaAzienda = "Server=;Database=manca;";
+    EXPECT_THROW(LeggiGruppoVabo(1051), ado::Error);
+    StringaAzienda = buona;
+    EXPECT_EQ(LeggiGruppoVabo(1051), 19);
+}
+
+TEST_F(LeggiGruppoVaboTest, LeavesNoConnectionBehind) {
+    LeggiGruppoVabo(1051);
+    DbAzienda.Close();
+    EXPECT_NO_THROW(posto.run("master", std::string("drop database ") + support::kCompany)) << "nobody uses it";
+}
+
 TEST_F(ContoEconomicoTest, CountsMastersOneAndFour) {
     const std::pair<const char*, bool> casi[] = {{"1", true},  {"2", false},    {"3", false}, {"4", true},
                                                  {"0", false}, {"null", false}, {"-1", false}};

@@ -90,5 +90,48 @@ TEST_F(MorlanAttacchi, APickedTreatmentSendsWhatItSendsWithoutThemInItsFields) {
               (std::vector<Riga>{{"3", "10,00", "10", "100,00"}}));
 }
 
+TEST_F(MorlanAttacchi, TypedAsATreatmentTheySendNothingAndGoBack) {
+    apri();
+    scheda(4);
+    auto& trattamenti = combo("DCBitem5");
+    const std::string mostrato = trattamenti.Text();
+    const auto prima = posto.row(support::kCompany, "select * from IvaAliquotaStandard");
+    for (const std::string& attacco : alcuni()) {
+        for (const Qt::Key uscita : {Qt::Key_Return, Qt::Key_Tab}) {
+            SCOPED_TRACE(testing::PrintToString(attacco.substr(0, 60)));
+            trattamenti.setFocus();
+            incolla(*trattamenti.lineEdit(), attacco);
+            const support::StatementRecorder recorder;
+            gui.press(uscita);
+            controllo<QLineEdit>("Sigla").setFocus();
+            EXPECT_TRUE(recorder.texts().empty());
+            EXPECT_EQ(trattamenti.Text(), mostrato);
+        }
+    }
+    EXPECT_EQ(posto.row(support::kCompany, "select * from IvaAliquotaStandard"), prima);
+}
+
+TEST_F(MorlanAttacchi, WhatARowIsCalledTakesNoText) {
+    apri();
+    const auto provando = [this](const char* nome) {
+        const std::string prima = testo(nome);
+        auto& campo = controllo<controls::TextBox>(nome);
+        campo.setFocus();
+        ASSERT_EQ(fuoco(), nome);
+        campo.selectAll();
+        gui.type("'; --\x01");
+        gui.press(Qt::Key_Delete);
+        EXPECT_EQ(testo(nome), prima);
+        EXPECT_FALSE(prima.empty());
+    };
+    scheda(1);
+    scegli("DataGrid2", "8"); // a row that takes economic accounts alone
+    provando("Descrizione");
+    scheda(2);
+    provando("Controllo");
+    scegli("DataGrid4", "7");
+    provando("tipoanagrafe");
+}
+
 } // namespace
 } // namespace vabo

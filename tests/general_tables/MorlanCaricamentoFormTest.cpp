@@ -1,5 +1,7 @@
 #include "MorlanFixture.h"
 
+#include <array>
+
 namespace vabo {
 namespace {
 
@@ -131,6 +133,85 @@ TEST_F(MorlanCaricamento, EnterInThePickersWithoutAListStoresNothing) {
     script.expectMessage(kSenzaSorgente);
     gui.press(Qt::Key_Return);
     EXPECT_TRUE(recorder.texts().empty());
+}
+
+TEST_F(MorlanCaricamento, AListThatCannotBeReadIsToldAndLeavesTheSwitchesUnread) {
+    esegui("drop table tipoanagrafica");
+    script.expectMessage("Invalid object name 'tipoanagrafica'.");
+    const support::StatementRecorder recorder;
+    apri();
+    EXPECT_TRUE(gui.isVisible("Avvio_Morlan"));
+    EXPECT_EQ(spuntate(), "Check10") << "only what stands ahead of the lists";
+    EXPECT_EQ(righe("DataGrid2"), 0);
+    EXPECT_TRUE(recorder.holding("datiGenerali").empty());
+}
+
+TEST_F(MorlanCaricamento, AfterTheFirstTwoListsFailuresAreSilent) {
+    esegui("drop table TabellaContiUtiliTransfersHq");
+    esegui("drop table IvaTrattamento");
+    apri();
+    EXPECT_EQ(combo("DCBitems4").count(), 0) << "its list leaves out what stands in the table";
+    EXPECT_EQ(combo("DCBitem5").count(), 0);
+    EXPECT_GT(combo("DCBItems3").count(), 0);
+    EXPECT_EQ(righe("DataGrid11"), 10);
+    EXPECT_EQ(testo("Aliquota"), "20,00");
+}
+
+TEST_F(MorlanCaricamento, NeitherCombosListIsThereWhereTheSecondCannotBeRead) {
+    apriFinoAgliElenchi();
+    EXPECT_EQ(combo("DCBItem1").count(), 0) << "both are read before one is filled";
+    EXPECT_EQ(combo("DCBitem2").count(), 0);
+}
+
+TEST_F(MorlanCaricamento, WithoutTheListOfInvoicesAllTheRestIsRead) {
+    esegui("drop table conti");
+    esegui("create table conti (IdConto int, NomeConto nvarchar(50), Contoreport nvarchar(50), IDProgetto int, "
+           "idmastro int, IdGruppoVabo int)");
+    apri();
+    EXPECT_EQ(combo("DCBItems3").count(), 0);
+    EXPECT_EQ(combo("DCBitem5").count(), 10);
+    EXPECT_EQ(spuntate(), "Check1 Check2 Check5 Check10");
+    EXPECT_EQ(righe("DataGrid2"), 32);
+    EXPECT_EQ(righe("DataGrid11"), 10);
+    EXPECT_EQ(righe("DataGridPersonale"), 12);
+}
+
+TEST_F(MorlanCaricamento, WithoutTheTableOfPaySlipsAllTheRestIsRead) {
+    esegui("drop table bustetabellacontiutili");
+    apri();
+    EXPECT_EQ(righe("DataGridPersonale"), 0);
+    EXPECT_EQ(combo("DCBitem5").count(), 10);
+    EXPECT_EQ(testo("Aliquota"), "22,00");
+    EXPECT_EQ(spuntate(), "Check1 Check2 Check5 Check10");
+    EXPECT_EQ(righe("DataGrid2"), 32);
+    EXPECT_EQ(righe("DataGrid11"), 10);
+}
+
+/// A grid of the options' reading that can't be read, and what is on the screen all the same.
+struct Griglie {
+    const char* comando;
+    const char* spuntate;
+    std::array<int, 3> righe; ///< of DataGrid2, DataGrid4 and DataGrid11
+};
+
+TEST_F(MorlanCaricamento, AGridThatCannotBeReadEndsTheReadingOfTheOptionsInSilence) {
+    const Griglie casi[] = {
+        {"drop table ivaTabellaContiUtili", "Check1 Check2 Check5 Check6 Check9 Check10", {32, 10, 0}},
+        {"drop table TabellaContiUtili create table TabellaContiUtili (ID int, Description nvarchar(50), IdConto int)",
+         "Check6 Check9 Check10",
+         {0, 10, 0}},
+        {"drop table gruppivabo", "Check6 Check9 Check10", {0, 0, 0}},
+    };
+    esegui("update datiGenerali set Contatore = -1 where Descrizione = 'Sede Amministrativa'");
+    esegui("update TabellaUilityConti set Lunghezza = -1 where id = 7");
+    apri();
+    for (const Griglie& caso : casi) {
+        SCOPED_TRACE(caso.comando);
+        esegui(caso.comando);
+        riapri();
+        EXPECT_EQ(spuntate(), caso.spuntate);
+        EXPECT_EQ((std::array<int, 3>{righe("DataGrid2"), righe("DataGrid4"), righe("DataGrid11")}), caso.righe);
+    }
 }
 
 } // namespace

@@ -1,8 +1,5 @@
 #include "MorlanFixture.h"
-#include "controls/RecordedForm.h"
-#include "general_tables/Avvio_Morlan.h"
 #include "general_tables/TestiAttesi.h"
-#include "platform/Automation.h"
 
 #include <QComboBox>
 #include <QGroupBox>
@@ -11,43 +8,7 @@
 namespace vabo {
 namespace {
 
-class MorlanFrame : public MorlanForm {
-protected:
-    /// Adds a form of that name whose Unload takes it off the stack, as that of every form on the stack does.
-    void costruisci(const char* nome) {
-        gui.forms().add(nome, [this, nome] {
-            return std::make_unique<RecordedForm>(nome, eventi,
-                                                  FormEvents{.load =
-                                                                 [this](RecordedForm& /*form*/) {
-                                                                     clessidra =
-                                                                         QGuiApplication::overrideCursor() != nullptr;
-                                                                 },
-                                                             .unload = [](RecordedForm& /*form*/) { ChiudiForm(); }});
-        });
-    }
-    void premi(const char* bottone, int numero) {
-        scheda(numero);
-        gui.click("Avvio_Morlan", bottone);
-    }
-
-    std::vector<std::string> eventi;
-    bool clessidra = false; ///< whether the hourglass was shown while the form loaded
-};
-
-struct Comando {
-    const char* bottone;
-    int scheda;
-    const char* form;
-    const char* didascalia;
-};
-constexpr Comando kComandi[] = {
-    {"Command1", 4, "I_Iva_sezionali", "Sezionali Iva"},
-    {"Command2", 3, "caricasedecentrale", "Carica Sede Centrale"},
-    {"Command3", 3, "IndirizzoVaboSuServer", "Carica Indirizzo Server"},
-    {"Command4", 3, "Scegli_progetto_4", "Modifica Data Definitiva Progetto"},
-    {"Command5", 5, "TabelleBustePaga", "Tabelle Buste Paga"},
-    {"Command6", 3, "Scegli_sede_Pd", "Modifica Data Definitiva Sede"},
-};
+class MorlanFrame : public MorlanForm {};
 
 TEST_F(MorlanFrame, SixTabsUnderTheTitle) {
     apri();
@@ -99,9 +60,6 @@ TEST_F(MorlanFrame, EveryCaptionIsAsItsUsersKnowIt) {
         EXPECT_EQ(gruppo->title(), titolo);
     }
     EXPECT_EQ(testo("Command31"), "Definizione del Piano dei Conti utilizzato");
-    for (const Comando& comando : kComandi) {
-        EXPECT_EQ(testo(comando.bottone), comando.didascalia);
-    }
 }
 
 TEST_F(MorlanFrame, EveryButtonHasAMnemonicOfItsOwn) {
@@ -207,116 +165,6 @@ TEST_F(MorlanFrame, TheLoadSendsItsStatementsInTheirOrderAndNoOther) {
                                                  "select * from datiGenerali where id = 10", // the box it sets
                                                  "select * from datiGenerali where id = 15",
                                                  kTestoContiIva}));
-}
-
-TEST_F(MorlanFrame, AListThatCannotBeReadIsToldAndLeavesTheSwitchesUnread) {
-    esegui("drop table tipoanagrafica");
-    script.expectMessage("Invalid object name 'tipoanagrafica'.");
-    const support::StatementRecorder recorder;
-    apri();
-    EXPECT_TRUE(gui.isVisible("Avvio_Morlan"));
-    EXPECT_EQ(spuntate(), "Check10") << "only what stands ahead of the lists";
-    EXPECT_EQ(righe("DataGrid2"), 0);
-    EXPECT_TRUE(recorder.holding("datiGenerali").empty());
-}
-
-TEST_F(MorlanFrame, AfterTheFirstTwoListsFailuresAreSilent) {
-    esegui("drop table TabellaContiUtiliTransfersHq");
-    esegui("drop table IvaTrattamento");
-    apri();
-    EXPECT_EQ(combo("DCBitems4").count(), 0) << "its list leaves out what stands in the table";
-    EXPECT_EQ(combo("DCBitem5").count(), 0);
-    EXPECT_GT(combo("DCBItems3").count(), 0);
-    EXPECT_EQ(righe("DataGrid11"), 10);
-    EXPECT_EQ(testo("Aliquota"), "20,00");
-}
-
-TEST_F(MorlanFrame, EachCommandOpensItsFormAndTheConsoleComesBack) {
-    for (const Comando& comando : kComandi) {
-        costruisci(comando.form);
-    }
-    apri();
-    for (const Comando& comando : kComandi) {
-        SCOPED_TRACE(comando.bottone);
-        premi(comando.bottone, comando.scheda);
-        EXPECT_EQ(gui.visibleForms(), comando.form);
-        EXPECT_EQ(PilaForm, (std::vector<std::string>{"Avvio_Azienda", "Avvio_Morlan", comando.form}));
-        EXPECT_TRUE(clessidra);
-        EXPECT_EQ(QGuiApplication::overrideCursor(), nullptr);
-        const support::StatementRecorder recorder;
-        gui.form(comando.form).close();
-        support::Gui::handleEvents();
-        EXPECT_EQ(gui.visibleForms(), "Avvio_Morlan");
-        EXPECT_TRUE(recorder.texts().empty()) << "it hid, it wasn't unloaded";
-    }
-}
-
-/// A program whose only form is the console.
-class MorlanAlone : public AziendaAperta {
-protected:
-    MorlanAlone() {
-        gui.forms().add("Avvio_Morlan", [] { return std::make_unique<Avvio_Morlan>(); });
-        PilaForm = {"Avvio_Azienda", "Avvio_Morlan"};
-        CimaForm = 1;
-    }
-    support::DialogScript script;
-    support::Gui gui;
-};
-
-TEST_F(MorlanAlone, AFormThatIsNotThereLeavesTheConsoleInPlace) {
-    gui.forms().show("Avvio_Morlan");
-    for (const Comando& comando : kComandi) {
-        SCOPED_TRACE(comando.bottone);
-        gui.find<QTabWidget>("Avvio_Morlan", "SSTab1").setCurrentIndex(comando.scheda);
-        gui.click("Avvio_Morlan", comando.bottone);
-        EXPECT_EQ(gui.visibleForms(), "Avvio_Morlan");
-        EXPECT_EQ(PilaForm, (std::vector<std::string>{"Avvio_Azienda", "Avvio_Morlan"}));
-        EXPECT_EQ(QGuiApplication::overrideCursor(), nullptr);
-    }
-}
-
-TEST_F(MorlanFrame, ClosingGivesTheCompanyConsoleBack) {
-    apri();
-    gui.click("Avvio_Morlan", "Command13");
-    EXPECT_EQ(gui.visibleForms(), "Avvio_Azienda");
-    EXPECT_FALSE(gui.forms().isLoaded("Avvio_Morlan"));
-    EXPECT_EQ(CimaForm, 0);
-}
-
-class Stampante : public platform::Automation {
-public:
-    explicit Stampante(std::vector<std::string>& chiamate) : chiamate_(chiamate) {}
-    std::unique_ptr<platform::ReportApplication> createObject(const std::string& /*progId*/) override {
-        return std::make_unique<Programma>(chiamate_);
-    }
-
-private:
-    class Programma : public platform::ReportApplication {
-    public:
-        explicit Programma(std::vector<std::string>& chiamate) : chiamate_(chiamate) {}
-        void OpenCurrentDatabase(const std::string& path) override { chiamate_.push_back(path); }
-        void OpenReport(const std::string& report, int view) override {
-            chiamate_.push_back(report + " " + std::to_string(view));
-        }
-        void Maximize() override {}
-        void ShowActiveReport() override {}
-        void ShowApplication() override {}
-        void Close() override {}
-
-    private:
-        std::vector<std::string>& chiamate_;
-    };
-    std::vector<std::string>& chiamate_;
-};
-
-TEST_F(MorlanFrame, TheReportIsShownInPrintPreview) {
-    std::vector<std::string> chiamate;
-    platform::setAutomation(std::make_unique<Stampante>(chiamate));
-    PercorsoFileLocale = "C:\\Vabo\\Files\\aurora.mdb";
-    apri();
-    gui.click("Avvio_Morlan", "Command39");
-    platform::setAutomation(nullptr);
-    EXPECT_EQ(chiamate, (std::vector<std::string>{"C:\\Vabo\\Files\\aurora.mdb", "AccessoMorlan 2"}));
 }
 
 struct Layout {

@@ -89,6 +89,22 @@ TEST_F(MorlanIva, AShareOfZeroStopsAheadOfTheStoreToo) {
     EXPECT_EQ(standard(), prima);
 }
 
+TEST_F(MorlanIva, AStandardThatSomebodyElseHoldsIsToldAndTheNextPickStoresIt) {
+    apriScheda();
+    const auto prima = standard();
+    {
+        const auto altro = posto.engineSession(support::kCompany);
+        const auto presa = altro->hold("select * from IvaAliquotaStandard");
+        script.expectMessage("Lock request time out period exceeded.");
+        prendi("DCBitem5", "Imponibile 10%");
+        EXPECT_TRUE(script.allShown());
+        EXPECT_EQ(standard(), prima);
+        EXPECT_EQ(campi(), (Campi{"Imponibile 10%", "10,00", "100,00", "10"})) << "the screen is ahead of the row";
+    }
+    prendi("DCBitem5", "Imponibile 10%");
+    EXPECT_EQ(standard(), (std::vector<Riga>{{"3", "10,00", "10", "100,00"}}));
+}
+
 TEST_F(MorlanIva, ABoundTextBelowTwoGoesBackToTheStoredOne) {
     esegui("update IvaAliquotaStandard set idTipo = 3, Aliquota = 'vecchia'");
     apriScheda();

@@ -1,9 +1,7 @@
 #include "MorlanFixture.h"
 
 #include <array>
-#include <cctype>
 #include <iterator>
-#include <ostream>
 #include <set>
 #include <sstream>
 
@@ -24,9 +22,6 @@ protected:
     static std::set<std::string> nomi(const std::string& elenco) {
         std::istringstream parole(elenco);
         return {std::istream_iterator<std::string>(parole), {}};
-    }
-    std::string nomeDi(const std::string& id) const {
-        return valore("select NomeConto from conti where IdConto = " + id);
     }
 };
 
@@ -156,145 +151,6 @@ TEST_F(MorlanNulli, AStandardRowOfNullsIsWrittenByTheNextPick) {
     prendi("DCBitem5", "Imponibile 10%");
     EXPECT_EQ(posto.rows(support::kCompany, "select idTipo, Aliquota, Sigla, Detrazione from IvaAliquotaStandard"),
               (std::vector<Riga>{{"3", "10,00", "10", "100,00"}}));
-}
-
-/// One of the four grids, with the row that is chosen in it.
-struct Griglia {
-    int scheda;
-    const char* nome;
-    const char* riga;
-    const char* descrizione; ///< the field that repeats the row's description, where there is one
-    const char* selettore;
-    const char* tabella;
-    const char* chiave;
-};
-constexpr Griglia kUtili = {1, "DataGrid2", "4", "Descrizione", "DCBItem1", "TabellaContiUtili", "ID"};
-constexpr Griglia kAltri = {2, "DataGrid4", "2", "tipoanagrafe", "DCBitem2", "tipoanagrafica", "IdTipoAnagrafica"};
-constexpr Griglia kFatture = {4, "DataGrid11", "3", nullptr, "DCBItems3", "ivaTabellaContiUtili", "ID"};
-constexpr Griglia kBuste = {5, "DataGridPersonale", "3", nullptr, "DCBitems4", "bustetabellacontiutili", "Id"};
-
-/// A null, and the result of choosing its row and pressing Enter.
-struct Scelta {
-    const char* comando;
-    const Griglia& griglia;
-    const char* descritta;
-    const char* mostrato; ///< the account's number is used as its name
-    const char* scatola;  ///< the box that Enter shows, "" for none
-    const char* conto;
-    const char* gruppo;
-};
-std::ostream& operator<<(std::ostream& out, const Scelta& scelta) {
-    return out << scelta.comando;
-}
-
-class MorlanNulliNellaRiga : public MorlanNulli, public testing::WithParamInterface<Scelta> {};
-
-TEST_P(MorlanNulliNellaRiga, ItCanBeChosenAndStored) {
-    const Scelta& scelta = GetParam();
-    const Griglia& g = scelta.griglia;
-    const std::string mostrato = std::isdigit(*scelta.mostrato) != 0 ? nomeDi(scelta.mostrato) : scelta.mostrato;
-    esegui(scelta.comando);
-    apri();
-    scheda(g.scheda);
-    scegli(g.nome, g.riga);
-    if (g.descrizione != nullptr) {
-        EXPECT_EQ(testo(g.descrizione), scelta.descritta);
-    }
-    EXPECT_EQ(combo(g.selettore).Text(), mostrato);
-    EXPECT_EQ(fuoco(), g.selettore);
-    if (*scelta.scatola != '\0') {
-        script.expectMessage(scelta.scatola);
-    }
-    gui.press(Qt::Key_Return);
-    EXPECT_TRUE(script.allShown());
-    EXPECT_EQ(conto(g.tabella, g.chiave, std::stoi(g.riga)), (Riga{scelta.conto, scelta.gruppo}));
-}
-
-constexpr const char* kBanca = "Banca della sede centrale";
-constexpr const char* kEstero = "Fornitori estero";
-constexpr const char* kNullo = "Invalid use of Null";
-
-// Failing statements are skipped.
-INSTANTIATE_TEST_SUITE_P(
-    ContiUtili, MorlanNulliNellaRiga,
-    testing::Values(
-        Scelta{"update TabellaContiUtili set Description = null where ID = 4", kUtili, "", "1150", "", "1150", "39"},
-        Scelta{"update TabellaContiUtili set IdConto = null where ID = 4", kUtili, kBanca, "", "", "0", "0"},
-        Scelta{"update TabellaContiUtili set idconto1 = null where ID = 4", kUtili, kBanca, "1150", "", "1150", "39"},
-        Scelta{"update TabellaContiUtili set IdProgetto = null where ID = 4", kUtili, kBanca, "1150", "", "1150", "39"},
-        Scelta{"update conti set NomeConto = null where IdConto = 1150", kUtili, kBanca, "", "", "1150", "39"},
-        Scelta{"update conti set IdGruppoVabo = null where IdConto = 1150", kUtili, kBanca, "1150", "", "1150", "39"},
-        Scelta{"update conti set idmastro = null where IdConto = 1150", kUtili, kBanca, "1150", "", "1150", "39"},
-        Scelta{"update gruppivabo set dettagli = null where idgruppo = 39", kUtili, kBanca, "1150", "", "1150", "39"},
-        Scelta{"update progetti set Type = null, Number = null", kUtili, kBanca, "1150", "", "1150", "39"}));
-
-// Errors are shown. Where name and account are null, the former ones stay.
-INSTANTIATE_TEST_SUITE_P(
-    AltriConti, MorlanNulliNellaRiga,
-    testing::Values(Scelta{"update tipoanagrafica set TipoAnagrafe = null where IdTipoAnagrafica = 2", kAltri, "",
-                           "1076", "", "1076", "25"},
-                    Scelta{"update tipoanagrafica set idconto = null where IdTipoAnagrafica = 2", kAltri, kEstero,
-                           "Seleziona", "", "0", "0"},
-                    Scelta{"update tipoanagrafica set idconto1 = null where IdTipoAnagrafica = 2", kAltri, kEstero,
-                           "1076", "", "1076", "25"},
-                    Scelta{"update conti set NomeConto = null where IdConto = 1076", kAltri, kEstero, "Seleziona", "",
-                           "1076", "25"},
-                    Scelta{"update conti set IdGruppoVabo = null where IdConto = 1076", kAltri, kEstero, "1076", kNullo,
-                           "1076", "25"},
-                    Scelta{"update gruppivabo set dettagli = null where idgruppo = 25", kAltri, kEstero, "1076", "",
-                           "1076", "25"}));
-
-// A null name isn't greater than zero: the picker and the account stay as they were.
-INSTANTIATE_TEST_SUITE_P(
-    Fatture, MorlanNulliNellaRiga,
-    testing::Values(
-        Scelta{"update ivaTabellaContiUtili set Description = null where ID = 3", kFatture, "", "1086", "", "1086",
-               "26"},
-        Scelta{"update ivaTabellaContiUtili set idconto = null where ID = 3", kFatture, "", "Seleziona", "", "0", "0"},
-        Scelta{"update ivaTabellaContiUtili set idconto1 = null where ID = 3", kFatture, "", "1086", "", "1086", "26"},
-        Scelta{"update ivaTabellaContiUtili set idProgetto = null where ID = 3", kFatture, "", "1086", "", "1086",
-               "26"},
-        Scelta{"update conti set NomeConto = null where IdConto = 1086", kFatture, "", "Seleziona", "", "0", "0"},
-        Scelta{"update conti set IdGruppoVabo = null where IdConto = 1086", kFatture, "", "1086", kNullo, "1086", "26"},
-        Scelta{"update progetti set Description = null", kFatture, "", "1086", "", "1086", "26"}));
-
-INSTANTIATE_TEST_SUITE_P(
-    Buste, MorlanNulliNellaRiga,
-    testing::Values(
-        Scelta{"update bustetabellacontiutili set description = null where Id = 3", kBuste, "", "1080", "", "1080",
-               "26"},
-        Scelta{"update bustetabellacontiutili set idconto = null where Id = 3", kBuste, "", "Seleziona", "", "0", "0"},
-        Scelta{"update bustetabellacontiutili set idconto1 = null where Id = 3", kBuste, "", "1080", "", "1080", "26"},
-        Scelta{"update conti set NomeConto = null where IdConto = 1080", kBuste, "", "Seleziona", "", "0", "0"},
-        Scelta{"update conti set IdGruppoVabo = null where IdConto = 1080", kBuste, "", "1080", "", "1080", "26"}));
-
-TEST_F(MorlanNulli, ARowWhoseKeyCountsAsNothingIsNotChosen) {
-    const Griglia griglie[] = {kUtili, kAltri, kFatture, kBuste};
-    for (const Griglia& g : griglie) {
-        esegui(std::string("update ") + g.tabella + " set " + g.chiave + " = 0 where " + g.chiave + " = " + g.riga);
-    }
-    apri();
-    for (const Griglia& g : griglie) {
-        SCOPED_TRACE(g.nome);
-        scheda(g.scheda);
-        const std::string prima = combo(g.selettore).Text();
-        scegli(g.nome, "0");
-        EXPECT_EQ(fuoco(), g.nome);
-        EXPECT_EQ(combo(g.selettore).Text(), prima);
-    }
-    EXPECT_FALSE(visibile("Frame6"));
-    EXPECT_FALSE(visibile("Frame2"));
-}
-
-TEST_F(MorlanNulli, AnAccountWithoutAMasterIsNoEconomicOne) {
-    esegui("update conti set idmastro = null where IdConto = 1038");
-    apri();
-    scheda(1);
-    scegli("DataGrid2", "8");
-    const support::StatementRecorder recorder;
-    gui.press(Qt::Key_Return);
-    EXPECT_TRUE(visibile("Frame6"));
-    EXPECT_TRUE(recorder.holding("tabellacontiutili").empty());
 }
 
 TEST_F(MorlanNulli, AnAccountWithoutNameOrCodeStandsInTheListsWithoutText) {

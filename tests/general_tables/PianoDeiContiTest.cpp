@@ -72,6 +72,18 @@ TEST_F(PianoDeiContiTest, TheProposedLengthsOfAnOwnChartDifferFromTheStandardOne
     EXPECT_EQ(lunghezze(), (Riga{"-1", "3", "2", "3", "0"}));
 }
 
+TEST_F(PianoDeiContiTest, AnOwnChartWritesItsFiveRowsWhereThereAreNone) {
+    esegui("delete from TabellaUilityConti where id < 6");
+    support::DialogScript script;
+    aspettaDomande(script, "5", "6", "7");
+    DefinisciPianoDeiConti(1);
+    EXPECT_EQ(righe(), (std::vector<Riga>{{"1", "-1", "Standard"},
+                                          {"2", "5", "Mastro"},
+                                          {"3", "6", "Conto"},
+                                          {"4", "7", "S/Conto"},
+                                          {"5", "-1", "Budget Ong Automatico"}}));
+}
+
 TEST_F(PianoDeiContiTest, AnswersThatAreNothingOrNoNumberFallBack) {
     for (const char* risposta : {"", " ", "0", "00", "000", "0000", "0,00", "abc", "3 x", "'; drop table conti --"}) {
         SCOPED_TRACE(risposta);

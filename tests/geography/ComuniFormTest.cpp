@@ -52,6 +52,7 @@ TEST_F(ComuniForm, ItsTimerRunsOnceUnderTheHourglassAndStaysOff) {
     });
     GrigliaForm::apri();
     auto& timer = pagina.control<controls::Timer>("Timer1");
+    EXPECT_EQ(timer.Interval(), 1);
     support::Gui::waitFor("the timer", [&] { return !timer.isOn(); });
     EXPECT_EQ(combo(), "Seleziona");
     EXPECT_EQ(puntatori, (std::vector{Qt::ArrowCursor, Qt::ArrowCursor, Qt::WaitCursor, Qt::WaitCursor}));
@@ -90,6 +91,8 @@ TEST_F(ComuniForm, ItsTextsStandLetterForLetter) {
         EXPECT_FALSE(pagina.control(campo).accessibleName().isEmpty()) << campo;
     }
     EXPECT_EQ(testo("titolo"), "Elenco Comuni");
+    EXPECT_EQ(testo("istruzioni"), "Un clic, Spazio o Invio su una riga la porta nei campi. La riga si registra quando "
+                                   "si lascia Stato. Un doppio clic o Ctrl+Invio su Stato apre gli stati.");
     EXPECT_EQ(gui.mnemonics("frmComuni"), "CN");
 }
 
@@ -142,6 +145,28 @@ TEST_F(ComuniForm, AStateWithoutANameIsTakenAtTheStart) {
     EXPECT_GT(pagina.combo("DataCombo1").count(), 200) << "no filter is left";
     scrivi({"Palestrina", "RM", "00036", ""});
     EXPECT_EQ(comune("Palestrina")[3], idStato(""));
+}
+
+TEST_F(ComuniForm, AClickOnAStateOfTheListStoresTheMunicipality) {
+    apri();
+    scrivi({"Palestrina", "RM", "00036"});
+    pagina.pickByMouse("DataCombo1", "Kenya");
+    EXPECT_EQ(fuoco(), "DES_COMUNE");
+    EXPECT_EQ(comune("Palestrina"), (Riga{"Palestrina", "RM", "00036", idStato("Kenya")}));
+}
+
+TEST_F(ComuniForm, AStateWithoutAKeyInTheListIsToldAndStoresNothing) {
+    esegui("drop table stati create table stati (IdStato int null, DescStato nvarchar(100) null)");
+    esegui("insert into stati values (1, 'Italia'), (null, 'Senza')");
+    apri();
+    scrivi({"Palestrina", "RM", "00036"});
+    script.expectMessage("Type mismatch");
+    pagina.pick("DataCombo1", "Senza");
+    EXPECT_TRUE(script.allShown());
+    EXPECT_EQ(fuoco(), "DataCombo1");
+    EXPECT_EQ(quanti("Comuni where DES_COMUNE = 'Palestrina'"), 0);
+    pagina.pick("DataCombo1", "Italia");
+    EXPECT_EQ(comune("Palestrina")[3], "1");
 }
 
 TEST_F(ComuniForm, StatesThatCannotBeReadAreToldByTheLoadAndByTheTimer) {

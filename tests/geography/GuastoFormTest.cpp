@@ -25,15 +25,32 @@ struct Lavoro {
     const char* tabella;
     const char* colonna;
     Riga valori; ///< ends with the field whose leaving stores the row
+    /// The boxes of a load, by the statement ahead of which the server ends.
+    std::vector<Testi> scatole;
+    int istruzioni; ///< of a save
 };
 
 void PrintTo(const Lavoro& lavoro, std::ostream* out) {
     *out << lavoro.form;
 }
 
-const Lavoro kStati = {
-    "stati", "stati", "stati", "DescStato", {"Repubblica del Kosovo", "Illiria", "17022008", "", "EUR"}};
-const Lavoro kComuni = {"frmComuni", "frmcomuni", "Comuni", "DES_COMUNE", {"Palestrina", "RM", "00036", "Italia"}};
+constexpr const char* kNonImpostato = "Object variable or With block variable not set";
+
+const Lavoro kStati = {"stati",
+                       "stati",
+                       "stati",
+                       "DescStato",
+                       {"Repubblica del Kosovo", "Illiria", "17022008", "", "EUR"},
+                       {{kLinkFailure}, {kLinkFailure}},
+                       6};
+// Behind a load that ended, the timer finds no list of states, or one that it can't read again.
+const Lavoro kComuni = {"frmComuni",
+                        "frmcomuni",
+                        "Comuni",
+                        "DES_COMUNE",
+                        {"Palestrina", "RM", "00036", "Italia"},
+                        {{kLinkFailure, kNonImpostato}, {kLinkFailure, kLinkFailure}, {kLinkFailure}, {kLinkFailure}},
+                        4};
 
 class GuastoGriglia : public GrigliaForm, public testing::WithParamInterface<Lavoro> {
 protected:
@@ -95,6 +112,11 @@ protected:
         esegui(std::string("delete from ") + GetParam().tabella + " where " + GetParam().colonna + " = '" +
                GetParam().valori.front() + "'");
     }
+    /// A connection that the driver kept for more than a second is asked first, and then a login fails: the same.
+    static Testi perdute(Testi testi) {
+        std::ranges::replace(testi, std::string(kOutOfReach), std::string(kLinkFailure));
+        return testi;
+    }
     void verificaInOrdine() const {
         EXPECT_TRUE(gui.isVisible(form));
         EXPECT_TRUE(gui.form(form).isEnabled());
@@ -106,15 +128,14 @@ protected:
 
 TEST_P(GuastoGriglia, AtWhateverStatementOfTheLoadTheServerEndsItIsToldAndTheFormOpensAgain) {
     const int quante = conGuasto(0, [this] { carica(); });
-    ASSERT_GE(quante, 2);
+    ASSERT_EQ(static_cast<std::size_t>(quante), GetParam().scatole.size());
     const int righe = pagina.rows("DataGrid1");
     for (int fatale = 1; fatale <= quante; ++fatale) {
         SCOPED_TRACE(fatale);
         {
             const support::HeardBoxes scatole;
             conGuasto(fatale, [this] { riapri(); });
-            EXPECT_THAT(scatole.texts.size(), AnyOf(1U, 2U));
-            EXPECT_THAT(scatole.texts.front(), AnyOf(kOutOfReach, kLinkFailure));
+            EXPECT_EQ(perdute(scatole.texts), GetParam().scatole.at(static_cast<std::size_t>(fatale - 1)));
         }
         verificaInOrdine();
         guasto.repair();
@@ -129,7 +150,7 @@ TEST_P(GuastoGriglia, AtWhateverStatementOfASaveTheServerEndsTheRowIsWholeOrMiss
     carica();
     scrivi();
     const int quante = conGuasto(0, [this] { registra(); });
-    ASSERT_GE(quante, 4);
+    ASSERT_EQ(quante, GetParam().istruzioni);
     const auto dopo = tutta();
     ASSERT_EQ(nuove(), 1);
     int mancate = 0;
@@ -162,8 +183,9 @@ TEST_P(GuastoGriglia, AtWhateverStatementOfASaveTheServerEndsTheRowIsWholeOrMiss
 TEST_P(GuastoGriglia, AServerThatFallsSilentInASaveIsWaitedForOnce) {
     constexpr qint64 kUnAttesa = 10'000; // one second, and as long again for the answer to its cancel
     carica();
-    for (const int fatale : {1, 2, 3}) {
+    for (int fatale = 1; fatale <= GetParam().istruzioni; ++fatale) {
         SCOPED_TRACE(fatale);
+        togli();
         scrivi();
         QElapsedTimer tempo;
         {
@@ -175,9 +197,13 @@ TEST_P(GuastoGriglia, AServerThatFallsSilentInASaveIsWaitedForOnce) {
         }
         EXPECT_LT(tempo.elapsed(), kUnAttesa);
         verificaInOrdine();
+        EXPECT_EQ(testo(GetParam().colonna) == GetParam().valori.front(), fatale == 1) << "told, the fields stay";
         guasto.repair();
         riprendiAzienda();
         riapri();
+        if (fatale != 2) { // that one writes the row: the server may still take it when it goes on
+            EXPECT_EQ(nuove(), fatale > 2 ? 1 : 0);
+        }
     }
 }
 

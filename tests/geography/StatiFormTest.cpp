@@ -42,7 +42,27 @@ TEST_F(StatiForm, ItsTextsStandLetterForLetter) {
         EXPECT_EQ(etichetta.buddy(), &pagina.control(campo));
         EXPECT_FALSE(pagina.control(campo).accessibleName().isEmpty()) << campo;
     }
+    EXPECT_EQ(testo("titolo"), "Stati");
+    EXPECT_EQ(testo("istruzioni"), "Un clic, Spazio o Invio su una riga la porta nei campi. La riga si registra quando "
+                                   "si lascia Iso Valuta.");
     EXPECT_EQ(gui.mnemonics("stati"), "CN");
+}
+
+TEST_F(StatiForm, AClickOnAnAreaOfTheListGoesOnToTheDate) {
+    apri();
+    vaiA("DescStato");
+    pagina.pickByMouse("DataCombo1", "Caraibi");
+    EXPECT_EQ(area(), "Caraibi");
+    EXPECT_EQ(fuoco(), "DataIstituzioneStato");
+}
+
+TEST_F(StatiForm, AnAreaWithoutATextStandsInTheListAsAnEmptyOne) {
+    esegui("insert into ZoneGeografiche (Descrizione) values (null)");
+    apri();
+    EXPECT_EQ(pagina.combo("DataCombo1").count(), quanti("ZoneGeografiche"));
+    EXPECT_GE(pagina.combo("DataCombo1").findText("", Qt::MatchExactly), 0);
+    scrivi(kKosovo);
+    EXPECT_EQ(stato("Repubblica del Kosovo")[4], "Balcani");
 }
 
 TEST_F(StatiForm, StartsWithEmptyFieldsAndTheFocusOnTheName) {

@@ -36,6 +36,18 @@ TEST_F(StatiNomi, ADuplicateIsToldAndTheFieldsAreEmptied) {
     EXPECT_TRUE(script.allShown()) << "the next state is still a new one";
 }
 
+TEST_F(StatiNomi, ADuplicateLeavesTheFocusWhereItWent) {
+    apri();
+    gui.click("stati", "Command1");
+    scrivi({"Kenya", "Balcani", "", ""});
+    gui.type("EUR");
+    script.expectMessage(kStatoDoppio);
+    gui.click("stati", "DataIstituzioneStato");
+    EXPECT_TRUE(script.allShown());
+    EXPECT_EQ(campi(), kStatoVuoto);
+    EXPECT_EQ(fuoco(), "DataIstituzioneStato");
+}
+
 TEST_F(StatiNomi, AfterASaveTheNextStateIsNew) {
     apri();
     scegli("Kenya");
@@ -134,6 +146,49 @@ TEST_F(StatiNomi, WhateverIsTypedLeavesTheFormInOrder) {
             gui.click("stati", "Command1");
         }
     }
+}
+
+/// An area that is typed, the box of the store, and whether it stands in the list of areas then.
+struct AreaTipica {
+    std::string area;
+    bool nellaLista;
+};
+
+TEST_F(StatiNomi, WhateverAreaIsTypedTheStateIsStoredAndOnlyAStatementThatFailsLeavesTheListAsItWas) {
+    const AreaTipica casi[] = {{"\"", true},           {";", true},
+                               {"a;b", true},          {"--", true},
+                               {"/* x", true},         {"l'Est", false},
+                               {"'", false},           {"x'; delete from Comuni where idautonumber = 5 --", true},
+                               {"\x01\x1b\x7f", true}, {"città ’ß€", true}};
+    apri();
+    gui.click("stati", "Command1");
+    for (const auto& [area, nellaLista] : casi) {
+        SCOPED_TRACE(area);
+        const int prima = pagina.combo("DataCombo1").count();
+        pagina.control<controls::TextBox>("DescStato").setText("Prova");
+        vaiA("DataCombo1");
+        pagina.combo("DataCombo1").lineEdit()->selectAll();
+        pagina.combo("DataCombo1").lineEdit()->insert(QString::fromStdString(area));
+        vaiA("IsoValuta");
+        vaiA("DescStato");
+        EXPECT_EQ(stato("Prova")[4], area);
+        EXPECT_EQ(campi(), kStatoVuoto);
+        EXPECT_EQ(pagina.combo("DataCombo1").count(), prima + (nellaLista ? 1 : 0));
+        EXPECT_EQ(pagina.combo("DataCombo1").findText(QString::fromStdString(area), Qt::MatchExactly) >= 0, nellaLista);
+        esegui("delete from stati where DescStato = 'Prova'");
+        gui.click("stati", "Command4");
+        apri();
+        gui.click("stati", "Command1");
+    }
+    EXPECT_EQ(quanti("Comuni where idautonumber = 5"), 0) << "a second statement behind the area is run";
+    pagina.control<controls::TextBox>("DescStato").setText("Prova");
+    vaiA("DataCombo1");
+    pagina.combo("DataCombo1").lineEdit()->selectAll();
+    pagina.combo("DataCombo1").lineEdit()->insert(QString(4'000, 'x'));
+    vaiA("IsoValuta");
+    vaiA("DescStato");
+    EXPECT_EQ(stato("Prova")[4], kNulla) << "too long for its column";
+    EXPECT_EQ(campi(), kStatoVuoto);
 }
 
 } // namespace

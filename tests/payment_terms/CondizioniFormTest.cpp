@@ -133,6 +133,35 @@ TEST_F(FormCondizioni, APickedRowIsShownInTheFields) {
     EXPECT_EQ(fuoco(), "IDDecorrenza");
 }
 
+TEST_F(FormCondizioni, LargeKeysEnterTheFiltersInPlainDigits) {
+    esegui("drop table CondizioniPagamentoDecorrenza create table CondizioniPagamentoDecorrenza (IDDecorrenza int, "
+           "Descrizione nvarchar(255))");
+    esegui("insert into CondizioniPagamentoDecorrenza values (1234567, 'Regola lontana'), (2, 'Fine mese')");
+    esegui("drop table CondizioniPagamentoTipoIncasso create table CondizioniPagamentoTipoIncasso (IdTipoRimessa int, "
+           "Descrizione nvarchar(50))");
+    esegui("insert into CondizioniPagamentoTipoIncasso values (7654321, 'Tipo lontano'), (2, 'Bonifico bancario')");
+    esegui("update CondizioniPagamento set IDDecorrenza = 1234567, IdTipoRimessa = 7654321 where IDPagamento = 4");
+    apri();
+    scegli(4);
+    EXPECT_EQ(decorrenza(), "Regola lontana");
+    EXPECT_EQ(tipo(), "Tipo lontano");
+}
+
+TEST_F(FormCondizioni, AClickOnARowOfAListIsAPick) {
+    apri();
+    scegli(3);
+    pagina.pickByMouse("IDDecorrenza", "Sc.il 10 del mese");
+    EXPECT_EQ(fuoco(), "RataAnticipo");
+    EXPECT_EQ(decorrenza(), "Sc.il 10 del mese");
+    pagina.pickByMouse("IdTipoRimessa", "Assegno");
+    EXPECT_EQ(fuoco(), "Descrizione");
+    EXPECT_EQ(testo("Descrizione"), "Assegno a 30-60-90 Sc.il 10 del mese");
+    invio();
+    const Riga scritta = condizione("IDPagamento = 3");
+    EXPECT_EQ(scritta[2], "4");
+    EXPECT_EQ(scritta[5], "4");
+}
+
 TEST_F(FormCondizioni, AfterAPickEveryRuleAndKindCanBeChosen) {
     apri();
     scegli(3);

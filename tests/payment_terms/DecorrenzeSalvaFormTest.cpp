@@ -183,10 +183,54 @@ TEST_F(FormDecorrenze, HostileTextsInTheNumbersAreRefusedByTheirColumnsAndTold) 
             vaiA("GiornoScadenza");
         }
     }
-    campo("Mese1").setText("agosto");
-    script.expectMessage("Type mismatch");
-    vaiA("Descrizione");
     EXPECT_EQ(quanti("CondizioniPagamentoDecorrenza"), 8);
+}
+
+TEST_F(FormDecorrenze, AHostileMonthIsToldWhenTheFocusReachesTheName) {
+    const std::pair<std::string, const char*> casi[] = {{"agosto", "Type mismatch"},
+                                                        {"'", "Type mismatch"},
+                                                        {"1; delete from stati", "Type mismatch"},
+                                                        {"--", "Type mismatch"},
+                                                        {"\x01", "Type mismatch"},
+                                                        {std::string(4'000, 'x'), "Type mismatch"},
+                                                        {std::string(400, '9'), "Type mismatch"},
+                                                        {"99999999999", "Overflow"}};
+    apri();
+    for (const auto& [mese, detto] : casi) {
+        for (const char* nome : {"Mese1", "Mese2", "Mese3"}) {
+            SCOPED_TRACE(mese.substr(0, 20) + " in " + nome);
+            scegli(4);
+            campo(nome).setText(mese);
+            script.expectMessage(detto);
+            vaiA("Descrizione");
+            EXPECT_TRUE(script.allShown());
+            EXPECT_EQ(testo("Descrizione"), "Sc.il 10 del mese del mese") << "what comes ahead of the month";
+            EXPECT_EQ(testo(nome), mese);
+            EXPECT_EQ(fuoco(), "Descrizione");
+        }
+    }
+    EXPECT_EQ(regola("IDDecorrenza = 4"), (Riga{"Sc.il 10 del mese", "10", "0", "0", "0", "0", "0", "0"}));
+}
+
+TEST_F(FormDecorrenze, ARuleThatSomebodyElseHoldsIsToldAndASecondTryStoresIt) {
+    apri();
+    scegli(5);
+    vaiA("Descrizione");
+    gui.type("Nuovo nome");
+    const Riga scritti = campi();
+    {
+        const auto altro = posto.engineSession(support::kCompany);
+        const auto tenuta = altro->hold("select * from CondizioniPagamentoDecorrenza where IDDecorrenza = 5");
+        script.expectMessage("Lock request time out period exceeded.");
+        invio();
+        EXPECT_TRUE(script.allShown());
+    }
+    EXPECT_EQ(campi(), scritti);
+    EXPECT_EQ(fuoco(), "Descrizione");
+    EXPECT_EQ(regola("IDDecorrenza = 5")[0], "Sc.il 10 - 25 del mese");
+    invio();
+    EXPECT_EQ(regola("IDDecorrenza = 5")[0], "Nuovo nome");
+    EXPECT_EQ(campi(), kRegolaVuota);
 }
 
 TEST_F(FormDecorrenze, ARuleIsEnteredChangedAndLeftByKeyboardAlone) {

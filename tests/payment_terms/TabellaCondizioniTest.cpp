@@ -49,6 +49,12 @@ long errore(const ChiaviCondizione& chiavi, const CampiCondizione& campi) {
 
 constexpr long kValoreRifiutato = -2147217887;
 
+TEST_F(TabellaCondizioni, AKeyGoesIntoItsStatementInPlainDigits) {
+    const support::StatementRecorder recorder;
+    EXPECT_NE(errore({.pagamento = 1'000'000, .decorrenza = 1, .tipoRimessa = 1}, campi("Prova", {"30"})), 0);
+    EXPECT_EQ(recorder.texts(), Testi{" SELECT * from CondizioniPagamento WHERE  idpagamento = 1000000"});
+}
+
 TEST_F(TabellaCondizioni, TheListsAreReadLetterForLetter) {
     EXPECT_EQ(ElencoCondizioni(), kElenco);
     EXPECT_EQ(ElencoRegole(), "SELECT * from  CondizioniPagamentoDecorrenza order by Descrizione");

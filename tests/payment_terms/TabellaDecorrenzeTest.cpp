@@ -59,6 +59,25 @@ TEST_F(TabellaDecorrenze, ARuleThatIsGoneIsAddedAgain) {
     EXPECT_EQ(quanti("CondizioniPagamentoDecorrenza where IDDecorrenza = 5"), 0) << "under another key";
 }
 
+TEST_F(TabellaDecorrenze, AKeyGoesIntoItsStatementInPlainDigits) {
+    const support::StatementRecorder recorder;
+    EXPECT_TRUE(SalvaDecorrenza(1'000'000, kCampi));
+    EXPECT_EQ(recorder.texts().front(), " SELECT * from CondizioniPagamentoDecorrenza WHERE  iddecorrenza = 1000000");
+}
+
+TEST_F(TabellaDecorrenze, ARuleThatSomebodyElseHoldsIsRefusedAtOnce) {
+    const Riga prima = regola("IDDecorrenza = 5");
+    {
+        const auto altro = posto.engineSession(support::kCompany);
+        const auto tenuta = altro->hold("select * from CondizioniPagamentoDecorrenza where IDDecorrenza = 5");
+        EXPECT_NE(errore(5, kCampi), 0);
+        EXPECT_FALSE(RsCondivisi(1).IsOpen()) << "it is given back";
+    }
+    EXPECT_EQ(regola("IDDecorrenza = 5"), prima);
+    EXPECT_TRUE(SalvaDecorrenza(5, kCampi));
+    EXPECT_EQ(regola("IDDecorrenza = 5")[0], "Prova");
+}
+
 TEST_F(TabellaDecorrenze, WhatIsEmptyIsStoredAsZero) {
     for (const char* vuoto : {"", " ", "0", "0,00"}) {
         EXPECT_TRUE(SalvaDecorrenza(5, {"Prova", {vuoto, vuoto, "15", vuoto}, {vuoto, "2", vuoto}})) << vuoto;

@@ -1,7 +1,11 @@
 #include "support/FormPage.h"
 
+#include <QApplication>
 #include <QCompleter>
+#include <QStyle>
+#include <QStyleOptionComboBox>
 #include <QTabWidget>
+#include <QTest>
 
 namespace support {
 
@@ -70,6 +74,32 @@ void FormPage::choose(const std::string& grid, const std::string& id) const {
 void FormPage::pick(const std::string& combo, const std::string& row) const {
     gui_->pick(form_, combo, row);
     comeToFront();
+}
+
+void FormPage::pickByMouse(const std::string& combo, const std::string& row) const {
+    controls::DataCombo& list = this->combo(combo);
+    const int wanted = list.findText(QString::fromStdString(row), Qt::MatchExactly | Qt::MatchCaseSensitive);
+    if (wanted < 0) {
+        throw std::runtime_error(form_ + "." + combo + " has no row " + row);
+    }
+    QStyleOptionComboBox shape;
+    shape.initFrom(&list);
+    shape.editable = true;
+    const QRect arrow = list.style()->subControlRect(QStyle::CC_ComboBox, &shape, QStyle::SC_ComboBoxArrow, &list);
+    QTest::mousePress(&list, Qt::LeftButton, Qt::NoModifier, arrow.center());
+    QAbstractItemView* view = list.view();
+    Gui::waitFor("the list of " + combo, [view] { return view->isVisible(); });
+    QTest::mouseRelease(&list, Qt::LeftButton, Qt::NoModifier, arrow.center());
+    const QModelIndex item = view->model()->index(wanted, 0);
+    view->scrollTo(item);
+    Gui::handleEvents();
+    QTest::qWait(QApplication::doubleClickInterval() + 1); // a list takes no release that belongs to its opening
+    const QPoint place = view->visualRect(item).center();
+    QTest::mouseMove(view->viewport(), place);
+    QTest::mouseClick(view->viewport(), Qt::LeftButton, Qt::NoModifier, place);
+    Gui::waitFor("the end of the list", [view] { return !view->isVisible(); });
+    comeToFront();
+    Gui::handleEvents();
 }
 
 QAbstractItemView& FormPage::search(const std::string& combo, const std::string& letters) const {

@@ -48,6 +48,8 @@ public:
 
     /// Picks a row of a combo's list.
     void pick(const std::string& combo, const std::string& row) const;
+    /// The same by mouse: opens the list at its arrow and clicks the row.
+    void pickByMouse(const std::string& combo, const std::string& row) const;
     /// Types into the combo, which must have the focus; the list of the rows found stays open.
     QAbstractItemView& search(const std::string& combo, const std::string& letters) const;
     /// The same, then closes the list without a pick.

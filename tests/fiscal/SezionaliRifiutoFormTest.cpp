@@ -31,6 +31,7 @@ public:
 };
 
 using Operazione = support::Operation<Sezionali>;
+using support::kRefused, support::kStored, support::kStoredKept, support::kStoredUnread, support::kStoredUnreadKept;
 
 void apriSu(Sezionali& form, const std::string& chiave) {
     form.apri();
@@ -45,8 +46,8 @@ TEST(SezionaliRifiuto, OfTheQuickSaveOfAKnownSection) {
                               form.scrivi("Mostre", "Arte", "2");
                           },
                       .act = [](Sezionali& form) { form.gui.press(Qt::Key_Return); },
-                      .once = {},
-                      .fromThere = {}});
+                      .once = {kRefused, kRefused, kRefused, kStoredUnread, kStoredUnread},
+                      .fromThere = {kRefused, kRefused, kRefused, kStoredUnread, kStoredUnread}});
 }
 
 TEST(SezionaliRifiuto, OfTheQuickSaveOfANewSection) {
@@ -57,8 +58,8 @@ TEST(SezionaliRifiuto, OfTheQuickSaveOfANewSection) {
                               form.scrivi("Mostre", "Arte", "4");
                           },
                       .act = [](Sezionali& form) { form.gui.press(Qt::Key_Tab); },
-                      .once = {},
-                      .fromThere = {}});
+                      .once = {kRefused, kRefused, kStored, kStoredUnread, kStoredUnread},
+                      .fromThere = {kRefused, kRefused, kStoredUnread, kStoredUnread, kStoredUnread}});
 }
 
 TEST(SezionaliRifiuto, OfTheAdditionOfANewSection) {
@@ -69,24 +70,24 @@ TEST(SezionaliRifiuto, OfTheAdditionOfANewSection) {
                               form.scrivi("Mostre", "Arte", "4");
                           },
                       .act = [](Sezionali& form) { form.premi("Command5"); },
-                      .once = {},
-                      .fromThere = {}});
+                      .once = {"silent; rows periods 3 3 3 NULL, counter 3, carries 250.10 33.00 0.00 0.00; list right; fields kept", kRefused, kRefused, kStoredKept, kStoredUnreadKept, kStoredUnreadKept},
+                      .fromThere = {kRefused, kRefused, kRefused, kStoredUnreadKept, kStoredUnreadKept, kStoredUnreadKept}});
 }
 
 TEST(SezionaliRifiuto, OfTheAdditionOverAKnownSection) {
     replay(Operazione{.tables = {"IvaSezionale"},
                       .reach = [](Sezionali& form) { apriSu(form, "2"); },
                       .act = [](Sezionali& form) { form.premi("Command5"); },
-                      .once = {},
-                      .fromThere = {}});
+                      .once = {"silent; rows periods 3 NULL 3, counter 3, carries 250.10 0.00 0.00; list right; fields kept", kRefused, kRefused, kRefused, kStoredUnreadKept, kStoredUnreadKept},
+                      .fromThere = {kRefused, kRefused, kRefused, kRefused, kStoredUnreadKept, kStoredUnreadKept}});
 }
 
 TEST(SezionaliRifiuto, OfThePeriodOfAllSections) {
     replay(Operazione{.tables = {"IvaSezionale", "contatorepd"},
                       .reach = [](Sezionali& form) { form.apri(); },
                       .act = [](Sezionali& form) { form.scegliLiquidazione(0); },
-                      .once = {},
-                      .fromThere = {}});
+                      .once = {"told it; rows before; list right; fields done", "told it; rows periods 1 1 1, counter 3, carries 250.10 33.00 0.00; list right; fields done", kStoredUnread, kStoredUnread},
+                      .fromThere = {"told it; rows before; list empty; fields done", "told it; rows periods 1 1 1, counter 3, carries 250.10 33.00 0.00; list empty; fields done", kStoredUnread, kStoredUnread}});
 }
 
 TEST(SezionaliRifiuto, OfAResetOfTheCounters) {
@@ -95,8 +96,8 @@ TEST(SezionaliRifiuto, OfAResetOfTheCounters) {
         replay(Operazione{.tables = {"IvaSezionale"},
                           .reach = [](Sezionali& form) { apriSu(form, "2"); },
                           .act = [comando](Sezionali& form) { form.premi(comando); },
-                          .once = {},
-                          .fromThere = {}});
+                          .once = {kRefused, kRefused, kRefused, kStoredUnreadKept, kStoredUnreadKept},
+                          .fromThere = {kRefused, kRefused, kRefused, kStoredUnreadKept, kStoredUnreadKept}});
     }
 }
 
@@ -104,16 +105,16 @@ TEST(SezionaliRifiuto, OfTheYearCarriedOver) {
     replay(Operazione{.tables = {"IvaSezionale"},
                       .reach = [](Sezionali& form) { apriSu(form, "2"); },
                       .act = [](Sezionali& form) { form.premi("Command4"); },
-                      .once = {},
-                      .fromThere = {}});
+                      .once = {kRefused, "silent; rows periods 3 3 3, counter 3, carries 77.80 0.00 0.00; list right; fields kept", "silent; rows periods 3 3 3, counter 3, carries 250.10 0.00 0.00; list right; fields kept", "silent; rows periods 3 3 3, counter 3, carries 77.80 0.00 0.00; list right; fields kept", "silent; rows periods 3 3 3, counter 3, carries 77.80 33.00 0.00; list right; fields kept", kStoredKept, kStoredKept, kStoredUnreadKept, kStoredUnreadKept},
+                      .fromThere = {kRefused, "told it; rows before; list empty; fields kept", "told it; rows before; list empty; fields kept", "told it; rows periods 3 3 3, counter 3, carries 77.80 33.00 0.00; list empty; fields kept", "told it; rows periods 3 3 3, counter 3, carries 77.80 33.00 0.00; list empty; fields kept", kStoredUnreadKept, kStoredUnreadKept, kStoredUnreadKept, kStoredUnreadKept}});
 }
 
 TEST(SezionaliRifiuto, OfADeletion) {
     replay(Operazione{.tables = {"IvaSezionale"},
                       .reach = [](Sezionali& form) { apriSu(form, "3"); },
                       .act = [](Sezionali& form) { form.premi("Command3"); },
-                      .once = {},
-                      .fromThere = {}});
+                      .once = {kRefused, kRefused, kStoredUnreadKept, kStoredUnreadKept},
+                      .fromThere = {kRefused, kRefused, kStoredUnreadKept, kStoredUnreadKept}});
 }
 
 } // namespace

@@ -34,6 +34,7 @@ struct Operation {
     std::set<std::string> tables;      ///< those of the company that it writes
     std::function<void(World&)> reach; ///< opens the form and fills it
     std::function<void(World&)> act;   ///< the keys that write; questions are answered with Yes
+    std::string folder = {};           ///< the answer where a folder is asked for
     /// What comes of each refusal, in the order of the requests; see `outcome`.
     Lines once, fromThere;
 };
@@ -95,7 +96,7 @@ Run play(const Operation<World>& operation, int place, Refusals::Lasting lasting
     operation.reach(world);
     run.before = momentOf(world);
     {
-        const HeardBoxes boxes(HeardBoxes::Answer::Yes);
+        const HeardBoxes boxes(HeardBoxes::Answer::Yes, operation.folder);
         refusals.begin(place, lasting);
         operation.act(world);
         run.asked = refusals.asked();
@@ -132,6 +133,16 @@ inline std::string outcome(const Run& run, const Run& undisturbed) {
                                                               : testing::PrintToString(after.fields);
     return toldBeyond(run, undisturbed) + "; rows " + rows + "; list " + list + "; fields " + fields;
 }
+
+// Outcomes that many operations have, for their tables.
+/// Nothing has happened but the box.
+inline constexpr const char* kRefused = "told it; rows before; list right; fields kept";
+/// It is stored as if nothing had been refused.
+inline constexpr const char* kStored = "silent; rows done; list right; fields done";
+inline constexpr const char* kStoredKept = "silent; rows done; list right; fields kept";
+/// It is stored, and the list couldn't be read again.
+inline constexpr const char* kStoredUnread = "told it; rows done; list empty; fields done";
+inline constexpr const char* kStoredUnreadKept = "told it; rows done; list empty; fields kept";
 
 /// Runs an operation undisturbed, and then with each of its requests refused.
 template<typename World>

@@ -22,16 +22,26 @@ public:
 };
 
 TEST(SedeRifiuto, OfItsCommand) {
-    replay(support::Operation<Sede>{.tables = {"sedecentrale", "DirectoryHQ", "Directorybackup"},
-                                    .reach =
-                                        [](Sede& form) {
-                                            form.apri();
-                                            form.scegli("4");
-                                        },
-                                    .act = [](Sede& form) { form.applica(); },
-                                    .folder = "C:\\Nuova",
-                                    .once = {},
-                                    .fromThere = {}});
+    replay(support::Operation<Sede>{
+        .tables = {"sedecentrale", "DirectoryHQ", "Directorybackup"},
+        .reach =
+            [](Sede& form) {
+                form.apri();
+                form.scegli("4");
+            },
+        .act = [](Sede& form) { form.applica(); },
+        .folder = "C:\\Nuova",
+        .once = support::inTurn(
+            {{4, support::kRefused},
+             {4,
+              "told it; rows branch 4, C:\\Vabo\\Server\\VaboDatiHQ, C:\\Vabo\\Server\\Backup; list right; fields kept"},
+             {4, "told it; rows branch 4, C:\\Nuova\\VaboDatiHQ, C:\\Vabo\\Server\\Backup; list right; fields kept"}}),
+        .fromThere = support::inTurn(
+            {{4, support::kRefused},
+             {4,
+              "told it; rows branch 4, C:\\Vabo\\Server\\VaboDatiHQ, C:\\Vabo\\Server\\Backup; list right; fields kept"},
+             {4,
+              "told it; rows branch 4, C:\\Nuova\\VaboDatiHQ, C:\\Vabo\\Server\\Backup; list right; fields kept"}})});
 }
 
 } // namespace

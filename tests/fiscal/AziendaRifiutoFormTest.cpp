@@ -33,8 +33,8 @@ TEST(AziendaRifiuto, OfTheStoreOfTheRow) {
                               form.metti("Banca", "Altra");
                           },
                       .act = [](Azienda& form) { form.salva(); },
-                      .once = {},
-                      .fromThere = {}});
+                      .once = support::inTurn({{3, support::kRefused}}),
+                      .fromThere = support::inTurn({{3, support::kRefused}})});
 }
 
 TEST(AziendaRifiuto, OfTheStoreOfTheFirstRow) {
@@ -46,8 +46,8 @@ TEST(AziendaRifiuto, OfTheStoreOfTheFirstRow) {
                               form.esegui("delete from DatiAzienda");
                           },
                       .act = [](Azienda& form) { form.salva(); },
-                      .once = {},
-                      .fromThere = {}});
+                      .once = support::inTurn({{2, support::kRefused}, {1, support::kStored}}),
+                      .fromThere = support::inTurn({{2, support::kRefused}, {1, support::kStored}})});
 }
 
 } // namespace

@@ -26,16 +26,27 @@ public:
 };
 
 TEST(BustePagaRifiuto, OfTheStoreOfAType) {
-    replay(support::Operation<BustePaga>{.tables = {"TipoAnagraficaCPartite"},
-                                         .reach =
-                                             [](BustePaga& form) {
-                                                 form.apri();
-                                                 form.prendi(0, 1099);
-                                                 form.prendi(5, 1180);
-                                             },
-                                         .act = [](BustePaga& form) { form.salva(); },
-                                         .once = {},
-                                         .fromThere = {}});
+    replay(support::Operation<BustePaga>{
+        .tables = {"TipoAnagraficaCPartite"},
+        .reach =
+            [](BustePaga& form) {
+                form.apri();
+                form.prendi(0, 1099);
+                form.prendi(5, 1180);
+            },
+        .act = [](BustePaga& form) { form.salva(); },
+        .once = support::inTurn(
+            {{1, support::kRefused},
+             {2, "silent; rows 1080 1082 1083 1089 1091 1180 44 1187 45 0 0 0 0 0 0; list right; fields kept"},
+             {2, "silent; rows 1099 1082 1083 1089 1091 1180 45 1187 45 0 0 0 0 0 0; list right; fields kept"},
+             {2, support::kStoredKept},
+             {2, "silent; rows 1099 1082 1083 1089 1091 1180 44 1187 45 0 45 0 0 0 0; list right; fields kept"},
+             {1, "silent; rows before; list right; fields kept"},
+             {2, support::kStoredKept},
+             {2, "silent; rows done; list empty; fields kept"}}),
+        .fromThere = support::inTurn({{1, support::kRefused},
+                                      {9, "silent; rows before; list empty; fields kept"},
+                                      {4, "silent; rows done; list empty; fields kept"}})});
 }
 
 } // namespace

@@ -32,7 +32,8 @@ private:
 
 class Condizioni : public Mondo<FormCondizioni> {
 public:
-    Condizioni() : Mondo(kCondizioni, "select IDPagamento, Descrizione from CondizioniPagamento order by Descrizione") {}
+    Condizioni()
+        : Mondo(kCondizioni, "select IDPagamento, Descrizione from CondizioniPagamento order by Descrizione") {}
 };
 
 class Decorrenze : public Mondo<FormDecorrenze> {
@@ -43,17 +44,21 @@ public:
 };
 
 TEST(CondizioniRifiuto, OfAKnownTerm) {
-    replay(support::Operation<Condizioni>{.tables = {"CondizioniPagamento"},
-                                          .reach =
-                                              [](Condizioni& form) {
-                                                  form.apri();
-                                                  form.scegli(3);
-                                                  form.campo("Scadenza1").setText("31");
-                                                  form.vaiA("Descrizione");
-                                              },
-                                          .act = [](Condizioni& form) { form.invio(); },
-                                          .once = {},
-                                          .fromThere = {}});
+    replay(support::Operation<Condizioni>{
+        .tables = {"CondizioniPagamento"},
+        .reach =
+            [](Condizioni& form) {
+                form.apri();
+                form.scegli(3);
+                form.campo("Scadenza1").setText("31");
+                form.vaiA("Descrizione");
+            },
+        .act = [](Condizioni& form) { form.invio(); },
+        .once = support::inTurn(
+            {{3, support::kRefused}, {2, support::kStoredUnread}, {4, "told it; rows done; list right; fields done"}}),
+        .fromThere = support::inTurn({{3, support::kRefused},
+                                      {2, support::kStoredUnread},
+                                      {4, "told it; rows done; list right; fields done"}})});
 }
 
 TEST(CondizioniRifiuto, OfANewTerm) {
@@ -64,22 +69,29 @@ TEST(CondizioniRifiuto, OfANewTerm) {
                                                   form.componi("Fine mese", "", {"30"}, "Assegno");
                                               },
                                           .act = [](Condizioni& form) { form.invio(); },
-                                          .once = {},
-                                          .fromThere = {}});
+                                          .once = support::inTurn({{2, support::kRefused},
+                                                                   {1, support::kStored},
+                                                                   {2, support::kStoredUnread},
+                                                                   {4, "told it; rows done; list right; fields done"}}),
+                                          .fromThere =
+                                              support::inTurn({{2, support::kRefused},
+                                                               {3, support::kStoredUnread},
+                                                               {4, "told it; rows done; list right; fields done"}})});
 }
 
 TEST(DecorrenzeRifiuto, OfAKnownRule) {
-    replay(support::Operation<Decorrenze>{.tables = {"CondizioniPagamentoDecorrenza"},
-                                          .reach =
-                                              [](Decorrenze& form) {
-                                                  form.apri();
-                                                  form.scegli(5);
-                                                  form.campo("GiornoScadenza").setText("12");
-                                                  form.vaiA("Descrizione");
-                                              },
-                                          .act = [](Decorrenze& form) { form.invio(); },
-                                          .once = {},
-                                          .fromThere = {}});
+    replay(support::Operation<Decorrenze>{
+        .tables = {"CondizioniPagamentoDecorrenza"},
+        .reach =
+            [](Decorrenze& form) {
+                form.apri();
+                form.scegli(5);
+                form.campo("GiornoScadenza").setText("12");
+                form.vaiA("Descrizione");
+            },
+        .act = [](Decorrenze& form) { form.invio(); },
+        .once = support::inTurn({{3, support::kRefused}, {2, support::kStoredUnread}}),
+        .fromThere = support::inTurn({{3, support::kRefused}, {2, support::kStoredUnread}})});
 }
 
 } // namespace

@@ -28,8 +28,9 @@ TEST(LoginRifiuto, OfANewUser) {
                               form.nuovo("mario");
                           },
                       .act = [](Utenti& form) { form.premi("cmdUpdate"); },
-                      .once = {},
-                      .fromThere = {}});
+                      .once =
+                          support::inTurn({{4, support::kRefused}, {1, support::kStored}, {2, support::kStoredUnread}}),
+                      .fromThere = support::inTurn({{4, support::kRefused}, {3, support::kStoredUnread}})});
 }
 
 TEST(LoginRifiuto, OfAKnownUser) {
@@ -41,8 +42,8 @@ TEST(LoginRifiuto, OfAKnownUser) {
                               form.nuovo("mario");
                           },
                       .act = [](Utenti& form) { form.premi("cmdUpdate"); },
-                      .once = {},
-                      .fromThere = {}});
+                      .once = support::inTurn({{5, support::kRefused}, {2, support::kStoredUnread}}),
+                      .fromThere = support::inTurn({{5, support::kRefused}, {2, support::kStoredUnread}})});
 }
 
 TEST(LoginRifiuto, OfADeletion) {
@@ -53,8 +54,8 @@ TEST(LoginRifiuto, OfADeletion) {
                               form.scegli("disabilitato");
                           },
                       .act = [](Utenti& form) { form.gui.press(Qt::Key_D, Qt::ControlModifier); },
-                      .once = {},
-                      .fromThere = {}});
+                      .once = support::inTurn({{1, support::kRefused}, {2, support::kStoredUnreadKept}}),
+                      .fromThere = support::inTurn({{1, support::kRefused}, {2, support::kStoredUnreadKept}})});
 }
 
 } // namespace

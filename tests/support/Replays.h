@@ -20,9 +20,11 @@
 #include <gtest/gtest.h>
 
 #include <functional>
+#include <initializer_list>
 #include <map>
 #include <set>
 #include <string>
+#include <utility>
 #include <vector>
 
 namespace support {
@@ -77,8 +79,7 @@ void expectWhole(World& world, const Operation<World>& operation, const Run& run
         }
     }
     for (const std::string& table : operation.tables) {
-        EXPECT_NO_THROW(
-            world.posto.run(kCompany, "begin transaction; delete from " + table + "; rollback transaction"))
+        EXPECT_NO_THROW(world.posto.run(kCompany, "begin transaction; delete from " + table + "; rollback transaction"))
             << "rows are held: " << table;
     }
     const HeardBoxes boxes;
@@ -122,15 +123,26 @@ inline std::string toldBeyond(const Run& run, const Run& undisturbed) {
     return texts.empty() ? "silent" : texts;
 }
 
+/// The fields that differ from what they were before.
+inline std::string changed(const Run& run) {
+    std::string texts;
+    for (std::size_t i = 0; i < run.after.fields.size(); ++i) {
+        if (i >= run.before.fields.size() || run.after.fields[i] != run.before.fields[i]) {
+            texts += (texts.empty() ? "" : ", ") + run.after.fields[i];
+        }
+    }
+    return "changed to " + texts;
+}
+
 /// A run in words: what was told; the rows as before, as after the undisturbed run or half; the list right (as the rows
-/// are), empty, or old (neither); the fields kept as before or left as by the undisturbed run.
+/// are), empty, or old (neither); the fields kept as before, left as by the undisturbed run, or changed.
 inline std::string outcome(const Run& run, const Run& undisturbed) {
     const Moment &before = run.before, &after = run.after, &done = undisturbed.after;
     const std::string rows = after.rows == before.rows ? "before" : after.rows == done.rows ? "done" : after.half;
     const std::string list = after.shown == after.held ? "right" : after.shown.empty() ? "empty" : "old";
-    const std::string fields = after.fields == before.fields  ? "kept"
+    const std::string fields = after.fields == before.fields ? "kept"
                                : after.fields == done.fields ? "done"
-                                                              : testing::PrintToString(after.fields);
+                                                             : changed(run);
     return toldBeyond(run, undisturbed) + "; rows " + rows + "; list " + list + "; fields " + fields;
 }
 
@@ -143,6 +155,15 @@ inline constexpr const char* kStoredKept = "silent; rows done; list right; field
 /// It is stored, and the list couldn't be read again.
 inline constexpr const char* kStoredUnread = "told it; rows done; list empty; fields done";
 inline constexpr const char* kStoredUnreadKept = "told it; rows done; list empty; fields kept";
+
+/// Each outcome that many times, for tables in which neighbours are alike.
+inline Lines inTurn(std::initializer_list<std::pair<int, std::string>> outcomes) {
+    Lines all;
+    for (const auto& [times, outcome] : outcomes) {
+        all.insert(all.end(), static_cast<std::size_t>(times), outcome);
+    }
+    return all;
+}
 
 /// Runs an operation undisturbed, and then with each of its requests refused.
 template<typename World>

@@ -16,6 +16,10 @@ foreach(sanitizer IN LISTS VABO_SANITIZE)
     target_link_options(vabo_options INTERFACE -fsanitize=${sanitizer})
 endforeach()
 
+if(VABO_COVERAGE)
+    target_link_options(vabo_options INTERFACE --coverage)
+endif()
+
 find_program(VABO_CCACHE ccache)
 if(VABO_CCACHE)
     set(CMAKE_CXX_COMPILER_LAUNCHER ${VABO_CCACHE})

@@ -1,5 +1,5 @@
 #!/usr/bin/env bash
-# Installs the Debian packages for the given purposes (build, test, check, bench). Does nothing where none is missing.
+# Installs the Debian packages for the given purposes (build, test, check, bench, coverage). Does nothing where none is missing.
 set -euo pipefail
 
 build=(g++ cmake ninja-build qt6-base-dev qt6-base-dev-tools libgl-dev qt6-translations-l10n libsqlite3-dev libicu-dev
@@ -7,6 +7,7 @@ build=(g++ cmake ninja-build qt6-base-dev qt6-base-dev-tools libgl-dev qt6-trans
 test=(libgtest-dev libgmock-dev librapidcheck-dev unixodbc python3)
 check=(clang-format clang-tidy python3)
 bench=(libbenchmark-dev)
+coverage=(gcovr)
 
 wanted=()
 for purpose in "$@"; do
@@ -15,8 +16,9 @@ for purpose in "$@"; do
     test) wanted+=("${test[@]}") ;;
     check) wanted+=("${check[@]}") ;;
     bench) wanted+=("${bench[@]}") ;;
+    coverage) wanted+=("${coverage[@]}") ;;
     *)
-        echo "usage: packages.sh [build] [test] [check] [bench]" >&2
+        echo "usage: packages.sh [build] [test] [check] [bench] [coverage]" >&2
         exit 2
         ;;
     esac

@@ -59,13 +59,16 @@ public:
     virtual std::string_view text(int field) const = 0;
 };
 
-/// Rows that no other connection can write while this object lives. Their own writes must go through `run`.
+/// Rows that no other connection can write until `release`, or while this object lives. Their own writes must go through
+/// `run`.
 class DriverHold {
 public:
     virtual ~DriverHold() = default;
     /// The held rows with their present values. To be called once, and read before `run` is called.
     virtual std::unique_ptr<DriverResult> rows() = 0;
     virtual std::unique_ptr<DriverResult> run(std::string_view text) = 0;
+    /// Throws Error where the server couldn't keep what was written meanwhile.
+    virtual void release() {}
 };
 
 class DriverConnection {

@@ -20,6 +20,11 @@ EmbeddedHome& home() {
     return current;
 }
 
+DriverWrapper& wrapper() {
+    static DriverWrapper current;
+    return current;
+}
+
 fs::path fromUtf8(std::string_view text) {
     return {std::u8string(text.begin(), text.end())};
 }
@@ -112,7 +117,12 @@ Driver& driverFor(const ConnectionString& text) {
     checkSecurity(text);
     std::error_code ignored;
     const bool embedded = !text.server().empty() && fs::is_directory(instanceFolder(text.server()), ignored);
-    return embedded ? embeddedDriver() : networkDriver();
+    Driver& chosen = embedded ? embeddedDriver() : networkDriver();
+    return wrapper() ? wrapper()(chosen) : chosen;
+}
+
+void setDriverWrapper(DriverWrapper newWrapper) {
+    wrapper() = std::move(newWrapper);
 }
 
 } // namespace ado

@@ -26,4 +26,8 @@ std::filesystem::path instanceFolder(std::string_view server);
 /// Nothing else configures it. Throws Error 3706 for an unknown provider.
 Driver& driverFor(const ConnectionString& text);
 
+/// Gives a driver that stands between the data layer and the chosen one. Tests set it.
+using DriverWrapper = std::function<Driver&(Driver&)>;
+void setDriverWrapper(DriverWrapper wrapper);
+
 } // namespace ado

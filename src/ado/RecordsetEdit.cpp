@@ -121,6 +121,9 @@ void Recordset::State::storeChanges() {
         if (written == 0) {
             throw Error(kRowChanged);
         }
+        if (hold) {
+            hold->release();
+        }
     } catch (Error& error) {
         error.during(text);
         throw;
@@ -145,13 +148,22 @@ void Recordset::State::storeNewRow() {
     std::vector<Value> row;
     for (std::size_t i = 0; i < fields.size(); ++i) {
         if (fields[i].identity) {
-            row.emplace_back(static_cast<std::int32_t>(driverConnection->lastIdentity()));
+            row.push_back(newIdentity());
         } else {
             row.push_back(assigned[i].value_or(Null{}));
         }
     }
     rows.append(row);
     cursor.added(rows.rows() - 1);
+}
+
+/// Null where it can't be read: the row is stored, and an error would make the user store it again.
+Value Recordset::State::newIdentity() const {
+    try {
+        return static_cast<std::int32_t>(driverConnection->lastIdentity());
+    } catch (const Error&) {
+        return Null{};
+    }
 }
 
 void Recordset::State::cancelUpdate() {

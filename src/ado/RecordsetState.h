@@ -67,6 +67,7 @@ private:
     void readHeldRow();
     void storeChanges();
     void storeNewRow();
+    ::ado::Value newIdentity() const;
     void endEdit();
 };
 

@@ -10,6 +10,7 @@
 #include "fiscal/SezionaliIva.h"
 #include "kit/ErrorHandling.h"
 #include "kit/IsEmptyValue.h"
+#include "kit/Regole.h"
 #include "kit/Testi.h"
 #include "session/TreatForms.h"
 #include "state/variabili.h"
@@ -85,11 +86,7 @@ void I_Iva_sezionali::CollegaComandi() {
     comando(ui_->Command2, [this] { return AzzeraContatori(Registro::Vendite, SezionaleCorrente); });
     comando(ui_->Command4, [] { return RiportaAnno(); });
     comando(ui_->Command5, [this] { return AggiungiSezionale(Campi(), SezionaleCorrente); });
-    on(ui_->Combo2, &controls::ItemCombo::Click, [this] {
-        if (CambiaLiquidazione(ui_->Combo2->ItemData())) {
-            Rileggi();
-        }
-    });
+    on(ui_->Combo2, &controls::ItemCombo::Click, [this] { CambiaPeriodo(); });
     on(ui_->Command3, &QPushButton::clicked, [this] { Elimina(); });
     on(ui_->cmdClose, &QPushButton::clicked, [this] { UnloadMe(); });
 }
@@ -143,6 +140,19 @@ CampiSezionale I_Iva_sezionali::Campi() const {
     return {.numero = ui_->NSezionale->Text(),
             .descrizione = ui_->Descrizione->Text(),
             .areaAttivita = ui_->AreaAttività->Text()};
+}
+
+// Where the second of its statements fails, the sections have their new period already.
+void I_Iva_sezionali::CambiaPeriodo() {
+    try {
+        if (!CambiaLiquidazione(ui_->Combo2->ItemData())) {
+            return;
+        }
+    } catch (const ado::Error&) {
+        salta([this] { Rileggi(); });
+        throw;
+    }
+    Rileggi();
 }
 
 void I_Iva_sezionali::SalvaRecord() {

@@ -34,6 +34,7 @@ private:
     void PulisciCampi();
     CampiSezionale Campi() const;
     void SalvaRecord();
+    void CambiaPeriodo();
     void Elimina();
 
     std::unique_ptr<Ui::I_Iva_sezionali> ui_;

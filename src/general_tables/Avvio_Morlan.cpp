@@ -12,6 +12,7 @@
 #include "state/variabili.h"
 #include "ui_Avvio_Morlan.h"
 
+#include <QScopedValueRollback>
 #include <QTabBar>
 #include <QToolButton>
 
@@ -52,6 +53,7 @@ void Avvio_Morlan::CollegaComandi() {
 // An error while the first two lists load is shown and ends the load; the general switches stay unread then, and
 // neither combo is filled where one list can't be read. After the lists failing statements are skipped.
 void Avvio_Morlan::Load() {
+    const QScopedValueRollback daCodice(daCodice_, true);
     CaricaTassiEBadge();
     if (!controls::guarded([this] {
             contoUtile_->read(StringaAzienda, ElencoContiUtili());

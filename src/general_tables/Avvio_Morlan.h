@@ -5,6 +5,7 @@
 #include "general_tables/SalvaConti.h"
 
 #include <functional>
+#include <map>
 #include <memory>
 #include <string>
 #include <string_view>
@@ -55,6 +56,7 @@ private:
     void CollegaCaselle();
     controls::CheckBox& Casella(std::string_view nome) const;
     void ScriviCasella(const Opzione& opzione);
+    void TogliSpunta(controls::CheckBox& box);
     MostraCasella Mostra(std::string_view casella) const;
     void CaricaTassiEBadge();
 
@@ -90,6 +92,8 @@ private:
     void MostraTrattamento(const Regola& regola);
     void CaricaTrattamento();
     void ScegliTrattamento();
+    std::vector<std::string> TestiTrattamento() const;
+    void RimettiTrattamento();
 
     std::unique_ptr<Ui::Avvio_Morlan> ui_;
     std::vector<Selettore> selettori_;
@@ -98,6 +102,10 @@ private:
     controls::Picker* contoFattura_ = nullptr;
     controls::Picker* contoPersonale_ = nullptr;
     controls::Picker* trattamento_ = nullptr;
+
+    std::map<const controls::CheckBox*, int> mostrate_; ///< the boxes as last stored or read
+    bool daCodice_ = false;                             ///< a box is being set by code, not by the user
+    std::vector<std::string> trattamentoMostrato_;      ///< as last stored or read
 
     double IdRiga = 0; ///< shared by the tabs 1, 2 and 5
     double IdContoUtile = 0;

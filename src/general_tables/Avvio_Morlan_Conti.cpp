@@ -259,12 +259,18 @@ void Avvio_Morlan::MostraContoFattura(controls::DataGrid& griglia, controls::Dat
     IdContoFattura = ado::toDouble(griglia.Columns(4).Value());
 }
 
-// No failure rule here: errors reach the guard of the event. The form is enabled again after an error too.
+// No failure rule here: errors reach the guard of the event. The form is enabled again after an error too, and the grid
+// shows what had been written ahead of it.
 void Avvio_Morlan::SalvaFattura(OrdineFatture ordine) {
     {
         const controls::Disabled disabilitata(*this);
         if (!IsEmptyValue(IdRigaFattura)) {
-            SalvaContoFattura(IdRigaFattura, IdContoFattura, ordine);
+            try {
+                SalvaContoFattura(IdRigaFattura, IdContoFattura, ordine);
+            } catch (const std::exception&) {
+                salta([this] { CaricaContiIva(); });
+                throw;
+            }
         }
         IdContoFattura = 0;
         IdRigaFattura = 0;

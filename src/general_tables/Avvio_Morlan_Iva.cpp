@@ -28,9 +28,22 @@ void Avvio_Morlan::MostraTrattamento(const Regola& regola) {
 void Avvio_Morlan::CaricaTrattamento() {
     salta([this] { IdTrattamentoStandard = LeggiAliquotaStandard(); });
     MostraTrattamento(kSaltando);
+    trattamentoMostrato_ = TestiTrattamento();
 }
 
-// No failure rule here: a treatment whose rate can't be shown raises before anything is written.
+std::vector<std::string> Avvio_Morlan::TestiTrattamento() const {
+    return {ui_->DCBitem5->Text(), ui_->Aliquota->Text(), ui_->Detrazione->Text(), ui_->Sigla->Text()};
+}
+
+void Avvio_Morlan::RimettiTrattamento() {
+    ui_->DCBitem5->setText(trattamentoMostrato_[0]);
+    ui_->Aliquota->setText(trattamentoMostrato_[1]);
+    ui_->Detrazione->setText(trattamentoMostrato_[2]);
+    ui_->Sigla->setText(trattamentoMostrato_[3]);
+}
+
+// No failure rule here: a treatment whose rate can't be shown raises before anything is written. Where it can't be
+// stored, the stored one is shown again.
 void Avvio_Morlan::ScegliTrattamento() {
     constexpr double kPrimoTrattamento = 2;
     if (IdTrattamentoStandard < kPrimoTrattamento) {
@@ -40,7 +53,14 @@ void Avvio_Morlan::ScegliTrattamento() {
         return;
     }
     MostraTrattamento(kSenzaRegola);
-    SalvaAliquotaStandard(IdTrattamentoStandard, ui_->Aliquota->Text(), ui_->Sigla->Text(), ui_->Detrazione->Text());
+    try {
+        SalvaAliquotaStandard(IdTrattamentoStandard, ui_->Aliquota->Text(), ui_->Sigla->Text(),
+                              ui_->Detrazione->Text());
+    } catch (const std::exception&) {
+        RimettiTrattamento();
+        throw;
+    }
+    trattamentoMostrato_ = TestiTrattamento();
 }
 
 } // namespace vabo

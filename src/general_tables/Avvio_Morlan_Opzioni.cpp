@@ -4,6 +4,9 @@
 #include "general_tables/PianoDeiConti.h"
 #include "ui_Avvio_Morlan.h"
 
+#include <QScopedValueRollback>
+#include <QSignalBlocker>
+
 #include <array>
 
 namespace vabo {
@@ -30,13 +33,32 @@ controls::CheckBox& Avvio_Morlan::Casella(std::string_view nome) const {
 // Clearing the other box runs its handler, which writes 0 to the shared row. So a change from one source to the other,
 // without clearing the first, stores 0.
 void Avvio_Morlan::ScriviCasella(const Opzione& opzione) {
-    const int valore = Casella(opzione.casella).Value();
-    SalvaOpzione(opzione, valore);
+    controls::CheckBox& box = Casella(opzione.casella);
+    const int valore = box.Value();
+    try {
+        SalvaOpzione(opzione, valore);
+    } catch (const std::exception&) {
+        TogliSpunta(box);
+        throw;
+    }
+    mostrate_[&box] = valore;
+    const QScopedValueRollback daCodice(daCodice_, true);
     for (const auto& [casella, altra] : kEsclusive) {
         if (casella == opzione.casella && valore == 1) {
             Casella(altra).setValue(0);
         }
     }
+}
+
+// A user's click that couldn't be stored is taken back, so that the box shows what the row holds. What code has set
+// comes from the row.
+void Avvio_Morlan::TogliSpunta(controls::CheckBox& box) {
+    if (daCodice_) {
+        mostrate_[&box] = box.Value();
+        return;
+    }
+    const QSignalBlocker senzaClick(box);
+    box.setValue(mostrate_[&box]);
 }
 
 MostraCasella Avvio_Morlan::Mostra(std::string_view casella) const {

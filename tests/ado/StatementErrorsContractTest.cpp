@@ -1,10 +1,10 @@
 // Every statement gives rows or an error, and the connection can run the next one.
 
 #include "ado/AdoFixture.h"
+#include "ado/LargestFile.h"
 #include "engine/run/InternalErrors.h"
 #include "engine/store/Sqlite.h"
 
-#include <sys/resource.h>
 
 namespace ado {
 namespace {
@@ -95,23 +95,6 @@ TEST_F(StatementErrorsContract, AnInternalErrorOfTheServerIsTheStatementsOwn) {
     EXPECT_EQ(cell("select 1"), "1");
 }
 
-/// While this object lives no file of a process can grow beyond that many bytes. Process 0 is the test itself.
-class LargestFile {
-public:
-    LargestFile(long long process, rlim_t bytes) : process_(static_cast<pid_t>(process)) {
-        ::prlimit(process_, RLIMIT_FSIZE, nullptr, &before_);
-        const rlimit limit{bytes, before_.rlim_max};
-        ::prlimit(process_, RLIMIT_FSIZE, &limit, nullptr);
-    }
-    ~LargestFile() { ::prlimit(process_, RLIMIT_FSIZE, &before_, nullptr); }
-    LargestFile(const LargestFile&) = delete;
-    LargestFile& operator=(const LargestFile&) = delete;
-
-private:
-    pid_t process_;
-    rlimit before_{};
-};
-
 TEST_F(StatementErrorsContract, AFileAtItsLargestSizeIsAFullDisk) {
     constexpr int kDiskFull = 1105;
     connection.Execute("create table t (a nvarchar(4000) null)");
@@ -120,7 +103,7 @@ TEST_F(StatementErrorsContract, AFileAtItsLargestSizeIsAFullDisk) {
     int written = 0;
     {
         constexpr rlim_t kLimit = 1'000'000;
-        const LargestFile limit(process, kLimit);
+        const test::LargestFile limit(process, kLimit);
         constexpr int kMoreThanFit = 2000;
         int refusal = 0;
         while (refusal == 0 && written < kMoreThanFit) {
@@ -147,7 +130,7 @@ TEST_F(StatementErrorsContract, AFullDiskAtTheCommitTakesTheTransactionBack) {
     }
     {
         constexpr rlim_t kLimit = 150'000;
-        const LargestFile limit(process, kLimit);
+        const test::LargestFile limit(process, kLimit);
         EXPECT_EQ(refusalOf("commit"), kDiskFull);
     }
     EXPECT_EQ(cell("select @@trancount"), "0");
@@ -168,7 +151,7 @@ TEST_F(StatementErrorsContract, AFullDiskLeavesNoHalfOfATransaction) {
     int refusal = 0;
     {
         constexpr rlim_t kLimit = 300'000;
-        const LargestFile limit(process, kLimit);
+        const test::LargestFile limit(process, kLimit);
         // More data than the storage's cache holds, so that it must write before the commit.
         connection.Execute("create table n (i int null)");
         connection.Execute("insert into n (i) values (1), (2), (3), (4), (5), (6), (7), (8), (9), (10)");

@@ -106,9 +106,11 @@ std::unique_ptr<engine::Session> TestWorkstation::engineSession(const std::strin
                                  {.user = {}, .password = {}, .database = database});
 }
 
-std::vector<TestWorkstation::Row> TestWorkstation::rows(const std::string& database, const std::string& sql) const {
-    const auto session = engineSession(database);
-    const auto batch = session->execute(sql);
+namespace {
+
+std::vector<TestWorkstation::Row> rowsOf(engine::Session& session, const std::string& sql) {
+    using Row = TestWorkstation::Row;
+    const auto batch = session.execute(sql);
     std::vector<Row> all;
     while (batch->nextResult()) {
         const int columns = static_cast<int>(batch->columns().size());
@@ -122,6 +124,12 @@ std::vector<TestWorkstation::Row> TestWorkstation::rows(const std::string& datab
     return all;
 }
 
+} // namespace
+
+std::vector<TestWorkstation::Row> TestWorkstation::rows(const std::string& database, const std::string& sql) const {
+    return rowsOf(*engineSession(database), sql);
+}
+
 TestWorkstation::Row TestWorkstation::row(const std::string& database, const std::string& sql) const {
     const auto all = rows(database, sql);
     EXPECT_EQ(all.size(), 1U) << sql;
@@ -131,6 +139,15 @@ TestWorkstation::Row TestWorkstation::row(const std::string& database, const std
 std::string TestWorkstation::value(const std::string& database, const std::string& sql) const {
     const Row first = row(database, sql);
     return first.empty() ? std::string() : first.front();
+}
+
+std::map<std::string, std::vector<TestWorkstation::Row>> TestWorkstation::tables(const std::string& database) const {
+    const auto session = engineSession(database);
+    std::map<std::string, std::vector<Row>> all;
+    for (const Row& table : rowsOf(*session, "select TABLE_NAME from INFORMATION_SCHEMA.TABLES")) {
+        all[table.front()] = rowsOf(*session, "select * from [" + table.front() + "]");
+    }
+    return all;
 }
 
 void TestWorkstation::playServerVersion(int version) const {

@@ -5,6 +5,7 @@
 #include "support/Peer.h"
 #include "support/TemporaryFolder.h"
 
+#include <map>
 #include <memory>
 #include <optional>
 #include <string>
@@ -52,6 +53,8 @@ public:
     Row row(const std::string& database, const std::string& sql) const;
     /// The first value of the only row.
     std::string value(const std::string& database, const std::string& sql) const;
+    /// The rows of every table of a database, by the table's name.
+    std::map<std::string, std::vector<Row>> tables(const std::string& database) const;
     /// Sets the version that the server pretends to have; see engine::Instance.
     void playServerVersion(int version) const;
     std::vector<std::pair<std::string, bool>> databaseOptions(const std::string& database) const;

@@ -15,6 +15,7 @@
 
 #include <algorithm>
 #include <charconv>
+#include <utility>
 
 namespace ado::odbc {
 
@@ -178,20 +179,39 @@ public:
         return result;
     }
     /// Always commits, since what was written meanwhile was confirmed to the user. Rows are released when the last hold
-    /// ends.
-    void endHold() noexcept {
-        if (--holds_ > 0 || !alive()) {
+    /// ends. Throws where the commit fails; then nothing of the transaction is left.
+    void endHold() {
+        if (--holds_ > 0) {
             return;
         }
         try {
             runToEnd("IF @@TRANCOUNT > 0 COMMIT TRANSACTION; " + lockWait());
             setPreparedFor(timeout_);
-        } catch (const std::exception&) { // NOLINT(bugprone-empty-catch)
-            // The connection is lost, and the server has ended its locks.
+        } catch (const Error&) {
+            halfCommitted_ = true;
+            takeBack();
+            throw;
         }
     }
 
-    bool alive() const { return !isDead(handle_); }
+    /// Takes back the transaction whose commit has failed, where that has failed as well: with it open, whatever is
+    /// written next would be lost without a word, and its rows would stay locked in a connection that the driver manager
+    /// keeps.
+    void takeBack() noexcept {
+        if (!halfCommitted_ || isDead(handle_)) {
+            return;
+        }
+        try {
+            runToEnd("IF @@TRANCOUNT > 0 ROLLBACK TRANSACTION; " + lockWait());
+            setPreparedFor(timeout_);
+            halfCommitted_ = false;
+        } catch (const std::exception&) { // NOLINT(bugprone-empty-catch)
+            // Tried again before the next use and at the end.
+        }
+    }
+
+    /// A connection with a transaction that can't be taken back isn't used any more.
+    bool alive() const { return !halfCommitted_ && !isDead(handle_); }
 
 private:
     /// Tells, in the driver's own connection, for which time-out the server's lock time-out is set: the seconds that
@@ -207,6 +227,7 @@ private:
     std::string place_;
     int timeout_;
     int holds_ = 0;
+    bool halfCommitted_ = false;
 };
 
 namespace {
@@ -244,8 +265,11 @@ public:
         connection_->beginHold();
     }
     ~OdbcHold() override {
-        rows_.reset();
-        connection_->endHold();
+        try {
+            release();
+        } catch (const std::exception&) { // NOLINT(bugprone-empty-catch)
+            // Nothing was written through this hold, or the write itself has failed.
+        }
     }
     OdbcHold(const OdbcHold&) = delete;
     OdbcHold& operator=(const OdbcHold&) = delete;
@@ -256,15 +280,26 @@ public:
         rows_.reset(); // unread rows would keep the connection busy
         return connection_->run(text);
     }
+    void release() override {
+        rows_.reset();
+        if (std::exchange(holding_, false)) {
+            connection_->endHold();
+        }
+    }
 
 private:
     std::shared_ptr<SharedConnection> connection_;
     std::unique_ptr<DriverResult> rows_;
+    bool holding_ = true;
 };
 
 } // namespace
 
 OdbcConnection::OdbcConnection(const ConnectionString& text) : connection_(preparedConnection(text)) {}
+
+OdbcConnection::~OdbcConnection() {
+    connection_->takeBack();
+}
 
 std::unique_ptr<DriverResult> OdbcConnection::run(std::string_view text) {
     return connection_->run(text);
@@ -307,6 +342,7 @@ std::vector<std::string> OdbcConnection::primaryKey(const std::string& table) {
 }
 
 bool OdbcConnection::alive() const {
+    connection_->takeBack();
     return connection_->alive();
 }
 

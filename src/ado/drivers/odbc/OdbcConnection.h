@@ -27,6 +27,9 @@ class OdbcConnection : public DriverConnection {
 public:
     /// Throws Error with the text of the driver manager, the driver or the server.
     explicit OdbcConnection(const ConnectionString& text);
+    OdbcConnection(const OdbcConnection&) = delete;
+    OdbcConnection& operator=(const OdbcConnection&) = delete;
+    ~OdbcConnection() override;
 
     std::unique_ptr<DriverResult> run(std::string_view text) override;
     std::string holdingHint() const override;

@@ -1,0 +1,52 @@
+#pragma once
+
+#include "desktop/Keyboard.h"
+#include "desktop/VirtualDisplay.h"
+#include "desktop/Windows.h"
+#include "desktop/XConnection.h"
+
+#include <filesystem>
+#include <functional>
+#include <initializer_list>
+#include <string>
+#include <string_view>
+
+namespace desktop {
+
+/// A user who has a display and a keyboard, but no mouse. What doesn't come in time throws std::runtime_error, whose
+/// text names the windows that are there and a picture of the screen.
+class User {
+public:
+    /// The pictures are named after the test that runs.
+    explicit User(std::filesystem::path pictures);
+
+    const VirtualDisplay& display() const { return display_; }
+
+    void type(std::u32string_view text) const { keyboard_.type(text); }
+    void press(std::string_view key, int times = 1) const;
+    /// Types the texts, each with Return behind it.
+    void enter(std::initializer_list<std::u32string_view> texts) const;
+
+    /// Waits until the window with that title gets the keys.
+    void awaitWindow(const std::string& title);
+    /// Waits for a box that wasn't there at the last call, and leaves it with a key.
+    void answerBox(std::string_view key);
+    void awaitNoWindow();
+    void awaitThat(const std::string& what, const std::function<bool()>& condition);
+    /// Waits until the program has handled all keys, and takes a picture of the screen.
+    void look(const std::string& name);
+
+private:
+    [[noreturn]] void giveUp(const std::string& what) const;
+    std::filesystem::path picture(const std::string& name) const;
+
+    std::filesystem::path pictures_;
+    VirtualDisplay display_;
+    XConnection x_{display_.name()};
+    Keyboard keyboard_{x_};
+    Windows windows_{x_};
+    xcb_window_t lastBox_ = XCB_NONE;
+    int looks_ = 0;
+};
+
+} // namespace desktop

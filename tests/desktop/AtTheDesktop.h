@@ -6,6 +6,7 @@
 #include "support/TestWorkstation.h"
 #include "support/TestedDriver.h"
 
+#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include <filesystem>

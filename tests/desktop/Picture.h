@@ -2,11 +2,15 @@
 
 #include "desktop/XConnection.h"
 
+#include <QImage>
+
 #include <filesystem>
 
 namespace desktop {
 
-/// Writes what the screen shows to a file; its folders are created.
-void takePicture(const XConnection& x, const std::filesystem::path& file);
+/// What the screen shows.
+QImage picture(const XConnection& x);
+/// Writes it to a file; its folders are created.
+void writePicture(const QImage& picture, const std::filesystem::path& file);
 
 } // namespace desktop

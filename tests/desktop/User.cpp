@@ -58,18 +58,25 @@ void User::awaitThat(const std::string& what, const std::function<bool()>& condi
     }
 }
 
-void User::look(const std::string& name) {
+QImage User::look(const std::string& name) {
     const Window window = windows_.active();
     if (window.id != XCB_NONE && !windows_.waitUntilHandled(window.id)) {
         giveUp("an answer of the window \"" + window.title + "\"");
     }
-    const std::string number = std::to_string(++looks_);
-    takePicture(x_, picture(std::string(2 - std::min<std::size_t>(2, number.size()), '0') + number + "-" + name));
+    QImage seen = picture(x_);
+    constexpr int kDigits = 2;
+    const QString number = QString::number(++looks_).rightJustified(kDigits, QLatin1Char('0'));
+    writePicture(seen, fileOf(number.toStdString() + "-" + name));
+    return seen;
+}
+
+void User::awaitSight(const QImage& before) {
+    awaitThat("what the screen showed before", [&] { return picture(x_) == before; });
 }
 
 void User::giveUp(const std::string& what) const {
-    const auto file = picture("failure");
-    takePicture(x_, file);
+    const auto file = fileOf("failure");
+    writePicture(picture(x_), file);
     std::string story = "Not in time: " + what + ". The keys go to \"" + windows_.active().title + "\". Windows:";
     for (const Window& window : windows_.all()) {
         story += " \"" + window.title + "\"";
@@ -77,7 +84,7 @@ void User::giveUp(const std::string& what) const {
     throw std::runtime_error(story + ". The screen: " + file.string());
 }
 
-std::filesystem::path User::picture(const std::string& name) const {
+std::filesystem::path User::fileOf(const std::string& name) const {
     const auto* test = testing::UnitTest::GetInstance()->current_test_info();
     return pictures_ / (test == nullptr ? "" : test->name()) / (name + ".png");
 }

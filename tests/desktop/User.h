@@ -5,6 +5,8 @@
 #include "desktop/Windows.h"
 #include "desktop/XConnection.h"
 
+#include <QImage>
+
 #include <filesystem>
 #include <functional>
 #include <initializer_list>
@@ -33,12 +35,14 @@ public:
     void answerBox(std::string_view key);
     void awaitNoWindow();
     void awaitThat(const std::string& what, const std::function<bool()>& condition);
-    /// Waits until the program has handled all keys, and takes a picture of the screen.
-    void look(const std::string& name);
+    /// Waits until the program has handled all keys, and returns what the screen shows, which is written to a file too.
+    QImage look(const std::string& name);
+    /// Waits until the screen shows just that again.
+    void awaitSight(const QImage& before);
 
 private:
     [[noreturn]] void giveUp(const std::string& what) const;
-    std::filesystem::path picture(const std::string& name) const;
+    std::filesystem::path fileOf(const std::string& name) const;
 
     std::filesystem::path pictures_;
     VirtualDisplay display_;

@@ -151,10 +151,12 @@ protected:
         user().look("changed");
         user().press("alt+s");
         user().awaitWindow(kConsole);
-        EXPECT_EQ(row("select Nome, Via, città, cap, indirizzopostaelettronica, IDPagamento, "
-                      "(select Descrizione from CondizioniPagamento where IDPagamento = IdIncasso) from DatiAzienda"),
-                  (Row{"Fondazione Il Ponte più", "Salita del Ponte 5/A", "Genova (GE)", "16121",
-                       "posta@ponte.example", "2", kTerm}));
+        EXPECT_EQ(row("select Nome, Via, città, cap, telefonoufficio, numerofax, indirizzopostaelettronica, sito, "
+                      "IDPagamento, (select Descrizione from CondizioniPagamento where IDPagamento = IdIncasso), "
+                      "Codicefiscale, PartitaIva from DatiAzienda"),
+                  (Row{"Fondazione Il Ponte più", "Salita del Ponte 5/A", "Genova (GE)", "16121", "010 5550700",
+                       "NULL", "posta@ponte.example", "NULL", "2", kTerm, "95103440103", "95103440103"}))
+            << "a change of the town appends the province";
     }
     void addTerm() {
         user().type(U"10 - 25");

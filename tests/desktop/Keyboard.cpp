@@ -3,7 +3,10 @@
 #include <xcb/xtest.h>
 
 #include <algorithm>
+#include <chrono>
 #include <stdexcept>
+#include <thread>
+#include <utility>
 
 namespace desktop {
 
@@ -58,13 +61,13 @@ const Keyboard::Stroke& Keyboard::strokeOf(xcb_keysym_t symbol) const {
     return found->second;
 }
 
-void Keyboard::type(std::u32string_view text) const {
+void Keyboard::type(std::u32string_view text) {
     for (const char32_t letter : text) {
         strike(strokeOf(static_cast<xcb_keysym_t>(letter))); // the symbols of Latin letters are their codes
     }
 }
 
-void Keyboard::press(std::string_view key) const {
+void Keyboard::press(std::string_view key) {
     std::vector<xcb_keysym_t> held;
     for (auto plus = key.find('+'); plus != std::string_view::npos; plus = key.find('+')) {
         held.push_back(kHeld.at(key.substr(0, plus)));
@@ -73,7 +76,13 @@ void Keyboard::press(std::string_view key) const {
     strike(strokeOf(key.size() == 1 ? static_cast<xcb_keysym_t>(key.front()) : kNamed.at(key)), held);
 }
 
-void Keyboard::strike(const Stroke& stroke, const std::vector<xcb_keysym_t>& held) const {
+// A release and a press of one key at the same moment look like a key held down, and there are servers that count time
+// in steps of some milliseconds.
+void Keyboard::strike(const Stroke& stroke, const std::vector<xcb_keysym_t>& held) {
+    constexpr std::chrono::milliseconds kAnotherMoment(25);
+    if (std::exchange(last_, stroke.key) == stroke.key) {
+        std::this_thread::sleep_for(kAnotherMoment);
+    }
     std::vector<xcb_keycode_t> keys;
     for (const auto& symbols : {held, stroke.held}) {
         std::ranges::transform(symbols, std::back_inserter(keys), [this](auto each) { return strokeOf(each).key; });
@@ -82,13 +91,11 @@ void Keyboard::strike(const Stroke& stroke, const std::vector<xcb_keysym_t>& hel
     std::ranges::for_each(keys, [this](auto each) { send(XCB_KEY_PRESS, each); });
     std::ranges::reverse(keys);
     std::ranges::for_each(keys, [this](auto each) { send(XCB_KEY_RELEASE, each); });
-    xcb_flush(x_.server());
+    x_.waitUntilDone();
 }
 
-// The server waits before it takes the key: two keys at one moment would look like one that is held down.
 void Keyboard::send(std::uint8_t kind, xcb_keycode_t key) const {
-    constexpr std::uint32_t kMilliseconds = 4;
-    xcb_test_fake_input(x_.server(), kind, key, kMilliseconds, XCB_NONE, 0, 0, 0);
+    xcb_test_fake_input(x_.server(), kind, key, XCB_CURRENT_TIME, XCB_NONE, 0, 0, 0);
 }
 
 } // namespace desktop

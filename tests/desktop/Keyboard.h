@@ -15,9 +15,9 @@ public:
     explicit Keyboard(const XConnection& x);
 
     /// Types a text. Throws std::invalid_argument for a letter that the keyboard hasn't.
-    void type(std::u32string_view text) const;
+    void type(std::u32string_view text);
     /// Presses one key, as "Return", "shift+Tab", "alt+F4", "ctrl+d".
-    void press(std::string_view key) const;
+    void press(std::string_view key);
 
 private:
     /// The key of a symbol and what is held down for it.
@@ -28,11 +28,12 @@ private:
 
     void readMapping();
     const Stroke& strokeOf(xcb_keysym_t symbol) const;
-    void strike(const Stroke& stroke, const std::vector<xcb_keysym_t>& held = {}) const;
+    void strike(const Stroke& stroke, const std::vector<xcb_keysym_t>& held = {});
     void send(std::uint8_t kind, xcb_keycode_t key) const;
 
     const XConnection& x_;
     std::map<xcb_keysym_t, Stroke> strokes_;
+    xcb_keycode_t last_ = 0;
 };
 
 } // namespace desktop

@@ -19,13 +19,19 @@ constexpr const char* kBox = "VaBo";
 
 User::User(std::filesystem::path pictures) : pictures_(std::move(pictures)) {}
 
-void User::press(std::string_view key, int times) const {
+void User::type(std::u32string_view text) {
+    keyboard_.type(text);
+    awaitHandled();
+}
+
+void User::press(std::string_view key, int times) {
     for (int i = 0; i < times; ++i) {
         keyboard_.press(key);
+        awaitHandled();
     }
 }
 
-void User::enter(std::initializer_list<std::u32string_view> texts) const {
+void User::enter(std::initializer_list<std::u32string_view> texts) {
     for (const std::u32string_view text : texts) {
         type(text);
         press("Return");
@@ -58,11 +64,15 @@ void User::awaitThat(const std::string& what, const std::function<bool()>& condi
     }
 }
 
-QImage User::look(const std::string& name) {
+void User::awaitHandled() {
     const Window window = windows_.active();
     if (window.id != XCB_NONE && !windows_.waitUntilHandled(window.id)) {
         giveUp("an answer of the window \"" + window.title + "\"");
     }
+}
+
+QImage User::look(const std::string& name) {
+    awaitHandled();
     QImage seen = picture(x_);
     constexpr int kDigits = 2;
     const QString number = QString::number(++looks_).rightJustified(kDigits, QLatin1Char('0'));

@@ -15,8 +15,9 @@
 
 namespace desktop {
 
-/// A user who has a display and a keyboard, but no mouse. What doesn't come in time throws std::runtime_error, whose
-/// text names the windows that are there and a picture of the screen.
+/// A user who has a display and a keyboard, but no mouse, and who looks at the screen after each key and each text: the
+/// program has handled it then. What doesn't come in time throws std::runtime_error, whose text names the windows that
+/// are there and a picture of the screen.
 class User {
 public:
     /// The pictures are named after the test that runs.
@@ -24,10 +25,10 @@ public:
 
     const VirtualDisplay& display() const { return display_; }
 
-    void type(std::u32string_view text) const { keyboard_.type(text); }
-    void press(std::string_view key, int times = 1) const;
+    void type(std::u32string_view text);
+    void press(std::string_view key, int times = 1);
     /// Types the texts, each with Return behind it.
-    void enter(std::initializer_list<std::u32string_view> texts) const;
+    void enter(std::initializer_list<std::u32string_view> texts);
 
     /// Waits until the window with that title gets the keys.
     void awaitWindow(const std::string& title);
@@ -35,12 +36,13 @@ public:
     void answerBox(std::string_view key);
     void awaitNoWindow();
     void awaitThat(const std::string& what, const std::function<bool()>& condition);
-    /// Waits until the program has handled all keys, and returns what the screen shows, which is written to a file too.
+    /// What the screen shows, which is written to a file too.
     QImage look(const std::string& name);
     /// Waits until the screen shows just that again.
     void awaitSight(const QImage& before);
 
 private:
+    void awaitHandled();
     [[noreturn]] void giveUp(const std::string& what) const;
     std::filesystem::path fileOf(const std::string& name) const;
 

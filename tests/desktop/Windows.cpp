@@ -31,10 +31,10 @@ Window Windows::active() const {
 // An answer comes when the program reads the question, and what it read before may still lie in its own queue. The
 // second question is read after that.
 bool Windows::waitUntilHandled(xcb_window_t window) {
-    return answers(window) && answers(window);
+    return answersOrLeaves(window) && answersOrLeaves(window);
 }
 
-bool Windows::answers(xcb_window_t window) {
+bool Windows::answersOrLeaves(xcb_window_t window) {
     ++asked_;
     xcb_client_message_event_t question{};
     question.response_type = XCB_CLIENT_MESSAGE;
@@ -46,7 +46,7 @@ bool Windows::answers(xcb_window_t window) {
     question.data.data32[2] = window;
     xcb_send_event(x_.server(), 0, window, XCB_EVENT_MASK_NO_EVENT, reinterpret_cast<const char*>(&question));
     xcb_flush(x_.server());
-    return within(kPatience, [this] { return takeAnswer(); });
+    return within(kPatience, [&] { return takeAnswer() || active().id != window; });
 }
 
 bool Windows::takeAnswer() const {

@@ -20,12 +20,13 @@ public:
     std::vector<Window> all() const;
     /// The window that gets the keys; none while the manager and the server don't agree.
     Window active() const;
-    /// Waits until the program of that window has handled what was sent before; whether it has.
+    /// Waits until the program of that window has handled what was sent before, or the keys go to another window.
+    /// Returns false where neither comes in time.
     bool waitUntilHandled(xcb_window_t window);
 
 private:
     Window window(xcb_window_t id) const { return {id, x_.text(id, "_NET_WM_NAME")}; }
-    bool answers(xcb_window_t window);
+    bool answersOrLeaves(xcb_window_t window);
     bool takeAnswer() const;
 
     const XConnection& x_;

@@ -16,6 +16,11 @@ XConnection::~XConnection() {
     xcb_disconnect(server_);
 }
 
+void XConnection::waitUntilDone() const {
+    const auto asked = xcb_get_input_focus(server_);
+    const Owned<xcb_get_input_focus_reply_t> answer(xcb_get_input_focus_reply(server_, asked, nullptr));
+}
+
 xcb_atom_t XConnection::atom(const std::string& name) const {
     const auto asked = xcb_intern_atom(server_, 0, static_cast<std::uint16_t>(name.size()), name.c_str());
     const Owned<xcb_intern_atom_reply_t> reply(xcb_intern_atom_reply(server_, asked, nullptr));

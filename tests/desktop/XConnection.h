@@ -29,6 +29,8 @@ public:
     xcb_connection_t* server() const { return server_; }
     xcb_window_t root() const { return root_; }
     xcb_atom_t atom(const std::string& name) const;
+    /// Waits until the server has done all that it was asked for.
+    void waitUntilDone() const;
     /// A property of a window, empty where the window or the property is gone.
     std::string text(xcb_window_t window, const std::string& property) const;
     std::vector<std::uint32_t> numbers(xcb_window_t window, const std::string& property) const;

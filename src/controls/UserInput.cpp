@@ -27,11 +27,27 @@ bool isInput(QEvent::Type type) {
     }
 }
 
-struct Release {
+struct Stroke {
     int key = 0;
     quint64 time = 0;
+    bool operator==(const Stroke&) const = default;
 };
-Release last;
+Stroke last; ///< released
+Stroke inList;
+
+Stroke strokeOf(const QEvent& event) {
+    const auto& key = static_cast<const QKeyEvent&>(event);
+    return {key.key(), key.timestamp()};
+}
+
+bool isEnter(const Stroke& stroke) {
+    return stroke.key == Qt::Key_Return || stroke.key == Qt::Key_Enter;
+}
+
+/// An open list picks its row before the press is sent, which then goes to where the pick has led.
+bool hasPicked(const QEvent& event) {
+    return event.type() == QEvent::KeyPress && isEnter(inList) && strokeOf(event) == inList;
+}
 
 /// Of Enter anywhere, and of Space on a button: held over a grid it may have moved the focus there.
 bool isRepeatedCommand(const QObject* watched, const QEvent& event) {
@@ -39,7 +55,7 @@ bool isRepeatedCommand(const QObject* watched, const QEvent& event) {
         return false;
     }
     const auto& key = static_cast<const QKeyEvent&>(event);
-    const bool enter = key.key() == Qt::Key_Return || key.key() == Qt::Key_Enter;
+    const bool enter = isEnter(strokeOf(event));
     const bool space = key.key() == Qt::Key_Space && qobject_cast<const QAbstractButton*>(watched) != nullptr;
     return (enter || space) && UserInput::isRepeat(key);
 }
@@ -53,7 +69,7 @@ void goToButton(QPushButton* button) {
 } // namespace
 
 bool UserInput::isRepeat(const QKeyEvent& press) {
-    const bool atItsRelease = press.timestamp() != 0 && press.timestamp() == last.time && press.key() == last.key;
+    const bool atItsRelease = press.timestamp() != 0 && strokeOf(press) == last;
     return press.isAutoRepeat() || atItsRelease;
 }
 
@@ -71,18 +87,25 @@ void UserInput::watch() {
 }
 
 bool UserInput::eventFilter(QObject* watched, QEvent* event) {
+    const bool inOpenList = QApplication::activePopupWidget() != nullptr;
+    if (inOpenList && event->type() == QEvent::ShortcutOverride) {
+        inList = strokeOf(*event); // comes ahead of the press
+    } else if (inOpenList && event->type() == QEvent::KeyPress) {
+        inList = {}; // handled by the list itself
+    }
     if (!isInput(event->type())) {
         return false;
     }
     if (event->type() == QEvent::KeyRelease) {
-        const auto& key = static_cast<const QKeyEvent&>(*event);
-        last = {key.key(), key.timestamp()};
+        last = strokeOf(*event);
+        inList = {};
     }
     if (event->type() == QEvent::Shortcut) {
         goToButton(qobject_cast<QPushButton*>(watched));
     }
     auto* control = qobject_cast<QWidget*>(watched);
-    const bool dropped = control != nullptr && (!control->isVisible() || isRepeatedCommand(control, *event));
+    const bool dropped =
+        control != nullptr && (!control->isVisible() || isRepeatedCommand(control, *event) || hasPicked(*event));
     if (control != nullptr && !dropped && event->type() == QEvent::MouseButtonPress) {
         releaseBehind(*control, static_cast<const QMouseEvent&>(*event));
     }

@@ -12,7 +12,7 @@ namespace controls {
 /// Drops keys and clicks that must not count, everywhere in the program. Enter acts once for each time the key is
 /// pressed: the repeats of a held key are dropped, so that no command and no store runs again; so are those of Space on
 /// a button. A control that isn't visible gets no input: the second click of a double click may arrive after the first
-/// has hidden the form.
+/// has hidden the form. The Enter that picks in a list isn't one in the field that gets the focus.
 ///
 /// A press that moves the focus may open a box, in the LostFocus of the field before, and the mouse is then released
 /// over the box. The control gets the release behind its press: a button is clicked, and doesn't stay down.

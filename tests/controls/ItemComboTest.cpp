@@ -1,11 +1,14 @@
 #include "controls/ItemCombo.h"
 
+#include "RecordedForm.h"
 #include "ado/Error.h"
+#include "controls/TextBox.h"
 #include "support/Gui.h"
 
 #include <QAbstractItemView>
 #include <QApplication>
 #include <QTest>
+#include <QVBoxLayout>
 #include <QWheelEvent>
 
 #include <gtest/gtest.h>
@@ -104,6 +107,54 @@ TEST_F(ItemCombo, EnterIsLeftToTheForm) {
         EXPECT_FALSE(press.isAccepted());
     }
     EXPECT_EQ(clicks, std::vector<std::int32_t>{});
+}
+
+/// A pick leads to the field behind the list, where Enter counts.
+class ItemComboWithField : public testing::Test {
+protected:
+    ItemComboWithField() {
+        gui.forms().add("F", [this] {
+            auto form = std::make_unique<RecordedForm>("F", log);
+            auto* layout = new QVBoxLayout(form.get());
+            auto* combo = new controls::ItemCombo;
+            auto* field = new controls::TextBox;
+            combo->setObjectName("combo");
+            field->setObjectName("field");
+            layout->addWidget(combo);
+            layout->addWidget(field);
+            combo->addItem("Pozzi", 1);
+            combo->addItem("Scuola", 2);
+            form->on(combo, &controls::ItemCombo::Click, [field] { controls::SetFocus(*field); });
+            form->chain({{field, controls::EndOfEntry::Enter, [this] { ++ends; }}});
+            return form;
+        });
+        gui.forms().show("F");
+        gui.waitForFront("F");
+        gui.find("F", "combo").setFocus();
+    }
+    /// As the window system sends it before it knows of the list.
+    void press(Qt::Key key) const { QTest::keyClick(gui.form("F").windowHandle(), key); }
+
+    int ends = 0;
+    std::vector<std::string> log;
+    Gui gui;
+};
+
+TEST_F(ItemComboWithField, TheEnterThatPicksIsNoneOfTheFieldThatGetsTheFocus) {
+    for (const Qt::Key enter : {Qt::Key_Return, Qt::Key_Enter}) {
+        ends = 0;
+        auto& combo = gui.find<controls::ItemCombo>("F", "combo");
+        combo.setFocus();
+        press(Qt::Key_Down);
+        Gui::waitFor("the list", [&] { return combo.view()->isVisible(); });
+        press(Qt::Key_S);
+        press(enter);
+        EXPECT_EQ(combo.Text(), "Scuola");
+        EXPECT_EQ(gui.focus(), "F.field");
+        EXPECT_EQ(ends, 0);
+        gui.press(enter);
+        EXPECT_EQ(ends, 1) << "the next one is";
+    }
 }
 
 } // namespace

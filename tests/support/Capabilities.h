@@ -31,9 +31,13 @@ inline constexpr Capabilities kWireCapabilities{
     .integratedSecurity = {"Nobody vouches for a user on the loopback: a login has a name and a password."},
 };
 
+/// What a machine lacks where the programs of a display for tests aren't installed; tools/packages.sh installs them.
+inline constexpr Capability kMachineWithoutDisplay = {"There is no Xvfb, openbox or setxkbmap: tools/packages.sh test"};
+
 } // namespace support
 
-/// Skips the running test, with the reason as its message, where the driver doesn't offer what the test needs.
+/// Skips the running test, with the reason as its message, where the driver or the machine doesn't offer what the test
+/// needs.
 #define VABO_NEEDS(capability)                                                                                         \
     if (!(capability))                                                                                                 \
     GTEST_SKIP() << (capability).missing

@@ -71,6 +71,10 @@ std::string HelperProcess::readAll() {
     return process_.readAllStandardOutput().toStdString();
 }
 
+bool HelperProcess::isRunning() {
+    return process_.state() != QProcess::NotRunning && !process_.waitForFinished(0);
+}
+
 void HelperProcess::kill() {
     if (process_.state() == QProcess::NotRunning) {
         return;

@@ -26,8 +26,11 @@ public:
     /// minute.
     std::optional<std::string> readLine();
     std::string readAll();
+    bool isRunning();
     /// Kills the process and waits for its end.
     void kill();
+    /// Asks the process to end.
+    void terminate() { process_.terminate(); }
     /// Closes its input and waits for its end. Returns the exit code, -1 where it was killed or crashed.
     int finish();
 

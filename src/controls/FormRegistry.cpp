@@ -49,6 +49,14 @@ void FormRegistry::add(std::string name, Factory factory) {
     factories_.insert_or_assign(std::move(name), std::move(factory));
 }
 
+std::vector<std::string> FormRegistry::names() const {
+    std::vector<std::string> all;
+    for (const auto& [name, factory] : factories_) {
+        all.push_back(name);
+    }
+    return all;
+}
+
 bool FormRegistry::show(std::string_view name) {
     if (factories_.find(name) == factories_.end()) {
         return false;

@@ -1,0 +1,231 @@
+#include "app/monkey/Life.h"
+
+#include "app/Forms.h"
+#include "app/monkey/Application.h"
+#include "app/monkey/Checks.h"
+#include "app/monkey/Story.h"
+#include "session/TreatForms.h"
+#include "state/variabili.h"
+#include "support/AzzeraVariabili.h"
+
+#include <QScopedValueRollback>
+
+#include <algorithm>
+#include <array>
+#include <string_view>
+
+namespace monkey {
+
+namespace {
+
+using support::Gui;
+
+constexpr const char* kConsole = "Avvio_Azienda";
+constexpr const char* kLogin = "About";
+/// They come and go by themselves when the program starts.
+constexpr std::array<std::string_view, 2> kOfTheStart = {"Avvio", "FormRefreshLinks"};
+
+bool isOfTheStart(const std::string& form) {
+    return std::ranges::count(kOfTheStart, form) > 0;
+}
+
+/// The name by which a form is asked for; one isn't the form's own.
+std::string askedAs(const std::string& form) {
+    return form == "frmComuni" ? "frmcomuni" : form;
+}
+
+/// Whether that ended the process.
+template<typename Work>
+bool endedBy(Work&& work) {
+    bool ended = false;
+    try {
+        work();
+    } catch (const platform::ProcessEnded&) {
+        ended = true;
+    }
+    return Application::takeEnd() || ended;
+}
+
+} // namespace
+
+Life::Life(Dice& dice, Hands& hands, Boxes& boxes, Watchdog& watchdog)
+    : dice_(dice), hands_(hands), boxes_(boxes), watchdog_(watchdog) {
+    QObject::connect(&impatience_, &QTimer::timeout, &impatience_, [this] { hurry(); });
+    impatience_.start(0);
+    start();
+}
+
+Life::~Life() {
+    impatience_.stop();
+    gui_.reset();
+    Gui::handleEvents();
+}
+
+/// As a new process does.
+void Life::start() {
+    gui_.reset();
+    Gui::handleEvents();
+    vabo::AzzeraVariabili();
+    gui_.emplace();
+    app::registerForms(gui_->forms());
+    names_ = gui_->forms().names();
+    story::tell(QStringLiteral("the program starts"));
+    const QScopedValueRollback works(working_, true);
+    if (endedBy([this] { gui_->forms().show("Avvio"); })) {
+        ++ends_;
+        story::tell(QStringLiteral("the program ended at its start"));
+    }
+    Gui::handleEvents();
+    watchdog_.seeEnd();
+}
+
+void Life::logIn() {
+    if (!gui_->isVisible(kLogin) || dice_.oneIn(6)) {
+        return;
+    }
+    for (const char* text : {"amministratore", "primavera"}) {
+        hands_.type(QString::fromLatin1(text));
+        hands_.key(Qt::Key_Return, Qt::NoModifier);
+    }
+}
+
+void Life::visitAll() {
+    std::vector<std::string> order = names_;
+    for (std::size_t left = order.size(); left > 1; --left) {
+        std::swap(order[left - 1], order[static_cast<std::size_t>(dice_.below(static_cast<int>(left)))]);
+    }
+    for (const std::string& form : order) {
+        if (!testing::Test::HasFailure()) {
+            visit(form);
+        }
+    }
+}
+
+/// The console alone, as if everything else had been closed; it needn't be the company's that was open before.
+void Life::goHome() {
+    constexpr int kTries = 20;
+    const auto anotherIsLoaded = [this] {
+        return std::ranges::any_of(
+            names_, [this](const std::string& name) { return name != kConsole && gui_->forms().isLoaded(name); });
+    };
+    for (int tries = kTries; tries > 0 && anotherIsLoaded(); --tries) {
+        for (const std::string& name : names_) {
+            if (name != kConsole) {
+                gui_->forms().unload(name);
+            }
+        }
+        Gui::handleEvents();
+    }
+    if (anotherIsLoaded()) {
+        fail("forms can't be closed, visible: " + gui_->visibleForms());
+    }
+    vabo::NomeTerminale = support::kTerminalName;
+    gui_->forms().show(kConsole);
+    vabo::AzzeraPilaForm();
+    Gui::handleEvents();
+}
+
+void Life::visit(const std::string& form) {
+    story::tell(QStringLiteral("a visit to ") + QString::fromStdString(form));
+    watchdog_.see();
+    if (isOfTheStart(form)) {
+        start();
+        logIn();
+    } else if (endedBy([this] { goHome(); }) || endedBy([&] { open(form); })) {
+        ++ends_;
+        story::tell(QStringLiteral("the program ended"));
+        start();
+    }
+    Gui::handleEvents();
+    watchdog_.seeEnd();
+    for (int steps = dice_.between(20, 180); steps > 0 && step(); --steps) {
+    }
+}
+
+void Life::rights() {
+    const auto flag = [this] { return dice_.oneIn(8) ? vabo::kFalso : vabo::kVero; };
+    vabo::DirittiUtente = {flag(), flag(), flag(), flag(), flag(), flag(),
+                           flag(), flag(), flag(), flag(), flag(), flag()};
+}
+
+void Life::open(const std::string& form) {
+    rights();
+    if (form == kLogin) {
+        gui_->forms().unload(kConsole);
+        gui_->forms().show(kLogin);
+    } else if (form != kConsole) {
+        vabo::ApriDa(kConsole, askedAs(form));
+    }
+}
+
+/// False where the visit is over.
+bool Life::step() {
+    const std::string before = gui_->visibleForms();
+    watchdog_.see();
+    {
+        const QScopedValueRollback works(working_, true);
+        hands_.act();
+        Gui::handleEvents();
+    }
+    watchdog_.seeEnd();
+    if (Application::takeEnd()) {
+        ++ends_;
+        story::tell(QStringLiteral("the program ended with the box: ") + QString::fromStdString(boxes_.last()));
+        start();
+        return false;
+    }
+    check(before);
+    if (testing::Test::HasFailure()) {
+        return false;
+    }
+    if (gui_->visibleForms().empty()) {
+        start();
+        return false;
+    }
+    return true;
+}
+
+void Life::check(const std::string& before) {
+    if (gui_->visibleForms().empty() && !mayLeaveNothing(before)) {
+        fail("no window is left; before: " + before);
+    }
+    if (const std::string fault = stackFault(names_); !fault.empty()) {
+        fail(fault);
+    }
+    if (QApplication::activeModalWidget() != nullptr) {
+        fail("a box is open and nobody waits for it");
+    }
+}
+
+/// Only where the user closed the console or the login, and no other form was there.
+bool Life::mayLeaveNothing(const std::string& before) {
+    return (before == kConsole || before == kLogin) && !gui_->forms().isLoaded(before);
+}
+
+/// What a user does while the program works: its start, or a form that is disabled for a long run.
+void Life::hurry() {
+    if (!working_ || QApplication::activeModalWidget() != nullptr || !dice_.oneIn(4)) {
+        return;
+    }
+    const QScopedValueRollback once(working_, false);
+    for (QWidget* window : QApplication::topLevelWidgets()) {
+        auto* form = qobject_cast<controls::Form*>(window);
+        if (form == nullptr || !form->isVisible()) {
+            continue;
+        }
+        if (isOfTheStart(form->Name())) {
+            hands_.manage(*form);
+            return;
+        }
+        if (!form->isEnabled()) {
+            hands_.act();
+            return;
+        }
+    }
+}
+
+void Life::fail(const std::string& what) const {
+    ADD_FAILURE() << what << "\nthe stack: " << testing::PrintToString(vabo::PilaForm) << '\n' << story::text();
+}
+
+} // namespace monkey

@@ -66,6 +66,7 @@ void Form::runUnload() {
 
 void Form::runUnlessUnloading(const std::function<void()>& event) {
     if (!unloading_) {
+        const QScopedValueRollback works(working_, true);
         guarded(event);
     }
 }
@@ -86,6 +87,7 @@ void Form::Refresh() {
     if (!isVisible()) {
         return;
     }
+    const QScopedValueRollback works(working_, true); // a step may run outside of the form's own events
     // A minimised window, or one on another desktop, is waited for once.
     outOfSight_ = !isExposed(*this) && (outOfSight_ || !waitUntilExposed(*this));
     repaint();
@@ -109,8 +111,9 @@ void Form::setHelpContext(int form, int controls) {
 
 void Form::closeEvent(QCloseEvent* event) {
     event->ignore();
-    // Ignored where another event has hidden the window meanwhile, and while the form is disabled.
-    if (isVisible() && isEnabled()) {
+    // Ignored where another event has hidden the window meanwhile, while the form is disabled, and in the middle of one
+    // of its events, which would go on with a form that is gone.
+    if (isVisible() && isEnabled() && !working_) {
         UnloadMe();
     }
 }

@@ -69,6 +69,7 @@ private:
 
     bool unloading_ = false;
     bool activating_ = false;
+    bool working_ = false; ///< one of its events runs
     bool outOfSight_ = false; ///< the system didn't show the window although it was waited for
     bool takesScreen_ = false;
 };

@@ -9,8 +9,6 @@
 #include <QPointer>
 #include <QWindow>
 
-#include <algorithm>
-
 namespace monkey {
 
 namespace {
@@ -55,19 +53,8 @@ QWidget* Hands::front() {
     if (QWidget* box = QApplication::activeModalWidget()) {
         return box;
     }
-    QWidgetList forms;
-    for (QWidget* window : QApplication::topLevelWidgets()) {
-        if (window->isVisible() && qobject_cast<controls::Form*>(window) != nullptr) {
-            forms.append(window);
-        }
-    }
-    if (forms.isEmpty()) {
-        return nullptr;
-    }
-    // The order of that list is the order of addresses.
-    std::sort(forms.begin(), forms.end(),
-              [](const QWidget* one, const QWidget* other) { return one->objectName() < other->objectName(); });
-    return dice_.oneOf(forms);
+    const QWidgetList visible = forms();
+    return visible.isEmpty() ? nullptr : dice_.oneOf(visible);
 }
 
 /// Where keys go. The offscreen platform leaves none in front when a popup closes; a window manager wouldn't.
@@ -95,9 +82,6 @@ QWidget* Hands::anyControl(const QWidget& window) {
 }
 
 void Hands::begin(const QWidget& window, const QString& what) {
-    if (before) {
-        before();
-    }
     ++events_;
     const QString name = nameOf(window);
     if (qobject_cast<const controls::Form*>(&window) != nullptr) {

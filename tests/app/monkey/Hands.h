@@ -3,6 +3,7 @@
 #include "app/monkey/Dice.h"
 #include "app/monkey/Watchdog.h"
 
+#include <QList>
 #include <QPoint>
 #include <QString>
 
@@ -32,8 +33,9 @@ public:
     void click(QWidget& control, Qt::MouseButton button = Qt::LeftButton);
     void closeWindow(QWidget& window);
 
-    /// Called ahead of each event; the events so far.
-    std::function<void()> before;
+    /// The visible forms, in an order that depends on nothing but the events.
+    std::function<QList<QWidget*>()> forms;
+    /// The events so far.
     long events() const { return events_; }
     /// How many events each form has had.
     const std::map<std::string, long>& eventsOf() const { return eventsOf_; }

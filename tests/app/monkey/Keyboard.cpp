@@ -13,6 +13,7 @@
 #include <QWindow>
 
 #include <array>
+#include <utility>
 
 namespace monkey {
 
@@ -66,6 +67,37 @@ QString textOf(int key, Qt::KeyboardModifiers modifiers) {
     return (modifiers & Qt::ShiftModifier) != 0 ? QString(letter) : QString(letter.toLower());
 }
 
+constexpr std::array<std::pair<Qt::KeyboardModifier, Qt::Key>, 4> kHeld = {{{Qt::ShiftModifier, Qt::Key_Shift},
+                                                                            {Qt::ControlModifier, Qt::Key_Control},
+                                                                            {Qt::AltModifier, Qt::Key_Alt},
+                                                                            {Qt::MetaModifier, Qt::Key_Meta}}};
+
+/// Presses and releases a key with the modifiers around it; the window may be gone in between.
+void chord(QWindow& window, int key, Qt::KeyboardModifiers modifiers) {
+    const QPointer<QWindow> alive = &window;
+    const auto send = [&alive](bool press, int code, Qt::KeyboardModifiers held, const QString& text) {
+        if (!alive.isNull()) {
+            QTest::simulateEvent(alive, press, code, held, text, false);
+        }
+    };
+    Qt::KeyboardModifiers held = Qt::NoModifier;
+    for (const auto& [modifier, code] : kHeld) {
+        if (modifiers.testFlag(modifier)) {
+            send(true, code, held, {});
+            held |= modifier;
+        }
+    }
+    const QString text = textOf(key, modifiers);
+    send(true, key, modifiers, text);
+    send(false, key, modifiers, text);
+    for (const auto& [modifier, code] : kHeld) {
+        if (modifiers.testFlag(modifier)) {
+            send(false, code, held, {});
+            held &= ~Qt::KeyboardModifiers(modifier);
+        }
+    }
+}
+
 } // namespace
 
 void Hands::key(int key, Qt::KeyboardModifiers modifiers) {
@@ -78,12 +110,7 @@ void Hands::key(int key, Qt::KeyboardModifiers modifiers) {
     begin(*place, QStringLiteral("key %1 %2 to %3")
                       .arg(QKeySequence(key).toString(), QString::number(modifiers.toInt(), 16),
                            focused == nullptr ? QString() : focused->objectName()));
-    const QPointer<QWindow> alive = window;
-    const QString text = textOf(key, modifiers);
-    QTest::sendKeyEvent(QTest::Press, window, static_cast<Qt::Key>(key), text, modifiers);
-    if (!alive.isNull()) {
-        QTest::sendKeyEvent(QTest::Release, window, static_cast<Qt::Key>(key), text, modifiers);
-    }
+    chord(*window, key, modifiers);
 }
 
 void Hands::anyKey() {
@@ -127,7 +154,11 @@ void Hands::type(const QString& text) {
     begin(*place, QStringLiteral("typed ") + text);
     for (const char32_t letter : text.toUcs4()) {
         if (!window.isNull()) {
-            QTest::sendKeyEvent(QTest::Click, window, Qt::Key_unknown, QString::fromUcs4(&letter, 1), Qt::NoModifier);
+            const QString typed = QString::fromUcs4(&letter, 1);
+            QTest::simulateEvent(window, true, Qt::Key_unknown, Qt::NoModifier, typed, false);
+            if (!window.isNull()) {
+                QTest::simulateEvent(window, false, Qt::Key_unknown, Qt::NoModifier, typed, false);
+            }
         }
     }
 }

@@ -52,6 +52,7 @@ Life::Life(Dice& dice, Hands& hands, Boxes& boxes, Watchdog& watchdog)
     : dice_(dice), hands_(hands), boxes_(boxes), watchdog_(watchdog) {
     QObject::connect(&impatience_, &QTimer::timeout, &impatience_, [this] { hurry(); });
     impatience_.start(0);
+    hands_.forms = [this] { return visibleForms(); };
     start();
 }
 
@@ -117,7 +118,7 @@ void Life::goHome() {
         Gui::handleEvents();
     }
     if (anotherIsLoaded()) {
-        fail("forms can't be closed, visible: " + gui_->visibleForms());
+        fail("forms can't be closed, visible: " + visibleNames());
     }
     vabo::NomeTerminale = support::kTerminalName;
     gui_->forms().show(kConsole);
@@ -160,7 +161,7 @@ void Life::open(const std::string& form) {
 
 /// False where the visit is over.
 bool Life::step() {
-    const std::string before = gui_->visibleForms();
+    const std::string before = visibleNames();
     watchdog_.see();
     {
         const QScopedValueRollback works(working_, true);
@@ -178,7 +179,7 @@ bool Life::step() {
     if (testing::Test::HasFailure()) {
         return false;
     }
-    if (gui_->visibleForms().empty()) {
+    if (visibleNames().empty()) {
         start();
         return false;
     }
@@ -186,7 +187,7 @@ bool Life::step() {
 }
 
 void Life::check(const std::string& before) {
-    if (gui_->visibleForms().empty() && !mayLeaveNothing(before)) {
+    if (visibleNames().empty() && !mayLeaveNothing(before)) {
         fail("no window is left; before: " + before);
     }
     if (const std::string fault = stackFault(names_); !fault.empty()) {
@@ -198,22 +199,45 @@ void Life::check(const std::string& before) {
 }
 
 /// Only where the user closed the console or the login, and no other form was there.
-bool Life::mayLeaveNothing(const std::string& before) {
+bool Life::mayLeaveNothing(const std::string& before) const {
     return (before == kConsole || before == kLogin) && !gui_->forms().isLoaded(before);
 }
 
-/// What a user does while the program works: its start, or a form that is disabled for a long run.
+QWidgetList Life::visibleForms() const {
+    QWidgetList visible;
+    for (const std::string& name : names_) {
+        controls::Form* form = gui_ ? gui_->forms().loaded(name) : nullptr;
+        if (form != nullptr && form->isVisible()) {
+            visible.append(form);
+        }
+    }
+    return visible;
+}
+
+std::string Life::visibleNames() const {
+    std::string all;
+    for (const QWidget* form : visibleForms()) {
+        all += (all.empty() ? "" : " ") + form->objectName().toStdString();
+    }
+    return all;
+}
+
+/// What a user does while the program works: at its start, or at a form that is disabled for a long run.
 void Life::hurry() {
-    if (!working_ || QApplication::activeModalWidget() != nullptr || !dice_.oneIn(4)) {
+    constexpr int kDeepest = 4;
+    if (!working_ || depth_ > kDeepest) {
         return;
     }
-    const QScopedValueRollback once(working_, false);
-    for (QWidget* window : QApplication::topLevelWidgets()) {
-        auto* form = qobject_cast<controls::Form*>(window);
-        if (form == nullptr || !form->isVisible()) {
-            continue;
-        }
-        if (isOfTheStart(form->Name())) {
+    const QScopedValueRollback deeper(depth_, depth_ + 1);
+    if (QApplication::activePopupWidget() != nullptr) {
+        usePopup();
+        return;
+    }
+    if (depth_ > 1 || QApplication::activeModalWidget() != nullptr || !dice_.oneIn(4)) {
+        return;
+    }
+    for (QWidget* form : visibleForms()) {
+        if (isOfTheStart(form->objectName().toStdString())) {
             hands_.manage(*form);
             return;
         }
@@ -221,6 +245,16 @@ void Life::hurry() {
             hands_.act();
             return;
         }
+    }
+}
+
+/// A menu may wait for the user in the middle of an event.
+void Life::usePopup() {
+    constexpr int kDeepest = 3;
+    if (depth_ > kDeepest || dice_.oneIn(8)) {
+        QApplication::activePopupWidget()->close();
+    } else if (dice_.oneIn(4)) {
+        hands_.act();
     }
 }
 

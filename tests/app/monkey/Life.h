@@ -36,8 +36,11 @@ private:
     void open(const std::string& form);
     bool step();
     void check(const std::string& before);
-    bool mayLeaveNothing(const std::string& before);
+    bool mayLeaveNothing(const std::string& before) const;
+    QWidgetList visibleForms() const;
+    std::string visibleNames() const;
     void hurry();
+    void usePopup();
     void rights();
     void fail(const std::string& what) const;
 
@@ -51,6 +54,7 @@ private:
     std::vector<std::string> names_;
     QTimer impatience_; ///< fires when the program handles events in the middle of one
     bool working_ = false;
+    int depth_ = 0; ///< of such events in such events
     int ends_ = 0;
 };
 

@@ -22,23 +22,23 @@ QString nameOf(const QWidget& widget) {
 
 void Hands::act() {
     const int choice = dice_.below(100);
-    if (choice < 30) {
+    if (choice < 24) {
         anyClick();
-    } else if (choice < 40) {
+    } else if (choice < 32) {
         itemClick();
     } else if (choice < 70) {
         anyKey();
-    } else if (choice < 80) {
+    } else if (choice < 81) {
         anyChord();
-    } else if (choice < 85) {
+    } else if (choice < 86) {
         mnemonic();
-    } else if (choice < 90) {
-        type(anyText(dice_));
     } else if (choice < 91) {
+        type(anyText(dice_));
+    } else if (choice < 92) {
         paste();
-    } else if (choice < 94) {
+    } else if (choice < 96) {
         wheel();
-    } else if (choice < 97) {
+    } else if (choice < 99) {
         drag();
     } else if (QWidget* window = front()) {
         manage(*window);
@@ -145,7 +145,7 @@ void Hands::manage(QWidget& window) {
         break;
     default:
         begin(window, QStringLiteral("resized"));
-        window.resize(dice_.between(1, 1700), dice_.between(1, 1200));
+        window.resize(dice_.between(1, 1200), dice_.between(1, 900));
     }
     QCoreApplication::processEvents();
 }

@@ -50,7 +50,9 @@ bool endedBy(Work&& work) {
 
 Life::Life(Dice& dice, Hands& hands, Boxes& boxes, Watchdog& watchdog)
     : dice_(dice), hands_(hands), boxes_(boxes), watchdog_(watchdog) {
-    QObject::connect(&impatience_, &QTimer::timeout, &impatience_, [this] { hurry(); });
+    // Queued: a timer doesn't fire again before what it does has returned, which may wait for a menu.
+    QObject::connect(
+        &impatience_, &QTimer::timeout, &impatience_, [this] { hurry(); }, Qt::QueuedConnection);
     impatience_.start(0);
     hands_.forms = [this] { return visibleForms(); };
     start();
@@ -92,6 +94,7 @@ void Life::logIn() {
 
 void Life::visitAll() {
     std::vector<std::string> order = names_;
+    std::erase(order, kOfTheStart.back()); // both come with the first
     for (std::size_t left = order.size(); left > 1; --left) {
         std::swap(order[left - 1], order[static_cast<std::size_t>(dice_.below(static_cast<int>(left)))]);
     }
@@ -139,7 +142,7 @@ void Life::visit(const std::string& form) {
     }
     Gui::handleEvents();
     watchdog_.seeEnd();
-    for (int steps = dice_.between(20, 180); steps > 0 && step(); --steps) {
+    for (int steps = dice_.between(60, 300); steps > 0 && step(); --steps) {
     }
 }
 
@@ -233,18 +236,19 @@ void Life::hurry() {
         usePopup();
         return;
     }
-    if (depth_ > 1 || QApplication::activeModalWidget() != nullptr || !dice_.oneIn(4)) {
+    if (depth_ > 1 || QApplication::activeModalWidget() != nullptr || !dice_.oneIn(8)) {
         return;
     }
-    for (QWidget* form : visibleForms()) {
-        if (isOfTheStart(form->objectName().toStdString())) {
-            hands_.manage(*form);
-            return;
-        }
-        if (!form->isEnabled()) {
-            hands_.act();
-            return;
-        }
+    QWidgetList visible = visibleForms();
+    visible.removeIf(
+        [](const QWidget* form) { return form->isEnabled() && !isOfTheStart(form->objectName().toStdString()); });
+    if (visible.isEmpty()) {
+        return;
+    }
+    if (QWidget* form = dice_.oneOf(visible); form->isEnabled()) {
+        hands_.manage(*form);
+    } else {
+        hands_.act();
     }
 }
 

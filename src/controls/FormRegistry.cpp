@@ -31,7 +31,7 @@ void FormRegistry::Gone::operator()(Form* form) const {
     // found meanwhile.
     form->setObjectName(QString());
     form->hide();
-    form->deleteLater();
+    form->deleteWhenIdle();
 }
 
 FormRegistry::FormRegistry() {

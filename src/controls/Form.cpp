@@ -41,6 +41,24 @@ Form::Form(const char* name) {
     UserInput::watch();
 }
 
+Form::Work::Work(Form& form) : form_(form) {
+    ++form_.works_;
+}
+
+Form::Work::~Work() {
+    --form_.works_;
+    if (form_.isGone_) {
+        form_.deleteWhenIdle();
+    }
+}
+
+void Form::deleteWhenIdle() {
+    isGone_ = true;
+    if (works_ == 0) {
+        deleteLater();
+    }
+}
+
 void Form::runLoad() {
     // Without this, Enter presses buttons only in a QDialog.
     for (auto* button : findChildren<QPushButton*>()) {
@@ -60,12 +78,14 @@ void Form::runActivate() {
 }
 
 void Form::runUnload() {
+    const Work work(*this);
     unloading_ = true;
     guarded([this] { Unload(); });
 }
 
 void Form::runUnlessUnloading(const std::function<void()>& event) {
     if (!unloading_) {
+        const Work work(*this);
         guarded(event);
     }
 }
@@ -86,6 +106,7 @@ void Form::Refresh() {
     if (!isVisible()) {
         return;
     }
+    const Work work(*this);
     // A minimised window, or one on another desktop, is waited for once.
     outOfSight_ = !isExposed(*this) && (outOfSight_ || !waitUntilExposed(*this));
     repaint();
@@ -109,8 +130,9 @@ void Form::setHelpContext(int form, int controls) {
 
 void Form::closeEvent(QCloseEvent* event) {
     event->ignore();
-    // Ignored where another event has hidden the window meanwhile, and while the form is disabled.
-    if (isVisible() && isEnabled()) {
+    // Ignored where another event has hidden the window meanwhile, while the form is disabled, and in the middle of one
+    // of its events, which would go on with a form that is gone.
+    if (isVisible() && isEnabled() && works_ == 0) {
         UnloadMe();
     }
 }

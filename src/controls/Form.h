@@ -26,6 +26,9 @@ public:
     void runActivate();
     void runUnload();
     bool isUnloading() const { return unloading_; }
+    /// Deletes it as soon as none of its events runs: an event may wait for a box, and meanwhile another one unload the
+    /// form.
+    void deleteWhenIdle();
     bool takesScreen() const { return takesScreen_; }
 
 protected:
@@ -63,12 +66,26 @@ protected:
     void closeEvent(QCloseEvent* event) override;
 
 private:
+    /// One of its events, or a step of a module that it shows.
+    class Work {
+    public:
+        explicit Work(Form& form);
+        ~Work();
+        Work(const Work&) = delete;
+        Work& operator=(const Work&) = delete;
+
+    private:
+        Form& form_;
+    };
+
     void run(const std::function<void()>& event);
     void runUnlessUnloading(const std::function<void()>& event);
     void nameForAssistiveTools();
 
     bool unloading_ = false;
     bool activating_ = false;
+    int works_ = 0; ///< how many of its events run, each in the one before
+    bool isGone_ = false;
     bool outOfSight_ = false; ///< the system didn't show the window although it was waited for
     bool takesScreen_ = false;
 };

@@ -31,7 +31,7 @@ void FormRegistry::Gone::operator()(Form* form) const {
     // found meanwhile.
     form->setObjectName(QString());
     form->hide();
-    form->deleteLater();
+    form->deleteWhenIdle();
 }
 
 FormRegistry::FormRegistry() {
@@ -47,6 +47,14 @@ FormRegistry::~FormRegistry() {
 
 void FormRegistry::add(std::string name, Factory factory) {
     factories_.insert_or_assign(std::move(name), std::move(factory));
+}
+
+std::vector<std::string> FormRegistry::names() const {
+    std::vector<std::string> all;
+    for (const auto& [name, factory] : factories_) {
+        all.push_back(name);
+    }
+    return all;
 }
 
 bool FormRegistry::show(std::string_view name) {

@@ -13,6 +13,7 @@
 #include <set>
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace controls {
 
@@ -26,6 +27,8 @@ public:
     ~FormRegistry() override;
 
     void add(std::string name, Factory factory);
+    /// The names of all forms, loaded or not.
+    std::vector<std::string> names() const;
 
     bool show(std::string_view name) override;
     bool makeVisible(std::string_view name) override;

@@ -25,6 +25,7 @@ public:
     ~Gui();
 
     controls::FormRegistry& forms() { return forms_; }
+    const controls::FormRegistry& forms() const { return forms_; }
 
     /// The loaded form of that name. This and all functions below throw std::runtime_error where there is none.
     controls::Form& form(const std::string& name) const;

@@ -1,0 +1,100 @@
+#include "app/monkey/Growth.h"
+
+#include <QObject>
+#include <QPixmapCache>
+
+#include <algorithm>
+#include <array>
+#include <atomic>
+#include <filesystem>
+#include <malloc.h>
+
+// The toolkit's own counters for tools: a table of functions that it calls for each object made and destroyed.
+extern Q_CORE_EXPORT quintptr qtHookData[];
+// Only a process with the sanitizer of addresses has it.
+extern "C" __attribute__((weak)) std::size_t __sanitizer_get_current_allocated_bytes();
+
+namespace monkey {
+
+namespace {
+
+constexpr int kObjectMade = 3;
+constexpr int kObjectGone = 4;
+std::atomic<long> objects = 0;
+
+void made(QObject* /*object*/) {
+    ++objects;
+}
+
+void gone(QObject* /*object*/) {
+    --objects;
+}
+
+std::size_t heap() {
+    if (&__sanitizer_get_current_allocated_bytes != nullptr) {
+        return __sanitizer_get_current_allocated_bytes();
+    }
+    const struct mallinfo2 all = ::mallinfo2();
+    return all.uordblks + all.hblkhd;
+}
+
+int openFiles() {
+    const std::filesystem::directory_iterator all("/proc/self/fd");
+    return static_cast<int>(std::distance(begin(all), end(all)));
+}
+
+} // namespace
+
+Growth::Growth() {
+    qtHookData[kObjectMade] = reinterpret_cast<quintptr>(&made);
+    qtHookData[kObjectGone] = reinterpret_cast<quintptr>(&gone);
+}
+
+Growth::~Growth() {
+    qtHookData[kObjectMade] = 0;
+    qtHookData[kObjectGone] = 0;
+}
+
+void Growth::measure() {
+    QPixmapCache::clear();
+    held_.push_back({objects, heap(), openFiles()});
+}
+
+std::string Growth::complaint() const {
+    constexpr std::size_t kFewest = 8;
+    if (held_.size() < kFewest) {
+        return {};
+    }
+    const auto quarter = static_cast<std::ptrdiff_t>(held_.size() / 4);
+    const auto least = [](auto first, auto last, auto Held::*what) {
+        return (*std::min_element(first, last, [&](const Held& a, const Held& b) { return a.*what < b.*what; })).*what;
+    };
+    const auto grown = [&](auto Held::*what) {
+        const auto early = least(held_.begin() + quarter, held_.begin() + 2 * quarter, what);
+        const auto late = least(held_.end() - quarter, held_.end(), what);
+        return static_cast<long>(late) - static_cast<long>(early);
+    };
+    constexpr long kMegabyte = 1L << 20;
+    const long lives = static_cast<long>(held_.size()) - 2 * quarter;
+    std::string all;
+    if (grown(&Held::objects) >= lives) {
+        all += "objects of the toolkit stay: " + std::to_string(grown(&Held::objects)) + "\n";
+    }
+    if (grown(&Held::bytes) >= kMegabyte + lives * kMegabyte / 10) {
+        all += "memory stays: " + std::to_string(grown(&Held::bytes)) + " bytes\n";
+    }
+    if (grown(&Held::files) >= 4) {
+        all += "files stay open: " + std::to_string(grown(&Held::files)) + "\n";
+    }
+    return all.empty() ? all : all + text();
+}
+
+std::string Growth::text() const {
+    std::string all = "objects, bytes and files after each life:";
+    for (const Held& held : held_) {
+        all += " " + std::to_string(held.objects) + "/" + std::to_string(held.bytes) + "/" + std::to_string(held.files);
+    }
+    return all;
+}
+
+} // namespace monkey

@@ -12,6 +12,8 @@
 namespace vabo {
 namespace {
 
+constexpr qint64 kUnAttesa = 10'000; // one second, and as long again for the answer to its cancel
+
 /// The company is taken up by the way that the pointer files tell now.
 class ServerAzienda : public AziendaForm {
 protected:
@@ -32,34 +34,37 @@ protected:
         return inviate;
     }
 
+    /// A save that fails at each of its statements in turn, and one behind each that stores.
+    void salvaDoveFallisce(Failure failure) {
+        apri();
+        const int tutte = corri(0, failure, [this] { salva(); });
+        ASSERT_GE(tutte, 3);
+        for (int fatale = 1; fatale <= tutte; ++fatale) {
+            SCOPED_TRACE(fatale);
+            esegui("update DatiAzienda set Banca = 'Banca del Mattino'");
+            const Riga prima = tutto();
+            const support::HeardBoxes scatole;
+            apri();
+            metti("Banca", "Altra");
+            QElapsedTimer tempo;
+            tempo.start();
+            corri(fatale, failure, [this] { salva(); });
+            EXPECT_LT(tempo.elapsed(), kUnAttesa);
+            ASSERT_EQ(scatole.texts.size(), 1U);
+            EXPECT_EQ(scatole.texts.front() == kTimedOut, failure == Failure::Frozen);
+            EXPECT_TRUE(aperta());
+            server.repair();
+            EXPECT_EQ(tutto(), prima);
+            for (int volta = 0; volta < 2 && aperta(); ++volta) { // the first may find the connection lost
+                salva();
+            }
+            EXPECT_FALSE(aperta());
+            EXPECT_EQ(colonna("Banca"), "Altra");
+        }
+    }
+
     FailingServer server{posto};
 };
-
-TEST_F(ServerAzienda, AtWhicheverStatementTheServerEndsTheSaveIsToldAndALaterOneStores) {
-    apri();
-    const int tutte = corri(0, Failure::Ended, [this] { salva(); });
-    ASSERT_GE(tutte, 3);
-    for (int fatale = 1; fatale <= tutte; ++fatale) {
-        SCOPED_TRACE(fatale);
-        esegui("update DatiAzienda set Banca = 'Banca del Mattino'");
-        const Riga prima = tutto();
-        const support::HeardBoxes scatole;
-        apri();
-        metti("Banca", "Altra");
-        corri(fatale, Failure::Ended, [this] { salva(); });
-        EXPECT_EQ(scatole.texts.size(), 1U);
-        EXPECT_TRUE(aperta());
-        server.repair();
-        EXPECT_EQ(tutto(), prima);
-        for (int volta = 0; volta < 2 && aperta(); ++volta) { // the first may find the connection lost
-            salva();
-        }
-        EXPECT_FALSE(aperta());
-        EXPECT_EQ(colonna("Banca"), "Altra");
-    }
-}
-
-constexpr qint64 kUnAttesa = 10'000; // one second, and as long again for the answer to its cancel
 
 TEST_F(ServerAzienda, AtWhicheverStatementOfTheLoadTheServerFallsSilentItIsWaitedForOnceAndNothingIsTold) {
     const int tutte = corri(0, Failure::Frozen, [this] { apri(); });
@@ -86,31 +91,12 @@ TEST_F(ServerAzienda, AtWhicheverStatementOfTheLoadTheServerFallsSilentItIsWaite
     EXPECT_EQ(testi({"DCPagamento1", "DataCombo2"}), (Riga{"Rimessa diretta a 30 Data fattura", "Italia"}));
 }
 
+TEST_F(ServerAzienda, AtWhicheverStatementTheServerEndsTheSaveIsToldAndALaterOneStores) {
+    salvaDoveFallisce(Failure::Ended);
+}
+
 TEST_F(ServerAzienda, AtWhicheverStatementTheServerFallsSilentTheSaveIsToldOnceAndALaterOneStores) {
-    apri();
-    const int tutte = corri(0, Failure::Frozen, [this] { salva(); });
-    ASSERT_GE(tutte, 3);
-    for (int fatale = 1; fatale <= tutte; ++fatale) {
-        SCOPED_TRACE(fatale);
-        esegui("update DatiAzienda set Banca = 'Banca del Mattino'");
-        const Riga prima = tutto();
-        const support::HeardBoxes scatole;
-        apri();
-        metti("Banca", "Altra");
-        QElapsedTimer tempo;
-        tempo.start();
-        corri(fatale, Failure::Frozen, [this] { salva(); });
-        EXPECT_LT(tempo.elapsed(), kUnAttesa);
-        EXPECT_EQ(scatole.texts, Testi{kTimedOut});
-        EXPECT_TRUE(aperta());
-        server.repair();
-        EXPECT_EQ(tutto(), prima);
-        for (int volta = 0; volta < 2 && aperta(); ++volta) { // the first may find the connection lost
-            salva();
-        }
-        EXPECT_FALSE(aperta());
-        EXPECT_EQ(colonna("Banca"), "Altra");
-    }
+    salvaDoveFallisce(Failure::Frozen);
 }
 
 TEST_F(ServerAzienda, AtWhicheverStatementTheServerFallsSilentTheTownIsToldAndMayBeLeftAgain) {

@@ -227,5 +227,10 @@ TEST_F(ComuniForm, TheWindowsOwnCloseStepsBackWithoutASave) {
     EXPECT_EQ(gui.visibleForms(), "Avvio_Azienda");
 }
 
+TEST_F(ComuniForm, ItFitsANarrowScreen) {
+    apri();
+    EXPECT_LE(gui.form("frmComuni").minimumSizeHint().width(), 960);
+}
+
 } // namespace
 } // namespace vabo

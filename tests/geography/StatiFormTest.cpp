@@ -218,5 +218,10 @@ TEST_F(StatiForm, TheWindowsOwnCloseStepsBackWithoutAPurgeAndWithoutASave) {
     EXPECT_EQ(gui.visibleForms(), "Avvio_Azienda");
 }
 
+TEST_F(StatiForm, ItFitsANarrowScreen) {
+    apri();
+    EXPECT_LE(gui.form("stati").minimumSizeHint().width(), 960);
+}
+
 } // namespace
 } // namespace vabo

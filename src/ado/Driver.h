@@ -59,8 +59,8 @@ public:
     virtual std::string_view text(int field) const = 0;
 };
 
-/// Rows that no other connection can write until `release`, or while this object lives. Their own writes must go through
-/// `run`.
+/// Rows that no other connection can write until `release`, or while this object lives. Their own writes must go
+/// through `run`.
 class DriverHold {
 public:
     virtual ~DriverHold() = default;

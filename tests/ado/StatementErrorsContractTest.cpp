@@ -5,7 +5,6 @@
 #include "engine/run/InternalErrors.h"
 #include "engine/store/Sqlite.h"
 
-
 namespace ado {
 namespace {
 

@@ -63,31 +63,40 @@ TEST(SezionaliRifiuto, OfTheQuickSaveOfANewSection) {
 }
 
 TEST(SezionaliRifiuto, OfTheAdditionOfANewSection) {
-    replay(Operazione{.tables = {"IvaSezionale"},
-                      .reach =
-                          [](Sezionali& form) {
-                              form.apri();
-                              form.scrivi("Mostre", "Arte", "4");
-                          },
-                      .act = [](Sezionali& form) { form.premi("Command5"); },
-                      .once = {"silent; rows periods 3 3 3 NULL, counter 3, carries 250.10 33.00 0.00 0.00; list right; fields kept", kRefused, kRefused, kStoredKept, kStoredUnreadKept, kStoredUnreadKept},
-                      .fromThere = {kRefused, kRefused, kRefused, kStoredUnreadKept, kStoredUnreadKept, kStoredUnreadKept}});
+    replay(Operazione{
+        .tables = {"IvaSezionale"},
+        .reach =
+            [](Sezionali& form) {
+                form.apri();
+                form.scrivi("Mostre", "Arte", "4");
+            },
+        .act = [](Sezionali& form) { form.premi("Command5"); },
+        .once = {"silent; rows periods 3 3 3 NULL, counter 3, carries 250.10 33.00 0.00 0.00; list right; fields kept",
+                 kRefused, kRefused, kStoredKept, kStoredUnreadKept, kStoredUnreadKept},
+        .fromThere = {kRefused, kRefused, kRefused, kStoredUnreadKept, kStoredUnreadKept, kStoredUnreadKept}});
 }
 
 TEST(SezionaliRifiuto, OfTheAdditionOverAKnownSection) {
-    replay(Operazione{.tables = {"IvaSezionale"},
-                      .reach = [](Sezionali& form) { apriSu(form, "2"); },
-                      .act = [](Sezionali& form) { form.premi("Command5"); },
-                      .once = {"silent; rows periods 3 NULL 3, counter 3, carries 250.10 0.00 0.00; list right; fields kept", kRefused, kRefused, kRefused, kStoredUnreadKept, kStoredUnreadKept},
-                      .fromThere = {kRefused, kRefused, kRefused, kRefused, kStoredUnreadKept, kStoredUnreadKept}});
+    replay(Operazione{
+        .tables = {"IvaSezionale"},
+        .reach = [](Sezionali& form) { apriSu(form, "2"); },
+        .act = [](Sezionali& form) { form.premi("Command5"); },
+        .once = {"silent; rows periods 3 NULL 3, counter 3, carries 250.10 0.00 0.00; list right; fields kept",
+                 kRefused, kRefused, kRefused, kStoredUnreadKept, kStoredUnreadKept},
+        .fromThere = {kRefused, kRefused, kRefused, kRefused, kStoredUnreadKept, kStoredUnreadKept}});
 }
 
 TEST(SezionaliRifiuto, OfThePeriodOfAllSections) {
-    replay(Operazione{.tables = {"IvaSezionale", "contatorepd"},
-                      .reach = [](Sezionali& form) { form.apri(); },
-                      .act = [](Sezionali& form) { form.scegliLiquidazione(0); },
-                      .once = {"told it; rows before; list right; fields done", "told it; rows periods 1 1 1, counter 3, carries 250.10 33.00 0.00; list right; fields done", kStoredUnread, kStoredUnread},
-                      .fromThere = {"told it; rows before; list empty; fields done", "told it; rows periods 1 1 1, counter 3, carries 250.10 33.00 0.00; list empty; fields done", kStoredUnread, kStoredUnread}});
+    replay(Operazione{
+        .tables = {"IvaSezionale", "contatorepd"},
+        .reach = [](Sezionali& form) { form.apri(); },
+        .act = [](Sezionali& form) { form.scegliLiquidazione(0); },
+        .once = {"told it; rows before; list right; fields done",
+                 "told it; rows periods 1 1 1, counter 3, carries 250.10 33.00 0.00; list right; fields done",
+                 kStoredUnread, kStoredUnread},
+        .fromThere = {"told it; rows before; list empty; fields done",
+                      "told it; rows periods 1 1 1, counter 3, carries 250.10 33.00 0.00; list empty; fields done",
+                      kStoredUnread, kStoredUnread}});
 }
 
 TEST(SezionaliRifiuto, OfAResetOfTheCounters) {
@@ -102,11 +111,20 @@ TEST(SezionaliRifiuto, OfAResetOfTheCounters) {
 }
 
 TEST(SezionaliRifiuto, OfTheYearCarriedOver) {
-    replay(Operazione{.tables = {"IvaSezionale"},
-                      .reach = [](Sezionali& form) { apriSu(form, "2"); },
-                      .act = [](Sezionali& form) { form.premi("Command4"); },
-                      .once = {kRefused, "silent; rows periods 3 3 3, counter 3, carries 77.80 0.00 0.00; list right; fields kept", "silent; rows periods 3 3 3, counter 3, carries 250.10 0.00 0.00; list right; fields kept", "silent; rows periods 3 3 3, counter 3, carries 77.80 0.00 0.00; list right; fields kept", "silent; rows periods 3 3 3, counter 3, carries 77.80 33.00 0.00; list right; fields kept", kStoredKept, kStoredKept, kStoredUnreadKept, kStoredUnreadKept},
-                      .fromThere = {kRefused, "told it; rows before; list empty; fields kept", "told it; rows before; list empty; fields kept", "told it; rows periods 3 3 3, counter 3, carries 77.80 33.00 0.00; list empty; fields kept", "told it; rows periods 3 3 3, counter 3, carries 77.80 33.00 0.00; list empty; fields kept", kStoredUnreadKept, kStoredUnreadKept, kStoredUnreadKept, kStoredUnreadKept}});
+    replay(Operazione{
+        .tables = {"IvaSezionale"},
+        .reach = [](Sezionali& form) { apriSu(form, "2"); },
+        .act = [](Sezionali& form) { form.premi("Command4"); },
+        .once = {kRefused, "silent; rows periods 3 3 3, counter 3, carries 77.80 0.00 0.00; list right; fields kept",
+                 "silent; rows periods 3 3 3, counter 3, carries 250.10 0.00 0.00; list right; fields kept",
+                 "silent; rows periods 3 3 3, counter 3, carries 77.80 0.00 0.00; list right; fields kept",
+                 "silent; rows periods 3 3 3, counter 3, carries 77.80 33.00 0.00; list right; fields kept",
+                 kStoredKept, kStoredKept, kStoredUnreadKept, kStoredUnreadKept},
+        .fromThere = {kRefused, "told it; rows before; list empty; fields kept",
+                      "told it; rows before; list empty; fields kept",
+                      "told it; rows periods 3 3 3, counter 3, carries 77.80 33.00 0.00; list empty; fields kept",
+                      "told it; rows periods 3 3 3, counter 3, carries 77.80 33.00 0.00; list empty; fields kept",
+                      kStoredUnreadKept, kStoredUnreadKept, kStoredUnreadKept, kStoredUnreadKept}});
 }
 
 TEST(SezionaliRifiuto, OfADeletion) {

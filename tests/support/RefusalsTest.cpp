@@ -37,8 +37,9 @@ protected:
         ado::Recordset rs;
         ado::Connection connection;
         step([&] { connection.Open(text()); });
-        step([&] { rs.Open("select * from Prova order by n", connection, ado::CursorType::Keyset,
-                           ado::LockType::Pessimistic); });
+        step([&] {
+            rs.Open("select * from Prova order by n", connection, ado::CursorType::Keyset, ado::LockType::Pessimistic);
+        });
         step([&] { rs["t"] = "altro"; });
         step([&] { rs.Update(); });
         return failed;

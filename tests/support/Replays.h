@@ -33,7 +33,7 @@ using Lines = std::vector<std::string>;
 
 template<typename World>
 struct Operation {
-    std::set<std::string> tables;      ///< those of the company that it writes
+    std::set<std::string> tables;      ///< those that it writes, see `allRows`
     std::function<void(World&)> reach; ///< opens the form and fills it
     std::function<void(World&)> act;   ///< the keys that write; questions are answered with Yes
     std::string folder = {};           ///< the answer where a folder is asked for
@@ -53,9 +53,23 @@ struct Run {
     Lines told, asked;
 };
 
+/// The rows of all databases of the program; those beside the company's under names like VaBoDatiTemp.dbo.Version.
+inline std::map<std::string, std::vector<TestWorkstation::Row>> allRows(const TestWorkstation& posto) {
+    auto all = posto.tables(kCompany);
+    for (const std::string database : {kControlDatabase, kTemporaryDatabase}) {
+        if (posto.rows("master", "select name from master.dbo.sysdatabases where name = '" + database + "'").empty()) {
+            continue;
+        }
+        for (auto& [table, rows] : posto.tables(database)) {
+            all[database + ".dbo." + table] = std::move(rows);
+        }
+    }
+    return all;
+}
+
 template<typename World>
 Moment momentOf(const World& world) {
-    Moment moment{world.fields(), world.shown(), world.held(), world.posto.tables(kCompany), "half"};
+    Moment moment{world.fields(), world.shown(), world.held(), allRows(world.posto), "half"};
     if constexpr (requires { world.half(); }) {
         moment.half = world.half();
     }
@@ -79,7 +93,11 @@ void expectWhole(World& world, const Operation<World>& operation, const Run& run
         }
     }
     for (const std::string& table : operation.tables) {
-        EXPECT_NO_THROW(world.posto.run(kCompany, "begin transaction; delete from " + table + "; rollback transaction"))
+        const auto place = table.find(".dbo.");
+        const bool ofCompany = place == std::string::npos;
+        EXPECT_NO_THROW(world.posto.run(ofCompany ? kCompany : table.substr(0, place),
+                                        "begin transaction; delete from " +
+                                            (ofCompany ? table : table.substr(place + 1)) + "; rollback transaction"))
             << "rows are held: " << table;
     }
     const HeardBoxes boxes;

@@ -195,8 +195,8 @@ public:
     }
 
     /// Takes back the transaction whose commit has failed, where that has failed as well: with it open, whatever is
-    /// written next would be lost without a word, and its rows would stay locked in a connection that the driver manager
-    /// keeps.
+    /// written next would be lost without a word, and its rows would stay locked in a connection that the driver
+    /// manager keeps.
     void takeBack() noexcept {
         if (!halfCommitted_ || isDead(handle_)) {
             return;
@@ -206,7 +206,7 @@ public:
             setPreparedFor(timeout_);
             halfCommitted_ = false;
         } catch (const std::exception&) { // NOLINT(bugprone-empty-catch)
-            // Tried again before the next use and at the end.
+            // Tried again at the end.
         }
     }
 
@@ -342,7 +342,6 @@ std::vector<std::string> OdbcConnection::primaryKey(const std::string& table) {
 }
 
 bool OdbcConnection::alive() const {
-    connection_->takeBack();
     return connection_->alive();
 }
 

@@ -78,7 +78,6 @@ void Form::runActivate() {
 }
 
 void Form::runUnload() {
-    const Work work(*this);
     unloading_ = true;
     guarded([this] { Unload(); });
 }

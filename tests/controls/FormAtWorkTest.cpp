@@ -70,16 +70,4 @@ TEST_F(FormAtWork, UnloadedMeanwhileItIsDeletedWhenItsEventIsOver) {
     EXPECT_EQ(log.back(), "deleted");
 }
 
-TEST_F(FormAtWork, UnloadedInItsUnloadsOwnPaintingItIsDeletedAfterIt) {
-    RecordedForm::Events events;
-    events.unload = [this](RecordedForm& form) {
-        meanwhile(form, [&form] { form.UnloadMe(); });
-        EXPECT_THAT(log, Not(Contains("deleted")));
-    };
-    load(events);
-    gui.forms().unload("A");
-    Gui::handleEvents();
-    EXPECT_EQ(log.back(), "deleted");
-}
-
 } // namespace

@@ -36,6 +36,25 @@ TEST_F(AvvioForm, GivesWayToTheLoginAndStaysLoaded) {
     EXPECT_TRUE(gui.forms().isLoaded("Avvio"));
 }
 
+// A close isn't a key or a click, so it comes while the form paints.
+TEST_F(AvvioForm, ClosedWhileItWorksItGoesOnAndStaysLoaded) {
+    int closed = 0;
+    ado::setStatementRecorder([&](const std::string& /*text*/) {
+        for (const char* name : {"Avvio", "FormRefreshLinks"}) {
+            if (gui.isVisible(name)) {
+                ++closed;
+                QMetaObject::invokeMethod(&gui.form(name), &QWidget::close, Qt::QueuedConnection);
+            }
+        }
+    });
+    gui.forms().show("Avvio");
+    ado::setStatementRecorder({});
+    support::Gui::handleEvents();
+    EXPECT_GT(closed, 0);
+    EXPECT_TRUE(gui.forms().isLoaded("Avvio"));
+    EXPECT_EQ(gui.visibleForms(), "About");
+}
+
 TEST_F(AvvioForm, TakesTheCompanyOfTheTerminal) {
     setTerminal(support::kTerminalName, idOf(support::kOtherCompany));
     gui.forms().show("Avvio");

@@ -11,6 +11,7 @@
 #include <cmath>
 #include <filesystem>
 #include <fstream>
+#include <set>
 
 namespace monkey {
 
@@ -25,19 +26,25 @@ bool isDatabase(const fs::path& file) {
     return start == kMark;
 }
 
-int checkFilesIn(const fs::path& folder) {
-    int checked = 0;
-    for (const fs::directory_entry& file : fs::recursive_directory_iterator(folder)) {
-        if (!file.is_regular_file() || !isDatabase(file.path())) {
-            continue;
+void checkFile(const fs::path& file) {
+    engine::sqlite::Connection connection(file, false);
+    engine::sqlite::Statement check(connection, "PRAGMA integrity_check");
+    EXPECT_TRUE(check.step());
+    EXPECT_EQ(check.text(0), "ok") << file;
+}
+
+/// The databases on drive C, and those of a server beside it.
+std::set<fs::path> databaseFiles(const support::TestWorkstation& workstation) {
+    std::set<fs::path> files;
+    for (const fs::directory_entry& file : fs::recursive_directory_iterator(workstation.driveC().root())) {
+        if (file.is_regular_file() && isDatabase(file.path())) {
+            files.insert(file.path());
         }
-        engine::sqlite::Connection connection(file.path(), false);
-        engine::sqlite::Statement check(connection, "PRAGMA integrity_check");
-        EXPECT_TRUE(check.step());
-        EXPECT_EQ(check.text(0), "ok") << file.path();
-        ++checked;
     }
-    return checked;
+    for (const auto& row : workstation.rows("master", "select filename from master.dbo.sysdatabases")) {
+        files.insert(row[0].starts_with('/') ? fs::path(row[0]) : workstation.driveC().real(row[0]));
+    }
+    return files;
 }
 
 bool sameText(const std::string& one, const std::string& other) {
@@ -66,8 +73,10 @@ std::string stackFault(const std::vector<std::string>& names) {
 }
 
 void checkDatabases(const support::TestWorkstation& workstation) {
-    constexpr int kFewest = 8; // of the instance, the two companies and the local files
-    EXPECT_GE(checkFilesIn(workstation.driveC().root()), kFewest);
+    constexpr std::size_t kFewest = 8; // of the instance, the two companies and the local files
+    const std::set<fs::path> files = databaseFiles(workstation);
+    EXPECT_GE(files.size(), kFewest);
+    std::ranges::for_each(files, checkFile);
     for (const auto& database : workstation.rows("master", "select name from master.dbo.sysdatabases")) {
         const auto session = workstation.engineSession(database[0]);
         for (const auto& table :

@@ -27,6 +27,8 @@ public:
     const std::vector<std::string>& forms() const { return names_; }
     const support::TestWorkstation& workstation() const { return workstation_; }
     int ends() const { return ends_; }
+    /// The program can't be started again.
+    bool isOver() const { return over_; }
 
 private:
     void start();
@@ -55,6 +57,7 @@ private:
     QTimer impatience_; ///< fires when the program handles events in the middle of one
     bool working_ = false;
     int depth_ = 0; ///< of such events in such events
+    bool over_ = false;
     int ends_ = 0;
 };
 

@@ -62,7 +62,7 @@ TEST_P(Monkey, FindsNothingThatBreaksTheProgram) {
         {
             Life life(dice, hands, boxes, watchdog);
             forms = life.forms();
-            for (int rounds = 2; rounds > 0 && hands.events() < events && !HasFailure(); --rounds) {
+            for (int rounds = 2; rounds > 0 && !life.isOver() && hands.events() < events && !HasFailure(); --rounds) {
                 life.visitAll();
             }
             ends += life.ends();

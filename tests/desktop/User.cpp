@@ -3,8 +3,12 @@
 #include "desktop/Picture.h"
 #include "desktop/Waiting.h"
 
+#include <QScopedValueRollback>
+
 #include <gtest/gtest.h>
 
+#include <algorithm>
+#include <csignal>
 #include <stdexcept>
 #include <utility>
 
@@ -38,6 +42,17 @@ void User::enter(std::initializer_list<std::u32string_view> texts) {
     }
 }
 
+void User::ahead(long long process, const std::function<void()>& keys) {
+    const auto stopped = static_cast<pid_t>(process);
+    ::kill(stopped, SIGSTOP);
+    {
+        const QScopedValueRollback blind(ahead_, true);
+        keys();
+    }
+    ::kill(stopped, SIGCONT);
+    awaitHandled();
+}
+
 void User::awaitWindow(const std::string& title) {
     awaitThat("the window \"" + title + "\"", [&] { return windows_.active().title == title; });
 }
@@ -66,7 +81,7 @@ void User::awaitThat(const std::string& what, const std::function<bool()>& condi
 
 void User::awaitHandled() {
     const Window window = windows_.active();
-    if (window.id != XCB_NONE && !windows_.waitUntilHandled(window.id)) {
+    if (!ahead_ && window.id != XCB_NONE && !windows_.waitUntilHandled(window.id)) {
         giveUp("an answer of the window \"" + window.title + "\"");
     }
 }

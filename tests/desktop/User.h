@@ -30,6 +30,9 @@ public:
     /// Types the texts, each with Return behind it.
     void enter(std::initializer_list<std::u32string_view> texts);
 
+    /// Has these keys waiting for that process when it handles the first: it is stopped meanwhile.
+    void ahead(long long process, const std::function<void()>& keys);
+
     /// Waits until the window with that title gets the keys.
     void awaitWindow(const std::string& title);
     /// Waits for a box that wasn't there at the last call, and leaves it with a key.
@@ -53,6 +56,7 @@ private:
     Windows windows_{x_};
     xcb_window_t lastBox_ = XCB_NONE;
     int looks_ = 0;
+    bool ahead_ = false;
 };
 
 } // namespace desktop

@@ -16,6 +16,7 @@
 #include <QWheelEvent>
 
 #include <algorithm>
+#include <utility>
 
 namespace controls {
 
@@ -263,6 +264,11 @@ void DataCombo::mousePressEvent(QMouseEvent* event) {
 }
 
 void DataCombo::focusInEvent(QFocusEvent* event) {
+    QWidget* owner = std::exchange(focusOwner_, nullptr);
+    if (owner != nullptr && event->reason() == Qt::ActiveWindowFocusReason) {
+        owner->setFocus(event->reason());
+        return;
+    }
     byMouse_ = event->reason() == Qt::MouseFocusReason;
     QComboBox::focusInEvent(event);
 }
@@ -295,6 +301,11 @@ void DataCombo::widenPopup() {
 }
 
 bool DataCombo::eventFilter(QObject* watched, QEvent* event) {
+    // The window system may tell that the search list is active when a pick has closed it already. The toolkit then
+    // sends the focus back here from where the pick has led.
+    if (watched == completer()->popup() && event->type() == QEvent::WindowActivate) {
+        focusOwner_ = completer()->popup()->isVisible() ? nullptr : QApplication::focusWidget();
+    }
     if (watched == lineEdit() && event->type() == QEvent::MouseButtonPress) {
         emit Click(Edit);
     }

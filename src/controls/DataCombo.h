@@ -3,6 +3,7 @@
 #include "controls/DataControl.h"
 
 #include <QComboBox>
+#include <QPointer>
 
 #include <string>
 
@@ -94,6 +95,7 @@ private:
     bool leaving_ = false;
     bool byMouse_ = false; ///< the focus came by a press of the mouse
     bool selectAtRelease_ = false;
+    QPointer<QWidget> focusOwner_; ///< gets back a focus that came by mistake
 };
 
 } // namespace controls

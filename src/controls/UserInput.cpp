@@ -46,8 +46,7 @@ bool isEnter(const Stroke& stroke) {
 
 /// An open list picks its row before the press is sent, which then goes to where the pick has led.
 bool hasPicked(const QEvent& event) {
-    const bool press = event.type() == QEvent::KeyPress && QApplication::activePopupWidget() == nullptr;
-    return press && isEnter(inList) && strokeOf(event) == inList;
+    return event.type() == QEvent::KeyPress && isEnter(inList) && strokeOf(event) == inList;
 }
 
 /// Of Enter anywhere, and of Space on a button: held over a grid it may have moved the focus there.
@@ -88,8 +87,11 @@ void UserInput::watch() {
 }
 
 bool UserInput::eventFilter(QObject* watched, QEvent* event) {
-    if (event->type() == QEvent::ShortcutOverride && QApplication::activePopupWidget() != nullptr) {
+    const bool inOpenList = QApplication::activePopupWidget() != nullptr;
+    if (inOpenList && event->type() == QEvent::ShortcutOverride) {
         inList = strokeOf(*event); // comes ahead of the press
+    } else if (inOpenList && event->type() == QEvent::KeyPress) {
+        inList = {}; // handled by the list itself
     }
     if (!isInput(event->type())) {
         return false;

@@ -158,4 +158,39 @@ TEST_F(DataComboEvents, WhatTheFormSetsInTheClickOfAPickInTheSearchStays) {
     EXPECT_EQ(combo().BoundText(), "");
 }
 
+/// A pick leads to the field behind the list.
+class DataComboWithField : public DataComboFixture {
+protected:
+    DataComboWithField() {
+        open([](RecordedForm& form, controls::DataCombo& list) {
+            form.on(&list, &controls::DataCombo::Click,
+                    [&form] { form.findChild<QLineEdit*>(QStringLiteral("field"))->setFocus(); });
+            form.on(&list, &controls::DataCombo::GotFocus, [&form] { form.setProperty("gotFocus", true); });
+        });
+    }
+};
+
+TEST_F(DataComboWithField, ASearchListThatIsTakenAsActiveOnlyWhenItHasClosedLeavesTheFocusWhereThePickHasLed) {
+    QAbstractItemView& found = search("alb");
+    QTest::keyClick(&found, Qt::Key_Return);
+    ASSERT_EQ(gui.focus(), "F.field");
+    gui.form("F").setProperty("gotFocus", false);
+    QApplication::setActiveWindow(&found);
+    EXPECT_EQ(gui.focus(), "F.field");
+    EXPECT_FALSE(gui.form("F").property("gotFocus").toBool());
+    QApplication::setActiveWindow(&gui.form("F"));
+    gui.find("F", "field").setFocus(Qt::TabFocusReason);
+    combo().setFocus(Qt::TabFocusReason);
+    EXPECT_EQ(gui.focus(), "F.combo") << "a user's focus stays";
+}
+
+TEST_F(DataComboWithField, ASearchListThatIsActiveWhileItIsOpenLeavesTheFocusToTheCombo) {
+    QAbstractItemView& found = search("alb");
+    QApplication::setActiveWindow(&found);
+    QTest::keyClick(&found, Qt::Key_Escape);
+    Gui::handleEvents();
+    QApplication::setActiveWindow(&gui.form("F"));
+    EXPECT_EQ(gui.focus(), "F.combo");
+}
+
 } // namespace

@@ -175,6 +175,18 @@ void RoomyStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* opt
     }
 }
 
+// The base style leaves open whether the tabs have the focus.
+void RoomyStyle::drawControl(ControlElement element, const QStyleOption* option, QPainter* painter,
+                             const QWidget* widget) const {
+    QProxyStyle::drawControl(element, option, painter, widget);
+    if (element == CE_TabBarTabLabel && has(*option, State_HasFocus)) {
+        constexpr int kInside = 3;
+        QStyleOption inside = *option;
+        inside.rect.adjust(kInside, kInside, -kInside, -kInside);
+        drawFrame(*painter, inside, Qt::transparent, true);
+    }
+}
+
 void RoomyStyle::drawComplexControl(ComplexControl control, const QStyleOptionComplex* option, QPainter* painter,
                                     const QWidget* widget) const {
     if (control != CC_ComboBox) {

@@ -46,9 +46,7 @@ TEST_F(Anticipo, APaymentTermIsTypedBeforeItsFormHandlesAKey) {
     user().press("Return", 5);
     user().press("ctrl+Return");
     user().awaitWindow("Condizioni di pagamento");
-    user().ahead(program->pid(), [this] {
-        user().enter({U"10 - 25", U"", U"30", U"60", U"90", U"", U"bonif"});
-    });
+    user().ahead(program->pid(), [this] { user().enter({U"10 - 25", U"", U"30", U"60", U"90", U"", U"bonif"}); });
     user().look("term");
     user().press("Return");
     awaitValue(support::kCompany,

@@ -27,8 +27,8 @@ protected:
     Row row(const std::string& sql) const { return workstation.row(kCompany, sql); }
     void await(const std::string& sql, const std::string& expected) { awaitValue(kCompany, sql, expected); }
     std::string definito(const std::string& description) const {
-        return workstation.value(kCompany, "select definito from partitadoppia where Descrizione = '" + description +
-                                               "'");
+        return workstation.value(kCompany,
+                                 "select definito from partitadoppia where Descrizione = '" + description + "'");
     }
     std::string company() const {
         return workstation.value(support::kControlDatabase, "select L.dbname from link_programmaTerminale T inner "
@@ -154,8 +154,8 @@ protected:
         EXPECT_EQ(row("select Nome, Via, città, cap, telefonoufficio, numerofax, indirizzopostaelettronica, sito, "
                       "IDPagamento, (select Descrizione from CondizioniPagamento where IDPagamento = IdIncasso), "
                       "Codicefiscale, PartitaIva from DatiAzienda"),
-                  (Row{"Fondazione Il Ponte più", "Salita del Ponte 5/A", "Genova (GE)", "16121", "010 5550700",
-                       "NULL", "posta@ponte.example", "NULL", "2", kTerm, "95103440103", "95103440103"}))
+                  (Row{"Fondazione Il Ponte più", "Salita del Ponte 5/A", "Genova (GE)", "16121", "010 5550700", "NULL",
+                       "posta@ponte.example", "NULL", "2", kTerm, "95103440103", "95103440103"}))
             << "a change of the town appends the province";
     }
     void addTerm() {

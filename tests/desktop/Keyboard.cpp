@@ -1,12 +1,11 @@
 #include "desktop/Keyboard.h"
 
-#include <xcb/xtest.h>
-
 #include <algorithm>
 #include <chrono>
 #include <stdexcept>
 #include <thread>
 #include <utility>
+#include <xcb/xtest.h>
 
 namespace desktop {
 

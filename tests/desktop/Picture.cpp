@@ -11,8 +11,8 @@ QImage picture(const XConnection& x) {
     if (!screen) {
         throw std::runtime_error("The display is gone.");
     }
-    const auto asked = xcb_get_image(x.server(), XCB_IMAGE_FORMAT_Z_PIXMAP, x.root(), 0, 0, screen->width,
-                                     screen->height, kAllPlanes);
+    const auto asked =
+        xcb_get_image(x.server(), XCB_IMAGE_FORMAT_Z_PIXMAP, x.root(), 0, 0, screen->width, screen->height, kAllPlanes);
     const Owned<xcb_get_image_reply_t> points(xcb_get_image_reply(x.server(), asked, nullptr));
     if (!points) {
         throw std::runtime_error("The screen can't be read.");

@@ -83,8 +83,9 @@ protected:
         return rows;
     }
     std::string lockOf(int project) const {
-        return workstation.value(support::kCompany, "select CONVERT(varchar(10), iddate, 120) from progetti where ID = " +
-                                                        std::to_string(project));
+        return workstation.value(support::kCompany,
+                                 "select CONVERT(varchar(10), iddate, 120) from progetti where ID = " +
+                                     std::to_string(project));
     }
     std::string dataSources() const {
         std::ifstream file(workstation.dataSourceFile());

@@ -6,8 +6,7 @@
 
 namespace desktop {
 
-Windows::Windows(const XConnection& x)
-    : x_(x), protocols_(x.atom("WM_PROTOCOLS")), ping_(x.atom("_NET_WM_PING")) {
+Windows::Windows(const XConnection& x) : x_(x), protocols_(x.atom("WM_PROTOCOLS")), ping_(x.atom("_NET_WM_PING")) {
     // The answers are sent to the root window.
     const std::uint32_t events = XCB_EVENT_MASK_STRUCTURE_NOTIFY | XCB_EVENT_MASK_SUBSTRUCTURE_NOTIFY;
     xcb_change_window_attributes(x_.server(), x_.root(), XCB_CW_EVENT_MASK, &events);

@@ -1,12 +1,11 @@
 #pragma once
 
-#include <xcb/xcb.h>
-
 #include <cstdint>
 #include <cstdlib>
 #include <memory>
 #include <string>
 #include <vector>
+#include <xcb/xcb.h>
 
 namespace desktop {
 

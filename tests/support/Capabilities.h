@@ -36,7 +36,8 @@ inline constexpr Capability kMachineWithoutDisplay = {"There is no Xvfb, openbox
 
 } // namespace support
 
-/// Skips the running test, with the reason as its message, where the driver or the machine doesn't offer what the test needs.
+/// Skips the running test, with the reason as its message, where the driver or the machine doesn't offer what the test
+/// needs.
 #define VABO_NEEDS(capability)                                                                                         \
     if (!(capability))                                                                                                 \
     GTEST_SKIP() << (capability).missing

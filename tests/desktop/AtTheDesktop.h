@@ -17,6 +17,7 @@
 /// The program itself on the sample workstation, and a user before it. The rows are read beside the program.
 class AtTheDesktop : public testing::Test {
 protected:
+    static constexpr const char* kStart = "Tlv";
     static constexpr const char* kLogin = "Tlv - Aldane Works Software Solutions - Ver.Nr. 1.0.0";
     static constexpr const char* kConsole = "Gestione azienda";
     static constexpr const char* kTables = "Morlan";

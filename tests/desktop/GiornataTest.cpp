@@ -235,7 +235,7 @@ TEST_F(Giornata, FromTheLoginToTheEndOfTheProcess) {
     addTermAndChangeData();
     addUser();
     user().press("alt+F4");
-    user().awaitNoWindow();
+    user().awaitOnlyHidden(kStart);
 
     const auto evening = startProgram();
     logInAsThatUser();

@@ -138,8 +138,8 @@ TEST_F(ProgettoBloccato, FromTheStartToTheLedger) {
     user().press("alt+c");
     user().awaitWindow(kConsole);
     user().press("alt+F4");
-    user().awaitNoWindow();
-    EXPECT_TRUE(program->isRunning()) << "the hidden start form is left";
+    user().awaitOnlyHidden(kStart);
+    EXPECT_TRUE(program->isRunning());
     program->kill();
     EXPECT_EQ(ledger(), lockedLedger()) << "whatever becomes of the program";
 }

@@ -69,8 +69,12 @@ void User::answerBox(std::string_view key) {
     awaitThat("the end of the box", [&] { return windows_.active().id != lastBox_; });
 }
 
-void User::awaitNoWindow() {
+void User::awaitOnlyHidden(const std::string& title) {
     awaitThat("a screen without windows", [&] { return windows_.all().empty(); });
+    const Window hidden = windows_.hidden(title);
+    if (hidden.id == XCB_NONE || !windows_.answers(hidden.id) || !windows_.answers(hidden.id)) {
+        giveUp("an answer of the hidden window \"" + title + "\"");
+    }
 }
 
 void User::awaitThat(const std::string& what, const std::function<bool()>& condition) {

@@ -37,7 +37,8 @@ public:
     void awaitWindow(const std::string& title);
     /// Waits for a box that wasn't there at the last call, and leaves it with a key.
     void answerBox(std::string_view key);
-    void awaitNoWindow();
+    /// Waits until no window is left but that one, which is hidden and whose program still runs.
+    void awaitOnlyHidden(const std::string& title);
     void awaitThat(const std::string& what, const std::function<bool()>& condition);
     /// What the screen shows, which is written to a file too.
     QImage look(const std::string& name);

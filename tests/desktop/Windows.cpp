@@ -19,6 +19,20 @@ std::vector<Window> Windows::all() const {
     return windows;
 }
 
+// The manager gives a hidden window back to the root window.
+Window Windows::hidden(const std::string& title) const {
+    const auto asked = xcb_query_tree(x_.server(), x_.root());
+    const Owned<xcb_query_tree_reply_t> tree(xcb_query_tree_reply(x_.server(), asked, nullptr));
+    const int count = tree ? xcb_query_tree_children_length(tree.get()) : 0;
+    for (int i = 0; i < count; ++i) {
+        const Window child = window(xcb_query_tree_children(tree.get())[i]);
+        if (child.title == title) {
+            return child;
+        }
+    }
+    return {};
+}
+
 Window Windows::active() const {
     const auto managers = x_.numbers(x_.root(), "_NET_ACTIVE_WINDOW");
     const auto asked = xcb_get_input_focus(x_.server());
@@ -34,6 +48,16 @@ bool Windows::waitUntilHandled(xcb_window_t window) {
 }
 
 bool Windows::answersOrLeaves(xcb_window_t window) {
+    ask(window);
+    return within(kPatience, [&] { return takeAnswer() || active().id != window; });
+}
+
+bool Windows::answers(xcb_window_t window) {
+    ask(window);
+    return within(kPatience, [&] { return takeAnswer(); });
+}
+
+void Windows::ask(xcb_window_t window) {
     ++asked_;
     xcb_client_message_event_t question{};
     question.response_type = XCB_CLIENT_MESSAGE;
@@ -45,7 +69,6 @@ bool Windows::answersOrLeaves(xcb_window_t window) {
     question.data.data32[2] = window;
     xcb_send_event(x_.server(), 0, window, XCB_EVENT_MASK_NO_EVENT, reinterpret_cast<const char*>(&question));
     xcb_flush(x_.server());
-    return within(kPatience, [&] { return takeAnswer() || active().id != window; });
 }
 
 bool Windows::takeAnswer() const {

@@ -36,6 +36,14 @@ TEST(Processes, AKilledHelperIsGoneAndSaysNothingMore) {
     EXPECT_EQ(helper.readLine(), std::nullopt);
 }
 
+TEST(Processes, AHelperRunsUntilItIsAskedToEnd) {
+    HelperProcess helper("/bin/sleep", {"60"});
+    EXPECT_TRUE(helper.isRunning());
+    helper.terminate();
+    EXPECT_EQ(helper.finish(), -1);
+    EXPECT_FALSE(helper.isRunning());
+}
+
 TEST(Processes, AllOutputCanBeReadAtOnce) {
     HelperProcess helper("support_echo", {"one", "two"});
     EXPECT_EQ(helper.readAll(), "one\ntwo\n");

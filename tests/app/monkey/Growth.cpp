@@ -80,8 +80,8 @@ std::string Growth::complaint() const {
     if (grown(&Held::objects) >= lives) {
         all += "objects of the toolkit stay: " + std::to_string(grown(&Held::objects)) + "\n";
     }
-    // Some 0.7 MB stay with each life of six thousand events. A part of it is allocated by the toolkit's widgets, a part
-    // by the driver manager; what they keep it for isn't known.
+    // Some 0.7 MB stay with each life of six thousand events. A part of it is allocated by the toolkit's widgets, a
+    // part by the driver manager; what they keep it for isn't known.
     if (grown(&Held::bytes) >= 2 * kMegabyte + lives * kMegabyte) {
         all += "memory stays: " + std::to_string(grown(&Held::bytes)) + " bytes\n";
     }

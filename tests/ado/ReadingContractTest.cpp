@@ -47,10 +47,10 @@ TEST_F(Reading, ANameThatStandsTwiceIsTheFirst) {
 }
 
 TEST_F(Reading, AnEmptyTextIsToldFromANull) {
-    connection.Execute("create table #vuoti (testo nvarchar(10) null, corto varchar(5) null, giorno datetime null)");
-    connection.Execute("insert into #vuoti values ('', '', '20040307'), (null, null, null)");
+    connection.Execute("create table vuoti (testo nvarchar(10) null, corto varchar(5) null, giorno datetime null)");
+    connection.Execute("insert into vuoti values ('', '', '20040307'), (null, null, null)");
     Recordset rs;
-    rs.Open("select testo, corto, giorno, testo + 'x' from #vuoti order by giorno desc", connection);
+    rs.Open("select testo, corto, giorno, testo + 'x' from vuoti order by giorno desc", connection);
     for (const int column : {0, 1}) {
         EXPECT_EQ(rs[column].Value(), Value("")) << column;
     }

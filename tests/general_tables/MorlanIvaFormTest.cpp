@@ -99,7 +99,7 @@ TEST_F(MorlanIva, AStandardThatSomebodyElseHoldsIsToldAndTheNextPickStoresIt) {
         prendi("DCBitem5", "Imponibile 10%");
         EXPECT_TRUE(script.allShown());
         EXPECT_EQ(standard(), prima);
-        EXPECT_EQ(campi(), (Campi{"Imponibile 10%", "10,00", "100,00", "10"})) << "the screen is ahead of the row";
+        EXPECT_EQ(campi(), (Campi{"Imponibile 22%", "22,00", "100,00", "22"})) << "as it is stored";
     }
     prendi("DCBitem5", "Imponibile 10%");
     EXPECT_EQ(standard(), (std::vector<Riga>{{"3", "10,00", "10", "100,00"}}));

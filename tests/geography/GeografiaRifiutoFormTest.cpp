@@ -70,7 +70,7 @@ TEST(StatiRifiuto, OfAKnownState) {
                                           form.apri();
                                           form.scegli("Kenya");
                                           form.vaiA("IsoValuta");
-                                          form.gui.type("XXX");
+                                          form.gui.type("ZWL");
                                       },
                                   .act = [](Stati& form) { form.invio(); },
                                   .once = support::inTurn({{1, support::kRefused},

@@ -158,7 +158,7 @@ bool ServerSession::endLostTransaction() {
 
 void ServerSession::prepareFor(Database& database, bool writes) {
     firstWrite_ = nullptr;
-    database.connection().waitAtMost(settings.lockTimeout);
+    database.connection().waitAtMost(settings.patience());
     if ((writes || settings.stableReads) && transactions_ > 0 && !database.connection().inTransaction()) {
         try {
             database.connection().begin();

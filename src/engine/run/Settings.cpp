@@ -223,6 +223,11 @@ void set(ServerSession& session, const Wish& wish) {
 
 } // namespace
 
+std::int64_t Settings::patience() const {
+    constexpr std::int64_t kMoment = 2000;
+    return lockTimeout < 0 ? lockTimeout : std::max(lockTimeout, kMoment);
+}
+
 std::int64_t Settings::options() const {
     // ANSI_WARNINGS, ANSI_PADDING, ANSI_NULLS, ARITHABORT, QUOTED_IDENTIFIER, ANSI_NULL_DFLT_ON,
     // CONCAT_NULL_YIELDS_NULL

@@ -35,6 +35,10 @@ struct Settings {
     bool runsNothing() const { return noExecution || showPlan || parseOnly || formatOnly; }
     /// Whether a plan made for a shape serves as it is.
     bool takesPlans() const { return rowCount == 0 && !implicitTransactions && !runsNothing(); }
+    /// How long a statement waits for another writer, in milliseconds; below 0 the storage's usual time. Never less
+    /// than a moment: the storage lets one session write at a time, also where the rows are others and nobody would be
+    /// waited for. A row that is held is refused at once.
+    std::int64_t patience() const;
     /// @@OPTIONS, a bit each.
     std::int64_t options() const;
 };

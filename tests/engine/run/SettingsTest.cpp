@@ -4,6 +4,7 @@
 #include "engine/SessionFixture.h"
 
 #include <chrono>
+#include <thread>
 
 namespace engine {
 namespace {
@@ -166,15 +167,26 @@ TEST_F(SettingsTest, LockTimeoutSaysHowLongAWriterWaitsForAnother) {
     EXPECT_EQ(engine::answer(*other, "BEGIN TRAN; UPDATE voci SET testo = 'x' WHERE n = 1"), "-\n(1)");
     run("SET LOCK_TIMEOUT 0");
     EXPECT_EQ(answer("DELETE FROM voci WHERE n = 2"), "!1222 Lock request time out period exceeded.");
-    run("SET LOCK_TIMEOUT 200");
-    EXPECT_EQ(rows("SELECT @@LOCK_TIMEOUT"), "200");
+    run("SET LOCK_TIMEOUT 2500");
+    EXPECT_EQ(rows("SELECT @@LOCK_TIMEOUT"), "2500");
     const auto began = std::chrono::steady_clock::now();
     EXPECT_EQ(answer("DELETE FROM voci WHERE n = 2"), "!1222 Lock request time out period exceeded.");
-    EXPECT_GE(std::chrono::steady_clock::now() - began, std::chrono::milliseconds(200));
+    EXPECT_GE(std::chrono::steady_clock::now() - began, std::chrono::milliseconds(2500));
     EXPECT_EQ(answer("SET LOCK_TIMEOUT -2"),
               "!40510 Statement 'SET LOCK_TIMEOUT -2' is not supported in this version of SQL Server.");
     EXPECT_EQ(engine::answer(*other, "COMMIT"), "-");
     EXPECT_EQ(answer("DELETE FROM voci WHERE n = 2"), "(1)");
+}
+
+TEST_F(SettingsTest, AWriteToOtherRowsIsWaitedForWhateverTheLockTimeout) {
+    run("SET LOCK_TIMEOUT 0");
+    EXPECT_EQ(engine::answer(*other, "BEGIN TRAN; UPDATE voci SET testo = 'x' WHERE n = 1"), "-\n(1)");
+    std::thread end([&] {
+        std::this_thread::sleep_for(std::chrono::milliseconds(100));
+        EXPECT_EQ(engine::answer(*other, "COMMIT"), "-");
+    });
+    EXPECT_EQ(answer("DELETE FROM voci WHERE n = 2"), "(1)");
+    end.join();
 }
 
 TEST_F(SettingsTest, WhatASerializableTransactionHasReadStaysAsItIs) {

@@ -15,7 +15,7 @@ using testing::Not;
 /// A form whose button does what each test sets, with what happens while that runs.
 class FormAtWork : public testing::Test {
 protected:
-    void load(RecordedForm::Events events = {}) {
+    void load(const RecordedForm::Events& events = {}) {
         gui.forms().add("A", [this, events] {
             auto form = std::make_unique<RecordedForm>("A", log, events);
             auto* button = new QPushButton(form.get());

@@ -12,7 +12,6 @@ namespace support {
 namespace {
 
 using Texts = std::vector<std::string>;
-using testing::ElementsAre;
 
 class Refused : public testing::Test {
 protected:

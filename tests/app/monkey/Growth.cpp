@@ -12,6 +12,7 @@
 // The toolkit's own counters for tools: a table of functions that it calls for each object made and destroyed.
 extern Q_CORE_EXPORT quintptr qtHookData[];
 // Only a process with the sanitizer of addresses has it.
+// NOLINTNEXTLINE(bugprone-reserved-identifier): the sanitizer's own name
 extern "C" __attribute__((weak)) std::size_t __sanitizer_get_current_allocated_bytes();
 
 namespace monkey {

@@ -8,6 +8,7 @@
 #include <unistd.h>
 
 // Only a process with a sanitizer has it.
+// NOLINTNEXTLINE(bugprone-reserved-identifier): the sanitizer's own name
 extern "C" __attribute__((weak)) void __sanitizer_set_death_callback(void (*callback)());
 
 namespace monkey::story {

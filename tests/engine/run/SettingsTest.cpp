@@ -1,8 +1,9 @@
 // What SET changes in a session: each option works as documented, or takes the value that is in force and refuses any
 // other.
 
-#include "engine/SessionFixture.h"
 #include "engine/run/Settings.h"
+
+#include "engine/SessionFixture.h"
 
 #include <chrono>
 #include <thread>

@@ -66,7 +66,8 @@ std::vector<std::string> piecesOf(std::string_view name) {
 
 Scalar ServerSession::objectOf(const std::vector<std::string>& pieces) {
     const bool ofDbo = pieces.size() < 2 || pieces[1].empty() || sameText(pieces[1], "dbo");
-    const bool elsewhere = pieces.size() > 2 && !pieces[2].empty();
+    // The present database isn't refreshed: the statement that asks uses its tables as they are.
+    const bool elsewhere = pieces.size() > 2 && !pieces[2].empty() && !sameText(pieces[2], current_->name());
     const std::shared_ptr<Database> database = elsewhere ? open(pieces[2]) : current_;
     if (!ofDbo || database == nullptr) {
         return {};

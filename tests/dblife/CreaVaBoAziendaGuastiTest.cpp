@@ -9,10 +9,6 @@
 #include "support/SomebodyElse.h"
 #include "support/StatementRecorder.h"
 
-#include <QDeadlineTimer>
-
-#include <thread>
-
 namespace vabo {
 namespace {
 
@@ -24,22 +20,7 @@ protected:
         }
         for (const char* name : {"VaBoDatiTemp", "VaBoDatiAzienda"}) {
             if (quantiDatabase(name) == "1") {
-                dropped(name);
-            }
-        }
-    }
-    /// A server behind a wire learns a moment later that nobody uses the database any more.
-    void dropped(const std::string& name) const {
-        constexpr int kLongestMilliseconds = 5000;
-        for (const QDeadlineTimer deadline(kLongestMilliseconds);;) {
-            try {
-                workstation.run("master", "DROP DATABASE " + name);
-                return;
-            } catch (const engine::Error&) {
-                if (deadline.hasExpired()) {
-                    throw;
-                }
-                std::this_thread::yield();
+                workstation.drop(name);
             }
         }
     }

@@ -16,7 +16,7 @@ TEST_F(CreaVaBoAzienda, SendsItsStatementsLetterForLetter) {
 }
 
 TEST_F(CreaVaBoAzienda, MakesBothDatabasesAndBothEmptyTablesOnABareInstance) {
-    workstation.run("master", "DROP DATABASE vabodatiazienda");
+    workstation.drop(support::kControlDatabase);
     CreaDatabaseControllo();
     EXPECT_EQ(quantiDatabase("VaBoDatiTemp"), "1");
     EXPECT_EQ(quantiDatabase("VaBoDatiAzienda"), "1");
@@ -26,7 +26,7 @@ TEST_F(CreaVaBoAzienda, MakesBothDatabasesAndBothEmptyTablesOnABareInstance) {
 }
 
 TEST_F(CreaVaBoAzienda, TheTablesTakeRowsWithTheirDefaults) {
-    workstation.run("master", "DROP DATABASE vabodatiazienda");
+    workstation.drop(support::kControlDatabase);
     CreaDatabaseControllo();
     workstation.run(support::kControlDatabase, "insert into link_programma (NomeAzienda) values ('A')");
     workstation.run(support::kControlDatabase, "insert into link_programmaTerminale (Nometerminale) values (N'P')");
@@ -157,7 +157,7 @@ TEST_P(CreaVaBoAziendaOn, TheOptionsBecomeTheSame) {
     workstation.playServerVersion(GetParam());
     workstation.run("master", "IF EXISTS (SELECT name FROM sysdatabases WHERE name = 'VaBoDatiTemp')"
                               " DROP DATABASE VaBoDatiTemp");
-    workstation.run("master", "DROP DATABASE vabodatiazienda");
+    workstation.drop(support::kControlDatabase);
     CreaDatabaseControllo();
     for (const char* database : {"VaBoDatiTemp", "VaBoDatiAzienda"}) {
         EXPECT_EQ(workstation.databaseOptions(database), expected) << database;
@@ -176,7 +176,7 @@ TEST_F(CreaVaBoAzienda, AnotherRefusalLeavesTheProcedureInPlace) {
 
 TEST_F(CreaVaBoAzienda, AMissingFolderIsSilentAndTheRestIsMade) {
     std::filesystem::remove_all(workstation.driveC().real("C:\\vabo\\sedi"));
-    workstation.run("master", "DROP DATABASE vabodatiazienda");
+    workstation.drop(support::kControlDatabase);
     CreaDatabaseControllo();
     EXPECT_EQ(quantiDatabase("VaBoDatiTemp"), "0");
     EXPECT_EQ(quanteRighe("link_programma"), "0");
@@ -191,7 +191,7 @@ TEST_F(CreaVaBoAzienda, WithoutALocalServerNothingIsSentAndNothingIsSaid) {
 }
 
 TEST_F(CreaVaBoAzienda, OpeningTheTemporaryDatabaseMakesWhatIsMissing) {
-    workstation.run("master", "DROP DATABASE vabodatiazienda");
+    workstation.drop(support::kControlDatabase);
     EXPECT_TRUE(ApriDbTemp());
     EXPECT_EQ(quanteRighe("link_programma"), "0");
 }

@@ -86,7 +86,7 @@ TEST_F(LeggiGruppoVaboTest, RaisesWhereItCannotConnect) {
 TEST_F(LeggiGruppoVaboTest, LeavesNoConnectionBehind) {
     LeggiGruppoVabo(1051);
     DbAzienda.Close();
-    EXPECT_NO_THROW(posto.run("master", std::string("drop database ") + support::kCompany)) << "nobody uses it";
+    EXPECT_NO_THROW(posto.drop(support::kCompany)) << "nobody uses it";
 }
 
 TEST_F(ContoEconomicoTest, CountsMastersOneAndFour) {

@@ -37,7 +37,7 @@ protected:
         return workstation.rows(support::kControlDatabase,
                                 "select Nometerminale, ultimo from link_programmaTerminale order by idAutonumber");
     }
-    void drop(const std::string& database) const { workstation.run("master", "DROP DATABASE [" + database + "]"); }
+    void drop(const std::string& database) const { workstation.drop(database); }
     void create(const std::string& database) const { workstation.run("master", "CREATE DATABASE [" + database + "]"); }
     /// Overwrites the database's file with these bytes; the server still lists the database.
     void breakDatabase(const std::string& database, const std::string& bytes) const {

@@ -1,11 +1,13 @@
 #include "support/TestWorkstation.h"
 
 #include "ado/Drivers.h"
+#include "engine/errors/StoreErrors.h"
 #include "engine/store/Instance.h"
 #include "support/AzzeraVariabili.h"
 #include "support/Environment.h"
 #include "support/TestedDriver.h"
 
+#include <QDeadlineTimer>
 #include <QString>
 
 #include <gtest/gtest.h>
@@ -13,6 +15,7 @@
 #include <fstream>
 #include <iterator>
 #include <stdexcept>
+#include <thread>
 
 namespace support {
 
@@ -160,6 +163,22 @@ std::vector<std::pair<std::string, bool>> TestWorkstation::databaseOptions(const
 
 void TestWorkstation::run(const std::string& database, const std::string& sql) const {
     rows(database, sql);
+}
+
+void TestWorkstation::drop(const std::string& database) const {
+    constexpr int kLongestMilliseconds = 10'000;
+    const int inUse = engine::errors::databaseInUse(database).number();
+    for (const QDeadlineTimer deadline(kLongestMilliseconds);;) {
+        try {
+            run("master", "DROP DATABASE [" + database + "]");
+            return;
+        } catch (const engine::Error& error) {
+            if (error.number() != inUse || deadline.hasExpired()) {
+                throw;
+            }
+            std::this_thread::yield();
+        }
+    }
 }
 
 } // namespace support

@@ -60,6 +60,9 @@ public:
     std::vector<std::pair<std::string, bool>> databaseOptions(const std::string& database) const;
     /// Runs a text to its end.
     void run(const std::string& database, const std::string& sql) const;
+    /// Drops a database once nobody uses it: a server behind a wire learns a moment later that a connection is closed.
+    /// Throws engine::Error where somebody goes on using it.
+    void drop(const std::string& database) const;
 
 private:
     void moveServerBehindTheWire();

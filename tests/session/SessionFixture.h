@@ -41,11 +41,8 @@ protected:
     void create(const std::string& database) const { workstation.run("master", "CREATE DATABASE [" + database + "]"); }
     /// Overwrites the database's file with these bytes; the server still lists the database.
     void breakDatabase(const std::string& database, const std::string& bytes) const {
-        const std::string file =
-            workstation.value("master", "select filename from master.dbo.sysdatabases where name = '" + database + "'");
-        // A name without a drive is a path of this system, where the server has put the file.
-        const std::filesystem::path place = file.starts_with('/') ? file : workstation.driveC().real(file).string();
-        ASSERT_TRUE(std::filesystem::is_regular_file(place)) << file;
+        const std::filesystem::path place = workstation.databaseFile(database);
+        ASSERT_TRUE(std::filesystem::is_regular_file(place)) << place;
         std::ofstream(place, std::ios::binary) << bytes;
     }
     void noCompanyDatabases() const {

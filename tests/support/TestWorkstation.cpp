@@ -3,6 +3,7 @@
 #include "ado/Drivers.h"
 #include "engine/errors/StoreErrors.h"
 #include "engine/store/Instance.h"
+#include "engine/store/RowLocks.h"
 #include "support/AzzeraVariabili.h"
 #include "support/Environment.h"
 #include "support/TestedDriver.h"
@@ -12,6 +13,7 @@
 
 #include <gtest/gtest.h>
 
+#include <chrono>
 #include <fstream>
 #include <iterator>
 #include <stdexcept>
@@ -23,6 +25,8 @@ namespace fs = std::filesystem;
 
 namespace {
 
+/// What a server needs to learn that a client has gone takes milliseconds.
+constexpr std::chrono::seconds kLongestWait(10);
 constexpr const char* kServerLogin = "UID=sa;PWD=Campione-2024;";
 
 void makePresent(const platform::Workstation& workstation) {
@@ -166,9 +170,8 @@ void TestWorkstation::run(const std::string& database, const std::string& sql) c
 }
 
 void TestWorkstation::drop(const std::string& database) const {
-    constexpr int kLongestMilliseconds = 10'000;
     const int inUse = engine::errors::databaseInUse(database).number();
-    for (const QDeadlineTimer deadline(kLongestMilliseconds);;) {
+    for (const QDeadlineTimer deadline(kLongestWait);;) {
         try {
             run("master", "DROP DATABASE [" + database + "]");
             return;
@@ -177,6 +180,22 @@ void TestWorkstation::drop(const std::string& database) const {
                 throw;
             }
             std::this_thread::yield();
+        }
+    }
+}
+
+fs::path TestWorkstation::databaseFile(const std::string& database) const {
+    const std::string file =
+        value("master", "select filename from master.dbo.sysdatabases where name = '" + database + "'");
+    // A name without a drive is a path of this system, where the server has put the file.
+    return file.starts_with('/') ? fs::path(file) : driveC().real(file);
+}
+
+void TestWorkstation::waitUntilNoRowIsHeld(const std::string& database) const {
+    const engine::RowLocks locks(databaseFile(database));
+    for (const QDeadlineTimer deadline(kLongestWait); locks.anyHeldByOthers(); std::this_thread::yield()) {
+        if (deadline.hasExpired()) {
+            throw std::runtime_error("somebody holds a row of " + database);
         }
     }
 }

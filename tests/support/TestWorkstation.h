@@ -63,6 +63,11 @@ public:
     /// Drops a database once nobody uses it: a server behind a wire learns a moment later that a connection is closed.
     /// Throws engine::Error where somebody goes on using it.
     void drop(const std::string& database) const;
+    /// The file that the server keeps a database in.
+    std::filesystem::path databaseFile(const std::string& database) const;
+    /// Waits until a server behind a wire knows that a program has ended which held rows. Throws std::runtime_error
+    /// where somebody goes on holding one.
+    void waitUntilNoRowIsHeld(const std::string& database) const;
 
 private:
     void moveServerBehindTheWire();

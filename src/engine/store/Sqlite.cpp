@@ -17,6 +17,9 @@ namespace {
 
 constexpr std::chrono::milliseconds kWalRetryPause{5};
 
+/// The number of the order that compareTexts has, kept as a file's `application_id`. Another one where it changes.
+constexpr std::int64_t kOrderOfTexts = 1;
+
 /// The system's number of the last error of a file, 0 where it had none.
 int refusalOf(sqlite3_file* file) {
     int number = 0;
@@ -98,6 +101,22 @@ void configure(sqlite3* handle, Patience& patience) {
     check(handle, sqlite3_exec(handle, "PRAGMA synchronous=FULL; PRAGMA foreign_keys=OFF", nullptr, nullptr, nullptr));
 }
 
+/// The indexes of a file that was written under another order of texts are made anew.
+void putInOrder(Connection& connection) {
+    const auto inOrder = [&] {
+        Statement order(connection, "PRAGMA application_id");
+        return order.step() && order.integer(0) == kOrderOfTexts;
+    };
+    if (inOrder()) {
+        return;
+    }
+    Transaction transaction(connection);
+    if (!inOrder()) {
+        connection.run("REINDEX TSQL; PRAGMA application_id = " + std::to_string(kOrderOfTexts));
+    }
+    transaction.commit();
+}
+
 int stepped(sqlite3_stmt* statement) {
     const Watched watched(sqlite3_db_handle(statement));
     return sqlite3_step(statement);
@@ -134,6 +153,7 @@ Connection::Connection(const std::filesystem::path& file, bool create) : patienc
             fail(handle_);
         }
         configure(handle_, *patience_);
+        putInOrder(*this);
     } catch (...) {
         sqlite3_close_v2(handle_);
         throw;

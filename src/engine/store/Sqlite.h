@@ -34,6 +34,7 @@ bool holdsTable(const std::filesystem::path& file, std::string_view table);
 class Connection {
 public:
     /// Opens a file with WAL, synchronous=FULL and a busy timeout; `create` makes a missing file (owner only).
+    /// Indexes that another order of texts has left in the file are made anew.
     Connection(const std::filesystem::path& file, bool create);
     ~Connection();
     Connection(const Connection&) = delete;

@@ -14,6 +14,7 @@
 #include <memory>
 #include <stdexcept>
 #include <string>
+#include <utility>
 #include <vector>
 
 namespace engine {
@@ -37,21 +38,56 @@ UCollator* collator() {
     return opened.get();
 }
 
-int collated(std::string_view left, std::string_view right) {
+int collatedLetters(std::string_view left, std::string_view right) {
     UErrorCode status = U_ZERO_ERROR;
     return ucol_strcollUTF8(collator(), left.data(), static_cast<int32_t>(left.size()), right.data(),
                             static_cast<int32_t>(right.size()), &status);
 }
 
+/// Apostrophe and hyphen count least: "d'asti" stands behind "dasti" and before "dasto".
+constexpr std::string_view kMarks = "'-";
+
+bool hasMark(std::string_view text) {
+    return text.find_first_of(kMarks) != std::string_view::npos;
+}
+
+/// A text without its marks, and the marks, each with the number of bytes before it.
+struct Word {
+    explicit Word(std::string_view text) {
+        for (const char byte : text) {
+            if (const auto mark = kMarks.find(byte); mark != std::string_view::npos) {
+                marks.emplace_back(letters.size(), mark);
+            } else {
+                letters += byte;
+            }
+        }
+        letters.resize(withoutTrailingBlanks(letters).size());
+    }
+
+    std::string letters;
+    std::vector<std::pair<std::size_t, std::size_t>> marks;
+};
+
+int collated(std::string_view left, std::string_view right) {
+    if (!hasMark(left) && !hasMark(right)) {
+        return collatedLetters(left, right);
+    }
+    const Word a(left);
+    const Word b(right);
+    const int order = collatedLetters(a.letters, b.letters);
+    return order != 0 ? order : a.marks < b.marks ? -1 : a.marks > b.marks ? 1 : 0;
+}
+
 using Ranks = std::array<unsigned char, 256>;
 
 bool standsForItself(char character) {
-    return (character >= ' ' && character <= '~') || (character >= '\t' && character <= '\r');
+    return ((character >= ' ' && character <= '~') || (character >= '\t' && character <= '\r')) &&
+           kMarks.find(character) == std::string_view::npos;
 }
 
 /// The rank of each ASCII character in the order of the collation. Such a character has one weight and is never part of
-/// a longer element, so that two ASCII texts compare as their ranks do. 0 is for what only the collator can compare:
-/// control characters, which it skips, and everything beyond ASCII.
+/// a longer element, so that two ASCII texts compare as their ranks do. 0 is for what needs the whole text: control
+/// characters, which the collator skips, the marks, and everything beyond ASCII.
 Ranks makeRanks() {
     std::vector<char> ordered;
     for (char character = '\t'; character <= '~'; ++character) {
@@ -117,8 +153,9 @@ int compareTexts(std::string_view left, std::string_view right) {
     return left.size() < right.size() ? -1 : left.size() > right.size() ? 1 : 0;
 }
 
-std::string collationKey(std::string_view text) {
-    text = withoutTrailingBlanks(text);
+namespace {
+
+std::string lettersKey(std::string_view text) {
     std::vector<UChar> wide(text.size() + 1);
     UErrorCode status = U_ZERO_ERROR;
     int32_t wideSize = 0;
@@ -135,6 +172,21 @@ std::string collationKey(std::string_view text) {
             return key;
         }
     }
+}
+
+} // namespace
+
+std::string collationKey(std::string_view text) {
+    text = withoutTrailingBlanks(text);
+    if (!hasMark(text)) {
+        return lettersKey(text);
+    }
+    const Word word(text);
+    std::string key = lettersKey(word.letters);
+    for (const auto& [place, mark] : word.marks) {
+        key += '\0' + std::to_string(place) + kMarks[mark]; // no key of letters holds a zero
+    }
+    return key;
 }
 
 int compareCharacters(char32_t left, char32_t right) {

@@ -1,6 +1,7 @@
 #pragma once
 
-// Latin1_General_CI_AS: case ignored, accents told apart, trailing blanks ignored by comparisons (not by LIKE).
+// Latin1_General_CI_AS: case ignored, accents told apart, trailing blanks ignored by comparisons (not by LIKE),
+// apostrophe and hyphen compared last (the server's word sort).
 // No other source uses ICU.
 
 #include <string>

@@ -7,7 +7,9 @@
 
 #include <filesystem>
 #include <fstream>
+#include <optional>
 #include <string>
+#include <string_view>
 
 namespace engine::sqlite {
 namespace {
@@ -107,6 +109,38 @@ TEST_F(Storage, KnowsTheCollation) {
     EXPECT_EQ(answer(connection, "SELECT count(*) FROM t WHERE a = 'sede'"), "1");
     EXPECT_EQ(answer(connection, "SELECT group_concat(a, '|') FROM (SELECT a FROM t ORDER BY a)"),
               "citta|Citt\u00e0|SEDE  ");
+}
+
+TEST_F(Storage, IndexesOfAnotherOrderOfTextsAreMadeAnew) {
+    {
+        // As a version wrote it that compared hyphens before letters: the order of the bytes has them there too.
+        sqlite3* handle = nullptr;
+        ASSERT_EQ(sqlite3_open(file.string().c_str(), &handle), SQLITE_OK);
+        const auto byBytes = [](void*, int leftSize, const void* left, int rightSize, const void* right) {
+            const std::string_view a(static_cast<const char*>(left), static_cast<std::size_t>(leftSize));
+            const std::string_view b(static_cast<const char*>(right), static_cast<std::size_t>(rightSize));
+            return a.compare(b);
+        };
+        sqlite3_create_collation(handle, "TSQL", SQLITE_UTF8, nullptr, byBytes);
+        EXPECT_EQ(sqlite3_exec(handle,
+                               "CREATE TABLE t (a TEXT COLLATE TSQL UNIQUE);"
+                               "INSERT INTO t VALUES ('co-op'), ('coat'), ('coop'), ('cork')",
+                               nullptr, nullptr, nullptr),
+                  SQLITE_OK);
+        sqlite3_close(handle);
+    }
+    std::optional<Connection> writer;
+    for (int opened = 0; opened < 2; ++opened) {
+        Connection connection(file, false);
+        EXPECT_EQ(answer(connection, "SELECT group_concat(a) FROM (SELECT a FROM t INDEXED BY sqlite_autoindex_t_1 "
+                                     "WHERE a > '' ORDER BY a)"),
+                  "coat,coop,co-op,cork");
+        EXPECT_EQ(answer(connection, "SELECT a FROM t WHERE a = 'CO-OP'"), "co-op");
+        EXPECT_EQ(answer(connection, "PRAGMA integrity_check"), "ok");
+        EXPECT_EQ(answer(connection, "PRAGMA application_id"), "1");
+        // The second time there is nothing to write: it is opened while another connection writes.
+        writer.emplace(file, false).run("BEGIN IMMEDIATE");
+    }
 }
 
 TEST_F(Storage, ValuesComeBackAsTheyWereBound) {

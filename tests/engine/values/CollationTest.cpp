@@ -42,6 +42,24 @@ TEST(Comparison, FollowsTheCollation) {
         {"A\u030a", "\u00e5", 0},
         {"\xff", "\xff", 0},
         {"\xff", "", 1},
+        // Apostrophe and hyphen are compared last, the apostrophe first of the two.
+        {"carps", "cars", -1},
+        {"cars", "car's", -1},
+        {"car's", "car-s", -1},
+        {"carps", "car's", -1},
+        {"coop", "co-op", -1},
+        {"CO-OP", "co-op", 0},
+        {"co-op", "coop9", -1},
+        {"dasti", "D'Asti", -1},
+        {"d'asti", "dasto", -1},
+        {"a-bc", "ab-c", -1},
+        {"a--b", "a-b", 1},
+        {"a-", "a", 1},
+        {"a -", "a", 1},
+        {"a -", "a-", 1},
+        {"-", "", 1},
+        {"-", "0", -1},
+        {"citt\u00e0-b", "citt\u00e0b", 1},
     };
     for (const Comparison& c : kCases) {
         EXPECT_EQ(sign(compareTexts(c.left, c.right)), c.result) << '"' << c.left << "\" \"" << c.right << '"';
@@ -50,8 +68,7 @@ TEST(Comparison, FollowsTheCollation) {
     }
 }
 
-/// What the library alone answers, without the ranks of ASCII.
-int compareByLibrary(std::string left, std::string right) {
+int compareLetters(const std::string& left, const std::string& right) {
     UErrorCode status = U_ZERO_ERROR;
     static const std::unique_ptr<UCollator, decltype(&ucol_close)> collator = [] {
         UErrorCode opening = U_ZERO_ERROR;
@@ -59,10 +76,31 @@ int compareByLibrary(std::string left, std::string right) {
         ucol_setStrength(opened, UCOL_SECONDARY);
         return std::unique_ptr<UCollator, decltype(&ucol_close)>(opened, &ucol_close);
     }();
-    left.erase(left.find_last_not_of(' ') + 1);
-    right.erase(right.find_last_not_of(' ') + 1);
     return ucol_strcollUTF8(collator.get(), left.data(), static_cast<int32_t>(left.size()), right.data(),
                             static_cast<int32_t>(right.size()), &status);
+}
+
+/// Takes the apostrophes and hyphens out of a text, each as its place and itself.
+std::string takeMarks(std::string& text) {
+    std::string marks;
+    for (std::size_t found = text.find_first_of("'-"); found != std::string::npos; found = text.find_first_of("'-")) {
+        marks += std::to_string(1'000'000 + found) + text[found];
+        text.erase(found, 1);
+    }
+    return marks;
+}
+
+/// What the library alone answers, without the ranks of ASCII.
+int compareByLibrary(std::string left, std::string right) {
+    const auto trim = [](std::string& text) { text.erase(text.find_last_not_of(' ') + 1); };
+    trim(left);
+    trim(right);
+    const std::string marksOfLeft = takeMarks(left);
+    const std::string marksOfRight = takeMarks(right);
+    trim(left);
+    trim(right);
+    const int order = compareLetters(left, right);
+    return order != 0 ? order : sign(marksOfLeft.compare(marksOfRight));
 }
 
 void agree(const std::string& left, const std::string& right) {

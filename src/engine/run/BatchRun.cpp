@@ -4,6 +4,8 @@
 #include "engine/run/InternalErrors.h"
 #include "engine/run/Planner.h"
 #include "engine/run/StatementKinds.h"
+#include "engine/run/Writer.h"
+#include "engine/text/Parser.h"
 
 #include <algorithm>
 #include <array>
@@ -47,8 +49,8 @@ bool checkAll(ServerSession& session, const std::vector<StatementPtr>& statement
 
 } // namespace
 
-BatchRun::BatchRun(ServerSession& session, PlanPtr plan, Shape shape)
-    : session_(&session), shape_(std::move(shape)), ready_(std::move(plan)), checked_(true) {
+BatchRun::BatchRun(ServerSession& session, PlanPtr plan, Shape shape, std::string text)
+    : session_(&session), shape_(std::move(shape)), ready_(std::move(plan)), text_(std::move(text)), checked_(true) {
     session.running(this);
 }
 
@@ -101,8 +103,13 @@ bool BatchRun::runNext() {
     }
     if (const PlanPtr plan = std::exchange(ready_, nullptr)) {
         session_->prepareFor(session_->current(), plan->writes());
-        show(runPlan(*session_, plan, {&shape_->literals, session_->settings.dateOrder}));
-        return true;
+        try {
+            show(runPlan(*session_, plan, {&shape_->literals, session_->settings.dateOrder}));
+            return true;
+        } catch (const StalePlan&) {
+            tree_ = parse(text_);
+            queue(tree_.statements);
+        }
     }
     bool shown = false;
     while (!shown && !pending_.empty()) {

@@ -7,14 +7,15 @@
 #include "engine/text/Tree.h"
 
 #include <optional>
+#include <string>
 #include <vector>
 
 namespace engine {
 
 class BatchRun final : public Batch {
 public:
-    /// A statement whose plan is there already.
-    BatchRun(ServerSession& session, PlanPtr plan, Shape shape);
+    /// A statement whose plan is there already; `text` where it turns out to be stale.
+    BatchRun(ServerSession& session, PlanPtr plan, Shape shape, std::string text);
     /// `shape` where the batch is one statement whose plan may be kept.
     BatchRun(ServerSession& session, BatchTree tree, std::optional<Shape> shape);
     ~BatchRun() override;
@@ -47,6 +48,7 @@ private:
     BatchTree tree_;
     std::optional<Shape> shape_;
     PlanPtr ready_;
+    std::string text_;                      ///< of `ready_`
     std::vector<const Statement*> pending_; ///< the next one last
     bool checked_ = false;
 

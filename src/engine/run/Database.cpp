@@ -30,10 +30,12 @@ bool Database::enter() {
     return true;
 }
 
-void Database::refresh() {
-    if (catalog_.refresh()) {
+bool Database::refresh() {
+    const bool changed = catalog_.refresh();
+    if (changed) {
         cache_.clear();
     }
+    return changed;
 }
 
 void Database::raise(const sqlite::Failure& failure, const TableInfo* table, const char* verb) {

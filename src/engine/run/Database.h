@@ -30,8 +30,8 @@ public:
     /// Another session begins to use it. False where the file has gone or is another one by now.
     bool enter();
 
-    /// Before each statement: forgets the plans that a change of the schema made wrong.
-    void refresh();
+    /// Before each statement: forgets the plans that a change of the schema made wrong. Whether there was a change.
+    bool refresh();
 
     /// Throws the server's error for a failure of the storage: the refusal of a function, or the error that the code
     /// stands for. `table` is the one being written, with `verb` INSERT or UPDATE; nullptr for none.

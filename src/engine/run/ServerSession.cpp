@@ -102,9 +102,14 @@ std::unique_ptr<Batch> ServerSession::begin(std::string_view text) {
     stopBatch();
     const std::vector<Token> tokens = tokenize(text);
     Shape shape = shapeOf(tokens);
-    current_->refresh();
-    if (PlanPtr plan = settings.takesPlans() ? current_->cache().find(shape) : nullptr) {
-        return std::make_unique<BatchRun>(*this, std::move(plan), std::move(shape));
+    PlanPtr plan = settings.takesPlans() ? current_->cache().find(shape) : nullptr;
+    // A write that begins its own transaction looks for changes of the schema in there, without a lock for the look.
+    const bool looksLater = plan != nullptr && plan->writes() && transactions_ == 0;
+    if (!looksLater && current_->refresh()) {
+        plan = nullptr;
+    }
+    if (plan != nullptr) {
+        return std::make_unique<BatchRun>(*this, std::move(plan), std::move(shape), std::string(text));
     }
     BatchTree tree = parse(text);
     const bool keepsPlan =

@@ -28,12 +28,18 @@ Outcome runByPlan(ServerSession& session, const Statement& statement, const std:
     if (holding && session.inTransaction()) {
         session.holdUntilTransactionEnds(*select);
     }
-    const PlanPtr plan = makePlan(session, statement);
-    if (shape && plan->reusable && !holding && session.settings.takesPlans()) {
-        fixLiterals(*plan, *shape);
-        session.current().cache().add(*shape, plan);
+    while (true) {
+        const PlanPtr plan = makePlan(session, statement);
+        if (shape && plan->reusable && !holding && session.settings.takesPlans()) {
+            fixLiterals(*plan, *shape);
+            session.current().cache().add(*shape, plan);
+        }
+        try {
+            return runPlan(session, plan, {nullptr, session.settings.dateOrder});
+        } catch (const StalePlan&) {
+            continue; // with the schema as it is now
+        }
     }
-    return runPlan(session, plan, {nullptr, session.settings.dateOrder});
 }
 
 Message messageOf(ServerSession& session, const Print& print) {

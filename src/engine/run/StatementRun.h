@@ -20,6 +20,7 @@ struct Outcome {
 /// `shape` where the plan of the statement may be kept. What the server says of the statement goes to `messages`.
 Outcome runStatement(ServerSession& session, const Statement& statement, const std::optional<Shape>& shape,
                      std::vector<Message>& messages);
+/// Throws StalePlan of Writer.h where it writes.
 Outcome runPlan(ServerSession& session, const PlanPtr& plan, const Bindings& bindings);
 /// Whether the condition of an IF holds.
 bool holds(ServerSession& session, const Expression& condition);

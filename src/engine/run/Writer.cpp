@@ -49,6 +49,9 @@ private:
         // Inside of the user's transaction a single statement of the storage's needs none of its own.
         if (plan_.source || !database_.connection().inTransaction()) {
             transaction.emplace(database_.connection());
+            if (database_.refresh()) {
+                throw StalePlan();
+            }
         }
         const std::int64_t rows = plan_.kind == Plan::Kind::Insert ? insert() : change();
         if (transaction) {

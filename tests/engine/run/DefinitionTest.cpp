@@ -104,6 +104,40 @@ TEST_F(Definition, WhatAnotherSessionChangedIsSeen) {
     EXPECT_EQ(answer("select * from t"), "!208 Invalid object name 't'.");
 }
 
+TEST_F(Definition, AKeptWriteSeesWhatAnotherSessionChanged) {
+    const char* const kWrites[] = {"update t set a = '007'", "insert into t values ('007')",
+                                   "insert into t select '007'"};
+    for (const char* write : kWrites) {
+        SCOPED_TRACE(write);
+        auto other = connect();
+        run("create table t (a int null)");
+        run("insert into t values (1)");
+        EXPECT_EQ(answer(write), "(1)");
+        EXPECT_EQ(rows("select max(a) from t"), "7");
+        engine::answer(*other, "drop table t");
+        EXPECT_EQ(answer(write), "!208 Invalid object name 't'.");
+        engine::answer(*other, "create table t (a varchar(10) null)");
+        engine::answer(*other, "insert into t values ('')");
+        EXPECT_EQ(answer(write), "(1)");
+        EXPECT_EQ(rows("select max(a) from t"), "007");
+        EXPECT_EQ(answer(write), "(1)") << "kept anew";
+        run("drop table t");
+    }
+}
+
+TEST_F(Definition, AKeptWriteOfATransactionSeesWhatAnotherSessionChangedBefore) {
+    auto other = connect();
+    run("create table t (a int null)");
+    run("update t set a = '007'");
+    run("begin transaction");
+    engine::answer(*other, "drop table t");
+    engine::answer(*other, "create table t (a varchar(10) null)");
+    engine::answer(*other, "insert into t values ('')");
+    EXPECT_EQ(answer("update t set a = '007'"), "(1)");
+    run("commit");
+    EXPECT_EQ(rows("select a from t"), "007");
+}
+
 TEST_F(Definition, ColumnsTellWhereTheyComeFrom) {
     run("create table Sede (idSede int identity(1,1) not null primary key, Città nvarchar(50) null,"
         " importo decimal(12,3) not null default 0)");

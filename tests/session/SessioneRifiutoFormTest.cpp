@@ -1,41 +1,9 @@
 // A first password with each of its requests to the server refused.
 
-#include "session/FormFixture.h"
-#include "support/Replays.h"
+#include "session/ProgrammaRifiutato.h"
 
+namespace vabo {
 namespace {
-
-using namespace vabo;
-using support::Lines;
-
-/// The program's forms from the start on; whatever is refused, one of them is in sight or the process has ended.
-class Programma : public FormTest {
-public:
-    using FormTest::gui;
-    using FormTest::script;
-    using FormTest::workstation;
-
-    void TestBody() override {}
-
-    void avvia() {
-        gui.forms().show("Avvio");
-        support::Gui::handleEvents();
-        gui.waitForFront("About");
-    }
-    void scrivi(const char* campo, const char* testo) {
-        end.endedBy([&] {
-            gui.typeInto("About", campo, testo);
-            gui.press(Qt::Key_Return);
-        });
-    }
-    void expectAlive() const { EXPECT_TRUE(end.ended() > 0 || !gui.visibleForms().empty()); }
-    void reopen() {}
-    Lines fields() const { return {end.ended() > 0 ? "ended" : gui.visibleForms(), NomeDatabase, LinguaCorrente}; }
-    Lines shown() const { return {}; }
-    Lines held() const { return {}; }
-
-    const support::TestWorkstation& posto = workstation;
-};
 
 // What follows the password and the rights is the taking up of the company, which has tests of its own.
 TEST(SessioneRifiuto, OfAFirstPasswordIsToldAndTheLoginStays) {
@@ -63,3 +31,4 @@ TEST(SessioneRifiuto, OfAFirstPasswordIsToldAndTheLoginStays) {
 }
 
 } // namespace
+} // namespace vabo

@@ -1,0 +1,119 @@
+#pragma once
+
+#include "ado/Conversions.h"
+#include "session/FormFixture.h"
+#include "support/Replays.h"
+
+#include <QGuiApplication>
+
+namespace vabo {
+
+/// The program's forms from the start on; whatever is refused, one of them is in sight or the process has ended. The
+/// terminal's company is the second one, so that a company that gives way to the first one shows.
+class Programma : public FormTest {
+public:
+    using FormTest::gui;
+    using FormTest::script;
+    using FormTest::workstation;
+
+    Programma() {
+        NomeTerminale.clear();
+        setTerminal(support::kTerminalName, 2);
+    }
+    void TestBody() override {}
+
+    /// Without the links of the local files, which have replays of their own, and with a temporary database.
+    void prepara() const {
+        workstation.run("master", "CREATE DATABASE [VaBoDatiTemp]");
+        for (const char* file : {"tlv_locale_ponte.mdb", "tlv_locale_sql.mdb", "Tlv_personalizzate.mdb"}) {
+            workstation.driveC().remove(std::string("C:\\Vabo\\Files\\") + file);
+        }
+    }
+    void mostra(const char* form) {
+        esegui([&] { gui.forms().show(form); });
+    }
+    void esegui(const std::function<void()>& passo) {
+        finito_ = end.endedBy([&] {
+            passo();
+            support::Gui::handleEvents();
+        });
+    }
+    void scrivi(const char* campo, const char* testo) {
+        esegui([&] {
+            gui.typeInto("About", campo, testo);
+            gui.press(Qt::Key_Return);
+        });
+    }
+
+    void expectAlive() const {
+        EXPECT_TRUE(finito_ || !gui.visibleForms().empty());
+        EXPECT_EQ(QGuiApplication::overrideCursor(), nullptr);
+        if (DbAzienda.IsOpen()) {
+            EXPECT_EQ(aperto(), NomeDatabase);
+        }
+    }
+    /// The process anew: only what is stored is left.
+    void reopen() {
+        for (const char* form : {"FormRegistraAziendeNeiDns", "Login", "Avvio_Azienda", "About", "Avvio"}) {
+            if (gui.forms().isLoaded(form)) {
+                gui.forms().unload(form);
+            }
+        }
+        support::Gui::handleEvents();
+        AzzeraVariabili();
+        mostra("Avvio");
+        EXPECT_FALSE(finito_);
+        EXPECT_EQ(gui.visibleForms(), "About");
+    }
+
+    support::Lines fields() const { return {finito_ ? "ended" : gui.visibleForms(), aperto(), LinguaCorrente}; }
+    /// The companies that the forms name.
+    support::Lines shown() const {
+        support::Lines nomi;
+        for (const char* form : {"Avvio", "About"}) {
+            const bool nomina = !finito_ && gui.forms().isLoaded(form) && gui.form(form).findChild<QLabel*>("Label1");
+            if (nomina) {
+                nomi.push_back(gui.text(form, "Label1"));
+            }
+        }
+        return nomi;
+    }
+    /// The company of the terminal's row, as often.
+    support::Lines held() const {
+        const Rows righe = workstation.rows(support::kControlDatabase,
+                                            "select NomeAzienda from link_programma where id in (select ultimo from "
+                                            "link_programmaTerminale where Nometerminale = 'POSTO_7')");
+        return support::Lines(shown().size(), "DataBase :   " + (righe.empty() ? "" : righe[0][0]));
+    }
+    /// The company of the terminal, the language and the program that the start records.
+    std::string half() const {
+        return "of company " + controlValue("select ultimo from link_programmaTerminale") + ", language " +
+               temporaneo("Lingua", "LinguaClient") + ", program " + temporaneo("Version", "Version");
+    }
+
+    const support::TestWorkstation& posto = workstation;
+
+private:
+    std::string temporaneo(const std::string& colonna, const std::string& tabella) const {
+        const std::string database = support::kTemporaryDatabase;
+        if (workstation.rows("master", "select name from sysdatabases where name = '" + database + "'").empty() ||
+            workstation.rows(database, "select id from sysobjects where name = '" + tabella + "'").empty()) {
+            return "none";
+        }
+        const Rows righe = workstation.rows(database, "select " + colonna + " from " + tabella);
+        return righe.empty() ? "none" : righe[0][0];
+    }
+    /// The database behind the connection of the company.
+    static std::string aperto() {
+        if (!DbAzienda.IsOpen()) {
+            return "no company";
+        }
+        ado::Recordset nome;
+        nome.Open("select db_name() as nome", DbAzienda);
+        return ado::toText(nome["nome"]);
+    }
+
+    bool finito_ = false;
+};
+
+} // namespace vabo

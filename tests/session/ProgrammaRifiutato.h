@@ -12,6 +12,7 @@ namespace vabo {
 /// terminal's company is the second one, so that a company that gives way to the first one shows.
 class Programma : public FormTest {
 public:
+    using FormTest::control;
     using FormTest::gui;
     using FormTest::script;
     using FormTest::workstation;
@@ -37,6 +38,10 @@ public:
             passo();
             support::Gui::handleEvents();
         });
+    }
+    void avvia() {
+        mostra("Avvio");
+        gui.waitForFront("About");
     }
     void scrivi(const char* campo, const char* testo) {
         esegui([&] {
@@ -79,21 +84,17 @@ public:
         return nomi;
     }
     /// The company of the terminal's row, as often.
-    support::Lines held() const {
-        const Rows righe = workstation.rows(support::kControlDatabase,
-                                            "select NomeAzienda from link_programma where id in (select ultimo from "
-                                            "link_programmaTerminale where Nometerminale = 'POSTO_7')");
-        return support::Lines(shown().size(), "DataBase :   " + (righe.empty() ? "" : righe[0][0]));
-    }
+    support::Lines held() const { return support::Lines(shown().size(), "DataBase :   " + aziendaDelTerminale()); }
     /// The company of the terminal, the language and the program that the start records.
     std::string half() const {
-        return "of company " + controlValue("select ultimo from link_programmaTerminale") + ", language " +
-               temporaneo("Lingua", "LinguaClient") + ", program " + temporaneo("Version", "Version");
+        return "of company " +
+               controlValue("select ultimo from link_programmaTerminale where Nometerminale = 'POSTO_7'") +
+               ", language " + temporaneo("Lingua", "LinguaClient") + ", program " + temporaneo("Version", "Version");
     }
 
     const support::TestWorkstation& posto = workstation;
 
-private:
+protected:
     std::string temporaneo(const std::string& colonna, const std::string& tabella) const {
         const std::string database = support::kTemporaryDatabase;
         if (workstation.rows("master", "select name from sysdatabases where name = '" + database + "'").empty() ||
@@ -103,6 +104,16 @@ private:
         const Rows righe = workstation.rows(database, "select " + colonna + " from " + tabella);
         return righe.empty() ? "none" : righe[0][0];
     }
+    bool finito() const { return finito_; }
+    bool consoleAperta() const { return !finito_ && gui.forms().isLoaded("Avvio_Azienda"); }
+    std::string aziendaDelTerminale() const {
+        const Rows righe = workstation.rows(support::kControlDatabase,
+                                            "select NomeAzienda from link_programma where id in (select ultimo from "
+                                            "link_programmaTerminale where Nometerminale = 'POSTO_7')");
+        return righe.empty() ? "" : righe[0][0];
+    }
+
+private:
     /// The database behind the connection of the company.
     static std::string aperto() {
         if (!DbAzienda.IsOpen()) {
@@ -114,6 +125,23 @@ private:
     }
 
     bool finito_ = false;
+};
+
+/// What the console shows of the open company.
+class ProgrammaConConsole : public Programma {
+public:
+    /// The company that it says is open.
+    support::Lines shown() const {
+        return consoleAperta() ? support::Lines{gui.text("Avvio_Azienda", "aziendaAperta")} : support::Lines{};
+    }
+    support::Lines held() const { return support::Lines(shown().size(), aziendaDelTerminale()); }
+    support::Lines fields() const {
+        support::Lines tutti = Programma::fields();
+        tutti.push_back(gui.forms().isLoaded("Avvio_Azienda")
+                            ? gui.find<controls::DataCombo>("Avvio_Azienda", "DataCombo1").Text()
+                            : "no console");
+        return tutti;
+    }
 };
 
 } // namespace vabo

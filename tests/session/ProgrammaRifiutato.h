@@ -17,7 +17,8 @@ public:
     using FormTest::script;
     using FormTest::workstation;
 
-    Programma() {
+    /// `primo` is the form that begins once more at the end of each run.
+    explicit Programma(const char* primo = "About") : primo_(primo) {
         NomeTerminale.clear();
         setTerminal(support::kTerminalName, 2);
     }
@@ -66,7 +67,7 @@ public:
         }
         support::Gui::handleEvents();
         AzzeraVariabili();
-        mostra("Avvio");
+        mostra(primo_);
         EXPECT_FALSE(finito_);
         EXPECT_EQ(gui.visibleForms(), "About");
     }
@@ -124,6 +125,7 @@ private:
         return ado::toText(nome["nome"]);
     }
 
+    const char* primo_;
     bool finito_ = false;
 };
 

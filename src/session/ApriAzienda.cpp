@@ -257,16 +257,19 @@ Esito Passata(double& id) {
     return AziendaConDatabase(rs, Appoggio, numero);
 }
 
-/// Replaces `id` by the first company of the server. Each assignment searches anew. The search always finds the
-/// same company: where it was found before, the process ends.
-void RipiegaSullaPrima(double& id, std::set<double>& trovate) {
+/// Replaces `id` by the first company of the server. Each assignment searches anew. The search always finds the same
+/// company, so that each is tried once for having been found.
+void RipiegaSullaPrima(double& id, std::set<double>& tentate) {
     const double prima = PrimaAziendaSuServer();
-    if (IsEmptyValue(prima) || !trovate.insert(prima).second) {
-        FineConMessaggio("Non è possibile caricare il DataBase");
+    if (!IsEmptyValue(prima) && !tentate.contains(prima)) {
+        IdAzienda = PrimaAziendaSuServer();
+        IdAziendaLavoro = PrimaAziendaSuServer();
+        id = PrimaAziendaSuServer();
+        if (tentate.insert(id).second) {
+            return;
+        }
     }
-    IdAzienda = PrimaAziendaSuServer();
-    IdAziendaLavoro = PrimaAziendaSuServer();
-    id = PrimaAziendaSuServer();
+    FineConMessaggio("Non è possibile caricare il DataBase");
 }
 
 } // namespace
@@ -277,9 +280,9 @@ void ApriAzienda(double& id) {
     if (!NumeroDiPartenza(id)) {
         return;
     }
-    std::set<double> trovate;
+    std::set<double> tentate;
     for (Esito esito = Passata(id); esito != Esito::Aperta; esito = Passata(id)) {
-        RipiegaSullaPrima(id, trovate);
+        RipiegaSullaPrima(id, tentate);
         if (esito == Esito::SenzaRiga) {
             salta([] { DbControllo.Close(); });
         }

@@ -1,0 +1,77 @@
+// A company that gives way to the first one of the server, with each request to the server refused.
+
+#include "session/ApriAzienda.h"
+#include "session/ProgrammaRifiutato.h"
+
+namespace vabo {
+namespace {
+
+using support::inTurn;
+
+/// Without a form: what the program takes up is compared with the terminal's row.
+class Ripiego : public Programma {
+public:
+    void prepara() const {
+        Programma::prepara();
+        drop(support::kOtherCompany);
+        NomeTerminale = support::kTerminalName;
+    }
+    void apri() {
+        esegui([] {
+            double numero = 2;
+            ApriAzienda(numero);
+        });
+    }
+    void expectAlive() const {
+        if (DbAzienda.IsOpen()) {
+            EXPECT_EQ(fields()[1], NomeDatabase);
+        }
+    }
+    support::Lines shown() const { return finito() ? support::Lines{} : support::Lines{NomeAzienda}; }
+    support::Lines held() const { return support::Lines(shown().size(), aziendaDelTerminale()); }
+};
+
+// The company found is tried once: where that fails, too, the process ends. A search that fails finds nothing.
+TEST(RipiegoRifiuto, OfACompanyWithoutItsDatabaseTakesUpTheFirstOneOrEndsTheProcess) {
+    const std::string impossibile = "told Non è possibile caricare il DataBase; rows ";
+    const std::string finita = "; list right; fields changed to ended, IT";
+    const std::string aperta = "; list right; fields changed to ended, VaBoDatiAurora, IT";
+    const std::string due = "of company 2, language IT, program none";
+    const std::string una = "of company 1, language IT, program none";
+    const std::string nessuna = "of company 0, language IT, program none";
+    const std::string conOpzioni = "silent; rows " + una + "; list right; fields done";
+    replay(support::Operation<Ripiego>{
+        .tables = {"vabodatiazienda.dbo.link_programmaTerminale", "VaBoDatiTemp.dbo.LinguaClient", "sources",
+                   "options"},
+        .reach = [](Ripiego& ripiego) { ripiego.prepara(); },
+        .act = [](Ripiego& ripiego) { ripiego.apri(); },
+        .once = inTurn({{6, support::kStored},
+                        {1, conOpzioni},
+                        {7, support::kStored},
+                        {4, impossibile + due + finita},
+                        {12, support::kStored},
+                        {1, support::kStored},
+                        {1, impossibile + nessuna + finita},
+                        {1, support::kStored},
+                        {1, impossibile + una + finita},
+                        {1, support::kStored},
+                        {1, conOpzioni},
+                        {3, support::kStored},
+                        {2, impossibile + una + finita},
+                        {1, support::kStored},
+                        {1, "silent; rows done; list right; fields changed to IT"},
+                        {2, impossibile + una + aperta},
+                        {2, support::kStored}}),
+        .fromThere = inTurn({{2, impossibile + "before" + finita},
+                             {1, impossibile + "of company 0, language none, program none" + finita},
+                             {5, impossibile + "before" + finita},
+                             {3, impossibile + "of company 2, language none, program none" + finita},
+                             {20, impossibile + due + finita},
+                             {1, impossibile + nessuna + finita},
+                             {11, impossibile + una + finita},
+                             {2, impossibile + una + aperta},
+                             {2, support::kStored}})});
+}
+
+} // namespace
+} // namespace vabo

@@ -42,7 +42,8 @@ public:
     void reopen() const {
         CollegaTabelle();
         support::Gui::handleEvents();
-        EXPECT_THAT(half(), testing::EndsWith("dbo_bolla altra, dbo_conti AURORA; dbo_bolla AURORA"));
+        EXPECT_THAT(half(support::allStored(posto)),
+                    testing::EndsWith("dbo_bolla altra, dbo_conti AURORA; dbo_bolla AURORA"));
     }
     support::Lines fields() const {
         return {gui.forms().isLoaded("FormRefreshLinks") ? "the progress" : "no progress"};
@@ -50,8 +51,7 @@ public:
     support::Lines shown() const { return {}; }
     support::Lines held() const { return {}; }
     /// Each link of the two files.
-    std::string half() const {
-        const support::Stored tutto = support::allStored(posto);
+    static std::string half(const support::Stored& tutto) {
         const auto file = [&](const char* nome) {
             std::string testo;
             for (const auto& riga : tutto.at(nome)) {

@@ -49,9 +49,9 @@ public:
     }
     support::Lines shown() const { return {}; }
     support::Lines held() const { return {}; }
-    std::string half() const {
-        const std::string fonti = support::allStored(workstation).at("sources")[0][0];
-        return "of company " + workstation.value(support::kCompany, "select NomeAzienda from link_programma") +
+    static std::string half(const support::Stored& tutto) {
+        const std::string& fonti = tutto.at("sources")[0][0];
+        return "of company " + tutto.at("link_programma")[0][1] +
                (fonti.find("[Altra_fonte]") == std::string::npos ? "" : ", Altra_fonte");
     }
 

@@ -6,6 +6,8 @@
 #include "session/ApriDbSede.h"
 #include "support/Replays.h"
 
+#include <algorithm>
+
 namespace vabo {
 namespace {
 
@@ -34,10 +36,10 @@ public:
         workstation.run("VaBoDatiTemp", "create table Version (id int null, Version int not null default 1)");
         workstation.run("VaBoDatiTemp", "insert into Version values " + riga);
     }
-    std::string half() const {
+    static std::string half(const support::Stored& tutto) {
         std::string programmi;
-        for (const auto& riga : workstation.rows("VaBoDatiTemp", "select Version from Version order by id")) {
-            programmi += " " + riga[0];
+        for (const auto& riga : tutto.at("VaBoDatiTemp.dbo.Version")) {
+            programmi += " " + riga[1];
         }
         return "of programs" + programmi;
     }
@@ -57,7 +59,7 @@ support::Operation<Programma> programma(const std::string& riga, Lines una, Line
 TEST(ProgrammaRifiuto, OfTheFirstRecord) {
     replay(programma("(7, 7)",
                      inTurn({{1, kNienteDiFatto},
-                             {1, "silent; rows of programs 2 7; list right; fields kept"},
+                             {1, "silent; rows of programs 7 2; list right; fields kept"},
                              {1, support::kStoredKept},
                              {3, kNienteDiFatto}}),
                      inTurn({{6, kNienteDiFatto}})));
@@ -76,19 +78,16 @@ TEST(ProgrammaRifiuto, OfAnotherProgram) {
 class Databases : public Locali {
 public:
     void bare() const { workstation.drop(support::kControlDatabase); }
-    std::string half() const {
+    static std::string half(const support::Stored& tutto) {
         std::string quali;
         for (const char* nome : {"VaBoDatiTemp", "VaBoDatiAzienda"}) {
-            if (quantiDatabase(nome) == "1") {
+            if (std::ranges::count(tutto.at("databases"), support::TestWorkstation::Row{nome}) > 0) {
                 quali += (quali.empty() ? "" : ", ") + std::string(nome);
             }
         }
-        if (quantiDatabase("VaBoDatiAzienda") == "1") {
-            quali += " with " +
-                     workstation.value(support::kControlDatabase, "select count(*) from INFORMATION_SCHEMA.TABLES") +
-                     " tables";
-        }
-        return "of " + quali;
+        const auto tabelle = std::ranges::count_if(
+            tutto, [](const auto& una) { return una.first.starts_with(std::string(support::kControlDatabase) + "."); });
+        return "of " + quali + ", tables " + std::to_string(tabelle);
     }
 };
 
@@ -105,11 +104,11 @@ TEST(DatabasesRifiuto, OfTheirCreationLeavesWhatWasCreatedSoFar) {
     const support::Run indisturbata = play(operazione, 0, Lasting::Once);
     ASSERT_EQ(indisturbata.asked.size(), 47U);
     const std::string chiusa = "; list right; fields kept";
-    const std::string entrambi = "silent; rows of VaBoDatiTemp, VaBoDatiAzienda with ";
+    const std::string entrambi = "silent; rows of VaBoDatiTemp, VaBoDatiAzienda, tables ";
     const Lines daLi = inTurn({{5, kNienteDiFatto},
-                               {19, "silent; rows of VaBoDatiTemp" + chiusa},
-                               {20, entrambi + "0 tables" + chiusa},
-                               {1, entrambi + "1 tables" + chiusa},
+                               {19, "silent; rows of VaBoDatiTemp, tables 0" + chiusa},
+                               {20, entrambi + "0" + chiusa},
+                               {1, entrambi + "1" + chiusa},
                                {2, "silent; rows done" + chiusa}});
     for (int posto = 1; posto <= 47; ++posto) {
         EXPECT_EQ(outcome(play(operazione, posto, Lasting::FromThere), indisturbata),
@@ -118,7 +117,7 @@ TEST(DatabasesRifiuto, OfTheirCreationLeavesWhatWasCreatedSoFar) {
     }
     const std::pair<int, std::string> accessi[] = {
         {1, kNienteDiFatto},        {2, support::kStored},
-        {3, kNienteDiFatto},        {43, entrambi + "0 tables; list right; fields done"},
+        {3, kNienteDiFatto},        {43, entrambi + "0; list right; fields done"},
         {46, support::kStoredKept}, {47, support::kStoredKept}};
     for (const auto& [posto, atteso] : accessi) {
         EXPECT_EQ(indisturbata.asked[static_cast<std::size_t>(posto - 1)].substr(0, 8), "login to");

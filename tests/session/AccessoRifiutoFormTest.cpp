@@ -22,13 +22,10 @@ public:
         tutti.push_back(aperto ? gui.find("About", "Dir1").property("Path").toString().toStdString() : "no login");
         return tutti;
     }
-    std::string half() const {
-        return Programma::half() + ", file " + workstation.value(support::kCompany, kFile) + " or " +
-               workstation.value(support::kOtherCompany, kFile);
+    static std::string half(const support::Stored& tutto) {
+        return Programma::half(tutto) + ", file " + tutto.at("DirectorySede")[0][1] + " or " +
+               tutto.at("VaBoDatiPonte.dbo.DirectorySede")[0][1];
     }
-
-private:
-    static constexpr const char* kFile = "select Directoryfile from DirectorySede";
 };
 
 // The two hidden lists get no folder where it can't be stored. Without the company the form of the data sources comes,

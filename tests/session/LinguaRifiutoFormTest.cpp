@@ -22,7 +22,7 @@ public:
     support::Lines shown() const { return {letta_}; }
     /// Without a row it is Italian.
     support::Lines held() const {
-        const std::string riga = temporaneo("Lingua", "LinguaClient");
+        const std::string riga = temporaneo(support::allStored(workstation), "LinguaClient");
         return {riga == "none" ? "IT" : riga};
     }
 

@@ -87,23 +87,22 @@ public:
     /// The company of the terminal's row, as often.
     support::Lines held() const { return support::Lines(shown().size(), "DataBase :   " + aziendaDelTerminale()); }
     /// The company of the terminal, the language and the program that the start records.
-    std::string half() const {
-        return "of company " +
-               controlValue("select ultimo from link_programmaTerminale where Nometerminale = 'POSTO_7'") +
-               ", language " + temporaneo("Lingua", "LinguaClient") + ", program " + temporaneo("Version", "Version");
+    static std::string half(const support::Stored& tutto) {
+        std::string azienda = "none";
+        for (const auto& riga : tutto.at("vabodatiazienda.dbo.link_programmaTerminale")) {
+            azienda = riga[1] == support::kTerminalName ? riga[2] : azienda;
+        }
+        return "of company " + azienda + ", language " + temporaneo(tutto, "LinguaClient") + ", program " +
+               temporaneo(tutto, "Version");
     }
 
     const support::TestWorkstation& posto = workstation;
 
 protected:
-    std::string temporaneo(const std::string& colonna, const std::string& tabella) const {
-        const std::string database = support::kTemporaryDatabase;
-        if (workstation.rows("master", "select name from sysdatabases where name = '" + database + "'").empty() ||
-            workstation.rows(database, "select id from sysobjects where name = '" + tabella + "'").empty()) {
-            return "none";
-        }
-        const Rows righe = workstation.rows(database, "select " + colonna + " from " + tabella);
-        return righe.empty() ? "none" : righe[0][0];
+    /// The value in the only row of a table of the temporary database.
+    static std::string temporaneo(const support::Stored& tutto, const std::string& tabella) {
+        const auto righe = tutto.find(std::string(support::kTemporaryDatabase) + ".dbo." + tabella);
+        return righe == tutto.end() || righe->second.empty() ? "none" : righe->second[0][1];
     }
     bool finito() const { return finito_; }
     bool consoleAperta() const { return !finito_ && gui.forms().isLoaded("Avvio_Azienda"); }

@@ -8,7 +8,7 @@
 //     Lines held() const;          the same rows as the table holds them, in the same words
 //     void expectAlive() const;    fails where the user can't go on
 //     void reopen();               closes the form and opens it again
-//     std::string half() const;    where a run may leave the rows half written: how they are
+//     std::string half() const;    where a run may leave the rows half written: how they are; may take what is stored
 
 #include "ado/Conversions.h"
 #include "ado/Recordset.h"
@@ -58,7 +58,9 @@ struct Run {
 template<typename World>
 Moment momentOf(const World& world) {
     Moment moment{world.fields(), world.shown(), world.held(), allStored(world.posto), "half"};
-    if constexpr (requires { world.half(); }) {
+    if constexpr (requires { world.half(moment.rows); }) {
+        moment.half = world.half(moment.rows);
+    } else if constexpr (requires { world.half(); }) {
         moment.half = world.half();
     }
     return moment;

@@ -1,11 +1,13 @@
 #include "support/Stored.h"
 
 #include "ado/LinkFile.h"
+#include "ado/Names.h"
 
 #include <QString>
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <filesystem>
 #include <fstream>
 #include <iterator>
@@ -71,7 +73,9 @@ Stored allStored(const TestWorkstation& posto) {
     Stored all;
     all["databases"] = posto.rows("master", "select name from master.dbo.sysdatabases order by name");
     for (const std::string database : {kOtherCompany, kControlDatabase, kTemporaryDatabase}) {
-        if (posto.rows("master", "select name from master.dbo.sysdatabases where name = '" + database + "'").empty()) {
+        const bool exists = std::ranges::any_of(
+            all["databases"], [&](const TestWorkstation::Row& row) { return ado::sameName(row.front(), database); });
+        if (!exists) {
             continue;
         }
         for (auto& [table, rows] : posto.tables(database)) {

@@ -16,11 +16,16 @@ public:
         drop(support::kOtherCompany);
         NomeTerminale = support::kTerminalName;
     }
-    void apri() {
-        esegui([] {
-            double numero = 2;
-            ApriAzienda(numero);
-        });
+    void apri(double numero) {
+        esegui([&] { ApriAzienda(numero); });
+    }
+    /// As the login does it.
+    void reopen() {
+        AzzeraVariabili();
+        NomeTerminale = support::kTerminalName;
+        apri(0);
+        EXPECT_FALSE(finito());
+        EXPECT_EQ(NomeDatabase, support::kCompany);
     }
     void expectAlive() const {
         if (DbAzienda.IsOpen()) {
@@ -44,7 +49,7 @@ TEST(RipiegoRifiuto, OfACompanyWithoutItsDatabaseTakesUpTheFirstOneOrEndsTheProc
         .tables = {"vabodatiazienda.dbo.link_programmaTerminale", "VaBoDatiTemp.dbo.LinguaClient", "sources",
                    "options"},
         .reach = [](Ripiego& ripiego) { ripiego.prepara(); },
-        .act = [](Ripiego& ripiego) { ripiego.apri(); },
+        .act = [](Ripiego& ripiego) { ripiego.apri(2); },
         .once = inTurn({{6, support::kStored},
                         {1, conOpzioni},
                         {7, support::kStored},

@@ -11,8 +11,9 @@ using support::inTurn;
 /// Without a form: what the program takes up is compared with the terminal's row.
 class Ripiego : public Programma {
 public:
+    /// With a local server that nobody reaches: the language has replays of its own.
     void prepara() const {
-        Programma::prepara();
+        workstation.putFile("C:\\vabo\\Leggi_ServerLocal.txt", "Server=127.0.0.1,9;\r\n");
         drop(support::kOtherCompany);
         NomeTerminale = support::kTerminalName;
     }
@@ -41,41 +42,30 @@ TEST(RipiegoRifiuto, OfACompanyWithoutItsDatabaseTakesUpTheFirstOneOrEndsTheProc
     const std::string impossibile = "told Non è possibile caricare il DataBase; rows ";
     const std::string finita = "; list right; fields changed to ended, IT";
     const std::string aperta = "; list right; fields changed to ended, VaBoDatiAurora, IT";
-    const std::string due = "of company 2, language IT, program none";
-    const std::string una = "of company 1, language IT, program none";
-    const std::string nessuna = "of company 0, language IT, program none";
-    const std::string conOpzioni = "silent; rows " + una + "; list right; fields done";
-    replay(support::Operation<Ripiego>{
-        .tables = {"vabodatiazienda.dbo.link_programmaTerminale", "VaBoDatiTemp.dbo.LinguaClient", "sources",
-                   "options"},
-        .reach = [](Ripiego& ripiego) { ripiego.prepara(); },
-        .act = [](Ripiego& ripiego) { ripiego.apri(2); },
-        .once = inTurn({{6, support::kStored},
-                        {1, conOpzioni},
-                        {7, support::kStored},
-                        {4, impossibile + due + finita},
-                        {12, support::kStored},
-                        {1, support::kStored},
-                        {1, impossibile + nessuna + finita},
-                        {1, support::kStored},
-                        {1, impossibile + una + finita},
-                        {1, support::kStored},
-                        {1, conOpzioni},
-                        {3, support::kStored},
-                        {2, impossibile + una + finita},
-                        {1, support::kStored},
-                        {1, "silent; rows done; list right; fields changed to IT"},
-                        {2, impossibile + una + aperta},
-                        {2, support::kStored}}),
-        .fromThere = inTurn({{2, impossibile + "before" + finita},
-                             {1, impossibile + "of company 0, language none, program none" + finita},
-                             {5, impossibile + "before" + finita},
-                             {3, impossibile + "of company 2, language none, program none" + finita},
-                             {20, impossibile + due + finita},
-                             {1, impossibile + nessuna + finita},
-                             {11, impossibile + una + finita},
-                             {2, impossibile + una + aperta},
-                             {2, support::kStored}})});
+    const std::string una = "of company 1, language none, program none";
+    const std::string nessuna = "of company 0, language none, program none";
+    replay(support::Operation<Ripiego>{.tables = {"vabodatiazienda.dbo.link_programmaTerminale", "sources"},
+                                       .reach = [](Ripiego& ripiego) { ripiego.prepara(); },
+                                       .act = [](Ripiego& ripiego) { ripiego.apri(2); },
+                                       .once = inTurn({{9, support::kStored},
+                                                       {4, impossibile + "before" + finita},
+                                                       {13, support::kStored},
+                                                       {1, impossibile + nessuna + finita},
+                                                       {1, support::kStored},
+                                                       {1, impossibile + una + finita},
+                                                       {2, support::kStored},
+                                                       {2, impossibile + una + finita},
+                                                       {1, support::kStored},
+                                                       {1, "silent; rows done; list right; fields changed to IT"},
+                                                       {2, impossibile + una + aperta},
+                                                       {2, support::kStored}}),
+                                       .fromThere = inTurn({{2, impossibile + "before" + finita},
+                                                            {1, impossibile + nessuna + finita},
+                                                            {23, impossibile + "before" + finita},
+                                                            {1, impossibile + nessuna + finita},
+                                                            {8, impossibile + una + finita},
+                                                            {2, impossibile + una + aperta},
+                                                            {2, support::kStored}})});
 }
 
 } // namespace

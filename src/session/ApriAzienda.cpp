@@ -226,15 +226,14 @@ Esito AziendaConDatabase(ado::Recordset& rs, const std::string& terminale, doubl
     return Concludi(rs);
 }
 
-/// One attempt to take up `id`. On return `numero` is the company that was looked up: the terminal's row may name
-/// another one than `id`.
-Esito Passata(double& id, double& numero) {
+/// One attempt to take up `id`; the terminal's row may name another company.
+Esito Passata(double& id) {
     StringheDiPartenza();
     const std::string terminale = PulisciNome(NomeTerminale);
     Appoggio = terminale;
     IdAzienda = id;
     IdAziendaLavoro = id;
-    numero = id;
+    double numero = id;
     if (IsEmptyValue(numero)) {
         IdAziendaLavoro = numero = RisolviConTerminale(terminale);
     }
@@ -258,16 +257,19 @@ Esito Passata(double& id, double& numero) {
     return AziendaConDatabase(rs, Appoggio, numero);
 }
 
-/// Replaces `id` by the first company of the server. Each assignment searches anew. The search always finds the
-/// same company: where it was tried before, the process ends.
-void RipiegaSullaPrima(double& id, const std::set<double>& provati) {
+/// Replaces `id` by the first company of the server. Each assignment searches anew. The search always finds the same
+/// company, so that each is tried once for having been found.
+void RipiegaSullaPrima(double& id, std::set<double>& tentate) {
     const double prima = PrimaAziendaSuServer();
-    if (IsEmptyValue(prima) || provati.contains(prima)) {
-        FineConMessaggio("Non è possibile caricare il DataBase");
+    if (!IsEmptyValue(prima) && !tentate.contains(prima)) {
+        IdAzienda = PrimaAziendaSuServer();
+        IdAziendaLavoro = PrimaAziendaSuServer();
+        id = PrimaAziendaSuServer();
+        if (tentate.insert(id).second) {
+            return;
+        }
     }
-    IdAzienda = PrimaAziendaSuServer();
-    IdAziendaLavoro = PrimaAziendaSuServer();
-    id = PrimaAziendaSuServer();
+    FineConMessaggio("Non è possibile caricare il DataBase");
 }
 
 } // namespace
@@ -278,12 +280,9 @@ void ApriAzienda(double& id) {
     if (!NumeroDiPartenza(id)) {
         return;
     }
-    std::set<double> provati;
-    double numero = 0;
-    for (Esito esito = Passata(id, numero); esito != Esito::Aperta; esito = Passata(id, numero)) {
-        provati.insert(numero);
-        RipiegaSullaPrima(id, provati);
-        provati.insert(id);
+    std::set<double> tentate;
+    for (Esito esito = Passata(id); esito != Esito::Aperta; esito = Passata(id)) {
+        RipiegaSullaPrima(id, tentate);
         if (esito == Esito::SenzaRiga) {
             salta([] { DbControllo.Close(); });
         }

@@ -23,7 +23,10 @@ public:
 
 TEST(SedeRifiuto, OfItsCommand) {
     replay(support::Operation<Sede>{
-        .tables = {"sedecentrale", "DirectoryHQ", "Directorybackup"},
+        .tables = {"sedecentrale", "DirectoryHQ", "Directorybackup", "c:\\vabo\\directorysede.txt",
+                   "c:\\vabo\\indirizzovabo.txt", "c:\\vabo\\indirizzovaboinstalla.txt",
+                   "c:\\vabo\\indirizzovabodati.txt", "c:\\vabo\\directoryhq.txt", "c:\\vabo\\indirizzoservervabo.txt",
+                   "c:\\vabo\\directorybackup.txt"},
         .reach =
             [](Sede& form) {
                 form.apri();

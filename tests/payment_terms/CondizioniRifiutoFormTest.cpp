@@ -94,5 +94,19 @@ TEST(DecorrenzeRifiuto, OfAKnownRule) {
         .fromThere = support::inTurn({{3, support::kRefused}, {2, support::kStoredUnread}})});
 }
 
+TEST(DecorrenzeRifiuto, OfANewRule) {
+    replay(support::Operation<Decorrenze>{
+        .tables = {"CondizioniPagamentoDecorrenza"},
+        .reach =
+            [](Decorrenze& form) {
+                form.apri();
+                form.componi({"12", "", "", "", "8", "", ""});
+                form.campo("Descrizione").setText("Il dodici");
+            },
+        .act = [](Decorrenze& form) { form.invio(); },
+        .once = support::inTurn({{2, support::kRefused}, {1, support::kStored}, {2, support::kStoredUnread}}),
+        .fromThere = support::inTurn({{2, support::kRefused}, {3, support::kStoredUnread}})});
+}
+
 } // namespace
 } // namespace vabo

@@ -46,6 +46,29 @@ TEST(LoginRifiuto, OfAKnownUser) {
                       .fromThere = support::inTurn({{5, support::kRefused}, {2, support::kStoredUnread}})});
 }
 
+// Where the command that empties the boxes is refused, the user is stored as before.
+TEST(LoginRifiuto, OfADisabledUser) {
+    replay(Operazione{.tables = {"AbilitazioneAccessi"},
+                      .reach =
+                          [](Utenti& form) {
+                              form.apri();
+                              form.scegli("contabile");
+                              form.invioNelNome();
+                          },
+                      .act =
+                          [](Utenti& form) {
+                              form.premi("CancelButton");
+                              form.premi("cmdUpdate");
+                          },
+                      .once = support::inTurn({{1, "told it; rows before; list right; fields done"},
+                                               {5, "told it; rows before; list right; fields changed to 000000000002"},
+                                               {2, support::kStoredUnread}}),
+                      .fromThere =
+                          support::inTurn({{1, "told it and it; rows before; list right; fields kept"},
+                                           {5, "told it; rows before; list right; fields changed to 000000000002"},
+                                           {2, support::kStoredUnread}})});
+}
+
 TEST(LoginRifiuto, OfADeletion) {
     replay(Operazione{.tables = {"AbilitazioneAccessi"},
                       .reach =

@@ -2,6 +2,7 @@
 
 #include "ado/Drivers.h"
 #include "ado/Error.h"
+#include "platform/FileLinkCatalogs.h"
 
 #include <utility>
 
@@ -31,13 +32,17 @@ private:
 
 class Refusals::Wrapper {
 public:
-    explicit Wrapper(std::shared_ptr<Counter> counter) : driver_(std::move(counter)) {
+    explicit Wrapper(const std::shared_ptr<Counter>& counter) : driver_(counter) {
         ado::setDriverWrapper([this](ado::Driver& real) -> ado::Driver& {
             driver_.real = &real;
             return driver_;
         });
+        platform::setLinkCatalogs(std::make_unique<Catalogs>(counter));
     }
-    ~Wrapper() { ado::setDriverWrapper({}); }
+    ~Wrapper() {
+        ado::setDriverWrapper({});
+        platform::setLinkCatalogs(nullptr);
+    }
     Wrapper(const Wrapper&) = delete;
     Wrapper& operator=(const Wrapper&) = delete;
 
@@ -102,6 +107,63 @@ private:
 
     private:
         std::shared_ptr<Counter> counter_;
+    };
+
+    class Link : public platform::CatalogTable {
+    public:
+        Link(std::shared_ptr<Counter> counter, std::shared_ptr<platform::CatalogTable> real)
+            : counter_(std::move(counter)), real_(std::move(real)) {}
+        ado::Value Type() override { return ask("type").Type(); }
+        ado::Value Name() override { return ask("name").Name(); }
+        ado::Value ProviderString() override { return ask("text").ProviderString(); }
+        void setProviderString(const std::string& text) override { ask("write").setProviderString(text); }
+        void RefreshProperties() override { ask("refresh").RefreshProperties(); }
+
+    private:
+        platform::CatalogTable& ask(const std::string& what) {
+            counter_->ask("link: " + what);
+            return *real_;
+        }
+
+        std::shared_ptr<Counter> counter_;
+        std::shared_ptr<platform::CatalogTable> real_;
+    };
+
+    class Catalog : public platform::LinkCatalog {
+    public:
+        Catalog(std::shared_ptr<Counter> counter, std::unique_ptr<platform::LinkCatalog> real)
+            : counter_(std::move(counter)), real_(std::move(real)) {}
+        int Count() override { return ask("count").Count(); }
+        void Refresh() override { ask("refresh").Refresh(); }
+        std::vector<std::shared_ptr<platform::CatalogTable>> Tables() override {
+            std::vector<std::shared_ptr<platform::CatalogTable>> tables;
+            for (auto& table : ask("tables").Tables()) {
+                tables.push_back(std::make_shared<Link>(counter_, std::move(table)));
+            }
+            return tables;
+        }
+
+    private:
+        platform::LinkCatalog& ask(const std::string& what) {
+            counter_->ask("local file: " + what);
+            return *real_;
+        }
+
+        std::shared_ptr<Counter> counter_;
+        std::unique_ptr<platform::LinkCatalog> real_;
+    };
+
+    class Catalogs : public platform::LinkCatalogs {
+    public:
+        explicit Catalogs(std::shared_ptr<Counter> counter) : counter_(std::move(counter)) {}
+        std::unique_ptr<platform::LinkCatalog> open(const std::string& connection) override {
+            counter_->ask("local file " + connection.substr(connection.rfind('\\') + 1));
+            return std::make_unique<Catalog>(counter_, real_.open(connection));
+        }
+
+    private:
+        std::shared_ptr<Counter> counter_;
+        platform::FileLinkCatalogs real_;
     };
 
     Driver driver_;

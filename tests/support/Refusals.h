@@ -9,8 +9,8 @@
 namespace support {
 
 /// A driver in front of the program's own, which counts what the program asks of a server (logins, statements, row
-/// holds, the reading of keys) and refuses some of it instead of passing it on. It counts for connections opened while
-/// this object lives.
+/// holds, the reading of keys) and of its local files, and refuses some of it instead of passing it on. It counts for
+/// connections and files opened while this object lives.
 class Refusals {
 public:
     enum class Lasting { Once, FromThere };

@@ -8,20 +8,20 @@
 //     Lines held() const;          the same rows as the table holds them, in the same words
 //     void expectAlive() const;    fails where the user can't go on
 //     void reopen();               closes the form and opens it again
-//     std::string half() const;    where a run may leave the rows half written: how they are
+//     std::string half() const;    where a run may leave the rows half written: how they are; may take what is stored
 
 #include "ado/Conversions.h"
 #include "ado/Recordset.h"
 #include "state/variabili.h"
 #include "support/HeardBoxes.h"
 #include "support/Refusals.h"
+#include "support/Stored.h"
 #include "support/TestWorkstation.h"
 
 #include <gtest/gtest.h>
 
 #include <functional>
 #include <initializer_list>
-#include <map>
 #include <set>
 #include <string>
 #include <utility>
@@ -33,18 +33,20 @@ using Lines = std::vector<std::string>;
 
 template<typename World>
 struct Operation {
-    std::set<std::string> tables;      ///< those that it writes, see `allRows`
+    std::set<std::string> tables;      ///< what it writes, under the names of `allStored`
     std::function<void(World&)> reach; ///< opens the form and fills it
     std::function<void(World&)> act;   ///< the keys that write; questions are answered with Yes
     std::string folder = {};           ///< the answer where a folder is asked for
     /// What comes of each refusal, in the order of the requests; see `outcome`.
     Lines once, fromThere;
+    int first = 1;        ///< the request that the first line is about
+    bool toTheEnd = true; ///< whether the last line is about the last request
 };
 
 /// How all stands at one moment.
 struct Moment {
     Lines fields, shown, held;
-    std::map<std::string, std::vector<TestWorkstation::Row>> rows;
+    Stored rows;
     std::string half;
 };
 
@@ -53,24 +55,12 @@ struct Run {
     Lines told, asked;
 };
 
-/// The rows of all databases of the program; those beside the company's under names like VaBoDatiTemp.dbo.Version.
-inline std::map<std::string, std::vector<TestWorkstation::Row>> allRows(const TestWorkstation& posto) {
-    auto all = posto.tables(kCompany);
-    for (const std::string database : {kControlDatabase, kTemporaryDatabase}) {
-        if (posto.rows("master", "select name from master.dbo.sysdatabases where name = '" + database + "'").empty()) {
-            continue;
-        }
-        for (auto& [table, rows] : posto.tables(database)) {
-            all[database + ".dbo." + table] = std::move(rows);
-        }
-    }
-    return all;
-}
-
 template<typename World>
 Moment momentOf(const World& world) {
-    Moment moment{world.fields(), world.shown(), world.held(), allRows(world.posto), "half"};
-    if constexpr (requires { world.half(); }) {
+    Moment moment{world.fields(), world.shown(), world.held(), allStored(world.posto), "half"};
+    if constexpr (requires { world.half(moment.rows); }) {
+        moment.half = world.half(moment.rows);
+    } else if constexpr (requires { world.half(); }) {
         moment.half = world.half();
     }
     return moment;
@@ -83,7 +73,7 @@ void expectWhole(World& world, const Operation<World>& operation, const Run& run
     for (const auto& [table, rows] : run.after.rows) {
         const auto known = run.before.rows.find(table);
         const bool same = known != run.before.rows.end() && known->second == rows;
-        EXPECT_TRUE(same || operation.tables.contains(table)) << "another table is written: " << table;
+        EXPECT_TRUE(same || operation.tables.contains(table)) << "something else is written: " << table;
     }
     for (ado::Connection* connection : {&vabo::DbAzienda, &vabo::DbTemp, &vabo::DbControllo}) {
         if (connection->IsOpen()) {
@@ -93,12 +83,9 @@ void expectWhole(World& world, const Operation<World>& operation, const Run& run
         }
     }
     for (const std::string& table : operation.tables) {
-        const auto place = table.find(".dbo.");
-        const bool ofCompany = place == std::string::npos;
-        EXPECT_NO_THROW(world.posto.run(ofCompany ? kCompany : table.substr(0, place),
-                                        "begin transaction; delete from " +
-                                            (ofCompany ? table : table.substr(place + 1)) + "; rollback transaction"))
-            << "rows are held: " << table;
+        if (run.after.rows.contains(table)) {
+            expectFree(world.posto, table);
+        }
     }
     const HeardBoxes boxes;
     world.reopen();
@@ -191,14 +178,21 @@ void replay(const Operation<World>& operation) {
     EXPECT_NE(undisturbed.after.rows, undisturbed.before.rows) << "nothing is written";
     EXPECT_EQ(undisturbed.after.shown, undisturbed.after.held);
     for (const Lasting lasting : {Lasting::Once, Lasting::FromThere}) {
-        const char* name = lasting == Lasting::Once ? "once" : "from there on";
-        Lines outcomes;
-        for (int place = 1; place <= static_cast<int>(undisturbed.asked.size()); ++place) {
-            SCOPED_TRACE(std::string(name) + ", " + undisturbed.asked[static_cast<std::size_t>(place) - 1]);
-            outcomes.push_back(outcome(play(operation, place, lasting), undisturbed));
+        const Lines& expected = lasting == Lasting::Once ? operation.once : operation.fromThere;
+        const int last = operation.first + static_cast<int>(expected.size()) - 1;
+        if (operation.toTheEnd) {
+            EXPECT_EQ(last, static_cast<int>(undisturbed.asked.size()));
         }
-        EXPECT_EQ(outcomes, lasting == Lasting::Once ? operation.once : operation.fromThere)
-            << name << " of " << testing::PrintToString(undisturbed.asked);
+        for (int place = operation.first; place <= static_cast<int>(undisturbed.asked.size()); ++place) {
+            if (place > last && !operation.toTheEnd) {
+                break;
+            }
+            SCOPED_TRACE((lasting == Lasting::Once ? "once, " : "from there on, ") + std::to_string(place) + ": " +
+                         undisturbed.asked[static_cast<std::size_t>(place) - 1]);
+            const std::string wanted =
+                place > last ? "nothing" : expected[static_cast<std::size_t>(place - operation.first)];
+            EXPECT_EQ(outcome(play(operation, place, lasting), undisturbed), wanted);
+        }
     }
 }
 

@@ -35,6 +35,9 @@ TEST(ErrorTexts, OfTheStorage) {
          "Cannot drop the database 'Database' because it is a system database."},
         {errors::readOnlyDatabase("Database"), 3906, kStatement,
          "Failed to update database \"Database\" because the database is read-only."},
+        {errors::cancelled(), 3980, kBatch,
+         "The request failed to run because the batch is aborted, this can be caused by abort signal sent from client, "
+         "or another request is running in the same session, which makes the session busy."},
         {errors::directoryLookup("File", "Reason"), 5133, kStatement,
          "Directory lookup for the file \"File\" failed with the operating system error Reason."},
         {errors::fileExists("File"), 5170, kStatement,

@@ -16,7 +16,7 @@ namespace engine {
 namespace {
 
 /// Errors that end the open transaction together with the batch.
-constexpr std::array kConversionErrors = {241, 242, 245, 248, 8114, 8115, 517, 537};
+constexpr std::array kConversionErrors = {241, 242, 245, 248, 8114, 8115, 517, 536, 537};
 
 /// SET IMPLICIT_TRANSACTIONS: what begins a transaction.
 template<class Node>

@@ -53,6 +53,9 @@ private:
                 throw StalePlan();
             }
         }
+        if (plan_.kind == Plan::Kind::Insert && plan_.table->identity() == nullptr) {
+            session_.gaveIdentity(0);
+        }
         const std::int64_t rows = plan_.kind == Plan::Kind::Insert ? insert() : change();
         if (transaction) {
             transaction->commit();

@@ -67,6 +67,11 @@ TEST(ErrorTexts, OfDefinitions) {
          "more than once."},
         {errors::objectExists("Object"), 2714, kStatement,
          "There is already an object named 'Object' in the database."},
+        {errors::severalPrimaryKeys("Table"), 8110, kBatch,
+         "Cannot add multiple PRIMARY KEY constraints to table 'Table'."},
+        {errors::identityType("Column"), 2749, kStatement,
+         "Identity column 'Column' must be of data type int, bigint, smallint, tinyint, or decimal or numeric with a "
+         "scale of 0, and constrained to be nonnullable."},
         {errors::severalIdentities("Table"), 2744, kBatch,
          "Multiple identity columns specified for table 'Table'. Only one identity column per table is "
          "allowed."},

@@ -1,6 +1,7 @@
 #include "peer/Parameters.h"
 
 #include "peer/CodePage.h"
+#include "peer/WireTypes.h"
 
 #include <algorithm>
 #include <bit>
@@ -8,192 +9,13 @@
 #include <chrono>
 #include <cmath>
 #include <cstdio>
-#include <optional>
 
 namespace peer {
 
 namespace {
 
-constexpr std::uint16_t kMax = 0xFFFF; // as a length: "max", its value comes in chunks; before a value: null
-
-/// A type as it stands before a value.
-struct WireType {
-    std::uint8_t token = 0;
-    std::uint32_t largest = 0;
-    int precision = 0, scale = 0;
-};
-
-/// The bytes of a value; nothing for a null.
-using Value = std::optional<Bytes>;
-
 struct InvalidValue {};
 struct UnknownType {};
-
-Bytes copied(std::span<const std::uint8_t> bytes) {
-    return {bytes.begin(), bytes.end()};
-}
-
-/// Bytes of a type that is never null; 0 for all others.
-std::uint32_t fixedBytes(std::uint8_t token) {
-    switch (token) {
-    case 0x30:
-    case 0x32:
-        return 1;
-    case 0x34:
-        return 2;
-    case 0x38:
-    case 0x3A:
-    case 0x3B:
-    case 0x7A:
-        return 4;
-    case 0x3C:
-    case 0x3D:
-    case 0x3E:
-    case 0x7F:
-        return 8;
-    default:
-        return 0;
-    }
-}
-
-Value shortValue(ByteReader& in) {
-    const std::uint8_t length = in.u8();
-    return length == 0 ? Value() : copied(in.take(length));
-}
-
-Value chunkedValue(ByteReader& in) {
-    if (in.u64() == ~0ULL) {
-        return {};
-    }
-    Bytes bytes;
-    while (const std::uint32_t length = in.u32()) {
-        const auto chunk = in.take(length);
-        bytes.insert(bytes.end(), chunk.begin(), chunk.end());
-    }
-    return bytes;
-}
-
-/// Reads type and value. False for a type whose bytes aren't known.
-bool readTyped(ByteReader& in, WireType& type, Value& value) {
-    type.token = in.u8();
-    if (const std::uint32_t bytes = fixedBytes(type.token)) {
-        type.largest = bytes;
-        value = copied(in.take(bytes));
-        return true;
-    }
-    switch (type.token) {
-    case 0x1F:
-        return true;
-    case 0x26:
-    case 0x68:
-    case 0x6D:
-    case 0x6E:
-    case 0x6F:
-        type.largest = in.u8();
-        value = shortValue(in);
-        return true;
-    case 0x6A:
-    case 0x6C:
-        type.largest = in.u8();
-        type.precision = in.u8();
-        type.scale = in.u8();
-        value = shortValue(in);
-        return true;
-    case 0x28:
-        value = shortValue(in);
-        return true;
-    case 0x2A:
-        type.scale = in.u8();
-        value = shortValue(in);
-        return true;
-    case 0xA5:
-    case 0xAD:
-    case 0xA7:
-    case 0xAF:
-    case 0xE7:
-    case 0xEF: {
-        type.largest = in.u16();
-        in.take(type.token == 0xA5 || type.token == 0xAD ? 0 : 5);
-        if (type.largest == kMax) {
-            value = chunkedValue(in);
-            return true;
-        }
-        const std::uint16_t length = in.u16();
-        value = length == kMax ? Value() : copied(in.take(length));
-        return true;
-    }
-    case 0x22:
-    case 0x23:
-    case 0x63: {
-        type.largest = in.u32();
-        in.take(type.token == 0x22 ? 0 : 5);
-        const std::uint32_t length = in.u32();
-        value = length == 0xFFFFFFFF ? Value() : copied(in.take(length));
-        return true;
-    }
-    default:
-        return false;
-    }
-}
-
-std::string sized(const char* name, std::uint32_t length, std::uint32_t most) {
-    return std::string(name) + "(" + (length > most ? "max" : std::to_string(std::max(1U, length))) + ")";
-}
-
-std::string typeName(const WireType& type) {
-    constexpr std::uint32_t kLongest = 8000;
-    const bool small = type.largest == 4;
-    switch (type.token) {
-    case 0x30:
-    case 0x34:
-    case 0x38:
-    case 0x7F:
-    case 0x26:
-        return type.largest == 1 ? "tinyint" : type.largest == 2 ? "smallint" : small ? "int" : "bigint";
-    case 0x32:
-    case 0x68:
-        return "bit";
-    case 0x3B:
-    case 0x3E:
-    case 0x6D:
-        return small ? "real" : "float";
-    case 0x3C:
-    case 0x7A:
-    case 0x6E:
-        return small ? "smallmoney" : "money";
-    case 0x3A:
-    case 0x3D:
-    case 0x6F:
-        return small ? "smalldatetime" : "datetime";
-    case 0x28:
-        return "date";
-    case 0x2A:
-        return "datetime2(" + std::to_string(type.scale) + ")";
-    case 0x6A:
-    case 0x6C:
-        return "decimal(" + std::to_string(type.precision) + "," + std::to_string(type.scale) + ")";
-    case 0xA5:
-        return sized("varbinary", type.largest, kLongest);
-    case 0xAD:
-        return sized("binary", type.largest, kLongest);
-    case 0xA7:
-        return sized("varchar", type.largest, kLongest);
-    case 0xAF:
-        return sized("char", type.largest, kLongest);
-    case 0xE7:
-        return sized("nvarchar", type.largest / 2, kLongest / 2);
-    case 0xEF:
-        return sized("nchar", type.largest / 2, kLongest / 2);
-    case 0x22:
-        return "image";
-    case 0x23:
-        return "text";
-    case 0x63:
-        return "ntext";
-    default:
-        return "int"; // a bare null
-    }
-}
 
 std::string floatText(double number) {
     if (!std::isfinite(number)) {
@@ -281,32 +103,6 @@ std::string temporalText(const WireType& type, const Bytes& bytes) {
     return dateText(days, (std::int64_t{in.u32()} * 10 + 1) / 3);
 }
 
-bool lengthFits(const WireType& type, std::size_t length) {
-    switch (type.token) {
-    case 0x26:
-        return length == type.largest && (length == 1 || length == 2 || length == 4 || length == 8);
-    case 0x68:
-        return length == 1;
-    case 0x6D:
-    case 0x6E:
-    case 0x6F:
-        return length == type.largest && (length == 4 || length == 8);
-    case 0x6A:
-    case 0x6C:
-        return length > 1 && length <= 17 && type.precision >= 1 && type.precision <= 38;
-    case 0x28:
-        return length == 3;
-    case 0x2A:
-        return length >= 6 && length <= 8 && type.scale <= 7;
-    case 0xE7:
-    case 0xEF:
-    case 0x63:
-        return length % 2 == 0;
-    default:
-        return true;
-    }
-}
-
 void setNumber(Parameter& parameter, std::string text) {
     parameter.constant = text;
     parameter.text = std::move(text);
@@ -391,12 +187,13 @@ Parameter readParameter(ByteReader& in, int ordinal) {
     parameter.isDefault = (status & kDefault) != 0;
     const std::size_t begin = in.place();
     WireType type;
-    Value value;
+    WireValue value;
     try {
         if (!readTyped(in, type, value)) {
             throw UnknownType();
         }
-        parameter.raw = copied(in.at(begin, in.place() - begin));
+        const auto typed = in.at(begin, in.place() - begin);
+        parameter.raw = Bytes(typed.begin(), typed.end());
         parameter.type = typeName(type);
         if (value) {
             setValue(parameter, type, *value);

@@ -69,18 +69,43 @@ TEST_F(Attention, EndsTheWaitForAnotherWriter) {
     EXPECT_EQ(all[2].at(1), "row 1");
 }
 
-TEST_F(Attention, EndsACallOfAProcedureTheSameWay) {
+Bytes statementCall(const std::string& text) {
     ByteWriter call;
     call.u16(0xFFFF).u16(10).u16(0).shortText("").u8(0).u8(0xE7).u16(8000).raw(Bytes(5, 0));
-    const std::string text = "delete from molte where n in (select a.n + b.n from molte a, molte b)";
-    call.u16(static_cast<std::uint16_t>(text.size() * 2)).ucs2(text);
+    return call.u16(static_cast<std::uint16_t>(text.size() * 2)).ucs2(text).bytes;
+}
+
+TEST_F(Attention, EndsACallOfAProcedureTheSameWay) {
+    const Bytes call = statementCall("delete from molte where n in (select a.n + b.n from molte a, molte b)");
     const std::string before = count();
-    const auto all = answers({packet(3, 1, call.bytes), kAttention}, kOften);
+    const auto all = answers({packet(3, 1, call), kAttention}, kOften);
     ASSERT_EQ(all.size(), 2U);
     EXPECT_EQ(all[0].back(), "doneproc 0 E0 0");
     EXPECT_EQ(all[0].front(), "doneinproc 3 0 0");
     EXPECT_EQ(all[1], kAcknowledged);
     EXPECT_EQ(count(), before);
+}
+
+TEST_F(Attention, EndsAllCallsOfItsMessage) {
+    Bytes calls = statementCall("select a.n from molte a, molte b where a.n + b.n = 999");
+    const Bytes second = statementCall("create table mai (n int)");
+    calls.push_back(0xFF);
+    calls.insert(calls.end(), second.begin(), second.end());
+    const auto all = answers({packet(3, 1, calls), kAttention, batch("select * from mai")}, kOften);
+    ASSERT_EQ(all.size(), 3U);
+    EXPECT_EQ(all[0].back(), "doneproc 0 E0 0");
+    EXPECT_EQ(all[1], kAcknowledged);
+    EXPECT_EQ(all[2].at(0), "error 208");
+}
+
+TEST_F(Attention, IsToldFromARequestThatComesTooEarlyAndIsAnsweredInItsTurn) {
+    Script script({hello(), batch("select n from molte"), batch("select 77 as n")}, 0, true);
+    Client(script, instance).serve();
+    const auto all = heardMessages(script.got, kVersion71);
+    ASSERT_EQ(all.size(), 3U);
+    EXPECT_GT(all[1].size(), 10'000U);
+    EXPECT_TRUE(all[1].back().starts_with("done 10 C1 ")) << "the first one is answered whole";
+    EXPECT_EQ(all[2].at(1), "row 77");
 }
 
 TEST_F(Attention, LeavesTheSessionAbleToWrite) {

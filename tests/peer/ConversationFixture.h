@@ -16,16 +16,16 @@ constexpr std::uint32_t kVersion71 = 0x71000001;
 constexpr std::uint32_t kVersion72 = 0x72090002;
 
 /// A client that sends the given bytes and then disconnects. An attention among them it sends while the answer to the
-/// request before it is made, once the server has looked for it so many times.
+/// request before it is made, once the server has looked for it so many times; an impatient client sends everything so.
 class Script : public Channel {
 public:
-    explicit Script(std::vector<Bytes> sent, int looksBeforeAttention = 0)
-        : sent_(std::move(sent)), looks_(looksBeforeAttention) {}
+    explicit Script(std::vector<Bytes> sent, int looksBeforeAttention = 0, bool impatient = false)
+        : sent_(std::move(sent)), looks_(looksBeforeAttention), impatient_(impatient) {}
     Bytes read() override { return place_ < sent_.size() ? sent_[place_++] : Bytes(); }
     void write(std::span<const std::uint8_t> bytes) override { got.insert(got.end(), bytes.begin(), bytes.end()); }
     bool waiting() override {
         const bool attention = place_ < sent_.size() && !sent_[place_].empty() && sent_[place_][0] == 6;
-        return attention && looks_-- <= 0;
+        return (attention && looks_-- <= 0) || (impatient_ && place_ < sent_.size());
     }
     bool heard(const std::string& text) const {
         const Bytes wide = ByteWriter().ucs2(text).bytes;
@@ -38,6 +38,7 @@ private:
     std::vector<Bytes> sent_;
     std::size_t place_ = 0;
     int looks_;
+    bool impatient_;
 };
 
 using Lines = std::vector<std::string>;

@@ -23,6 +23,11 @@ TEST_F(Conversation, TheEndOfEachStatementNamesItsCommandAndItsRows) {
     EXPECT_EQ(answer("begin tran commit tran"), (Lines{"done 1 D4 0", "done 0 D5 0"}));
 }
 
+TEST_F(Conversation, AnotherDatabaseIsTold) {
+    EXPECT_EQ(answer("use master"), (Lines{"change 1 master", "done 0 0 0"}));
+    EXPECT_EQ(answer("use prova"), Lines{"done 0 0 0"}) << "it is the same";
+}
+
 TEST_F(Conversation, AStatementWhosePlanIsKeptEndsLikeTheFirstOfItsShape) {
     answer("create table t (n int)");
     const auto all =

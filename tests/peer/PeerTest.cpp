@@ -75,6 +75,8 @@ TEST(LoginRecords, TellWhoAsks) {
     EXPECT_EQ(record.packetSize, 4096U);
     EXPECT_FALSE(record.integrated);
     EXPECT_FALSE(record.atLeast72());
+    EXPECT_EQ(record.version, 0x71000001U);
+    EXPECT_EQ(readLogin(login("sa", "", "", 0x74000004)).version, 0x72090002U) << "the newest that is spoken";
 }
 
 TEST(LoginRecords, CutShortOrPointingOutsideThemselvesAreRefused) {

@@ -137,8 +137,9 @@ Scalar replicated(const std::string& text, std::int64_t times) {
     if (times < 0) {
         return {};
     }
+    constexpr std::size_t kMostBytes = std::size_t{4} * kLongestText; // what is too long is cut to its type later
     std::string result;
-    while (times-- > 0 && !text.empty() && result.size() + text.size() <= static_cast<std::size_t>(kLongestText)) {
+    while (times-- > 0 && !text.empty() && result.size() + text.size() <= kMostBytes) {
         result += text;
     }
     return result;

@@ -93,6 +93,8 @@ TEST_F(Attention, EndsAllCallsOfItsMessage) {
     calls.insert(calls.end(), second.begin(), second.end());
     const auto all = answers({packet(3, 1, calls), kAttention, batch("select * from mai")}, kOften);
     ASSERT_EQ(all.size(), 3U);
+    EXPECT_EQ(
+        std::count_if(all[0].begin(), all[0].end(), [](const auto& line) { return line.starts_with("doneproc"); }), 1);
     EXPECT_EQ(all[0].back(), "doneproc 0 E0 0");
     EXPECT_EQ(all[1], kAcknowledged);
     EXPECT_EQ(all[2].at(0), "error 208");

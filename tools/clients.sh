@@ -8,7 +8,7 @@
 # reads a text of 20,000 characters. A line is `client: check ok` or `client: check FAILED: why`; what a client doesn't
 # offer isn't tried. The exit code is 1 where a check failed.
 set -uo pipefail
-cd "$(dirname "$0")/.."
+cd "$(dirname "$0")/.." || exit
 clients=("$@")
 [ ${#clients[@]} -gt 0 ] || clients=(tsql pyodbc pymssql pdo perl jtds)
 

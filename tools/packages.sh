@@ -1,5 +1,6 @@
 #!/usr/bin/env bash
-# Installs the Debian packages for the given purposes (build, test, check, bench, coverage). Does nothing where none is missing.
+# Installs the Debian packages for the given purposes (build, test, check, bench, coverage, clients).
+# Does nothing where none is missing.
 set -euo pipefail
 
 build=(g++ cmake ninja-build qt6-base-dev qt6-base-dev-tools libgl-dev qt6-translations-l10n libsqlite3-dev libicu-dev
@@ -8,6 +9,8 @@ test=(libgtest-dev libgmock-dev librapidcheck-dev unixodbc python3 libxcb-xtest0
 check=(clang-format clang-tidy python3)
 bench=(libbenchmark-dev)
 coverage=(gcovr)
+clients=(freetds-bin python3-pyodbc python3-pymssql php8.2-cli php8.2-sybase libdbd-sybase-perl libjtds-java
+    openjdk-17-jdk-headless)
 
 wanted=()
 for purpose in "$@"; do
@@ -17,8 +20,9 @@ for purpose in "$@"; do
     check) wanted+=("${check[@]}") ;;
     bench) wanted+=("${bench[@]}") ;;
     coverage) wanted+=("${coverage[@]}") ;;
+    clients) wanted+=("${clients[@]}") ;;
     *)
-        echo "usage: packages.sh [build] [test] [check] [bench] [coverage]" >&2
+        echo "usage: packages.sh [build] [test] [check] [bench] [coverage] [clients]" >&2
         exit 2
         ;;
     esac

@@ -1,17 +1,20 @@
 #include "peer/Client.h"
 
 #include "engine/errors/RunErrors.h"
-#include "peer/Procedures.h"
+#include "engine/store/Idler.h"
+
+#include <utility>
 
 namespace peer {
 
 namespace {
 
-constexpr std::size_t kRowsBetweenLooks = 64;
-
 /// The one error of the protocol itself.
 constexpr engine::errors::ErrorText<> kIncorrectStream{
     4002, engine::Error::Reach::Statement, "The incoming tabular data stream (TDS) protocol stream is incorrect."};
+
+/// The one that this thread serves.
+thread_local Client* served = nullptr;
 
 int severity(int number) {
     switch (number) {
@@ -31,7 +34,15 @@ int severity(int number) {
 } // namespace
 
 Client::Client(Channel& channel, std::shared_ptr<engine::Instance> instance)
-    : channel_(channel), instance_(std::move(instance)) {}
+    : channel_(channel), instance_(std::move(instance)) {
+    served = this;
+    engine::setIdler(lookForAttention);
+}
+
+Client::~Client() {
+    engine::setIdler(nullptr);
+    served = nullptr;
+}
 
 void Client::serve() {
     while (auto message = receive()) {
@@ -51,6 +62,9 @@ void Client::serve() {
 
 std::optional<Message> Client::receive() {
     while (true) {
+        if (queued_) {
+            return std::exchange(queued_, std::nullopt);
+        }
         if (auto message = reader_.next()) {
             return message;
         }
@@ -69,9 +83,9 @@ bool Client::logIn(const Message& message) {
         if (login_.integrated || login_.user.empty()) {
             throw engine::errors::loginFailed(login_.user);
         }
-        session_ = engine::Session::open(instance_, {login_.user, login_.password, login_.database});
+        openSession();
     } catch (const engine::Error& error) {
-        report(error);
+        report(error, {done::kError, command::kNone});
         flush(true);
         return false;
     }
@@ -79,37 +93,79 @@ bool Client::logIn(const Message& message) {
     tokens_.collation();
     tokens_.loginAcknowledged();
     tokens_.packetSize(login_.packetSize, 4096);
-    statementDone({done::kFinal, 0});
+    statementDone({done::kFinal, command::kNone});
     flush(true);
     return true;
 }
 
+void Client::openSession() {
+    session_ = engine::Session::open(instance_, {login_.user, login_.password, login_.database});
+}
+
 void Client::answer(const Message& message) {
+    if (message.type == PacketType::Attention) {
+        acknowledgeAttention(); // its request has been answered already
+        return;
+    }
     stopped_ = false;
+    try {
+        if (message.ignored) {
+            statementDone({done::kError, command::kNone});
+        } else {
+            reset(message.reset);
+            request(message);
+        }
+    } catch (const engine::Error& error) {
+        report(error, {done::kError, command::kNone});
+    } catch (const ProtocolError&) {
+        report(kIncorrectStream(), {done::kError, command::kNone});
+    }
+    flush(true);
+    if (stopped_) {
+        acknowledgeAttention();
+    }
+}
+
+void Client::request(const Message& message) {
     ByteReader in(message.body);
     switch (message.type) {
     case PacketType::Batch:
         skipHeaders(in);
         batchMessage(in);
-        break;
+        return;
     case PacketType::Rpc:
         skipHeaders(in);
         procedureMessage(in);
-        break;
+        return;
     case PacketType::TransactionManager:
         skipHeaders(in);
         transactionMessage(in);
-        break;
-    case PacketType::Attention:
-        stopped_ = true;
-        break;
+        return;
     default:
-        report(kIncorrectStream());
-        break;
+        throw kIncorrectStream();
     }
-    if (stopped_) {
-        statementDone({done::kAttention, 0});
+}
+
+/// The connection becomes as it was after its login.
+void Client::reset(Message::Reset how) {
+    if (how == Message::Reset::None) {
+        return;
     }
+    if (how == Message::Reset::AllButTransaction && inTransaction()) {
+        throw kIncorrectStream(); // a session takes its transaction with it
+    }
+    const std::string before = session_->database();
+    session_ = nullptr;
+    openSession();
+    prepared_.clear();
+    if (session_->database() != before) {
+        tokens_.databaseChanged(session_->database(), before);
+    }
+    tokens_.connectionReset();
+}
+
+void Client::acknowledgeAttention() {
+    statementDone({done::kAttention, command::kNone});
     flush(true);
 }
 
@@ -124,72 +180,16 @@ void Client::skipHeaders(ByteReader& in) const {
     in.take(length - 4);
 }
 
-void Client::batchMessage(ByteReader in) {
-    run(in.ucs2(in.left() / 2));
-    if (!held_) { // no statement ran, but the client waits for an end
-        statementDone({done::kFinal, 0});
-    }
-}
-
-void Client::run(std::string_view text) {
-    const std::string before = session_->database();
-    try {
-        const auto batch = session_->execute(text);
-        for (bool more = true; more && !stopped_;) {
-            try {
-                more = batch->nextResult();
-                if (more) {
-                    runResult(*batch);
-                }
-            } catch (const engine::Error& error) {
-                report(error);
-                more = error.reach() == engine::Error::Reach::Statement;
-            }
-        }
-    } catch (const engine::Error& error) {
-        report(error);
-    }
-    if (session_->database() != before) {
-        tokens_.databaseChanged(session_->database(), before);
-    }
-}
-
-void Client::runResult(engine::Batch& batch) {
-    for (const auto& message : batch.messages()) {
-        tokens_.message(message.number, message.text);
-    }
-    if (!batch.hasRows()) {
-        const bool counted = batch.affected() >= 0;
-        statementDone(
-            {counted ? done::kCount : done::kFinal, counted ? static_cast<std::uint64_t>(batch.affected()) : 0});
-        return;
-    }
-    releaseHeld();
-    tokens_.columns(batch.columns());
-    std::uint64_t rows = 0;
-    while (const engine::ResultRow* row = stopped_ ? nullptr : batch.nextRow()) {
-        tokens_.row(*row, batch.columns());
-        if (++rows % kRowsBetweenLooks == 0) {
-            flush(false);
-            stopped_ = askedToStop();
-        }
-    }
-    if (!stopped_) {
-        statementDone({done::kCount, rows});
-    }
-}
-
-void Client::report(const engine::Error& error) {
+void Client::report(const engine::Error& error, Done done) {
     releaseHeld();
     tokens_.error(error.number(), severity(error.number()), error.what());
-    statementDone({done::kError, 0});
+    statementDone(done);
 }
 
 void Client::releaseHeld() {
-    if (held_) {
-        tokens_.statementDone(static_cast<std::uint16_t>(held_->status | done::kMore), held_->rows);
+    if (const auto done = std::exchange(held_, std::nullopt)) {
+        tokens_.done(done->kind, static_cast<std::uint16_t>(done->status | done::kMore), done->command, done->rows);
     }
-    held_.reset();
 }
 
 void Client::statementDone(Done done) {
@@ -197,56 +197,34 @@ void Client::statementDone(Done done) {
     held_ = done;
 }
 
-void Client::procedureMessage(ByteReader in) {
-    const ProcedureCall call = readProcedureCall(in);
-    const ProcedureText text = procedureText(call, prepared_, lastPrepared_);
-    if (text.unknown) {
-        report(engine::errors::procedureMissing(call.name));
-        return;
-    }
-    if (!text.batch.empty()) {
-        run(text.batch);
-    }
-    releaseHeld();
-    tokens_.returnStatus(0);
-    if (text.handle) {
-        tokens_.returnValue("", *text.handle);
-    }
-    tokens_.procedureDone(done::kFinal);
-}
-
-void Client::transactionMessage(ByteReader in) {
-    constexpr std::uint16_t kBegin = 5, kCommit = 7, kRollback = 8;
-    constexpr std::uint8_t kCommitted = 9, kRolledBack = 10;
-    const std::uint16_t request = in.u16();
-    if (request == kBegin) {
-        run("BEGIN TRANSACTION");
-        tokens_.transactionBegun(++transaction_);
-    } else if (request == kCommit || request == kRollback) {
-        run(request == kCommit ? "COMMIT TRANSACTION" : "ROLLBACK TRANSACTION");
-        tokens_.transactionEnded(request == kCommit ? kCommitted : kRolledBack, transaction_);
-    } else {
-        report(kIncorrectStream());
+void Client::lookForAttention() noexcept {
+    if (served != nullptr && !served->stopped_ && served->askedToStop()) {
+        served->stopped_ = true;
+        engine::giveUp();
     }
 }
 
-bool Client::askedToStop() {
-    if (!channel_.waiting()) {
-        return false;
+bool Client::askedToStop() noexcept {
+    try {
+        if (queued_ || !channel_.waiting()) {
+            return false;
+        }
+        const Bytes bytes = channel_.read();
+        reader_.feed(bytes);
+        auto message = reader_.next();
+        if (message && message->type != PacketType::Attention) {
+            queued_ = std::move(message);
+            return false;
+        }
+        return bytes.empty() || message;
+    } catch (const std::exception&) {
+        return true; // `receive` meets it again
     }
-    const Bytes bytes = channel_.read();
-    reader_.feed(bytes);
-    const auto message = reader_.next();
-    if (message && message->type != PacketType::Attention) {
-        throw ProtocolError("a request before the answer to the last one");
-    }
-    return bytes.empty() || message;
 }
 
 void Client::flush(bool last) {
-    if (last && held_) {
-        tokens_.statementDone(held_->status, held_->rows);
-        held_.reset();
+    if (const auto done = last ? std::exchange(held_, std::nullopt) : std::nullopt) {
+        tokens_.done(done->kind, done->status, done->command, done->rows);
     }
     Bytes& bytes = tokens_.bytes();
     const std::size_t room = login_.packetSize - kHeaderBytes;

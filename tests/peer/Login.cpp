@@ -7,7 +7,7 @@ namespace peer {
 namespace {
 
 constexpr std::uint32_t kOldestVersion = 0x71000000;
-constexpr std::uint32_t kNewestVersion = 0x74000004;
+constexpr std::uint32_t kNewestVersion = 0x72090002; // later ones have types that the dialect hasn't
 constexpr std::uint8_t kIntegratedSecurity = 0x80;
 constexpr std::uint8_t kEncryptionNotSupported = 0x02;
 

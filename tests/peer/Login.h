@@ -8,7 +8,7 @@ namespace peer {
 
 /// The first message of a client, with the user and the settings of the connection.
 struct LoginRecord {
-    std::uint32_t version = 0; ///< 0x71000001 … 0x74000004
+    std::uint32_t version = 0; ///< 0x71000001 … 0x72090002
     std::uint32_t packetSize = 4096;
     std::string host, user, password, application, server, database;
     bool integrated = false;

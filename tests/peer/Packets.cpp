@@ -1,6 +1,7 @@
 #include "peer/Packets.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace peer {
 
@@ -9,20 +10,20 @@ namespace {
 constexpr std::uint8_t kEndOfMessage = 0x01;
 constexpr std::uint8_t kIgnoreMessage = 0x02;
 
-PacketType knownType(std::uint8_t type) {
-    switch (static_cast<PacketType>(type)) {
-    case PacketType::Batch:
-    case PacketType::Rpc:
-    case PacketType::Attention:
-    case PacketType::Bulk:
-    case PacketType::TransactionManager:
-    case PacketType::Login:
-    case PacketType::PreLogin:
-        return static_cast<PacketType>(type);
-    case PacketType::Response:
-        break;
+constexpr std::uint8_t kReset = 0x08;
+constexpr std::uint8_t kResetButTransaction = 0x10;
+
+PacketType requestType(std::uint8_t type) {
+    if (type == 0 || static_cast<PacketType>(type) == PacketType::Response) {
+        throw ProtocolError("no type of a request");
     }
-    throw ProtocolError("unknown packet type");
+    return static_cast<PacketType>(type);
+}
+
+Message::Reset resetOf(std::uint8_t status) {
+    return status & kReset                 ? Message::Reset::All
+           : status & kResetButTransaction ? Message::Reset::AllButTransaction
+                                           : Message::Reset::None;
 }
 
 } // namespace
@@ -33,7 +34,7 @@ void PacketReader::feed(std::span<const std::uint8_t> bytes) {
 
 std::optional<Message> PacketReader::next() {
     while (buffer_.size() >= kHeaderBytes) {
-        const PacketType type = knownType(buffer_[0]);
+        const PacketType type = requestType(buffer_[0]);
         const std::uint8_t status = buffer_[1];
         const std::size_t length = static_cast<std::size_t>(buffer_[2]) << 8 | buffer_[3];
         if (length < kHeaderBytes || length > kLargestPacket) {
@@ -51,15 +52,13 @@ std::optional<Message> PacketReader::next() {
         const auto packet = buffer_.begin() + static_cast<std::ptrdiff_t>(length);
         body_.insert(body_.end(), buffer_.begin() + kHeaderBytes, packet);
         buffer_.erase(buffer_.begin(), packet);
-        type_ = type;
-        if (!(status & kEndOfMessage)) {
-            continue;
+        if (!type_) {
+            reset_ = resetOf(status);
         }
-        Message message{type, std::move(body_)};
-        body_ = {};
-        type_.reset();
-        if (!(status & kIgnoreMessage)) {
-            return message;
+        type_ = type;
+        if (status & kEndOfMessage) {
+            type_.reset();
+            return Message{type, std::exchange(body_, {}), (status & kIgnoreMessage) != 0, reset_};
         }
     }
     return std::nullopt;

@@ -16,6 +16,7 @@ enum class PacketType : std::uint8_t {
     TransactionManager = 14,
     Login = 16,
     PreLogin = 18
+    // Others are read too: who knows no such request refuses it.
 };
 
 inline constexpr std::size_t kHeaderBytes = 8;
@@ -25,6 +26,8 @@ inline constexpr std::size_t kLargestMessage = 64U << 20;
 struct Message {
     PacketType type;
     Bytes body;
+    bool ignored = false; ///< its sender thought better of it
+    enum class Reset { None, All, AllButTransaction } reset = Reset::None;
 };
 
 /// Puts messages together from the pieces that the network delivers. Throws ProtocolError for invalid ones.
@@ -38,6 +41,7 @@ private:
     Bytes buffer_;
     std::optional<PacketType> type_;
     Bytes body_;
+    Message::Reset reset_ = Message::Reset::None;
 };
 
 /// A message cut into packets of the agreed size; with `whole` false more of the message follows.

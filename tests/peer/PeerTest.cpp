@@ -1,12 +1,6 @@
 // The server's side of the protocol: which messages it accepts and refuses.
 
-#include "engine/store/Instance.h"
-#include "peer/Client.h"
-#include "peer/Procedures.h"
-#include "peer/Wire.h"
-#include "support/TemporaryFolder.h"
-
-#include <gtest/gtest.h>
+#include "peer/ConversationFixture.h"
 
 #include <algorithm>
 
@@ -34,21 +28,29 @@ TEST(Packets, AreJoinedToMessagesWhateverPiecesCome) {
     EXPECT_FALSE(reader.next());
 }
 
-TEST(Packets, OfAMessageToBeIgnoredAreDropped) {
+TEST(Packets, TellWhetherTheirMessageIsToBeIgnoredAndTheConnectionReset) {
     PacketReader reader;
     reader.feed(packet(1, 3, {1}));
-    reader.feed(packet(1, 1, {2}));
-    EXPECT_EQ(reader.next()->body, Bytes{2});
+    reader.feed(packet(1, 8, {2}));
+    reader.feed(packet(1, 0x11, {3}));
+    reader.feed(packet(3, 0x11, {4}));
+    reader.feed(packet(3, 1, {5}));
+    EXPECT_TRUE(reader.next()->ignored);
+    const auto reset = reader.next();
+    EXPECT_FALSE(reset->ignored);
+    EXPECT_EQ(reset->reset, Message::Reset::All) << "its first packet tells";
+    EXPECT_EQ(reader.next()->reset, Message::Reset::AllButTransaction);
+    EXPECT_EQ(reader.next()->reset, Message::Reset::None);
 }
 
-TEST(Packets, OfAnUnknownTypeAnImpossibleLengthOrTwoMessagesMixedAreRefused) {
+TEST(Packets, OfNoRequestOfAnImpossibleLengthOrTwoMessagesMixedAreRefused) {
     const Bytes mixed = [] {
         Bytes two = packet(1, 0, {1});
         const Bytes second = packet(3, 1, {2});
         two.insert(two.end(), second.begin(), second.end());
         return two;
     }();
-    for (const Bytes& wire : {packet(99, 1, {}), packet(4, 1, {}), Bytes{1, 1, 0, 7, 0, 0, 0, 0},
+    for (const Bytes& wire : {packet(0, 1, {}), packet(4, 1, {}), Bytes{1, 1, 0, 7, 0, 0, 0, 0},
                               Bytes{1, 1, 0xFF, 0xFF, 0, 0, 0, 0}, mixed}) {
         PacketReader reader;
         reader.feed(wire);
@@ -73,6 +75,8 @@ TEST(LoginRecords, TellWhoAsks) {
     EXPECT_EQ(record.packetSize, 4096U);
     EXPECT_FALSE(record.integrated);
     EXPECT_FALSE(record.atLeast72());
+    EXPECT_EQ(record.version, 0x71000001U);
+    EXPECT_EQ(readLogin(login("sa", "", "", 0x74000004)).version, 0x72090002U) << "the newest that is spoken";
 }
 
 TEST(LoginRecords, CutShortOrPointingOutsideThemselvesAreRefused) {
@@ -99,65 +103,10 @@ TEST(PreLogins, AreToldThatNothingIsEncrypted) {
     EXPECT_THROW(answerPreLogin(Bytes{0, 0, 200, 0, 6}), ProtocolError);
 }
 
-TEST(Calls, OfPreparedTextsBecomeBatches) {
-    std::map<std::int32_t, std::string> prepared;
-    std::int32_t last = 0;
-    const ProcedureCall execute{"sp_executesql",
-                                {{"", "", "select '@a', @a, @b, @@rowcount"},
-                                 {"", "", "@a int, @b int"},
-                                 {"@a", "1", "1"},
-                                 {"@b", "N'x'", "x"}}};
-    EXPECT_EQ(procedureText(execute, prepared, last).batch, "select '@a', 1, N'x', @@rowcount");
-    const auto made =
-        procedureText({"sp_prepare", {{"", "NULL", ""}, {"", "", "@a int"}, {"", "", "select @a"}}}, prepared, last);
-    ASSERT_EQ(made.handle, 1);
-    EXPECT_EQ(made.batch, "");
-    EXPECT_EQ(procedureText({"sp_execute", {{"", "1", "1"}, {"", "7", "7"}}}, prepared, last).batch, "select 7");
-    procedureText({"sp_unprepare", {{"", "1", "1"}}}, prepared, last);
-    EXPECT_TRUE(prepared.empty());
-    EXPECT_EQ(procedureText({"sp_help", {{"@x", "1", "1"}}}, prepared, last).batch, "EXEC sp_help @x = 1");
-    EXPECT_TRUE(procedureText({"sp_cursoropen", {}}, prepared, last).unknown);
-}
-
-/// A client that sends the given bytes and then disconnects.
-class Script : public Channel {
-public:
-    explicit Script(std::vector<Bytes> sent) : sent_(std::move(sent)) {}
-    Bytes read() override { return place_ < sent_.size() ? sent_[place_++] : Bytes(); }
-    void write(std::span<const std::uint8_t> bytes) override { got.insert(got.end(), bytes.begin(), bytes.end()); }
-    bool waiting() override { return false; }
-    bool heard(const std::string& text) const {
-        const Bytes wide = ByteWriter().ucs2(text).bytes;
-        return std::search(got.begin(), got.end(), wide.begin(), wide.end()) != got.end();
-    }
-
-    Bytes got;
-
-private:
-    std::vector<Bytes> sent_;
-    std::size_t place_ = 0;
-};
-
-class Conversation : public ::testing::Test {
-protected:
-    Conversation() { instance->addLogin("sa", "segreta"); }
-
-    Script served(std::vector<Bytes> sent) const {
-        Script script(std::move(sent));
-        Client(script, instance).serve();
-        return script;
-    }
-
-    support::TemporaryFolder folder;
-    std::shared_ptr<engine::Instance> instance = engine::Instance::create(
-        folder.path() / "server", {[this](std::string_view path) { return folder.path() / path; }});
-    const Bytes hello = packet(16, 1, login("sa", "segreta", "master"));
-};
-
 TEST_F(Conversation, RowsMessagesAndErrorsComeBack) {
-    EXPECT_TRUE(served({hello, batch("select N'trovato'")}).heard("trovato"));
-    EXPECT_TRUE(served({hello, batch("print 'detto'")}).heard("detto"));
-    EXPECT_TRUE(served({hello, batch("select * from manca")}).heard("Invalid object name 'manca'."));
+    EXPECT_TRUE(served({hello(), batch("select N'trovato'")}).heard("trovato"));
+    EXPECT_TRUE(served({hello(), batch("print 'detto'")}).heard("detto"));
+    EXPECT_TRUE(served({hello(), batch("select * from manca")}).heard("Invalid object name 'manca'."));
 }
 
 TEST_F(Conversation, AWrongPasswordEndsIt) {
@@ -174,26 +123,19 @@ TEST_F(Conversation, AnythingCutShortIsWaitedForAndEndsWithTheClient) {
     const Bytes whole = batch("select 1");
     for (std::size_t length = 0; length < whole.size(); ++length) {
         const Bytes cut(whole.begin(), whole.begin() + static_cast<std::ptrdiff_t>(length));
-        EXPECT_NO_THROW(served({hello, cut})) << length;
+        EXPECT_NO_THROW(served({hello(), cut})) << length;
     }
 }
 
 TEST_F(Conversation, ABatchInWhichNothingRunsHasAnEndAllTheSame) {
-    const Bytes end = {0xFD, 0, 0, 0xC1, 0, 0, 0, 0, 0};
-    const std::size_t greeted = served({hello}).got.size();
+    const Bytes end = {0xFD, 0, 0, 0, 0, 0, 0, 0, 0};
+    const std::size_t greeted = served({hello()}).got.size();
     for (const char* text : {"", "-- nothing", "if 1 = 2 print 'detto'"}) {
-        const Script script = served({hello, batch(text)});
+        const Script script = served({hello(), batch(text)});
         const auto answer = std::span(script.got).subspan(greeted);
         ASSERT_EQ(answer.size(), kHeaderBytes + end.size()) << text;
         EXPECT_TRUE(std::ranges::equal(answer.subspan(kHeaderBytes), end)) << text;
     }
-}
-
-TEST_F(Conversation, AnAttentionIsAcknowledged) {
-    const Script script = served({hello, packet(6, 1, {})});
-    const Bytes acknowledged = {0xFD, 0x20, 0};
-    EXPECT_NE(std::search(script.got.begin(), script.got.end(), acknowledged.begin(), acknowledged.end()),
-              script.got.end());
 }
 
 } // namespace

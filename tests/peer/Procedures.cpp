@@ -1,179 +1,136 @@
 #include "peer/Procedures.h"
 
-#include <bit>
+#include "engine/errors/RunErrors.h"
+
+#include <algorithm>
 #include <cctype>
 #include <charconv>
+#include <span>
+#include <string_view>
 
 namespace peer {
 
 namespace {
 
-using Argument = ProcedureCall::Argument;
+constexpr engine::errors::ErrorText<int> kUnknownHandle{8179, engine::Error::Reach::Statement,
+                                                        "Could not find prepared statement with handle {handle}."};
 
-std::string numberText(double number) {
-    char digits[32];
-    const auto end = std::to_chars(std::begin(digits), std::end(digits), number).ptr;
-    return {digits, end};
+std::string small(std::string_view text) {
+    std::string out(text);
+    std::transform(out.begin(), out.end(), out.begin(),
+                   [](char c) { return static_cast<char>(std::tolower(static_cast<unsigned char>(c))); });
+    return out;
 }
 
-void setNumber(Argument& argument, std::string text) {
-    argument.literal = text;
-    argument.text = std::move(text);
+bool continuesName(char c) {
+    return std::isalnum(static_cast<unsigned char>(c)) || c == '_' || c == '@' || c == '#' || c == '$' ||
+           static_cast<unsigned char>(c) >= 0x80;
 }
 
-void setText(Argument& argument, std::string text) {
-    std::string quoted = "N'";
-    for (const char c : text) {
-        quoted += c == '\'' ? "''" : std::string(1, c);
-    }
-    argument.literal = quoted + "'";
-    argument.text = std::move(text);
-}
-
-void readInteger(ByteReader& in, Argument& argument) {
-    in.u8();
-    switch (in.u8()) {
-    case 0:
-        break;
-    case 1:
-        setNumber(argument, std::to_string(in.u8()));
-        break;
-    case 2:
-        setNumber(argument, std::to_string(static_cast<std::int16_t>(in.u16())));
-        break;
-    case 4:
-        setNumber(argument, std::to_string(static_cast<std::int32_t>(in.u32())));
-        break;
-    case 8:
-        setNumber(argument, std::to_string(static_cast<std::int64_t>(in.u64())));
-        break;
+/// How long the quoted text, quoted name or comment at a place is; 0 where none begins there.
+std::size_t passedOver(std::string_view text, std::size_t begin) {
+    const auto upTo = [&](std::string_view end, std::size_t from) {
+        const std::size_t found = text.find(end, from);
+        return (found == std::string_view::npos ? text.size() : found + end.size()) - begin;
+    };
+    switch (text[begin]) {
+    case '\'':
+        return upTo("'", begin + 1);
+    case '"':
+        return upTo("\"", begin + 1);
+    case '[':
+        return upTo("]", begin + 1);
     default:
-        throw ProtocolError("integer of an impossible length");
+        break;
     }
+    const std::string_view two = text.substr(begin, 2);
+    return two == "--" ? upTo("\n", begin) : two == "/*" ? upTo("*/", begin + 2) : 0;
 }
 
-void readFloat(ByteReader& in, Argument& argument) {
-    in.u8();
-    switch (in.u8()) {
-    case 0:
-        break;
-    case 4:
-        setNumber(argument, numberText(std::bit_cast<float>(in.u32())));
-        break;
-    case 8:
-        setNumber(argument, numberText(std::bit_cast<double>(in.u64())));
-        break;
-    default:
-        throw ProtocolError("float of an impossible length");
-    }
-}
+struct Declaration {
+    std::string name; ///< in small letters
+    std::string type;
+};
 
-void readWideText(ByteReader& in, Argument& argument) {
-    const std::uint16_t largest = in.u16();
-    in.take(5);
-    if (largest == 0xFFFF) {
-        if (in.u64() == ~0ULL) {
-            return;
-        }
-        Bytes bytes;
-        while (const std::uint32_t chunk = in.u32()) {
-            const auto piece = in.take(chunk);
-            bytes.insert(bytes.end(), piece.begin(), piece.end());
-        }
-        setText(argument, ByteReader(bytes).ucs2(bytes.size() / 2));
-        return;
-    }
-    const std::uint16_t length = in.u16();
-    if (length != 0xFFFF) {
-        setText(argument, in.ucs2(length / 2));
-    }
-}
-
-void readLongWideText(ByteReader& in, Argument& argument) {
-    in.u32();
-    in.take(5);
-    const std::uint32_t length = in.u32();
-    if (length != 0xFFFFFFFF) {
-        setText(argument, in.ucs2(length / 2));
-    }
-}
-
-void readNarrowText(ByteReader& in, Argument& argument) {
-    in.u16();
-    in.take(5);
-    const std::uint16_t length = in.u16();
-    if (length == 0xFFFF) {
-        return;
-    }
-    const auto bytes = in.take(length);
-    setText(argument, {bytes.begin(), bytes.end()});
-}
-
-Argument readArgument(ByteReader& in) {
-    Argument argument;
-    argument.name = in.ucs2(in.u8());
-    argument.literal = "NULL";
-    in.u8(); // by reference or by value
-    switch (in.u8()) {
-    case 0x26:
-    case 0x68:
-        readInteger(in, argument);
-        break;
-    case 0x6D:
-        readFloat(in, argument);
-        break;
-    case 0xE7:
-    case 0xEF:
-        readWideText(in, argument);
-        break;
-    case 0x63:
-        readLongWideText(in, argument);
-        break;
-    case 0xA7:
-    case 0xAF:
-        readNarrowText(in, argument);
-        break;
-    default:
-        throw ProtocolError("argument of a type that isn't served");
-    }
-    return argument;
-}
-
-/// The text with each `@name` outside quotes replaced by its value: by the argument's own name, else by its place.
-std::string filled(const std::string& text, const std::vector<Argument>& arguments, std::size_t first) {
-    std::string out;
-    bool quoted = false;
-    std::size_t place = first;
-    for (std::size_t i = 0; i < text.size(); ++i) {
-        quoted ^= text[i] == '\'';
-        const bool server = i + 1 < text.size() && text[i + 1] == '@';
-        if (quoted || text[i] != '@' || server || (i > 0 && text[i - 1] == '@')) {
-            out += text[i];
-            continue;
-        }
-        std::size_t end = i + 1;
-        while (end < text.size() && (std::isalnum(static_cast<unsigned char>(text[end])) || text[end] == '_')) {
-            ++end;
-        }
-        const std::string name = text.substr(i, end - i);
-        const Argument* found = nullptr;
-        for (std::size_t k = first; k < arguments.size(); ++k) {
-            if (arguments[k].name == name) {
-                found = &arguments[k];
+/// `@a int, @b decimal(10, 2) OUTPUT`
+std::vector<Declaration> declarations(std::string_view text) {
+    std::vector<Declaration> all;
+    int depth = 0;
+    std::string one;
+    const auto add = [&] {
+        const std::size_t name = std::min(one.find('@'), one.size());
+        const std::size_t end = std::min(one.find_first_of(" \t\r\n", name), one.size());
+        std::string type = one.substr(end);
+        std::string words = small(type);
+        for (const char* word : {"output", "out"}) {
+            const std::size_t place = words.rfind(word);
+            if (place != std::string::npos &&
+                words.find_first_not_of(" \t\r\n", place + std::string_view(word).size()) == std::string::npos) {
+                type.resize(place);
+                words.resize(place);
             }
         }
-        if (!found && place < arguments.size()) {
-            found = &arguments[place++];
+        const std::size_t first = type.find_first_not_of(" \t\r\n");
+        const std::size_t last = type.find_last_not_of(" \t\r\n");
+        all.push_back({small(one.substr(name, end - name)),
+                       first == std::string::npos ? std::string() : type.substr(first, last - first + 1)});
+        one.clear();
+    };
+    for (const char c : text) {
+        depth += c == '(' ? 1 : c == ')' ? -1 : 0;
+        if (c == ',' && depth == 0) {
+            add();
+        } else {
+            one += c;
         }
-        out += found ? found->literal : name;
-        i = end - 1;
+    }
+    if (!one.empty()) {
+        add();
+    }
+    return all;
+}
+
+/// The text with each `@name` outside quotes and comments replaced by the value of that parameter, converted to the
+/// type of its declaration. A name without value stays, and the statement is refused for it.
+std::string filled(std::string_view text, std::string_view declared, std::span<const Parameter> values) {
+    std::map<std::string, std::string> constants;
+    const auto all = declarations(declared);
+    std::size_t place = 0;
+    for (const Parameter& value : values) {
+        const std::string name = small(value.name);
+        const auto found =
+            name.empty() ? all.begin() + static_cast<std::ptrdiff_t>(std::min(place, all.size()))
+                         : std::find_if(all.begin(), all.end(), [&](const auto& one) { return one.name == name; });
+        ++place;
+        if (found != all.end()) {
+            constants[found->name] = value.typed(found->type);
+        } else if (!name.empty()) {
+            constants[name] = value.typed();
+        }
+    }
+    std::string out;
+    for (std::size_t i = 0; i < text.size();) {
+        std::size_t length = passedOver(text, i);
+        if (length == 0 && text[i] == '@') {
+            length = 1;
+            while (i + length < text.size() && continuesName(text[i + length])) {
+                ++length;
+            }
+            const auto value = constants.find(small(text.substr(i, length)));
+            if (value != constants.end()) {
+                out += value->second;
+                i += length;
+                continue;
+            }
+        }
+        length = std::max<std::size_t>(length, 1);
+        out += text.substr(i, length);
+        i += length;
     }
     return out;
 }
 
-} // namespace
-
-ProcedureCall readProcedureCall(ByteReader& in) {
+ProcedureCall readCall(ByteReader& in) {
     static constexpr const char* kKnown[] = {nullptr,
                                              "sp_cursor",
                                              "sp_cursoropen",
@@ -195,24 +152,59 @@ ProcedureCall readProcedureCall(ByteReader& in) {
     if (length == 0xFFFF) {
         const std::uint16_t number = in.u16();
         if (number == 0 || number >= std::size(kKnown)) {
-            throw ProtocolError("unknown procedure number");
+            throw engine::errors::procedureMissing(std::to_string(number));
         }
         call.name = kKnown[number];
     } else {
         call.name = in.ucs2(length);
     }
-    in.u16();
-    while (in.left() > 0) {
-        call.arguments.push_back(readArgument(in));
+    in.u16(); // options: to compile anew, without the columns' descriptions
+    // Another call follows behind a mark, which as the length of a name would be too long.
+    constexpr std::uint8_t kLongestName = 0x7F;
+    while (in.left() > 0 && in.at(in.place(), 1)[0] <= kLongestName) {
+        call.parameters.push_back(readParameter(in, static_cast<int>(call.parameters.size()) + 1));
     }
     return call;
 }
 
-ProcedureText procedureText(const ProcedureCall& call, std::map<std::int32_t, std::string>& prepared,
-                            std::int32_t& last) {
-    const auto& arguments = call.arguments;
+} // namespace
+
+std::int32_t PreparedTexts::add(Prepared prepared) {
+    texts_[++last_] = std::move(prepared);
+    return last_;
+}
+
+const PreparedTexts::Prepared& PreparedTexts::at(std::int32_t handle) const {
+    const auto found = texts_.find(handle);
+    if (found == texts_.end()) {
+        throw kUnknownHandle(handle);
+    }
+    return found->second;
+}
+
+void PreparedTexts::remove(std::int32_t handle) {
+    at(handle);
+    texts_.erase(handle);
+}
+
+std::vector<ProcedureCall> readProcedureCalls(ByteReader& in) {
+    std::vector<ProcedureCall> calls{readCall(in)};
+    while (in.left() > 0) {
+        in.u8(); // the mark
+        if (in.left() > 0) {
+            calls.push_back(readCall(in));
+        }
+    }
+    return calls;
+}
+
+ProcedureText procedureText(const ProcedureCall& call, PreparedTexts& prepared) {
+    const auto values = [&](std::size_t first) {
+        const std::span all(call.parameters);
+        return all.subspan(std::min(first, all.size()));
+    };
     const auto text = [&](std::size_t place) {
-        return place < arguments.size() ? arguments[place].text : std::string();
+        return place < call.parameters.size() ? call.parameters[place].text : std::string();
     };
     const auto handle = [&] {
         std::int32_t number = 0;
@@ -220,26 +212,29 @@ ProcedureText procedureText(const ProcedureCall& call, std::map<std::int32_t, st
         std::from_chars(digits.data(), digits.data() + digits.size(), number);
         return number;
     };
+    const std::string name = small(call.name);
     ProcedureText result;
-    if (call.name == "sp_executesql") {
-        result.batch = filled(text(0), arguments, 2);
-    } else if (call.name == "sp_prepare" || call.name == "sp_prepexec") {
-        result.handle = ++last;
-        prepared[last] = text(2);
-        if (call.name == "sp_prepexec") {
-            result.batch = filled(text(2), arguments, 3);
-        }
-    } else if (call.name == "sp_execute") {
-        result.batch = filled(prepared[handle()], arguments, 1);
-    } else if (call.name == "sp_unprepare") {
-        prepared.erase(handle());
-    } else if (call.name.rfind("sp_cursor", 0) == 0 || call.name == "sp_prepexecrpc") {
-        result.unknown = true;
+    if (name == "sp_executesql") {
+        result.batch = filled(text(0), text(1), values(2));
+    } else if (name == "sp_prepare" || name == "sp_prepexec") {
+        result.handle = prepared.add({text(2), text(1)});
+        result.batch = name == "sp_prepexec" ? filled(text(2), text(1), values(3)) : "";
+    } else if (name == "sp_execute") {
+        const auto& found = prepared.at(handle());
+        result.batch = filled(found.text, found.declarations, values(1));
+    } else if (name == "sp_unprepare") {
+        prepared.remove(handle());
+    } else if (name.starts_with("sp_cursor") || name == "sp_prepexecrpc") {
+        throw engine::errors::procedureMissing(call.name);
     } else {
+        result.inside = DoneKind::Procedure;
         result.batch = "EXEC " + call.name;
-        for (const auto& argument : arguments) {
-            result.batch += (&argument == &arguments.front() ? " " : ", ") +
-                            (argument.name.empty() ? "" : argument.name + " = ") + argument.literal;
+        const char* before = " ";
+        for (const Parameter& parameter : call.parameters) {
+            if (!parameter.isDefault) {
+                result.batch += before + (parameter.name.empty() ? "" : parameter.name + " = ") + parameter.constant;
+                before = ", ";
+            }
         }
     }
     return result;

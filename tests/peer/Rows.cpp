@@ -1,8 +1,10 @@
 // The dialect's types in the protocol: how columns are described and values written.
 
+#include "peer/CodePage.h"
 #include "peer/Tokens.h"
 
 #include <algorithm>
+#include <array>
 #include <bit>
 #include <charconv>
 #include <cmath>
@@ -14,9 +16,7 @@ namespace {
 
 using Kind = engine::DataType::Kind;
 
-constexpr int kLongestCharacters = 4000;
 constexpr std::uint16_t kPartial = 0xFFFF; // "max": the value is sent in chunks
-constexpr std::uint8_t kNText = 0x63;
 
 int integerBytes(Kind kind) {
     switch (kind) {
@@ -35,8 +35,9 @@ int decimalBytes(int precision) {
     return precision <= 9 ? 5 : precision <= 19 ? 9 : precision <= 28 ? 13 : 17;
 }
 
+/// Whether a text or binary is sent as a "max" type.
 bool unlimited(const engine::DataType& type) {
-    return type.length < 0 || type.length > kLongestCharacters;
+    return type.length < 0 || type.length > (type.isNational() ? engine::kLongestNationalText : engine::kLongestText);
 }
 
 /// Days since 1900-01-01 and 1/300 seconds since midnight of `YYYY-MM-DD hh:mm:ss.mmm`.
@@ -59,44 +60,21 @@ WireDate wireDate(std::string_view text) {
     return {days, static_cast<std::uint32_t>((millis * 3 + 5) / 10)};
 }
 
-/// The digits of a decimal without point and sign.
-unsigned long long magnitude(std::string_view text, bool& negative) {
-    unsigned long long value = 0;
-    negative = false;
+/// The digits of a decimal without point and sign as a binary number, the lowest byte first.
+std::array<std::uint8_t, 16> magnitude(std::string_view text) {
+    std::array<std::uint8_t, 16> value{};
     for (const char c : text) {
-        if (c == '-') {
-            negative = true;
-        } else if (c >= '0' && c <= '9') {
-            value = value * 10 + static_cast<unsigned>(c - '0');
+        if (c < '0' || c > '9') {
+            continue;
+        }
+        unsigned carried = static_cast<unsigned>(c - '0');
+        for (std::uint8_t& byte : value) {
+            carried += byte * 10U;
+            byte = static_cast<std::uint8_t>(carried);
+            carried >>= 8;
         }
     }
     return value;
-}
-
-/// The text in the collation's code page, with "?" for characters that it doesn't have.
-std::string toCodePage(std::string_view text) {
-    static constexpr char16_t kUpper[32] = {0x20AC, 0,      0x201A, 0x0192, 0x201E, 0x2026, 0x2020, 0x2021,
-                                            0x02C6, 0x2030, 0x0160, 0x2039, 0x0152, 0,      0x017D, 0,
-                                            0,      0x2018, 0x2019, 0x201C, 0x201D, 0x2022, 0x2013, 0x2014,
-                                            0x02DC, 0x2122, 0x0161, 0x203A, 0x0153, 0,      0x017E, 0x0178};
-    std::string out;
-    for (const char16_t c : toUtf16(text)) {
-        const auto* upper = std::find(std::begin(kUpper), std::end(kUpper), c);
-        if (c < 0x80 || (c >= 0xA0 && c < 0x100)) {
-            out += static_cast<char>(c);
-        } else {
-            out += upper == std::end(kUpper) ? '?' : static_cast<char>(0x80 + (upper - std::begin(kUpper)));
-        }
-    }
-    return out;
-}
-
-/// Bytes after their length as two bytes.
-void writeNarrow(ByteWriter& out, bool null, const std::string& bytes) {
-    out.u16(null ? kPartial : static_cast<std::uint16_t>(bytes.size()));
-    for (const char byte : null ? std::string() : bytes) {
-        out.u8(static_cast<std::uint8_t>(byte));
-    }
 }
 
 } // namespace
@@ -126,30 +104,34 @@ void TokenWriter::typeInfo(const engine::DataType& type) {
     case Kind::DateTime:
         out_.u8(0x6F).u8(8);
         return;
-    case Kind::VarBinary:
-        out_.u8(0xA5).u16(static_cast<std::uint16_t>(unlimited(type) ? 8000 : std::max(1, type.length)));
-        return;
     case Kind::Char:
     case Kind::VarChar:
-        if (unlimited(type)) {
-            break;
-        }
-        out_.u8(type.kind == Kind::Char ? 0xAF : 0xA7).u16(static_cast<std::uint16_t>(std::max(1, type.length)));
-        out_.raw(kCollation);
-        return;
     case Kind::NChar:
     case Kind::NVarChar:
-        break;
+    case Kind::VarBinary:
+        textInfo(type);
+        return;
     }
-    if (!unlimited(type)) {
-        out_.u8(type.kind == Kind::NChar ? 0xEF : 0xE7)
-            .u16(static_cast<std::uint16_t>(std::max(1, type.length) * 2))
-            .raw(kCollation);
-    } else if (atLeast72()) {
-        out_.u8(0xE7).u16(kPartial).raw(kCollation);
-    } else {
-        out_.u8(kNText).u32(0x7FFFFFFE).raw(kCollation).longText("");
+}
+
+void TokenWriter::textInfo(const engine::DataType& type) {
+    const bool binary = type.kind == Kind::VarBinary;
+    const auto collated = [&] {
+        if (!binary) {
+            out_.raw(kCollation);
+        }
+    };
+    const bool padded = type.kind == Kind::Char || type.kind == Kind::NChar;
+    if (unlimited(type) && !atLeast72()) {
+        out_.u8(binary ? 0x22 : type.isNational() ? 0x63 : 0x23).u32(type.isNational() ? 0x7FFFFFFE : 0x7FFFFFFF);
+        collated();
+        out_.longText(""); // the table
+        return;
     }
+    out_.u8(binary ? 0xA5 : type.isNational() ? (padded ? 0xEF : 0xE7) : (padded ? 0xAF : 0xA7));
+    out_.u16(unlimited(type) ? kPartial
+                             : static_cast<std::uint16_t>(std::max(1, type.length) * (type.isNational() ? 2 : 1)));
+    collated();
 }
 
 void TokenWriter::value(const engine::ResultRow& row, int column, const engine::DataType& type) {
@@ -187,12 +169,10 @@ void TokenWriter::value(const engine::ResultRow& row, int column, const engine::
             return;
         }
         const int bytes = decimalBytes(type.precision);
-        bool negative = false;
-        unsigned long long digits = magnitude(row.text(column), negative);
-        out_.u8(static_cast<std::uint8_t>(bytes)).u8(negative ? 0 : 1);
-        for (int i = 1; i < bytes; ++i, digits = i <= 8 ? digits >> 8 : 0) {
-            out_.u8(static_cast<std::uint8_t>(digits));
-        }
+        const std::string_view text = row.text(column);
+        out_.u8(static_cast<std::uint8_t>(bytes)).u8(text.starts_with('-') ? 0 : 1);
+        const auto digits = magnitude(text);
+        out_.raw(std::span(digits).first(static_cast<std::size_t>(bytes - 1)));
         return;
     }
     case Kind::DateTime: {
@@ -204,42 +184,37 @@ void TokenWriter::value(const engine::ResultRow& row, int column, const engine::
         out_.u8(8).u32(static_cast<std::uint32_t>(date.days)).u32(date.ticks);
         return;
     }
-    case Kind::VarBinary:
-        writeNarrow(out_, null, std::string(row.text(column)));
-        return;
     case Kind::Char:
     case Kind::VarChar:
-        if (unlimited(type)) {
-            break;
-        }
-        writeNarrow(out_, null, toCodePage(row.text(column)));
-        return;
     case Kind::NChar:
     case Kind::NVarChar:
-        break;
+    case Kind::VarBinary:
+        textValue(null, row.text(column), type);
+        return;
     }
+}
 
-    const std::u16string wide = null ? std::u16string() : toUtf16(row.text(column));
-    const std::size_t bytes = wide.size() * 2;
+void TokenWriter::textValue(bool null, std::string_view text, const engine::DataType& type) {
+    ByteWriter value;
+    if (!null && type.isNational()) {
+        value.ucs2(text);
+    } else if (!null) {
+        const std::string bytes = type.kind == Kind::VarBinary ? std::string(text) : toCodePage(text);
+        value.raw({reinterpret_cast<const std::uint8_t*>(bytes.data()), bytes.size()});
+    }
+    const auto bytes = static_cast<std::uint32_t>(value.bytes.size());
     if (!unlimited(type)) {
-        out_.u16(null ? kPartial : static_cast<std::uint16_t>(bytes));
-    } else if (atLeast72()) {
-        out_.u64(null ? ~0ULL : bytes);
-        if (null) {
-            return;
-        }
-        if (bytes > 0) {
-            out_.u32(static_cast<std::uint32_t>(bytes));
-        }
+        out_.u16(null ? kPartial : static_cast<std::uint16_t>(bytes)).raw(value.bytes);
+    } else if (!atLeast72()) {
+        null ? out_.u8(0)
+             : out_.u8(16).raw(Bytes(24, 0)).u32(bytes).raw(value.bytes); // a text pointer and its time stamp first
     } else if (null) {
-        out_.u8(0);
+        out_.u64(~0ULL);
     } else {
-        out_.u8(16).raw(Bytes(24, 0)).u32(static_cast<std::uint32_t>(bytes)); // a text pointer and its time stamp
-    }
-    for (const char16_t c : wide) {
-        out_.u16(c);
-    }
-    if (unlimited(type) && atLeast72()) {
+        out_.u64(bytes);
+        if (bytes > 0) {
+            out_.u32(bytes).raw(value.bytes);
+        }
         out_.u32(0);
     }
 }

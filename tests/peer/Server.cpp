@@ -12,6 +12,7 @@
 #include <netinet/in.h>
 #include <netinet/tcp.h>
 #include <poll.h>
+#include <stdexcept>
 #include <string>
 #include <sys/socket.h>
 #include <system_error>
@@ -49,7 +50,7 @@ public:
                 continue;
             }
             if (count <= 0) {
-                throw ProtocolError("the client has gone");
+                throw std::runtime_error("the client has gone");
             }
             bytes = bytes.subspan(static_cast<std::size_t>(count));
         }

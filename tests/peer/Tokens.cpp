@@ -8,6 +8,34 @@ constexpr std::string_view kServerName = "PEER";
 
 } // namespace
 
+std::uint16_t commandOf(engine::Verb verb) {
+    switch (verb) {
+    case engine::Verb::Select:
+        return command::kSelect;
+    case engine::Verb::Insert:
+        return command::kInsert;
+    case engine::Verb::Update:
+        return command::kUpdate;
+    case engine::Verb::Delete:
+        return command::kDelete;
+    case engine::Verb::CreateTable:
+        return command::kCreateTable;
+    case engine::Verb::SetOption:
+        return command::kSet;
+    case engine::Verb::Execute:
+        return command::kExecute;
+    case engine::Verb::Begin:
+        return command::kBegin;
+    case engine::Verb::Commit:
+        return command::kCommit;
+    case engine::Verb::Rollback:
+        return command::kRollback;
+    case engine::Verb::Other:
+        break;
+    }
+    return command::kNone;
+}
+
 void TokenWriter::loginAcknowledged() {
     ByteWriter body;
     body.u8(1);
@@ -78,27 +106,24 @@ void TokenWriter::row(const engine::ResultRow& row, std::span<const engine::Resu
     }
 }
 
-void TokenWriter::doneToken(std::uint8_t token, std::uint16_t status, std::uint64_t rows) {
-    out_.u8(token).u16(status).u16(0xC1);
+void TokenWriter::connectionReset() {
+    change(18, ByteWriter().u8(0), ByteWriter().u8(0));
+}
+
+void TokenWriter::done(DoneKind kind, std::uint16_t status, std::uint16_t command, std::uint64_t rows) {
+    out_.u8(static_cast<std::uint8_t>(kind)).u16(status).u16(command);
     atLeast72() ? out_.u64(rows) : out_.u32(static_cast<std::uint32_t>(rows));
-}
-
-void TokenWriter::statementDone(std::uint16_t status, std::uint64_t rows) {
-    doneToken(0xFD, status, rows);
-}
-
-void TokenWriter::procedureDone(std::uint16_t status) {
-    doneToken(0xFE, status, 0);
 }
 
 void TokenWriter::returnStatus(std::int32_t status) {
     out_.u8(0x79).u32(static_cast<std::uint32_t>(status));
 }
 
-void TokenWriter::returnValue(std::string_view name, std::int32_t value) {
-    out_.u8(0xAC).u16(0).shortText(name).u8(1);
+void TokenWriter::returnValue(std::uint16_t ordinal, std::string_view name, std::span<const std::uint8_t> typed) {
+    constexpr std::uint8_t kOutputParameter = 1;
+    out_.u8(0xAC).u16(ordinal).shortText(name).u8(kOutputParameter);
     atLeast72() ? out_.u32(0) : out_.u16(0);
-    out_.u16(0).u8(0x26).u8(4).u8(4).u32(static_cast<std::uint32_t>(value));
+    out_.u16(0).raw(typed);
 }
 
 } // namespace peer

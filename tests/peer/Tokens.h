@@ -19,6 +19,19 @@ namespace done {
 inline constexpr std::uint16_t kFinal = 0x00, kMore = 0x01, kError = 0x02, kCount = 0x10, kAttention = 0x20;
 } // namespace done
 
+/// The token that tells the end of a statement, of a procedure, or of a statement inside a procedure.
+enum class DoneKind : std::uint8_t { Statement = 0xFD, Procedure = 0xFE, InProcedure = 0xFF };
+
+/// What the end of a statement names as its command.
+namespace command {
+inline constexpr std::uint16_t kNone = 0, kSelect = 0xC1, kInsert = 0xC3, kDelete = 0xC4, kUpdate = 0xC5,
+                               kCreateTable = 0xC6, kRollback = 0xD2, kBegin = 0xD4, kCommit = 0xD5, kExecute = 0xE0,
+                               kSet = 0xF9;
+} // namespace command
+
+/// The command of a kind of statement.
+std::uint16_t commandOf(engine::Verb verb);
+
 class TokenWriter {
 public:
     explicit TokenWriter(std::uint32_t version) : version_(version) {}
@@ -36,11 +49,12 @@ public:
     void message(int number, std::string_view text);
     void columns(std::span<const engine::ResultColumn> columns);
     void row(const engine::ResultRow& row, std::span<const engine::ResultColumn> columns);
-    void statementDone(std::uint16_t status, std::uint64_t rows);
-    void procedureDone(std::uint16_t status);
+    void connectionReset();
+    /// DONE, DONEPROC and DONEINPROC.
+    void done(DoneKind kind, std::uint16_t status, std::uint16_t command, std::uint64_t rows);
     void returnStatus(std::int32_t status);
-    /// An integer output value of a procedure, the handle of a prepared statement.
-    void returnValue(std::string_view name, std::int32_t value);
+    /// A parameter given by reference; `typed` is type and value, `ordinal` its place in the call.
+    void returnValue(std::uint16_t ordinal, std::string_view name, std::span<const std::uint8_t> typed);
 
 private:
     bool atLeast72() const { return version_ >= 0x72000000; }
@@ -48,7 +62,8 @@ private:
     void change(std::uint8_t type, const ByteWriter& now, const ByteWriter& before);
     void typeInfo(const engine::DataType& type);
     void value(const engine::ResultRow& row, int column, const engine::DataType& type);
-    void doneToken(std::uint8_t token, std::uint16_t status, std::uint64_t rows);
+    void textInfo(const engine::DataType& type);
+    void textValue(bool null, std::string_view text, const engine::DataType& type);
 
     std::uint32_t version_;
     ByteWriter out_;

@@ -85,7 +85,7 @@ private:
     void unify(bound::Select& result, bound::Core& core, const std::vector<ResultColumn>& columns);
 
     // BinderGrouping.cpp
-    void checkGrouping(const bound::Core& core, const std::vector<bound::Order>& orderBy) const;
+    void checkGrouping(const bound::Core& core, const std::vector<bound::Order>& orderBy);
     bool refersTo(const Scope& scope, const bound::Expression& expression) const;
     Scope& ownerOf(const bound::Call& aggregate, Scope& here) const;
 
@@ -142,7 +142,8 @@ private:
 };
 
 /// Whether two expressions are written alike, but for the values of their literals.
-bool sameExpression(const bound::Expression& left, const bound::Expression& right);
+bool sameExpression(const bound::Expression& left, const bound::Expression& right,
+                    std::vector<bound::Parameter>& parameters);
 /// The type of the result where two types meet, by the server's precedence.
 DataType commonType(const DataType& left, const DataType& right);
 

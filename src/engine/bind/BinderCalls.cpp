@@ -29,8 +29,15 @@ DataType resultType(Result result, const std::vector<bound::ExpressionPtr>& argu
         return {Kind::DateTime, 0, 0, 0};
     case Result::SystemName:
         return {Kind::NVarChar, kSystemNameLength, 0, 0};
-    case Result::LongText:
-        return {Kind::VarChar, longestText({Kind::VarChar, 0, 0, 0}), 0, 0};
+    case Result::LongText: {
+        DataType type{Kind::VarChar, 0, 0, 0};
+        for (const bound::ExpressionPtr& argument : arguments) {
+            type.kind = argument->type.isNational() ? Kind::NVarChar : type.kind;
+        }
+        const DataType& first = arguments.front()->type;
+        type.length = first.isText() && first.length < 0 ? -1 : longestText(type);
+        return type;
+    }
     case Result::AsFirst:
     case Result::AsFirstBeyond:
         return arguments.front()->type;
@@ -226,6 +233,9 @@ bound::ExpressionPtr Binder::builtIn(const Call& call) {
     const DataType type = resultType(row->result, arguments);
     auto result = bound::callOf(storageName(*row), type, std::move(arguments));
     if (row->result == Result::LongText) {
+        if (type.length < 0 && row->name == std::string_view("REPLICATE")) {
+            throw errors::argumentType(typeName(type) + "(max)", 1, "replicate"); // it could be of any length
+        }
         result->type.length = -1;
         return convertTo(std::move(result), type, Purpose::Cast);
     }

@@ -285,17 +285,18 @@ bound::ExpressionPtr Binder::escape(const Expression& written) {
 }
 
 bound::ExpressionPtr Binder::node(const Like& like) {
-    const DataType text{Kind::NVarChar, -1, 0, 0};
+    const DataType text{Kind::VarChar, -1, 0, 0};
     const auto asText = [&](const Expression& part) {
         auto bound = expression(part);
         return bound->type.isText() ? std::move(bound) : convertTo(std::move(bound), text, Purpose::Cast);
     };
     auto operand = asText(*like.operand);
     auto pattern = asText(*like.pattern);
-    auto result = like.escape
-                      ? bound::call(operators::kLike, DataType{Kind::Bit}, std::move(operand), std::move(pattern),
-                                    escape(*like.escape))
-                      : bound::call(operators::kLike, DataType{Kind::Bit}, std::move(operand), std::move(pattern));
+    const char* function =
+        operand->type.isNational() || pattern->type.isNational() ? operators::kLikeNational : operators::kLike;
+    auto result = like.escape ? bound::call(function, DataType{Kind::Bit}, std::move(operand), std::move(pattern),
+                                            escape(*like.escape))
+                              : bound::call(function, DataType{Kind::Bit}, std::move(operand), std::move(pattern));
     return negatedIf(like.negated, std::move(result));
 }
 
@@ -376,6 +377,9 @@ bound::ExpressionPtr Binder::node(const Case& choice) {
         result.otherwise = expression(*choice.otherwise);
         common = commonType(common, result.otherwise->type);
         result.otherwise = convertTo(std::move(result.otherwise), common, Purpose::Cast);
+    }
+    if (common.kind == Kind::Unknown) {
+        throw errors::caseOfNulls();
     }
     for (auto& branch : result.branches) {
         branch.then = convertTo(std::move(branch.then), common, Purpose::Cast);

@@ -14,26 +14,37 @@ const Expression* bare(const Expression& expression) {
     return operation != nullptr && operation->op == "COLLATE TSQL" ? operation->operands.front().get() : &expression;
 }
 
-bool bothParameters(const Expression& left, const Expression& right) {
-    return std::holds_alternative<bound::ParameterUse>(left.node) &&
-           std::holds_alternative<bound::ParameterUse>(right.node);
+using Parameters = std::vector<bound::Parameter>;
+
+/// Two literals that are written alike.
+bool sameParameter(const Expression& left, const Expression& right, Parameters& parameters) {
+    const auto* a = std::get_if<bound::ParameterUse>(&left.node);
+    const auto* b = std::get_if<bound::ParameterUse>(&right.node);
+    if (a == nullptr || b == nullptr) {
+        return false;
+    }
+    bound::Parameter& first = parameters[static_cast<std::size_t>(a->place)];
+    bound::Parameter& second = parameters[static_cast<std::size_t>(b->place)];
+    first.valueMatters = second.valueMatters = true;
+    return first.constant.text == second.constant.text && first.negated == second.negated;
 }
 
-bool sameAll(const std::vector<bound::ExpressionPtr>& left, const std::vector<bound::ExpressionPtr>& right) {
+bool sameAll(const std::vector<bound::ExpressionPtr>& left, const std::vector<bound::ExpressionPtr>& right,
+             Parameters& parameters) {
     return std::equal(left.begin(), left.end(), right.begin(), right.end(),
-                      [](const bound::ExpressionPtr& a, const bound::ExpressionPtr& b) {
-                          return sameExpression(*a, *b) || bothParameters(*a, *b);
+                      [&](const bound::ExpressionPtr& a, const bound::ExpressionPtr& b) {
+                          return sameExpression(*a, *b, parameters) || sameParameter(*a, *b, parameters);
                       });
 }
 
-bool sameShape(const Expression& left, const Expression& right) {
+bool sameShape(const Expression& left, const Expression& right, Parameters& parameters) {
     if (const auto* call = std::get_if<bound::Call>(&left.node)) {
         const auto& other = std::get<bound::Call>(right.node);
-        return call->function == other.function && sameAll(call->arguments, other.arguments);
+        return call->function == other.function && sameAll(call->arguments, other.arguments, parameters);
     }
     if (const auto* operation = std::get_if<bound::Operation>(&left.node)) {
         const auto& other = std::get<bound::Operation>(right.node);
-        return operation->op == other.op && sameAll(operation->operands, other.operands);
+        return operation->op == other.op && sameAll(operation->operands, other.operands, parameters);
     }
     if (const auto* constant = std::get_if<bound::Constant>(&left.node)) {
         return constant->text == std::get<bound::Constant>(right.node).text;
@@ -44,7 +55,8 @@ bool sameShape(const Expression& left, const Expression& right) {
 /// Finds a column of this core outside of every aggregate and every grouped expression.
 class LooseColumn {
 public:
-    LooseColumn(const bound::Core& core, const std::vector<int>& tables) : core_(core), tables_(tables) {}
+    LooseColumn(const bound::Core& core, const std::vector<int>& tables, Parameters& parameters)
+        : core_(core), tables_(tables), parameters_(parameters) {}
 
     const Expression* in(const Expression& expression) const {
         if (grouped(expression)) {
@@ -57,8 +69,9 @@ private:
     using Pointer = bound::ExpressionPtr;
 
     bool grouped(const Expression& expression) const {
-        return std::any_of(core_.groupBy.begin(), core_.groupBy.end(),
-                           [&](const Pointer& group) { return sameExpression(*bare(*group), *bare(expression)); });
+        return std::any_of(core_.groupBy.begin(), core_.groupBy.end(), [&](const Pointer& group) {
+            return sameExpression(*bare(*group), *bare(expression), parameters_);
+        });
     }
 
     const Expression* first(const std::vector<Pointer>& expressions) const {
@@ -103,6 +116,7 @@ private:
 
     const bound::Core& core_;
     const std::vector<int>& tables_;
+    Parameters& parameters_;
 };
 
 template<class Tables>
@@ -116,9 +130,9 @@ std::vector<int> numbersOf(const Tables& tables) {
 
 } // namespace
 
-void Binder::checkGrouping(const bound::Core& core, const std::vector<bound::Order>& orderBy) const {
+void Binder::checkGrouping(const bound::Core& core, const std::vector<bound::Order>& orderBy) {
     const std::vector<int> tables = numbersOf(scope_->tables);
-    const LooseColumn loose(core, tables);
+    const LooseColumn loose(core, tables, parameters_);
     const auto check = [&](const bound::ExpressionPtr& expression, const auto& refused) {
         const bound::Expression* found = expression ? loose.in(*expression) : nullptr;
         if (found == nullptr) {
@@ -138,21 +152,23 @@ void Binder::checkGrouping(const bound::Core& core, const std::vector<bound::Ord
     }
 }
 
-bool sameExpression(const bound::Expression& left, const bound::Expression& right) {
+bool sameExpression(const bound::Expression& left, const bound::Expression& right,
+                    std::vector<bound::Parameter>& parameters) {
     const auto* a = std::get_if<bound::Column>(&left.node);
     const auto* b = std::get_if<bound::Column>(&right.node);
     if (a != nullptr && b != nullptr) {
         return a->source == b->source && a->column == b->column;
     }
-    // An expression written twice has other parameters each time, so only the shapes can be compared.
+    // An expression written twice has other parameters each time.
     return left.node.index() == right.node.index() && a == nullptr && b == nullptr && left.type == right.type &&
-           !std::holds_alternative<bound::ParameterUse>(left.node) && sameShape(left, right);
+           !std::holds_alternative<bound::ParameterUse>(left.node) && sameShape(left, right, parameters);
 }
 
 bool Binder::refersTo(const Scope& scope, const bound::Expression& expression) const {
     const std::vector<int> tables = numbersOf(scope.tables);
     const bound::Core none;
-    return LooseColumn(none, tables).in(expression) != nullptr;
+    Parameters unused; // without a grouping nothing is compared
+    return LooseColumn(none, tables, unused).in(expression) != nullptr;
 }
 
 /// An aggregate over columns of an outer SELECT belongs to that SELECT, one without columns to the SELECT around it.

@@ -74,7 +74,9 @@ bound::Select Binder::select(const Select& select, Scope* parent) {
     }
     bound::Core& last = result.cores.back();
     for (const bound::Order& order : result.orderBy) {
-        const auto isIt = [&](const bound::ExpressionPtr& item) { return sameExpression(*item, *order.expression); };
+        const auto isIt = [&](const bound::ExpressionPtr& item) {
+            return sameExpression(*item, *order.expression, parameters_);
+        };
         if (last.distinct && order.expression && std::none_of(last.items.begin(), last.items.end(), isIt)) {
             throw errors::orderNotDistinct();
         }

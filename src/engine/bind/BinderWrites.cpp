@@ -70,6 +70,9 @@ std::vector<const ColumnInfo*> Binder::insertColumns(const Insert& insert, const
     if (explicitIdentity && !takesIdentity) {
         throw errors::explicitIdentity(info.name);
     }
+    if (explicitIdentity && insert.columns.empty()) {
+        throw errors::identityWithoutList(info.name);
+    }
     if (!explicitIdentity && takesIdentity && info.identity() != nullptr) {
         throw errors::identityValueMissing(info.name);
     }

@@ -37,6 +37,8 @@ struct Parameter {
     ConversionRequest conversion;
     /// Its number of digits decides the type of an expression around it: other digits need another plan.
     bool digitsMatter = false;
+    /// It was compared with another one: a run in which they differ needs another plan.
+    bool valueMatters = false;
 };
 
 /// A parameter by its place in the binder's list, counted from 0.

@@ -90,7 +90,7 @@ inline constexpr ErrorText<Text> identityValueMissing{
     "IDENTITY_INSERT is set to ON or when a replication user is inserting into a NOT FOR "
     "REPLICATION identity column."};
 inline constexpr ErrorText<Text, Text> sameExposedName{
-    1011, Reach::Batch,
+    1013, Reach::Batch,
     "The objects \"{first}\" and \"{second}\" in the FROM clause have the same exposed "
     "names. Use correlation names to distinguish them."};
 inline constexpr PlacedErrorText<int, Text> invalidParameter{1023, Reach::Batch,
@@ -109,6 +109,10 @@ inline constexpr ErrorText<> nullIfOfNull{
     4151, Reach::Batch,
     "The type of the first argument to NULLIF cannot be the NULL constant because the type of "
     "the first argument has to be known."};
+inline constexpr ErrorText<Text> identityWithoutList{
+    8101, Reach::Batch,
+    "An explicit value for the identity column in table '{table}' can only be specified when a column list is used and "
+    "IDENTITY_INSERT is ON."};
 inline constexpr ErrorText<Text> updateIdentity{8102, Reach::Batch, "Cannot update identity column '{column}'."};
 inline constexpr ErrorText<Text, int, Text> argumentType{
     8116, Reach::Batch, "Argument data type {type} is invalid for argument {place} of {function} function."};
@@ -131,6 +135,10 @@ inline constexpr ErrorText<Text> notGroupedInOrder{
     8127, Reach::Batch,
     "Column \"{column}\" is invalid in the ORDER BY clause because it is not contained in "
     "either an aggregate function or the GROUP BY clause."};
+inline constexpr ErrorText<> caseOfNulls{
+    8133, Reach::Batch,
+    "At least one of the result expressions in a CASE specification must be an expression other than the NULL "
+    "constant."};
 inline constexpr ErrorText<int, Text> columnWithoutName{
     8155, Reach::Batch, "No column name was specified for column {place} of '{table}'."};
 inline constexpr ErrorText<Text, Text> columnNamedTwice{

@@ -40,6 +40,10 @@ inline constexpr ErrorText<Text> unknownLanguage{
 inline constexpr ErrorText<Text> invalidDateOrder{2741, Reach::Statement,
                                                   "SET DATEFORMAT date order '{order}' is invalid."};
 inline constexpr ErrorText<Text> dateFirstOutOfRange{2742, Reach::Statement, "SET DATEFIRST {number} is out of range."};
+inline constexpr ErrorText<Text> identityType{
+    2749, Reach::Statement,
+    "Identity column '{column}' must be of data type int, bigint, smallint, tinyint, or decimal or numeric with a scale "
+    "of 0, and constrained to be nonnullable."};
 inline constexpr ErrorText<Text, Text> indexOfConstraint{
     3723, Reach::Statement,
     "An explicit DROP INDEX is not allowed on index '{index}'. It is being used for "
@@ -65,6 +69,8 @@ inline constexpr ErrorText<Text, Text> identityInsertBusy{
     "table '{table}'."};
 
 /// The words of nullableKey, for a column that the table has already.
+inline constexpr ErrorText<Text> severalPrimaryKeys{8110, Reach::Batch,
+                                                    "Cannot add multiple PRIMARY KEY constraints to table '{table}'."};
 inline constexpr ErrorText<Text> nullableColumnOfKey{8111, Reach::Statement, nullableKey.words()};
 /// What a server offers and this one doesn't, in the words in which a server of another edition refuses.
 inline constexpr ErrorText<Text> notSupported{

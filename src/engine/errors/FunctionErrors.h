@@ -18,8 +18,10 @@ inline constexpr ErrorText<> dateDifferenceOverflow{
     535, Reach::Statement,
     "The datediff function resulted in an overflow. The number of dateparts separating two "
     "date/time instances is too large. Try to use datediff with a less precise datepart."};
-inline constexpr ErrorText<Text> invalidLengthParameter{537, Reach::Batch,
-                                                        "Invalid length parameter passed to the {function} function."};
+inline constexpr ErrorText<> invalidLengthOfRight{536, Reach::Batch,
+                                                  "Invalid length parameter passed to the RIGHT function."};
+inline constexpr ErrorText<> invalidLengthOfPart{537, Reach::Batch,
+                                                 "Invalid length parameter passed to the LEFT or SUBSTRING function."};
 inline constexpr ErrorText<> divideByZero{8134, Reach::Statement, "Divide by zero error encountered."};
 
 } // namespace engine::errors

@@ -37,6 +37,10 @@ inline constexpr ErrorText<Text> systemDatabase{
     3708, Reach::Statement, "Cannot drop the database '{database}' because it is a system database."};
 inline constexpr ErrorText<Text> readOnlyDatabase{
     3906, Reach::Statement, "Failed to update database \"{database}\" because the database is read-only."};
+inline constexpr ErrorText<> cancelled{
+    3980, Reach::Batch,
+    "The request failed to run because the batch is aborted, this can be caused by abort signal sent from client, or "
+    "another request is running in the same session, which makes the session busy."};
 inline constexpr ErrorText<Text, Text> directoryLookup{
     5133, Reach::Statement,
     "Directory lookup for the file \"{file}\" failed with the operating system error "

@@ -77,6 +77,7 @@ void call(sqlite3_context* context, int count, sqlite3_value** values) {
     }
 }
 
+template<bool blanksCount>
 void callLike(sqlite3_context* context, int count, sqlite3_value** values) {
     for (int i = 0; i < count; ++i) {
         if (sqlite3_value_type(values[i]) == SQLITE_NULL) {
@@ -87,7 +88,7 @@ void callLike(sqlite3_context* context, int count, sqlite3_value** values) {
         const auto* data = reinterpret_cast<const char*>(sqlite3_value_text(values[place]));
         return std::string_view(data, static_cast<std::size_t>(sqlite3_value_bytes(values[place])));
     };
-    sqlite3_result_int(context, like(text(0), text(1), count > 2 ? text(2) : std::string_view()) ? 1 : 0);
+    sqlite3_result_int(context, like(text(0), text(1), count > 2 ? text(2) : std::string_view(), blanksCount) ? 1 : 0);
 }
 
 /// Returns its argument. The storage doesn't take the result of a call for a constant.
@@ -163,7 +164,8 @@ void registerFunctions(sqlite::Connection& connection, FunctionContext& context)
     }
     addPlain(connection, operators::kLiteral, 1, 0, callLiteral);
     for (const int arguments : {2, 3}) {
-        addPlain(connection, operators::kLike, arguments, SQLITE_DETERMINISTIC, callLike);
+        addPlain(connection, operators::kLike, arguments, SQLITE_DETERMINISTIC, callLike<false>);
+        addPlain(connection, operators::kLikeNational, arguments, SQLITE_DETERMINISTIC, callLike<true>);
     }
 }
 

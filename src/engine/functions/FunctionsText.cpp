@@ -36,9 +36,9 @@ std::string slice(const std::string& text, std::int64_t first, std::int64_t last
     return text.substr(begin, offsets[static_cast<std::size_t>(last)] - begin);
 }
 
-void refuseNegative(std::int64_t length, const char* function) {
+void refuseNegative(std::int64_t length, const errors::ErrorText<>& refused) {
     if (length < 0) {
-        throw errors::invalidLengthParameter(function);
+        throw refused();
     }
 }
 
@@ -65,18 +65,18 @@ Scalar rightTrim(FunctionContext& /*context*/, Arguments arguments) {
 }
 
 Scalar leftPart(FunctionContext& /*context*/, Arguments arguments) {
-    refuseNegative(integerAt(arguments, 1), "LEFT");
+    refuseNegative(integerAt(arguments, 1), errors::invalidLengthOfPart);
     return slice(textAt(arguments, 0), 0, integerAt(arguments, 1));
 }
 
 Scalar rightPart(FunctionContext& /*context*/, Arguments arguments) {
-    refuseNegative(integerAt(arguments, 1), "RIGHT");
+    refuseNegative(integerAt(arguments, 1), errors::invalidLengthOfRight);
     const auto size = static_cast<std::int64_t>(characters(textAt(arguments, 0)));
     return slice(textAt(arguments, 0), size - integerAt(arguments, 1), size);
 }
 
 Scalar substring(FunctionContext& /*context*/, Arguments arguments) {
-    refuseNegative(integerAt(arguments, 2), "SUBSTRING");
+    refuseNegative(integerAt(arguments, 2), errors::invalidLengthOfPart);
     const std::int64_t first = integerAt(arguments, 1) - 1;
     return slice(textAt(arguments, 0), first, first + integerAt(arguments, 2));
 }
@@ -137,8 +137,9 @@ Scalar replicated(const std::string& text, std::int64_t times) {
     if (times < 0) {
         return {};
     }
+    constexpr std::size_t kMostBytes = std::size_t{4} * kLongestText; // what is too long is cut to its type later
     std::string result;
-    while (times-- > 0 && !text.empty() && result.size() + text.size() <= static_cast<std::size_t>(kLongestText)) {
+    while (times-- > 0 && !text.empty() && result.size() + text.size() <= kMostBytes) {
         result += text;
     }
     return result;

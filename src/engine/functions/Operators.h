@@ -15,10 +15,11 @@ constexpr const char* kDivide = "tsql_divide";   ///< dividend, divisor, 1 where
 constexpr const char* kFloat = "tsql_float";     ///< a sum or product of floats, refused where infinite
 /// The average of integers; no function of the storage, but written by the translator as a sum over a count.
 constexpr const char* kIntegerAverage = "tsql_avg_int";
-constexpr const char* kLike = "tsql_like";                 ///< text, pattern, perhaps the escape character
-constexpr const char* kLiteral = "tsql_literal";           ///< its argument, which the storage takes for no constant
-constexpr const char* kModulo = "tsql_modulo";             ///< dividend, divisor
-constexpr const char* kTooManyRows = "tsql_too_many_rows"; ///< error 512
+constexpr const char* kLikeNational = "tsql_like_national"; ///< of national texts, whose last blanks count
+constexpr const char* kLike = "tsql_like";                  ///< text, pattern, perhaps the escape character
+constexpr const char* kLiteral = "tsql_literal";            ///< its argument, which the storage takes for no constant
+constexpr const char* kModulo = "tsql_modulo";              ///< dividend, divisor
+constexpr const char* kTooManyRows = "tsql_too_many_rows";  ///< error 512
 } // namespace operators
 
 struct OperatorRow {

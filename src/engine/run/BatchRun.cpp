@@ -16,7 +16,7 @@ namespace engine {
 namespace {
 
 /// Errors that end the open transaction together with the batch.
-constexpr std::array kConversionErrors = {241, 242, 245, 248, 8114, 8115, 517, 537};
+constexpr std::array kConversionErrors = {241, 242, 245, 248, 8114, 8115, 517, 536, 537};
 
 /// SET IMPLICIT_TRANSACTIONS: what begins a transaction.
 template<class Node>
@@ -26,6 +26,41 @@ bool touchesTable(const Node& node) {
     } else {
         return kKindOf<Node>.writes;
     }
+}
+
+Verb verbOf(const Statement& statement) {
+    return std::visit(
+        [](const auto& node) {
+            using Node = std::remove_cvref_t<decltype(node)>;
+            if constexpr (std::is_same_v<Node, Transaction>) {
+                return node.kind == Transaction::Kind::Begin    ? Verb::Begin
+                       : node.kind == Transaction::Kind::Commit ? Verb::Commit
+                                                                : Verb::Rollback;
+            }
+            return std::is_same_v<Node, Select>        ? Verb::Select
+                   : std::is_same_v<Node, Insert>      ? Verb::Insert
+                   : std::is_same_v<Node, Update>      ? Verb::Update
+                   : std::is_same_v<Node, Delete>      ? Verb::Delete
+                   : std::is_same_v<Node, CreateTable> ? Verb::CreateTable
+                   : std::is_same_v<Node, SetOption>   ? Verb::SetOption
+                   : std::is_same_v<Node, Execute>     ? Verb::Execute
+                                                       : Verb::Other;
+        },
+        statement.node);
+}
+
+Verb verbOf(Plan::Kind kind) {
+    switch (kind) {
+    case Plan::Kind::Insert:
+        return Verb::Insert;
+    case Plan::Kind::Update:
+        return Verb::Update;
+    case Plan::Kind::Delete:
+        return Verb::Delete;
+    case Plan::Kind::Select:
+        break;
+    }
+    return Verb::Select;
 }
 
 /// Names are looked up before the first statement runs, as far as they can be. False where what the batch makes itself,
@@ -102,6 +137,7 @@ bool BatchRun::runNext() {
         checkAll(*session_, tree_.statements);
     }
     if (const PlanPtr plan = std::exchange(ready_, nullptr)) {
+        verb_ = verbOf(plan->kind);
         session_->prepareFor(session_->current(), plan->writes());
         try {
             show(runPlan(*session_, plan, {&shape_->literals, session_->settings.dateOrder}));
@@ -115,6 +151,7 @@ bool BatchRun::runNext() {
     while (!shown && !pending_.empty()) {
         const Statement& statement = *pending_.back();
         pending_.pop_back();
+        verb_ = verbOf(statement);
         std::visit(
             [&](const auto& node) {
                 constexpr StatementKind kKind = kKindOf<decltype(node)>;

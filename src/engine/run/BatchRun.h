@@ -21,6 +21,7 @@ public:
     ~BatchRun() override;
 
     bool nextResult() override;
+    Verb verb() const override { return verb_; }
     bool hasRows() const override { return outcome_.rows != nullptr; }
     const std::vector<ResultColumn>& columns() const override;
     std::int64_t affected() const override;
@@ -52,6 +53,7 @@ private:
     std::vector<const Statement*> pending_; ///< the next one last
     bool checked_ = false;
 
+    Verb verb_ = Verb::Other;
     Outcome outcome_;
     std::vector<Message> messages_;
 };

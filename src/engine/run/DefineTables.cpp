@@ -64,6 +64,11 @@ void addColumn(Catalog& catalog, TableInfo& table, const ColumnDefinition& defin
     if (definition.identity && table.identity() != nullptr) {
         throw errors::severalIdentities(table.name);
     }
+    const DataType& type = definition.type;
+    if (definition.identity && (type.kind == DataType::Kind::Bit || type.scale != 0 ||
+                                !(type.isInteger() || type.kind == DataType::Kind::Decimal))) {
+        throw errors::identityType(definition.name);
+    }
     if (!definition.defaultName.empty() && isObject(catalog, table, definition.defaultName)) {
         throw errors::objectExists(definition.defaultName);
     }
@@ -189,6 +194,9 @@ void define(ServerSession& session, const CreateTable& create) {
     if (table.name.starts_with('#')) {
         throw errors::notSupported("CREATE TABLE " + table.name); // it would have to be the session's own
     }
+    if (isElsewhere(session, create.table)) {
+        throw errors::notSupported("CREATE TABLE in another database or schema");
+    }
     if (database.catalog().table(table.name) != nullptr) {
         throw errors::objectExists(table.name);
     }
@@ -196,6 +204,9 @@ void define(ServerSession& session, const CreateTable& create) {
         addColumn(database.catalog(), table, definition);
     }
     for (const KeyDefinition& definition : create.keys) {
+        if (definition.kind == KeyDefinition::Kind::Primary && table.primaryKey() != nullptr) {
+            throw errors::severalPrimaryKeys(table.name);
+        }
         table.keys.push_back(keyOf(database.catalog(), table, definition));
     }
     changeSchema(session, &table, [&] {

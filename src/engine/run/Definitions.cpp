@@ -5,13 +5,17 @@
 
 namespace engine {
 
-const TableInfo* definedTable(ServerSession& session, const Name& name) {
+bool isElsewhere(const ServerSession& session, const Name& name) {
     const std::size_t pieces = name.pieces.size();
     const bool elsewhere =
         pieces > 2 && !name.pieces[pieces - 3].empty() && !sameText(name.pieces[pieces - 3], session.database());
     const bool otherSchema =
         pieces > 1 && !name.pieces[pieces - 2].empty() && !sameText(name.pieces[pieces - 2], "dbo");
-    return elsewhere || otherSchema ? nullptr : session.current().catalog().table(name.last());
+    return elsewhere || otherSchema;
+}
+
+const TableInfo* definedTable(ServerSession& session, const Name& name) {
+    return isElsewhere(session, name) ? nullptr : session.current().catalog().table(name.last());
 }
 
 std::string storedIndex(Database& database, const TableInfo& table, const std::string& index) {

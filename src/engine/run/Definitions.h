@@ -28,6 +28,9 @@ void changeSchema(ServerSession& session, const TableInfo* table, const Change& 
     database.cache().clear();
 }
 
+/// Whether a name is one of another database or schema.
+bool isElsewhere(const ServerSession& session, const Name& name);
+
 /// The table of this session's database that a definition is about; nullptr where there is none.
 const TableInfo* definedTable(ServerSession& session, const Name& name);
 

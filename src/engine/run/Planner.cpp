@@ -164,7 +164,7 @@ void fixLiterals(Plan& plan, const Shape& shape) {
             if (parameter.source != bound::Parameter::Source::Literal) {
                 continue;
             }
-            free[static_cast<std::size_t>(parameter.ordinal)] = true;
+            free[static_cast<std::size_t>(parameter.ordinal)] = !parameter.valueMatters;
             if (parameter.digitsMatter) {
                 plan.fixedDigits.emplace_back(parameter.ordinal, decimalOf(parameter.constant));
             }

@@ -20,6 +20,9 @@ struct Message {
     std::string text;
 };
 
+/// What a client is told of the statement that gave a result.
+enum class Verb { Other, Select, Insert, Update, Delete, CreateTable, SetOption, Execute, Begin, Commit, Rollback };
+
 /// The present row of a result.
 class ResultRow {
 public:
@@ -43,6 +46,8 @@ public:
     /// Runs on to the next statement. False at the end of the batch. Throws engine::Error when the statement failed;
     /// the next call goes on behind it where the error's reach is the statement.
     virtual bool nextResult() = 0;
+    /// Of the present result, or of the statement that failed.
+    virtual Verb verb() const = 0;
     /// Whether the present result has columns.
     virtual bool hasRows() const = 0;
     virtual const std::vector<ResultColumn>& columns() const = 0;

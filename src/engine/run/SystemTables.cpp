@@ -79,6 +79,27 @@ Rows tables(Database& database, const Instance& /*instance*/) {
     return rows;
 }
 
+Scalar precisionOf(const DataType& type) {
+    switch (type.kind) {
+    case Kind::TinyInt:
+        return std::int64_t{3};
+    case Kind::SmallInt:
+        return std::int64_t{5};
+    case Kind::Int:
+        return std::int64_t{10};
+    case Kind::BigInt:
+        return std::int64_t{19};
+    case Kind::Real:
+        return std::int64_t{24};
+    case Kind::Float:
+        return std::int64_t{53};
+    case Kind::Decimal:
+        return std::int64_t{type.precision};
+    default:
+        return {};
+    }
+}
+
 Row describe(Database& database, const TableInfo& table, const ColumnInfo& column, std::int64_t place) {
     const bool text = column.type.isText();
     const bool decimal = column.type.kind == Kind::Decimal;
@@ -91,8 +112,10 @@ Row describe(Database& database, const TableInfo& table, const ColumnInfo& colum
             std::string(column.nullable ? "YES" : "NO"),
             decimal ? std::string("decimal") : typeName(column.type),
             text ? Scalar(std::int64_t{column.type.length}) : Scalar(),
-            decimal ? Scalar(std::int64_t{column.type.precision}) : Scalar(),
-            decimal ? Scalar(std::int64_t{column.type.scale}) : Scalar()};
+            precisionOf(column.type),
+            decimal || (column.type.isInteger() && column.type.kind != Kind::Bit)
+                ? Scalar(std::int64_t{column.type.scale})
+                : Scalar()};
 }
 
 Rows columns(Database& database, const Instance& /*instance*/) {

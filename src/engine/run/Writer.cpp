@@ -54,6 +54,9 @@ private:
             }
         }
         const std::int64_t rows = plan_.kind == Plan::Kind::Insert ? insert() : change();
+        if (plan_.kind == Plan::Kind::Insert && plan_.table->identity() == nullptr) {
+            session_.gaveIdentity(0); // only now: the statement itself may ask for the one before
+        }
         if (transaction) {
             transaction->commit();
         }

@@ -85,6 +85,8 @@ std::optional<Error> storageError(const sqlite::Failure& failure, const std::str
     case SQLITE_BUSY:
     case SQLITE_LOCKED:
         return errors::lockTimeout();
+    case SQLITE_INTERRUPT:
+        return errors::cancelled();
     case SQLITE_FULL:
         return errors::storageFull(database);
     case SQLITE_READONLY:

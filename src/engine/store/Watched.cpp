@@ -13,8 +13,7 @@ namespace {
 constexpr int kSteps = 10'000; // a few milliseconds
 
 int keepOn(void* /*unused*/) {
-    idle();
-    return 0;
+    return idle() ? 0 : 1;
 }
 
 } // namespace
@@ -42,8 +41,7 @@ int waitForWriter(void* patience, int times) {
         return 0;
     }
     sqlite3_sleep(std::min(times + 1, kLongestPause));
-    idle();
-    return 1;
+    return idle() ? 1 : 0;
 }
 
 } // namespace engine::sqlite

@@ -22,9 +22,9 @@ std::string_view markerOf(const LiteralToken& literal) {
     case Literal::Kind::Float:
         return "?f";
     case Literal::Kind::Text:
-        return "?t";
+        return typeOf({literal.kind, literal.text}).length < 0 ? "?T" : "?t";
     case Literal::Kind::NationalText:
-        return "?n";
+        return typeOf({literal.kind, literal.text}).length < 0 ? "?N" : "?n";
     }
     return "";
 }

@@ -18,8 +18,9 @@ inline bool sameText(std::string_view left, std::string_view right) {
 /// Two texts are the same under the collation exactly where their keys are.
 std::string collationKey(std::string_view text);
 
-/// LIKE of the dialect: `% _ [a-z] [^a]`, blanks at the end of the pattern count; `escape` is one character or empty.
-bool like(std::string_view text, std::string_view pattern, std::string_view escape = {});
+/// LIKE of the dialect: `% _ [a-z] [^a]`, blanks at the end of the pattern count, and those at the end of the text
+/// where `blanksCount`; `escape` is one character or empty.
+bool like(std::string_view text, std::string_view pattern, std::string_view escape = {}, bool blanksCount = false);
 
 /// Length in characters; upper and lower case as the server makes them.
 std::size_t characters(std::string_view text);

@@ -50,7 +50,7 @@ public:
         }
     }
 
-    bool matches(std::string_view text) const;
+    bool matches(std::string_view text, bool blanksCount) const;
 
 private:
     /// A character, and whether the escape character stood before it.
@@ -128,7 +128,7 @@ private:
 
 /// Where the rest doesn't match, the last `%` takes one more character. The earlier ones needn't: what follows them
 /// matched at its first place, which leaves the most to the last one.
-bool Pattern::matches(std::string_view text) const {
+bool Pattern::matches(std::string_view text, bool blanksCount) const {
     if (!valid_) {
         return false;
     }
@@ -146,7 +146,8 @@ bool Pattern::matches(std::string_view text) const {
             }
             continue;
         }
-        if (element == elements_.size() && text.find_first_not_of(' ', place) == std::string_view::npos) {
+        if (element == elements_.size() &&
+            (blanksCount ? place == text.size() : text.find_first_not_of(' ', place) == std::string_view::npos)) {
             return true;
         }
         if (element < elements_.size() && place < text.size()) {
@@ -184,8 +185,8 @@ const Pattern& patternOf(std::string_view text, std::string_view escape) {
 
 } // namespace
 
-bool like(std::string_view text, std::string_view pattern, std::string_view escape) {
-    return patternOf(pattern, escape).matches(text);
+bool like(std::string_view text, std::string_view pattern, std::string_view escape, bool blanksCount) {
+    return patternOf(pattern, escape).matches(text, blanksCount);
 }
 
 } // namespace engine

@@ -111,6 +111,12 @@ std::string fit(std::string text, const ConversionRequest& request) {
     return text;
 }
 
+/// That of the type of a constant, the same for all that fit, so that they share a plan.
+int lengthOf(const std::string& text, int longest) {
+    const auto most = static_cast<std::size_t>(longest);
+    return text.size() > most && characters(text) > most ? -1 : longest;
+}
+
 } // namespace
 
 Scalar convert(Scalar value, const ConversionRequest& request) {
@@ -216,10 +222,10 @@ DataType typeOf(const Literal& literal) {
         type.kind = Kind::Float;
         break;
     case Literal::Kind::Text:
-        type = {Kind::VarChar, kLongestText, 0, 0};
+        type = {Kind::VarChar, lengthOf(literal.text, kLongestText), 0, 0};
         break;
     case Literal::Kind::NationalText:
-        type = {Kind::NVarChar, kLongestNationalText, 0, 0};
+        type = {Kind::NVarChar, lengthOf(literal.text, kLongestNationalText), 0, 0};
         break;
     }
     return type;

@@ -35,6 +35,9 @@ TEST(ErrorTexts, OfTheStorage) {
          "Cannot drop the database 'Database' because it is a system database."},
         {errors::readOnlyDatabase("Database"), 3906, kStatement,
          "Failed to update database \"Database\" because the database is read-only."},
+        {errors::cancelled(), 3980, kBatch,
+         "The request failed to run because the batch is aborted, this can be caused by abort signal sent from client, "
+         "or another request is running in the same session, which makes the session busy."},
         {errors::directoryLookup("File", "Reason"), 5133, kStatement,
          "Directory lookup for the file \"File\" failed with the operating system error Reason."},
         {errors::fileExists("File"), 5170, kStatement,
@@ -64,6 +67,11 @@ TEST(ErrorTexts, OfDefinitions) {
          "more than once."},
         {errors::objectExists("Object"), 2714, kStatement,
          "There is already an object named 'Object' in the database."},
+        {errors::severalPrimaryKeys("Table"), 8110, kBatch,
+         "Cannot add multiple PRIMARY KEY constraints to table 'Table'."},
+        {errors::identityType("Column"), 2749, kStatement,
+         "Identity column 'Column' must be of data type int, bigint, smallint, tinyint, or decimal or numeric with a "
+         "scale of 0, and constrained to be nonnullable."},
         {errors::severalIdentities("Table"), 2744, kBatch,
          "Multiple identity columns specified for table 'Table'. Only one identity column per table is "
          "allowed."},

@@ -105,8 +105,9 @@ TEST(ErrorTexts, OfFunctions) {
         {errors::dateDifferenceOverflow(), 535, kStatement,
          "The datediff function resulted in an overflow. The number of dateparts separating two date/time "
          "instances is too large. Try to use datediff with a less precise datepart."},
-        {errors::invalidLengthParameter("Function"), 537, kBatch,
-         "Invalid length parameter passed to the Function function."},
+        {errors::invalidLengthOfRight(), 536, kBatch, "Invalid length parameter passed to the RIGHT function."},
+        {errors::invalidLengthOfPart(), 537, kBatch,
+         "Invalid length parameter passed to the LEFT or SUBSTRING function."},
         {errors::divideByZero(), 8134, kStatement, "Divide by zero error encountered."},
     });
 }
@@ -184,12 +185,15 @@ TEST(ErrorTexts, OfNamesAndTypes) {
          "Explicit value must be specified for identity column in table 'Table' either when "
          "IDENTITY_INSERT is set to ON or when a replication user is inserting into a NOT FOR REPLICATION "
          "identity column."},
-        {errors::sameExposedName("First", "Second"), 1011, kBatch,
+        {errors::sameExposedName("First", "Second"), 1013, kBatch,
          "The objects \"First\" and \"Second\" in the FROM clause have the same exposed names. Use "
          "correlation names to distinguish them."},
         {errors::invalidParameter(7, "Function", 5), 1023, kBatch, "Invalid parameter 7 specified for Function.", 5},
         {errors::unboundIdentifier("Identifier"), 4104, kBatch,
          "The multi-part identifier \"Identifier\" could not be bound."},
+        {errors::identityWithoutList("Table"), 8101, kBatch,
+         "An explicit value for the identity column in table 'Table' can only be specified when a column list is used "
+         "and IDENTITY_INSERT is ON."},
         {errors::updateIdentity("Column"), 8102, kBatch, "Cannot update identity column 'Column'."},
         {errors::argumentType("Type", 7, "Function"), 8116, kBatch,
          "Argument data type Type is invalid for argument 7 of Function function."},
@@ -208,6 +212,9 @@ TEST(ErrorTexts, OfNamesAndTypes) {
         {errors::notGroupedInOrder("Column"), 8127, kBatch,
          "Column \"Column\" is invalid in the ORDER BY clause because it is not contained in either an "
          "aggregate function or the GROUP BY clause."},
+        {errors::caseOfNulls(), 8133, kBatch,
+         "At least one of the result expressions in a CASE specification must be an expression other than the NULL "
+         "constant."},
         {errors::valuesCountMismatch(), 10709, kBatch,
          "The number of columns for each row in a table value constructor must be the same."},
         {errors::tooManyRows(), 10738, kBatch,

@@ -198,7 +198,7 @@ TEST_F(Functions, RefusalsHaveTheServersWords) {
     constexpr Case kCases[] = {
         {"select manca(1)", "!195 'manca' is not a recognized built-in function name."},
         {"select left('a')", "!174 The left function requires 2 argument(s)."},
-        {"select left('a', -1)", "!537 Invalid length parameter passed to the LEFT function."},
+        {"select left('a', -1)", "!537 Invalid length parameter passed to the LEFT or SUBSTRING function."},
         {"select dateadd(boh, 1, '20040101')", "!155 'boh' is not a recognized dateadd option."},
         {"select 'a' - 'b'", "!402 The data types varchar and varchar are incompatible in the subtract operator."},
         {"select @@manca", "!137 Must declare the scalar variable \"@@manca\"."},

@@ -36,7 +36,7 @@ TEST_F(Definition, RefusalsHaveTheServersWords) {
         {"drop index t.i",
          "!3701 Cannot drop the index 't.i', because it does not exist or you do not have permission."},
         {"create table v (a int primary key, b int, constraint PK_b primary key (b))",
-         "!1779 Table 'v' already has a primary key defined on it."},
+         "!8110 Cannot add multiple PRIMARY KEY constraints to table 'v'."},
         {"create table v (a int identity(1,1), b int identity(1,1))",
          "!2744 Multiple identity columns specified for table 'v'. Only one identity column per table is allowed."},
         {"truncate table manca",
@@ -165,7 +165,7 @@ TEST_F(Definition, TheSchemaCanBeRead) {
     EXPECT_EQ(rows("select TABLE_NAME, TABLE_TYPE from INFORMATION_SCHEMA.TABLES"), "t|BASE TABLE");
     EXPECT_EQ(rows("select COLUMN_NAME, IS_NULLABLE, DATA_TYPE, NUMERIC_SCALE, COLUMN_DEFAULT from"
                    " information_schema.columns order by ordinal_position"),
-              "a|NO|int|NULL|NULL\nb|YES|decimal|2|(5)");
+              "a|NO|int|0|NULL\nb|YES|decimal|2|(5)");
     EXPECT_EQ(rows("select name from sysobjects where xtype = 'U'"), "t");
     EXPECT_EQ(answer("delete from sysobjects").substr(0, 5), "!259 ");
 }

@@ -98,6 +98,14 @@ TEST_F(PlanCache, ALiteralHasItsOwnTypeWhateverStoodThereBefore) {
     }
 }
 
+TEST_F(PlanCache, ATextThatOnlyAMaxTypeHoldsHasAPlanOfItsOwn) {
+    const std::string longText = "select len(N'" + std::string(4001, 'a') + "' + N'" + std::string(4000, 'b') + "')";
+    const std::string shortText = "select len(N'a' + N'b')";
+    EXPECT_EQ(cached(shortText, longText), fresh(longText));
+    EXPECT_EQ(cached(longText, shortText), fresh(shortText));
+    EXPECT_NE(fresh(longText).find("8001"), std::string::npos) << fresh(longText);
+}
+
 TEST_F(PlanCache, ALiteralOfOtherDigitsTakesTheSamePlanWhereItsTypeGoesNowhere) {
     constexpr Spellings kCases[] = {
         {"update t set d = 1.5, m = 2 where id = 1", "update t set d = 22.345, m = 3000 where id = 20"},

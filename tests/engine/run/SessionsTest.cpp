@@ -1,4 +1,5 @@
 #include "engine/SessionFixture.h"
+#include "engine/store/Idler.h"
 
 namespace engine {
 namespace {
@@ -177,6 +178,25 @@ TEST_F(Sessions, OtherDatabasesCanBeRead) {
     EXPECT_EQ(rows("select t.id, u.a from altra.dbo.u as u, t where t.id = 1"), "1|5");
     EXPECT_EQ(answer("select * from altra.dbo.manca"), "!208 Invalid object name 'altra.dbo.manca'.");
     EXPECT_EQ(answer("select * from manca.dbo.u"), "!208 Invalid object name 'manca.dbo.u'.");
+}
+
+TEST_F(Sessions, AStatementThatItsIdlerGivesUpFailsAndNothingOfItStays) {
+    run("CREATE TABLE molte (n int)");
+    run("INSERT INTO molte VALUES (1), (2), (3), (4), (5), (6), (7), (8), (9), (10)");
+    const auto givenUp = [&](const char* text) {
+        setIdler([]() noexcept { giveUp(); });
+        const std::string said = answer(text);
+        setIdler(nullptr);
+        return said.substr(0, 5);
+    };
+    EXPECT_EQ(givenUp("SELECT COUNT(*) FROM molte a, molte b, molte c, molte d, molte e, molte f"), "!3980");
+    EXPECT_EQ(givenUp("INSERT INTO molte SELECT a.n FROM molte a, molte b, molte c, molte d, molte e"), "!3980");
+    EXPECT_EQ(rows("SELECT COUNT(*) FROM molte"), "10");
+    run("BEGIN TRAN; DELETE FROM molte WHERE n = 1");
+    EXPECT_EQ(givenUp("INSERT INTO molte SELECT a.n FROM molte a, molte b, molte c, molte d, molte e"), "!3980");
+    EXPECT_EQ(rows("SELECT COUNT(*) FROM molte"), "9") << "the transaction goes on";
+    run("ROLLBACK");
+    EXPECT_EQ(rows("SELECT COUNT(*) FROM molte"), "10");
 }
 
 } // namespace

@@ -50,6 +50,29 @@ TEST_F(WatchedStorage, LetsItRunDuringTheStepsOfAStatementShortOnesToo) {
     EXPECT_GT(calls, 10);
 }
 
+TEST_F(WatchedStorage, EndsWhatItsIdlerGivesUpAndThatAlone) {
+    setIdler([]() noexcept {
+        if (++calls == 3) {
+            giveUp();
+        }
+    });
+    try {
+        connection.run(kLong);
+        ADD_FAILURE() << "it went on";
+    } catch (const Failure& failure) {
+        EXPECT_EQ(failure.code(), SQLITE_INTERRUPT);
+    }
+    EXPECT_EQ(calls, 3);
+    connection.run(kLong);
+    EXPECT_GT(calls, 10);
+}
+
+TEST_F(WatchedStorage, WaitsForNoWriterWhoseWaitIsGivenUp) {
+    setIdler([]() noexcept { giveUp(); });
+    Patience patience;
+    EXPECT_EQ(waitForWriter(&patience, 0), 0);
+}
+
 TEST_F(WatchedStorage, LeavesNothingBehindAtTheConnection) {
     setIdler(count);
     callsOf(kLong);

@@ -4,8 +4,6 @@
 #include "peer/Packets.h"
 #include "peer/Procedures.h"
 
-#include <map>
-
 namespace {
 
 void read(const peer::Message& message) {
@@ -20,9 +18,10 @@ void read(const peer::Message& message) {
         in.ucs2(in.left() / 2);
     }
     if (message.type == peer::PacketType::Rpc) {
-        std::map<std::int32_t, std::string> prepared;
-        std::int32_t last = 0;
-        peer::procedureText(peer::readProcedureCall(in), prepared, last);
+        peer::PreparedTexts prepared;
+        for (const peer::ProcedureCall& call : peer::readProcedureCalls(in)) {
+            peer::procedureText(call, prepared);
+        }
     }
 }
 
@@ -36,6 +35,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
             read(*message);
         }
     } catch (const peer::ProtocolError&) {
+        return 0;
+    } catch (const engine::Error&) {
         return 0;
     }
     return 0;

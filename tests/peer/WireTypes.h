@@ -1,0 +1,27 @@
+#pragma once
+
+#include "peer/Bytes.h"
+
+#include <optional>
+#include <string>
+
+namespace peer {
+
+/// A type as it stands before a value.
+struct WireType {
+    std::uint8_t token = 0;
+    std::uint32_t largest = 0; ///< bytes
+    int precision = 0, scale = 0;
+};
+
+/// The bytes of a value; nothing for a null.
+using WireValue = std::optional<Bytes>;
+
+/// Reads type and value. False for a type whose bytes aren't known.
+bool readTyped(ByteReader& in, WireType& type, WireValue& value);
+/// As a script writes it.
+std::string typeName(const WireType& type);
+/// Whether a value of the type may have so many bytes.
+bool lengthFits(const WireType& type, std::size_t length);
+
+} // namespace peer

@@ -108,6 +108,8 @@ private:
     bound::ExpressionPtr literal(const Literal& literal, bool negated);
     bound::ExpressionPtr negated(bound::ExpressionPtr operand);
     bound::ExpressionPtr arithmetic(Binary::Operator op, bound::ExpressionPtr left, bound::ExpressionPtr right);
+    static bound::ExpressionPtr decimals(Binary::Operator op, bound::ExpressionPtr left, bound::ExpressionPtr right,
+                                         const DataType& type);
     DataType digitsOf(const bound::Expression& number);
     bound::Parameter* bareLiteral(const bound::Expression& value);
     void freeDigits(const bound::Expression& value);
@@ -115,6 +117,7 @@ private:
 
     // BinderCalls.cpp
     bound::ExpressionPtr aggregate(const Call& call, const std::string& name);
+    bound::ExpressionPtr average(const Call& call, const DataType& sumType);
     bound::ExpressionPtr builtIn(const Call& call);
     bound::ExpressionPtr argument(const Call& call, std::size_t place, FunctionParameter::Kind kind);
 

@@ -34,18 +34,28 @@ DataType resultType(Result result, const std::vector<bound::ExpressionPtr>& argu
     case Result::AsFirst:
     case Result::AsFirstBeyond:
         return arguments.front()->type;
+    case Result::Rounded:
+    case Result::Whole:
+        break;
     }
-    return {};
+    DataType type = arguments.front()->type;
+    if (type.kind == Kind::TinyInt || type.kind == Kind::SmallInt) {
+        type.kind = Kind::Int;
+    } else if (type.kind == Kind::Real) {
+        type.kind = Kind::Float;
+    } else if (type.kind == Kind::Decimal && !type.isMoney() && result == Result::Whole) {
+        type.scale = 0;
+    }
+    return type;
 }
 
-/// SUM and AVG of the small integers are ints, of decimals wide decimals.
-DataType sumType(const DataType& type, bool average) {
-    if (type.kind == Kind::Decimal) {
-        constexpr int kLeastAverageScale = 6;
-        return {Kind::Decimal, 0, kWidestDecimal, average ? std::max(type.scale, kLeastAverageScale) : type.scale};
-    }
-    if (type.kind == Kind::BigInt) {
+/// SUM of the small integers is an int, of decimals a wide decimal.
+DataType sumType(const DataType& type) {
+    if (type.kind == Kind::BigInt || type.isMoney()) {
         return type;
+    }
+    if (type.kind == Kind::Decimal) {
+        return {Kind::Decimal, 0, kWidestDecimal, type.scale};
     }
     return type.isInteger() ? DataType{Kind::Int, 0, 0, 0} : DataType{Kind::Float, 0, 0, 0};
 }
@@ -159,14 +169,29 @@ bound::ExpressionPtr Binder::aggregate(const Call& call, const std::string& name
     if (!type.isNumber() || type.kind == Kind::Bit) {
         throw errors::aggregateOfText(typeName(type), name == "SUM" ? "sum" : "avg");
     }
-    const bool average = name == "AVG";
-    const DataType wanted = sumType(type, average);
-    made.function = !average ? "sum" : wanted.isInteger() ? operators::kIntegerAverage : "avg";
+    const DataType wanted = sumType(type);
+    if (name == "AVG" && wanted.kind != Kind::Float) {
+        return average(call, wanted);
+    }
+    const bool decimal = wanted.kind == Kind::Decimal;
+    made.function = name == "AVG" ? "avg" : decimal ? operators::kDecimalSum : "sum";
     result->node = std::move(made);
-    result->type =
-        wanted.kind == Kind::Float ? wanted : DataType{wanted.isInteger() ? Kind::BigInt : Kind::Float, 0, 0, 0};
+    result->type = wanted.kind == Kind::Float ? wanted : decimal ? kAnyDecimal : DataType{Kind::BigInt};
     return wanted.kind == Kind::Float ? bound::call(operators::kFloat, wanted, std::move(result))
                                       : convertTo(std::move(result), wanted, Purpose::Cast);
+}
+
+/// The sum in its type, divided by the count. Without rows the sum is NULL, and so is the average.
+bound::ExpressionPtr Binder::average(const Call& call, const DataType& sumType) {
+    auto sum = aggregate(call, "SUM");
+    auto count = aggregate(call, "COUNT_BIG");
+    if (sumType.isInteger()) {
+        return bound::infix("/", std::move(sum), std::move(count), sumType);
+    }
+    constexpr int kLeastScale = 6;
+    DataType type = sumType;
+    type.scale = type.isMoney() ? type.scale : std::max(type.scale, kLeastScale);
+    return decimals(Binary::Operator::Divide, std::move(sum), std::move(count), type);
 }
 
 bound::ExpressionPtr Binder::argument(const Call& call, std::size_t place, FunctionParameter::Kind kind) {
@@ -229,8 +254,11 @@ bound::ExpressionPtr Binder::builtIn(const Call& call) {
         result->type.length = -1;
         return convertTo(std::move(result), type, Purpose::Cast);
     }
-    if (row->result == Result::AsFirstBeyond && type.kind != Kind::Float) {
-        result->type = DataType{type.isInteger() ? Kind::BigInt : Kind::Float, 0, 0, 0};
+    const bool beyond = row->result == Result::AsFirstBeyond || row->result == Result::Rounded;
+    if (beyond && type.kind != Kind::Float) {
+        result->type = type.isInteger()              ? DataType{Kind::BigInt}
+                       : type.kind == Kind::Decimal ? kAnyDecimal
+                                                    : DataType{Kind::Float};
         return convertTo(std::move(result), type, Purpose::Cast);
     }
     return result;

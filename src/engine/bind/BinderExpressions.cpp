@@ -202,8 +202,11 @@ bound::ExpressionPtr Binder::compare(const char* op, bound::ExpressionPtr left, 
     freeDigits(*left);
     freeDigits(*right);
     const auto meet = [&](bound::ExpressionPtr side) {
-        // Numbers of two types are compared without a conversion, and so are texts of two lengths.
-        const bool alike = (side->type.isNumber() && common.isNumber()) || (side->type.isText() && common.isText());
+        // Numbers of two types are compared without a conversion, and so are texts of two lengths. A real is the float
+        // nearest to a number, and a literal next to a float may have more digits than a decimal keeps.
+        const bool numbers = side->type.isNumber() && common.isNumber() && common.kind != Kind::Real;
+        const bool literal = side->type.kind == Kind::Decimal && common.kind == Kind::Float && bareLiteral(*side);
+        const bool alike = (numbers && !literal) || (side->type.isText() && common.isText());
         return alike ? std::move(side) : convertTo(std::move(side), comparable(common), Purpose::Cast);
     };
     left = collated(meet(std::move(left)));
@@ -245,14 +248,23 @@ bound::ExpressionPtr Binder::arithmetic(Binary::Operator op, bound::ExpressionPt
                                convertTo(std::move(right), DataType{Kind::Float}, Purpose::Cast));
         return convertTo(std::move(days), common, Purpose::Cast);
     }
-    const bool decimal = common.kind == Kind::Decimal;
+    if (op == Binary::Operator::Modulo && (common.kind == Kind::Float || common.kind == Kind::Real)) {
+        throw errors::incompatibleTypes(typeName(left->type), typeName(right->type), "modulo");
+    }
+    const bool decimal = common.kind == Kind::Decimal && !common.isMoney();
     const DataType leftType = left->type.isNumber() ? decimal ? digitsOf(*left) : left->type : common;
     const DataType rightType = right->type.isNumber() ? decimal ? digitsOf(*right) : right->type : common;
     const auto meet = [&](bound::ExpressionPtr side) {
-        return side->type.isNumber() ? std::move(side) : convertTo(std::move(side), common, Purpose::Cast);
+        const bool literal = side->type.kind == Kind::Decimal && common.kind != Kind::Decimal && bareLiteral(*side);
+        return side->type.isNumber() && !literal ? std::move(side)
+                                                 : convertWritten(std::move(side), common, Purpose::Cast);
     };
     left = meet(std::move(left));
     right = meet(std::move(right));
+    if (common.kind == Kind::Decimal) {
+        return decimals(op, std::move(left), std::move(right),
+                        decimal ? decimalResult(op, leftType, rightType) : common);
+    }
     bound::ExpressionPtr result;
     const DataType wide{common.isInteger() ? Kind::BigInt : Kind::Float};
     if (op == Binary::Operator::Divide) {
@@ -270,7 +282,16 @@ bound::ExpressionPtr Binder::arithmetic(Binary::Operator op, bound::ExpressionPt
         result->type = DataType{Kind::Unknown};
         return bound::call(operators::kBigInt, common, std::move(result));
     }
-    return convertTo(std::move(result), decimal ? decimalResult(op, leftType, rightType) : common, Purpose::Cast);
+    return convertTo(std::move(result), common, Purpose::Cast);
+}
+
+bound::ExpressionPtr Binder::decimals(Binary::Operator op, bound::ExpressionPtr left, bound::ExpressionPtr right,
+                                      const DataType& type) {
+    const auto number = [](std::int64_t value) {
+        return bound::constant(std::to_string(value), DataType{Kind::BigInt});
+    };
+    return bound::call(operators::kDecimal, type, std::move(left), std::move(right), number(static_cast<int>(op)),
+                       number(encodeType(type)), number(0));
 }
 
 /// One character, which is part of the plan.

@@ -3,6 +3,7 @@
 #include "engine/errors/FunctionErrors.h"
 #include "engine/errors/ValueErrors.h"
 #include "engine/functions/FunctionRows.h"
+#include "engine/text/Tree.h"
 #include "engine/values/Conversions.h"
 
 #include <cmath>
@@ -43,6 +44,35 @@ Scalar modulo(FunctionContext& /*context*/, Arguments arguments) {
     return *right == -1 ? Scalar(std::int64_t{0}) : Scalar(*left % *right);
 }
 
+Decimal calculated(Binary::Operator op, const Decimal& left, const Decimal& right, int places) {
+    switch (op) {
+    case Binary::Operator::Add:
+        return left.plus(right);
+    case Binary::Operator::Subtract:
+        return left.plus(right.negated());
+    case Binary::Operator::Multiply:
+        return left.times(right).rounded(places);
+    default:
+        break;
+    }
+    if (right.isZero()) {
+        throw errors::divideByZero();
+    }
+    return op == Binary::Operator::Divide ? left.over(right, places) : left.modulo(right);
+}
+
+Scalar decimal(FunctionContext& /*context*/, Arguments arguments) {
+    const auto op = static_cast<Binary::Operator>(integerAt(arguments, 2));
+    const DataType type = decodeType(integerAt(arguments, 3));
+    const Decimal result =
+        calculated(op, decimalOf(arguments[0]), decimalOf(arguments[1]), type.scale).rounded(type.scale);
+    if (!result.fits(type)) {
+        throw errors::overflow("expression", typeName(type));
+    }
+    const Scalar value = scalarOf(result);
+    return integerAt(arguments, 4) != 0 ? value : kept(value);
+}
+
 /// value, type it has, type it gets, style or -1, 1 where it is an assignment
 Scalar convertValue(FunctionContext& context, Arguments arguments) {
     ConversionRequest request;
@@ -75,9 +105,9 @@ Scalar tooManyRows(FunctionContext& /*context*/, Arguments /*arguments*/) {
 }
 
 constexpr OperatorRow kOperators[] = {
-    {operators::kBigInt, 1, bigInteger}, {operators::kConvert, 5, convertValue},
-    {operators::kDivide, 3, divide},     {operators::kFloat, 1, floatNumber},
-    {operators::kModulo, 2, modulo},     {operators::kTooManyRows, 0, tooManyRows},
+    {operators::kBigInt, 1, bigInteger}, {operators::kConvert, 5, convertValue}, {operators::kDecimal, 5, decimal},
+    {operators::kDivide, 3, divide},     {operators::kFloat, 1, floatNumber},    {operators::kModulo, 2, modulo},
+    {operators::kTooManyRows, 0, tooManyRows},
 };
 
 } // namespace

@@ -18,7 +18,7 @@ std::string_view markerOf(const LiteralToken& literal) {
     case Literal::Kind::Integer:
         return "?i";
     case Literal::Kind::Decimal:
-        return typeOf({literal.kind, literal.text}).kind == DataType::Kind::BigInt ? "?b" : "?d";
+        return "?d";
     case Literal::Kind::Float:
         return "?f";
     case Literal::Kind::Text:

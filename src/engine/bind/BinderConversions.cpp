@@ -93,9 +93,7 @@ bound::ExpressionPtr Binder::convertTo(bound::ExpressionPtr value, const DataTyp
             return value;
         }
     }
-    if (auto* call = std::get_if<bound::Call>(&value->node); call != nullptr && call->function == operators::kDecimal) {
-        call->arguments.back() = number(1); // the conversion takes what a double doesn't keep
-    }
+    bound::giveAllDigits(*value);
     const DataType from = value->type;
     const bool nullable = value->nullable;
     auto result =

@@ -290,6 +290,8 @@ bound::ExpressionPtr Binder::decimals(Binary::Operator op, bound::ExpressionPtr 
     const auto number = [](std::int64_t value) {
         return bound::constant(std::to_string(value), DataType{Kind::BigInt});
     };
+    bound::giveAllDigits(*left);
+    bound::giveAllDigits(*right);
     return bound::call(operators::kDecimal, type, std::move(left), std::move(right), number(static_cast<int>(op)),
                        number(encodeType(type)), number(0));
 }

@@ -1,5 +1,6 @@
 #include "engine/bind/Binder.h"
 #include "engine/errors/BindErrors.h"
+#include "engine/functions/Operators.h"
 
 #include <algorithm>
 
@@ -19,8 +20,10 @@ bool bothParameters(const Expression& left, const Expression& right) {
            std::holds_alternative<bound::ParameterUse>(right.node);
 }
 
-bool sameAll(const std::vector<bound::ExpressionPtr>& left, const std::vector<bound::ExpressionPtr>& right) {
-    return std::equal(left.begin(), left.end(), right.begin(), right.end(),
+/// But for so many at the end of each.
+bool sameAll(const std::vector<bound::ExpressionPtr>& left, const std::vector<bound::ExpressionPtr>& right,
+             std::ptrdiff_t last = 0) {
+    return std::equal(left.begin(), left.end() - last, right.begin(), right.end() - last,
                       [](const bound::ExpressionPtr& a, const bound::ExpressionPtr& b) {
                           return sameExpression(*a, *b) || bothParameters(*a, *b);
                       });
@@ -29,7 +32,9 @@ bool sameAll(const std::vector<bound::ExpressionPtr>& left, const std::vector<bo
 bool sameShape(const Expression& left, const Expression& right) {
     if (const auto* call = std::get_if<bound::Call>(&left.node)) {
         const auto& other = std::get<bound::Call>(right.node);
-        return call->function == other.function && sameAll(call->arguments, other.arguments);
+        // How many digits are taken of an arithmetic is no part of it.
+        const bool sameDigits = call->function == operators::kDecimal;
+        return call->function == other.function && sameAll(call->arguments, other.arguments, sameDigits ? 1 : 0);
     }
     if (const auto* operation = std::get_if<bound::Operation>(&left.node)) {
         const auto& other = std::get<bound::Operation>(right.node);

@@ -1,5 +1,7 @@
 #include "engine/bind/BoundMakers.h"
 
+#include "engine/functions/Operators.h"
+
 #include <algorithm>
 
 namespace engine {
@@ -88,13 +90,20 @@ ExpressionPtr callOf(std::string function, const DataType& type, std::vector<Exp
     return result;
 }
 
+void giveAllDigits(Expression& value) {
+    auto* call = std::get_if<Call>(&value.node);
+    if (call != nullptr && call->function == operators::kDecimal) {
+        call->arguments.back() = constant("1", DataType{Kind::Int});
+    }
+}
+
 } // namespace bound
 
 DataType comparable(const DataType& type) {
     if (type.isText()) {
         return {type.kind == Kind::Char || type.kind == Kind::VarChar ? Kind::VarChar : Kind::NVarChar, -1, 0, 0};
     }
-    return type.kind == Kind::Decimal ? kAnyDecimal : type;
+    return type.kind == Kind::Decimal && !type.isMoney() ? kAnyDecimal : type;
 }
 
 int longestText(const DataType& type) {

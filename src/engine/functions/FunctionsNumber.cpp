@@ -67,8 +67,9 @@ Scalar roundOf(FunctionContext& /*context*/, Arguments arguments) {
         return roundedInteger(*integer, -places);
     }
     const double number = numberAt(arguments, 0);
-    if (const auto decimal = Decimal::exactly(number)) {
-        return decimal->rounded(static_cast<int>(places)).kept();
+    const auto decimal = Decimal::exactly(number);
+    if (const auto rounded = decimal ? decimal->rounded(static_cast<int>(places)).exact() : std::nullopt) {
+        return *rounded;
     }
     if (places < 0) {
         const double unit = std::pow(10.0, static_cast<double>(-places));

@@ -6,7 +6,6 @@
 #include "engine/text/Tree.h"
 #include "engine/values/Conversions.h"
 
-#include <cmath>
 #include <limits>
 
 namespace engine {
@@ -33,15 +32,11 @@ Scalar divide(FunctionContext& /*context*/, Arguments arguments) {
 }
 
 Scalar modulo(FunctionContext& /*context*/, Arguments arguments) {
-    if (numberAt(arguments, 1) == 0.0) {
+    if (integerAt(arguments, 1) == 0) {
         throw errors::divideByZero();
     }
-    const auto* left = std::get_if<std::int64_t>(&arguments[0]);
-    const auto* right = std::get_if<std::int64_t>(&arguments[1]);
-    if (left == nullptr || right == nullptr) {
-        return std::fmod(numberAt(arguments, 0), numberAt(arguments, 1));
-    }
-    return *right == -1 ? Scalar(std::int64_t{0}) : Scalar(*left % *right);
+    const std::int64_t divisor = integerAt(arguments, 1);
+    return divisor == -1 ? std::int64_t{0} : integerAt(arguments, 0) % divisor;
 }
 
 Decimal calculated(Binary::Operator op, const Decimal& left, const Decimal& right, int places) {

@@ -18,7 +18,7 @@ constexpr const char* kDivide = "tsql_divide";   ///< dividend, divisor, 1 where
 constexpr const char* kFloat = "tsql_float";     ///< a sum or product of floats, refused where infinite
 constexpr const char* kLike = "tsql_like";                 ///< text, pattern, perhaps the escape character
 constexpr const char* kLiteral = "tsql_literal";           ///< its argument, which the storage takes for no constant
-constexpr const char* kModulo = "tsql_modulo";             ///< dividend, divisor
+constexpr const char* kModulo = "tsql_modulo";             ///< dividend, divisor, both integers
 constexpr const char* kTooManyRows = "tsql_too_many_rows"; ///< error 512
 } // namespace operators
 

@@ -20,9 +20,6 @@ Scalar storedValue(const sqlite::Statement& statement, int column, const DataTyp
     if (type.isInteger()) {
         return statement.integer(column);
     }
-    if (type.kind == DataType::Kind::Decimal && statement.isInteger(column)) {
-        return Decimal::of(statement.integer(column)).kept();
-    }
     if (type.isNumber()) {
         return statement.real(column);
     }

@@ -211,7 +211,8 @@ bool needsConversion(const DataType& from, const DataType& to, Purpose purpose) 
         return !(from.isInteger() && from.kind <= to.kind);
     }
     if (to.kind == Kind::Decimal && (from.kind == Kind::Decimal || from.isInteger())) {
-        return to != kAnyDecimal && from != to && !holdsAll(to, from);
+        // A whole number of many digits may be an integer still.
+        return to != kAnyDecimal && !(from == to && to.scale > 0) && !holdsAll(to, from);
     }
     if (isReal(to)) {
         return from != to;

@@ -209,7 +209,7 @@ TEST_F(Functions, RefusalsHaveTheServersWords) {
         {"select (select 1 union all select 2)",
          "!512 Subquery returned more than 1 value. This is not permitted when the subquery follows =, !=, <, <= , >, >="
          " or when the subquery is used as an expression."},
-        {"select 9223372036854775807 + 1",
+        {"select cast(9223372036854775807 as bigint) + 1",
          "!8115 Arithmetic overflow error converting expression to data type bigint."},
         {"select dateadd(year, 9000, '20040101')", "!517 Adding a value to a 'datetime' column caused an overflow."},
     };

@@ -1,27 +1,15 @@
 // What a server answers to a statement, as its documentation has it: a row for each, with the page in a word.
 
-#include "engine/SessionFixture.h"
+#include "engine/DocumentedFixture.h"
 
 namespace engine {
 namespace {
 
-struct Case {
-    const char* statement;
-    const char* answer;
-    const char* page;
-};
-
-class Documented : public SessionTest {
+class Documented : public DocumentedTest {
 protected:
     Documented() {
         run("CREATE TABLE voci (n int NOT NULL PRIMARY KEY, c char(10) NULL, v varchar(10) NULL, b bit NULL)");
         run("INSERT INTO voci VALUES (1, 'ab', 'ab', 1), (2, 'cd', 'xy  ', 0), (3, 'xy', NULL, NULL)");
-    }
-
-    void expect(std::initializer_list<Case> cases) {
-        for (const Case& one : cases) {
-            EXPECT_EQ(answer(one.statement), one.answer) << one.statement << "\n" << one.page;
-        }
     }
 };
 

@@ -99,6 +99,11 @@ void giveAllDigits(Expression& value) {
 
 } // namespace bound
 
+const char* operatorText(Binary::Operator op) {
+    static constexpr const char* kTexts[] = {"+", "-", "*", "/", "%", "=", "<>", "<", "<=", ">", ">=", "AND", "OR"};
+    return kTexts[static_cast<int>(op)];
+}
+
 DataType comparable(const DataType& type) {
     if (type.isText()) {
         return {type.kind == Kind::Char || type.kind == Kind::VarChar ? Kind::VarChar : Kind::NVarChar, -1, 0, 0};

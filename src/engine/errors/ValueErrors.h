@@ -15,8 +15,8 @@ inline constexpr ErrorText<> dateOutOfRange{
     242, Reach::Batch,
     "The conversion of a varchar data type to a datetime data type resulted in an "
     "out-of-range value."};
-inline constexpr ErrorText<> moneyOfText{
-    235, Reach::Batch, "Cannot convert a char value to money. The char value has incorrect syntax."};
+inline constexpr ErrorText<> moneyOfText{235, Reach::Batch,
+                                         "Cannot convert a char value to money. The char value has incorrect syntax."};
 /// `column` is INT1 or INT2.
 inline constexpr ErrorText<Text, Text, Text> textOverflowsSmallInt{
     244, Reach::Batch,

@@ -75,9 +75,8 @@ Scalar roundOf(FunctionContext& /*context*/, Arguments arguments) {
         const double unit = std::pow(10.0, static_cast<double>(-places));
         return finiteNumber(std::round(number / unit) * unit, {DataType::Kind::Float});
     }
-    const auto rounded = std::fabs(number) < kWholeFrom
-                             ? Decimal::ofFloat(number, static_cast<int>(places)).exact()
-                             : std::nullopt;
+    const auto rounded =
+        std::fabs(number) < kWholeFrom ? Decimal::ofFloat(number, static_cast<int>(places)).exact() : std::nullopt;
     return rounded.value_or(number);
 }
 
@@ -96,10 +95,8 @@ Scalar isNumeric(FunctionContext& /*context*/, Arguments arguments) {
 }
 
 constexpr FunctionRow kFunctions[] = {
-    {"ABS", {kNumber}, Result::AsFirstBeyond, absolute},
-    {"CEILING", {kNumber}, Result::Whole, ceilingOf},
-    {"FLOOR", {kNumber}, Result::Whole, floorOf},
-    {"ISNUMERIC", {kAny}, Result::Int, isNumeric, kNullsTaken},
+    {"ABS", {kNumber}, Result::AsFirstBeyond, absolute},  {"CEILING", {kNumber}, Result::Whole, ceilingOf},
+    {"FLOOR", {kNumber}, Result::Whole, floorOf},         {"ISNUMERIC", {kAny}, Result::Int, isNumeric, kNullsTaken},
     {"ROUND", {kNumber, kInt}, Result::Rounded, roundOf},
 };
 

@@ -100,8 +100,9 @@ Scalar tooManyRows(FunctionContext& /*context*/, Arguments /*arguments*/) {
 }
 
 constexpr OperatorRow kOperators[] = {
-    {operators::kBigInt, 1, bigInteger}, {operators::kConvert, 5, convertValue}, {operators::kDecimal, 5, decimal},
-    {operators::kDivide, 3, divide},     {operators::kFloat, 1, floatNumber},    {operators::kModulo, 2, modulo},
+    {operators::kBigInt, 1, bigInteger},       {operators::kConvert, 5, convertValue},
+    {operators::kDecimal, 5, decimal},         {operators::kDivide, 3, divide},
+    {operators::kFloat, 1, floatNumber},       {operators::kModulo, 2, modulo},
     {operators::kTooManyRows, 0, tooManyRows},
 };
 

@@ -13,9 +13,9 @@ constexpr const char* kBigInt = "tsql_bigint";   ///< a sum or product of bigint
 constexpr const char* kConvert = "tsql_convert"; ///< value, its type, the wanted type, style or -1, 1 to assign
 /// Arithmetic of decimals: left, right, operator, type of the result, 1 where its digits may go beyond those kept.
 constexpr const char* kDecimal = "tsql_decimal";
-constexpr const char* kDecimalSum = "tsql_sum";  ///< an aggregate: the sum of decimals, exact
-constexpr const char* kDivide = "tsql_divide";   ///< dividend, divisor, 1 where integers stay integers
-constexpr const char* kFloat = "tsql_float";     ///< a sum or product of floats, refused where infinite
+constexpr const char* kDecimalSum = "tsql_sum";            ///< an aggregate: the sum of decimals, exact
+constexpr const char* kDivide = "tsql_divide";             ///< dividend, divisor, 1 where integers stay integers
+constexpr const char* kFloat = "tsql_float";               ///< a sum or product of floats, refused where infinite
 constexpr const char* kLike = "tsql_like";                 ///< text, pattern, perhaps the escape character
 constexpr const char* kLiteral = "tsql_literal";           ///< its argument, which the storage takes for no constant
 constexpr const char* kModulo = "tsql_modulo";             ///< dividend, divisor, both integers

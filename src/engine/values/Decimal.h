@@ -21,7 +21,8 @@ public:
     static Decimal of(double kept);
     /// Nothing where no number of 15 digits has this double.
     static std::optional<Decimal> exactly(double number);
-    /// A float, rounded to so many places. It has 15 digits; where the places ask for more, it counts as it is in binary.
+    /// A float, rounded to so many places. It has 15 digits; where the places ask for more, it counts as it is in
+    /// binary.
     static Decimal ofFloat(double number, int places);
     /// `[+-]digits[.digits]`, nothing else; at least one digit. Rounded to so many places.
     static std::optional<Decimal> parse(std::string_view text, int places);

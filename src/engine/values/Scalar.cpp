@@ -5,9 +5,7 @@
 #include "engine/values/Conversions.h"
 
 #include <algorithm>
-#include <charconv>
 #include <cmath>
-#include <cstdlib>
 #include <limits>
 
 namespace engine {
@@ -137,7 +135,8 @@ Scalar convertDecimal(const Scalar& value, const ConversionRequest& request) {
         return engine::toInteger(request.from.isMoney() ? number.rounded(0) : number, target);
     }
     const int places = request.from.scale;
-    return fit(request.from.isMoney() ? moneyText(number, request.style) : number.rounded(places).text(places), request);
+    return fit(request.from.isMoney() ? moneyText(number, request.style) : number.rounded(places).text(places),
+               request);
 }
 
 } // namespace
@@ -218,57 +217,6 @@ bool needsConversion(const DataType& from, const DataType& to, Purpose purpose) 
         return from != to;
     }
     return from.kind != to.kind;
-}
-
-Scalar scalarOf(const Literal& literal, bool negated) {
-    switch (literal.kind) {
-    case Literal::Kind::Null:
-        return {};
-    case Literal::Kind::Integer:
-    case Literal::Kind::Decimal: {
-        const std::string digits = (negated ? "-" : "") + literal.text;
-        std::int64_t number = 0;
-        const auto end = digits.data() + digits.size();
-        const auto [stop, problem] = std::from_chars(digits.data(), end, number);
-        return problem == std::errc{} && stop == end ? Scalar(number)
-                                                     : scalarOf(*Decimal::parse(digits, kWidestDecimal));
-    }
-    case Literal::Kind::Float: {
-        const double number = std::strtod(literal.text.c_str(), nullptr);
-        return negated ? -number : number;
-    }
-    case Literal::Kind::Text:
-    case Literal::Kind::NationalText:
-        return literal.text;
-    }
-    return {};
-}
-
-DataType decimalOf(const Literal& literal) {
-    std::string_view digits = literal.text;
-    digits.remove_prefix(std::min(digits.find_first_not_of('0'), digits.size()));
-    const std::size_t point = digits.find('.');
-    const int scale = point == std::string::npos ? 0 : static_cast<int>(digits.size() - point - 1);
-    const int written = static_cast<int>(digits.size()) - (point == std::string::npos ? 0 : 1);
-    return {Kind::Decimal, 0, std::clamp(written, 1, kWidestDecimal), std::min(scale, kWidestDecimal)};
-}
-
-DataType typeOf(const Literal& literal) {
-    switch (literal.kind) {
-    case Literal::Kind::Null:
-        break;
-    case Literal::Kind::Integer:
-        return {Kind::Int, 0, 0, 0};
-    case Literal::Kind::Decimal:
-        return decimalOf(literal);
-    case Literal::Kind::Float:
-        return {Kind::Float, 0, 0, 0};
-    case Literal::Kind::Text:
-        return {Kind::VarChar, kLongestText, 0, 0};
-    case Literal::Kind::NationalText:
-        return {Kind::NVarChar, kLongestNationalText, 0, 0};
-    }
-    return {};
 }
 
 std::int64_t encodeType(const DataType& type) {

@@ -130,39 +130,31 @@ Decimal Decimal::rounded(int places) const {
 }
 
 Decimal Decimal::plus(const Decimal& other) const {
-    const Decimal left = shortest();
-    const Decimal right = other.shortest();
-    const int scale = std::max(left.scale_, right.scale_);
+    const int scale = std::max(scale_, other.scale_);
     WideInteger sum = 0;
-    if (__builtin_add_overflow(left.unscaledAt(scale), right.unscaledAt(scale), &sum)) {
+    if (__builtin_add_overflow(unscaledAt(scale), other.unscaledAt(scale), &sum)) {
         throw errors::digitsNotKept();
     }
     return {sum, scale};
 }
 
 Decimal Decimal::times(const Decimal& other) const {
-    const Decimal left = shortest();
-    const Decimal right = other.shortest();
     WideInteger product = 0;
-    if (__builtin_mul_overflow(left.unscaled_, right.unscaled_, &product)) {
+    if (__builtin_mul_overflow(unscaled_, other.unscaled_, &product)) {
         throw errors::digitsNotKept();
     }
-    return {product, left.scale_ + right.scale_};
+    return {product, scale_ + other.scale_};
 }
 
 Decimal Decimal::over(const Decimal& divisor, int places) const {
-    const Decimal left = shortest();
-    const Decimal right = divisor.shortest();
-    const int shift = places + right.scale_ - left.scale_;
-    return shift >= 0 ? Decimal{left.unscaledAt(left.scale_ + shift) / right.unscaled_, places}
-                      : Decimal{left.unscaled_ / right.unscaledAt(right.scale_ - shift), places};
+    const int shift = places + divisor.scale_ - scale_;
+    return shift >= 0 ? Decimal{unscaledAt(scale_ + shift) / divisor.unscaled_, places}
+                      : Decimal{unscaled_ / divisor.unscaledAt(divisor.scale_ - shift), places};
 }
 
 Decimal Decimal::modulo(const Decimal& divisor) const {
-    const Decimal left = shortest();
-    const Decimal right = divisor.shortest();
-    const int scale = std::max(left.scale_, right.scale_);
-    return {left.unscaledAt(scale) % right.unscaledAt(scale), scale};
+    const int scale = std::max(scale_, divisor.scale_);
+    return {unscaledAt(scale) % divisor.unscaledAt(scale), scale};
 }
 
 bool Decimal::fits(const DataType& type) const {
@@ -188,11 +180,12 @@ std::optional<std::int64_t> Decimal::whole() const {
 }
 
 std::optional<double> Decimal::exact() const {
-    const Decimal number = shortest();
-    if (magnitude(number.unscaled_) >= power(kKeptDigits) || number.scale_ > kExactPowers) {
-        return std::nullopt;
-    }
-    return static_cast<double>(number.unscaled_) / exactPower(number.scale_);
+    const auto fits = [](const Decimal& number) {
+        return magnitude(number.unscaled_) < power(kKeptDigits) && number.scale_ <= kExactPowers;
+    };
+    const Decimal number = fits(*this) ? *this : shortest();
+    return fits(number) ? std::optional(static_cast<double>(number.unscaled_) / exactPower(number.scale_))
+                        : std::nullopt;
 }
 
 double Decimal::kept() const {
@@ -200,6 +193,15 @@ double Decimal::kept() const {
         return *number;
     }
     throw errors::digitsNotKept();
+}
+
+Decimal Decimal::shortest() const {
+    Decimal number = *this;
+    while (number.scale_ > 0 && number.unscaled_ % kTen == 0) {
+        number.unscaled_ /= kTen;
+        --number.scale_;
+    }
+    return number;
 }
 
 std::string Decimal::text(int places) const {
@@ -213,16 +215,6 @@ std::string Decimal::text(int places) const {
         digits.append(static_cast<std::size_t>(places) - fraction, '0');
     }
     return unscaled_ < 0 ? '-' + digits : digits;
-}
-
-/// Without zeros at the end of its fraction.
-Decimal Decimal::shortest() const {
-    Decimal number = *this;
-    while (number.scale_ > 0 && number.unscaled_ % kTen == 0) {
-        number.unscaled_ /= kTen;
-        --number.scale_;
-    }
-    return number;
 }
 
 /// With more places, or as many.

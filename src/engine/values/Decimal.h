@@ -29,7 +29,7 @@ public:
 
     /// Half away from zero; of negative places the digits before the point.
     Decimal rounded(int places) const;
-    /// These throw 40517 where the digits on the way are more than 38.
+    /// These throw 40517 where the digits on the way are more than 38; zeros at the end of a fraction are digits too.
     Decimal plus(const Decimal& other) const;
     Decimal times(const Decimal& other) const;
     /// Cut behind so many places. The divisor isn't zero.
@@ -46,6 +46,8 @@ public:
     std::optional<double> exact() const;
     /// Throws 40517.
     double kept() const;
+    /// Without zeros at the end of its fraction.
+    Decimal shortest() const;
     /// With so many places, which aren't fewer than it has.
     std::string text(int places) const;
     std::string text() const { return text(scale_); }
@@ -53,7 +55,6 @@ public:
 private:
     Decimal(WideInteger unscaled, int scale) : unscaled_(unscaled), scale_(scale) {}
 
-    Decimal shortest() const;
     WideInteger unscaledAt(int scale) const;
 
     WideInteger unscaled_;

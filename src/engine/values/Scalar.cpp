@@ -151,7 +151,7 @@ Decimal decimalOf(const Scalar& value) {
 
 Scalar scalarOf(const Decimal& number) {
     const auto exact = number.exact();
-    return exact ? Scalar(*exact) : Scalar(number.text());
+    return exact ? Scalar(*exact) : Scalar(number.shortest().text());
 }
 
 Scalar kept(Scalar decimal) {

@@ -80,6 +80,7 @@ bound::ExpressionPtr Binder::aggregate(const Call& call, const std::string& name
     }
     const bool decimal = wanted.kind == Kind::Decimal;
     made.function = name == "AVG" ? "avg" : decimal ? operators::kDecimalSum : "sum";
+    bound::giveAllDigits(*made.arguments.front());
     result->node = std::move(made);
     result->type = wanted.kind == Kind::Float ? wanted : decimal ? kAnyDecimal : DataType{Kind::BigInt};
     return wanted.kind == Kind::Float ? bound::call(operators::kFloat, wanted, std::move(result))

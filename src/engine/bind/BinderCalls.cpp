@@ -163,6 +163,9 @@ bound::ExpressionPtr Binder::builtIn(const Call& call) {
             arguments.push_back(bound::constant(type, DataType{Kind::BigInt, 0, 0, 0}));
         }
     }
+    if (row->result == Result::Rounded) {
+        bound::giveAllDigits(*arguments.front());
+    }
     const DataType type = resultType(row->result, arguments);
     auto result = bound::callOf(storageName(*row), type, std::move(arguments));
     if (row->result == Result::LongText) {

@@ -66,6 +66,9 @@ Scalar roundOf(FunctionContext& /*context*/, Arguments arguments) {
         }
         return roundedInteger(*integer, -places);
     }
+    if (std::holds_alternative<std::string>(arguments[0])) {
+        return scalarOf(decimalOf(arguments[0]).rounded(static_cast<int>(places)));
+    }
     const double number = numberAt(arguments, 0);
     const auto decimal = Decimal::exactly(number);
     if (const auto rounded = decimal ? decimal->rounded(static_cast<int>(places)).exact() : std::nullopt) {

@@ -18,12 +18,20 @@ Scalar scalarOf(const Literal& literal, bool negated) {
         return {};
     case Literal::Kind::Integer:
     case Literal::Kind::Decimal: {
+        constexpr std::size_t kSureLength = 16; // of 15 digits and a point, which a double keeps
         const std::string digits = (negated ? "-" : "") + literal.text;
+        const char* end = digits.data() + digits.size();
         std::int64_t number = 0;
-        const auto end = digits.data() + digits.size();
         const auto [stop, problem] = std::from_chars(digits.data(), end, number);
-        return problem == std::errc{} && stop == end ? Scalar(number)
-                                                     : scalarOf(*Decimal::parse(digits, kWidestDecimal));
+        if (problem == std::errc{} && stop == end) {
+            return number;
+        }
+        if (literal.text.size() > kSureLength) {
+            return scalarOf(*Decimal::parse(digits, kWidestDecimal));
+        }
+        double nearest = 0;
+        std::from_chars(digits.data(), end, nearest);
+        return nearest;
     }
     case Literal::Kind::Float: {
         const double number = std::strtod(literal.text.c_str(), nullptr);

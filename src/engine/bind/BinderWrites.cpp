@@ -32,7 +32,7 @@ bound::ExpressionPtr Binder::bindDefault(const ColumnInfo& column) {
     mode_ = Mode::Default;
     auto value = expression(*parseExpression(*column.defaultText));
     mode_ = Mode::Statement;
-    return convertWritten(std::move(value), column.type, Purpose::Assignment);
+    return convertTo(std::move(value), column.type, Purpose::Assignment);
 }
 
 bound::ExpressionPtr Binder::assigned(const Expression* value, const ColumnInfo& column) {

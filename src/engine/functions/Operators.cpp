@@ -46,7 +46,7 @@ Decimal calculated(Binary::Operator op, const Decimal& left, const Decimal& righ
     case Binary::Operator::Subtract:
         return left.plus(right.negated());
     case Binary::Operator::Multiply:
-        return left.times(right).rounded(places);
+        return left.times(right);
     default:
         break;
     }

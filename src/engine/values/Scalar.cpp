@@ -134,9 +134,7 @@ Scalar convertDecimal(const Scalar& value, const ConversionRequest& request) {
     if (target.isInteger()) {
         return engine::toInteger(request.from.isMoney() ? number.rounded(0) : number, target);
     }
-    const int places = request.from.scale;
-    return fit(request.from.isMoney() ? moneyText(number, request.style) : number.rounded(places).text(places),
-               request);
+    return fit(request.from.isMoney() ? moneyText(number, request.style) : number.text(request.from.scale), request);
 }
 
 } // namespace

@@ -2,7 +2,6 @@
 
 #include "engine/text/Lexer.h"
 #include "engine/values/Ascii.h"
-#include "engine/values/Scalar.h"
 
 #include <algorithm>
 #include <iterator>

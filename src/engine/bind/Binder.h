@@ -106,15 +106,20 @@ private:
     bound::ExpressionPtr node(const Conversion& conversion);
     bound::ExpressionPtr node(const ServerVariable& variable);
     bound::ExpressionPtr literal(const Literal& literal, bool negated);
-    bound::ExpressionPtr negated(bound::ExpressionPtr operand);
-    bound::ExpressionPtr arithmetic(Binary::Operator op, bound::ExpressionPtr left, bound::ExpressionPtr right);
-    DataType digitsOf(const bound::Expression& number);
-    bound::Parameter* bareLiteral(const bound::Expression& value);
-    void freeDigits(const bound::Expression& value);
     bound::ExpressionPtr compare(const char* op, bound::ExpressionPtr left, bound::ExpressionPtr right);
 
-    // BinderCalls.cpp
+    // BinderArithmetic.cpp
+    bound::ExpressionPtr negated(bound::ExpressionPtr operand);
+    bound::ExpressionPtr arithmetic(Binary::Operator op, bound::ExpressionPtr left, bound::ExpressionPtr right);
+    static bound::ExpressionPtr decimals(Binary::Operator op, bound::ExpressionPtr left, bound::ExpressionPtr right,
+                                         const DataType& type);
+    DataType digitsOf(const bound::Expression& number);
+
+    // BinderAggregates.cpp
     bound::ExpressionPtr aggregate(const Call& call, const std::string& name);
+    bound::ExpressionPtr average(const Call& call, const DataType& sumType);
+
+    // BinderCalls.cpp
     bound::ExpressionPtr builtIn(const Call& call);
     bound::ExpressionPtr argument(const Call& call, std::size_t place, FunctionParameter::Kind kind);
 
@@ -123,6 +128,8 @@ private:
                                    std::optional<int> style = std::nullopt);
     bound::ExpressionPtr convertWritten(bound::ExpressionPtr value, const DataType& type, Purpose purpose,
                                         std::optional<int> style = std::nullopt);
+    bound::Parameter* bareLiteral(const bound::Expression& value);
+    void freeDigits(const bound::Expression& value);
     bound::ExpressionPtr collated(bound::ExpressionPtr value) const;
 
     // BinderWrites.cpp

@@ -41,20 +41,19 @@ DataType resultType(Result result, const std::vector<bound::ExpressionPtr>& argu
     case Result::AsFirst:
     case Result::AsFirstBeyond:
         return arguments.front()->type;
+    case Result::Rounded:
+    case Result::Whole:
+        break;
     }
-    return {};
-}
-
-/// SUM and AVG of the small integers are ints, of decimals wide decimals.
-DataType sumType(const DataType& type, bool average) {
-    if (type.kind == Kind::Decimal) {
-        constexpr int kLeastAverageScale = 6;
-        return {Kind::Decimal, 0, kWidestDecimal, average ? std::max(type.scale, kLeastAverageScale) : type.scale};
+    DataType type = arguments.front()->type;
+    if (type.kind == Kind::TinyInt || type.kind == Kind::SmallInt) {
+        type.kind = Kind::Int;
+    } else if (type.kind == Kind::Real) {
+        type.kind = Kind::Float;
+    } else if (type.kind == Kind::Decimal && !type.isMoney() && result == Result::Whole) {
+        type.scale = 0;
     }
-    if (type.kind == Kind::BigInt) {
-        return type;
-    }
-    return type.isInteger() ? DataType{Kind::Int, 0, 0, 0} : DataType{Kind::Float, 0, 0, 0};
+    return type;
 }
 
 } // namespace
@@ -117,65 +116,6 @@ bound::ExpressionPtr Binder::node(const Call& call) {
     return builtIn(call);
 }
 
-bound::ExpressionPtr Binder::aggregate(const Call& call, const std::string& name) {
-    if (insideAggregate_) {
-        throw errors::aggregateOfAggregate();
-    }
-    if (scope_ == nullptr) {
-        throw errors::aggregateMisplaced();
-    }
-    bound::Call made;
-    made.aggregate = true;
-    made.distinct = call.distinct;
-    made.star = call.star;
-    auto result = std::make_unique<bound::Expression>();
-    const bool counts = name == "COUNT" || name == "COUNT_BIG";
-    if (call.star && !counts) {
-        throw errors::syntaxNear("*", -1);
-    }
-    if (!call.star) {
-        if (call.arguments.size() != 1) {
-            throw errors::argumentCount(call.function, 1);
-        }
-        insideAggregate_ = true;
-        made.arguments.push_back(collated(expression(*call.arguments.front())));
-        insideAggregate_ = false;
-    }
-    Scope& owner = ownerOf(made, *scope_);
-    if (!owner.aggregates) {
-        throw errors::aggregateMisplaced();
-    }
-    owner.sawAggregate = true;
-    const DataType type = call.star ? DataType{} : made.arguments.front()->type;
-    if (counts) {
-        made.function = "count";
-        result->nullable = false;
-        result->type = {name == "COUNT" ? Kind::Int : Kind::BigInt, 0, 0, 0};
-        result->node = std::move(made);
-        return result;
-    }
-    if (name == "MIN" || name == "MAX") {
-        made.function = name == "MIN" ? "min" : "max";
-        if (type.kind == Kind::Bit) {
-            throw errors::aggregateOfText(typeName(type), made.function);
-        }
-        result->type = type;
-        result->node = std::move(made);
-        return result;
-    }
-    if (!type.isNumber() || type.kind == Kind::Bit) {
-        throw errors::aggregateOfText(typeName(type), name == "SUM" ? "sum" : "avg");
-    }
-    const bool average = name == "AVG";
-    const DataType wanted = sumType(type, average);
-    made.function = !average ? "sum" : wanted.isInteger() ? operators::kIntegerAverage : "avg";
-    result->node = std::move(made);
-    result->type =
-        wanted.kind == Kind::Float ? wanted : DataType{wanted.isInteger() ? Kind::BigInt : Kind::Float, 0, 0, 0};
-    return wanted.kind == Kind::Float ? bound::call(operators::kFloat, wanted, std::move(result))
-                                      : convertTo(std::move(result), wanted, Purpose::Cast);
-}
-
 bound::ExpressionPtr Binder::argument(const Call& call, std::size_t place, FunctionParameter::Kind kind) {
     const Expression& written = *call.arguments[place];
     if (kind == Parameter::DatePart) {
@@ -230,6 +170,9 @@ bound::ExpressionPtr Binder::builtIn(const Call& call) {
             arguments.push_back(bound::constant(type, DataType{Kind::BigInt, 0, 0, 0}));
         }
     }
+    if (row->result == Result::Rounded) {
+        bound::giveAllDigits(*arguments.front());
+    }
     const DataType type = resultType(row->result, arguments);
     auto result = bound::callOf(storageName(*row), type, std::move(arguments));
     if (row->result == Result::LongText) {
@@ -239,8 +182,11 @@ bound::ExpressionPtr Binder::builtIn(const Call& call) {
         result->type.length = -1;
         return convertTo(std::move(result), type, Purpose::Cast);
     }
-    if (row->result == Result::AsFirstBeyond && type.kind != Kind::Float) {
-        result->type = DataType{type.isInteger() ? Kind::BigInt : Kind::Float, 0, 0, 0};
+    const bool beyond = row->result == Result::AsFirstBeyond || row->result == Result::Rounded;
+    if (beyond && type.kind != Kind::Float) {
+        result->type = type.isInteger()             ? DataType{Kind::BigInt}
+                       : type.kind == Kind::Decimal ? kAnyDecimal
+                                                    : DataType{Kind::Float};
         return convertTo(std::move(result), type, Purpose::Cast);
     }
     return result;

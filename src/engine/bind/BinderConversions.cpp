@@ -10,16 +10,16 @@ namespace {
 
 using Kind = DataType::Kind;
 
-int rank(Kind kind) {
-    switch (kind) {
+int rank(const DataType& type) {
+    switch (type.kind) {
     case Kind::DateTime:
-        return 14;
+        return 15;
     case Kind::Float:
-        return 13;
+        return 14;
     case Kind::Real:
-        return 12;
+        return 13;
     case Kind::Decimal:
-        return 11;
+        return type.isMoney() ? 11 : 12;
     case Kind::BigInt:
         return 10;
     case Kind::Int:
@@ -53,7 +53,7 @@ bound::ExpressionPtr number(std::int64_t value) {
 } // namespace
 
 DataType commonType(const DataType& left, const DataType& right) {
-    const DataType& winner = rank(left.kind) >= rank(right.kind) ? left : right;
+    const DataType& winner = rank(left) >= rank(right) ? left : right;
     const DataType& loser = &winner == &left ? right : left;
     DataType result = winner;
     if (winner.isText() && loser.isText()) {
@@ -67,7 +67,7 @@ DataType commonType(const DataType& left, const DataType& right) {
         result.scale = std::max(left.scale, right.scale);
         result.precision = std::min(
             kWidestDecimal, std::max(left.precision - left.scale, right.precision - right.scale) + result.scale);
-    } else if (winner.kind == Kind::Decimal && loser.isInteger()) {
+    } else if (winner.kind == Kind::Decimal && !winner.isMoney() && loser.isInteger()) {
         constexpr int kDigitsOfBigInt = 19;
         constexpr int kDigitsOfInt = 10;
         const int digits = loser.kind == Kind::BigInt ? kDigitsOfBigInt : kDigitsOfInt;
@@ -93,6 +93,7 @@ bound::ExpressionPtr Binder::convertTo(bound::ExpressionPtr value, const DataTyp
             return value;
         }
     }
+    bound::giveAllDigits(*value);
     const DataType from = value->type;
     const bool nullable = value->nullable;
     auto result =

@@ -14,38 +14,6 @@ constexpr int kDeepestExpression = 400;
 
 using Kind = DataType::Kind;
 
-const char* operatorText(Binary::Operator op) {
-    switch (op) {
-    case Binary::Operator::Equal:
-        return "=";
-    case Binary::Operator::NotEqual:
-        return "<>";
-    case Binary::Operator::Less:
-        return "<";
-    case Binary::Operator::LessEqual:
-        return "<=";
-    case Binary::Operator::Greater:
-        return ">";
-    case Binary::Operator::GreaterEqual:
-        return ">=";
-    case Binary::Operator::And:
-        return "AND";
-    case Binary::Operator::Or:
-        return "OR";
-    case Binary::Operator::Add:
-        return "+";
-    case Binary::Operator::Subtract:
-        return "-";
-    case Binary::Operator::Multiply:
-        return "*";
-    case Binary::Operator::Divide:
-        return "/";
-    case Binary::Operator::Modulo:
-        return "%";
-    }
-    return "";
-}
-
 /// The operands of `a or b or c` in the order of the text. The parser nests such a chain to the left; a loop over its
 /// links needs no recursion.
 std::vector<const Expression*> chainOf(const Binary& top) {
@@ -154,25 +122,6 @@ bound::ExpressionPtr Binder::node(const Unary& unary) {
     throw InternalError("an operator without a meaning");
 }
 
-bound::ExpressionPtr Binder::negated(bound::ExpressionPtr operand) {
-    DataType type = operand->type;
-    if (!type.isNumber() && type.kind != Kind::Unknown) {
-        throw errors::aggregateOfText(typeName(type), "minus");
-    }
-    if (type.kind == Kind::Bit) {
-        type = DataType{Kind::Int};
-    } else if (type.kind == Kind::TinyInt) {
-        type = DataType{Kind::SmallInt};
-    }
-    auto result = bound::prefix("-", std::move(operand), type);
-    if (!type.isInteger()) {
-        return result;
-    }
-    // Minus the smallest integer of a type is outside of the type.
-    result = bound::call(operators::kBigInt, DataType{Kind::BigInt}, std::move(result));
-    return convertTo(std::move(result), type, Purpose::Cast);
-}
-
 bound::ExpressionPtr Binder::node(const Binary& binary) {
     if (binary.op == Binary::Operator::And || binary.op == Binary::Operator::Or) {
         std::vector<bound::ExpressionPtr> conditions;
@@ -202,75 +151,15 @@ bound::ExpressionPtr Binder::compare(const char* op, bound::ExpressionPtr left, 
     freeDigits(*left);
     freeDigits(*right);
     const auto meet = [&](bound::ExpressionPtr side) {
-        // Numbers of two types are compared without a conversion, and so are texts of two lengths.
-        const bool alike = (side->type.isNumber() && common.isNumber()) || (side->type.isText() && common.isText());
+        // Numbers of two types are compared without a conversion, and so are texts of two lengths. A real is the float
+        // nearest to a number, and a literal next to a float may have more digits than a decimal keeps.
+        const bool numbers = side->type.isNumber() && common.isNumber() && common.kind != Kind::Real;
+        const bool literal = side->type.kind == Kind::Decimal && common.kind == Kind::Float && bareLiteral(*side);
+        const bool alike = (numbers && !literal) || (side->type.isText() && common.isText());
         return alike ? std::move(side) : convertTo(std::move(side), comparable(common), Purpose::Cast);
     };
     left = collated(meet(std::move(left)));
     return bound::infix(op, std::move(left), meet(std::move(right)), DataType{Kind::Bit});
-}
-
-/// Next to a decimal, an integer literal counts as a decimal with as many digits as it has.
-DataType Binder::digitsOf(const bound::Expression& number) {
-    bound::Parameter* literal = number.type.isInteger() ? bareLiteral(number) : nullptr;
-    if (literal == nullptr) {
-        return number.type;
-    }
-    literal->digitsMatter = true;
-    return decimalOf(literal->constant);
-}
-
-bound::ExpressionPtr Binder::arithmetic(Binary::Operator op, bound::ExpressionPtr left, bound::ExpressionPtr right) {
-    DataType common = commonType(left->type, right->type);
-    if (common.isText()) {
-        if (op != Binary::Operator::Add) {
-            static constexpr const char* kNames[] = {"add", "subtract", "multiply", "divide", "modulo"};
-            throw errors::incompatibleTypes(typeName(left->type), typeName(right->type), kNames[static_cast<int>(op)]);
-        }
-        const bool long_ = left->type.length < 0 || right->type.length < 0;
-        const int length = left->type.length + right->type.length;
-        common.length = long_ ? -1 : length;
-        auto joined = bound::infix("||", std::move(left), std::move(right), common);
-        if (length <= longestText(common) || long_) {
-            return joined;
-        }
-        common.length = longestText(common);
-        return convertTo(std::move(joined), common, Purpose::Cast);
-    }
-    if (common.kind == Kind::Unknown || common.kind == Kind::Bit) {
-        common = DataType{Kind::Int};
-    }
-    if (common.kind == Kind::DateTime) {
-        auto days = arithmetic(op, convertTo(std::move(left), DataType{Kind::Float}, Purpose::Cast),
-                               convertTo(std::move(right), DataType{Kind::Float}, Purpose::Cast));
-        return convertTo(std::move(days), common, Purpose::Cast);
-    }
-    const bool decimal = common.kind == Kind::Decimal;
-    const DataType leftType = left->type.isNumber() ? decimal ? digitsOf(*left) : left->type : common;
-    const DataType rightType = right->type.isNumber() ? decimal ? digitsOf(*right) : right->type : common;
-    const auto meet = [&](bound::ExpressionPtr side) {
-        return side->type.isNumber() ? std::move(side) : convertTo(std::move(side), common, Purpose::Cast);
-    };
-    left = meet(std::move(left));
-    right = meet(std::move(right));
-    bound::ExpressionPtr result;
-    const DataType wide{common.isInteger() ? Kind::BigInt : Kind::Float};
-    if (op == Binary::Operator::Divide) {
-        result = bound::call(operators::kDivide, wide, std::move(left), std::move(right),
-                             bound::constant(common.isInteger() ? "1" : "0", DataType{Kind::Int}));
-    } else if (op == Binary::Operator::Modulo) {
-        result = bound::call(operators::kModulo, wide, std::move(left), std::move(right));
-    } else {
-        result = bound::infix(operatorText(op), std::move(left), std::move(right), wide);
-    }
-    if (common.kind == Kind::Float) {
-        return bound::call(operators::kFloat, common, std::move(result));
-    }
-    if (common.kind == Kind::BigInt) {
-        result->type = DataType{Kind::Unknown};
-        return bound::call(operators::kBigInt, common, std::move(result));
-    }
-    return convertTo(std::move(result), decimal ? decimalResult(op, leftType, rightType) : common, Purpose::Cast);
 }
 
 /// One character, which is part of the plan.

@@ -1,5 +1,6 @@
 #include "engine/bind/Binder.h"
 #include "engine/errors/BindErrors.h"
+#include "engine/functions/Operators.h"
 
 #include <algorithm>
 
@@ -29,9 +30,10 @@ bool sameParameter(const Expression& left, const Expression& right, Parameters& 
     return first.constant.text == second.constant.text && first.negated == second.negated;
 }
 
+/// But for so many at the end of each.
 bool sameAll(const std::vector<bound::ExpressionPtr>& left, const std::vector<bound::ExpressionPtr>& right,
-             Parameters& parameters) {
-    return std::equal(left.begin(), left.end(), right.begin(), right.end(),
+             Parameters& parameters, std::ptrdiff_t last = 0) {
+    return std::equal(left.begin(), left.end() - last, right.begin(), right.end() - last,
                       [&](const bound::ExpressionPtr& a, const bound::ExpressionPtr& b) {
                           return sameExpression(*a, *b, parameters) || sameParameter(*a, *b, parameters);
                       });
@@ -40,7 +42,10 @@ bool sameAll(const std::vector<bound::ExpressionPtr>& left, const std::vector<bo
 bool sameShape(const Expression& left, const Expression& right, Parameters& parameters) {
     if (const auto* call = std::get_if<bound::Call>(&left.node)) {
         const auto& other = std::get<bound::Call>(right.node);
-        return call->function == other.function && sameAll(call->arguments, other.arguments, parameters);
+        // How many digits are taken of an arithmetic is no part of it.
+        const bool sameDigits = call->function == operators::kDecimal;
+        return call->function == other.function &&
+               sameAll(call->arguments, other.arguments, parameters, sameDigits ? 1 : 0);
     }
     if (const auto* operation = std::get_if<bound::Operation>(&left.node)) {
         const auto& other = std::get<bound::Operation>(right.node);

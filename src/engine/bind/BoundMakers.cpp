@@ -1,5 +1,7 @@
 #include "engine/bind/BoundMakers.h"
 
+#include "engine/functions/Operators.h"
+
 #include <algorithm>
 
 namespace engine {
@@ -88,16 +90,25 @@ ExpressionPtr callOf(std::string function, const DataType& type, std::vector<Exp
     return result;
 }
 
+void giveAllDigits(Expression& value) {
+    auto* call = std::get_if<Call>(&value.node);
+    if (call != nullptr && call->function == operators::kDecimal) {
+        call->arguments.back() = constant("1", DataType{Kind::Int});
+    }
+}
+
 } // namespace bound
+
+const char* operatorText(Binary::Operator op) {
+    static constexpr const char* kTexts[] = {"+", "-", "*", "/", "%", "=", "<>", "<", "<=", ">", ">=", "AND", "OR"};
+    return kTexts[static_cast<int>(op)];
+}
 
 DataType comparable(const DataType& type) {
     if (type.isText()) {
         return {type.kind == Kind::Char || type.kind == Kind::VarChar ? Kind::VarChar : Kind::NVarChar, -1, 0, 0};
     }
-    if (type.kind == Kind::Decimal) {
-        return {Kind::Float, 0, 0, 0};
-    }
-    return type;
+    return type.kind == Kind::Decimal && !type.isMoney() ? kAnyDecimal : type;
 }
 
 int longestText(const DataType& type) {
@@ -109,23 +120,23 @@ DataType decimalResult(Binary::Operator op, const DataType& leftType, const Data
     const DataType right = asDecimal(rightType);
     DataType result{Kind::Decimal, 0, 0, 0};
     const bool quotient = op == Binary::Operator::Divide || op == Binary::Operator::Multiply;
+    const int leftWhole = left.precision - left.scale;
+    const int rightWhole = right.precision - right.scale;
     if (op == Binary::Operator::Divide) {
         result.scale = std::max(kLeastQuotientScale, left.scale + right.precision + 1);
-        result.precision = left.precision - left.scale + right.scale + result.scale;
+        result.precision = leftWhole + right.scale + result.scale;
     } else if (op == Binary::Operator::Multiply) {
         result.scale = left.scale + right.scale;
         result.precision = left.precision + right.precision + 1;
     } else {
         result.scale = std::max(left.scale, right.scale);
-        result.precision = std::max(left.precision - left.scale, right.precision - right.scale) + result.scale + 1;
+        result.precision = op == Binary::Operator::Modulo ? std::min(leftWhole, rightWhole) + result.scale
+                                                          : std::max(leftWhole, rightWhole) + result.scale + 1;
     }
     if (result.precision > kWidestDecimal) {
         const int whole = result.precision - result.scale;
-        if (quotient) {
-            result.scale = std::max(kWidestDecimal - whole, std::min(result.scale, kLeastQuotientScale));
-        } else {
-            result.scale = std::max(kWidestDecimal - whole, 0);
-        }
+        result.scale = quotient ? std::max(kWidestDecimal - whole, std::min(result.scale, kLeastQuotientScale))
+                                : std::min(kWidestDecimal - std::max(leftWhole, rightWhole), result.scale);
         result.precision = kWidestDecimal;
     }
     return result;

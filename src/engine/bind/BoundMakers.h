@@ -26,8 +26,13 @@ ExpressionPtr call(std::string function, const DataType& type, Pointers... argum
     return callOf(std::move(function), type, std::move(list));
 }
 
+/// For who takes a result of decimals by all its digits: without this it is refused where a double doesn't keep it.
+void giveAllDigits(Expression& value);
+
 } // namespace bound
 
+/// As SQLite writes it.
+const char* operatorText(Binary::Operator op);
 /// The type in which values are compared: no length cuts a text, no scale rounds a number.
 DataType comparable(const DataType& type);
 /// The longest text of a kind that is not `max`.

@@ -15,6 +15,8 @@ inline constexpr ErrorText<> dateOutOfRange{
     242, Reach::Batch,
     "The conversion of a varchar data type to a datetime data type resulted in an "
     "out-of-range value."};
+inline constexpr ErrorText<> moneyOfText{235, Reach::Batch,
+                                         "Cannot convert a char value to money. The char value has incorrect syntax."};
 /// `column` is INT1 or INT2.
 inline constexpr ErrorText<Text, Text, Text> textOverflowsSmallInt{
     244, Reach::Batch,
@@ -35,5 +37,11 @@ inline constexpr ErrorText<Text, Text> overflow{8115, Reach::Statement, conversi
 inline constexpr ErrorText<> truncated{8152, Reach::Statement, "String or binary data would be truncated."};
 inline constexpr ErrorText<int> dateStyleFromText{
     9809, Reach::Batch, "The style {style} is not supported for conversions from varchar to datetime."};
+/// A value that a server takes and this one doesn't, in the words in which a server of another edition refuses.
+inline constexpr ErrorText<Text> valueNotSupported{
+    40517, Reach::Batch, "Keyword or statement option '{value}' is not supported in this version of SQL Server."};
+inline Error digitsNotKept() {
+    return valueNotSupported("decimal with more than 15 significant digits");
+}
 
 } // namespace engine::errors

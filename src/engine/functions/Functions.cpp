@@ -57,13 +57,24 @@ struct Registration {
     FunctionContext* context;
 };
 
+/// Runs a body of the storage's; its refusal waits in the context until the statement has failed.
+template<class Body>
+void guarded(sqlite3_context* context, FunctionContext& functions, Body body) {
+    // Nothing may be thrown through the storage.
+    try {
+        body();
+    } catch (...) {
+        functions.refusal = std::current_exception();
+        sqlite3_result_error(context, "refused", -1);
+    }
+}
+
 void call(sqlite3_context* context, int count, sqlite3_value** values) {
     constexpr std::size_t kMostArguments = 8;
     const auto& registration = *static_cast<const Registration*>(sqlite3_user_data(context));
     std::array<Scalar, kMostArguments> arguments;
     const auto used = std::min(static_cast<std::size_t>(count), kMostArguments);
-    // Nothing may be thrown through the storage: the refusal waits in the context until the statement has failed.
-    try {
+    guarded(context, *registration.context, [&] {
         for (std::size_t i = 0; i < used; ++i) {
             arguments[i] = scalarOf(values[i]);
             if (registration.nullGivesNull && isNull(arguments[i])) {
@@ -71,10 +82,7 @@ void call(sqlite3_context* context, int count, sqlite3_value** values) {
             }
         }
         give(context, registration.body(*registration.context, Arguments(arguments.data(), used)));
-    } catch (...) {
-        registration.context->refusal = std::current_exception();
-        sqlite3_result_error(context, "refused", -1);
-    }
+    });
 }
 
 template<bool blanksCount>
@@ -94,6 +102,28 @@ void callLike(sqlite3_context* context, int count, sqlite3_value** values) {
 /// Returns its argument. The storage doesn't take the result of a call for a constant.
 void callLiteral(sqlite3_context* context, int /*count*/, sqlite3_value** values) {
     sqlite3_result_value(context, values[0]);
+}
+
+void addToSum(sqlite3_context* context, int /*count*/, sqlite3_value** values) {
+    guarded(context, *static_cast<FunctionContext*>(sqlite3_user_data(context)), [&] {
+        // The storage's memory begins as zeros; giveSum is called behind the last row, and where the statement fails.
+        auto** sum = static_cast<Decimal**>(sqlite3_aggregate_context(context, sizeof(Decimal*)));
+        if (sum == nullptr || sqlite3_value_type(values[0]) == SQLITE_NULL) {
+            return;
+        }
+        const Decimal value = decimalOf(scalarOf(values[0]));
+        if (*sum == nullptr) {
+            *sum = new Decimal(value);
+        } else {
+            **sum = (*sum)->plus(value);
+        }
+    });
+}
+
+void giveSum(sqlite3_context* context) {
+    auto** place = static_cast<Decimal**>(sqlite3_aggregate_context(context, 0));
+    const std::unique_ptr<Decimal> sum(place == nullptr ? nullptr : *place);
+    give(context, sum ? scalarOf(*sum) : Scalar());
 }
 
 void check(int code) {
@@ -162,6 +192,8 @@ void registerFunctions(sqlite::Connection& connection, FunctionContext& context)
     for (const OperatorRow& row : operatorRows()) {
         add(connection, row.name, static_cast<std::size_t>(row.arguments), {row.body, true, &context});
     }
+    check(sqlite3_create_function_v2(connection.handle(), operators::kDecimalSum, 1, SQLITE_UTF8, &context, nullptr,
+                                     addToSum, giveSum, nullptr));
     addPlain(connection, operators::kLiteral, 1, 0, callLiteral);
     for (const int arguments : {2, 3}) {
         addPlain(connection, operators::kLike, arguments, SQLITE_DETERMINISTIC, callLike<false>);

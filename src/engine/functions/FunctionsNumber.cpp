@@ -66,52 +66,21 @@ Scalar roundOf(FunctionContext& /*context*/, Arguments arguments) {
         }
         return roundedInteger(*integer, -places);
     }
+    if (std::holds_alternative<std::string>(arguments[0])) {
+        return scalarOf(decimalOf(arguments[0]).rounded(static_cast<int>(places)));
+    }
     const double number = numberAt(arguments, 0);
+    const auto decimal = Decimal::exactly(number);
+    if (const auto rounded = decimal ? decimal->rounded(static_cast<int>(places)).exact() : std::nullopt) {
+        return *rounded;
+    }
     if (places < 0) {
         const double unit = std::pow(10.0, static_cast<double>(-places));
         return finiteNumber(std::round(number / unit) * unit, {DataType::Kind::Float});
     }
-    if (std::fabs(number) >= kWholeFrom) {
-        return number;
-    }
-    return toDecimal(number, DataType{DataType::Kind::Decimal, 0, kWidestDecimal, static_cast<int>(places)});
-}
-
-/// An amount: currency and sign once each, digits with commas, a point. Nothing but one of these is a number too.
-bool isAmount(std::string_view text) {
-    bool currency = false;
-    bool sign = false;
-    bool point = false;
-    bool begun = false;
-    while (!text.empty()) {
-        const auto takes = [&](std::string_view wanted) {
-            const bool found = text.starts_with(wanted);
-            text.remove_prefix(found ? wanted.size() : 0);
-            return found;
-        };
-        if (takes("$") || takes("€") || takes("£") || takes("¥")) {
-            if (currency || begun) {
-                return false;
-            }
-            currency = true;
-        } else if (takes("+") || takes("-")) {
-            if (sign || begun) {
-                return false;
-            }
-            sign = true;
-        } else if (takes(".")) {
-            if (point) {
-                return false;
-            }
-            point = begun = true;
-        } else if (isDigit(text.front()) || (text.front() == ',' && !point)) {
-            text.remove_prefix(1);
-            begun = true;
-        } else {
-            return false;
-        }
-    }
-    return true;
+    const auto rounded =
+        std::fabs(number) < kWholeFrom ? Decimal::ofFloat(number, static_cast<int>(places)).exact() : std::nullopt;
+    return rounded.value_or(number);
 }
 
 Scalar isNumeric(FunctionContext& /*context*/, Arguments arguments) {
@@ -124,16 +93,14 @@ Scalar isNumeric(FunctionContext& /*context*/, Arguments arguments) {
         toFloat(written);
         return std::int64_t{!written.empty()};
     } catch (const Error&) {
-        return std::int64_t{isAmount(written)};
+        return std::int64_t{digitsOfAmount(written).has_value()};
     }
 }
 
 constexpr FunctionRow kFunctions[] = {
-    {"ABS", {kNumber}, Result::AsFirstBeyond, absolute},
-    {"CEILING", {kNumber}, Result::AsFirst, ceilingOf},
-    {"FLOOR", {kNumber}, Result::AsFirst, floorOf},
-    {"ISNUMERIC", {kAny}, Result::Int, isNumeric, kNullsTaken},
-    {"ROUND", {kNumber, kInt}, Result::AsFirstBeyond, roundOf},
+    {"ABS", {kNumber}, Result::AsFirstBeyond, absolute},  {"CEILING", {kNumber}, Result::Whole, ceilingOf},
+    {"FLOOR", {kNumber}, Result::Whole, floorOf},         {"ISNUMERIC", {kAny}, Result::Int, isNumeric, kNullsTaken},
+    {"ROUND", {kNumber, kInt}, Result::Rounded, roundOf},
 };
 
 } // namespace

@@ -192,7 +192,11 @@ Scalar dataLength(FunctionContext& /*context*/, Arguments arguments) {
     case DataType::Kind::Real:
         return std::int64_t{4};
     case DataType::Kind::Decimal:
-        return std::int64_t{type.precision <= 9 ? 5 : type.precision <= 19 ? 9 : type.precision <= 28 ? 13 : 17};
+        return std::int64_t{type.isMoney()         ? kMoneyLength
+                            : type.precision <= 9  ? 5
+                            : type.precision <= 19 ? 9
+                            : type.precision <= 28 ? 13
+                                                   : 17};
     default:
         return std::int64_t{8};
     }

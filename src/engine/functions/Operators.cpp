@@ -3,9 +3,9 @@
 #include "engine/errors/FunctionErrors.h"
 #include "engine/errors/ValueErrors.h"
 #include "engine/functions/FunctionRows.h"
+#include "engine/text/Tree.h"
 #include "engine/values/Conversions.h"
 
-#include <cmath>
 #include <limits>
 
 namespace engine {
@@ -32,15 +32,40 @@ Scalar divide(FunctionContext& /*context*/, Arguments arguments) {
 }
 
 Scalar modulo(FunctionContext& /*context*/, Arguments arguments) {
-    if (numberAt(arguments, 1) == 0.0) {
+    if (integerAt(arguments, 1) == 0) {
         throw errors::divideByZero();
     }
-    const auto* left = std::get_if<std::int64_t>(&arguments[0]);
-    const auto* right = std::get_if<std::int64_t>(&arguments[1]);
-    if (left == nullptr || right == nullptr) {
-        return std::fmod(numberAt(arguments, 0), numberAt(arguments, 1));
+    const std::int64_t divisor = integerAt(arguments, 1);
+    return divisor == -1 ? std::int64_t{0} : integerAt(arguments, 0) % divisor;
+}
+
+Decimal calculated(Binary::Operator op, const Decimal& left, const Decimal& right, int places) {
+    switch (op) {
+    case Binary::Operator::Add:
+        return left.plus(right);
+    case Binary::Operator::Subtract:
+        return left.plus(right.negated());
+    case Binary::Operator::Multiply:
+        return left.times(right);
+    default:
+        break;
     }
-    return *right == -1 ? Scalar(std::int64_t{0}) : Scalar(*left % *right);
+    if (right.isZero()) {
+        throw errors::divideByZero();
+    }
+    return op == Binary::Operator::Divide ? left.over(right, places) : left.modulo(right);
+}
+
+Scalar decimal(FunctionContext& /*context*/, Arguments arguments) {
+    const auto op = static_cast<Binary::Operator>(integerAt(arguments, 2));
+    const DataType type = decodeType(integerAt(arguments, 3));
+    const Decimal result =
+        calculated(op, decimalOf(arguments[0]), decimalOf(arguments[1]), type.scale).rounded(type.scale);
+    if (!result.fits(type)) {
+        throw errors::overflow("expression", typeName(type));
+    }
+    const Scalar value = scalarOf(result);
+    return integerAt(arguments, 4) != 0 ? value : kept(value);
 }
 
 /// value, type it has, type it gets, style or -1, 1 where it is an assignment
@@ -75,9 +100,10 @@ Scalar tooManyRows(FunctionContext& /*context*/, Arguments /*arguments*/) {
 }
 
 constexpr OperatorRow kOperators[] = {
-    {operators::kBigInt, 1, bigInteger}, {operators::kConvert, 5, convertValue},
-    {operators::kDivide, 3, divide},     {operators::kFloat, 1, floatNumber},
-    {operators::kModulo, 2, modulo},     {operators::kTooManyRows, 0, tooManyRows},
+    {operators::kBigInt, 1, bigInteger},       {operators::kConvert, 5, convertValue},
+    {operators::kDecimal, 5, decimal},         {operators::kDivide, 3, divide},
+    {operators::kFloat, 1, floatNumber},       {operators::kModulo, 2, modulo},
+    {operators::kTooManyRows, 0, tooManyRows},
 };
 
 } // namespace

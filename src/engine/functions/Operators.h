@@ -11,14 +11,15 @@ namespace engine {
 namespace operators {
 constexpr const char* kBigInt = "tsql_bigint";   ///< a sum or product of bigints, refused outside their range
 constexpr const char* kConvert = "tsql_convert"; ///< value, its type, the wanted type, style or -1, 1 to assign
-constexpr const char* kDivide = "tsql_divide";   ///< dividend, divisor, 1 where integers stay integers
-constexpr const char* kFloat = "tsql_float";     ///< a sum or product of floats, refused where infinite
-/// The average of integers; no function of the storage, but written by the translator as a sum over a count.
-constexpr const char* kIntegerAverage = "tsql_avg_int";
+/// Arithmetic of decimals: left, right, operator, type of the result, 1 where its digits may go beyond those kept.
+constexpr const char* kDecimal = "tsql_decimal";
+constexpr const char* kDecimalSum = "tsql_sum";             ///< an aggregate: the sum of decimals, exact
+constexpr const char* kDivide = "tsql_divide";              ///< dividend, divisor, 1 where integers stay integers
+constexpr const char* kFloat = "tsql_float";                ///< a sum or product of floats, refused where infinite
 constexpr const char* kLikeNational = "tsql_like_national"; ///< of national texts, whose last blanks count
 constexpr const char* kLike = "tsql_like";                  ///< text, pattern, perhaps the escape character
 constexpr const char* kLiteral = "tsql_literal";            ///< its argument, which the storage takes for no constant
-constexpr const char* kModulo = "tsql_modulo";              ///< dividend, divisor
+constexpr const char* kModulo = "tsql_modulo";              ///< dividend, divisor, both integers
 constexpr const char* kTooManyRows = "tsql_too_many_rows";  ///< error 512
 } // namespace operators
 
@@ -28,7 +29,7 @@ struct OperatorRow {
     FunctionBody body;
 };
 
-/// All but kLike and kLiteral, which the storage calls without this layer.
+/// All but kDecimalSum, kLike and kLiteral, which the storage calls without this layer.
 std::span<const OperatorRow> operatorRows();
 
 } // namespace engine

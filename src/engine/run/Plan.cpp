@@ -20,7 +20,7 @@ Scalar valueOf(const bound::Parameter& parameter, const Bindings& bindings) {
     const Literal literal = writtenLiteral(parameter, bindings);
     Scalar value = scalarOf(literal, parameter.negated);
     if (parameter.conversion.to.kind == DataType::Kind::Unknown) {
-        return value;
+        return literal.kind == Literal::Kind::Decimal ? kept(std::move(value)) : value;
     }
     ConversionRequest request = parameter.conversion;
     request.dateOrder = bindings.dateOrder;

@@ -59,13 +59,18 @@ public:
     }
 
 private:
+    static Scalar constant(const Literal& literal, bool negated) {
+        Scalar value = scalarOf(literal, negated);
+        return literal.kind == Literal::Kind::Decimal ? kept(std::move(value)) : value;
+    }
+
     static Scalar constant(const Expression& expression) {
         if (const auto* literal = std::get_if<Literal>(&expression.node)) {
-            return scalarOf(*literal, false);
+            return constant(*literal, false);
         }
         if (const auto* unary = std::get_if<Unary>(&expression.node)) {
             if (const auto* literal = std::get_if<Literal>(&unary->operand->node)) {
-                return scalarOf(*literal, unary->op == Unary::Operator::Minus);
+                return constant(*literal, unary->op == Unary::Operator::Minus);
             }
         }
         throw errors::syntaxNear("(", expression.position);

@@ -47,8 +47,9 @@ std::string_view PlanRows::text(int column) const {
     if (!type.isNumber() || type.isInteger() || statement.isNull(column)) {
         return statement.text(column);
     }
-    const double value = statement.real(column);
-    formatted_ = type.kind == DataType::Kind::Decimal ? decimalText(value, type) : floatText(value);
+    formatted_ = type.kind != DataType::Kind::Decimal ? floatText(statement.real(column))
+                 : statement.isInteger(column)        ? Decimal::of(statement.integer(column)).text(type.scale)
+                                                      : Decimal::of(statement.real(column)).text(type.scale);
     return formatted_;
 }
 

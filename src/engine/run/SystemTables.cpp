@@ -110,7 +110,7 @@ Row describe(Database& database, const TableInfo& table, const ColumnInfo& colum
             place,
             column.defaultText ? Scalar("(" + *column.defaultText + ")") : Scalar(),
             std::string(column.nullable ? "YES" : "NO"),
-            decimal ? std::string("decimal") : typeName(column.type),
+            decimal && !column.type.isMoney() ? std::string("decimal") : typeName(column.type),
             text ? Scalar(std::int64_t{column.type.length}) : Scalar(),
             precisionOf(column.type),
             decimal || (column.type.isInteger() && column.type.kind != Kind::Bit)

@@ -310,6 +310,10 @@ bool Statement::isNull(int column) const {
     return sqlite3_column_type(handle_, column) == SQLITE_NULL;
 }
 
+bool Statement::isInteger(int column) const {
+    return sqlite3_column_type(handle_, column) == SQLITE_INTEGER;
+}
+
 std::int64_t Statement::integer(int column) const {
     return sqlite3_column_int64(handle_, column);
 }

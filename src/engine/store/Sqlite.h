@@ -89,6 +89,7 @@ public:
 
     int columns() const;
     bool isNull(int column) const;
+    bool isInteger(int column) const;
     std::int64_t integer(int column) const;
     double real(int column) const;
     std::string_view text(int column) const; ///< without data for a null

@@ -2,7 +2,6 @@
 
 #include "engine/text/Lexer.h"
 #include "engine/values/Ascii.h"
-#include "engine/values/Scalar.h"
 
 #include <algorithm>
 #include <iterator>
@@ -18,7 +17,7 @@ std::string_view markerOf(const LiteralToken& literal) {
     case Literal::Kind::Integer:
         return "?i";
     case Literal::Kind::Decimal:
-        return typeOf({literal.kind, literal.text}).kind == DataType::Kind::BigInt ? "?b" : "?d";
+        return "?d";
     case Literal::Kind::Float:
         return "?f";
     case Literal::Kind::Text:

@@ -48,25 +48,13 @@ void writeNode(Text& text, const bound::Operation& operation) {
 }
 
 void writeNode(Text& text, const bound::Call& call) {
-    const auto writeCall = [&](const char* function) {
-        text += function;
-        text += call.distinct ? "(DISTINCT " : "(";
-        if (call.star) {
-            text += '*';
-        }
-        writeList(text, call.arguments);
-        text += ')';
-    };
-    if (call.function == operators::kIntegerAverage) {
-        // A quotient of integers is an integer. Without rows the sum is NULL, and so is the average.
-        text += '(';
-        writeCall("sum");
-        text += " / ";
-        writeCall("count");
-        text += ')';
-        return;
+    text += call.function;
+    text += call.distinct ? "(DISTINCT " : "(";
+    if (call.star) {
+        text += '*';
     }
-    writeCall(call.function.c_str());
+    writeList(text, call.arguments);
+    text += ')';
 }
 
 void writeNode(Text& text, const bound::Case& choice) {

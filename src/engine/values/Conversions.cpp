@@ -3,7 +3,6 @@
 #include "engine/errors/ValueErrors.h"
 #include "engine/values/Ascii.h"
 #include "engine/values/Collation.h"
-#include "engine/values/DecimalDigits.h"
 
 #include <algorithm>
 #include <array>
@@ -104,6 +103,15 @@ std::int64_t toInteger(double number, const DataType& target) {
     return static_cast<std::int64_t>(whole);
 }
 
+std::int64_t toInteger(const Decimal& number, const DataType& target) {
+    const IntegerKind& kind = kindOf(target);
+    const auto whole = number.whole();
+    if (!whole || *whole < kind.minimum || *whole > kind.maximum) {
+        throw errors::conversionOverflow("expression", kind.name);
+    }
+    return *whole;
+}
+
 std::int64_t toInteger(std::int64_t number, const DataType& target) {
     const IntegerKind& kind = kindOf(target);
     if (kind.kind == Kind::Bit) {
@@ -121,27 +129,26 @@ bool toBit(std::string_view text) {
 }
 
 double toDecimal(std::string_view text, const DataType& target) {
-    std::optional<DecimalDigits> digits = DecimalDigits::parse(trimmed(text));
-    if (!digits) {
+    const auto number = Decimal::parse(trimmed(text), target.scale);
+    if (!number) {
         throw errors::conversionError("varchar", "numeric");
     }
-    digits->roundTo(target.scale);
-    if (digits->wholeDigits() > target.precision - target.scale) {
+    if (!number->fits(target)) {
         throw errors::conversionOverflow("varchar", "numeric");
     }
-    return digits->value();
+    return number->kept();
 }
 
 double toDecimal(double number, const DataType& target) {
-    if (!std::isfinite(number)) {
-        throw errors::conversionOverflow("float", "numeric");
+    return toDecimal(Decimal::ofFloat(number, target.scale), target);
+}
+
+double toDecimal(const Decimal& number, const DataType& target) {
+    const Decimal rounded = number.rounded(target.scale);
+    if (!rounded.fits(target)) {
+        throw errors::conversionOverflow("numeric", target.isMoney() ? "money" : "numeric");
     }
-    DecimalDigits digits = DecimalDigits::of(number, target.scale);
-    digits.roundTo(target.scale);
-    if (digits.wholeDigits() > target.precision - target.scale) {
-        throw errors::conversionOverflow("numeric", "numeric");
-    }
-    return digits.value();
+    return rounded.kept();
 }
 
 double toFloat(std::string_view text) {
@@ -174,18 +181,22 @@ std::string integerText(std::int64_t number) {
     return std::to_string(number);
 }
 
-std::string decimalText(double number, const DataType& type) {
-    if (!std::isfinite(number)) {
-        throw errors::conversionOverflow("float", "numeric");
+std::string floatText(double number, std::optional<int> style) {
+    constexpr std::array kLegacyStyles = {126, 128, 129};
+    constexpr std::array kDigitsBehindFirst = {7, 15, 16};
+    if (std::find(kLegacyStyles.begin(), kLegacyStyles.end(), style) != kLegacyStyles.end()) {
+        throw errors::valueNotSupported("style " + std::to_string(*style) + " of float");
     }
-    DecimalDigits digits = DecimalDigits::of(number, type.scale);
-    digits.roundTo(type.scale);
-    return digits.text();
-}
-
-std::string floatText(double number) {
     std::array<char, 32> buffer{};
-    std::snprintf(buffer.data(), buffer.size(), "%.6g", number == 0 ? 0.0 : number);
+    if (number == 0) {
+        number = 0; // without a sign
+    }
+    if (style >= 1 && style <= 3) {
+        std::snprintf(buffer.data(), buffer.size(), "%.*e", kDigitsBehindFirst[static_cast<std::size_t>(*style) - 1],
+                      number);
+    } else {
+        std::snprintf(buffer.data(), buffer.size(), "%.6g", number);
+    }
     std::string text = buffer.data();
     // The server's exponents have three digits.
     const std::size_t exponent = text.find('e');

@@ -5,6 +5,7 @@
 
 #include "engine/values/DataType.h"
 #include "engine/values/DateOrder.h"
+#include "engine/values/Decimal.h"
 
 #include <cstdint>
 #include <optional>
@@ -18,12 +19,20 @@ namespace engine {
 std::int64_t toInteger(std::string_view text, const DataType& target, const char* sourceType = "varchar");
 /// Throws 8115 where the value leaves the target's range.
 std::int64_t toInteger(double number, const DataType& target);
+std::int64_t toInteger(const Decimal& number, const DataType& target);
+/// Throws 220 too, as the server does for an int that a smaller type doesn't hold.
 std::int64_t toInteger(std::int64_t number, const DataType& target);
 /// 'TRUE', 'FALSE' and numbers; throws 245.
 bool toBit(std::string_view text);
-/// Throws 8114 ('' and '1,5' too), 8115 where precision is exceeded; the result is rounded to the scale.
+/// Throws 8114 ('' and '1,5' too), 8115 where precision is exceeded, 40517 where there are more digits than a double
+/// keeps; the result is rounded to the scale.
 double toDecimal(std::string_view text, const DataType& target);
-double toDecimal(double number, const DataType& target);
+double toDecimal(double number, const DataType& target); ///< of a float
+double toDecimal(const Decimal& number, const DataType& target);
+/// An amount: currency and sign once each, digits with commas, a point; '' and any one of these alone is 0. Throws 235.
+double toMoney(std::string_view text, const DataType& target);
+/// An amount without its currency and its commas; nothing for any other text.
+std::optional<std::string> digitsOfAmount(std::string_view text);
 /// Throws 8114.
 double toFloat(std::string_view text);
 /// Throws 8115 for what left the range of float and real, which have no infinity.
@@ -37,8 +46,11 @@ std::string toDateTime(double days);
 double daysOf(std::string_view dateTime);
 
 std::string integerText(std::int64_t number);
-std::string decimalText(double number, const DataType& type); ///< all digits of the scale
-std::string floatText(double number);                         ///< six significant digits, as the server's CONVERT
+/// Six significant digits; style 1 has 8, style 2 has 16, style 3 has 17 with an exponent. Throws 40517 for the styles
+/// that are there for their age.
+std::string floatText(double number, std::optional<int> style = {});
+/// Two places; style 1 with commas, style 2 and 126 with all four places.
+std::string moneyText(const Decimal& amount, std::optional<int> style);
 std::string dateText(std::string_view dateTime, std::optional<int> style);
 
 /// A text into a column of `length` characters (-1: any). An excess of trailing blanks is cut in silence; throws 8152.

@@ -46,6 +46,9 @@ std::string_view nameOf(DataType::Kind kind) {
 } // namespace
 
 std::string toText(const DataType& type) {
+    if (type.isMoney()) {
+        return "money";
+    }
     std::string text(nameOf(type.kind));
     if (type.kind == DataType::Kind::Decimal) {
         return text + "(" + std::to_string(type.precision) + "," + std::to_string(type.scale) + ")";

@@ -5,9 +5,7 @@
 #include "engine/values/Conversions.h"
 
 #include <algorithm>
-#include <charconv>
 #include <cmath>
-#include <cstdlib>
 #include <limits>
 
 namespace engine {
@@ -20,6 +18,15 @@ bool isReal(const DataType& type) {
     return type.kind == Kind::Decimal || type.kind == Kind::Real || type.kind == Kind::Float;
 }
 
+/// Whether each double of a decimal type stands in another as it is.
+bool holdsAll(const DataType& wide, const DataType& narrow) {
+    constexpr int kDigitsOfDouble = 15;
+    constexpr int kSureDigitsOfMoney = 18;
+    const int precision = wide.isMoney() ? kSureDigitsOfMoney : wide.precision;
+    return narrow.kind == Kind::Decimal && narrow.precision <= kDigitsOfDouble && narrow.scale <= wide.scale &&
+           narrow.precision - narrow.scale <= precision - wide.scale;
+}
+
 Scalar toInteger(const Scalar& value, const ConversionRequest& request) {
     if (const auto* text = std::get_if<std::string>(&value)) {
         if (request.from.kind == Kind::DateTime) {
@@ -30,7 +37,9 @@ Scalar toInteger(const Scalar& value, const ConversionRequest& request) {
     if (const auto* number = std::get_if<double>(&value)) {
         return engine::toInteger(*number, request.to);
     }
-    return engine::toInteger(std::get<std::int64_t>(value), request.to);
+    const std::int64_t number = std::get<std::int64_t>(value);
+    return request.from.kind == Kind::BigInt ? engine::toInteger(Decimal::of(number), request.to)
+                                             : engine::toInteger(number, request.to);
 }
 
 Scalar toBitValue(const Scalar& value, const ConversionRequest& request) {
@@ -52,23 +61,23 @@ double realOf(double number) {
     return static_cast<double>(static_cast<float>(number));
 }
 
+Scalar toFloatValue(double number, const DataType& target) {
+    return finiteNumber(target.kind == Kind::Real ? realOf(number) : number, target);
+}
+
 Scalar toRealValue(const Scalar& value, const ConversionRequest& request) {
     const bool decimal = request.to.kind == Kind::Decimal;
-    if (const auto* text = std::get_if<std::string>(&value)) {
-        if (request.from.kind == Kind::DateTime) {
-            const double days = daysOf(*text);
-            return decimal ? toDecimal(days, request.to) : days;
-        }
-        if (decimal) {
-            return toDecimal(*text, request.to);
-        }
-        return finiteNumber(request.to.kind == Kind::Real ? realOf(toFloat(*text)) : toFloat(*text), request.to);
+    if (const auto* text = std::get_if<std::string>(&value); text != nullptr && request.from.kind != Kind::DateTime) {
+        return request.to.isMoney() ? toMoney(*text, request.to)
+               : decimal            ? toDecimal(*text, request.to)
+                                    : toFloatValue(toFloat(*text), request.to);
     }
-    const double number = numberOf(value);
-    if (decimal) {
-        return toDecimal(number, request.to);
+    if (const auto* integer = std::get_if<std::int64_t>(&value); integer != nullptr && decimal) {
+        return toDecimal(Decimal::of(*integer), request.to);
     }
-    return finiteNumber(request.to.kind == Kind::Real ? realOf(number) : number, request.to);
+    const auto* date = std::get_if<std::string>(&value);
+    const double number = date != nullptr ? daysOf(*date) : numberOf(value);
+    return decimal ? toDecimal(number, request.to) : toFloatValue(number, request.to);
 }
 
 Scalar toDateValue(const Scalar& value, const ConversionRequest& request) {
@@ -82,13 +91,10 @@ std::string textOf(const Scalar& value, const ConversionRequest& request) {
     if (const auto* text = std::get_if<std::string>(&value)) {
         return request.from.kind == Kind::DateTime ? dateText(*text, request.style) : *text;
     }
-    if (request.from.kind == Kind::Decimal) {
-        return decimalText(numberOf(value), request.from);
-    }
     if (const auto* integer = std::get_if<std::int64_t>(&value)) {
         return integerText(*integer);
     }
-    return floatText(std::get<double>(value));
+    return floatText(std::get<double>(value), request.style);
 }
 
 std::string fit(std::string text, const ConversionRequest& request) {
@@ -111,21 +117,58 @@ std::string fit(std::string text, const ConversionRequest& request) {
     return text;
 }
 
-/// That of the type of a constant, the same for all that fit, so that they share a plan.
-int lengthOf(const std::string& text, int longest) {
-    const auto most = static_cast<std::size_t>(longest);
-    return text.size() > most && characters(text) > most ? -1 : longest;
+Scalar convertDecimal(const Scalar& value, const ConversionRequest& request) {
+    const DataType& target = request.to;
+    if (target.kind == Kind::Real || target.kind == Kind::Float || target.kind == Kind::DateTime) {
+        const auto* digits = std::get_if<std::string>(&value);
+        const double number = digits != nullptr ? toFloat(*digits) : numberOf(value);
+        return target.kind == Kind::DateTime ? toDateTime(number) : toFloatValue(number, target);
+    }
+    const Decimal number = decimalOf(value);
+    if (target.kind == Kind::Decimal) {
+        return toDecimal(number, target);
+    }
+    if (target.kind == Kind::Bit) {
+        return std::int64_t{!number.isZero()};
+    }
+    if (target.isInteger()) {
+        return engine::toInteger(request.from.isMoney() ? number.rounded(0) : number, target);
+    }
+    return fit(request.from.isMoney() ? moneyText(number, request.style) : number.text(request.from.scale), request);
 }
 
 } // namespace
 
+Decimal decimalOf(const Scalar& value) {
+    if (const auto* digits = std::get_if<std::string>(&value)) {
+        return *Decimal::parse(*digits, kWidestDecimal);
+    }
+    const auto* integer = std::get_if<std::int64_t>(&value);
+    return integer != nullptr ? Decimal::of(*integer) : Decimal::of(std::get<double>(value));
+}
+
+Scalar scalarOf(const Decimal& number) {
+    const auto exact = number.exact();
+    return exact ? Scalar(*exact) : Scalar(number.shortest().text());
+}
+
+Scalar kept(Scalar decimal) {
+    if (std::holds_alternative<std::string>(decimal)) {
+        throw errors::digitsNotKept();
+    }
+    return decimal;
+}
+
 Scalar convert(Scalar value, const ConversionRequest& request) {
-    if (isNull(value)) {
+    if (isNull(value) || request.to.kind == Kind::Unknown) {
         return value;
+    }
+    if (request.from.kind == Kind::Decimal) {
+        return convertDecimal(value, request);
     }
     switch (request.to.kind) {
     case Kind::Unknown:
-        return value;
+        break;
     case Kind::Bit:
         return toBitValue(value, request);
     case Kind::TinyInt:
@@ -164,71 +207,14 @@ bool needsConversion(const DataType& from, const DataType& to, Purpose purpose) 
     if (to.kind == Kind::Bit || to.isInteger()) {
         return !(from.isInteger() && from.kind <= to.kind);
     }
+    if (to.kind == Kind::Decimal && (from.kind == Kind::Decimal || from.isInteger())) {
+        // A whole number of many digits may be an integer still.
+        return to != kAnyDecimal && !(from == to && to.scale > 0) && !holdsAll(to, from);
+    }
     if (isReal(to)) {
         return from != to;
     }
     return from.kind != to.kind;
-}
-
-Scalar scalarOf(const Literal& literal, bool negated) {
-    switch (literal.kind) {
-    case Literal::Kind::Null:
-        return {};
-    case Literal::Kind::Integer:
-    case Literal::Kind::Decimal: {
-        const std::string digits = (negated ? "-" : "") + literal.text;
-        std::int64_t number = 0;
-        const auto end = digits.data() + digits.size();
-        const auto [stop, problem] = std::from_chars(digits.data(), end, number);
-        if (problem == std::errc{} && stop == end) {
-            return number;
-        }
-        return std::strtod(digits.c_str(), nullptr);
-    }
-    case Literal::Kind::Float: {
-        const double number = std::strtod(literal.text.c_str(), nullptr);
-        return negated ? -number : number;
-    }
-    case Literal::Kind::Text:
-    case Literal::Kind::NationalText:
-        return literal.text;
-    }
-    return {};
-}
-
-DataType decimalOf(const Literal& literal) {
-    const std::size_t point = literal.text.find('.');
-    const int scale = point == std::string::npos ? 0 : static_cast<int>(literal.text.size() - point - 1);
-    const int digits = static_cast<int>(literal.text.size()) - (point == std::string::npos ? 0 : 1);
-    return {Kind::Decimal, 0, std::clamp(digits, 1, kWidestDecimal), std::min(scale, kWidestDecimal)};
-}
-
-DataType typeOf(const Literal& literal) {
-    DataType type;
-    switch (literal.kind) {
-    case Literal::Kind::Null:
-        break;
-    case Literal::Kind::Integer:
-    case Literal::Kind::Decimal: {
-        const Scalar value = scalarOf(literal, false);
-        if (const auto* number = std::get_if<std::int64_t>(&value)) {
-            type.kind = *number <= std::numeric_limits<std::int32_t>::max() ? Kind::Int : Kind::BigInt;
-            break;
-        }
-        type = decimalOf(literal);
-        break;
-    }
-    case Literal::Kind::Float:
-        type.kind = Kind::Float;
-        break;
-    case Literal::Kind::Text:
-        type = {Kind::VarChar, lengthOf(literal.text, kLongestText), 0, 0};
-        break;
-    case Literal::Kind::NationalText:
-        type = {Kind::NVarChar, lengthOf(literal.text, kLongestNationalText), 0, 0};
-        break;
-    }
-    return type;
 }
 
 std::int64_t encodeType(const DataType& type) {

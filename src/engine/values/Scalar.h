@@ -4,6 +4,7 @@
 
 #include "engine/values/DataType.h"
 #include "engine/values/DateOrder.h"
+#include "engine/values/Decimal.h"
 #include "engine/values/Literal.h"
 
 #include <cstdint>
@@ -13,7 +14,8 @@
 
 namespace engine {
 
-/// Null, an integer (bits too), a double (decimals too), or a text (dates too, see Conversions.h).
+/// Null, an integer (bits too), a double (decimals too), or a text (dates too, see Conversions.h). On its way to a
+/// conversion or to arithmetic a decimal that a double doesn't keep is the text of its digits.
 using Scalar = std::variant<std::monostate, std::int64_t, double, std::string>;
 
 inline bool isNull(const Scalar& value) {
@@ -26,6 +28,12 @@ inline double numberOf(const Scalar& value) {
     return integer != nullptr ? static_cast<double>(*integer) : std::get<double>(value);
 }
 
+/// Of a decimal by whatever stands for it.
+Decimal decimalOf(const Scalar& value);
+Scalar scalarOf(const Decimal& number);
+/// Throws 40517 for a decimal that no double keeps.
+Scalar kept(Scalar decimal);
+
 /// What a conversion is for: CAST cuts a text that is too long, an assignment refuses it with 8152.
 enum class Purpose { Cast, Assignment };
 
@@ -36,7 +44,7 @@ struct ConversionRequest {
     DateOrder dateOrder = DateOrder::MonthDayYear;
 };
 
-/// Throws 241, 242, 245, 8114, 8115, 8152.
+/// Throws 235, 241, 242, 245, 8114, 8115, 8152, 40517.
 Scalar convert(Scalar value, const ConversionRequest& request);
 
 /// Whether a value of one type has to be changed to stand in the other as far as the storage is concerned.

@@ -13,6 +13,8 @@ TEST(ErrorTexts, OfValues) {
     expectTexts({
         {errors::valueOverflow("Target", "Value"), 220, kBatch,
          "Arithmetic overflow error for data type Target, value = Value."},
+        {errors::moneyOfText(), 235, kBatch,
+         "Cannot convert a char value to money. The char value has incorrect syntax."},
         {errors::dateConversion(), 241, kBatch,
          "Conversion failed when converting date and/or time from character string."},
         {errors::dateOutOfRange(), 242, kBatch,
@@ -34,6 +36,8 @@ TEST(ErrorTexts, OfValues) {
         {errors::truncated(), 8152, kStatement, "String or binary data would be truncated."},
         {errors::dateStyleFromText(7), 9809, kBatch,
          "The style 7 is not supported for conversions from varchar to datetime."},
+        {errors::valueNotSupported("Value"), 40517, kBatch,
+         "Keyword or statement option 'Value' is not supported in this version of SQL Server."},
     });
 }
 

@@ -129,7 +129,7 @@ TEST(Keywords, AreFoundInAnyCaseAndNothingElseIs) {
 
 TEST(Shape, LeavesTheLiteralsOut) {
     const Shape shape = shapeOf("Update  [t] set a=-1, B = N'x''y' -- done\n where c in (2.5, 1e3,'z', 3000000000)");
-    EXPECT_EQ(shape.key, "UPDATE [t] SET a = - ?i , B = ?n WHERE c IN ( ?d , ?f , ?t , ?b )");
+    EXPECT_EQ(shape.key, "UPDATE [t] SET a = - ?i , B = ?n WHERE c IN ( ?d , ?f , ?t , ?d )");
     ASSERT_EQ(shape.literals.size(), 6U);
     EXPECT_EQ(shape.literals[0].text, "1");
     EXPECT_EQ(shape.literals[1].text, "x'y");

@@ -135,7 +135,7 @@ INSTANTIATE_TEST_SUITE_P(
         TreeCase{"create table t (a bit, b tinyint, c smallint, d integer, e bigint, f dec, g numeric(9), h money, "
                  "j float, k float(24), l real, m datetime)",
                  "(create-table t (column a bit) (column b tinyint) (column c smallint) (column d int) (column e "
-                 "bigint) (column f decimal(18,0)) (column g decimal(9,0)) (column h decimal(19,4)) "
+                 "bigint) (column f decimal(18,0)) (column g decimal(9,0)) (column h money) "
                  "(column j float) (column k real) (column l real) (column m datetime))"},
         TreeCase{"create table t (a char, b varchar(8000), c nchar(4000), d nvarchar(max), e text, f ntext, g sysname, "
                  "h image, i varbinary(10))",

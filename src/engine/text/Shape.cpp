@@ -2,6 +2,7 @@
 
 #include "engine/text/Lexer.h"
 #include "engine/values/Ascii.h"
+#include "engine/values/Scalar.h"
 
 #include <algorithm>
 #include <iterator>

@@ -54,7 +54,8 @@ TEST_F(BranchForm, YesLocksTellsNothingAndEmptiesTheForm) {
     EXPECT_EQ(dataDellaSede(), alle("2024-04-30"));
     aspettaVuota();
     EXPECT_EQ(fuoco(), "Combo1");
-    premi("Command1"); // none is chosen any more
+    digita("30042024");
+    premi("Command1"); // no branch is chosen any more
     prendi(kSede);
     EXPECT_EQ(testo(), "30/04/2024") << "the next run";
 }
@@ -122,6 +123,24 @@ TEST_F(BranchForm, TheBarTellsThePassesAndThenTheRowsInEveryRunAnew) {
         EXPECT_THAT(passate, testing::ElementsAre(0, 50, 100)) << corsa;
         EXPECT_THAT(righe, testing::ElementsAre(0, 33.33, 66.67));
     }
+}
+
+TEST_F(BranchForm, TheBarIsDrawnAheadOfTheFirstStatementAndMovesNoOtherControl) {
+    metti({{.id = 1, .seziva = 1}});
+    apri();
+    prendi(kSede);
+    const QRect prima = pagina.control("Command1").geometry();
+    const Disegni disegni(barra());
+    int disegnata = -1;
+    const support::SomebodyElse chiunque([&](const std::string&) {
+        if (barra().isVisible()) {
+            disegnata = disegnata < 0 ? disegni.volte : disegnata;
+            EXPECT_EQ(pagina.control("Command1").geometry(), prima);
+        }
+    });
+    script.expectQuestion(domanda("31/03/2024"), true);
+    premi("Command1");
+    EXPECT_GE(disegnata, 1);
 }
 
 TEST_F(BranchForm, AFailureIsToldAndTheFormStandsReadyForASecondRun) {

@@ -18,8 +18,8 @@ struct LiteralToken {
 /// correspond one to one; `Literal::index` in the tree is the place in `literals`. A literal without an index in the
 /// tree is part of the plan: statements share a plan only where such literals are equal too.
 struct Shape {
-    /// Tokens joined by blanks, keywords in capitals, a literal as ?i ?b ?d ?f ?t ?n: the kind of its type, where ?b is
-    /// a whole number that only a bigint holds, ?T and ?N are texts that only a max type holds.
+    /// Tokens joined by blanks, keywords in capitals, a literal as ?i ?d ?f ?t ?n: the kind of its type; ?T and ?N are
+    /// texts that only a max type holds.
     std::string key;
     std::vector<LiteralToken> literals;
 };

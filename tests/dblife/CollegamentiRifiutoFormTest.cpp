@@ -23,7 +23,7 @@ public:
     using AziendaAperta::posto;
 
     Collegamenti() {
-        app::registerForms(gui.forms());
+        app::registerForms(gui_.forms());
         CartellaFile = "C:\\Vabo\\Files";
         PercorsoFileLocale = "C:\\Vabo\\Files\\prova.mdb";
         for (const char* file : {"tlv_locale_ponte.mdb", "tlv_locale_sql.mdb", "Tlv_personalizzate.mdb"}) {
@@ -46,7 +46,7 @@ public:
                     testing::EndsWith("dbo_bolla altra, dbo_conti AURORA; dbo_bolla AURORA"));
     }
     support::Lines fields() const {
-        return {gui.forms().isLoaded("FormRefreshLinks") ? "the progress" : "no progress"};
+        return {gui_.forms().isLoaded("FormRefreshLinks") ? "the progress" : "no progress"};
     }
     support::Lines shown() const { return {}; }
     support::Lines held() const { return {}; }
@@ -63,8 +63,8 @@ public:
     }
 
 private:
-    support::DialogScript script;
-    mutable support::Gui gui;
+    support::DialogScript script_;
+    mutable support::Gui gui_;
 };
 
 // A table whose kind can't be read counts as a link, one whose name can't be read as one to be left alone.

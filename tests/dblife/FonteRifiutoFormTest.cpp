@@ -6,8 +6,6 @@
 namespace vabo {
 namespace {
 
-using support::inTurn;
-
 class FonteForm : public FormTest {
 protected:
     void apri() {

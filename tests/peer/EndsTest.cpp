@@ -5,7 +5,6 @@
 namespace peer {
 namespace {
 
-using ::testing::Test;
 using wire::batch;
 using wire::packet;
 

@@ -141,7 +141,7 @@ private:
         }
         in_.take(collated ? 5 : 0);
         if (ofColumn && (type.token == 0x22 || type.token == 0x23 || type.token == 0x63)) {
-            in_.take(in_.u16() * 2U);
+            in_.take(std::size_t{2} * in_.u16());
         }
         return type;
     }

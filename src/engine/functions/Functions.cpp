@@ -104,25 +104,29 @@ void callLiteral(sqlite3_context* context, int /*count*/, sqlite3_value** values
     sqlite3_result_value(context, values[0]);
 }
 
+/// The storage's memory begins as zeros; giveSum is called behind the last row, and where the statement fails.
+struct RunningSum {
+    Decimal* number;
+};
+
 void addToSum(sqlite3_context* context, int /*count*/, sqlite3_value** values) {
     guarded(context, *static_cast<FunctionContext*>(sqlite3_user_data(context)), [&] {
-        // The storage's memory begins as zeros; giveSum is called behind the last row, and where the statement fails.
-        auto** sum = static_cast<Decimal**>(sqlite3_aggregate_context(context, sizeof(Decimal*)));
+        auto* sum = static_cast<RunningSum*>(sqlite3_aggregate_context(context, sizeof(RunningSum)));
         if (sum == nullptr || sqlite3_value_type(values[0]) == SQLITE_NULL) {
             return;
         }
         const Decimal value = decimalOf(scalarOf(values[0]));
-        if (*sum == nullptr) {
-            *sum = new Decimal(value);
+        if (sum->number == nullptr) {
+            sum->number = new Decimal(value);
         } else {
-            **sum = (*sum)->plus(value);
+            *sum->number = sum->number->plus(value);
         }
     });
 }
 
 void giveSum(sqlite3_context* context) {
-    auto** place = static_cast<Decimal**>(sqlite3_aggregate_context(context, 0));
-    const std::unique_ptr<Decimal> sum(place == nullptr ? nullptr : *place);
+    const auto* running = static_cast<RunningSum*>(sqlite3_aggregate_context(context, 0));
+    const std::unique_ptr<Decimal> sum(running == nullptr ? nullptr : running->number);
     give(context, sum ? scalarOf(*sum) : Scalar());
 }
 

@@ -1,6 +1,7 @@
 """Builds a copy of the tree, measures which test runs which line, and runs these tests with each chosen change."""
 
 import argparse
+import fcntl
 import json
 import os
 import random
@@ -21,6 +22,17 @@ CORES = os.cpu_count() or 1
 LAYERS = {"app", "controls", "platform", "ado", "engine"}
 # They run everything for minutes, and say of no change what it is.
 TOO_BROAD = {"monkey_test", "desktop_test"}
+
+
+def work_alone():
+    """Ends where another run changes the same copy: the one would take the other's change for its own."""
+    COPY.parent.mkdir(parents=True, exist_ok=True)
+    lock = (COPY.parent / "lock").open("w")
+    try:
+        fcntl.flock(lock, fcntl.LOCK_EX | fcntl.LOCK_NB)
+    except OSError:
+        sys.exit("another run works in build/mutate")
+    return lock
 
 
 def copy_tree():
@@ -166,6 +178,7 @@ def main():
     folders = options.folders or [path.name for path in sorted((TOP / "src").iterdir())
                                   if path.is_dir() and path.name not in LAYERS]
 
+    lock = work_alone()  # until the process ends
     copy_tree()
     sources = {
         folder: [str(path.relative_to(TOP)) for path in sorted((TOP / "src" / folder).rglob("*.cpp"))]

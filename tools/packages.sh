@@ -1,5 +1,5 @@
 #!/usr/bin/env bash
-# Installs the Debian packages for the given purposes (build, test, check, bench, coverage, clients).
+# Installs the Debian packages for the given purposes (build, test, check, bench, coverage, debian, clients).
 # Does nothing where none is missing.
 set -euo pipefail
 
@@ -9,6 +9,7 @@ test=(libgtest-dev libgmock-dev librapidcheck-dev unixodbc python3 libxcb-xtest0
 check=(clang-format clang-tidy python3)
 bench=(libbenchmark-dev)
 coverage=(gcovr)
+debian=(debhelper dpkg-dev lintian appstream desktop-file-utils)
 clients=(freetds-bin python3-pyodbc python3-pymssql php8.2-cli php8.2-sybase libdbd-sybase-perl libjtds-java
     openjdk-17-jdk-headless)
 
@@ -20,9 +21,10 @@ for purpose in "$@"; do
     check) wanted+=("${check[@]}") ;;
     bench) wanted+=("${bench[@]}") ;;
     coverage) wanted+=("${coverage[@]}") ;;
+    debian) wanted+=("${debian[@]}") ;;
     clients) wanted+=("${clients[@]}") ;;
     *)
-        echo "usage: packages.sh [build] [test] [check] [bench] [coverage] [clients]" >&2
+        echo "usage: packages.sh [build] [test] [check] [bench] [coverage] [debian] [clients]" >&2
         exit 2
         ;;
     esac

@@ -1,7 +1,6 @@
 #include "controls/Mark.h"
 
 #include <QPainter>
-#include <QPixmap>
 
 #include <array>
 
@@ -47,15 +46,18 @@ void Mark::paintEvent(QPaintEvent* /*event*/) {
     draw(painter, width());
 }
 
+QPixmap Mark::picture(int side) {
+    QPixmap picture(side, side);
+    picture.fill(Qt::transparent);
+    QPainter painter(&picture);
+    draw(painter, side);
+    return picture;
+}
+
 QIcon Mark::icon() {
     QIcon icon;
     for (const int side : {16, 32, 48, 128}) {
-        QPixmap picture(side, side);
-        picture.fill(Qt::transparent);
-        QPainter painter(&picture);
-        draw(painter, side);
-        painter.end();
-        icon.addPixmap(picture);
+        icon.addPixmap(picture(side));
     }
     return icon;
 }

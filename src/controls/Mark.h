@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QIcon>
+#include <QPixmap>
 #include <QWidget>
 
 namespace controls {
@@ -12,6 +13,8 @@ public:
     explicit Mark(QWidget* parent = nullptr);
     QSize sizeHint() const override;
 
+    /// Side in pixels; transparent outside the rounded square.
+    static QPixmap picture(int side);
     static QIcon icon();
 
 protected:

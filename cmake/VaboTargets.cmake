@@ -39,6 +39,23 @@ function(vabo_library name)
     endif()
 endfunction()
 
+# vabo_program(name description SOURCES … LINKS …): an executable that is shipped. On Windows it has a version, a manifest
+# and, where VABO_ICON names one, an icon.
+set(VABO_LEGAL_NOTICE "Copyright (c) 2026 the maintainers")
+set(VABO_ICON "" CACHE FILEPATH "The icon of the programs on Windows")
+function(vabo_program target description)
+    cmake_parse_arguments(ARG "" "" "SOURCES;LINKS" ${ARGN})
+    add_executable(${target} ${ARG_SOURCES})
+    target_link_libraries(${target} PRIVATE ${ARG_LINKS})
+    install(TARGETS ${target})
+    if(WIN32)
+        set(VABO_MANIFEST ${CMAKE_SOURCE_DIR}/tools/windows/vabo.manifest)
+        string(LENGTH "${VABO_ICON}" VABO_HAS_ICON)
+        configure_file(${CMAKE_SOURCE_DIR}/tools/windows/resources.rc.in ${target}.rc @ONLY)
+        target_sources(${target} PRIVATE ${CMAKE_CURRENT_BINARY_DIR}/${target}.rc)
+    endif()
+endfunction()
+
 # vabo_test(name SOURCES … LINKS …): one test executable and its ctest entry. With BOTH_DRIVERS it has two entries, one
 # with each driver of the data layer, labelled "embedded" and "wire"; with WIRE the second alone. tools/count-tests.sh
 # counts from the results what was tested.

@@ -3,6 +3,7 @@
 #include "ado/Conversions.h"
 #include "ado/Error.h"
 #include "ado/Text.h"
+#include "os/Machine.h"
 
 #include <algorithm>
 #include <array>
@@ -254,12 +255,7 @@ Date today() {
         return *fixedToday();
     }
     const std::time_t now = std::chrono::system_clock::to_time_t(std::chrono::system_clock::now());
-    std::tm local{};
-#ifdef _WIN32
-    localtime_s(&local, &now);
-#else
-    localtime_r(&now, &local);
-#endif
+    const std::tm local = os::localTime(now);
     return Date::of(local.tm_year + 1900, local.tm_mon + 1, local.tm_mday);
 }
 

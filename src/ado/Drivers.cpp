@@ -3,6 +3,8 @@
 #include "ado/Names.h"
 #include "ado/drivers/embedded/EmbeddedDriver.h"
 #include "ado/drivers/odbc/OdbcDriver.h"
+#include "os/Files.h"
+#include "os/Paths.h"
 
 #include <algorithm>
 #include <initializer_list>
@@ -23,15 +25,6 @@ EmbeddedHome& home() {
 DriverWrapper& wrapper() {
     static DriverWrapper current;
     return current;
-}
-
-fs::path fromUtf8(std::string_view text) {
-    return {std::u8string(text.begin(), text.end())};
-}
-
-std::string toUtf8(const fs::path& path) {
-    const std::u8string text = path.u8string();
-    return {text.begin(), text.end()};
 }
 
 /// A server's name as the name of one folder: "\" becomes "$", and other characters with a meaning to the file system
@@ -90,7 +83,7 @@ void setEmbeddedHome(EmbeddedHome newHome) {
 }
 
 fs::path mapServerPath(std::string_view path) {
-    return home().mapPath ? home().mapPath(path) : fromUtf8(path);
+    return home().mapPath ? home().mapPath(path) : os::pathOf(path);
 }
 
 fs::path instanceFolder(std::string_view server) {
@@ -99,13 +92,16 @@ fs::path instanceFolder(std::string_view server) {
     }
     const fs::path instances = home().instances();
     const std::string name = folderName(server);
-    const fs::path spelt = instances / fromUtf8(name);
-    std::error_code ignored;
-    if (name.empty() || fs::exists(spelt, ignored)) {
+    const fs::path spelt = instances / os::pathOf(name);
+    if (name.empty()) {
         return spelt;
     }
+    if (const auto known = os::entryOf(instances, name)) {
+        return *known;
+    }
+    std::error_code ignored;
     for (const fs::directory_entry& entry : fs::directory_iterator(instances, ignored)) {
-        if (sameName(toUtf8(entry.path().filename()), name)) {
+        if (sameName(os::utf8Of(entry.path().filename()), name)) {
             return entry.path();
         }
     }

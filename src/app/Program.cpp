@@ -3,7 +3,7 @@
 #include "app/Forms.h"
 #include "controls/Mark.h"
 #include "controls/QtDialogs.h"
-#include "engine/store/Host.h"
+#include "os/Machine.h"
 #include "platform/Workstation.h"
 
 #include <QLibraryInfo>
@@ -12,7 +12,7 @@
 namespace app {
 
 Program::Program(int& argc, char** argv, controls::style::Scheme scheme) : application_(argc, argv) {
-    engine::refuseTooLargeFiles();
+    os::refuseTooLargeFiles();
     // Between two forms only the hidden start form may be left, which must not end the process.
     QApplication::setQuitOnLastWindowClosed(false);
     if (italian_.load(QStringLiteral("qtbase_it"), QLibraryInfo::path(QLibraryInfo::TranslationsPath))) {

@@ -1,6 +1,7 @@
 #include "controls/FolderBrowser.h"
 
 #include "controls/Captions.h"
+#include "os/Paths.h"
 #include "platform/Workstation.h"
 
 #include <QDialogButtonBox>
@@ -27,7 +28,7 @@ std::string pathOf(const QTreeWidgetItem& folder) {
 }
 
 QString nameOf(const fs::path& folder) {
-    return QString::fromStdString(folder.filename().string());
+    return QString::fromStdString(os::utf8Of(folder.filename()));
 }
 
 /// The folders in a folder of the drive, in the order of their names, in any case; none where it can't be read.

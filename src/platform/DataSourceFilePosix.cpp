@@ -1,8 +1,9 @@
-#include "ado/Text.h"
+#include "os/Files.h"
 #include "platform/DataSourceFile.h"
-#include "platform/Machine.h"
 
 #include <QTemporaryDir>
+
+#include <odbcinst.h>
 
 #include <algorithm>
 #include <array>
@@ -11,7 +12,6 @@
 #include <filesystem>
 #include <fstream>
 #include <iterator>
-#include <odbcinst.h>
 #include <optional>
 #include <pwd.h>
 #include <set>
@@ -19,28 +19,14 @@
 #include <string_view>
 #include <unistd.h>
 
-namespace platform::machine {
+namespace platform::odbcfile {
 
 namespace fs = std::filesystem;
 
 namespace {
 
-/// The library reads lines of that many bytes, line feed included; it would read the rest of a longer one as another
-/// line.
-constexpr std::size_t kLongestLine = 999;
-
 /// A path with one of these texts is taken by the library for its file of drivers.
 constexpr std::array kDriversPieces{"odbcinst", "ODBCINST"};
-
-bool isControl(char c) {
-    return static_cast<unsigned char>(c) < ' ' || c == '\x7f';
-}
-
-/// A value as it is read again from the file.
-std::string storable(std::string value) {
-    std::ranges::replace_if(value, isControl, ' ');
-    return std::string(ado::trimmed(value, " "));
-}
 
 /// Where the driver manager looks for the file: it takes the home folder from the user database, not from the
 /// environment.
@@ -85,22 +71,10 @@ struct Found {
     std::set<std::pair<std::string, DataSourceValues>> sources;
 };
 
-/// The values as they are stored. Throws where a line gets too long.
-DataSourceValues storableOnes(const DataSourceValues& values) {
-    DataSourceValues stored;
-    for (const auto& [key, value] : values) {
-        stored.emplace_back(key, storable(value));
-        if (key.size() + stored.back().second.size() + std::string_view("=\n").size() > kLongestLine) {
-            throw std::runtime_error("The value of " + key + " is too long for a data source.");
-        }
-    }
-    return stored;
-}
-
 /// The values that the file doesn't hold yet.
 DataSourceValues missingIn(const fs::path& file, const std::string& name, const DataSourceValues& values) {
     static Found found;
-    DataSourceValues missing = storableOnes(values);
+    DataSourceValues missing = storable(values);
     // Reading a value would create the file where there is none.
     if (!fs::exists(file)) {
         return missing;
@@ -123,8 +97,7 @@ DataSourceValues missingIn(const fs::path& file, const std::string& name, const 
 } // namespace
 
 bool isDataSourceName(const std::string& name) {
-    return !name.empty() && ado::trimmed(name, " ") == name && std::ranges::none_of(name, isControl) &&
-           SQLValidDSN(name.c_str());
+    return isPlainName(name) && SQLValidDSN(name.c_str());
 }
 
 bool hasDataSource(const std::string& name) {
@@ -149,7 +122,7 @@ void writeDataSource(const std::string& name, const DataSourceValues& values) {
             throw std::runtime_error("The data source " + name + " can't be written.");
         }
     }
-    replaceFile(file, bytesOf(copy), fs::status(copy).permissions());
+    os::replaceFile(file, bytesOf(copy), fs::status(copy).permissions());
 }
 
-} // namespace platform::machine
+} // namespace platform::odbcfile

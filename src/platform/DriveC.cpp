@@ -1,6 +1,7 @@
 #include "platform/DriveC.h"
 
-#include "platform/Machine.h"
+#include "os/Files.h"
+#include "os/Paths.h"
 
 #include <QString>
 
@@ -52,10 +53,6 @@ std::optional<std::vector<std::string>> namesOf(std::string_view path) {
     } else if (path.size() >= 2 && isSeparator(path[0]) && isSeparator(path[1])) {
         return std::nullopt; // a share of another machine
     }
-    if (path.find('\0') != std::string_view::npos) {
-        return std::nullopt;
-    }
-
     std::vector<std::string> names;
     while (!path.empty()) {
         std::size_t length = 0;
@@ -69,27 +66,30 @@ std::optional<std::vector<std::string>> namesOf(std::string_view path) {
                 names.pop_back();
             }
         } else if (!name.empty() && name != ".") {
+            if (!os::isFileName(name)) {
+                return std::nullopt;
+            }
             names.push_back(name);
         }
     }
     return names;
 }
 
-/// The folder's entry of that name: the one spelt exactly so, else the first that differs only in case.
+/// The folder's entry that the system knows by that name, else the first that differs only in case.
 fs::path entryOf(const fs::path& folder, const std::string& name) {
-    std::error_code ignored;
-    if (fs::exists(fs::symlink_status(folder / name, ignored))) {
-        return folder / name;
+    if (const auto known = os::entryOf(folder, name)) {
+        return *known;
     }
+    std::error_code ignored;
     const QString wanted = folded(name);
     std::string found;
     for (fs::directory_iterator entry(folder, ignored), end; entry != end; entry.increment(ignored)) {
-        const std::string candidate = entry->path().filename().string();
+        const std::string candidate = os::utf8Of(entry->path().filename());
         if ((found.empty() || candidate < found) && folded(candidate) == wanted) {
             found = candidate;
         }
     }
-    return folder / (found.empty() ? name : found);
+    return folder / os::pathOf(found.empty() ? name : found);
 }
 
 std::optional<fs::path> find(const fs::path& root, std::string_view path) {
@@ -177,11 +177,12 @@ std::optional<std::string> DriveC::pathOf(const fs::path& place) const {
     }
     std::string path = "C:";
     for (const fs::path& name : inside) {
-        if (!isName(name.string())) {
+        const std::string text = os::utf8Of(name);
+        if (!isName(text)) {
             return std::nullopt;
         }
-        if (name != "." && !name.empty()) {
-            path += "\\" + name.string();
+        if (text != "." && !text.empty()) {
+            path += "\\" + text;
         }
     }
     return path == "C:" ? "C:\\" : path;
@@ -237,7 +238,7 @@ void DriveC::writeLine(std::string_view path, std::string_view line) const {
         throw FileError(kAccessError);
     }
     try {
-        machine::replaceFile(place, std::string(line) + "\r\n");
+        os::replaceFile(place, std::string(line) + "\r\n");
     } catch (const std::system_error& error) {
         throw refusal(place, error.code());
     }
@@ -258,7 +259,7 @@ void DriveC::remove(std::string_view path) const {
 void DriveC::makeFolder(std::string_view path) const {
     const fs::path place = real(path);
     try {
-        machine::makePrivateFolder(place);
+        os::makePrivateFolder(place);
     } catch (const std::system_error& error) {
         if (error.code() == std::errc::no_such_file_or_directory) {
             throw FileError(kPathNotFound);

@@ -1,5 +1,7 @@
 #include "platform/FileSearch.h"
 
+#include "os/Paths.h"
+
 #include <QString>
 
 #include <algorithm>
@@ -50,7 +52,7 @@ std::optional<std::string> findFile(const DriveC& drive, const std::string& name
         pause();
         const Content content = contentOf(folder);
         for (const fs::path& file : content.files) {
-            if (lowered(file.filename().string()) == wanted) {
+            if (lowered(os::utf8Of(file.filename())) == wanted) {
                 if (auto path = drive.pathOf(file)) {
                     return path;
                 }

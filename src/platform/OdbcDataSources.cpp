@@ -17,7 +17,7 @@ namespace platform {
 namespace {
 
 using ado::odbc::Handle;
-using machine::DataSourceValues;
+using odbcfile::DataSourceValues;
 
 constexpr const char* kNameKey = "DSN";
 constexpr const char* kDriverKey = "Driver";
@@ -66,7 +66,7 @@ std::string knownDriver(const std::string& name) {
 }
 
 void enter(const std::string& name, const std::string& driver, const DataSourceValues& attributes) {
-    if (!machine::isDataSourceName(name)) {
+    if (!odbcfile::isDataSourceName(name)) {
         throw std::runtime_error("A data source can't be called \"" + name + "\".");
     }
     const std::string known = knownDriver(driver);
@@ -79,7 +79,7 @@ void enter(const std::string& name, const std::string& driver, const DataSourceV
             values.emplace_back(key, value);
         }
     }
-    machine::writeDataSource(name, values);
+    odbcfile::writeDataSource(name, values);
 }
 
 } // namespace
@@ -90,14 +90,14 @@ std::vector<std::string> OdbcDataSources::names() {
         // The list's position belongs to the environment: a new one begins with the first name.
         const Handle environment(SQL_HANDLE_ENV, SQL_NULL_HANDLE);
         SQLSetEnvAttr(environment.get(), SQL_ATTR_ODBC_VERSION, ado::odbc::asPointer(SQL_OV_ODBC3), 0);
-        std::array<SQLCHAR, 1024> name{};
-        std::array<SQLCHAR, 1024> driver{};
+        std::array<SQLWCHAR, 1024> name{};
+        std::array<SQLWCHAR, 1024> driver{};
         SQLSMALLINT nameLength = 0;
         SQLSMALLINT driverLength = 0;
-        while (SQLDataSources(environment.get(), SQL_FETCH_NEXT, name.data(), static_cast<SQLSMALLINT>(name.size()),
-                              &nameLength, driver.data(), static_cast<SQLSMALLINT>(driver.size()),
-                              &driverLength) == SQL_SUCCESS) {
-            names.emplace_back(name.begin(), name.begin() + nameLength);
+        while (SQLDataSourcesW(environment.get(), SQL_FETCH_NEXT, name.data(), static_cast<SQLSMALLINT>(name.size()),
+                               &nameLength, driver.data(), static_cast<SQLSMALLINT>(driver.size()),
+                               &driverLength) == SQL_SUCCESS) {
+            names.push_back(ado::odbc::toUtf8(name.data(), static_cast<std::size_t>(nameLength)));
         }
     } catch (const ado::Error&) { // NOLINT(bugprone-empty-catch)
         // Without an environment there are no names.
@@ -117,7 +117,7 @@ std::int32_t OdbcDataSources::configure(std::int16_t request, const std::string&
     DataSourceValues values = readAttributes(attributes, '\0');
     const std::string name = takeOut(values, kNameKey).value_or("");
     try {
-        if (request != kAdd && (request != kConfigure || !machine::hasDataSource(name))) {
+        if (request != kAdd && (request != kConfigure || !odbcfile::hasDataSource(name))) {
             return 0;
         }
         enter(name, driver, values);

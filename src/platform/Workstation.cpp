@@ -1,7 +1,8 @@
 #include "platform/Workstation.h"
 
 #include "ado/Drivers.h"
-#include "platform/Machine.h"
+#include "os/Machine.h"
+#include "os/Paths.h"
 #include "platform/RegionalSettings.h"
 #include "platform/Version.h"
 
@@ -44,9 +45,9 @@ void setWorkstation(Workstation workstation) {
 }
 
 void takeRealWorkstation() {
-    setWorkstation({.driveC = DriveC(machine::driveC()),
-                    .machineName = terminalName(machine::hostName()),
-                    .programName = machine::programFile().stem().string(),
+    setWorkstation({.driveC = DriveC(os::driveC()),
+                    .machineName = terminalName(os::hostName()),
+                    .programName = os::utf8Of(os::programFile().stem()),
                     .productName = version::kProductName,
                     .legalNotice = version::kLegalNotice,
                     .versionMajor = version::kMajor,

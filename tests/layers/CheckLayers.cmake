@@ -2,12 +2,17 @@
 #   cmake -DROOT=<project> -P CheckLayers.cmake
 
 # What a folder of src may include.
-set(allowed_engine engine/)
-set(allowed_ado ado/ engine/)
-set(allowed_platform platform/ ado/)
-set(allowed_controls controls/ platform/ ado/)
+set(allowed_os os/)
+set(allowed_engine engine/ os/)
+set(allowed_ado ado/ engine/ os/)
+set(allowed_platform platform/ ado/ os/)
+set(allowed_controls controls/ platform/ ado/ os/)
 set(allowed_state state/ ado/)
 set(allowed_kit kit/ state/ platform/ ado/)
+
+# The headers of one operating system.
+set(system_headers
+    "^(unistd|fcntl|pwd|crypt|poll|dlfcn|langinfo|termios|netdb|windows|bcrypt|objbase|shlobj|aclapi|sddl)\\.h$|^(sys|netinet|arpa)/")
 
 # The folders of the engine from the lowest up: each may include itself and those before it.
 set(engine_folders errors values text store functions bind translate run)
@@ -79,8 +84,11 @@ macro(check_quoted file folder header)
 endmacro()
 
 macro(check_angled file folder header)
-    if("${folder}" STREQUAL "engine" AND "${header}" MATCHES "^Q")
-        report(${file} "the engine does without ${header}")
+    if("${header}" MATCHES "${system_headers}" AND NOT "${file}" MATCHES "(Posix|Win)\\.cpp$")
+        report(${file} "only a source of one system includes ${header}")
+    endif()
+    if("${folder}" MATCHES "^(engine|os)$" AND "${header}" MATCHES "^Q")
+        report(${file} "${folder} does without ${header}")
     endif()
     if("${header}" STREQUAL "sqlite3.h" AND NOT "${folder}" STREQUAL "engine")
         report(${file} "only the engine includes sqlite3.h")
@@ -106,6 +114,10 @@ foreach(file IN LISTS sources)
             check_quoted(${file} ${folder} ${header})
         endif()
     endforeach()
+    file(STRINGS ${ROOT}/${file} found REGEX "^[ \t]*#[ \t]*if")
+    if(found)
+        report(${file} "systems differ by source, not by a condition inside one")
+    endif()
     if(NOT folder STREQUAL "controls")
         file(STRINGS ${ROOT}/${file} found REGEX "${boxes}")
         if(found)

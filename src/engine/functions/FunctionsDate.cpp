@@ -1,10 +1,10 @@
 #include "engine/errors/Error.h"
 #include "engine/errors/FunctionErrors.h"
 #include "engine/functions/FunctionRows.h"
-#include "engine/store/Host.h"
 #include "engine/values/Ascii.h"
 #include "engine/values/CalendarDate.h"
 #include "engine/values/Conversions.h"
+#include "os/Machine.h"
 
 #include <algorithm>
 #include <array>
@@ -256,7 +256,7 @@ std::span<const FunctionRow> dateFunctions() {
 std::string currentTime() {
     using namespace std::chrono;
     const auto now = system_clock::now();
-    const std::tm local = localTime(system_clock::to_time_t(now));
+    const std::tm local = os::localTime(system_clock::to_time_t(now));
     CalendarDate date;
     date.year = local.tm_year + 1900;
     date.month = local.tm_mon + 1;

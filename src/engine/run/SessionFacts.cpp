@@ -2,8 +2,9 @@
 
 #include "engine/run/ServerSession.h"
 #include "engine/run/SystemTables.h"
-#include "engine/store/Host.h"
 #include "engine/values/Collation.h"
+#include "os/Machine.h"
+#include "os/Paths.h"
 
 #include <algorithm>
 #include <utility>
@@ -19,7 +20,7 @@ std::string versionText(const Instance& instance) {
 }
 
 std::string serverName(const Instance& instance) {
-    std::string name = instance.folder().filename().string();
+    std::string name = os::utf8Of(instance.folder().filename());
     for (char& c : name) {
         c = c == '$' ? '\\' : c;
     }
@@ -110,7 +111,7 @@ Scalar ServerSession::fact(Fact fact, const Scalar& argument) {
     case Fact::FirstDayOfWeek:
         return std::int64_t{settings.firstDayOfWeek};
     case Fact::Host:
-        return hostName();
+        return os::hostName();
     case Fact::Language:
         return settings.language;
     case Fact::LastIdentity:
@@ -125,7 +126,7 @@ Scalar ServerSession::fact(Fact fact, const Scalar& argument) {
     case Fact::Options:
         return settings.options();
     case Fact::Process:
-        return processNumber();
+        return os::processNumber();
     case Fact::RowCount:
         return rowCount_;
     case Fact::ServerName:

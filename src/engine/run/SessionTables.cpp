@@ -4,6 +4,7 @@
 #include "engine/run/SystemTables.h"
 #include "engine/store/StoredNames.h"
 #include "engine/values/Collation.h"
+#include "os/Paths.h"
 
 #include <sqlite3.h>
 
@@ -32,7 +33,7 @@ void attach(Database& database, const DatabaseEntry& other, const std::string& s
     }
     attached.reset();
     sqlite::Statement attach(database.connection(), "ATTACH ?1 AS " + stored::quoted(schema));
-    attach.bind(1, std::string_view(other.file.string()));
+    attach.bind(1, os::utf8Of(other.file));
     attach.step();
 }
 

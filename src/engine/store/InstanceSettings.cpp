@@ -1,8 +1,8 @@
 // The settings of an instance: options of the server, options of its databases, logins.
 
 #include "engine/store/InstanceStore.h"
-#include "engine/store/Passwords.h"
 #include "engine/text/DatabaseOptions.h"
+#include "os/Passwords.h"
 
 #include <algorithm>
 
@@ -102,7 +102,7 @@ void InstanceStore::addLogin(const std::string& user, const std::string& passwor
     const std::scoped_lock guard(mutex_);
     sqlite::Statement store(registry_, "INSERT OR REPLACE INTO logins VALUES (?1, ?2)");
     store.bind(1, user);
-    store.bind(2, hashPassword(password));
+    store.bind(2, os::hashPassword(password));
     store.step();
 }
 
@@ -110,7 +110,7 @@ bool InstanceStore::authenticates(const std::string& user, const std::string& pa
     const std::scoped_lock guard(mutex_);
     sqlite::Statement row(registry_, "SELECT hash FROM logins WHERE name = ?1");
     row.bind(1, user);
-    return row.step() && passwordMatches(password, std::string(row.text(0)));
+    return row.step() && os::passwordMatches(password, std::string(row.text(0)));
 }
 
 } // namespace engine

@@ -1,10 +1,11 @@
 #include "engine/store/InstanceStore.h"
 
 #include "engine/errors/StoreErrors.h"
-#include "engine/store/Host.h"
 #include "engine/store/RowLocks.h"
 #include "engine/values/Collation.h"
 #include "engine/values/Conversions.h"
+#include "os/Machine.h"
+#include "os/Paths.h"
 
 #include <algorithm>
 #include <array>
@@ -83,7 +84,7 @@ std::filesystem::path InstanceStore::registryFile(const std::filesystem::path& f
 
 InstanceStore::InstanceStore(std::filesystem::path folder, InstanceOptions options, bool create)
     : folder_(std::move(folder)), options_(std::move(options)), registry_(registryFile(folder_), create) {
-    refuseTooLargeFiles();
+    os::refuseTooLargeFiles();
     if (create) {
         makeRegistry();
     }
@@ -112,15 +113,15 @@ void InstanceStore::makeSystemDatabases() {
 }
 
 std::filesystem::path InstanceStore::mapPath(std::string_view serverPath) const {
-    return options_.mapPath ? options_.mapPath(serverPath) : std::filesystem::path(serverPath);
+    return options_.mapPath ? options_.mapPath(serverPath) : os::pathOf(serverPath);
 }
 
 DatabaseEntry InstanceStore::entryOf(const sqlite::Statement& row) const {
     const std::string_view localName = row.text(2);
     std::string serverPath(row.text(3));
-    std::filesystem::path file = localName.empty() ? mapPath(serverPath) : folder_ / localName;
+    std::filesystem::path file = localName.empty() ? mapPath(serverPath) : folder_ / os::pathOf(localName);
     if (serverPath.empty()) {
-        serverPath = file.string();
+        serverPath = os::utf8Of(file);
     }
     return {static_cast<int>(row.integer(0)), std::string(row.text(1)), std::move(file), std::move(serverPath),
             std::string(row.text(4))};
@@ -163,7 +164,7 @@ void InstanceStore::checkFolder(const std::string& serverPath) const {
 InstanceStore::Place InstanceStore::placeOf(const std::string& name, const std::string& fileName) const {
     const std::string file = fileName.empty() ? fileNameOf(name) : fileName;
     if (file.find_first_of(kSeparators) == std::string::npos) {
-        return {"", file, folder_ / file};
+        return {"", file, folder_ / os::pathOf(file)};
     }
     return {file, "", mapPath(file)};
 }

@@ -1,7 +1,7 @@
 #include "engine/store/RowLocks.h"
 
-#include "engine/store/FileLock.h"
 #include "engine/values/Collation.h"
+#include "os/FileLock.h"
 
 #include <string>
 #include <unordered_map>
@@ -10,7 +10,7 @@ namespace engine {
 namespace {
 
 /// A lock on the last byte says that a session uses the database; all other bytes stand for rows.
-constexpr std::uint64_t kPresencePlace = FileLock::kEnd - 1;
+constexpr std::uint64_t kPresencePlace = os::FileLock::kEnd - 1;
 
 std::filesystem::path lockFile(const std::filesystem::path& database) {
     std::filesystem::path file = database;
@@ -44,7 +44,7 @@ struct RowLocks::State {
         return mixed(lastHash + mixed(static_cast<std::uint64_t>(row))) % kPresencePlace;
     }
 
-    FileLock file;
+    os::FileLock file;
     std::unordered_map<std::uint64_t, int> held;
     std::string lastTable;
     std::uint64_t lastHash = 0;
@@ -89,7 +89,7 @@ bool RowLocks::heldByOthers(std::string_view table, std::int64_t row) const {
 
 bool RowLocks::databaseInUse(const std::filesystem::path& database) {
     const std::filesystem::path file = lockFile(database);
-    return std::filesystem::exists(file) && FileLock(file).heldByOthers(kPresencePlace, 1);
+    return std::filesystem::exists(file) && os::FileLock(file).heldByOthers(kPresencePlace, 1);
 }
 
 void RowLocks::removeFile(const std::filesystem::path& database) {

@@ -1,10 +1,11 @@
 #include "engine/store/Sqlite.h"
 
 #include "engine/store/Beside.h"
-#include "engine/store/Host.h"
 #include "engine/store/Idler.h"
 #include "engine/store/Watched.h"
 #include "engine/values/Collation.h"
+#include "os/Files.h"
+#include "os/Paths.h"
 
 #include <sqlite3.h>
 
@@ -129,7 +130,7 @@ bool holdsTable(const std::filesystem::path& file, std::string_view table) {
     sqlite3_stmt* row = nullptr;
     const int flags = SQLITE_OPEN_READONLY | SQLITE_OPEN_NOMUTEX;
     const bool found =
-        sqlite3_open_v2(file.string().c_str(), &handle, flags, nullptr) == SQLITE_OK &&
+        sqlite3_open_v2(os::utf8Of(file).c_str(), &handle, flags, nullptr) == SQLITE_OK &&
         sqlite3_prepare_v2(handle, "SELECT 1 FROM sqlite_master WHERE type = 'table' AND name = ?1", -1, &row,
                            nullptr) == SQLITE_OK &&
         sqlite3_bind_text(row, 1, table.data(), static_cast<int>(table.size()), SQLITE_STATIC) == SQLITE_OK &&
@@ -141,13 +142,13 @@ bool holdsTable(const std::filesystem::path& file, std::string_view table) {
 
 Connection::Connection(const std::filesystem::path& file, bool create) : patience_(std::make_unique<Patience>()) {
     if (create) {
-        makeFileOfOwner(file); // SQLite gives the files beside a database (log and index of the log) its rights
+        os::makeFileOfOwner(file); // SQLite gives the files beside a database (log and index of the log) its rights
     }
     if (wasEmptied(file)) {
         throw Failure(SQLITE_NOTADB, sqlite3_errstr(SQLITE_NOTADB));
     }
     const int flags = SQLITE_OPEN_READWRITE | SQLITE_OPEN_NOMUTEX;
-    const int code = sqlite3_open_v2(file.string().c_str(), &handle_, flags, nullptr);
+    const int code = sqlite3_open_v2(os::utf8Of(file).c_str(), &handle_, flags, nullptr);
     try {
         if (code != SQLITE_OK) {
             fail(handle_);

@@ -130,8 +130,8 @@ public:
         : handle_(SQL_HANDLE_DBC, environment()), place_(placeOf(text)), timeout_(timeoutOf(text)) {
         const std::string driver = resolveDriver(text.value("Driver").value_or(kServerDriver), registeredDrivers());
         checkLength(driver);
-        check(SQLSetConnectAttrW(handle_.get(), SQL_ATTR_LOGIN_TIMEOUT, asPointer(static_cast<unsigned long>(timeout_)),
-                                 0),
+        check(SQLSetConnectAttrW(handle_.get(), SQL_ATTR_LOGIN_TIMEOUT,
+                                 asPointer(static_cast<std::uintptr_t>(timeout_)), 0),
               handle_, "SQLSetConnectAttr");
         connect(handle_, text, driver);
     }
@@ -220,7 +220,7 @@ private:
 
     /// A driver that doesn't know the attribute is asked before each first statement.
     void setPreparedFor(int seconds) {
-        SQLSetConnectAttrW(handle_.get(), kPreparedFor, asPointer(static_cast<unsigned long>(seconds)), 0);
+        SQLSetConnectAttrW(handle_.get(), kPreparedFor, asPointer(static_cast<std::uintptr_t>(seconds)), 0);
     }
 
     Handle handle_;

@@ -9,6 +9,7 @@
 #include <sql.h>
 #include <sqlext.h>
 
+#include <cstdint>
 #include <string>
 #include <string_view>
 
@@ -52,7 +53,7 @@ bool isServers(int nativeError);
 bool isDead(const Handle& connection);
 
 /// A number as the functions for attributes expect it.
-inline SQLPOINTER asPointer(unsigned long number) {
+inline SQLPOINTER asPointer(std::uintptr_t number) {
     return reinterpret_cast<SQLPOINTER>(number); // NOLINT(performance-no-int-to-ptr)
 }
 

@@ -60,7 +60,7 @@ FieldType fieldType(SQLSMALLINT type, SQLULEN size, SQLSMALLINT digits) {
 
 OdbcResult::OdbcResult(std::shared_ptr<const Handle> connection, std::string server, std::string_view text, int timeout)
     : connection_(std::move(connection)), server_(std::move(server)), statement_(SQL_HANDLE_STMT, connection_->get()) {
-    check(SQLSetStmtAttrW(statement_.get(), SQL_ATTR_QUERY_TIMEOUT, asPointer(static_cast<unsigned long>(timeout)), 0),
+    check(SQLSetStmtAttrW(statement_.get(), SQL_ATTR_QUERY_TIMEOUT, asPointer(static_cast<std::uintptr_t>(timeout)), 0),
           statement_, "SQLSetStmtAttr");
     if (text.find('\0') != std::string_view::npos) { // ODBC would send and run only the part before it
         throw Error(kSyntaxOrColumn, "A statement can't hold a NUL character.");

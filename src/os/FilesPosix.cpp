@@ -1,15 +1,14 @@
-#include "platform/Machine.h"
+#include "os/Files.h"
+#include "os/Paths.h"
 
-#include <array>
 #include <cerrno>
-#include <cstdlib>
 #include <fcntl.h>
-#include <pwd.h>
+#include <string>
 #include <sys/stat.h>
 #include <system_error>
 #include <unistd.h>
 
-namespace platform::machine {
+namespace os {
 
 namespace fs = std::filesystem;
 
@@ -89,40 +88,16 @@ void syncFolder(const fs::path& folder) {
     }
 }
 
-std::string environment(const char* name) {
-    const char* value = std::getenv(name);
-    return value == nullptr ? "" : value;
-}
-
-fs::path home() {
-    if (const std::string folder = environment("HOME"); !folder.empty()) {
-        return folder;
-    }
-    const passwd* entry = ::getpwuid(::getuid());
-    return entry == nullptr ? fs::path("/") : fs::path(entry->pw_dir);
-}
-
 } // namespace
 
-std::string hostName() {
-    std::array<char, 256> buffer{};
-    if (::gethostname(buffer.data(), buffer.size() - 1) != 0) {
-        return {};
-    }
-    return buffer.data();
+bool isFileName(std::string_view name) {
+    return !name.empty() && name.find('/') == std::string_view::npos && name.find('\0') == std::string_view::npos;
 }
 
-fs::path programFile() {
+std::optional<fs::path> entryOf(const fs::path& folder, std::string_view name) {
     std::error_code ignored;
-    return fs::read_symlink("/proc/self/exe", ignored);
-}
-
-fs::path driveC() {
-    if (const std::string folder = environment("VABO_DRIVE_C"); !folder.empty()) {
-        return fs::absolute(folder).lexically_normal();
-    }
-    const fs::path data = environment("XDG_DATA_HOME");
-    return (data.is_absolute() ? data : home() / ".local" / "share") / "vabo" / "c";
+    fs::path entry = folder / pathOf(name);
+    return fs::exists(fs::symlink_status(entry, ignored)) ? std::optional(std::move(entry)) : std::nullopt;
 }
 
 void replaceFile(const fs::path& file, std::string_view bytes, fs::perms permissions) {
@@ -137,10 +112,17 @@ void replaceFile(const fs::path& file, std::string_view bytes, fs::perms permiss
     syncFolder(file.parent_path());
 }
 
+void makeFileOfOwner(const fs::path& file) {
+    const int descriptor = ::open(file.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, S_IRUSR | S_IWUSR);
+    if (descriptor >= 0) {
+        ::close(descriptor);
+    }
+}
+
 void makePrivateFolder(const fs::path& folder) {
     if (::mkdir(folder.c_str(), S_IRWXU) != 0) {
         fail("mkdir");
     }
 }
 
-} // namespace platform::machine
+} // namespace os

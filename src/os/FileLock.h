@@ -2,8 +2,9 @@
 
 #include <cstdint>
 #include <filesystem>
+#include <memory>
 
-namespace engine {
+namespace os {
 
 /// Exclusive and shared locks on single bytes of a file, which need not exist in it. They belong to this object alone
 /// (two objects of one process exclude each other) and end with it or with its process.
@@ -27,8 +28,8 @@ public:
     bool heldByOthers(std::uint64_t place, std::uint64_t length) const;
 
 private:
-    std::filesystem::path file_;
-    int descriptor_ = -1;
+    class OpenFile;
+    std::unique_ptr<OpenFile> file_;
 };
 
-} // namespace engine
+} // namespace os

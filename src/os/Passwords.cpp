@@ -1,24 +1,12 @@
-#include "engine/store/Passwords.h"
+#include "os/Passwords.h"
 
-#include <crypt.h>
+#include "os/PasswordHash.h"
+
 #include <map>
-#include <memory>
 #include <mutex>
-#include <stdexcept>
 
-namespace engine {
+namespace os {
 namespace {
-
-constexpr const char* kSha512Method = "$6$";
-
-std::string crypted(const std::string& password, const std::string& setting) {
-    const auto work = std::make_unique<crypt_data>();
-    const char* hash = crypt_r(password.c_str(), setting.c_str(), work.get());
-    if (hash == nullptr || hash[0] == '*') {
-        throw std::runtime_error("a password can't be hashed");
-    }
-    return hash;
-}
 
 /// The passwords that this process has proved, by their hash. Hashing is slow on purpose, and a program logs in with
 /// every connection that it opens; a new password has a new hash.
@@ -47,26 +35,22 @@ Proven& proven() {
 } // namespace
 
 std::string hashPassword(const std::string& password) {
-    std::string setting(CRYPT_GENSALT_OUTPUT_SIZE, '\0');
-    if (crypt_gensalt_rn(kSha512Method, 0, nullptr, 0, setting.data(), static_cast<int>(setting.size())) == nullptr) {
-        throw std::runtime_error("no salt for a password");
-    }
-    return crypted(password, setting.c_str());
+    return hashed(password, newSetting());
 }
 
 bool passwordMatches(const std::string& password, const std::string& hash) {
-    const bool hashable = password.size() < CRYPT_MAX_PASSPHRASE_SIZE && password.find('\0') == std::string::npos;
+    const bool hashable = password.size() <= kLongestPassword && password.find('\0') == std::string::npos;
     if (!hashable) {
         return false;
     }
     if (proven().contains(password, hash)) {
         return true;
     }
-    const bool matches = crypted(password, hash) == hash;
+    const bool matches = hashed(password, hash) == hash;
     if (matches) {
         proven().add(password, hash);
     }
     return matches;
 }
 
-} // namespace engine
+} // namespace os

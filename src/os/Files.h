@@ -1,25 +1,27 @@
 #pragma once
 
-// What the program needs from the operating system. Each system has one source file that implements it.
+// The names of files, and files and folders that their owner alone can read.
 
 #include <filesystem>
-#include <string>
+#include <optional>
 #include <string_view>
 
-namespace platform::machine {
+namespace os {
 
-/// The whole host name, domain included.
-std::string hostName();
-std::filesystem::path programFile();
-/// The folder used as drive C: $VABO_DRIVE_C, or else `vabo/c` in the user's data folder.
-std::filesystem::path driveC();
+/// Whether a file or folder can have that name, in UTF-8.
+bool isFileName(std::string_view name);
+/// The entry of a folder that the system finds by that name, spelt as it is on the disk.
+std::optional<std::filesystem::path> entryOf(const std::filesystem::path& folder, std::string_view name);
 
 /// Replaces a file by these bytes, by default readable by its owner only, and returns when they are on the disk. A kill
 /// or a power cut leaves the old file or the new one. Throws std::system_error.
 void replaceFile(const std::filesystem::path& file, std::string_view bytes,
                  std::filesystem::perms permissions = std::filesystem::perms::owner_read |
                                                       std::filesystem::perms::owner_write);
+/// Makes an empty file that nobody but its owner can ever open. Does nothing where there is one, or where none can be
+/// made.
+void makeFileOfOwner(const std::filesystem::path& file);
 /// Throws std::system_error.
 void makePrivateFolder(const std::filesystem::path& folder);
 
-} // namespace platform::machine
+} // namespace os

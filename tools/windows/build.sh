@@ -1,0 +1,107 @@
+#!/usr/bin/env bash
+# Builds for Windows, below build/windows, on a bare Debian 12 and from its packages and source packages alone:
+#   tools/windows/build.sh                     toolkit, libraries, program, tests, installer and zip
+#   tools/windows/build.sh program package     these steps only
+# The toolkit and the libraries are kept: the first run takes half an hour, the next ones some minutes.
+set -euo pipefail
+cd "$(dirname "$0")/../.."
+here=$PWD/tools/windows
+work=$PWD/build/windows
+jobs=${VABO_JOBS:-$(nproc)}
+host=/usr/lib/$(gcc -print-multiarch)/cmake
+export VABO_WINDOWS_PREFIX=$work/prefix
+. "$here/sources.sh"
+
+# For a program that the build runs: where it finds its libraries, in the spelling of that system.
+compiler=/usr/lib/gcc/x86_64-w64-mingw32/12-posix
+runtime=/usr/x86_64-w64-mingw32/lib
+export WINEPREFIX=$work/wine WINEARCH=win64 WINEDEBUG=-all
+export WINEPATH="Z:${VABO_WINDOWS_PREFIX//\//\\}\\bin;Z:${compiler//\//\\};Z:${runtime//\//\\}"
+
+sources() {
+    mkdir -p "$work/sources"
+    cd "$work/sources"
+    source_lists "$work/apt"
+    get_source qt6-base "$qt_version" qtbase
+    get_source icu "$icu_version" icu
+    get_source sqlite3 "$sqlite_version" sqlite
+    get_source googletest "$googletest_version" googletest
+    cd - >/dev/null
+}
+
+toolkit() {
+    [ -e "$work/toolkit.$qt_version" ] && return
+    sources
+    "$here/toolkit.sh" "$work/sources/qtbase" "$work/toolkit" "$VABO_WINDOWS_PREFIX"
+    touch "$work/toolkit.$qt_version"
+}
+
+libraries() {
+    local made=$work/libraries.$icu_version.$sqlite_version.$googletest_version
+    [ -e "$made" ] && return
+    sources
+    "$here/icu-data.sh" "$work/sources/icu" "$work/icu-data"
+    mkdir -p "$work/amalgamation"
+    (cd "$work/amalgamation" && ../sources/sqlite/configure --disable-tcl >/dev/null && make sqlite3.c >/dev/null)
+    cmake -G Ninja -S "$here/libraries" -B "$work/libraries" -DCMAKE_TOOLCHAIN_FILE="$here/toolchain.cmake" \
+        -DCMAKE_BUILD_TYPE=Release -DCMAKE_INSTALL_PREFIX="$VABO_WINDOWS_PREFIX" -DSOURCES="$work/sources" \
+        -DAMALGAMATION="$work/amalgamation" -DICU_DATA="$work/icu-data/icudt.S"
+    cmake --build "$work/libraries" -j "$jobs"
+    cmake --install "$work/libraries" >/dev/null
+    touch "$made"
+}
+
+# The icon is drawn by the program's own code, here; the system there wants one file with all sizes.
+icon() {
+    cmake --preset release -DVABO_BUILD_TESTS=OFF -DVABO_BUILD_BENCH=OFF >/dev/null
+    cmake --build --preset release -j "$jobs" --target vabo-mark
+    QT_QPA_PLATFORM=offscreen build/release/bin/vabo-mark "$work/icon" 16 24 32 48 64 128 256
+    icotool --create --output="$work/vabo.ico" "$work"/icon/*/apps/vabo.png
+}
+
+configure() {
+    [ -e "$WINEPREFIX/system.reg" ] || prepare_wine
+    cmake -G Ninja -S . -B "$work/vabo" -DCMAKE_TOOLCHAIN_FILE="$here/toolchain.cmake" \
+        -DCMAKE_BUILD_TYPE=RelWithDebInfo -DCMAKE_CXX_FLAGS_RELWITHDEBINFO="-O2 -g1" \
+        -DCMAKE_PREFIX_PATH="$VABO_WINDOWS_PREFIX" -DVABO_ICON="$work/vabo.ico" \
+        -DQT_HOST_PATH=/usr -DQT_HOST_PATH_CMAKE_DIR="$host" -DQt6HostInfo_DIR="$host/Qt6HostInfo" \
+        -DCMAKE_CROSSCOMPILING_EMULATOR=/usr/bin/wine >/dev/null
+}
+
+program() {
+    icon
+    configure
+    cmake --build "$work/vabo" -j "$jobs" --target vabo vabo-provision vabo-tour
+}
+
+tests() {
+    configure
+    cmake --build "$work/vabo" -j "$jobs"
+}
+
+package() {
+    "$here/package.sh" "$work" "$(sed -n 's/^project(vabo VERSION \([0-9.]*\).*/\1/p' CMakeLists.txt)"
+}
+
+# Without these fonts, and names for those that windows ask for, texts would have serifs or no width.
+prepare_wine() {
+    wineboot --init
+    for wanted in "Tahoma" "MS Shell Dlg" "MS Shell Dlg 2" "Segoe UI"; do
+        wine reg add 'HKCU\Software\Wine\Fonts\Replacements' /v "$wanted" /d "DejaVu Sans" /f >/dev/null
+    done
+    wineserver --wait
+}
+
+tools/packages.sh build windows
+mkdir -p "$work"
+for step in "${@:-toolkit libraries program tests package}"; do
+    for each in $step; do
+        case "$each" in
+        toolkit | libraries | program | tests | package) "$each" ;;
+        *)
+            echo "usage: build.sh [toolkit] [libraries] [program] [tests] [package]" >&2
+            exit 2
+            ;;
+        esac
+    done
+done

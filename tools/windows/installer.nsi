@@ -1,0 +1,86 @@
+; The installer, Italian: for this user or for all users of the machine. What the program keeps on drive C isn't touched,
+; neither by the installation nor by its removal.
+Unicode true
+Target amd64-unicode
+SetCompressor /SOLID lzma
+Name "VaBo"
+OutFile "${OUTPUT}"
+
+!define MULTIUSER_EXECUTIONLEVEL Highest
+!define MULTIUSER_MUI
+!define MULTIUSER_INSTALLMODE_COMMANDLINE
+!define MULTIUSER_USE_PROGRAMFILES64
+!define MULTIUSER_INSTALLMODE_INSTDIR "VaBo"
+!define MULTIUSER_INSTALLMODE_INSTDIR_REGISTRY_KEY "Software\VaBo"
+!define MULTIUSER_INSTALLMODE_INSTDIR_REGISTRY_VALUENAME "Folder"
+!define MULTIUSER_INSTALLMODE_DEFAULT_REGISTRY_KEY "Software\VaBo"
+!define MULTIUSER_INSTALLMODE_DEFAULT_REGISTRY_VALUENAME "Folder"
+!include MultiUser.nsh
+!include MUI2.nsh
+
+!define MUI_ICON "${ICON}"
+!define MUI_UNICON "${ICON}"
+!define UNINSTALL "Software\Microsoft\Windows\CurrentVersion\Uninstall\VaBo"
+
+!insertmacro MULTIUSER_PAGE_INSTALLMODE
+!insertmacro MUI_PAGE_DIRECTORY
+!insertmacro MUI_PAGE_INSTFILES
+!insertmacro MUI_UNPAGE_CONFIRM
+!insertmacro MUI_UNPAGE_INSTFILES
+!insertmacro MUI_LANGUAGE "Italian"
+
+VIProductVersion "${VERSION}.0"
+VIAddVersionKey /LANG=1040 "ProductName" "VaBo"
+VIAddVersionKey /LANG=1040 "FileDescription" "Installazione di VaBo"
+VIAddVersionKey /LANG=1040 "FileVersion" "${VERSION}"
+VIAddVersionKey /LANG=1040 "LegalCopyright" "Copyright (c) 2026 the maintainers"
+
+Function .onInit
+  SetRegView 64
+  !insertmacro MULTIUSER_INIT
+FunctionEnd
+
+Function un.onInit
+  SetRegView 64
+  !insertmacro MULTIUSER_UNINIT
+FunctionEnd
+
+Section
+  SetOutPath "$INSTDIR"
+  File /r "${CONTENT}/*"
+  WriteUninstaller "$INSTDIR\rimuovi.exe"
+  CreateShortcut "$SMPROGRAMS\VaBo.lnk" "$INSTDIR\vabo.exe"
+  WriteRegStr SHCTX "Software\VaBo" "Folder" "$INSTDIR"
+  WriteRegStr SHCTX "${UNINSTALL}" "DisplayName" "VaBo"
+  WriteRegStr SHCTX "${UNINSTALL}" "DisplayVersion" "${VERSION}"
+  WriteRegStr SHCTX "${UNINSTALL}" "DisplayIcon" "$INSTDIR\vabo.exe"
+  WriteRegStr SHCTX "${UNINSTALL}" "UninstallString" '"$INSTDIR\rimuovi.exe" /$MultiUser.InstallMode'
+  WriteRegStr SHCTX "${UNINSTALL}" "QuietUninstallString" '"$INSTDIR\rimuovi.exe" /$MultiUser.InstallMode /S'
+  WriteRegDWORD SHCTX "${UNINSTALL}" "NoModify" 1
+  WriteRegDWORD SHCTX "${UNINSTALL}" "NoRepair" 1
+SectionEnd
+
+; Only what was installed is removed; whatever else stands in the folder stays.
+Section "Uninstall"
+  Delete "$SMPROGRAMS\VaBo.lnk"
+  Delete "$INSTDIR\vabo.exe"
+  Delete "$INSTDIR\vabo-provision.exe"
+  Delete "$INSTDIR\Qt6Core.dll"
+  Delete "$INSTDIR\Qt6Gui.dll"
+  Delete "$INSTDIR\Qt6Widgets.dll"
+  Delete "$INSTDIR\libstdc++-6.dll"
+  Delete "$INSTDIR\libgcc_s_seh-1.dll"
+  Delete "$INSTDIR\libwinpthread-1.dll"
+  Delete "$INSTDIR\platforms\qwindows.dll"
+  Delete "$INSTDIR\styles\qwindowsvistastyle.dll"
+  Delete "$INSTDIR\translations\qtbase_it.qm"
+  Delete "$INSTDIR\LICENSE.txt"
+  Delete "$INSTDIR\qt.conf"
+  Delete "$INSTDIR\rimuovi.exe"
+  RMDir "$INSTDIR\platforms"
+  RMDir "$INSTDIR\styles"
+  RMDir "$INSTDIR\translations"
+  RMDir "$INSTDIR"
+  DeleteRegKey SHCTX "${UNINSTALL}"
+  DeleteRegKey SHCTX "Software\VaBo"
+SectionEnd

@@ -1,0 +1,27 @@
+#!/usr/bin/env bash
+# package.sh <build/windows> <version>: puts together what is shipped, and makes the installer and the zip of it.
+set -euo pipefail
+here=$(cd "$(dirname "$0")" && pwd)
+work=$1 version=$2
+prefix=$work/prefix
+compiler=/usr/lib/gcc/x86_64-w64-mingw32/12-posix
+runtime=/usr/x86_64-w64-mingw32/lib
+dist=$work/VaBo
+
+rm -rf "$dist"
+mkdir -p "$dist/platforms" "$dist/styles" "$dist/translations"
+cp "$work"/vabo/bin/vabo{,-provision}.exe "$prefix"/bin/Qt6{Core,Gui,Widgets}.dll "$compiler/libstdc++-6.dll" \
+    "$compiler/libgcc_s_seh-1.dll" "$runtime/libwinpthread-1.dll" "$dist"
+cp "$prefix/plugins/platforms/qwindows.dll" "$dist/platforms"
+cp "$prefix/plugins/styles/qwindowsvistastyle.dll" "$dist/styles"
+cp /usr/share/qt6/translations/qtbase_it.qm "$dist/translations"
+cp "$here/../../LICENSE" "$dist/LICENSE.txt"
+printf '[Paths]\r\nPrefix=.\r\nPlugins=.\r\nTranslations=translations\r\n' >"$dist/qt.conf"
+x86_64-w64-mingw32-strip "$dist"/*.exe "$dist"/*.dll "$dist"/*/*.dll
+
+rm -f "$work/VaBo-$version.zip"
+(cd "$work" && zip -q -r -9 "VaBo-$version.zip" VaBo)
+makensis -V2 -DOUTPUT="$work/VaBo-$version.exe" -DCONTENT="$dist" -DVERSION="$version" -DICON="$work/vabo.ico" \
+    "$here/installer.nsi"
+du -sh "$dist" | sed 's/\t.*/ installed/'
+ls -l "$work/VaBo-$version".{zip,exe}

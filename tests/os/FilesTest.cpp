@@ -1,0 +1,100 @@
+#include "os/Files.h"
+
+#include "os/Paths.h"
+#include "support/TemporaryFolder.h"
+
+#include <gtest/gtest.h>
+
+#include <fstream>
+#include <iterator>
+#include <string>
+#include <system_error>
+
+namespace {
+
+namespace fs = std::filesystem;
+
+class Files : public testing::Test {
+protected:
+    const support::TemporaryFolder folder;
+    const std::string name = "citt\xc3\xa0.txt";
+    const fs::path file = folder.path() / os::pathOf(name);
+
+    std::string content() const {
+        std::ifstream in(file, std::ios::binary);
+        return {std::istreambuf_iterator<char>(in), {}};
+    }
+    std::ptrdiff_t entries() const { return std::distance(fs::directory_iterator(folder.path()), {}); }
+};
+
+TEST_F(Files, HaveNamesInUtf8) {
+    os::replaceFile(file, "uno");
+    const fs::path found = fs::directory_iterator(folder.path())->path();
+    EXPECT_EQ(os::utf8Of(found.filename()), name);
+    EXPECT_EQ(found, file);
+}
+
+TEST_F(Files, AreReplacedWholeAndLeaveNothingBeside) {
+    os::replaceFile(file, std::string(100'000, 'x'));
+    os::replaceFile(file, "due\r\n");
+    EXPECT_EQ(content(), "due\r\n");
+    EXPECT_EQ(entries(), 1);
+}
+
+TEST_F(Files, ThatCanNotBeReplacedStayAndLeaveNothingBeside) {
+    ASSERT_TRUE(fs::create_directory(file));
+    EXPECT_THROW(os::replaceFile(file, "due"), std::system_error);
+    EXPECT_TRUE(fs::is_directory(file));
+    EXPECT_EQ(entries(), 1);
+    try {
+        os::replaceFile(folder.path() / "manca" / "a.txt", "due");
+        FAIL() << "there is no such folder";
+    } catch (const std::system_error& error) {
+        EXPECT_EQ(error.code(), std::errc::no_such_file_or_directory);
+    }
+}
+
+TEST_F(Files, OfTheOwnerAreMadeEmptyAndOnlyOnce) {
+    os::makeFileOfOwner(file);
+    EXPECT_EQ(fs::file_size(file), 0U);
+    os::replaceFile(file, "uno");
+    os::makeFileOfOwner(file);
+    EXPECT_EQ(content(), "uno");
+    os::makeFileOfOwner(folder.path() / "manca" / "a.txt");
+    EXPECT_EQ(entries(), 1);
+}
+
+TEST_F(Files, StandInFoldersThatAreMadeOnce) {
+    os::makePrivateFolder(file);
+    EXPECT_TRUE(fs::is_directory(file));
+    try {
+        os::makePrivateFolder(file);
+        FAIL() << "it is there already";
+    } catch (const std::system_error& error) {
+        EXPECT_EQ(error.code(), std::errc::file_exists);
+    }
+    try {
+        os::makePrivateFolder(folder.path() / "manca" / "sotto");
+        FAIL() << "there is no such folder";
+    } catch (const std::system_error& error) {
+        EXPECT_EQ(error.code(), std::errc::no_such_file_or_directory);
+    }
+}
+
+TEST_F(Files, AreFoundInTheSpellingOfTheDisk) {
+    os::makeFileOfOwner(file);
+    EXPECT_EQ(os::entryOf(folder.path(), name), file);
+    EXPECT_EQ(os::entryOf(folder.path(), "manca.txt"), std::nullopt);
+    EXPECT_EQ(os::entryOf(folder.path() / "manca", name), std::nullopt);
+}
+
+TEST_F(Files, HaveNoEmptyNameAndNoSeparatorOrEndInIt) {
+    EXPECT_TRUE(os::isFileName(name));
+    EXPECT_TRUE(os::isFileName("IndirizzoServer.txt"));
+    EXPECT_TRUE(os::isFileName("Campione 2024 (copia)"));
+    EXPECT_FALSE(os::isFileName(""));
+    EXPECT_FALSE(os::isFileName("a/b"));
+    EXPECT_FALSE(os::isFileName(std::string("a\0b", 3)));
+}
+
+} // namespace

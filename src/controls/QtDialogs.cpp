@@ -1,7 +1,7 @@
 #include "controls/QtDialogs.h"
 
 #include "controls/Captions.h"
-#include "controls/FolderBrowser.h"
+#include "controls/FolderChoice.h"
 #include "platform/Workstation.h"
 
 #include <QApplication>
@@ -157,8 +157,7 @@ std::string QtDialogs::input(const std::string& prompt, const std::string& title
 }
 
 std::string QtDialogs::folder(const std::string& title) {
-    FolderBrowser box(QApplication::activeWindow(), titleOr(title));
-    return box.exec() == QDialog::Accepted ? box.chosen() : std::string();
+    return chooseFolder(QApplication::activeWindow(), titleOr(title));
 }
 
 } // namespace controls

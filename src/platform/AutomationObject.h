@@ -1,6 +1,7 @@
 #pragma once
 
 #include <memory>
+#include <optional>
 #include <string>
 #include <variant>
 #include <vector>
@@ -16,14 +17,20 @@ class AutomationObject {
 public:
     using Argument = std::variant<bool, int, std::string>;
 
+    /// Whether an application of that name is registered.
+    static bool isRegistered(const std::string& progId);
+
     /// Starts an application.
     explicit AutomationObject(const std::string& progId);
 
     void call(const std::string& member, const std::vector<Argument>& arguments = {}) const;
     void put(const std::string& property, const Argument& value) const;
-    /// A property that is an object itself. Throws 424 where it is none.
-    AutomationObject object(const std::string& property) const;
+    void put(const std::string& property, const AutomationObject& value) const;
+    /// A property, or its part at an index, that is an object itself. Throws 424 where it is none.
+    AutomationObject object(const std::string& property, const std::vector<Argument>& index = {}) const;
     int number(const std::string& property) const;
+    /// Nothing where the property is null or empty.
+    std::optional<std::string> text(const std::string& property) const;
 
 private:
     struct Release {

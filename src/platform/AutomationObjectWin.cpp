@@ -75,7 +75,7 @@ DISPID idOf(IDispatch& object, const std::string& member) {
     return id;
 }
 
-void invoke(IDispatch& object, const std::string& member, WORD kind, DISPPARAMS& parameters, Variant& result) {
+void invoke(IDispatch& object, const std::string& member, WORD kind, DISPPARAMS parameters, Variant& result) {
     EXCEPINFO told{};
     const HRESULT answer = object.Invoke(idOf(object, member), IID_NULL, LOCALE_USER_DEFAULT, kind, &parameters,
                                          &result.value, &told, nullptr);
@@ -84,9 +84,24 @@ void invoke(IDispatch& object, const std::string& member, WORD kind, DISPPARAMS&
     }
 }
 
-void read(IDispatch& object, const std::string& property, Variant& result) {
-    DISPPARAMS none{};
-    invoke(object, property, DISPATCH_PROPERTYGET, none, result);
+void invoke(IDispatch& object, const std::string& member, WORD kind,
+            const std::vector<AutomationObject::Argument>& arguments, Variant& result) {
+    const std::vector<Variant> values(arguments.rbegin(), arguments.rend()); // the last argument comes first
+    std::vector<VARIANT> raw;
+    std::ranges::transform(values, std::back_inserter(raw), [](const Variant& each) { return each.value; });
+    invoke(object, member, kind, DISPPARAMS{raw.data(), nullptr, static_cast<UINT>(raw.size()), 0}, result);
+}
+
+void assign(IDispatch& object, const std::string& property, WORD kind, VARIANT& value) {
+    DISPID named = DISPID_PROPERTYPUT;
+    Variant ignored;
+    invoke(object, property, kind, DISPPARAMS{&value, &named, 1, 1}, ignored);
+}
+
+void convert(Variant& value, VARTYPE type) {
+    if (FAILED(VariantChangeType(&value.value, &value.value, 0, type))) {
+        throw ado::Error(kAutomationError, "Automation error");
+    }
 }
 
 } // namespace
@@ -105,30 +120,31 @@ AutomationObject::AutomationObject(const std::string& progId) {
     object_.reset(static_cast<IDispatch*>(made));
 }
 
+bool AutomationObject::isRegistered(const std::string& progId) {
+    CLSID id{};
+    return SUCCEEDED(CLSIDFromProgID(wide(progId).c_str(), &id));
+}
+
 void AutomationObject::call(const std::string& member, const std::vector<Argument>& arguments) const {
-    const std::vector<Variant> values(arguments.rbegin(), arguments.rend()); // the last argument comes first
-    std::vector<VARIANT> raw;
-    std::ranges::transform(values, std::back_inserter(raw), [](const Variant& each) { return each.value; });
-    DISPPARAMS parameters{raw.data(), nullptr, static_cast<UINT>(raw.size()), 0};
     Variant ignored;
-    invoke(*object_, member, DISPATCH_METHOD, parameters, ignored);
+    invoke(*object_, member, DISPATCH_METHOD, arguments, ignored);
 }
 
 void AutomationObject::put(const std::string& property, const Argument& value) const {
     Variant given(value);
-    DISPID named = DISPID_PROPERTYPUT;
-    DISPPARAMS parameters{&given.value, &named, 1, 1};
-    EXCEPINFO told{};
-    const HRESULT answer = object_->Invoke(idOf(*object_, property), IID_NULL, LOCALE_USER_DEFAULT,
-                                           DISPATCH_PROPERTYPUT, &parameters, nullptr, &told, nullptr);
-    if (FAILED(answer)) {
-        throw failure(answer, told);
-    }
+    assign(*object_, property, DISPATCH_PROPERTYPUT, given.value);
 }
 
-AutomationObject AutomationObject::object(const std::string& property) const {
+void AutomationObject::put(const std::string& property, const AutomationObject& value) const {
+    VARIANT given{};
+    given.vt = VT_DISPATCH;
+    given.pdispVal = value.object_.get();
+    assign(*object_, property, DISPATCH_PROPERTYPUTREF, given);
+}
+
+AutomationObject AutomationObject::object(const std::string& property, const std::vector<Argument>& index) const {
     Variant found;
-    read(*object_, property, found);
+    invoke(*object_, property, DISPATCH_PROPERTYGET | DISPATCH_METHOD, index, found);
     if (found.value.vt != VT_DISPATCH || found.value.pdispVal == nullptr) {
         throw ado::Error(kObjectRequired, "Object required");
     }
@@ -138,12 +154,19 @@ AutomationObject AutomationObject::object(const std::string& property) const {
 
 int AutomationObject::number(const std::string& property) const {
     Variant found;
-    read(*object_, property, found);
-    Variant asNumber;
-    if (FAILED(VariantChangeType(&asNumber.value, &found.value, 0, VT_I4))) {
-        throw ado::Error(kAutomationError, "Automation error");
+    invoke(*object_, property, DISPATCH_PROPERTYGET, std::vector<Argument>{}, found);
+    convert(found, VT_I4);
+    return found.value.lVal;
+}
+
+std::optional<std::string> AutomationObject::text(const std::string& property) const {
+    Variant found;
+    invoke(*object_, property, DISPATCH_PROPERTYGET, std::vector<Argument>{}, found);
+    if (found.value.vt == VT_NULL || found.value.vt == VT_EMPTY) {
+        return std::nullopt;
     }
-    return asNumber.value.lVal;
+    convert(found, VT_BSTR);
+    return QString::fromWCharArray(found.value.bstrVal).toStdString();
 }
 
 } // namespace platform

@@ -1,6 +1,6 @@
 #include "platform/LinkCatalogs.h"
 
-#include "platform/FileLinkCatalogs.h"
+#include "platform/SystemLinkCatalogs.h"
 
 #include <utility>
 
@@ -14,7 +14,7 @@ std::unique_ptr<LinkCatalogs> present;
 
 LinkCatalogs& linkCatalogs() {
     if (!present) {
-        present = std::make_unique<FileLinkCatalogs>();
+        present = systemLinkCatalogs();
     }
     return *present;
 }

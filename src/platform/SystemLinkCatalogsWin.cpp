@@ -1,0 +1,93 @@
+#include "ado/ConnectionString.h"
+#include "ado/Error.h"
+#include "os/Paths.h"
+#include "platform/AutomationObject.h"
+#include "platform/FileLinkCatalogs.h"
+#include "platform/SystemLinkCatalogs.h"
+#include "platform/Workstation.h"
+
+namespace platform {
+
+namespace {
+
+constexpr const char* kProvider = "Microsoft.Jet.OLEDB.4.0";
+constexpr const char* kCatalog = "ADOX.Catalog";
+constexpr const char* kConnection = "ADODB.Connection";
+constexpr int kProviderString = 5; ///< its place among the properties of a link
+
+ado::Value valueOf(const std::optional<std::string>& text) {
+    return text ? ado::Value(*text) : ado::Value();
+}
+
+class JetTable : public CatalogTable {
+public:
+    explicit JetTable(AutomationObject table) : table_(std::move(table)) {}
+
+    ado::Value Type() override { return valueOf(table_.text("Type")); }
+    ado::Value Name() override { return valueOf(table_.text("Name")); }
+    ado::Value ProviderString() override { return valueOf(provider().text("Value")); }
+    void setProviderString(const std::string& text) override { provider().put("Value", text); }
+    void RefreshProperties() override { table_.object("Properties").call("Refresh"); }
+
+private:
+    AutomationObject provider() const { return table_.object("Properties").object("Item", {kProviderString}); }
+
+    AutomationObject table_;
+};
+
+class JetCatalog : public LinkCatalog {
+public:
+    explicit JetCatalog(const std::string& connection) : connection_(kConnection), catalog_(kCatalog) {
+        connection_.put("ConnectionString", connection);
+        connection_.call("Open");
+        catalog_.put("ActiveConnection", connection_);
+    }
+    ~JetCatalog() override {
+        try {
+            connection_.call("Close");
+        } catch (const ado::Error&) { // NOLINT(bugprone-empty-catch)
+            // Nobody needs it any more.
+        }
+    }
+    JetCatalog(const JetCatalog&) = delete;
+    JetCatalog& operator=(const JetCatalog&) = delete;
+
+    int Count() override { return tables().number("Count"); }
+    void Refresh() override { tables().call("Refresh"); }
+    std::vector<std::shared_ptr<CatalogTable>> Tables() override {
+        std::vector<std::shared_ptr<CatalogTable>> found;
+        const AutomationObject all = tables();
+        const int count = all.number("Count");
+        for (int place = 0; place < count; ++place) {
+            found.push_back(std::make_shared<JetTable>(all.object("Item", {place})));
+        }
+        return found;
+    }
+
+private:
+    AutomationObject tables() const { return catalog_.object("Tables"); }
+
+    AutomationObject connection_;
+    AutomationObject catalog_;
+};
+
+class JetCatalogs : public LinkCatalogs {
+public:
+    std::unique_ptr<LinkCatalog> open(const std::string& connection) override {
+        // The provider knows the system's paths, not those of a folder that stands for the drive.
+        const ado::ConnectionString text(connection);
+        const std::string place = os::utf8Of(workstation().driveC.real(text.server()));
+        return std::make_unique<JetCatalog>("Provider=" + text.provider() + ";Data Source=" + place);
+    }
+};
+
+} // namespace
+
+std::unique_ptr<LinkCatalogs> systemLinkCatalogs() {
+    if (AutomationObject::isRegistered(kProvider) && AutomationObject::isRegistered(kCatalog)) {
+        return std::make_unique<JetCatalogs>();
+    }
+    return std::make_unique<FileLinkCatalogs>();
+}
+
+} // namespace platform

@@ -46,6 +46,7 @@ private:
     /// A table that the statement's names may refer to.
     struct Visible {
         std::string qualifier; ///< alias, or the table's name
+        bool aliased = false;
         int number = 0;
         const TableInfo* table = nullptr;
         std::vector<ResultColumn> derived; ///< where `table` is null
@@ -69,6 +70,7 @@ private:
     static int columnOf(const Visible& table, std::string_view name);
     static ResultColumn describe(const Visible& table, int column);
     bound::ExpressionPtr column(const Visible& table, int column) const;
+    static void expose(Scope& scope, Visible visible);
     bound::SourcePtr source(const TableSource& source, Scope& scope, bool outer);
     bound::SourcePtr namedTable(const NamedTable& named, Scope& scope, bool outer);
     bound::SourcePtr derivedTable(const DerivedTable& derived, Scope& scope, bool outer);
@@ -146,6 +148,7 @@ private:
     int tables_ = 0;
     int depth_ = 0;
     bool insideAggregate_ = false;
+    bool insideGroupBy_ = false;
 };
 
 /// Whether two expressions are written alike, but for the values of their literals.

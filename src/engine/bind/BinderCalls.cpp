@@ -127,8 +127,9 @@ bound::ExpressionPtr Binder::argument(const Call& call, std::size_t place, Funct
     }
     auto value = expression(written);
     const bool needsNumber = kind == Parameter::Float || kind == Parameter::Number;
-    if (needsNumber && (value->type.kind == Kind::DateTime || value->type.kind == Kind::VarBinary)) {
-        throw errors::argumentType(typeName(value->type), static_cast<int>(place) + 1, call.function);
+    if ((needsNumber && (value->type.kind == Kind::DateTime || value->type.kind == Kind::VarBinary)) ||
+        (kind == Parameter::Written && !value->type.isText())) {
+        throw errors::argumentType(typeName(value->type), static_cast<int>(place) + 1, smallLetters(call.function));
     }
     switch (kind) {
     case Parameter::Text:
@@ -145,6 +146,7 @@ bound::ExpressionPtr Binder::argument(const Call& call, std::size_t place, Funct
     case Parameter::Date:
         return convertTo(std::move(value), DataType{Kind::DateTime, 0, 0, 0}, Purpose::Cast);
     case Parameter::DatePart:
+    case Parameter::Written:
     case Parameter::Any:
     case Parameter::Typed:
         break;

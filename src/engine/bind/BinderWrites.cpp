@@ -184,14 +184,20 @@ bound::Statement Binder::bind(const Update& update) {
     // The target is looked for among the sources by alias, then by its own name.
     const auto standsFor = [&](const auto& isNamed) {
         for (const Visible& visible : scope.tables) {
-            if (result.targetInFrom < 0 && visible.table != nullptr && isNamed(visible)) {
-                result.targetInFrom = visible.number;
-                table.pieces.back() = visible.table->name;
+            if (visible.table == nullptr || !isNamed(visible)) {
+                continue;
             }
+            if (result.targetInFrom >= 0) {
+                throw errors::ambiguousTable(update.table.last());
+            }
+            result.targetInFrom = visible.number;
+            table.pieces.back() = visible.table->name;
         }
     };
     standsFor([&](const Visible& visible) { return sameText(visible.qualifier, update.table.last()); });
-    standsFor([&](const Visible& visible) { return sameText(visible.table->name, update.table.last()); });
+    if (result.targetInFrom < 0) {
+        standsFor([&](const Visible& visible) { return sameText(visible.table->name, update.table.last()); });
+    }
     result.table = target(table);
     if (result.targetInFrom < 0) {
         Visible visible;

@@ -90,6 +90,32 @@ ExpressionPtr callOf(std::string function, const DataType& type, std::vector<Exp
     return result;
 }
 
+std::vector<const Expression*> partsOf(const Expression& whole) {
+    std::vector<const Expression*> parts;
+    const auto add = [&](const ExpressionPtr& part) {
+        if (part) {
+            parts.push_back(part.get());
+        }
+    };
+    if (const auto* operation = std::get_if<Operation>(&whole.node)) {
+        std::for_each(operation->operands.begin(), operation->operands.end(), add);
+    } else if (const auto* call = std::get_if<Call>(&whole.node)) {
+        std::for_each(call->arguments.begin(), call->arguments.end(), add);
+    } else if (const auto* choice = std::get_if<Case>(&whole.node)) {
+        for (const Case::Branch& branch : choice->branches) {
+            add(branch.when);
+            add(branch.then);
+        }
+        add(choice->otherwise);
+    } else if (const auto* in = std::get_if<InList>(&whole.node)) {
+        add(in->operand);
+        std::for_each(in->list.begin(), in->list.end(), add);
+    } else if (const auto* subselect = std::get_if<Subselect>(&whole.node)) {
+        add(subselect->operand);
+    }
+    return parts;
+}
+
 void giveAllDigits(Expression& value) {
     auto* call = std::get_if<Call>(&value.node);
     if (call != nullptr && call->function == operators::kDecimal) {

@@ -26,6 +26,9 @@ ExpressionPtr call(std::string function, const DataType& type, Pointers... argum
     return callOf(std::move(function), type, std::move(list));
 }
 
+/// What an expression is made of, but for what is inside of a SELECT.
+std::vector<const Expression*> partsOf(const Expression& whole);
+
 /// For who takes a result of decimals by all its digits: without this it is refused where a double doesn't keep it.
 void giveAllDigits(Expression& value);
 

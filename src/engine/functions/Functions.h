@@ -62,6 +62,7 @@ using FunctionBody = Scalar (*)(FunctionContext& context, Arguments arguments);
 struct FunctionParameter {
     enum class Kind {
         Text,
+        Written, ///< a text, and nothing that would have to become one
         Int,
         Float,
         Number, ///< of any kind

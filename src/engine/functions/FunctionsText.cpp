@@ -216,7 +216,7 @@ constexpr FunctionRow kFunctions[] = {
     {"RTRIM", {kText}, Result::AsFirst, rightTrim},
     {"SPACE", {kInt}, Result::LongText, space},
     {"STR", {kFloat, optional(kInt), optional(kInt)}, Result::LongText, str},
-    {"SUBSTRING", {kText, kInt, kInt}, Result::AsFirst, substring},
+    {"SUBSTRING", {kWritten, kInt, kInt}, Result::AsFirst, substring},
     {"UPPER", {kText}, Result::AsFirst, upperText},
 };
 

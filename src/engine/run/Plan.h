@@ -50,7 +50,7 @@ using PlanPtr = std::shared_ptr<Plan>;
 
 struct Bindings {
     /// Of this run; nullptr where the statement runs with the literals it was bound with.
-    const std::vector<LiteralToken>* literals = nullptr;
+    const std::vector<Literal>* literals = nullptr;
     DateOrder dateOrder = DateOrder::MonthDayYear;
 };
 

@@ -2,6 +2,7 @@
 
 #include "engine/text/Lexer.h"
 #include "engine/values/Ascii.h"
+#include "engine/values/CodePage.h"
 #include "engine/values/Scalar.h"
 
 #include <algorithm>
@@ -11,7 +12,7 @@ namespace engine {
 
 namespace {
 
-std::string_view markerOf(const LiteralToken& literal) {
+std::string_view markerOf(const Literal& literal) {
     switch (literal.kind) {
     case Literal::Kind::Null:
         return "";
@@ -22,29 +23,29 @@ std::string_view markerOf(const LiteralToken& literal) {
     case Literal::Kind::Float:
         return "?f";
     case Literal::Kind::Text:
-        return typeOf({literal.kind, literal.text}).length < 0 ? "?T" : "?t";
+        return typeOf(literal).length < 0 ? "?T" : "?t";
     case Literal::Kind::NationalText:
-        return typeOf({literal.kind, literal.text}).length < 0 ? "?N" : "?n";
+        return typeOf(literal).length < 0 ? "?N" : "?n";
     }
     return "";
 }
 
 } // namespace
 
-Literal::Kind literalKind(const Token& token) {
+Literal literalOf(const Token& token, int index) {
     switch (token.kind) {
     case Token::Kind::Integer:
-        return Literal::Kind::Integer;
+        return {Literal::Kind::Integer, valueOf(token), index};
     case Token::Kind::Decimal:
-        return Literal::Kind::Decimal;
+        return {Literal::Kind::Decimal, valueOf(token), index};
     case Token::Kind::Float:
-        return Literal::Kind::Float;
+        return {Literal::Kind::Float, valueOf(token), index};
     case Token::Kind::Text:
-        return Literal::Kind::Text;
+        return {Literal::Kind::Text, inCodePage(valueOf(token)), index};
     case Token::Kind::NationalText:
-        return Literal::Kind::NationalText;
+        return {Literal::Kind::NationalText, valueOf(token), index};
     default:
-        return Literal::Kind::Null;
+        return {};
     }
 }
 
@@ -60,7 +61,7 @@ Shape shapeOf(std::span<const Token> tokens) {
             shape.key += ' ';
         }
         if (token.isLiteral()) {
-            shape.literals.push_back({literalKind(token), valueOf(token)});
+            shape.literals.push_back(literalOf(token, static_cast<int>(shape.literals.size())));
             shape.key += markerOf(shape.literals.back());
         } else if (token.keyword != Keyword::None) {
             std::transform(token.text.begin(), token.text.end(), std::back_inserter(shape.key), capital);

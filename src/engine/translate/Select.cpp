@@ -67,9 +67,9 @@ void writeCore(Text& text, const bound::Core& core, bool compares, const std::st
     text += more;
     bool first = true;
     for (const bound::SourcePtr& source : core.from) {
-        text += first ? " FROM " : " CROSS JOIN ";
+        text += first ? " FROM " : "";
+        writeSource(text, *source, first);
         first = false;
-        write(text, *source);
     }
     writeWhere(text, core.where);
     first = true;
@@ -109,6 +109,20 @@ void writeLimit(Text& text, const bound::Core& core) {
 
 void write(Text& text, const bound::Source& source) {
     std::visit([&](const auto& node) { writeNode(text, node); }, source.node);
+}
+
+bool addsRows(const bound::Source& source) {
+    const auto* join = std::get_if<bound::Join>(&source.node);
+    return join != nullptr &&
+           (join->kind == Join::Kind::Right || join->kind == Join::Kind::Full || addsRows(*join->left));
+}
+
+void writeSource(Text& text, const bound::Source& source, bool first) {
+    const bool apart = !first && addsRows(source);
+    text += first ? "" : " CROSS JOIN ";
+    text += apart ? "(" : "";
+    write(text, source);
+    text += apart ? ")" : "";
 }
 
 void write(Text& text, const bound::Select& select) {

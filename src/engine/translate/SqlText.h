@@ -23,6 +23,11 @@ std::string alias(int source);
 bool isBare(const bound::Expression& expression);
 void write(Text& text, const bound::Expression& expression);
 void write(Text& text, const bound::Source& source);
+/// Whether a join gives rows that no row of its left side is in: behind a comma it is made before the rest, in
+/// brackets.
+bool addsRows(const bound::Source& source);
+/// One of the sources of a FROM, which commas separate.
+void writeSource(Text& text, const bound::Source& source, bool first);
 void write(Text& text, const bound::Select& select);
 /// ` WHERE …`, nothing where there is no condition.
 void writeWhere(Text& text, const bound::ExpressionPtr& condition);

@@ -98,7 +98,8 @@ std::int64_t toInteger(double number, const DataType& target) {
     const bool inside = whole >= static_cast<double>(kind.minimum) &&
                         (kind.kind == Kind::BigInt ? whole < 0x1p63 : whole <= static_cast<double>(kind.maximum));
     if (!inside) {
-        throw errors::conversionOverflow("expression", kind.name);
+        throw kind.kind == Kind::BigInt ? errors::conversionOverflow("expression", kind.name)
+                                        : errors::floatOverflow(kind.name, std::to_string(number));
     }
     return static_cast<std::int64_t>(whole);
 }

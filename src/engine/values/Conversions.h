@@ -17,8 +17,9 @@ namespace engine {
 /// Blanks at both ends are ignored, '' is 0. Throws 245 (8114 for a bigint) for what is no number, 244, 248 or 8115 for
 /// one that the target doesn't hold.
 std::int64_t toInteger(std::string_view text, const DataType& target, const char* sourceType = "varchar");
-/// Throws 8115 where the value leaves the target's range.
+/// Throws 232 (8115 for a bigint) where the value leaves the target's range.
 std::int64_t toInteger(double number, const DataType& target);
+/// Throws 8115.
 std::int64_t toInteger(const Decimal& number, const DataType& target);
 /// Throws 220 too, as the server does for an int that a smaller type doesn't hold.
 std::int64_t toInteger(std::int64_t number, const DataType& target);

@@ -140,7 +140,7 @@ INSTANTIATE_TEST_SUITE_P(
         TreeCase{"create table t (a char, b varchar(8000), c nchar(4000), d nvarchar(max), e text, f ntext, g sysname, "
                  "h image, i varbinary(10))",
                  "(create-table t (column a char(1)) (column b varchar(8000)) (column c nchar(4000)) (column d "
-                 "nvarchar(max)) (column e nvarchar(max)) (column f nvarchar(max)) (column g nvarchar(128)) (column h "
+                 "nvarchar(max)) (column e varchar(max)) (column f nvarchar(max)) (column g nvarchar(128)) (column h "
                  "varbinary(max)) (column i varbinary(10)))"},
         TreeCase{"alter table Ivasezionale add    descrizione nvarchar(255) not null default 'Sezionale Iva' ",
                  "(alter-table Ivasezionale (column descrizione nvarchar(255) not-null (default 'Sezionale Iva')))"},

@@ -102,9 +102,12 @@ TEST(IntegerOfNumber, IsCutNotRounded) {
 
 TEST(IntegerOfNumber, OutsideTheRangeIsRefused) {
     const std::string overflow = "8115 Arithmetic overflow error converting expression to data type ";
-    EXPECT_EQ(errorOf([] { toInteger(2147483648.0, type(Kind::Int)); }), overflow + "int.");
+    EXPECT_EQ(errorOf([] { toInteger(2147483648.5, type(Kind::Int)); }),
+              "232 Arithmetic overflow error for type int, value = 2147483648.500000.");
+    EXPECT_EQ(errorOf([] { toInteger(-1.0, type(Kind::TinyInt)); }),
+              "232 Arithmetic overflow error for type tinyint, value = -1.000000.");
     EXPECT_EQ(errorOf([] { toInteger(0x1p63, type(Kind::BigInt)); }), overflow + "bigint.");
-    EXPECT_EQ(errorOf([] { toInteger(std::nan(""), type(Kind::Int)); }), overflow + "int.");
+    EXPECT_EQ(errorOf([] { toInteger(std::nan(""), type(Kind::BigInt)); }), overflow + "bigint.");
     EXPECT_EQ(errorOf([] { toInteger(std::int64_t{2147483648}, type(Kind::Int)); }), overflow + "int.");
     EXPECT_EQ(errorOf([] { toInteger(std::int64_t{300}, type(Kind::TinyInt)); }),
               "220 Arithmetic overflow error for data type tinyint, value = 300.");

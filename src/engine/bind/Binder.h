@@ -108,6 +108,7 @@ private:
     bound::ExpressionPtr node(const Conversion& conversion);
     bound::ExpressionPtr node(const ServerVariable& variable);
     bound::ExpressionPtr literal(const Literal& literal, bool negated);
+    bound::ExpressionPtr use(bound::Parameter parameter, const DataType& type);
     bound::ExpressionPtr compare(const char* op, bound::ExpressionPtr left, bound::ExpressionPtr right);
 
     // BinderArithmetic.cpp
@@ -136,6 +137,7 @@ private:
 
     // BinderWrites.cpp
     bound::Table target(const Name& name);
+    static void expose(Scope& scope, const bound::Table& target);
     std::vector<const ColumnInfo*> insertColumns(const Insert& insert, const bound::Table& table,
                                                  bool& explicitIdentity);
     bound::ExpressionPtr assigned(const Expression* value, const ColumnInfo& column);

@@ -57,7 +57,6 @@ bound::ExpressionPtr Binder::expression(const Expression& expression) {
     }
     bound::ExpressionPtr result = std::visit([&](const auto& node) { return this->node(node); }, expression.node);
     --depth_;
-    result->position = expression.position;
     return result;
 }
 
@@ -81,12 +80,18 @@ bound::ExpressionPtr Binder::literal(const Literal& literal, bool negated) {
     parameter.ordinal = literal.index;
     parameter.constant = literal;
     parameter.negated = negated;
+    const DataType type = typeOf(literal);
+    parameter.digitsMatter = type.kind == Kind::Decimal; // assumed until freeDigits is called
+    auto result = use(std::move(parameter), type);
+    result->nullable = false;
+    return result;
+}
+
+/// A new parameter where it is used.
+bound::ExpressionPtr Binder::use(bound::Parameter parameter, const DataType& type) {
     auto result = std::make_unique<bound::Expression>();
     result->node = bound::ParameterUse{static_cast<int>(parameters_.size())};
-    result->type = typeOf(literal);
-    result->nullable = false;
-    // Assumed until freeDigits is called.
-    parameter.digitsMatter = result->type.kind == Kind::Decimal;
+    result->type = type;
     parameters_.push_back(std::move(parameter));
     return result;
 }

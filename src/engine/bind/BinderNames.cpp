@@ -6,18 +6,6 @@
 
 namespace engine {
 
-namespace {
-
-std::string joined(const Name& name) {
-    std::string result;
-    for (const std::string& piece : name.pieces) {
-        result += (result.empty() ? "" : ".") + piece;
-    }
-    return result;
-}
-
-} // namespace
-
 int Binder::columnOf(const Visible& table, std::string_view name) {
     if (table.table != nullptr) {
         return table.table->find(name);
@@ -36,7 +24,7 @@ Binder::Resolved Binder::resolve(const Name& name) const {
     for (const Scope* scope = scope_; scope != nullptr; scope = scope->parent) {
         Resolved found;
         for (const Visible& table : scope->tables) {
-            if (qualified && !sameText(table.qualifier, name.pieces[name.pieces.size() - 2])) {
+            if (qualified && !sameText(table.qualifier, name.piece(1))) {
                 continue;
             }
             sawQualifier = true;
@@ -57,7 +45,7 @@ Binder::Resolved Binder::resolve(const Name& name) const {
         }
     }
     if (qualified) {
-        throw errors::unboundIdentifier(joined(name));
+        throw errors::unboundIdentifier(name.text());
     }
     throw errors::invalidColumn(name.last());
 }
@@ -83,20 +71,12 @@ ResultColumn Binder::describe(const Visible& table, int column) {
 }
 
 bound::ExpressionPtr Binder::column(const Visible& table, int column) const {
+    const ResultColumn described = describe(table, column);
     auto result = std::make_unique<bound::Expression>();
-    if (table.table != nullptr) {
-        const ColumnInfo& info = table.table->columns[static_cast<std::size_t>(column)];
-        result->type = info.type;
-        result->nullable = info.nullable || table.outer;
-        result->name = info.name;
-        result->node = bound::Column{table.number, info.name};
-    } else {
-        const ResultColumn& info = table.derived[static_cast<std::size_t>(column)];
-        result->type = info.type;
-        result->nullable = info.nullable || table.outer;
-        result->name = info.name;
-        result->node = bound::Column{table.number, "c" + std::to_string(column)};
-    }
+    result->type = described.type;
+    result->nullable = described.nullable || table.outer;
+    result->name = described.name;
+    result->node = bound::Column{table.number, table.table != nullptr ? described.name : "c" + std::to_string(column)};
     return result;
 }
 

@@ -23,6 +23,14 @@ bound::Table Binder::target(const Name& name) {
     return {tables_++, found.schema, found.info};
 }
 
+void Binder::expose(Scope& scope, const bound::Table& target) {
+    Visible visible;
+    visible.qualifier = target.info->name;
+    visible.number = target.number;
+    visible.table = target.info;
+    scope.tables.push_back(std::move(visible));
+}
+
 bound::ExpressionPtr Binder::bindDefault(const ColumnInfo& column) {
     if (!column.defaultText) {
         auto null = bound::constant("NULL", DataType{});
@@ -87,13 +95,9 @@ void Binder::completeRow(const bound::Insert& insert, std::size_t given, std::ve
             row.push_back(bindDefault(column));
             continue;
         }
-        auto value = std::make_unique<bound::Expression>();
-        value->node = bound::ParameterUse{static_cast<int>(parameters_.size())};
-        value->type = column.type;
-        bound::Parameter parameter;
-        parameter.source = bound::Parameter::Source::Identity;
-        parameters_.push_back(std::move(parameter));
-        row.push_back(std::move(value));
+        bound::Parameter identity;
+        identity.source = bound::Parameter::Source::Identity;
+        row.push_back(use(std::move(identity), column.type));
     }
 }
 
@@ -122,25 +126,21 @@ bound::Statement Binder::bind(const Insert& insert) {
     if (insert.select) {
         result.select = std::make_unique<bound::Select>(select(*insert.select, nullptr));
         scope_ = &scope;
-        const std::size_t selected = result.select->columns.size();
-        if (selected != given) {
-            throw !named       ? errors::columnCountMismatch()
-            : selected > given ? errors::fewerColumnsThanSelected()
-                               : errors::moreColumnsThanSelected();
+        const std::size_t count = result.select->columns.size();
+        if (count != given) {
+            throw !named    ? errors::columnCountMismatch()
+            : count > given ? errors::fewerColumnsThanSelected()
+                            : errors::moreColumnsThanSelected();
         }
         std::vector<bound::ExpressionPtr> row;
         for (std::size_t i = 0; i < given; ++i) {
             for (bound::Core& core : result.select->cores) {
                 core.items[i] = convertTo(std::move(core.items[i]), result.columns[i]->type, Purpose::Assignment);
             }
-            auto value = std::make_unique<bound::Expression>();
-            value->node = bound::ParameterUse{static_cast<int>(parameters_.size())};
-            value->type = result.columns[i]->type;
-            bound::Parameter parameter;
-            parameter.source = bound::Parameter::Source::Row;
-            parameter.ordinal = static_cast<int>(i);
-            parameters_.push_back(std::move(parameter));
-            row.push_back(std::move(value));
+            bound::Parameter selected;
+            selected.source = bound::Parameter::Source::Row;
+            selected.ordinal = static_cast<int>(i);
+            row.push_back(use(std::move(selected), result.columns[i]->type));
         }
         completeRow(result, given, row);
         result.rows.push_back(std::move(row));
@@ -200,11 +200,7 @@ bound::Statement Binder::bind(const Update& update) {
     }
     result.table = target(table);
     if (result.targetInFrom < 0) {
-        Visible visible;
-        visible.qualifier = result.table.info->name;
-        visible.number = result.table.number;
-        visible.table = result.table.info;
-        scope.tables.push_back(std::move(visible));
+        expose(scope, result.table);
     }
     for (const Update::Assignment& assignment : update.assignments) {
         const int place = result.table.info->find(assignment.column.last());
@@ -233,11 +229,7 @@ bound::Statement Binder::bind(const Delete& remove) {
     Scope scope;
     scope_ = &scope;
     result.table = target(remove.table);
-    Visible visible;
-    visible.qualifier = result.table.info->name;
-    visible.number = result.table.number;
-    visible.table = result.table.info;
-    scope.tables.push_back(std::move(visible));
+    expose(scope, result.table);
     if (remove.where) {
         result.where = expression(*remove.where);
     }

@@ -3,6 +3,7 @@
 #include "engine/functions/Operators.h"
 
 #include <algorithm>
+#include <array>
 
 namespace engine {
 
@@ -11,24 +12,6 @@ namespace {
 using Kind = DataType::Kind;
 
 constexpr int kLeastQuotientScale = 6;
-
-/// An integer as the decimal that holds all its values.
-DataType asDecimal(const DataType& type) {
-    switch (type.kind) {
-    case Kind::Decimal:
-        return type;
-    case Kind::Bit:
-        return {Kind::Decimal, 0, 1, 0};
-    case Kind::TinyInt:
-        return {Kind::Decimal, 0, 3, 0};
-    case Kind::SmallInt:
-        return {Kind::Decimal, 0, 5, 0};
-    case Kind::BigInt:
-        return {Kind::Decimal, 0, 19, 0};
-    default:
-        return {Kind::Decimal, 0, 10, 0};
-    }
-}
 
 } // namespace
 
@@ -52,9 +35,12 @@ ExpressionPtr constant(std::string text, const DataType& type) {
 
 namespace {
 
-ExpressionPtr operation(Operation operation, const DataType& type) {
+template<class... Operands>
+ExpressionPtr operation(std::string op, bool postfix, const DataType& type, Operands... operands) {
     auto result = std::make_unique<Expression>();
-    result->node = std::move(operation);
+    Operation made{std::move(op), {}, postfix};
+    (made.operands.push_back(std::move(operands)), ...);
+    result->node = std::move(made);
     result->type = type;
     return result;
 }
@@ -62,22 +48,15 @@ ExpressionPtr operation(Operation operation, const DataType& type) {
 } // namespace
 
 ExpressionPtr prefix(std::string op, ExpressionPtr operand, const DataType& type) {
-    Operation made{std::move(op), {}, false};
-    made.operands.push_back(std::move(operand));
-    return operation(std::move(made), type);
+    return operation(std::move(op), false, type, std::move(operand));
 }
 
 ExpressionPtr postfix(std::string op, ExpressionPtr operand, const DataType& type) {
-    Operation made{std::move(op), {}, true};
-    made.operands.push_back(std::move(operand));
-    return operation(std::move(made), type);
+    return operation(std::move(op), true, type, std::move(operand));
 }
 
 ExpressionPtr infix(std::string op, ExpressionPtr left, ExpressionPtr right, const DataType& type) {
-    Operation made{std::move(op), {}, false};
-    made.operands.push_back(std::move(left));
-    made.operands.push_back(std::move(right));
-    return operation(std::move(made), type);
+    return operation(std::move(op), false, type, std::move(left), std::move(right));
 }
 
 ExpressionPtr callOf(std::string function, const DataType& type, std::vector<ExpressionPtr> arguments) {
@@ -124,6 +103,14 @@ void giveAllDigits(Expression& value) {
 }
 
 } // namespace bound
+
+DataType asDecimal(const DataType& type) {
+    constexpr std::array kDigits = {10, 1, 3, 5, 10, 19}; // in the order of DataType::Kind
+    if (type.kind == Kind::Decimal) {
+        return type;
+    }
+    return {Kind::Decimal, 0, kDigits[type.isInteger() ? static_cast<std::size_t>(type.kind) : 0], 0};
+}
 
 const char* operatorText(Binary::Operator op) {
     static constexpr const char* kTexts[] = {"+", "-", "*", "/", "%", "=", "<>", "<", "<=", ">", ">=", "AND", "OR"};

@@ -34,6 +34,8 @@ void giveAllDigits(Expression& value);
 
 } // namespace bound
 
+/// An integer as the decimal that holds all its values; 10 digits for what is no number.
+DataType asDecimal(const DataType& type);
 /// As SQLite writes it.
 const char* operatorText(Binary::Operator op);
 /// The type in which values are compared: no length cuts a text, no scale rounds a number.

@@ -40,7 +40,6 @@ enum class Fact {
     Transactions,
     User,
     Version,
-    VersionNumber,
     WidestDecimal
 };
 

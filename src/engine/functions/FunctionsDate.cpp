@@ -204,16 +204,9 @@ Scalar datePart(FunctionContext& context, Arguments arguments) {
     return std::int64_t{date.year};
 }
 
-Scalar year(FunctionContext& /*context*/, Arguments arguments) {
-    return std::int64_t{CalendarDate::stored(textAt(arguments, 0)).year};
-}
-
-Scalar month(FunctionContext& /*context*/, Arguments arguments) {
-    return std::int64_t{CalendarDate::stored(textAt(arguments, 0)).month};
-}
-
-Scalar day(FunctionContext& /*context*/, Arguments arguments) {
-    return std::int64_t{CalendarDate::stored(textAt(arguments, 0)).day};
+template<int CalendarDate::*part>
+Scalar partAlone(FunctionContext& /*context*/, Arguments arguments) {
+    return std::int64_t{CalendarDate::stored(textAt(arguments, 0)).*part};
 }
 
 Scalar getDate(FunctionContext& context, Arguments /*arguments*/) {
@@ -240,11 +233,11 @@ constexpr FunctionRow kFunctions[] = {
     {"DATEADD", {kDatePart, kInt, kDate}, Result::DateTime, dateAdd},
     {"DATEDIFF", {kDatePart, kDate, kDate}, Result::Int, dateDiff},
     {"DATEPART", {kDatePart, kDate}, Result::Int, datePart},
-    {"DAY", {kDate}, Result::Int, day},
+    {"DAY", {kDate}, Result::Int, partAlone<&CalendarDate::day>},
     {"GETDATE", {}, Result::DateTime, getDate},
     {"ISDATE", {kAny}, Result::Int, isDate, kNullsTaken},
-    {"MONTH", {kDate}, Result::Int, month},
-    {"YEAR", {kDate}, Result::Int, year},
+    {"MONTH", {kDate}, Result::Int, partAlone<&CalendarDate::month>},
+    {"YEAR", {kDate}, Result::Int, partAlone<&CalendarDate::year>},
 };
 
 } // namespace

@@ -46,12 +46,9 @@ Scalar len(FunctionContext& /*context*/, Arguments arguments) {
     return static_cast<std::int64_t>(characters(withoutTrailingBlanks(textAt(arguments, 0))));
 }
 
-Scalar upperText(FunctionContext& /*context*/, Arguments arguments) {
-    return upper(textAt(arguments, 0));
-}
-
-Scalar lowerText(FunctionContext& /*context*/, Arguments arguments) {
-    return lower(textAt(arguments, 0));
+template<std::string (*map)(std::string_view)>
+Scalar mapped(FunctionContext& /*context*/, Arguments arguments) {
+    return map(textAt(arguments, 0));
 }
 
 Scalar leftTrim(FunctionContext& /*context*/, Arguments arguments) {
@@ -207,7 +204,7 @@ constexpr FunctionRow kFunctions[] = {
     {"DATALENGTH", {kTyped}, Result::Int, dataLength},
     {"LEFT", {kText, kInt}, Result::AsFirst, leftPart},
     {"LEN", {kText}, Result::Int, len},
-    {"LOWER", {kText}, Result::AsFirst, lowerText},
+    {"LOWER", {kText}, Result::AsFirst, mapped<lower>},
     {"LTRIM", {kText}, Result::AsFirst, leftTrim},
     {"REPLACE", {kText, kText, kText}, Result::LongText, replace},
     {"REPLICATE", {kText, kInt}, Result::LongText, replicate},
@@ -217,7 +214,7 @@ constexpr FunctionRow kFunctions[] = {
     {"SPACE", {kInt}, Result::LongText, space},
     {"STR", {kFloat, optional(kInt), optional(kInt)}, Result::LongText, str},
     {"SUBSTRING", {kWritten, kInt, kInt}, Result::AsFirst, substring},
-    {"UPPER", {kText}, Result::AsFirst, upperText},
+    {"UPPER", {kText}, Result::AsFirst, mapped<upper>},
 };
 
 } // namespace

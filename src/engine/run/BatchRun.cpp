@@ -49,20 +49,6 @@ Verb verbOf(const Statement& statement) {
         statement.node);
 }
 
-Verb verbOf(Plan::Kind kind) {
-    switch (kind) {
-    case Plan::Kind::Insert:
-        return Verb::Insert;
-    case Plan::Kind::Update:
-        return Verb::Update;
-    case Plan::Kind::Delete:
-        return Verb::Delete;
-    case Plan::Kind::Select:
-        break;
-    }
-    return Verb::Select;
-}
-
 /// Names are looked up before the first statement runs, as far as they can be. False where what the batch makes itself,
 /// or the database it goes to, isn't there yet.
 bool checkAll(ServerSession& session, const std::vector<StatementPtr>& statements) {
@@ -137,7 +123,7 @@ bool BatchRun::runNext() {
         checkAll(*session_, tree_.statements);
     }
     if (const PlanPtr plan = std::exchange(ready_, nullptr)) {
-        verb_ = verbOf(plan->kind);
+        verb_ = plan->verb;
         session_->prepareFor(session_->current(), plan->writes());
         try {
             show(runPlan(*session_, plan, {&shape_->literals, session_->settings.dateOrder}));

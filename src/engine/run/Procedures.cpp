@@ -18,7 +18,6 @@ using Messages = std::vector<Message>;
 
 const DataType kName{Kind::NVarChar, 128, 0, 0};
 const DataType kInt{Kind::Int, 0, 0, 0};
-const DataType kRemarks{Kind::VarChar, 254, 0, 0};
 
 /// The arguments of a call by their places, as constants.
 class Values {
@@ -130,14 +129,6 @@ std::optional<Listing> configure(ServerSession& session, const Execute& call, Me
     return rows;
 }
 
-std::string joined(const Name& name) {
-    std::string result;
-    for (std::size_t i = 0; i < name.pieces.size(); ++i) {
-        result += (i == 0 ? "" : ".") + name.pieces[i];
-    }
-    return result;
-}
-
 bool isOn(const std::string& value) {
     for (const char* word : {"true", "on"}) {
         if (sameText(value, word)) {
@@ -154,7 +145,7 @@ bool isOn(const std::string& value) {
 
 std::optional<Listing> databaseOption(ServerSession& session, const Execute& call, Messages& /*messages*/) {
     if (session.instance().version() >= Instance::kFirstVersionWithoutDatabaseOptions) {
-        throw errors::procedureMissing(joined(call.procedure));
+        throw errors::procedureMissing(call.procedure.text());
     }
     const Values values(call, {"@dbname", "@optname", "@optvalue"});
     Listing rows;
@@ -190,56 +181,6 @@ std::optional<Listing> databaseOption(ServerSession& session, const Execute& cal
     return rows;
 }
 
-std::optional<Listing> databases(ServerSession& session, const Execute& /*call*/, Messages& /*messages*/) {
-    Listing rows;
-    rows.columns = {column("DATABASE_NAME", kName), column("DATABASE_SIZE", kInt), column("REMARKS", kRemarks)};
-    for (const DatabaseEntry& entry : session.instance().databases()) {
-        std::error_code problem;
-        const auto size = std::filesystem::file_size(entry.file, problem);
-        constexpr std::int64_t kKilobyte = 1024;
-        rows.rows.push_back(
-            {entry.name, problem ? Scalar() : Scalar(static_cast<std::int64_t>(size) / kKilobyte), Scalar()});
-    }
-    return rows;
-}
-
-std::optional<Listing> tables(ServerSession& session, const Execute& call, Messages& /*messages*/) {
-    const Values values(call, {"@table_name", "@table_owner", "@table_qualifier", "@table_type"});
-    Listing rows;
-    rows.columns = {column("TABLE_QUALIFIER", kName), column("TABLE_OWNER", kName), column("TABLE_NAME", kName),
-                    column("TABLE_TYPE", {Kind::VarChar, 32, 0, 0}), column("REMARKS", kRemarks)};
-    for (const std::string& name : session.current().catalog().tableNames()) {
-        if (!values.given(0) || like(name, values.text(0))) {
-            rows.rows.push_back({session.database(), std::string("dbo"), name, std::string("TABLE"), Scalar()});
-        }
-    }
-    return rows;
-}
-
-std::optional<Listing> columns(ServerSession& session, const Execute& call, Messages& /*messages*/) {
-    const Values values(call, {"@table_name", "@table_owner", "@table_qualifier", "@column_name"});
-    if (!values.given(0)) {
-        throw errors::parameterMissing("sp_columns", "@table_name");
-    }
-    Listing rows;
-    rows.columns = {column("TABLE_QUALIFIER", kName), column("TABLE_OWNER", kName), column("TABLE_NAME", kName),
-                    column("COLUMN_NAME", kName),     column("TYPE_NAME", kName),   column("LENGTH", kInt),
-                    column("NULLABLE", kInt),         column("COLUMN_DEF", kName),  column("ORDINAL_POSITION", kInt)};
-    const TableInfo* table = session.current().catalog().table(values.text(0));
-    if (table == nullptr) {
-        return rows;
-    }
-    std::int64_t place = 0;
-    for (const ColumnInfo& one : table->columns) {
-        rows.rows.push_back({session.database(), std::string("dbo"), table->name, one.name,
-                             typeName(one.type) + (one.identity ? " identity" : ""),
-                             one.type.isText() ? Scalar(std::int64_t{one.type.length}) : Scalar(),
-                             std::int64_t{one.nullable},
-                             one.defaultText ? Scalar("(" + *one.defaultText + ")") : Scalar(), ++place});
-    }
-    return rows;
-}
-
 struct Procedure {
     const char* name;
     std::optional<Listing> (*call)(ServerSession& session, const Execute& call, Messages& messages);
@@ -248,23 +189,19 @@ struct Procedure {
 constexpr std::array kProcedures = std::to_array<Procedure>({
     {"sp_configure", configure},
     {"sp_dboption", databaseOption},
-    {"sp_databases", databases},
-    {"sp_tables", tables},
-    {"sp_columns", columns},
 });
 
 } // namespace
 
 std::optional<Listing> callProcedure(ServerSession& session, const Execute& call, std::vector<Message>& messages) {
-    const auto& pieces = call.procedure.pieces;
-    const std::string schema = pieces.size() > 1 ? pieces[pieces.size() - 2] : std::string();
+    const std::string schema = call.procedure.piece(1);
     const bool known = schema.empty() || sameText(schema, "sys") || sameText(schema, "dbo");
     for (const Procedure& procedure : kProcedures) {
         if (known && sameText(procedure.name, call.procedure.last())) {
             return procedure.call(session, call, messages);
         }
     }
-    throw errors::procedureMissing(joined(call.procedure));
+    throw errors::procedureMissing(call.procedure.text());
 }
 
 } // namespace engine

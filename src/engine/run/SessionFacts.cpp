@@ -12,8 +12,6 @@ namespace engine {
 
 namespace {
 
-constexpr int kBitsBehindVersion = 24;
-
 std::string versionText(const Instance& instance) {
     return std::to_string(instance.version()) + ".00";
 }
@@ -138,8 +136,6 @@ Scalar ServerSession::fact(Fact fact, const Scalar& argument) {
         return std::string("dbo");
     case Fact::Version:
         return "Embedded server " + versionText(*instance_);
-    case Fact::VersionNumber:
-        return std::int64_t{instance_->version()} << kBitsBehindVersion;
     case Fact::WidestDecimal:
         return std::int64_t{kWidestDecimal};
     }

@@ -2,7 +2,7 @@
 
 #include "engine/errors/TextErrors.h"
 #include "engine/values/Ascii.h"
-#include "engine/values/CollationCharacters.h"
+#include "engine/values/Collation.h"
 #include "engine/values/DataType.h"
 
 #include <algorithm>
@@ -28,17 +28,6 @@ bool startsName(char c) {
 
 bool continuesName(char c) {
     return startsName(c) || isDigit(c) || c == '$';
-}
-
-/// The first characters of a UTF-8 text, all of it where it is shorter.
-std::string_view firstCharacters(std::string_view text, std::size_t count) {
-    std::size_t seen = 0;
-    for (std::size_t i = 0; i < text.size(); ++i) {
-        if (startsCharacter(text[i]) && seen++ == count) {
-            return text.substr(0, i);
-        }
-    }
-    return text;
 }
 
 bool fitsInt(std::string_view digits) {
@@ -222,7 +211,7 @@ private:
     }
 
     static void refuseLongName(std::string_view name, std::size_t begin) {
-        const auto start = firstCharacters(name, kLongestName);
+        const auto start = leftOf(name, kLongestName);
         if (start.size() < name.size()) {
             throw errors::identifierTooLong(std::string(start), static_cast<int>(begin));
         }

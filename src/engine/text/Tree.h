@@ -23,6 +23,17 @@ struct Name {
     std::vector<std::string> pieces;
     int position = -1;
     const std::string& last() const { return pieces.back(); }
+    /// A piece counted from the right, the last one being 0; empty where there are fewer.
+    std::string piece(std::size_t fromRight) const {
+        return fromRight < pieces.size() ? pieces[pieces.size() - 1 - fromRight] : std::string();
+    }
+    std::string text() const {
+        std::string joined;
+        for (const std::string& piece : pieces) {
+            joined += (&piece == &pieces.front() ? "" : ".") + piece;
+        }
+        return joined;
+    }
 };
 
 /// A column, perhaps behind an alias or a table: `T.id`, `id`.
@@ -141,7 +152,6 @@ struct Join {
 
 struct TableSource {
     std::variant<NamedTable, DerivedTable, Join> node;
-    int position = -1;
 };
 
 struct SelectItem {

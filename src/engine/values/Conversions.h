@@ -53,6 +53,11 @@ std::string floatText(double number, std::optional<int> style = {});
 /// Two places; style 1 with commas, style 2 and 126 with all four places.
 std::string moneyText(const Decimal& amount, std::optional<int> style);
 std::string dateText(std::string_view dateTime, std::optional<int> style);
+/// Whether a style of a date is the wanted one, or the one of two digits of the year where that one has four.
+constexpr bool isStyle(int style, int wanted) {
+    constexpr int kWithCentury = 100;
+    return wanted == style || (style < kWithCentury && wanted == style + kWithCentury);
+}
 
 /// A text into a column of `length` characters (-1: any). An excess of trailing blanks is cut in silence; throws 8152.
 std::string_view fitText(std::string_view text, int length);

@@ -90,10 +90,7 @@ bound::ExpressionPtr Binder::node(const Call& call) {
         choice.branches.push_back(
             {compare("=", std::move(first), expression(*call.arguments[1])), bound::constant("NULL", DataType{})});
         choice.otherwise = expression(*call.arguments[0]);
-        auto result = std::make_unique<bound::Expression>();
-        result->node = std::move(choice);
-        result->type = type;
-        return result;
+        return bound::expressionOf(std::move(choice), type);
     }
     if (name == "COALESCE") {
         if (call.arguments.size() < 2) {

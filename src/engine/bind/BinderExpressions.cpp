@@ -89,11 +89,8 @@ bound::ExpressionPtr Binder::literal(const Literal& literal, bool negated) {
 
 /// A new parameter where it is used.
 bound::ExpressionPtr Binder::use(bound::Parameter parameter, const DataType& type) {
-    auto result = std::make_unique<bound::Expression>();
-    result->node = bound::ParameterUse{static_cast<int>(parameters_.size())};
-    result->type = type;
     parameters_.push_back(std::move(parameter));
-    return result;
+    return bound::expressionOf(bound::ParameterUse{static_cast<int>(parameters_.size()) - 1}, type);
 }
 
 bound::ExpressionPtr Binder::node(const Literal& literal) {
@@ -204,8 +201,7 @@ bound::ExpressionPtr Binder::node(const Between& between) {
 
 bound::ExpressionPtr Binder::node(const In& in) {
     auto operand = expression(*in.operand);
-    bound::ExpressionPtr result = std::make_unique<bound::Expression>();
-    result->type = DataType{Kind::Bit};
+    bound::Expression::Node result;
     if (in.select) {
         auto select = std::make_unique<bound::Select>(inner(*in.select, scope_));
         if (select->columns.size() != 1) {
@@ -218,7 +214,7 @@ bound::ExpressionPtr Binder::node(const In& in) {
             core.items.front() = convertTo(std::move(core.items.front()), common, Purpose::Cast);
         }
         operand = collated(convertTo(std::move(operand), common, Purpose::Cast));
-        result->node = bound::Subselect{bound::Subselect::Kind::In, std::move(operand), std::move(select)};
+        result = bound::Subselect{bound::Subselect::Kind::In, std::move(operand), std::move(select)};
     } else {
         std::vector<bound::ExpressionPtr> list;
         DataType common = operand->type;
@@ -233,28 +229,24 @@ bound::ExpressionPtr Binder::node(const In& in) {
             one = convertTo(std::move(one), common, Purpose::Cast);
         }
         operand = collated(convertTo(std::move(operand), common, Purpose::Cast));
-        result->node = bound::InList{std::move(operand), std::move(list)};
+        result = bound::InList{std::move(operand), std::move(list)};
     }
-    return negatedIf(in.negated, std::move(result));
+    return negatedIf(in.negated, bound::expressionOf(std::move(result), DataType{Kind::Bit}));
 }
 
 bound::ExpressionPtr Binder::node(const Exists& exists) {
-    auto result = std::make_unique<bound::Expression>();
-    result->type = DataType{Kind::Bit};
-    result->node = bound::Subselect{bound::Subselect::Kind::Exists, nullptr,
-                                    std::make_unique<bound::Select>(inner(*exists.select, scope_))};
-    return result;
+    bound::Subselect subselect{bound::Subselect::Kind::Exists, nullptr,
+                               std::make_unique<bound::Select>(inner(*exists.select, scope_))};
+    return bound::expressionOf(std::move(subselect), DataType{Kind::Bit});
 }
 
 bound::ExpressionPtr Binder::node(const ScalarSelect& scalar) {
-    auto result = std::make_unique<bound::Expression>();
     auto select = std::make_unique<bound::Select>(inner(*scalar.select, scope_));
     if (select->columns.size() != 1) {
         throw errors::oneColumnOnly();
     }
-    result->type = select->columns.front().type;
-    result->node = bound::Subselect{bound::Subselect::Kind::Scalar, nullptr, std::move(select)};
-    return result;
+    const DataType type = select->columns.front().type;
+    return bound::expressionOf(bound::Subselect{bound::Subselect::Kind::Scalar, nullptr, std::move(select)}, type);
 }
 
 bound::ExpressionPtr Binder::node(const Case& choice) {
@@ -278,10 +270,7 @@ bound::ExpressionPtr Binder::node(const Case& choice) {
     for (auto& branch : result.branches) {
         branch.then = convertTo(std::move(branch.then), common, Purpose::Cast);
     }
-    auto made = std::make_unique<bound::Expression>();
-    made->type = common;
-    made->node = std::move(result);
-    return made;
+    return bound::expressionOf(std::move(result), common);
 }
 
 bound::ExpressionPtr Binder::node(const Conversion& conversion) {

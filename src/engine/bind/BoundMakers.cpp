@@ -26,9 +26,7 @@ std::string quotedText(std::string_view text) {
 }
 
 ExpressionPtr constant(std::string text, const DataType& type) {
-    auto result = std::make_unique<Expression>();
-    result->node = Constant{std::move(text)};
-    result->type = type;
+    auto result = expressionOf(Constant{std::move(text)}, type);
     result->nullable = false;
     return result;
 }
@@ -37,12 +35,9 @@ namespace {
 
 template<class... Operands>
 ExpressionPtr operation(std::string op, bool postfix, const DataType& type, Operands... operands) {
-    auto result = std::make_unique<Expression>();
     Operation made{std::move(op), {}, postfix};
     (made.operands.push_back(std::move(operands)), ...);
-    result->node = std::move(made);
-    result->type = type;
-    return result;
+    return expressionOf(std::move(made), type);
 }
 
 } // namespace
@@ -60,13 +55,10 @@ ExpressionPtr infix(std::string op, ExpressionPtr left, ExpressionPtr right, con
 }
 
 ExpressionPtr callOf(std::string function, const DataType& type, std::vector<ExpressionPtr> arguments) {
-    auto result = std::make_unique<Expression>();
     Call call;
     call.function = std::move(function);
     call.arguments = std::move(arguments);
-    result->node = std::move(call);
-    result->type = type;
-    return result;
+    return expressionOf(std::move(call), type);
 }
 
 std::vector<const Expression*> partsOf(const Expression& whole) {

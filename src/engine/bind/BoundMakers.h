@@ -10,6 +10,14 @@ namespace engine {
 
 namespace bound {
 
+template<class Node>
+ExpressionPtr expressionOf(Node node, const DataType& type) {
+    auto result = std::make_unique<Expression>();
+    result->node = std::move(node);
+    result->type = type;
+    return result;
+}
+
 /// A text as a literal of SQLite.
 std::string quotedText(std::string_view text);
 ExpressionPtr constant(std::string text, const DataType& type);

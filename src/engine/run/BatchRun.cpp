@@ -37,14 +37,7 @@ Verb verbOf(const Statement& statement) {
                        : node.kind == Transaction::Kind::Commit ? Verb::Commit
                                                                 : Verb::Rollback;
             }
-            return std::is_same_v<Node, Select>        ? Verb::Select
-                   : std::is_same_v<Node, Insert>      ? Verb::Insert
-                   : std::is_same_v<Node, Update>      ? Verb::Update
-                   : std::is_same_v<Node, Delete>      ? Verb::Delete
-                   : std::is_same_v<Node, CreateTable> ? Verb::CreateTable
-                   : std::is_same_v<Node, SetOption>   ? Verb::SetOption
-                   : std::is_same_v<Node, Execute>     ? Verb::Execute
-                                                       : Verb::Other;
+            return kKindOf<Node>.verb;
         },
         statement.node);
 }

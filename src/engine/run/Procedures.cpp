@@ -41,51 +41,41 @@ public:
         }
     }
 
-    bool given(std::size_t place) const { return !isNull(values_[place]); }
+    bool given(std::size_t place) const { return values_[place].first.kind != Literal::Kind::Null; }
 
     /// Nothing where the argument was left out or is NULL.
     std::string text(std::size_t place) const {
-        const Scalar value = convert(values_[place], {typeOf(place), DataType{Kind::NVarChar, -1, 0, 0}, {}});
+        const Scalar value = converted(place, DataType{Kind::NVarChar, -1, 0, 0});
         return isNull(value) ? std::string() : std::get<std::string>(value);
     }
 
     long long integer(std::size_t place) const {
         try {
-            return std::get<std::int64_t>(convert(values_[place], {typeOf(place), kInt, {}}));
+            return std::get<std::int64_t>(converted(place, kInt));
         } catch (const Error&) {
             throw errors::parameterConversion("nvarchar", "int");
         }
     }
 
 private:
-    static Scalar constant(const Literal& literal, bool negated) {
-        Scalar value = scalarOf(literal, negated);
-        return literal.kind == Literal::Kind::Decimal ? kept(std::move(value)) : value;
-    }
+    using Constant = std::pair<Literal, bool>; ///< whether a minus stands before it
 
-    static Scalar constant(const Expression& expression) {
-        if (const auto* literal = std::get_if<Literal>(&expression.node)) {
-            return constant(*literal, false);
-        }
-        if (const auto* unary = std::get_if<Unary>(&expression.node)) {
-            if (const auto* literal = std::get_if<Literal>(&unary->operand->node)) {
-                return constant(*literal, unary->op == Unary::Operator::Minus);
-            }
+    static Constant constant(const Expression& expression) {
+        const auto* unary = std::get_if<Unary>(&expression.node);
+        const Expression& operand = unary == nullptr ? expression : *unary->operand;
+        if (const auto* literal = std::get_if<Literal>(&operand.node)) {
+            return {*literal, unary != nullptr && unary->op == Unary::Operator::Minus};
         }
         throw errors::syntaxNear("(", expression.position);
     }
 
-    DataType typeOf(std::size_t place) const {
-        const Scalar& value = values_[place];
-        if (std::holds_alternative<std::int64_t>(value)) {
-            return {Kind::BigInt, 0, 0, 0};
-        }
-        return std::holds_alternative<double>(value) ? DataType{Kind::Float, 0, 0, 0}
-                                                     : DataType{Kind::NVarChar, -1, 0, 0};
+    Scalar converted(std::size_t place, const DataType& type) const {
+        const auto& [literal, negated] = values_[place];
+        return convert(scalarOf(literal, negated), {typeOf(literal), type, {}});
     }
 
     std::string procedure_;
-    std::vector<Scalar> values_;
+    std::vector<Constant> values_;
 };
 
 ResultColumn column(const char* name, const DataType& type) {

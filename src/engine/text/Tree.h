@@ -327,7 +327,6 @@ struct Statement {
     std::variant<Select, Insert, Update, Delete, CreateTable, AlterTable, CreateIndex, Drop, Truncate, CreateDatabase,
                  AlterDatabase, Use, SetOption, Execute, Reconfigure, Transaction, If, Block, Print>
         node;
-    int begin = 0, end = 0; ///< byte range in the batch
 };
 
 struct BatchTree {

@@ -60,6 +60,10 @@ Error integerOverflows(const IntegerKind& kind, std::string_view text, const cha
 
 } // namespace
 
+IntegerRange rangeOf(const DataType& type) {
+    return {kindOf(type).minimum, kindOf(type).maximum};
+}
+
 std::int64_t toInteger(std::string_view text, const DataType& target, const char* sourceType) {
     const IntegerKind& kind = kindOf(target);
     std::string_view digits = trimmed(text);

@@ -14,6 +14,12 @@
 
 namespace engine {
 
+struct IntegerRange {
+    std::int64_t first, last;
+};
+/// Of the values of an integer type.
+IntegerRange rangeOf(const DataType& type);
+
 /// Blanks at both ends are ignored, '' is 0. Throws 245 (8114 for a bigint) for what is no number, 244, 248 or 8115 for
 /// one that the target doesn't hold.
 std::int64_t toInteger(std::string_view text, const DataType& target, const char* sourceType = "varchar");

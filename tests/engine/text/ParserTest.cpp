@@ -188,16 +188,6 @@ TEST(Batch, OfNothingHoldsNothing) {
     EXPECT_TRUE(parse(" \r\n-- only a remark\n/* and another */ ; ").statements.empty());
 }
 
-TEST(Statements, KnowWhereTheyStand) {
-    const std::string text = " select 1 ;  delete t where a = 'x'  ";
-    const BatchTree batch = parse(text);
-    ASSERT_EQ(batch.statements.size(), 2U);
-    const auto& second = *batch.statements[1];
-    EXPECT_EQ(batch.statements[0]->begin, 1);
-    EXPECT_EQ(batch.statements[0]->end, 9);
-    EXPECT_EQ(text.substr(second.begin, second.end - second.begin), "delete t where a = 'x'");
-}
-
 TEST(Defaults, AreKeptAsWritten) {
     const BatchTree batch = parse("create table t (a int default ( 0 ) not null, b int default -1)");
     const auto& columns = std::get<CreateTable>(batch.statements.front()->node).columns;

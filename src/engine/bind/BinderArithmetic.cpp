@@ -18,12 +18,10 @@ const char* nameOf(Binary::Operator op) {
 
 bound::ExpressionPtr Binder::negated(bound::ExpressionPtr operand) {
     DataType type = operand->type;
-    if (!type.isNumber() && type.kind != Kind::Unknown) {
+    if ((!type.isNumber() && type.kind != Kind::Unknown) || type.kind == Kind::Bit) {
         throw errors::aggregateOfText(typeName(type), "minus");
     }
-    if (type.kind == Kind::Bit) {
-        type = DataType{Kind::Int};
-    } else if (type.kind == Kind::TinyInt) {
+    if (type.kind == Kind::TinyInt) {
         type = DataType{Kind::SmallInt};
     }
     auto result = bound::prefix("-", std::move(operand), type);
@@ -60,6 +58,10 @@ bound::ExpressionPtr Binder::arithmetic(Binary::Operator op, bound::ExpressionPt
         }
         common.length = longestText(common);
         return convertTo(std::move(joined), common, Purpose::Cast);
+    }
+    const bool untyped = left->type.kind == Kind::Unknown || right->type.kind == Kind::Unknown;
+    if (common.kind == Kind::Bit && !untyped) {
+        throw errors::incompatibleTypes(typeName(left->type), typeName(right->type), nameOf(op));
     }
     if (common.kind == Kind::Unknown || common.kind == Kind::Bit) {
         common = DataType{Kind::Int};

@@ -149,6 +149,7 @@ bound::Statement Binder::bind(const Insert& insert) {
     if (insert.rows.size() > kMostRows) {
         throw errors::tooManyRows();
     }
+    std::vector<DataType> common(given); // the values of several rows meet in one type before the column's
     for (const auto& values : insert.rows) {
         if (values.size() != insert.rows.front().size()) {
             throw errors::valuesCountMismatch();
@@ -158,12 +159,23 @@ bound::Statement Binder::bind(const Insert& insert) {
             : values.size() > given ? errors::fewerColumnsThanValues()
                                     : errors::moreColumnsThanValues();
         }
-        std::vector<bound::ExpressionPtr> row;
+        std::vector<bound::ExpressionPtr>& row = result.rows.emplace_back();
         for (std::size_t i = 0; i < given; ++i) {
-            row.push_back(assigned(values[i].get(), *result.columns[i]));
+            row.push_back(values[i] ? expression(*values[i]) : bindDefault(*result.columns[i]));
+            common[i] = values[i] ? commonType(common[i], row.back()->type) : common[i];
+        }
+    }
+    for (std::size_t place = 0; place < insert.rows.size(); ++place) {
+        std::vector<bound::ExpressionPtr>& row = result.rows[place];
+        for (std::size_t i = 0; i < given; ++i) {
+            if (insert.rows[place][i]) {
+                const bool textElsewhere = row[i]->type.isText() && !common[i].isText();
+                row[i] = textElsewhere ? convertTo(std::move(row[i]), comparable(common[i]), Purpose::Cast)
+                                       : std::move(row[i]);
+                row[i] = convertWritten(std::move(row[i]), result.columns[i]->type, Purpose::Assignment);
+            }
         }
         completeRow(result, given, row);
-        result.rows.push_back(std::move(row));
     }
     if (insert.rows.empty()) {
         std::vector<bound::ExpressionPtr> row;

@@ -106,8 +106,8 @@ struct FunctionRow {
         DateTime,
         SystemName,
         LongText,
-        AsFirst,       ///< the type of the first argument
-        AsFirstBeyond, ///< the same, but what the body gives may lie outside of it and is converted
+        TextAsFirst,   ///< the type of the first argument, but without a fixed length
+        AsFirstBeyond, ///< the type of the first argument; what the body gives may lie outside of it and is converted
         Rounded,       ///< the same, but the integers below int are ints, and real is float
         Whole          ///< that of Rounded without places
     };

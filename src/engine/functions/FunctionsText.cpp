@@ -179,42 +179,34 @@ Scalar dataLength(FunctionContext& /*context*/, Arguments arguments) {
     if (const auto* text = std::get_if<std::string>(&arguments[0]); text != nullptr && type.isText()) {
         return static_cast<std::int64_t>(characters(*text) * (type.isNational() ? 2 : 1));
     }
-    switch (type.kind) {
-    case DataType::Kind::Bit:
-    case DataType::Kind::TinyInt:
-        return std::int64_t{1};
-    case DataType::Kind::SmallInt:
-        return std::int64_t{2};
-    case DataType::Kind::Int:
-    case DataType::Kind::Real:
-        return std::int64_t{4};
-    case DataType::Kind::Decimal:
-        return std::int64_t{type.isMoney()         ? kMoneyLength
-                            : type.precision <= 9  ? 5
-                            : type.precision <= 19 ? 9
-                            : type.precision <= 28 ? 13
-                                                   : 17};
-    default:
-        return std::int64_t{8};
+    constexpr std::array kBytes{8, 1, 1, 2, 4, 8, 0, 4}; // in the order of DataType::Kind
+    if (type.kind != DataType::Kind::Decimal) {
+        const auto place = static_cast<std::size_t>(type.kind);
+        return std::int64_t{place < kBytes.size() ? kBytes[place] : kBytes[0]};
     }
+    return std::int64_t{type.isMoney()         ? kMoneyLength
+                        : type.precision <= 9  ? 5
+                        : type.precision <= 19 ? 9
+                        : type.precision <= 28 ? 13
+                                               : 17};
 }
 
 constexpr FunctionRow kFunctions[] = {
     {"CHARINDEX", {kText, kText, optional(kInt)}, Result::Int, charIndex},
     {"DATALENGTH", {kTyped}, Result::Int, dataLength},
-    {"LEFT", {kText, kInt}, Result::AsFirst, leftPart},
+    {"LEFT", {kText, kInt}, Result::TextAsFirst, leftPart},
     {"LEN", {kText}, Result::Int, len},
-    {"LOWER", {kText}, Result::AsFirst, mapped<lower>},
-    {"LTRIM", {kText}, Result::AsFirst, leftTrim},
+    {"LOWER", {kText}, Result::TextAsFirst, mapped<lower>},
+    {"LTRIM", {kText}, Result::TextAsFirst, leftTrim},
     {"REPLACE", {kText, kText, kText}, Result::LongText, replace},
     {"REPLICATE", {kText, kInt}, Result::LongText, replicate},
-    {"REVERSE", {kText}, Result::AsFirst, reverse},
-    {"RIGHT", {kText, kInt}, Result::AsFirst, rightPart},
-    {"RTRIM", {kText}, Result::AsFirst, rightTrim},
+    {"REVERSE", {kText}, Result::TextAsFirst, reverse},
+    {"RIGHT", {kText, kInt}, Result::TextAsFirst, rightPart},
+    {"RTRIM", {kText}, Result::TextAsFirst, rightTrim},
     {"SPACE", {kInt}, Result::LongText, space},
     {"STR", {kFloat, optional(kInt), optional(kInt)}, Result::LongText, str},
-    {"SUBSTRING", {kWritten, kInt, kInt}, Result::AsFirst, substring},
-    {"UPPER", {kText}, Result::AsFirst, mapped<upper>},
+    {"SUBSTRING", {kWritten, kInt, kInt}, Result::TextAsFirst, substring},
+    {"UPPER", {kText}, Result::TextAsFirst, mapped<upper>},
 };
 
 } // namespace

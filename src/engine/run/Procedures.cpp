@@ -85,13 +85,6 @@ ResultColumn column(const char* name, const DataType& type) {
     return made;
 }
 
-Listing optionRows() {
-    Listing rows;
-    rows.columns = {column("name", {Kind::NVarChar, 35, 0, 0}), column("minimum", kInt), column("maximum", kInt),
-                    column("config_value", kInt), column("run_value", kInt)};
-    return rows;
-}
-
 std::optional<Listing> configure(ServerSession& session, const Execute& call, Messages& messages) {
     const Values values(call, {"@configname", "@configvalue"});
     const std::vector<Instance::Option> options = session.instance().options();
@@ -99,7 +92,9 @@ std::optional<Listing> configure(ServerSession& session, const Execute& call, Me
         return option.name == kShowAdvancedOptions && option.running != 0;
     });
     const std::string wanted = values.given(0) ? serverOption(values.text(0), advanced).name : std::string();
-    Listing rows = optionRows();
+    Listing rows;
+    rows.columns = {column("name", {Kind::NVarChar, 35, 0, 0}), column("minimum", kInt), column("maximum", kInt),
+                    column("config_value", kInt), column("run_value", kInt)};
     for (const Instance::Option& option : options) {
         const bool asked = wanted.empty() ? advanced || !option.advanced : option.name == wanted;
         if (!asked) {

@@ -18,9 +18,7 @@ std::string versionText(const Instance& instance) {
 
 std::string serverName(const Instance& instance) {
     std::string name = instance.folder().filename().string();
-    for (char& c : name) {
-        c = c == '$' ? '\\' : c;
-    }
+    std::replace(name.begin(), name.end(), '$', '\\');
     return name;
 }
 

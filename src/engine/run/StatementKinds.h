@@ -2,6 +2,7 @@
 
 // What a session knows of each kind of statement before one of that kind runs.
 
+#include "engine/run/Session.h"
 #include "engine/text/Tree.h"
 
 #include <tuple>

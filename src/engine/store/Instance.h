@@ -24,6 +24,8 @@ struct DatabaseEntry {
     std::filesystem::path file;
     std::string serverPath; ///< as CREATE DATABASE named it, or else the file's own
     std::string created;    ///< YYYY-MM-DD hh:mm:ss.mmm
+
+    bool operator==(const DatabaseEntry&) const = default;
 };
 
 /// A folder with databases in it, each one file. Several processes may use one instance.

@@ -6,6 +6,7 @@
 #include "engine/values/Scalar.h"
 
 #include <algorithm>
+#include <array>
 #include <iterator>
 
 namespace engine {
@@ -13,21 +14,12 @@ namespace engine {
 namespace {
 
 std::string_view markerOf(const Literal& literal) {
-    switch (literal.kind) {
-    case Literal::Kind::Null:
-        return "";
-    case Literal::Kind::Integer:
-        return "?i";
-    case Literal::Kind::Decimal:
-        return "?d";
-    case Literal::Kind::Float:
-        return "?f";
-    case Literal::Kind::Text:
-        return typeOf(literal).length < 0 ? "?T" : "?t";
-    case Literal::Kind::NationalText:
-        return typeOf(literal).length < 0 ? "?N" : "?n";
+    constexpr std::array kMarkers{"", "?i", "?d", "?f", "?t", "?n"}; // in the order of Literal::Kind
+    const bool text = literal.kind == Literal::Kind::Text || literal.kind == Literal::Kind::NationalText;
+    if (!text || typeOf(literal).length >= 0) {
+        return kMarkers[static_cast<std::size_t>(literal.kind)];
     }
-    return "";
+    return literal.kind == Literal::Kind::Text ? "?T" : "?N";
 }
 
 } // namespace

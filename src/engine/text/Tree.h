@@ -264,7 +264,6 @@ struct DatabaseFile {
 struct CreateDatabase {
     std::string name;
     std::vector<DatabaseFile> files;
-    std::string collation;
 };
 
 /// ALTER DATABASE name SET: `AUTO_CLOSE ON`, `RECOVERY SIMPLE`, `READ_WRITE`.

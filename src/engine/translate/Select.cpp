@@ -1,5 +1,7 @@
 #include "engine/translate/SqlText.h"
 
+#include <array>
+
 namespace engine::translate {
 
 namespace {
@@ -14,25 +16,12 @@ void writeNode(Text& text, const bound::Derived& derived) {
     text += ") AS " + alias(derived.number);
 }
 
-const char* joinText(Join::Kind kind) {
-    switch (kind) {
-    case Join::Kind::Inner:
-        return " JOIN ";
-    case Join::Kind::Left:
-        return " LEFT JOIN ";
-    case Join::Kind::Right:
-        return " RIGHT JOIN ";
-    case Join::Kind::Full:
-        return " FULL JOIN ";
-    case Join::Kind::Cross:
-        return " CROSS JOIN ";
-    }
-    return "";
-}
+/// In the order of Join::Kind.
+constexpr std::array kJoins = {" JOIN ", " LEFT JOIN ", " RIGHT JOIN ", " FULL JOIN ", " CROSS JOIN "};
 
 void writeNode(Text& text, const bound::Join& join) {
     write(text, *join.left);
-    text += joinText(join.kind);
+    text += kJoins[static_cast<std::size_t>(join.kind)];
     const bool nested = std::holds_alternative<bound::Join>(join.right->node);
     text += nested ? "(" : "";
     write(text, *join.right);

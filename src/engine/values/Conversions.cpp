@@ -21,12 +21,13 @@ struct IntegerKind {
     Kind kind;
     const char* name;
     std::int64_t minimum, maximum;
+    const char* stored = ""; ///< as the error of a text calls the small ones
 };
 
 constexpr std::array<IntegerKind, 5> kIntegerKinds{{
     {Kind::Bit, "bit", 0, 1},
-    {Kind::TinyInt, "tinyint", 0, 255},
-    {Kind::SmallInt, "smallint", -32768, 32767},
+    {Kind::TinyInt, "tinyint", 0, 255, "INT1"},
+    {Kind::SmallInt, "smallint", -32768, 32767, "INT2"},
     {Kind::Int, "int", std::numeric_limits<std::int32_t>::min(), std::numeric_limits<std::int32_t>::max()},
     {Kind::BigInt, "bigint", std::numeric_limits<std::int64_t>::min(), std::numeric_limits<std::int64_t>::max()},
 }};
@@ -38,24 +39,6 @@ const IntegerKind& kindOf(const DataType& target) {
         }
     }
     throw InternalError("a conversion to an integer of a type that is none: " + toText(target));
-}
-
-Error integerRefused(const IntegerKind& kind, std::string_view text, const char* source) {
-    return kind.kind == Kind::BigInt ? errors::conversionError(source, kind.name)
-                                     : errors::intConversion(source, std::string(text), kind.name);
-}
-
-Error integerOverflows(const IntegerKind& kind, std::string_view text, const char* source) {
-    switch (kind.kind) {
-    case Kind::TinyInt:
-        return errors::textOverflowsSmallInt(source, std::string(text), "INT1");
-    case Kind::SmallInt:
-        return errors::textOverflowsSmallInt(source, std::string(text), "INT2");
-    case Kind::Int:
-        return errors::textOverflowsInt(source, std::string(text));
-    default:
-        return errors::conversionOverflow("expression", kind.name);
-    }
 }
 
 } // namespace
@@ -78,7 +61,8 @@ std::int64_t toInteger(std::string_view text, const DataType& target, const char
                 return word == "true" ? 1 : 0;
             }
         }
-        throw integerRefused(kind, text, sourceType);
+        throw kind.kind == Kind::BigInt ? errors::conversionError(sourceType, kind.name)
+                                        : errors::intConversion(sourceType, text, kind.name);
     }
     if (kind.kind == Kind::Bit) {
         return digits.find_first_not_of('0') == std::string_view::npos ? 0 : 1;
@@ -87,7 +71,9 @@ std::int64_t toInteger(std::string_view text, const DataType& target, const char
     std::int64_t value = 0;
     const auto read = std::from_chars(number.data(), number.data() + number.size(), value);
     if (read.ec != std::errc{} || value < kind.minimum || value > kind.maximum) {
-        throw integerOverflows(kind, text, sourceType);
+        throw kind.kind == Kind::BigInt ? errors::conversionOverflow("expression", kind.name)
+        : kind.kind == Kind::Int        ? errors::textOverflowsInt(sourceType, text)
+                                        : errors::textOverflowsSmallInt(sourceType, text, kind.stored);
     }
     return value;
 }
@@ -127,10 +113,6 @@ std::int64_t toInteger(std::int64_t number, const DataType& target) {
     }
     throw kind.kind == Kind::Int ? errors::conversionOverflow("expression", kind.name)
                                  : errors::valueOverflow(kind.name, integerText(number));
-}
-
-bool toBit(std::string_view text) {
-    return toInteger(text, DataType{Kind::Bit}) != 0;
 }
 
 double toDecimal(std::string_view text, const DataType& target) {

@@ -20,8 +20,8 @@ struct IntegerRange {
 /// Of the values of an integer type.
 IntegerRange rangeOf(const DataType& type);
 
-/// Blanks at both ends are ignored, '' is 0. Throws 245 (8114 for a bigint) for what is no number, 244, 248 or 8115 for
-/// one that the target doesn't hold.
+/// Blanks at both ends are ignored, '' is 0; 'TRUE' and 'FALSE' are bits. Throws 245 (8114 for a bigint) for what is no
+/// number, 244, 248 or 8115 for one that the target doesn't hold.
 std::int64_t toInteger(std::string_view text, const DataType& target, const char* sourceType = "varchar");
 /// Throws 232 (8115 for a bigint) where the value leaves the target's range.
 std::int64_t toInteger(double number, const DataType& target);
@@ -29,8 +29,6 @@ std::int64_t toInteger(double number, const DataType& target);
 std::int64_t toInteger(const Decimal& number, const DataType& target);
 /// Throws 220 too, as the server does for an int that a smaller type doesn't hold.
 std::int64_t toInteger(std::int64_t number, const DataType& target);
-/// 'TRUE', 'FALSE' and numbers; throws 245.
-bool toBit(std::string_view text);
 /// Throws 8114 ('' and '1,5' too), 8115 where precision is exceeded, 40517 where there are more digits than a double
 /// keeps; the result is rounded to the scale.
 double toDecimal(std::string_view text, const DataType& target);

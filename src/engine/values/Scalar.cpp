@@ -49,7 +49,7 @@ Scalar toBitValue(const Scalar& value, const ConversionRequest& request) {
         if (request.from.kind == Kind::DateTime) {
             return std::int64_t{daysOf(*text) != 0.0};
         }
-        return std::int64_t{toBit(*text)};
+        return engine::toInteger(*text, request.to);
     }
     return std::int64_t{numberOf(value) != 0.0};
 }

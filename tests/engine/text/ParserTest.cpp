@@ -155,8 +155,7 @@ INSTANTIATE_TEST_SUITE_P(
         TreeCase{"CREATE DATABASE [x]  ON PRIMARY (NAME = N'x_dat', FILENAME = 'C:\\d\\x.mdf' ,  FILEGROWTH = 10%, "
                  "MAXSIZE = UNLIMITED), (NAME = y, FILENAME = N'y.ndf', SIZE = 5MB) LOG ON (NAME = N'x_log', FILENAME "
                  "= 'x.ldf' , SIZE = 2) COLLATE Latin1_General_CI_AS",
-                 "(create-database x (file x_dat C:\\d\\x.mdf) (file y y.ndf) (log x_log x.ldf) "
-                 "Latin1_General_CI_AS)"}));
+                 "(create-database x (file x_dat C:\\d\\x.mdf) (file y y.ndf) (log x_log x.ldf))"}));
 
 INSTANTIATE_TEST_SUITE_P(
     Batches, Tree,

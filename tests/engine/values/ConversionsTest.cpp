@@ -79,16 +79,16 @@ TEST(IntegerOfText, NamesTheTypeItCameFrom) {
 }
 
 TEST(BitOfText, KnowsWordsAndNumbers) {
-    EXPECT_TRUE(toBit("TRUE"));
-    EXPECT_TRUE(toBit(" true "));
-    EXPECT_FALSE(toBit("False"));
-    EXPECT_TRUE(toBit("-1"));
-    EXPECT_TRUE(toBit("99999999999999999999"));
-    EXPECT_FALSE(toBit("000"));
-    EXPECT_FALSE(toBit(""));
-    EXPECT_EQ(errorOf([] { toBit("vero"); }),
+    EXPECT_EQ(toInteger("TRUE", type(Kind::Bit)), 1);
+    EXPECT_EQ(toInteger(" true ", type(Kind::Bit)), 1);
+    EXPECT_EQ(toInteger("False", type(Kind::Bit)), 0);
+    EXPECT_EQ(toInteger("-1", type(Kind::Bit)), 1);
+    EXPECT_EQ(toInteger("99999999999999999999", type(Kind::Bit)), 1);
+    EXPECT_EQ(toInteger("000", type(Kind::Bit)), 0);
+    EXPECT_EQ(toInteger("", type(Kind::Bit)), 0);
+    EXPECT_EQ(errorOf([] { toInteger("vero", type(Kind::Bit)); }),
               "245 Conversion failed when converting the varchar value 'vero' to data type bit.");
-    EXPECT_EQ(errorNumberOf([] { toBit("1.5"); }), 245);
+    EXPECT_EQ(errorNumberOf([] { toInteger("1.5", type(Kind::Bit)); }), 245);
 }
 
 TEST(IntegerOfNumber, IsCutNotRounded) {

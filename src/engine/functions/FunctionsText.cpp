@@ -3,10 +3,10 @@
 #include "engine/values/Ascii.h"
 #include "engine/values/Collation.h"
 #include "engine/values/CollationCharacters.h"
+#include "engine/values/Conversions.h"
 
 #include <algorithm>
 #include <cmath>
-#include <cstdio>
 
 namespace engine {
 
@@ -161,10 +161,7 @@ Scalar str(FunctionContext& /*context*/, Arguments arguments) {
     const double number = numberAt(arguments, 0);
     const double scale = std::pow(10.0, shown);
     const double scaled = std::round(number * scale);
-    std::string text(512, '\0');
-    const int size =
-        std::snprintf(text.data(), text.size(), "%.*f", shown, std::isfinite(scaled) ? scaled / scale : number);
-    text.resize(static_cast<std::size_t>(std::max(size, 0)));
+    std::string text = printed(std::isfinite(scaled) ? scaled / scale : number, std::chars_format::fixed, shown);
     const std::size_t whole = std::min(text.find('.'), text.size());
     const auto wide = static_cast<std::size_t>(width);
     if (whole > wide) {

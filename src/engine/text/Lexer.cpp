@@ -7,8 +7,8 @@
 
 #include <algorithm>
 #include <array>
+#include <charconv>
 #include <cmath>
-#include <cstdlib>
 
 namespace engine {
 
@@ -42,8 +42,11 @@ bool fitsDecimal(std::string_view number) {
     return std::count_if(number.begin(), number.end(), isDigit) <= kWidestDecimal;
 }
 
-bool fitsFloat(const std::string_view number) {
-    return std::isfinite(std::strtod(std::string(number).c_str(), nullptr));
+bool fitsFloat(std::string_view number) {
+    long double value = 0; // wide enough to tell a number that is too large from one that is too small
+    const auto read = std::from_chars(number.data(), number.data() + number.size(), value);
+    return read.ec == std::errc::result_out_of_range ? number.find('-') != std::string_view::npos
+                                                     : std::isfinite(static_cast<double>(value));
 }
 
 constexpr std::array<std::string_view, 6> kLongSymbols = {"<>", "!=", "<=", ">=", "!<", "!>"};

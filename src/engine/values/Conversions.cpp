@@ -7,9 +7,7 @@
 #include <algorithm>
 #include <array>
 #include <cerrno>
-#include <charconv>
 #include <cmath>
-#include <cstdio>
 #include <limits>
 
 namespace engine {
@@ -88,8 +86,9 @@ std::int64_t toInteger(double number, const DataType& target) {
     const bool inside = whole >= static_cast<double>(kind.minimum) &&
                         (kind.kind == Kind::BigInt ? whole < 0x1p63 : whole <= static_cast<double>(kind.maximum));
     if (!inside) {
-        throw kind.kind == Kind::BigInt ? errors::conversionOverflow("expression", kind.name)
-                                        : errors::floatOverflow(kind.name, std::to_string(number));
+        throw kind.kind == Kind::BigInt
+            ? errors::conversionOverflow("expression", kind.name)
+            : errors::floatOverflow(kind.name, printed(number, std::chars_format::fixed, 6));
     }
     return static_cast<std::int64_t>(whole);
 }
@@ -168,23 +167,23 @@ std::string integerText(std::int64_t number) {
     return std::to_string(number);
 }
 
+std::string printed(double number, std::chars_format format, int precision) {
+    std::array<char, 512> buffer{};
+    return {buffer.data(), std::to_chars(buffer.begin(), buffer.end(), number, format, precision).ptr};
+}
+
 std::string floatText(double number, std::optional<int> style) {
     constexpr std::array kLegacyStyles = {126, 128, 129};
     constexpr std::array kDigitsBehindFirst = {7, 15, 16};
     if (std::find(kLegacyStyles.begin(), kLegacyStyles.end(), style) != kLegacyStyles.end()) {
         throw errors::valueNotSupported("style " + std::to_string(*style) + " of float");
     }
-    std::array<char, 32> buffer{};
     if (number == 0) {
         number = 0; // without a sign
     }
-    if (style >= 1 && style <= 3) {
-        std::snprintf(buffer.data(), buffer.size(), "%.*e", kDigitsBehindFirst[static_cast<std::size_t>(*style) - 1],
-                      number);
-    } else {
-        std::snprintf(buffer.data(), buffer.size(), "%.6g", number);
-    }
-    std::string text = buffer.data();
+    std::string text = style >= 1 && style <= 3 ? printed(number, std::chars_format::scientific,
+                                                          kDigitsBehindFirst[static_cast<std::size_t>(*style) - 1])
+                                                : printed(number, std::chars_format::general, 6);
     // The server's exponents have three digits.
     const std::size_t exponent = text.find('e');
     if (exponent != std::string::npos && text.size() - exponent == 4) {

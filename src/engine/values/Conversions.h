@@ -7,6 +7,7 @@
 #include "engine/values/DateOrder.h"
 #include "engine/values/Decimal.h"
 
+#include <charconv>
 #include <cstdint>
 #include <optional>
 #include <string>
@@ -51,6 +52,8 @@ std::string toDateTime(double days);
 double daysOf(std::string_view dateTime);
 
 std::string integerText(std::int64_t number);
+/// As printf does, whatever the locale of the process.
+std::string printed(double number, std::chars_format format, int precision);
 /// Six significant digits; style 1 has 8, style 2 has 16, style 3 has 17 with an exponent. Throws 40517 for the styles
 /// that are there for their age.
 std::string floatText(double number, std::optional<int> style = {});

@@ -102,7 +102,8 @@ std::string textOf(const Scalar& value, const ConversionRequest& request) {
 /// What a text that is too short for a number shows of it: of the smaller integers an asterisk.
 std::string shownShort(const Scalar& value, const ConversionRequest& request) {
     if (request.from.kind == Kind::Real || request.from.kind == Kind::Float) {
-        throw errors::floatOverflow(typeName(request.to), std::to_string(std::get<double>(value)));
+        throw errors::floatOverflow(typeName(request.to),
+                                    printed(std::get<double>(value), std::chars_format::fixed, 6));
     }
     if (request.from.kind > Kind::Int || request.to.isNational()) {
         throw errors::overflow("expression", typeName(request.to));

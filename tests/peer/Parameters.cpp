@@ -1,6 +1,6 @@
 #include "peer/Parameters.h"
 
-#include "peer/CodePage.h"
+#include "engine/values/CodePage.h"
 #include "peer/WireTypes.h"
 
 #include <algorithm>
@@ -84,10 +84,10 @@ std::int64_t daysOf(ByteReader& in) {
 
 std::string temporalText(const WireType& type, const Bytes& bytes) {
     ByteReader in(bytes);
-    if (type.token == 0x28) {
+    if (type.kind == WireKind::Date) {
         return dateText(daysOf(in), 0);
     }
-    if (type.token == 0x2A) {
+    if (type.kind == WireKind::DateTime2) {
         std::int64_t units = 0;
         for (std::size_t i = 0; i + 3 < bytes.size(); ++i) {
             units |= std::int64_t{in.u8()} << (8 * i);
@@ -122,56 +122,41 @@ void setValue(Parameter& parameter, const WireType& type, const Bytes& bytes) {
         throw InvalidValue();
     }
     ByteReader in(bytes);
-    switch (type.token) {
-    case 0x30:
-    case 0x34:
-    case 0x38:
-    case 0x7F:
-    case 0x26:
+    switch (type.kind) {
+    case WireKind::Integer:
         setNumber(parameter, bytes.size() == 1   ? std::to_string(in.u8())
                              : bytes.size() == 2 ? std::to_string(static_cast<std::int16_t>(in.u16()))
                              : bytes.size() == 4 ? std::to_string(static_cast<std::int32_t>(in.u32()))
                                                  : std::to_string(static_cast<std::int64_t>(in.u64())));
         return;
-    case 0x32:
-    case 0x68:
+    case WireKind::Bit:
         setNumber(parameter, in.u8() != 0 ? "1" : "0");
         return;
-    case 0x3B:
-    case 0x3E:
-    case 0x6D:
+    case WireKind::Float:
         setNumber(parameter, bytes.size() == 4 ? floatText(std::bit_cast<float>(in.u32()))
                                                : floatText(std::bit_cast<double>(in.u64())));
         return;
-    case 0x3C:
-    case 0x7A:
-    case 0x6E: {
+    case WireKind::Money: {
         const auto first = static_cast<std::int32_t>(in.u32()); // of eight bytes the higher half stands first
         setNumber(parameter, moneyText(bytes.size() == 4 ? first : std::int64_t{first} * (1LL << 32) + in.u32()));
         return;
     }
-    case 0x6A:
-    case 0x6C:
+    case WireKind::Decimal:
         setNumber(parameter, decimalText(bytes, type.precision, type.scale));
         return;
-    case 0x3A:
-    case 0x3D:
-    case 0x6F:
-    case 0x28:
-    case 0x2A:
+    case WireKind::DateTime:
+    case WireKind::Date:
+    case WireKind::DateTime2:
         setText(parameter, false, temporalText(type, bytes));
         return;
-    case 0xA7:
-    case 0xAF:
-    case 0x23:
-        setText(parameter, false, fromCodePage({reinterpret_cast<const char*>(bytes.data()), bytes.size()}));
+    case WireKind::Text:
+        setText(parameter, false, engine::fromCodePage({reinterpret_cast<const char*>(bytes.data()), bytes.size()}));
         return;
-    case 0xE7:
-    case 0xEF:
-    case 0x63:
+    case WireKind::NationalText:
         setText(parameter, true, in.ucs2(bytes.size() / 2));
         return;
-    default:
+    case WireKind::Binary:
+    case WireKind::Null:
         throw UnknownType(); // the dialect writes no constants of bytes
     }
 }

@@ -1,6 +1,6 @@
 // The dialect's types in the protocol: how columns are described and values written.
 
-#include "peer/CodePage.h"
+#include "engine/values/CodePage.h"
 #include "peer/Tokens.h"
 
 #include <algorithm>
@@ -199,7 +199,7 @@ void TokenWriter::textValue(bool null, std::string_view text, const engine::Data
     if (!null && type.isNational()) {
         value.ucs2(text);
     } else if (!null) {
-        const std::string bytes = type.kind == Kind::VarBinary ? std::string(text) : toCodePage(text);
+        const std::string bytes = type.kind == Kind::VarBinary ? std::string(text) : engine::toCodePage(text);
         value.raw({reinterpret_cast<const std::uint8_t*>(bytes.data()), bytes.size()});
     }
     const auto bytes = static_cast<std::uint32_t>(value.bytes.size());

@@ -7,11 +7,30 @@
 
 namespace peer {
 
+/// What the values of a type are, in however many bytes.
+enum class WireKind {
+    Null,
+    Bit,
+    Integer,
+    Float,
+    Money,
+    Decimal,
+    DateTime,
+    Date,
+    DateTime2,
+    Text,
+    NationalText,
+    Binary
+};
+
 /// A type as it stands before a value.
 struct WireType {
     std::uint8_t token = 0;
+    WireKind kind = WireKind::Null;
+    const char* name = "";     ///< of texts and binaries
     std::uint32_t largest = 0; ///< bytes
     int precision = 0, scale = 0;
+    bool isLarge = false; ///< image, text and ntext, whose name tells no length
 };
 
 /// The bytes of a value; nothing for a null.

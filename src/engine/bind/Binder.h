@@ -46,6 +46,7 @@ private:
     /// A table that the statement's names may refer to.
     struct Visible {
         std::string qualifier; ///< alias, or the table's name
+        bool aliased = false;
         int number = 0;
         const TableInfo* table = nullptr;
         std::vector<ResultColumn> derived; ///< where `table` is null
@@ -69,6 +70,7 @@ private:
     static int columnOf(const Visible& table, std::string_view name);
     static ResultColumn describe(const Visible& table, int column);
     bound::ExpressionPtr column(const Visible& table, int column) const;
+    static void expose(Scope& scope, Visible visible);
     bound::SourcePtr source(const TableSource& source, Scope& scope, bool outer);
     bound::SourcePtr namedTable(const NamedTable& named, Scope& scope, bool outer);
     bound::SourcePtr derivedTable(const DerivedTable& derived, Scope& scope, bool outer);
@@ -106,6 +108,7 @@ private:
     bound::ExpressionPtr node(const Conversion& conversion);
     bound::ExpressionPtr node(const ServerVariable& variable);
     bound::ExpressionPtr literal(const Literal& literal, bool negated);
+    bound::ExpressionPtr use(bound::Parameter parameter, const DataType& type);
     bound::ExpressionPtr compare(const char* op, bound::ExpressionPtr left, bound::ExpressionPtr right);
 
     // BinderArithmetic.cpp
@@ -134,6 +137,7 @@ private:
 
     // BinderWrites.cpp
     bound::Table target(const Name& name);
+    static void expose(Scope& scope, const bound::Table& target);
     std::vector<const ColumnInfo*> insertColumns(const Insert& insert, const bound::Table& table,
                                                  bool& explicitIdentity);
     bound::ExpressionPtr assigned(const Expression* value, const ColumnInfo& column);
@@ -146,6 +150,7 @@ private:
     int tables_ = 0;
     int depth_ = 0;
     bool insideAggregate_ = false;
+    bool insideGroupBy_ = false;
 };
 
 /// Whether two expressions are written alike, but for the values of their literals.

@@ -3,6 +3,7 @@
 #include "engine/errors/BindErrors.h"
 #include "engine/errors/TextErrors.h"
 #include "engine/functions/Operators.h"
+#include "engine/values/Ascii.h"
 
 #include <algorithm>
 
@@ -32,6 +33,9 @@ bound::ExpressionPtr Binder::aggregate(const Call& call, const std::string& name
     if (scope_ == nullptr) {
         throw errors::aggregateMisplaced();
     }
+    if (insideGroupBy_) {
+        throw errors::groupedByAggregate();
+    }
     bound::Call made;
     made.aggregate = true;
     made.distinct = call.distinct;
@@ -54,7 +58,12 @@ bound::ExpressionPtr Binder::aggregate(const Call& call, const std::string& name
         throw errors::aggregateMisplaced();
     }
     owner.sawAggregate = true;
-    const DataType type = call.star ? DataType{} : made.arguments.front()->type;
+    const DataType type = call.star ? DataType{Kind::Int} : made.arguments.front()->type;
+    const bool compares = name == "MIN" || name == "MAX";
+    if (type.kind == Kind::Unknown || (!counts && type.kind == Kind::Bit) ||
+        (!counts && !compares && !type.isNumber())) {
+        throw errors::aggregateOfText(typeName(type), smallLetters(name));
+    }
     if (counts) {
         made.function = "count";
         result->nullable = false;
@@ -62,17 +71,11 @@ bound::ExpressionPtr Binder::aggregate(const Call& call, const std::string& name
         result->node = std::move(made);
         return result;
     }
-    if (name == "MIN" || name == "MAX") {
-        made.function = name == "MIN" ? "min" : "max";
-        if (type.kind == Kind::Bit) {
-            throw errors::aggregateOfText(typeName(type), made.function);
-        }
+    if (compares) {
+        made.function = smallLetters(name);
         result->type = type;
         result->node = std::move(made);
         return result;
-    }
-    if (!type.isNumber() || type.kind == Kind::Bit) {
-        throw errors::aggregateOfText(typeName(type), name == "SUM" ? "sum" : "avg");
     }
     const DataType wanted = sumType(type);
     if (name == "AVG" && wanted.kind != Kind::Float) {

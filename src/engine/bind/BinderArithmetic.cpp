@@ -9,16 +9,19 @@ namespace {
 
 using Kind = DataType::Kind;
 
+const char* nameOf(Binary::Operator op) {
+    static constexpr const char* kNames[] = {"add", "subtract", "multiply", "divide", "modulo"};
+    return kNames[static_cast<int>(op)];
+}
+
 } // namespace
 
 bound::ExpressionPtr Binder::negated(bound::ExpressionPtr operand) {
     DataType type = operand->type;
-    if (!type.isNumber() && type.kind != Kind::Unknown) {
+    if ((!type.isNumber() && type.kind != Kind::Unknown) || type.kind == Kind::Bit) {
         throw errors::aggregateOfText(typeName(type), "minus");
     }
-    if (type.kind == Kind::Bit) {
-        type = DataType{Kind::Int};
-    } else if (type.kind == Kind::TinyInt) {
+    if (type.kind == Kind::TinyInt) {
         type = DataType{Kind::SmallInt};
     }
     auto result = bound::prefix("-", std::move(operand), type);
@@ -44,8 +47,7 @@ bound::ExpressionPtr Binder::arithmetic(Binary::Operator op, bound::ExpressionPt
     DataType common = commonType(left->type, right->type);
     if (common.isText()) {
         if (op != Binary::Operator::Add) {
-            static constexpr const char* kNames[] = {"add", "subtract", "multiply", "divide", "modulo"};
-            throw errors::incompatibleTypes(typeName(left->type), typeName(right->type), kNames[static_cast<int>(op)]);
+            throw errors::incompatibleTypes(typeName(left->type), typeName(right->type), nameOf(op));
         }
         const bool long_ = left->type.length < 0 || right->type.length < 0;
         const int length = left->type.length + right->type.length;
@@ -57,16 +59,26 @@ bound::ExpressionPtr Binder::arithmetic(Binary::Operator op, bound::ExpressionPt
         common.length = longestText(common);
         return convertTo(std::move(joined), common, Purpose::Cast);
     }
+    const bool untyped = left->type.kind == Kind::Unknown || right->type.kind == Kind::Unknown;
+    if (common.kind == Kind::Bit && !untyped) {
+        throw errors::incompatibleTypes(typeName(left->type), typeName(right->type), nameOf(op));
+    }
     if (common.kind == Kind::Unknown || common.kind == Kind::Bit) {
         common = DataType{Kind::Int};
     }
     if (common.kind == Kind::DateTime) {
-        auto days = arithmetic(op, convertTo(std::move(left), DataType{Kind::Float}, Purpose::Cast),
-                               convertTo(std::move(right), DataType{Kind::Float}, Purpose::Cast));
-        return convertTo(std::move(days), common, Purpose::Cast);
+        if (op != Binary::Operator::Add && op != Binary::Operator::Subtract) {
+            throw errors::aggregateOfText("datetime", nameOf(op));
+        }
+        const auto days = [&](bound::ExpressionPtr side) {
+            side = side->type.isText() ? convertTo(std::move(side), common, Purpose::Cast) : std::move(side);
+            return convertTo(std::move(side), DataType{Kind::Float}, Purpose::Cast);
+        };
+        left = days(std::move(left));
+        return convertTo(arithmetic(op, std::move(left), days(std::move(right))), common, Purpose::Cast);
     }
     if (op == Binary::Operator::Modulo && (common.kind == Kind::Float || common.kind == Kind::Real)) {
-        throw errors::incompatibleTypes(typeName(left->type), typeName(right->type), "modulo");
+        throw errors::incompatibleTypes(typeName(left->type), typeName(right->type), nameOf(op));
     }
     const bool decimal = common.kind == Kind::Decimal && !common.isMoney();
     const DataType leftType = left->type.isNumber() ? decimal ? digitsOf(*left) : left->type : common;

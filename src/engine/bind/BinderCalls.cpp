@@ -38,7 +38,11 @@ DataType resultType(Result result, const std::vector<bound::ExpressionPtr>& argu
         type.length = first.isText() && first.length < 0 ? -1 : longestText(type);
         return type;
     }
-    case Result::AsFirst:
+    case Result::TextAsFirst: {
+        DataType type = arguments.front()->type;
+        type.kind = type.isNational() ? Kind::NVarChar : Kind::VarChar; // its blanks may be gone
+        return type;
+    }
     case Result::AsFirstBeyond:
         return arguments.front()->type;
     case Result::Rounded:
@@ -90,10 +94,7 @@ bound::ExpressionPtr Binder::node(const Call& call) {
         choice.branches.push_back(
             {compare("=", std::move(first), expression(*call.arguments[1])), bound::constant("NULL", DataType{})});
         choice.otherwise = expression(*call.arguments[0]);
-        auto result = std::make_unique<bound::Expression>();
-        result->node = std::move(choice);
-        result->type = type;
-        return result;
+        return bound::expressionOf(std::move(choice), type);
     }
     if (name == "COALESCE") {
         if (call.arguments.size() < 2) {
@@ -127,29 +128,22 @@ bound::ExpressionPtr Binder::argument(const Call& call, std::size_t place, Funct
     }
     auto value = expression(written);
     const bool needsNumber = kind == Parameter::Float || kind == Parameter::Number;
-    if (needsNumber && (value->type.kind == Kind::DateTime || value->type.kind == Kind::VarBinary)) {
-        throw errors::argumentType(typeName(value->type), static_cast<int>(place) + 1, call.function);
+    if ((needsNumber && (value->type.kind == Kind::DateTime || value->type.kind == Kind::VarBinary)) ||
+        (kind == Parameter::Written && !value->type.isText())) {
+        throw errors::argumentType(typeName(value->type), static_cast<int>(place) + 1, smallLetters(call.function));
     }
-    switch (kind) {
-    case Parameter::Text:
-        return value->type.isText() ? std::move(value)
-                                    : convertTo(std::move(value), DataType{Kind::NVarChar, -1, 0, 0}, Purpose::Cast);
-    case Parameter::Int:
-        return convertTo(std::move(value), DataType{Kind::Int, 0, 0, 0}, Purpose::Cast);
-    case Parameter::Float:
-        return value->type.isNumber() ? std::move(value)
-                                      : convertTo(std::move(value), DataType{Kind::Float, 0, 0, 0}, Purpose::Cast);
-    case Parameter::Number:
-        return value->type.isText() ? convertTo(std::move(value), DataType{Kind::Float, 0, 0, 0}, Purpose::Cast)
-                                    : std::move(value);
-    case Parameter::Date:
-        return convertTo(std::move(value), DataType{Kind::DateTime, 0, 0, 0}, Purpose::Cast);
-    case Parameter::DatePart:
-    case Parameter::Any:
-    case Parameter::Typed:
-        break;
+    const bool text = value->type.isText();
+    DataType wanted; // Unknown: as it is
+    if (kind == Parameter::Text && !text) {
+        wanted = {Kind::VarChar, kLongestText, 0, 0};
+    } else if (kind == Parameter::Int) {
+        wanted.kind = Kind::Int;
+    } else if ((kind == Parameter::Float && !value->type.isNumber()) || (kind == Parameter::Number && text)) {
+        wanted.kind = Kind::Float;
+    } else if (kind == Parameter::Date) {
+        wanted.kind = Kind::DateTime;
     }
-    return value;
+    return wanted.kind == Kind::Unknown ? std::move(value) : convertTo(std::move(value), wanted, Purpose::Cast);
 }
 
 bound::ExpressionPtr Binder::builtIn(const Call& call) {

@@ -3,6 +3,7 @@
 #include "engine/functions/Operators.h"
 
 #include <algorithm>
+#include <array>
 
 namespace engine {
 
@@ -10,40 +11,13 @@ namespace {
 
 using Kind = DataType::Kind;
 
+/// The server's precedence of types. Money goes behind the other decimals.
 int rank(const DataType& type) {
-    switch (type.kind) {
-    case Kind::DateTime:
-        return 15;
-    case Kind::Float:
-        return 14;
-    case Kind::Real:
-        return 13;
-    case Kind::Decimal:
-        return type.isMoney() ? 11 : 12;
-    case Kind::BigInt:
-        return 10;
-    case Kind::Int:
-        return 9;
-    case Kind::SmallInt:
-        return 8;
-    case Kind::TinyInt:
-        return 7;
-    case Kind::Bit:
-        return 6;
-    case Kind::NVarChar:
-        return 5;
-    case Kind::NChar:
-        return 4;
-    case Kind::VarChar:
-        return 3;
-    case Kind::Char:
-        return 2;
-    case Kind::VarBinary:
-        return 1;
-    case Kind::Unknown:
-        return 0;
-    }
-    return 0;
+    constexpr std::array kFromLowest = {Kind::Unknown,  Kind::VarBinary, Kind::Char,    Kind::VarChar,  Kind::NChar,
+                                        Kind::NVarChar, Kind::Bit,       Kind::TinyInt, Kind::SmallInt, Kind::Int,
+                                        Kind::BigInt,   Kind::Decimal,   Kind::Real,    Kind::Float,    Kind::DateTime};
+    const auto place = std::find(kFromLowest.begin(), kFromLowest.end(), type.kind) - kFromLowest.begin();
+    return static_cast<int>(2 * place) - (type.isMoney() ? 1 : 0);
 }
 
 bound::ExpressionPtr number(std::int64_t value) {

@@ -57,7 +57,6 @@ bound::ExpressionPtr Binder::expression(const Expression& expression) {
     }
     bound::ExpressionPtr result = std::visit([&](const auto& node) { return this->node(node); }, expression.node);
     --depth_;
-    result->position = expression.position;
     return result;
 }
 
@@ -81,14 +80,17 @@ bound::ExpressionPtr Binder::literal(const Literal& literal, bool negated) {
     parameter.ordinal = literal.index;
     parameter.constant = literal;
     parameter.negated = negated;
-    auto result = std::make_unique<bound::Expression>();
-    result->node = bound::ParameterUse{static_cast<int>(parameters_.size())};
-    result->type = typeOf(literal);
+    const DataType type = typeOf(literal);
+    parameter.digitsMatter = type.kind == Kind::Decimal; // assumed until freeDigits is called
+    auto result = use(std::move(parameter), type);
     result->nullable = false;
-    // Assumed until freeDigits is called.
-    parameter.digitsMatter = result->type.kind == Kind::Decimal;
-    parameters_.push_back(std::move(parameter));
     return result;
+}
+
+/// A new parameter where it is used.
+bound::ExpressionPtr Binder::use(bound::Parameter parameter, const DataType& type) {
+    parameters_.push_back(std::move(parameter));
+    return bound::expressionOf(bound::ParameterUse{static_cast<int>(parameters_.size()) - 1}, type);
 }
 
 bound::ExpressionPtr Binder::node(const Literal& literal) {
@@ -199,8 +201,7 @@ bound::ExpressionPtr Binder::node(const Between& between) {
 
 bound::ExpressionPtr Binder::node(const In& in) {
     auto operand = expression(*in.operand);
-    bound::ExpressionPtr result = std::make_unique<bound::Expression>();
-    result->type = DataType{Kind::Bit};
+    bound::Expression::Node result;
     if (in.select) {
         auto select = std::make_unique<bound::Select>(inner(*in.select, scope_));
         if (select->columns.size() != 1) {
@@ -213,7 +214,7 @@ bound::ExpressionPtr Binder::node(const In& in) {
             core.items.front() = convertTo(std::move(core.items.front()), common, Purpose::Cast);
         }
         operand = collated(convertTo(std::move(operand), common, Purpose::Cast));
-        result->node = bound::Subselect{bound::Subselect::Kind::In, std::move(operand), std::move(select)};
+        result = bound::Subselect{bound::Subselect::Kind::In, std::move(operand), std::move(select)};
     } else {
         std::vector<bound::ExpressionPtr> list;
         DataType common = operand->type;
@@ -228,28 +229,24 @@ bound::ExpressionPtr Binder::node(const In& in) {
             one = convertTo(std::move(one), common, Purpose::Cast);
         }
         operand = collated(convertTo(std::move(operand), common, Purpose::Cast));
-        result->node = bound::InList{std::move(operand), std::move(list)};
+        result = bound::InList{std::move(operand), std::move(list)};
     }
-    return negatedIf(in.negated, std::move(result));
+    return negatedIf(in.negated, bound::expressionOf(std::move(result), DataType{Kind::Bit}));
 }
 
 bound::ExpressionPtr Binder::node(const Exists& exists) {
-    auto result = std::make_unique<bound::Expression>();
-    result->type = DataType{Kind::Bit};
-    result->node = bound::Subselect{bound::Subselect::Kind::Exists, nullptr,
-                                    std::make_unique<bound::Select>(inner(*exists.select, scope_))};
-    return result;
+    bound::Subselect subselect{bound::Subselect::Kind::Exists, nullptr,
+                               std::make_unique<bound::Select>(inner(*exists.select, scope_))};
+    return bound::expressionOf(std::move(subselect), DataType{Kind::Bit});
 }
 
 bound::ExpressionPtr Binder::node(const ScalarSelect& scalar) {
-    auto result = std::make_unique<bound::Expression>();
     auto select = std::make_unique<bound::Select>(inner(*scalar.select, scope_));
     if (select->columns.size() != 1) {
         throw errors::oneColumnOnly();
     }
-    result->type = select->columns.front().type;
-    result->node = bound::Subselect{bound::Subselect::Kind::Scalar, nullptr, std::move(select)};
-    return result;
+    const DataType type = select->columns.front().type;
+    return bound::expressionOf(bound::Subselect{bound::Subselect::Kind::Scalar, nullptr, std::move(select)}, type);
 }
 
 bound::ExpressionPtr Binder::node(const Case& choice) {
@@ -273,10 +270,7 @@ bound::ExpressionPtr Binder::node(const Case& choice) {
     for (auto& branch : result.branches) {
         branch.then = convertTo(std::move(branch.then), common, Purpose::Cast);
     }
-    auto made = std::make_unique<bound::Expression>();
-    made->type = common;
-    made->node = std::move(result);
-    return made;
+    return bound::expressionOf(std::move(result), common);
 }
 
 bound::ExpressionPtr Binder::node(const Conversion& conversion) {

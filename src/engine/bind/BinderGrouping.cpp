@@ -1,4 +1,5 @@
 #include "engine/bind/Binder.h"
+#include "engine/bind/BoundMakers.h"
 #include "engine/errors/BindErrors.h"
 #include "engine/functions/Operators.h"
 
@@ -57,72 +58,27 @@ bool sameShape(const Expression& left, const Expression& right, Parameters& para
     return false;
 }
 
-/// Finds a column of this core outside of every aggregate and every grouped expression.
-class LooseColumn {
-public:
-    LooseColumn(const bound::Core& core, const std::vector<int>& tables, Parameters& parameters)
-        : core_(core), tables_(tables), parameters_(parameters) {}
-
-    const Expression* in(const Expression& expression) const {
-        if (grouped(expression)) {
-            return nullptr;
-        }
-        return std::visit([&](const auto& node) { return search(node, expression); }, expression.node);
-    }
-
-private:
-    using Pointer = bound::ExpressionPtr;
-
-    bool grouped(const Expression& expression) const {
-        return std::any_of(core_.groupBy.begin(), core_.groupBy.end(), [&](const Pointer& group) {
-            return sameExpression(*bare(*group), *bare(expression), parameters_);
-        });
-    }
-
-    const Expression* first(const std::vector<Pointer>& expressions) const {
-        for (const Pointer& one : expressions) {
-            if (const Expression* found = in(*one)) {
-                return found;
-            }
-        }
+/// A column of these tables outside of every aggregate and every expression of the GROUP BY; nullptr where none is.
+const Expression* looseColumn(const Expression& expression, const bound::Core& core, const std::vector<int>& tables,
+                              Parameters& parameters) {
+    if (std::any_of(core.groupBy.begin(), core.groupBy.end(), [&](const bound::ExpressionPtr& group) {
+            return sameExpression(*bare(*group), *bare(expression), parameters);
+        })) {
         return nullptr;
     }
-
-    const Expression* maybe(const Pointer& expression) const { return expression ? in(*expression) : nullptr; }
-
-    const Expression* search(const bound::Column& column, const Expression& whole) const {
-        return std::find(tables_.begin(), tables_.end(), column.source) == tables_.end() ? nullptr : &whole;
+    if (const auto* column = std::get_if<bound::Column>(&expression.node)) {
+        return std::find(tables.begin(), tables.end(), column->source) == tables.end() ? nullptr : &expression;
     }
-    const Expression* search(const bound::Operation& operation, const Expression& /*whole*/) const {
-        return first(operation.operands);
+    if (const auto* call = std::get_if<bound::Call>(&expression.node); call != nullptr && call->aggregate) {
+        return nullptr;
     }
-    const Expression* search(const bound::Call& call, const Expression& /*whole*/) const {
-        return call.aggregate ? nullptr : first(call.arguments);
-    }
-    const Expression* search(const bound::Case& choice, const Expression& /*whole*/) const {
-        for (const auto& branch : choice.branches) {
-            for (const Pointer* part : {&branch.when, &branch.then}) {
-                if (const Expression* found = in(**part)) {
-                    return found;
-                }
-            }
+    for (const Expression* part : bound::partsOf(expression)) {
+        if (const Expression* found = looseColumn(*part, core, tables, parameters)) {
+            return found;
         }
-        return maybe(choice.otherwise);
     }
-    const Expression* search(const bound::InList& list, const Expression& /*whole*/) const {
-        const Expression* found = in(*list.operand);
-        return found != nullptr ? found : first(list.list);
-    }
-    const Expression* search(const bound::Subselect& subselect, const Expression& /*whole*/) const {
-        return maybe(subselect.operand);
-    }
-    const Expression* search(const bound::ParameterUse& /*use*/, const Expression& /*whole*/) const { return nullptr; }
-    const Expression* search(const bound::Constant& /*constant*/, const Expression& /*whole*/) const { return nullptr; }
-
-    const bound::Core& core_;
-    const std::vector<int>& tables_;
-    Parameters& parameters_;
-};
+    return nullptr;
+}
 
 template<class Tables>
 std::vector<int> numbersOf(const Tables& tables) {
@@ -137,9 +93,8 @@ std::vector<int> numbersOf(const Tables& tables) {
 
 void Binder::checkGrouping(const bound::Core& core, const std::vector<bound::Order>& orderBy) {
     const std::vector<int> tables = numbersOf(scope_->tables);
-    const LooseColumn loose(core, tables, parameters_);
     const auto check = [&](const bound::ExpressionPtr& expression, const auto& refused) {
-        const bound::Expression* found = expression ? loose.in(*expression) : nullptr;
+        const bound::Expression* found = expression ? looseColumn(*expression, core, tables, parameters_) : nullptr;
         if (found == nullptr) {
             return;
         }
@@ -171,9 +126,8 @@ bool sameExpression(const bound::Expression& left, const bound::Expression& righ
 
 bool Binder::refersTo(const Scope& scope, const bound::Expression& expression) const {
     const std::vector<int> tables = numbersOf(scope.tables);
-    const bound::Core none;
     Parameters unused; // without a grouping nothing is compared
-    return LooseColumn(none, tables, unused).in(expression) != nullptr;
+    return looseColumn(expression, {}, tables, unused) != nullptr;
 }
 
 /// An aggregate over columns of an outer SELECT belongs to that SELECT, one without columns to the SELECT around it.

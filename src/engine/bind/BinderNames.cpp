@@ -2,19 +2,9 @@
 #include "engine/errors/BindErrors.h"
 #include "engine/values/Collation.h"
 
+#include <utility>
+
 namespace engine {
-
-namespace {
-
-std::string joined(const Name& name) {
-    std::string result;
-    for (const std::string& piece : name.pieces) {
-        result += (result.empty() ? "" : ".") + piece;
-    }
-    return result;
-}
-
-} // namespace
 
 int Binder::columnOf(const Visible& table, std::string_view name) {
     if (table.table != nullptr) {
@@ -34,7 +24,7 @@ Binder::Resolved Binder::resolve(const Name& name) const {
     for (const Scope* scope = scope_; scope != nullptr; scope = scope->parent) {
         Resolved found;
         for (const Visible& table : scope->tables) {
-            if (qualified && !sameText(table.qualifier, name.pieces[name.pieces.size() - 2])) {
+            if (qualified && !sameText(table.qualifier, name.piece(1))) {
                 continue;
             }
             sawQualifier = true;
@@ -55,7 +45,7 @@ Binder::Resolved Binder::resolve(const Name& name) const {
         }
     }
     if (qualified) {
-        throw errors::unboundIdentifier(joined(name));
+        throw errors::unboundIdentifier(name.text());
     }
     throw errors::invalidColumn(name.last());
 }
@@ -81,21 +71,28 @@ ResultColumn Binder::describe(const Visible& table, int column) {
 }
 
 bound::ExpressionPtr Binder::column(const Visible& table, int column) const {
+    const ResultColumn described = describe(table, column);
     auto result = std::make_unique<bound::Expression>();
-    if (table.table != nullptr) {
-        const ColumnInfo& info = table.table->columns[static_cast<std::size_t>(column)];
-        result->type = info.type;
-        result->nullable = info.nullable || table.outer;
-        result->name = info.name;
-        result->node = bound::Column{table.number, info.name};
-    } else {
-        const ResultColumn& info = table.derived[static_cast<std::size_t>(column)];
-        result->type = info.type;
-        result->nullable = info.nullable || table.outer;
-        result->name = info.name;
-        result->node = bound::Column{table.number, "c" + std::to_string(column)};
-    }
+    result->type = described.type;
+    result->nullable = described.nullable || table.outer;
+    result->name = described.name;
+    result->node = bound::Column{table.number, table.table != nullptr ? described.name : "c" + std::to_string(column)};
     return result;
+}
+
+/// Adds a table to those that names may refer to.
+void Binder::expose(Scope& scope, Visible visible) {
+    for (const Visible& other : scope.tables) {
+        if (!sameText(other.qualifier, visible.qualifier)) {
+            continue;
+        }
+        if (other.aliased && visible.aliased) {
+            throw errors::sameAlias(visible.qualifier);
+        }
+        throw other.aliased || visible.aliased ? errors::aliasOfTable(visible.qualifier, other.qualifier)
+                                               : errors::sameExposedName(other.qualifier, visible.qualifier);
+    }
+    scope.tables.push_back(std::move(visible));
 }
 
 bound::SourcePtr Binder::source(const TableSource& source, Scope& scope, bool outer) {
@@ -111,18 +108,14 @@ bound::SourcePtr Binder::source(const TableSource& source, Scope& scope, bool ou
 bound::SourcePtr Binder::namedTable(const NamedTable& named, Scope& scope, bool outer) {
     const TableFinder::Found found = finder_.find(named.name);
     Visible visible;
-    visible.qualifier = named.alias.empty() ? named.name.last() : named.alias;
+    visible.aliased = !named.alias.empty();
+    visible.qualifier = visible.aliased ? named.alias : named.name.last();
     visible.number = tables_++;
     visible.table = found.info;
     visible.outer = outer;
-    for (const Visible& other : scope.tables) {
-        if (sameText(other.qualifier, visible.qualifier)) {
-            throw errors::sameExposedName(other.qualifier, visible.qualifier);
-        }
-    }
     auto result = std::make_unique<bound::Source>();
     result->node = bound::Table{visible.number, found.schema, found.info};
-    scope.tables.push_back(std::move(visible));
+    expose(scope, std::move(visible));
     return result;
 }
 
@@ -141,12 +134,13 @@ bound::SourcePtr Binder::derivedTable(const DerivedTable& derived, Scope& scope,
     }
     Visible visible;
     visible.qualifier = derived.alias;
+    visible.aliased = true;
     visible.number = tables_++;
     visible.derived = select->columns;
     visible.outer = outer;
     auto result = std::make_unique<bound::Source>();
     result->node = bound::Derived{visible.number, std::move(select)};
-    scope.tables.push_back(std::move(visible));
+    expose(scope, std::move(visible));
     return result;
 }
 
@@ -155,11 +149,15 @@ bound::SourcePtr Binder::join(const Join& join, Scope& scope, bool outer) {
     const bool leftOuter = join.kind == Join::Kind::Right || join.kind == Join::Kind::Full;
     bound::Join result;
     result.kind = join.kind;
+    const auto first = static_cast<std::ptrdiff_t>(scope.tables.size());
     result.left = source(*join.left, scope, outer || leftOuter);
     result.right = source(*join.right, scope, outer || rightOuter);
     if (join.condition) {
-        Scope* const before = scope_;
-        scope_ = &scope;
+        // It knows the tables of its own join alone.
+        Scope joined;
+        joined.parent = scope.parent;
+        joined.tables.assign(scope.tables.begin() + first, scope.tables.end());
+        Scope* const before = std::exchange(scope_, &joined);
         result.condition = expression(*join.condition);
         scope_ = before;
     }

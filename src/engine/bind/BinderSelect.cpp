@@ -1,4 +1,5 @@
 #include "engine/bind/Binder.h"
+#include "engine/bind/BoundMakers.h"
 #include "engine/errors/BindErrors.h"
 #include "engine/errors/TextErrors.h"
 #include "engine/values/Collation.h"
@@ -35,11 +36,42 @@ bool isSameColumn(const ResultColumn& left, const ResultColumn& right) {
     return !left.baseTable.empty() && left.baseTable == right.baseTable && left.baseColumn == right.baseColumn;
 }
 
+bool isConstant(const bound::Expression& expression) {
+    if (std::holds_alternative<bound::ParameterUse>(expression.node) ||
+        std::holds_alternative<bound::Constant>(expression.node)) {
+        return true;
+    }
+    const auto* call = std::get_if<bound::Call>(&expression.node);
+    const bool opaque = std::holds_alternative<bound::Subselect>(expression.node) || (call && call->aggregate);
+    const auto parts = bound::partsOf(expression);
+    return !opaque && !parts.empty() &&
+           std::all_of(parts.begin(), parts.end(), [](const auto* part) { return isConstant(*part); });
+}
+
+/// Whether two items of an ORDER BY are the same column.
+bool isSameOrder(const bound::Order& left, const bound::Order& right, const bound::Select& select) {
+    if (left.ordinal > 0 && right.ordinal > 0) {
+        return left.ordinal == right.ordinal;
+    }
+    const auto columnOf = [&](const bound::Order& order) {
+        const auto& items = select.cores.back().items;
+        const auto& expression =
+            order.expression ? order.expression : items[static_cast<std::size_t>(order.ordinal) - 1];
+        return std::get_if<bound::Column>(&expression->node);
+    };
+    const bound::Column* a = columnOf(left);
+    const bound::Column* b = columnOf(right);
+    return a != nullptr && b != nullptr && a->source == b->source && a->column == b->column;
+}
+
 } // namespace
 
 bound::Select Binder::select(const Select& select, Scope* parent) {
     if (insideAggregate_) {
         throw errors::aggregateOfAggregate();
+    }
+    if (insideGroupBy_) {
+        throw errors::groupedByAggregate();
     }
     bound::Select result;
     const bool single = select.cores.size() == 1;
@@ -70,7 +102,13 @@ bound::Select Binder::select(const Select& select, Scope* parent) {
     const InScope inside(scope_, scope);
     scope.aggregates = true;
     for (const OrderItem& item : select.orderBy) {
-        result.orderBy.push_back(order(item, result, single));
+        bound::Order made = order(item, result, single);
+        for (const bound::Order& earlier : result.orderBy) {
+            if (isSameOrder(earlier, made, result)) {
+                throw errors::orderedTwice();
+            }
+        }
+        result.orderBy.push_back(std::move(made));
     }
     bound::Core& last = result.cores.back();
     for (const bound::Order& order : result.orderBy) {
@@ -108,7 +146,9 @@ bound::Core Binder::core(const SelectCore& core, Scope& scope, std::vector<Resul
         result.where = expression(*core.where);
     }
     for (const ExpressionPtr& group : core.groupBy) {
+        insideGroupBy_ = true;
         result.groupBy.push_back(collated(expression(*group)));
+        insideGroupBy_ = false;
         if (!refersTo(scope, *result.groupBy.back())) {
             throw errors::groupedByConstant();
         }
@@ -211,6 +251,9 @@ bound::Order Binder::order(const OrderItem& item, const bound::Select& result, b
         throw errors::orderNotSelected();
     }
     order.expression = expression(*item.expression);
+    if (isConstant(*order.expression)) {
+        throw errors::orderedByConstant(static_cast<int>(result.orderBy.size()) + 1);
+    }
     order.text = order.expression->type.isText();
     return order;
 }

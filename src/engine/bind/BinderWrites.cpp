@@ -23,6 +23,14 @@ bound::Table Binder::target(const Name& name) {
     return {tables_++, found.schema, found.info};
 }
 
+void Binder::expose(Scope& scope, const bound::Table& target) {
+    Visible visible;
+    visible.qualifier = target.info->name;
+    visible.number = target.number;
+    visible.table = target.info;
+    scope.tables.push_back(std::move(visible));
+}
+
 bound::ExpressionPtr Binder::bindDefault(const ColumnInfo& column) {
     if (!column.defaultText) {
         auto null = bound::constant("NULL", DataType{});
@@ -87,13 +95,9 @@ void Binder::completeRow(const bound::Insert& insert, std::size_t given, std::ve
             row.push_back(bindDefault(column));
             continue;
         }
-        auto value = std::make_unique<bound::Expression>();
-        value->node = bound::ParameterUse{static_cast<int>(parameters_.size())};
-        value->type = column.type;
-        bound::Parameter parameter;
-        parameter.source = bound::Parameter::Source::Identity;
-        parameters_.push_back(std::move(parameter));
-        row.push_back(std::move(value));
+        bound::Parameter identity;
+        identity.source = bound::Parameter::Source::Identity;
+        row.push_back(use(std::move(identity), column.type));
     }
 }
 
@@ -122,25 +126,21 @@ bound::Statement Binder::bind(const Insert& insert) {
     if (insert.select) {
         result.select = std::make_unique<bound::Select>(select(*insert.select, nullptr));
         scope_ = &scope;
-        const std::size_t selected = result.select->columns.size();
-        if (selected != given) {
-            throw !named       ? errors::columnCountMismatch()
-            : selected > given ? errors::fewerColumnsThanSelected()
-                               : errors::moreColumnsThanSelected();
+        const std::size_t count = result.select->columns.size();
+        if (count != given) {
+            throw !named    ? errors::columnCountMismatch()
+            : count > given ? errors::fewerColumnsThanSelected()
+                            : errors::moreColumnsThanSelected();
         }
         std::vector<bound::ExpressionPtr> row;
         for (std::size_t i = 0; i < given; ++i) {
             for (bound::Core& core : result.select->cores) {
                 core.items[i] = convertTo(std::move(core.items[i]), result.columns[i]->type, Purpose::Assignment);
             }
-            auto value = std::make_unique<bound::Expression>();
-            value->node = bound::ParameterUse{static_cast<int>(parameters_.size())};
-            value->type = result.columns[i]->type;
-            bound::Parameter parameter;
-            parameter.source = bound::Parameter::Source::Row;
-            parameter.ordinal = static_cast<int>(i);
-            parameters_.push_back(std::move(parameter));
-            row.push_back(std::move(value));
+            bound::Parameter selected;
+            selected.source = bound::Parameter::Source::Row;
+            selected.ordinal = static_cast<int>(i);
+            row.push_back(use(std::move(selected), result.columns[i]->type));
         }
         completeRow(result, given, row);
         result.rows.push_back(std::move(row));
@@ -149,6 +149,7 @@ bound::Statement Binder::bind(const Insert& insert) {
     if (insert.rows.size() > kMostRows) {
         throw errors::tooManyRows();
     }
+    std::vector<DataType> common(given); // the values of several rows meet in one type before the column's
     for (const auto& values : insert.rows) {
         if (values.size() != insert.rows.front().size()) {
             throw errors::valuesCountMismatch();
@@ -158,12 +159,23 @@ bound::Statement Binder::bind(const Insert& insert) {
             : values.size() > given ? errors::fewerColumnsThanValues()
                                     : errors::moreColumnsThanValues();
         }
-        std::vector<bound::ExpressionPtr> row;
+        std::vector<bound::ExpressionPtr>& row = result.rows.emplace_back();
         for (std::size_t i = 0; i < given; ++i) {
-            row.push_back(assigned(values[i].get(), *result.columns[i]));
+            row.push_back(values[i] ? expression(*values[i]) : bindDefault(*result.columns[i]));
+            common[i] = values[i] ? commonType(common[i], row.back()->type) : common[i];
+        }
+    }
+    for (std::size_t place = 0; place < insert.rows.size(); ++place) {
+        std::vector<bound::ExpressionPtr>& row = result.rows[place];
+        for (std::size_t i = 0; i < given; ++i) {
+            if (insert.rows[place][i]) {
+                const bool textElsewhere = row[i]->type.isText() && !common[i].isText();
+                row[i] = textElsewhere ? convertTo(std::move(row[i]), comparable(common[i]), Purpose::Cast)
+                                       : std::move(row[i]);
+                row[i] = convertWritten(std::move(row[i]), result.columns[i]->type, Purpose::Assignment);
+            }
         }
         completeRow(result, given, row);
-        result.rows.push_back(std::move(row));
     }
     if (insert.rows.empty()) {
         std::vector<bound::ExpressionPtr> row;
@@ -184,21 +196,23 @@ bound::Statement Binder::bind(const Update& update) {
     // The target is looked for among the sources by alias, then by its own name.
     const auto standsFor = [&](const auto& isNamed) {
         for (const Visible& visible : scope.tables) {
-            if (result.targetInFrom < 0 && visible.table != nullptr && isNamed(visible)) {
-                result.targetInFrom = visible.number;
-                table.pieces.back() = visible.table->name;
+            if (visible.table == nullptr || !isNamed(visible)) {
+                continue;
             }
+            if (result.targetInFrom >= 0) {
+                throw errors::ambiguousTable(update.table.last());
+            }
+            result.targetInFrom = visible.number;
+            table.pieces.back() = visible.table->name;
         }
     };
     standsFor([&](const Visible& visible) { return sameText(visible.qualifier, update.table.last()); });
-    standsFor([&](const Visible& visible) { return sameText(visible.table->name, update.table.last()); });
+    if (result.targetInFrom < 0) {
+        standsFor([&](const Visible& visible) { return sameText(visible.table->name, update.table.last()); });
+    }
     result.table = target(table);
     if (result.targetInFrom < 0) {
-        Visible visible;
-        visible.qualifier = result.table.info->name;
-        visible.number = result.table.number;
-        visible.table = result.table.info;
-        scope.tables.push_back(std::move(visible));
+        expose(scope, result.table);
     }
     for (const Update::Assignment& assignment : update.assignments) {
         const int place = result.table.info->find(assignment.column.last());
@@ -227,11 +241,7 @@ bound::Statement Binder::bind(const Delete& remove) {
     Scope scope;
     scope_ = &scope;
     result.table = target(remove.table);
-    Visible visible;
-    visible.qualifier = result.table.info->name;
-    visible.number = result.table.number;
-    visible.table = result.table.info;
-    scope.tables.push_back(std::move(visible));
+    expose(scope, result.table);
     if (remove.where) {
         result.where = expression(*remove.where);
     }

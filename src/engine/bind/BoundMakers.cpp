@@ -3,6 +3,7 @@
 #include "engine/functions/Operators.h"
 
 #include <algorithm>
+#include <array>
 
 namespace engine {
 
@@ -11,24 +12,6 @@ namespace {
 using Kind = DataType::Kind;
 
 constexpr int kLeastQuotientScale = 6;
-
-/// An integer as the decimal that holds all its values.
-DataType asDecimal(const DataType& type) {
-    switch (type.kind) {
-    case Kind::Decimal:
-        return type;
-    case Kind::Bit:
-        return {Kind::Decimal, 0, 1, 0};
-    case Kind::TinyInt:
-        return {Kind::Decimal, 0, 3, 0};
-    case Kind::SmallInt:
-        return {Kind::Decimal, 0, 5, 0};
-    case Kind::BigInt:
-        return {Kind::Decimal, 0, 19, 0};
-    default:
-        return {Kind::Decimal, 0, 10, 0};
-    }
-}
 
 } // namespace
 
@@ -43,51 +26,65 @@ std::string quotedText(std::string_view text) {
 }
 
 ExpressionPtr constant(std::string text, const DataType& type) {
-    auto result = std::make_unique<Expression>();
-    result->node = Constant{std::move(text)};
-    result->type = type;
+    auto result = expressionOf(Constant{std::move(text)}, type);
     result->nullable = false;
     return result;
 }
 
 namespace {
 
-ExpressionPtr operation(Operation operation, const DataType& type) {
-    auto result = std::make_unique<Expression>();
-    result->node = std::move(operation);
-    result->type = type;
-    return result;
+template<class... Operands>
+ExpressionPtr operation(std::string op, bool postfix, const DataType& type, Operands... operands) {
+    Operation made{std::move(op), {}, postfix};
+    (made.operands.push_back(std::move(operands)), ...);
+    return expressionOf(std::move(made), type);
 }
 
 } // namespace
 
 ExpressionPtr prefix(std::string op, ExpressionPtr operand, const DataType& type) {
-    Operation made{std::move(op), {}, false};
-    made.operands.push_back(std::move(operand));
-    return operation(std::move(made), type);
+    return operation(std::move(op), false, type, std::move(operand));
 }
 
 ExpressionPtr postfix(std::string op, ExpressionPtr operand, const DataType& type) {
-    Operation made{std::move(op), {}, true};
-    made.operands.push_back(std::move(operand));
-    return operation(std::move(made), type);
+    return operation(std::move(op), true, type, std::move(operand));
 }
 
 ExpressionPtr infix(std::string op, ExpressionPtr left, ExpressionPtr right, const DataType& type) {
-    Operation made{std::move(op), {}, false};
-    made.operands.push_back(std::move(left));
-    made.operands.push_back(std::move(right));
-    return operation(std::move(made), type);
+    return operation(std::move(op), false, type, std::move(left), std::move(right));
 }
 
 ExpressionPtr callOf(std::string function, const DataType& type, std::vector<ExpressionPtr> arguments) {
-    auto result = std::make_unique<Expression>();
     Call call;
     call.function = std::move(function);
     call.arguments = std::move(arguments);
-    result->node = std::move(call);
-    result->type = type;
-    return result;
+    return expressionOf(std::move(call), type);
+}
+
+std::vector<const Expression*> partsOf(const Expression& whole) {
+    std::vector<const Expression*> parts;
+    const auto add = [&](const ExpressionPtr& part) {
+        if (part) {
+            parts.push_back(part.get());
+        }
+    };
+    if (const auto* operation = std::get_if<Operation>(&whole.node)) {
+        std::for_each(operation->operands.begin(), operation->operands.end(), add);
+    } else if (const auto* call = std::get_if<Call>(&whole.node)) {
+        std::for_each(call->arguments.begin(), call->arguments.end(), add);
+    } else if (const auto* choice = std::get_if<Case>(&whole.node)) {
+        for (const Case::Branch& branch : choice->branches) {
+            add(branch.when);
+            add(branch.then);
+        }
+        add(choice->otherwise);
+    } else if (const auto* in = std::get_if<InList>(&whole.node)) {
+        add(in->operand);
+        std::for_each(in->list.begin(), in->list.end(), add);
+    } else if (const auto* subselect = std::get_if<Subselect>(&whole.node)) {
+        add(subselect->operand);
+    }
+    return parts;
 }
 
 void giveAllDigits(Expression& value) {
@@ -98,6 +95,14 @@ void giveAllDigits(Expression& value) {
 }
 
 } // namespace bound
+
+DataType asDecimal(const DataType& type) {
+    constexpr std::array kDigits = {10, 1, 3, 5, 10, 19}; // in the order of DataType::Kind
+    if (type.kind == Kind::Decimal) {
+        return type;
+    }
+    return {Kind::Decimal, 0, kDigits[type.isInteger() ? static_cast<std::size_t>(type.kind) : 0], 0};
+}
 
 const char* operatorText(Binary::Operator op) {
     static constexpr const char* kTexts[] = {"+", "-", "*", "/", "%", "=", "<>", "<", "<=", ">", ">=", "AND", "OR"};

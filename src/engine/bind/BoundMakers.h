@@ -10,6 +10,14 @@ namespace engine {
 
 namespace bound {
 
+template<class Node>
+ExpressionPtr expressionOf(Node node, const DataType& type) {
+    auto result = std::make_unique<Expression>();
+    result->node = std::move(node);
+    result->type = type;
+    return result;
+}
+
 /// A text as a literal of SQLite.
 std::string quotedText(std::string_view text);
 ExpressionPtr constant(std::string text, const DataType& type);
@@ -26,11 +34,16 @@ ExpressionPtr call(std::string function, const DataType& type, Pointers... argum
     return callOf(std::move(function), type, std::move(list));
 }
 
+/// What an expression is made of, but for what is inside of a SELECT.
+std::vector<const Expression*> partsOf(const Expression& whole);
+
 /// For who takes a result of decimals by all its digits: without this it is refused where a double doesn't keep it.
 void giveAllDigits(Expression& value);
 
 } // namespace bound
 
+/// An integer as the decimal that holds all its values; 10 digits for what is no number.
+DataType asDecimal(const DataType& type);
 /// As SQLite writes it.
 const char* operatorText(Binary::Operator op);
 /// The type in which values are compared: no length cuts a text, no scale rounds a number.

@@ -98,7 +98,6 @@ struct Expression {
     DataType type;
     bool nullable = true;
     std::string name; ///< of a plain column, for the result
-    int position = -1;
 };
 
 struct Source;

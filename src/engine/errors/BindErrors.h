@@ -44,6 +44,9 @@ inline constexpr ErrorText<> aggregateOfAggregate{
     130, Reach::Batch,
     "Cannot perform an aggregate function on an expression containing an aggregate or a "
     "subquery."};
+inline constexpr ErrorText<> groupedByAggregate{
+    144, Reach::Batch,
+    "Cannot use an aggregate or a subquery in an expression used for the group by list of a GROUP BY clause."};
 inline constexpr ErrorText<> orderNotDistinct{
     145, Reach::Batch, "ORDER BY items must appear in the select list if SELECT DISTINCT is specified."};
 inline constexpr ErrorText<> aggregateMisplaced{
@@ -54,6 +57,9 @@ inline constexpr ErrorText<> groupedByConstant{
     164, Reach::Batch,
     "Each GROUP BY expression must contain at least one column that is not an outer "
     "reference."};
+inline constexpr ErrorText<> orderedTwice{
+    169, Reach::Batch,
+    "A column has been specified more than once in the order by list. Columns in the order by list must be unique."};
 inline constexpr ErrorText<Text, int> argumentCount{174, Reach::Batch,
                                                     "The {function} function requires {wanted} argument(s)."};
 inline constexpr ErrorText<Text> unknownFunction{195, Reach::Batch,
@@ -78,6 +84,8 @@ inline constexpr ErrorText<Text> columnTwice{
     "your code."};
 inline constexpr ErrorText<Text, Text, Text> incompatibleTypes{
     402, Reach::Batch, "The data types {left} and {right} are incompatible in the {operation} operator."};
+inline constexpr ErrorText<int> orderedByConstant{
+    408, Reach::Batch, "A constant expression was encountered in the ORDER BY list, position {place}."};
 inline constexpr ErrorText<Text> invalidEscape{
     506, Reach::Batch, "The invalid escape character \"{escape}\" was specified in a LIKE predicate."};
 inline constexpr ErrorText<Text> explicitIdentity{
@@ -89,6 +97,10 @@ inline constexpr ErrorText<Text> identityValueMissing{
     "Explicit value must be specified for identity column in table '{table}' either when "
     "IDENTITY_INSERT is set to ON or when a replication user is inserting into a NOT FOR "
     "REPLICATION identity column."};
+inline constexpr ErrorText<Text> sameAlias{
+    1011, Reach::Batch, "The correlation name '{alias}' is specified multiple times in a FROM clause."};
+inline constexpr ErrorText<Text, Text> aliasOfTable{
+    1012, Reach::Batch, "The correlation name '{alias}' has the same exposed name as table '{table}'."};
 inline constexpr ErrorText<Text, Text> sameExposedName{
     1013, Reach::Batch,
     "The objects \"{first}\" and \"{second}\" in the FROM clause have the same exposed "
@@ -139,6 +151,7 @@ inline constexpr ErrorText<> caseOfNulls{
     8133, Reach::Batch,
     "At least one of the result expressions in a CASE specification must be an expression other than the NULL "
     "constant."};
+inline constexpr ErrorText<Text> ambiguousTable{8154, Reach::Batch, "The table '{table}' is ambiguous."};
 inline constexpr ErrorText<int, Text> columnWithoutName{
     8155, Reach::Batch, "No column name was specified for column {place} of '{table}'."};
 inline constexpr ErrorText<Text, Text> columnNamedTwice{

@@ -6,10 +6,6 @@
 
 namespace engine::errors {
 
-inline constexpr ErrorText<Text, Text> parameterMissing{
-    201, Reach::Statement,
-    "Procedure or function '{procedure}' expects parameter '{parameter}', which was not "
-    "supplied."};
 inline constexpr ErrorText<Text> invalidObject{208, Reach::Batch, "Invalid object name '{object}'."};
 inline constexpr ErrorText<Text> databaseMissing{
     911, Reach::Batch, "Database '{database}' does not exist. Make sure that the name is entered correctly."};

@@ -15,6 +15,9 @@ inline constexpr ErrorText<> dateOutOfRange{
     242, Reach::Batch,
     "The conversion of a varchar data type to a datetime data type resulted in an "
     "out-of-range value."};
+/// A float into an integer or into a text that is too short for it.
+inline constexpr ErrorText<Text, Text> floatOverflow{232, Reach::Batch,
+                                                     "Arithmetic overflow error for type {target}, value = {value}."};
 inline constexpr ErrorText<> moneyOfText{235, Reach::Batch,
                                          "Cannot convert a char value to money. The char value has incorrect syntax."};
 /// `column` is INT1 or INT2.
@@ -26,6 +29,10 @@ inline constexpr ErrorText<Text, Text, Text> intConversion{
     245, Reach::Batch, "Conversion failed when converting the {type} value '{value}' to data type {target}."};
 inline constexpr ErrorText<Text, Text> textOverflowsInt{
     248, Reach::Batch, "The conversion of the {source} value '{value}' overflowed an int column."};
+inline constexpr ErrorText<Text, Text> implicitConversion{
+    257, Reach::Batch,
+    "Implicit conversion from data type {source} to {target} is not allowed. Use the CONVERT function to run this "
+    "query."};
 inline constexpr ErrorText<int, Text> dateStyleOfText{
     281, Reach::Batch, "{style} is not a valid style number when converting from {source} to a character string."};
 inline constexpr ErrorText<Text, Text> conversionError{8114, Reach::Batch,

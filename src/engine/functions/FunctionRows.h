@@ -11,6 +11,7 @@ namespace engine {
 using Result = FunctionRow::Result;
 
 constexpr FunctionParameter kText{FunctionParameter::Kind::Text};
+constexpr FunctionParameter kWritten{FunctionParameter::Kind::Written};
 constexpr FunctionParameter kInt{FunctionParameter::Kind::Int};
 constexpr FunctionParameter kFloat{FunctionParameter::Kind::Float};
 constexpr FunctionParameter kNumber{FunctionParameter::Kind::Number};

@@ -40,7 +40,6 @@ enum class Fact {
     Transactions,
     User,
     Version,
-    VersionNumber,
     WidestDecimal
 };
 
@@ -62,6 +61,7 @@ using FunctionBody = Scalar (*)(FunctionContext& context, Arguments arguments);
 struct FunctionParameter {
     enum class Kind {
         Text,
+        Written, ///< a text, and nothing that would have to become one
         Int,
         Float,
         Number, ///< of any kind
@@ -106,8 +106,8 @@ struct FunctionRow {
         DateTime,
         SystemName,
         LongText,
-        AsFirst,       ///< the type of the first argument
-        AsFirstBeyond, ///< the same, but what the body gives may lie outside of it and is converted
+        TextAsFirst,   ///< the type of the first argument, but without a fixed length
+        AsFirstBeyond, ///< the type of the first argument; what the body gives may lie outside of it and is converted
         Rounded,       ///< the same, but the integers below int are ints, and real is float
         Whole          ///< that of Rounded without places
     };

@@ -42,6 +42,19 @@ constexpr std::array kParts = std::to_array<PartName>({
     {"ms", Part::Millisecond},
 });
 
+/// How long a part is: so many months, or else so many seconds; nothing for the milliseconds.
+struct Span {
+    int months;
+    std::int64_t seconds;
+};
+
+Span spanOf(Part part) {
+    constexpr std::int64_t kDay = 24 * 3600;
+    constexpr std::array kSpans = std::to_array<Span>( // in the order of Part
+        {{12, 0}, {3, 0}, {1, 0}, {0, kDay}, {0, kDay}, {0, 7 * kDay}, {0, kDay}, {0, 3600}, {0, 60}, {0, 1}, {0, 0}});
+    return kSpans[static_cast<std::size_t>(part)];
+}
+
 constexpr int kMonthsOfYear = 12;
 constexpr int kMonthsOfQuarter = 3;
 constexpr int kDaysOfWeek = 7;
@@ -84,11 +97,9 @@ Scalar addMonths(CalendarDate date, std::int64_t months) {
     return date.text();
 }
 
-Scalar addTicks(const CalendarDate& date, std::int64_t days, std::int64_t ticks) {
-    const std::int64_t sum = date.ticks() + ticks;
-    const std::int64_t carried = floorDivide(sum, kTicksOfDay);
+Scalar addTicks(const CalendarDate& date, std::int64_t ticks) {
     try {
-        return CalendarDate::ofTicks(date.days() + days + carried, sum - carried * kTicksOfDay).text();
+        return CalendarDate::ofTicks(date.days(), date.ticks() + ticks).text();
     } catch (const Error&) {
         throw errors::dateAdditionOverflow();
     }
@@ -97,58 +108,28 @@ Scalar addTicks(const CalendarDate& date, std::int64_t days, std::int64_t ticks)
 Scalar dateAdd(FunctionContext& /*context*/, Arguments arguments) {
     const std::int64_t number = integerAt(arguments, 1);
     const CalendarDate date = CalendarDate::stored(textAt(arguments, 2));
-    switch (partOf(textAt(arguments, 0), "dateadd")) {
-    case Part::Year:
-        return addMonths(date, number * kMonthsOfYear);
-    case Part::Quarter:
-        return addMonths(date, number * kMonthsOfQuarter);
-    case Part::Month:
-        return addMonths(date, number);
-    case Part::DayOfYear:
-    case Part::Day:
-    case Part::WeekDay:
-        return addTicks(date, number, 0);
-    case Part::Week:
-        return addTicks(date, number * kDaysOfWeek, 0);
-    case Part::Hour:
-        return addTicks(date, 0, number * 3600 * kTicksOfSecond);
-    case Part::Minute:
-        return addTicks(date, 0, number * 60 * kTicksOfSecond);
-    case Part::Second:
-        return addTicks(date, 0, number * kTicksOfSecond);
-    case Part::Millisecond:
-        return addTicks(date, 0, floorDivide(number * kTicksOfSecond + 500, 1000)); // to the nearest tick
+    const Part part = partOf(textAt(arguments, 0), "dateadd");
+    const Span span = spanOf(part);
+    if (span.months > 0) {
+        return addMonths(date, number * span.months);
     }
-    return {};
+    return addTicks(date, part == Part::Millisecond
+                              ? floorDivide(number * kTicksOfSecond + 500, 1000) // to the nearest tick
+                              : number * span.seconds * kTicksOfSecond);
 }
 
 /// How many times the part has begun anew up to a date: DATEDIFF is the difference of two such numbers.
 std::int64_t beginningsUpTo(const CalendarDate& date, Part part) {
-    const std::int64_t days = date.days();
-    const std::int64_t seconds = ((days * 24 + date.hour) * 60 + date.minute) * 60 + date.second;
-    switch (part) {
-    case Part::Year:
-        return date.year;
-    case Part::Quarter:
-        return std::int64_t{date.year} * 4 + (date.month - 1) / kMonthsOfQuarter;
-    case Part::Month:
-        return std::int64_t{date.year} * kMonthsOfYear + date.month;
-    case Part::DayOfYear:
-    case Part::Day:
-    case Part::WeekDay:
-        return days;
-    case Part::Week:
-        return floorDivide(days + 1, kDaysOfWeek); // 1900-01-01 was a Monday, and weeks begin on Sundays
-    case Part::Hour:
-        return floorDivide(seconds, 3600);
-    case Part::Minute:
-        return floorDivide(seconds, 60);
-    case Part::Second:
-        return seconds;
-    case Part::Millisecond:
+    const Span span = spanOf(part);
+    if (span.months > 0) {
+        return (std::int64_t{date.year} * kMonthsOfYear + date.month - 1) / span.months;
+    }
+    const std::int64_t seconds = ((date.days() * 24 + date.hour) * 60 + date.minute) * 60 + date.second;
+    if (part == Part::Millisecond) {
         return seconds * 1000 + date.millisecond;
     }
-    return 0;
+    // 1900-01-01 was a Monday, and weeks begin on Sundays.
+    return floorDivide(seconds + (part == Part::Week ? spanOf(Part::Day).seconds : 0), span.seconds);
 }
 
 Scalar dateDiff(FunctionContext& /*context*/, Arguments arguments) {
@@ -204,16 +185,9 @@ Scalar datePart(FunctionContext& context, Arguments arguments) {
     return std::int64_t{date.year};
 }
 
-Scalar year(FunctionContext& /*context*/, Arguments arguments) {
-    return std::int64_t{CalendarDate::stored(textAt(arguments, 0)).year};
-}
-
-Scalar month(FunctionContext& /*context*/, Arguments arguments) {
-    return std::int64_t{CalendarDate::stored(textAt(arguments, 0)).month};
-}
-
-Scalar day(FunctionContext& /*context*/, Arguments arguments) {
-    return std::int64_t{CalendarDate::stored(textAt(arguments, 0)).day};
+template<int CalendarDate::*part>
+Scalar partAlone(FunctionContext& /*context*/, Arguments arguments) {
+    return std::int64_t{CalendarDate::stored(textAt(arguments, 0)).*part};
 }
 
 Scalar getDate(FunctionContext& context, Arguments /*arguments*/) {
@@ -240,11 +214,11 @@ constexpr FunctionRow kFunctions[] = {
     {"DATEADD", {kDatePart, kInt, kDate}, Result::DateTime, dateAdd},
     {"DATEDIFF", {kDatePart, kDate, kDate}, Result::Int, dateDiff},
     {"DATEPART", {kDatePart, kDate}, Result::Int, datePart},
-    {"DAY", {kDate}, Result::Int, day},
+    {"DAY", {kDate}, Result::Int, partAlone<&CalendarDate::day>},
     {"GETDATE", {}, Result::DateTime, getDate},
     {"ISDATE", {kAny}, Result::Int, isDate, kNullsTaken},
-    {"MONTH", {kDate}, Result::Int, month},
-    {"YEAR", {kDate}, Result::Int, year},
+    {"MONTH", {kDate}, Result::Int, partAlone<&CalendarDate::month>},
+    {"YEAR", {kDate}, Result::Int, partAlone<&CalendarDate::year>},
 };
 
 } // namespace

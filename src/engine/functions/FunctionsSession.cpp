@@ -37,7 +37,6 @@ constexpr FunctionRow kVariables[] = {
     {"@@LANGUAGE", {}, Result::SystemName, ask<Fact::Language>},
     {"@@LOCK_TIMEOUT", {}, Result::Int, ask<Fact::LockTimeout>},
     {"@@MAX_PRECISION", {}, Result::Int, ask<Fact::WidestDecimal>},
-    {"@@MICROSOFTVERSION", {}, Result::Int, ask<Fact::VersionNumber>},
     {"@@OPTIONS", {}, Result::Int, ask<Fact::Options>},
     {"@@ROWCOUNT", {}, Result::Int, ask<Fact::RowCount>},
     {"@@SERVERNAME", {}, Result::SystemName, ask<Fact::ServerName>},

@@ -3,10 +3,10 @@
 #include "engine/values/Ascii.h"
 #include "engine/values/Collation.h"
 #include "engine/values/CollationCharacters.h"
+#include "engine/values/Conversions.h"
 
 #include <algorithm>
 #include <cmath>
-#include <cstdio>
 
 namespace engine {
 
@@ -46,12 +46,9 @@ Scalar len(FunctionContext& /*context*/, Arguments arguments) {
     return static_cast<std::int64_t>(characters(withoutTrailingBlanks(textAt(arguments, 0))));
 }
 
-Scalar upperText(FunctionContext& /*context*/, Arguments arguments) {
-    return upper(textAt(arguments, 0));
-}
-
-Scalar lowerText(FunctionContext& /*context*/, Arguments arguments) {
-    return lower(textAt(arguments, 0));
+template<std::string (*map)(std::string_view)>
+Scalar mapped(FunctionContext& /*context*/, Arguments arguments) {
+    return map(textAt(arguments, 0));
 }
 
 Scalar leftTrim(FunctionContext& /*context*/, Arguments arguments) {
@@ -164,10 +161,7 @@ Scalar str(FunctionContext& /*context*/, Arguments arguments) {
     const double number = numberAt(arguments, 0);
     const double scale = std::pow(10.0, shown);
     const double scaled = std::round(number * scale);
-    std::string text(512, '\0');
-    const int size =
-        std::snprintf(text.data(), text.size(), "%.*f", shown, std::isfinite(scaled) ? scaled / scale : number);
-    text.resize(static_cast<std::size_t>(std::max(size, 0)));
+    std::string text = printed(std::isfinite(scaled) ? scaled / scale : number, std::chars_format::fixed, shown);
     const std::size_t whole = std::min(text.find('.'), text.size());
     const auto wide = static_cast<std::size_t>(width);
     if (whole > wide) {
@@ -182,42 +176,34 @@ Scalar dataLength(FunctionContext& /*context*/, Arguments arguments) {
     if (const auto* text = std::get_if<std::string>(&arguments[0]); text != nullptr && type.isText()) {
         return static_cast<std::int64_t>(characters(*text) * (type.isNational() ? 2 : 1));
     }
-    switch (type.kind) {
-    case DataType::Kind::Bit:
-    case DataType::Kind::TinyInt:
-        return std::int64_t{1};
-    case DataType::Kind::SmallInt:
-        return std::int64_t{2};
-    case DataType::Kind::Int:
-    case DataType::Kind::Real:
-        return std::int64_t{4};
-    case DataType::Kind::Decimal:
-        return std::int64_t{type.isMoney()         ? kMoneyLength
-                            : type.precision <= 9  ? 5
-                            : type.precision <= 19 ? 9
-                            : type.precision <= 28 ? 13
-                                                   : 17};
-    default:
-        return std::int64_t{8};
+    constexpr std::array kBytes{8, 1, 1, 2, 4, 8, 0, 4}; // in the order of DataType::Kind
+    if (type.kind != DataType::Kind::Decimal) {
+        const auto place = static_cast<std::size_t>(type.kind);
+        return std::int64_t{place < kBytes.size() ? kBytes[place] : kBytes[0]};
     }
+    return std::int64_t{type.isMoney()         ? kMoneyLength
+                        : type.precision <= 9  ? 5
+                        : type.precision <= 19 ? 9
+                        : type.precision <= 28 ? 13
+                                               : 17};
 }
 
 constexpr FunctionRow kFunctions[] = {
     {"CHARINDEX", {kText, kText, optional(kInt)}, Result::Int, charIndex},
     {"DATALENGTH", {kTyped}, Result::Int, dataLength},
-    {"LEFT", {kText, kInt}, Result::AsFirst, leftPart},
+    {"LEFT", {kText, kInt}, Result::TextAsFirst, leftPart},
     {"LEN", {kText}, Result::Int, len},
-    {"LOWER", {kText}, Result::AsFirst, lowerText},
-    {"LTRIM", {kText}, Result::AsFirst, leftTrim},
+    {"LOWER", {kText}, Result::TextAsFirst, mapped<lower>},
+    {"LTRIM", {kText}, Result::TextAsFirst, leftTrim},
     {"REPLACE", {kText, kText, kText}, Result::LongText, replace},
     {"REPLICATE", {kText, kInt}, Result::LongText, replicate},
-    {"REVERSE", {kText}, Result::AsFirst, reverse},
-    {"RIGHT", {kText, kInt}, Result::AsFirst, rightPart},
-    {"RTRIM", {kText}, Result::AsFirst, rightTrim},
+    {"REVERSE", {kText}, Result::TextAsFirst, reverse},
+    {"RIGHT", {kText, kInt}, Result::TextAsFirst, rightPart},
+    {"RTRIM", {kText}, Result::TextAsFirst, rightTrim},
     {"SPACE", {kInt}, Result::LongText, space},
     {"STR", {kFloat, optional(kInt), optional(kInt)}, Result::LongText, str},
-    {"SUBSTRING", {kText, kInt, kInt}, Result::AsFirst, substring},
-    {"UPPER", {kText}, Result::AsFirst, upperText},
+    {"SUBSTRING", {kWritten, kInt, kInt}, Result::TextAsFirst, substring},
+    {"UPPER", {kText}, Result::TextAsFirst, mapped<upper>},
 };
 
 } // namespace

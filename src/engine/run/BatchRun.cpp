@@ -37,30 +37,9 @@ Verb verbOf(const Statement& statement) {
                        : node.kind == Transaction::Kind::Commit ? Verb::Commit
                                                                 : Verb::Rollback;
             }
-            return std::is_same_v<Node, Select>        ? Verb::Select
-                   : std::is_same_v<Node, Insert>      ? Verb::Insert
-                   : std::is_same_v<Node, Update>      ? Verb::Update
-                   : std::is_same_v<Node, Delete>      ? Verb::Delete
-                   : std::is_same_v<Node, CreateTable> ? Verb::CreateTable
-                   : std::is_same_v<Node, SetOption>   ? Verb::SetOption
-                   : std::is_same_v<Node, Execute>     ? Verb::Execute
-                                                       : Verb::Other;
+            return kKindOf<Node>.verb;
         },
         statement.node);
-}
-
-Verb verbOf(Plan::Kind kind) {
-    switch (kind) {
-    case Plan::Kind::Insert:
-        return Verb::Insert;
-    case Plan::Kind::Update:
-        return Verb::Update;
-    case Plan::Kind::Delete:
-        return Verb::Delete;
-    case Plan::Kind::Select:
-        break;
-    }
-    return Verb::Select;
 }
 
 /// Names are looked up before the first statement runs, as far as they can be. False where what the batch makes itself,
@@ -137,7 +116,7 @@ bool BatchRun::runNext() {
         checkAll(*session_, tree_.statements);
     }
     if (const PlanPtr plan = std::exchange(ready_, nullptr)) {
-        verb_ = verbOf(plan->kind);
+        verb_ = plan->verb;
         session_->prepareFor(session_->current(), plan->writes());
         try {
             show(runPlan(*session_, plan, {&shape_->literals, session_->settings.dateOrder}));

@@ -45,7 +45,7 @@ void dropDatabase(ServerSession& session, const Name& name, bool ifExists) {
 }
 
 void dropIndex(ServerSession& session, const Name& name, bool ifExists) {
-    const std::string table = name.pieces.size() > 1 ? name.pieces[name.pieces.size() - 2] : std::string();
+    const std::string table = name.piece(1);
     const TableInfo* info = session.current().catalog().table(table);
     const std::string index = info == nullptr ? std::string() : storedIndex(session.current(), *info, name.last());
     if (info == nullptr || index.empty()) {

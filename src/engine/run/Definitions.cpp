@@ -6,12 +6,10 @@
 namespace engine {
 
 bool isElsewhere(const ServerSession& session, const Name& name) {
-    const std::size_t pieces = name.pieces.size();
-    const bool elsewhere =
-        pieces > 2 && !name.pieces[pieces - 3].empty() && !sameText(name.pieces[pieces - 3], session.database());
-    const bool otherSchema =
-        pieces > 1 && !name.pieces[pieces - 2].empty() && !sameText(name.pieces[pieces - 2], "dbo");
-    return elsewhere || otherSchema;
+    const std::string schema = name.piece(1);
+    const std::string database = name.piece(2);
+    return (!database.empty() && !sameText(database, session.database())) ||
+           (!schema.empty() && !sameText(schema, "dbo"));
 }
 
 const TableInfo* definedTable(ServerSession& session, const Name& name) {

@@ -5,14 +5,6 @@
 
 namespace engine {
 
-namespace {
-
-bool isSame(const DatabaseEntry& one, const DatabaseEntry& other) {
-    return one.id == other.id && one.name == other.name && one.file == other.file && one.created == other.created;
-}
-
-} // namespace
-
 void KeptDatabases::start() {
     const std::scoped_lock guard(mutex_);
     started_ = true;
@@ -27,8 +19,8 @@ void KeptDatabases::stop() {
 
 std::shared_ptr<Database> KeptDatabases::take(const DatabaseEntry& entry) {
     const std::scoped_lock guard(mutex_);
-    const auto found = std::find_if(databases_.begin(), databases_.end(),
-                                    [&](const auto& one) { return isSame(one->entry(), entry); });
+    const auto found =
+        std::find_if(databases_.begin(), databases_.end(), [&](const auto& one) { return one->entry() == entry; });
     if (found == databases_.end()) {
         return nullptr;
     }

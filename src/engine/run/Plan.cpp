@@ -6,18 +6,16 @@ namespace {
 
 using Source = bound::Parameter::Source;
 
-Literal writtenLiteral(const bound::Parameter& parameter, const Bindings& bindings) {
-    if (parameter.source == Source::Constant || bindings.literals == nullptr) {
-        return parameter.constant;
-    }
-    const LiteralToken& token = bindings.literals->at(static_cast<std::size_t>(parameter.ordinal));
-    return {token.kind, token.text, parameter.ordinal};
+const Literal& writtenLiteral(const bound::Parameter& parameter, const Bindings& bindings) {
+    return parameter.source == Source::Constant || bindings.literals == nullptr
+               ? parameter.constant
+               : bindings.literals->at(static_cast<std::size_t>(parameter.ordinal));
 }
 
 } // namespace
 
 Scalar valueOf(const bound::Parameter& parameter, const Bindings& bindings) {
-    const Literal literal = writtenLiteral(parameter, bindings);
+    const Literal& literal = writtenLiteral(parameter, bindings);
     Scalar value = scalarOf(literal, parameter.negated);
     if (parameter.conversion.to.kind == DataType::Kind::Unknown) {
         return literal.kind == Literal::Kind::Decimal ? kept(std::move(value)) : value;

@@ -3,6 +3,7 @@
 // A statement ready to run: the storage's prepared text, what is bound to it, and what its result looks like.
 
 #include "engine/bind/BoundTree.h"
+#include "engine/run/Session.h"
 #include "engine/store/Sqlite.h"
 #include "engine/text/Shape.h"
 
@@ -15,8 +16,7 @@
 namespace engine {
 
 struct Plan {
-    enum class Kind { Select, Insert, Update, Delete };
-    Kind kind = Kind::Select;
+    Verb verb;
     sqlite::Statement statement;
     std::vector<bound::Parameter> parameters; ///< of `statement`, in the order of its text
     std::vector<ResultColumn> columns;
@@ -41,16 +41,16 @@ struct Plan {
     /// Numbers whose digits give an expression its type: another run must have as many.
     std::vector<std::pair<int, DataType>> fixedDigits;
 
-    bool writes() const { return kind != Kind::Select; }
+    bool writes() const { return verb != Verb::Select; }
 
-    explicit Plan(sqlite::Statement prepared) : statement(std::move(prepared)) {}
+    Plan(Verb verbOfText, sqlite::Statement prepared) : verb(verbOfText), statement(std::move(prepared)) {}
 };
 
 using PlanPtr = std::shared_ptr<Plan>;
 
 struct Bindings {
     /// Of this run; nullptr where the statement runs with the literals it was bound with.
-    const std::vector<LiteralToken>* literals = nullptr;
+    const std::vector<Literal>* literals = nullptr;
     DateOrder dateOrder = DateOrder::MonthDayYear;
 };
 

@@ -31,7 +31,7 @@ public:
         translate::Text text(condition ? "SELECT CASE WHEN " : "SELECT ");
         translate::write(text, *bound);
         text += condition ? " THEN 1 ELSE 0 END" : "";
-        PlanPtr plan = made(text, Plan::Kind::Select);
+        PlanPtr plan = made(text, Verb::Select);
         ResultColumn column;
         column.type = condition ? DataType{DataType::Kind::Int, 0, 0, 0} : bound->type;
         plan->columns.push_back(std::move(column));
@@ -53,10 +53,9 @@ private:
         }
     }
 
-    PlanPtr made(const translate::Text& text, Plan::Kind kind) {
-        auto plan = std::make_shared<Plan>(prepared(text));
+    PlanPtr made(const translate::Text& text, Verb verb) {
+        auto plan = std::make_shared<Plan>(verb, prepared(text));
         plan->parameters = text.parameters(binder_.parameters());
-        plan->kind = kind;
         return plan;
     }
 
@@ -66,7 +65,7 @@ private:
     }
 
     PlanPtr prepare(const bound::Select& select) {
-        PlanPtr plan = made(translate::select(select), Plan::Kind::Select);
+        PlanPtr plan = made(translate::select(select), Verb::Select);
         plan->columns = select.columns;
         return plan;
     }
@@ -77,7 +76,7 @@ private:
         if (most() != 0 && !insert.select && insert.rows.size() > static_cast<std::size_t>(most())) {
             throw errors::notSupported("INSERT … VALUES of more rows than SET ROWCOUNT");
         }
-        PlanPtr plan = made(translate::insert(insert), Plan::Kind::Insert);
+        PlanPtr plan = made(translate::insert(insert), Verb::Insert);
         plan->table = insert.table.info;
         plan->identity = insert.identity;
         plan->givesIdentity = insert.identityPlace >= 0;
@@ -94,14 +93,14 @@ private:
     }
 
     PlanPtr prepare(const bound::Update& update) {
-        PlanPtr plan = made(translate::update(update, most()), Plan::Kind::Update);
+        PlanPtr plan = made(translate::update(update, most()), Verb::Update);
         plan->table = update.table.info;
         addRows(*plan, translate::rowsOf(update, most()));
         return plan;
     }
 
     PlanPtr prepare(const bound::Delete& remove) {
-        PlanPtr plan = made(translate::remove(remove, most()), Plan::Kind::Delete);
+        PlanPtr plan = made(translate::remove(remove, most()), Verb::Delete);
         plan->table = remove.table.info;
         addRows(*plan, translate::rowsOf(remove, most()));
         return plan;

@@ -18,7 +18,6 @@ using Messages = std::vector<Message>;
 
 const DataType kName{Kind::NVarChar, 128, 0, 0};
 const DataType kInt{Kind::Int, 0, 0, 0};
-const DataType kRemarks{Kind::VarChar, 254, 0, 0};
 
 /// The arguments of a call by their places, as constants.
 class Values {
@@ -42,51 +41,41 @@ public:
         }
     }
 
-    bool given(std::size_t place) const { return !isNull(values_[place]); }
+    bool given(std::size_t place) const { return values_[place].first.kind != Literal::Kind::Null; }
 
     /// Nothing where the argument was left out or is NULL.
     std::string text(std::size_t place) const {
-        const Scalar value = convert(values_[place], {typeOf(place), DataType{Kind::NVarChar, -1, 0, 0}, {}});
+        const Scalar value = converted(place, DataType{Kind::NVarChar, -1, 0, 0});
         return isNull(value) ? std::string() : std::get<std::string>(value);
     }
 
     long long integer(std::size_t place) const {
         try {
-            return std::get<std::int64_t>(convert(values_[place], {typeOf(place), kInt, {}}));
+            return std::get<std::int64_t>(converted(place, kInt));
         } catch (const Error&) {
             throw errors::parameterConversion("nvarchar", "int");
         }
     }
 
 private:
-    static Scalar constant(const Literal& literal, bool negated) {
-        Scalar value = scalarOf(literal, negated);
-        return literal.kind == Literal::Kind::Decimal ? kept(std::move(value)) : value;
-    }
+    using Constant = std::pair<Literal, bool>; ///< whether a minus stands before it
 
-    static Scalar constant(const Expression& expression) {
-        if (const auto* literal = std::get_if<Literal>(&expression.node)) {
-            return constant(*literal, false);
-        }
-        if (const auto* unary = std::get_if<Unary>(&expression.node)) {
-            if (const auto* literal = std::get_if<Literal>(&unary->operand->node)) {
-                return constant(*literal, unary->op == Unary::Operator::Minus);
-            }
+    static Constant constant(const Expression& expression) {
+        const auto* unary = std::get_if<Unary>(&expression.node);
+        const Expression& operand = unary == nullptr ? expression : *unary->operand;
+        if (const auto* literal = std::get_if<Literal>(&operand.node)) {
+            return {*literal, unary != nullptr && unary->op == Unary::Operator::Minus};
         }
         throw errors::syntaxNear("(", expression.position);
     }
 
-    DataType typeOf(std::size_t place) const {
-        const Scalar& value = values_[place];
-        if (std::holds_alternative<std::int64_t>(value)) {
-            return {Kind::BigInt, 0, 0, 0};
-        }
-        return std::holds_alternative<double>(value) ? DataType{Kind::Float, 0, 0, 0}
-                                                     : DataType{Kind::NVarChar, -1, 0, 0};
+    Scalar converted(std::size_t place, const DataType& type) const {
+        const auto& [literal, negated] = values_[place];
+        return convert(scalarOf(literal, negated), {typeOf(literal), type, {}});
     }
 
     std::string procedure_;
-    std::vector<Scalar> values_;
+    std::vector<Constant> values_;
 };
 
 ResultColumn column(const char* name, const DataType& type) {
@@ -96,13 +85,6 @@ ResultColumn column(const char* name, const DataType& type) {
     return made;
 }
 
-Listing optionRows() {
-    Listing rows;
-    rows.columns = {column("name", {Kind::NVarChar, 35, 0, 0}), column("minimum", kInt), column("maximum", kInt),
-                    column("config_value", kInt), column("run_value", kInt)};
-    return rows;
-}
-
 std::optional<Listing> configure(ServerSession& session, const Execute& call, Messages& messages) {
     const Values values(call, {"@configname", "@configvalue"});
     const std::vector<Instance::Option> options = session.instance().options();
@@ -110,7 +92,9 @@ std::optional<Listing> configure(ServerSession& session, const Execute& call, Me
         return option.name == kShowAdvancedOptions && option.running != 0;
     });
     const std::string wanted = values.given(0) ? serverOption(values.text(0), advanced).name : std::string();
-    Listing rows = optionRows();
+    Listing rows;
+    rows.columns = {column("name", {Kind::NVarChar, 35, 0, 0}), column("minimum", kInt), column("maximum", kInt),
+                    column("config_value", kInt), column("run_value", kInt)};
     for (const Instance::Option& option : options) {
         const bool asked = wanted.empty() ? advanced || !option.advanced : option.name == wanted;
         if (!asked) {
@@ -130,14 +114,6 @@ std::optional<Listing> configure(ServerSession& session, const Execute& call, Me
     return rows;
 }
 
-std::string joined(const Name& name) {
-    std::string result;
-    for (std::size_t i = 0; i < name.pieces.size(); ++i) {
-        result += (i == 0 ? "" : ".") + name.pieces[i];
-    }
-    return result;
-}
-
 bool isOn(const std::string& value) {
     for (const char* word : {"true", "on"}) {
         if (sameText(value, word)) {
@@ -154,7 +130,7 @@ bool isOn(const std::string& value) {
 
 std::optional<Listing> databaseOption(ServerSession& session, const Execute& call, Messages& /*messages*/) {
     if (session.instance().version() >= Instance::kFirstVersionWithoutDatabaseOptions) {
-        throw errors::procedureMissing(joined(call.procedure));
+        throw errors::procedureMissing(call.procedure.text());
     }
     const Values values(call, {"@dbname", "@optname", "@optvalue"});
     Listing rows;
@@ -190,56 +166,6 @@ std::optional<Listing> databaseOption(ServerSession& session, const Execute& cal
     return rows;
 }
 
-std::optional<Listing> databases(ServerSession& session, const Execute& /*call*/, Messages& /*messages*/) {
-    Listing rows;
-    rows.columns = {column("DATABASE_NAME", kName), column("DATABASE_SIZE", kInt), column("REMARKS", kRemarks)};
-    for (const DatabaseEntry& entry : session.instance().databases()) {
-        std::error_code problem;
-        const auto size = std::filesystem::file_size(entry.file, problem);
-        constexpr std::int64_t kKilobyte = 1024;
-        rows.rows.push_back(
-            {entry.name, problem ? Scalar() : Scalar(static_cast<std::int64_t>(size) / kKilobyte), Scalar()});
-    }
-    return rows;
-}
-
-std::optional<Listing> tables(ServerSession& session, const Execute& call, Messages& /*messages*/) {
-    const Values values(call, {"@table_name", "@table_owner", "@table_qualifier", "@table_type"});
-    Listing rows;
-    rows.columns = {column("TABLE_QUALIFIER", kName), column("TABLE_OWNER", kName), column("TABLE_NAME", kName),
-                    column("TABLE_TYPE", {Kind::VarChar, 32, 0, 0}), column("REMARKS", kRemarks)};
-    for (const std::string& name : session.current().catalog().tableNames()) {
-        if (!values.given(0) || like(name, values.text(0))) {
-            rows.rows.push_back({session.database(), std::string("dbo"), name, std::string("TABLE"), Scalar()});
-        }
-    }
-    return rows;
-}
-
-std::optional<Listing> columns(ServerSession& session, const Execute& call, Messages& /*messages*/) {
-    const Values values(call, {"@table_name", "@table_owner", "@table_qualifier", "@column_name"});
-    if (!values.given(0)) {
-        throw errors::parameterMissing("sp_columns", "@table_name");
-    }
-    Listing rows;
-    rows.columns = {column("TABLE_QUALIFIER", kName), column("TABLE_OWNER", kName), column("TABLE_NAME", kName),
-                    column("COLUMN_NAME", kName),     column("TYPE_NAME", kName),   column("LENGTH", kInt),
-                    column("NULLABLE", kInt),         column("COLUMN_DEF", kName),  column("ORDINAL_POSITION", kInt)};
-    const TableInfo* table = session.current().catalog().table(values.text(0));
-    if (table == nullptr) {
-        return rows;
-    }
-    std::int64_t place = 0;
-    for (const ColumnInfo& one : table->columns) {
-        rows.rows.push_back({session.database(), std::string("dbo"), table->name, one.name,
-                             typeName(one.type) + (one.identity ? " identity" : ""),
-                             one.type.isText() ? Scalar(std::int64_t{one.type.length}) : Scalar(),
-                             std::int64_t{one.nullable},
-                             one.defaultText ? Scalar("(" + *one.defaultText + ")") : Scalar(), ++place});
-    }
-    return rows;
-}
-
 struct Procedure {
     const char* name;
     std::optional<Listing> (*call)(ServerSession& session, const Execute& call, Messages& messages);
@@ -248,23 +174,19 @@ struct Procedure {
 constexpr std::array kProcedures = std::to_array<Procedure>({
     {"sp_configure", configure},
     {"sp_dboption", databaseOption},
-    {"sp_databases", databases},
-    {"sp_tables", tables},
-    {"sp_columns", columns},
 });
 
 } // namespace
 
 std::optional<Listing> callProcedure(ServerSession& session, const Execute& call, std::vector<Message>& messages) {
-    const auto& pieces = call.procedure.pieces;
-    const std::string schema = pieces.size() > 1 ? pieces[pieces.size() - 2] : std::string();
+    const std::string schema = call.procedure.piece(1);
     const bool known = schema.empty() || sameText(schema, "sys") || sameText(schema, "dbo");
     for (const Procedure& procedure : kProcedures) {
         if (known && sameText(procedure.name, call.procedure.last())) {
             return procedure.call(session, call, messages);
         }
     }
-    throw errors::procedureMissing(joined(call.procedure));
+    throw errors::procedureMissing(call.procedure.text());
 }
 
 } // namespace engine

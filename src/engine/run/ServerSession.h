@@ -92,7 +92,6 @@ private:
     std::shared_ptr<Database> current_;
     BatchRun* running_ = nullptr;
     std::int64_t lastIdentity_ = 0;
-    bool anyIdentity_ = false;
     std::int64_t rowCount_ = 0;
     int lastError_ = 0;
     int transactions_ = 0;

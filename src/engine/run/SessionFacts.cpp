@@ -13,17 +13,13 @@ namespace engine {
 
 namespace {
 
-constexpr int kBitsBehindVersion = 24;
-
 std::string versionText(const Instance& instance) {
     return std::to_string(instance.version()) + ".00";
 }
 
 std::string serverName(const Instance& instance) {
     std::string name = os::utf8Of(instance.folder().filename());
-    for (char& c : name) {
-        c = c == '$' ? '\\' : c;
-    }
+    std::replace(name.begin(), name.end(), '$', '\\');
     return name;
 }
 
@@ -139,8 +135,6 @@ Scalar ServerSession::fact(Fact fact, const Scalar& argument) {
         return std::string("dbo");
     case Fact::Version:
         return "Embedded server " + versionText(*instance_);
-    case Fact::VersionNumber:
-        return std::int64_t{instance_->version()} << kBitsBehindVersion;
     case Fact::WidestDecimal:
         return std::int64_t{kWidestDecimal};
     }

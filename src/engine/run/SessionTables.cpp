@@ -12,19 +12,6 @@ namespace engine {
 
 namespace {
 
-std::string joined(const Name& name) {
-    std::string result;
-    for (std::size_t i = 0; i < name.pieces.size(); ++i) {
-        result += (i == 0 ? "" : ".") + name.pieces[i];
-    }
-    return result;
-}
-
-/// A piece of the name counted from the right, the last one being 0; empty where the name has fewer.
-std::string piece(const Name& name, std::size_t fromRight) {
-    return fromRight < name.pieces.size() ? name.pieces[name.pieces.size() - 1 - fromRight] : std::string();
-}
-
 void attach(Database& database, const DatabaseEntry& other, const std::string& schema) {
     sqlite::Statement attached(database.connection(), "SELECT 1 FROM pragma_database_list WHERE name = ?1");
     attached.bind(1, std::string_view(schema));
@@ -40,10 +27,10 @@ void attach(Database& database, const DatabaseEntry& other, const std::string& s
 } // namespace
 
 TableFinder::Found SessionTables::find(const Name& name) {
-    const std::string schema = piece(name, 1);
-    const std::string database = piece(name, 2);
+    const std::string schema = name.piece(1);
+    const std::string database = name.piece(2);
     if (name.pieces.size() > 3) {
-        throw errors::invalidObject(joined(name));
+        throw errors::invalidObject(name.text());
     }
     const bool elsewhere = !database.empty() && !sameText(database, session_.database());
     const bool ofMaster = sameText(database.empty() ? session_.database() : database, "master");
@@ -56,27 +43,27 @@ TableFinder::Found SessionTables::find(const Name& name) {
         return {"temp", own, true};
     }
     if (!schema.empty() && !sameText(schema, "dbo")) {
-        throw errors::invalidObject(joined(name));
+        throw errors::invalidObject(name.text());
     }
     if (elsewhere) {
         return inOtherDatabase(name);
     }
     const TableInfo* table = session_.current().catalog().table(name.last());
     if (table == nullptr) {
-        throw errors::invalidObject(joined(name));
+        throw errors::invalidObject(name.text());
     }
     return {"main", table, false};
 }
 
 TableFinder::Found SessionTables::inOtherDatabase(const Name& name) {
-    const std::shared_ptr<Database> other = session_.open(piece(name, 2));
+    const std::shared_ptr<Database> other = session_.open(name.piece(2));
     if (other == nullptr) {
-        throw errors::invalidObject(joined(name));
+        throw errors::invalidObject(name.text());
     }
     other->refresh();
     const TableInfo* table = other->catalog().table(name.last());
     if (table == nullptr) {
-        throw errors::invalidObject(joined(name));
+        throw errors::invalidObject(name.text());
     }
     foreign_ = true;
     const std::string schema = "db" + std::to_string(other->entry().id);

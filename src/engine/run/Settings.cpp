@@ -33,14 +33,16 @@ struct Wish {
         }
         return sameText(value(), "ON");
     }
-    std::int64_t number(std::int64_t least, std::int64_t most) const {
+    std::optional<std::int64_t> number(std::int64_t least, std::int64_t most) const {
         std::int64_t number = 0;
         const char* end = value().data() + value().size();
         const auto read = std::from_chars(value().data(), end, number);
-        if (read.ec != std::errc() || read.ptr != end || number < least || number > most) {
-            refuse();
-        }
-        return number;
+        const bool taken = read.ec == std::errc() && read.ptr == end && number >= least && number <= most;
+        return taken ? std::optional(number) : std::nullopt;
+    }
+    std::int64_t neededNumber(std::int64_t least) const {
+        const auto wanted = number(least, std::numeric_limits<std::int32_t>::max());
+        return wanted ? *wanted : (refuse(), 0);
     }
 };
 
@@ -50,12 +52,11 @@ void turn(ServerSession& session, const Wish& wish) {
 }
 
 void setDateFirst(ServerSession& session, const Wish& wish) {
-    std::int64_t day = 0;
-    const char* end = wish.value().data() + wish.value().size();
-    if (std::from_chars(wish.value().data(), end, day).ptr != end || day < 1 || day > 7) {
+    const auto day = wish.number(1, 7);
+    if (!day) {
         throw errors::dateFirstOutOfRange(wish.value());
     }
-    session.settings.firstDayOfWeek = static_cast<int>(day);
+    session.settings.firstDayOfWeek = static_cast<int>(*day);
 }
 
 void setDateFormat(ServerSession& session, const Wish& wish) {
@@ -105,11 +106,11 @@ void setLanguage(ServerSession& session, const Wish& wish) {
 }
 
 void setLockTimeout(ServerSession& session, const Wish& wish) {
-    session.settings.lockTimeout = wish.number(-1, std::numeric_limits<std::int32_t>::max());
+    session.settings.lockTimeout = wish.neededNumber(-1);
 }
 
 void setRowCount(ServerSession& session, const Wish& wish) {
-    session.settings.rowCount = wish.number(0, std::numeric_limits<std::int32_t>::max());
+    session.settings.rowCount = wish.neededNumber(0);
 }
 
 /// Nothing uncommitted is ever read, so the weakest level is as good as the usual one.

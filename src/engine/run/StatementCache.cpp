@@ -7,14 +7,11 @@ namespace engine {
 namespace {
 
 bool fits(const Plan& plan, const Shape& shape) {
-    const auto literal = [&](int ordinal) -> const LiteralToken& {
+    const auto literal = [&](int ordinal) -> const Literal& {
         return shape.literals[static_cast<std::size_t>(ordinal)];
     };
     const auto sameValue = [&](const auto& fixed) { return literal(fixed.first).text == fixed.second; };
-    const auto sameDigits = [&](const auto& fixed) {
-        const LiteralToken& token = literal(fixed.first);
-        return decimalOf({token.kind, token.text}) == fixed.second;
-    };
+    const auto sameDigits = [&](const auto& fixed) { return decimalOf(literal(fixed.first)) == fixed.second; };
     return std::all_of(plan.fixed.begin(), plan.fixed.end(), sameValue) &&
            std::all_of(plan.fixedDigits.begin(), plan.fixedDigits.end(), sameDigits);
 }

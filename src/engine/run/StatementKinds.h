@@ -2,6 +2,7 @@
 
 // What a session knows of each kind of statement before one of that kind runs.
 
+#include "engine/run/Session.h"
 #include "engine/text/Tree.h"
 
 #include <tuple>
@@ -31,6 +32,8 @@ struct StatementKind {
         Message,    ///< its text goes to the client
         Batch       ///< decides which statements come next: `enter` of BatchRun
     } runBy;
+
+    Verb verb = Verb::Other; ///< what its end is told as
 };
 
 template<class Node>
@@ -48,11 +51,11 @@ constexpr bool kWrites = true;
 
 /// In the order of Statement::node.
 inline constexpr std::tuple kAll{
-    KindOf<Select>{{kReads, Checked, Plan}},
-    KindOf<Insert>{{kWrites, Checked, Plan}},
-    KindOf<Update>{{kWrites, Checked, Plan}},
-    KindOf<Delete>{{kWrites, Checked, Plan}},
-    KindOf<CreateTable>{{kWrites, EndCheck, Definition}},
+    KindOf<Select>{{kReads, Checked, Plan, Verb::Select}},
+    KindOf<Insert>{{kWrites, Checked, Plan, Verb::Insert}},
+    KindOf<Update>{{kWrites, Checked, Plan, Verb::Update}},
+    KindOf<Delete>{{kWrites, Checked, Plan, Verb::Delete}},
+    KindOf<CreateTable>{{kWrites, EndCheck, Definition, Verb::CreateTable}},
     KindOf<AlterTable>{{kWrites, Unchecked, Definition}},
     KindOf<CreateIndex>{{kWrites, Unchecked, Definition}},
     KindOf<Drop>{{kWrites, EndCheck, Definition}},
@@ -60,8 +63,8 @@ inline constexpr std::tuple kAll{
     KindOf<CreateDatabase>{{kReads, Unchecked, Definition}},
     KindOf<AlterDatabase>{{kReads, Unchecked, Definition}},
     KindOf<Use>{{kReads, EndCheck, Definition}},
-    KindOf<SetOption>{{kReads, EndCheck, Definition}},
-    KindOf<Execute>{{kReads, EndCheck, Procedure}},
+    KindOf<SetOption>{{kReads, EndCheck, Definition, Verb::SetOption}},
+    KindOf<Execute>{{kReads, EndCheck, Procedure, Verb::Execute}},
     KindOf<Reconfigure>{{kReads, Unchecked, Definition}},
     KindOf<Transaction>{{kReads, Unchecked, Definition}},
     KindOf<If>{{kReads, Unchecked, Batch}},

@@ -1,5 +1,6 @@
 #include "engine/run/SystemTables.h"
 
+#include "engine/bind/BoundMakers.h"
 #include "engine/errors/Error.h"
 #include "engine/store/StoredNames.h"
 #include "engine/translate/SqlText.h"
@@ -80,24 +81,10 @@ Rows tables(Database& database, const Instance& /*instance*/) {
 }
 
 Scalar precisionOf(const DataType& type) {
-    switch (type.kind) {
-    case Kind::TinyInt:
-        return std::int64_t{3};
-    case Kind::SmallInt:
-        return std::int64_t{5};
-    case Kind::Int:
-        return std::int64_t{10};
-    case Kind::BigInt:
-        return std::int64_t{19};
-    case Kind::Real:
-        return std::int64_t{24};
-    case Kind::Float:
-        return std::int64_t{53};
-    case Kind::Decimal:
-        return std::int64_t{type.precision};
-    default:
-        return {};
+    if (type.kind == Kind::Real || type.kind == Kind::Float) {
+        return std::int64_t{type.kind == Kind::Real ? 24 : 53};
     }
+    return type.isNumber() && type.kind != Kind::Bit ? Scalar(std::int64_t{asDecimal(type).precision}) : Scalar();
 }
 
 Row describe(Database& database, const TableInfo& table, const ColumnInfo& column, std::int64_t place) {

@@ -36,7 +36,7 @@ public:
             return inTransaction();
         } catch (const sqlite::Failure& failure) {
             settle();
-            database_.raise(failure, plan_.table, plan_.kind == Plan::Kind::Insert ? "INSERT" : "UPDATE");
+            database_.raise(failure, plan_.table, plan_.verb == Verb::Insert ? "INSERT" : "UPDATE");
         } catch (const Error&) {
             settle();
             throw;
@@ -53,8 +53,8 @@ private:
                 throw StalePlan();
             }
         }
-        const std::int64_t rows = plan_.kind == Plan::Kind::Insert ? insert() : change();
-        if (plan_.kind == Plan::Kind::Insert && plan_.table->identity() == nullptr) {
+        const std::int64_t rows = plan_.verb == Verb::Insert ? insert() : change();
+        if (plan_.verb == Verb::Insert && plan_.table->identity() == nullptr) {
             session_.gaveIdentity(0); // only now: the statement itself may ask for the one before
         }
         if (transaction) {

@@ -1,6 +1,7 @@
 #include "engine/errors/Error.h"
 #include "engine/errors/ValueErrors.h"
 #include "engine/store/CatalogState.h"
+#include "engine/values/Conversions.h"
 
 #include <algorithm>
 #include <cstdint>
@@ -9,28 +10,14 @@
 namespace engine {
 namespace {
 
-struct Range {
-    std::int64_t first, last;
-};
-
-template<typename Integer>
-constexpr Range rangeOf() {
-    return {std::numeric_limits<Integer>::min(), std::numeric_limits<Integer>::max()};
-}
-
-/// The values that an identity of the type may give; a bigint keeps kRoom for the step behind its last one.
-Range rangeOf(const DataType& type) {
+/// The values that an identity of the type may give; a bigint and a decimal keep kRoom for the step behind their last.
+IntegerRange valuesOf(const DataType& type) {
     constexpr std::int64_t kRoom = std::numeric_limits<std::int32_t>::max();
-    switch (type.kind) {
-    case DataType::Kind::TinyInt:
-        return rangeOf<std::uint8_t>();
-    case DataType::Kind::SmallInt:
-        return rangeOf<std::int16_t>();
-    case DataType::Kind::Int:
-        return rangeOf<std::int32_t>();
-    default:
-        return {rangeOf<std::int64_t>().first + kRoom, rangeOf<std::int64_t>().last - kRoom};
+    if (type.isInteger() && type.kind != DataType::Kind::BigInt) {
+        return rangeOf(type);
     }
+    const IntegerRange range = rangeOf({DataType::Kind::BigInt});
+    return {range.first + kRoom, range.last - kRoom};
 }
 
 /// The later one of two values in the direction that the identity counts.
@@ -56,7 +43,7 @@ std::int64_t Catalog::nextIdentity(const TableInfo& table) {
     if (known != state_->given.end()) {
         value = further(identity, value, known->second);
     }
-    const Range range = rangeOf(identity.type);
+    const IntegerRange range = valuesOf(identity.type);
     if (value < range.first || value > range.last) {
         throw errors::overflow("IDENTITY", toText(identity.type));
     }

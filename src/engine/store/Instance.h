@@ -1,8 +1,11 @@
 #pragma once
 
+#include "engine/store/Sqlite.h"
+
 #include <filesystem>
 #include <functional>
 #include <memory>
+#include <mutex>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -21,6 +24,8 @@ struct DatabaseEntry {
     std::filesystem::path file;
     std::string serverPath; ///< as CREATE DATABASE named it, or else the file's own
     std::string created;    ///< YYYY-MM-DD hh:mm:ss.mmm
+
+    bool operator==(const DatabaseEntry&) const = default;
 };
 
 /// A folder with databases in it, each one file. Several processes may use one instance.
@@ -30,21 +35,20 @@ public:
     static std::shared_ptr<Instance> open(const std::filesystem::path& folder, const InstanceOptions& options);
     /// Makes the folder (owner only) and an empty instance in it; opens what is there already.
     static std::shared_ptr<Instance> create(const std::filesystem::path& folder, const InstanceOptions& options);
-    virtual ~Instance() = default;
+    Instance(std::filesystem::path folder, InstanceOptions options, bool create);
 
-    virtual const std::filesystem::path& folder() const = 0;
+    const std::filesystem::path& folder() const { return folder_; }
     /// False where the folder has gone, or another instance lies in it by now.
-    virtual bool isThere() const = 0;
-    virtual std::filesystem::path mapPath(std::string_view serverPath) const = 0;
+    bool isThere() const { return !registry_.isMoved(); }
+    std::filesystem::path mapPath(std::string_view serverPath) const;
 
-    virtual std::vector<DatabaseEntry> databases() const = 0;
+    std::vector<DatabaseEntry> databases() const;
     /// Names compare under the server's collation.
-    virtual std::optional<DatabaseEntry> database(std::string_view name) const = 0;
+    std::optional<DatabaseEntry> database(std::string_view name) const;
     /// `fileName` empty: `<name>.mdf` in the instance; a bare name lies there too. Throws 1801, 5133, 5170.
-    virtual DatabaseEntry createDatabase(const std::string& name, const std::string& fileName,
-                                         const std::string& logName) = 0;
+    DatabaseEntry createDatabase(const std::string& name, const std::string& fileName, const std::string& logName);
     /// Throws 3701, 3702 while a session uses it, 3708 for the server's own.
-    virtual void dropDatabase(const std::string& name) = 0;
+    void dropDatabase(const std::string& name);
 
     /// Server options of sp_configure; see ServerOptions.h.
     struct Option {
@@ -52,27 +56,50 @@ public:
         long long minimum = 0, maximum = 0, configured = 0, running = 0;
         bool advanced = false;
     };
-    virtual std::vector<Option> options() const = 0;
+    std::vector<Option> options() const;
     /// `name` may be any part that only one option has. Throws 15123, 15124, 15129.
-    virtual void configure(const std::string& name, long long value) = 0;
+    void configure(const std::string& name, long long value);
     /// Makes the configured values the running ones.
-    virtual void reconfigure() = 0;
+    void reconfigure();
 
     /// The major version that the server reports; stored in the instance.
-    virtual int version() const = 0;
-    virtual void setVersion(int version) = 0;
+    int version() const;
+    void setVersion(int version);
     static constexpr int kStandardVersion = 8;
     /// From this version on there is no sp_dboption.
     static constexpr int kFirstVersionWithoutDatabaseOptions = 11;
 
     /// Options of one database, as sp_dboption sets them; see DatabaseOptions.h. Throws 15010 for an unknown database,
     /// 15011 and 15242 for an option.
-    virtual std::vector<std::pair<std::string, bool>> databaseOptions(const std::string& database) const = 0;
-    virtual void setDatabaseOption(const std::string& database, const std::string& option, bool value) = 0;
+    std::vector<std::pair<std::string, bool>> databaseOptions(const std::string& database) const;
+    void setDatabaseOption(const std::string& database, const std::string& option, bool value);
 
     /// Adds a login or changes its password. Names compare under the collation, passwords letter for letter.
-    virtual void addLogin(const std::string& user, const std::string& password) = 0;
-    virtual bool authenticates(const std::string& user, const std::string& password) const = 0;
+    void addLogin(const std::string& user, const std::string& password);
+    bool authenticates(const std::string& user, const std::string& password) const;
+
+private:
+    struct Place {
+        std::string serverPath; ///< empty for a file in the instance
+        std::string localName;  ///< empty for a file outside
+        std::filesystem::path file;
+    };
+
+    void makeRegistry();
+    void makeSystemDatabases();
+    void insertDatabase(std::int64_t id, const std::string& name, const Place& place);
+    Place placeOf(const std::string& name, const std::string& fileName) const;
+    bool isTaken(const std::filesystem::path& file) const;
+    void checkFolder(const std::string& serverPath) const;
+    DatabaseEntry entryOf(const sqlite::Statement& row) const;
+    std::optional<DatabaseEntry> find(std::string_view name) const;
+    DatabaseEntry needed(const std::string& name) const;
+    std::vector<Option> readOptions() const;
+
+    std::filesystem::path folder_;
+    InstanceOptions options_;
+    mutable std::mutex mutex_; ///< sessions of several threads share an instance
+    mutable sqlite::Connection registry_;
 };
 
 } // namespace engine

@@ -1,7 +1,8 @@
 // The settings of an instance: options of the server, options of its databases, logins.
 
-#include "engine/store/InstanceStore.h"
+#include "engine/store/Instance.h"
 #include "engine/text/DatabaseOptions.h"
+#include "engine/text/ServerOptions.h"
 #include "os/Passwords.h"
 
 #include <algorithm>
@@ -14,7 +15,7 @@ constexpr std::string_view kVersionOption = "server version"; ///< sp_configure 
 
 } // namespace
 
-std::vector<Instance::Option> InstanceStore::readOptions() const {
+std::vector<Instance::Option> Instance::readOptions() const {
     std::vector<Option> all;
     for (const ServerOption& option : serverOptions()) {
         all.push_back({option.name, option.minimum, option.maximum, option.standard, option.standard, option.advanced});
@@ -31,12 +32,12 @@ std::vector<Instance::Option> InstanceStore::readOptions() const {
     return all;
 }
 
-std::vector<Instance::Option> InstanceStore::options() const {
+std::vector<Instance::Option> Instance::options() const {
     const std::scoped_lock guard(mutex_);
     return readOptions();
 }
 
-void InstanceStore::configure(const std::string& name, long long value) {
+void Instance::configure(const std::string& name, long long value) {
     const std::scoped_lock guard(mutex_);
     sqlite::Transaction transaction(registry_);
     const std::vector<Option> all = readOptions();
@@ -54,19 +55,19 @@ void InstanceStore::configure(const std::string& name, long long value) {
     transaction.commit();
 }
 
-void InstanceStore::reconfigure() {
+void Instance::reconfigure() {
     const std::scoped_lock guard(mutex_);
     registry_.run("UPDATE options SET running = configured WHERE running <> configured");
 }
 
-int InstanceStore::version() const {
+int Instance::version() const {
     const std::scoped_lock guard(mutex_);
     sqlite::Statement row(registry_, "SELECT running FROM options WHERE name = ?1");
     row.bind(1, kVersionOption);
     return row.step() ? static_cast<int>(row.integer(0)) : kStandardVersion;
 }
 
-void InstanceStore::setVersion(int version) {
+void Instance::setVersion(int version) {
     const std::scoped_lock guard(mutex_);
     sqlite::Statement store(registry_, "INSERT OR REPLACE INTO options VALUES (?1, ?2, ?2)");
     store.bind(1, kVersionOption);
@@ -74,7 +75,7 @@ void InstanceStore::setVersion(int version) {
     store.step();
 }
 
-std::vector<std::pair<std::string, bool>> InstanceStore::databaseOptions(const std::string& database) const {
+std::vector<std::pair<std::string, bool>> Instance::databaseOptions(const std::string& database) const {
     const std::scoped_lock guard(mutex_);
     sqlite::Statement row(registry_, "SELECT value FROM database_options WHERE database_id = ?1 AND name = ?2");
     row.bind(1, std::int64_t{needed(database).id});
@@ -87,7 +88,7 @@ std::vector<std::pair<std::string, bool>> InstanceStore::databaseOptions(const s
     return values;
 }
 
-void InstanceStore::setDatabaseOption(const std::string& database, const std::string& option, bool value) {
+void Instance::setDatabaseOption(const std::string& database, const std::string& option, bool value) {
     const std::scoped_lock guard(mutex_);
     const DatabaseEntry entry = needed(database);
     const DatabaseOption& known = databaseOption(option);
@@ -98,7 +99,7 @@ void InstanceStore::setDatabaseOption(const std::string& database, const std::st
     store.step();
 }
 
-void InstanceStore::addLogin(const std::string& user, const std::string& password) {
+void Instance::addLogin(const std::string& user, const std::string& password) {
     const std::scoped_lock guard(mutex_);
     sqlite::Statement store(registry_, "INSERT OR REPLACE INTO logins VALUES (?1, ?2)");
     store.bind(1, user);
@@ -106,7 +107,7 @@ void InstanceStore::addLogin(const std::string& user, const std::string& passwor
     store.step();
 }
 
-bool InstanceStore::authenticates(const std::string& user, const std::string& password) const {
+bool Instance::authenticates(const std::string& user, const std::string& password) const {
     const std::scoped_lock guard(mutex_);
     sqlite::Statement row(registry_, "SELECT hash FROM logins WHERE name = ?1");
     row.bind(1, user);

@@ -9,57 +9,32 @@ namespace engine {
 namespace {
 
 constexpr std::array kOptions{
-    DatabaseOption{"ANSI null default", false},
-    DatabaseOption{"ANSI nulls", false},
-    DatabaseOption{"ANSI padding", false},
-    DatabaseOption{"ANSI warnings", false},
-    DatabaseOption{"arithabort", false},
-    DatabaseOption{"auto create statistics", true},
-    DatabaseOption{"auto update statistics", true},
-    DatabaseOption{"autoclose", false},
-    DatabaseOption{"autoshrink", false},
-    DatabaseOption{"concat null yields null", false},
-    DatabaseOption{"cursor close on commit", false},
-    DatabaseOption{"db chaining", false},
+    DatabaseOption{"ANSI null default", false, "ANSI_NULL_DEFAULT"},
+    DatabaseOption{"ANSI nulls", false, "ANSI_NULLS"},
+    DatabaseOption{"ANSI padding", false, "ANSI_PADDING"},
+    DatabaseOption{"ANSI warnings", false, "ANSI_WARNINGS"},
+    DatabaseOption{"arithabort", false, "ARITHABORT"},
+    DatabaseOption{"auto create statistics", true, "AUTO_CREATE_STATISTICS"},
+    DatabaseOption{"auto update statistics", true, "AUTO_UPDATE_STATISTICS"},
+    DatabaseOption{"autoclose", false, "AUTO_CLOSE"},
+    DatabaseOption{"autoshrink", false, "AUTO_SHRINK"},
+    DatabaseOption{"concat null yields null", false, "CONCAT_NULL_YIELDS_NULL"},
+    DatabaseOption{"cursor close on commit", false, "CURSOR_CLOSE_ON_COMMIT"},
+    DatabaseOption{"db chaining", false, "DB_CHAINING"},
     DatabaseOption{"dbo use only", false},
     DatabaseOption{"default to local cursor", false},
     DatabaseOption{"merge publish", false},
-    DatabaseOption{"numeric roundabort", false},
+    DatabaseOption{"numeric roundabort", false, "NUMERIC_ROUNDABORT"},
     DatabaseOption{"offline", false},
     DatabaseOption{"published", false},
-    DatabaseOption{"quoted identifier", false},
+    DatabaseOption{"quoted identifier", false, "QUOTED_IDENTIFIER"},
     DatabaseOption{"read only", false},
-    DatabaseOption{"recursive triggers", false},
+    DatabaseOption{"recursive triggers", false, "RECURSIVE_TRIGGERS"},
     DatabaseOption{"select into/bulkcopy", false},
     DatabaseOption{"single user", false},
     DatabaseOption{"subscribed", false},
-    DatabaseOption{"torn page detection", true},
+    DatabaseOption{"torn page detection", true, "TORN_PAGE_DETECTION"},
     DatabaseOption{"trunc. log on chkpt.", false},
-};
-
-/// A setting that is ON or OFF.
-struct Toggle {
-    const char* setting;
-    const char* option;
-};
-
-constexpr std::array kToggles{
-    Toggle{"ANSI_NULL_DEFAULT", "ANSI null default"},
-    Toggle{"ANSI_NULLS", "ANSI nulls"},
-    Toggle{"ANSI_PADDING", "ANSI padding"},
-    Toggle{"ANSI_WARNINGS", "ANSI warnings"},
-    Toggle{"ARITHABORT", "arithabort"},
-    Toggle{"AUTO_CLOSE", "autoclose"},
-    Toggle{"AUTO_CREATE_STATISTICS", "auto create statistics"},
-    Toggle{"AUTO_SHRINK", "autoshrink"},
-    Toggle{"AUTO_UPDATE_STATISTICS", "auto update statistics"},
-    Toggle{"CONCAT_NULL_YIELDS_NULL", "concat null yields null"},
-    Toggle{"CURSOR_CLOSE_ON_COMMIT", "cursor close on commit"},
-    Toggle{"DB_CHAINING", "db chaining"},
-    Toggle{"NUMERIC_ROUNDABORT", "numeric roundabort"},
-    Toggle{"QUOTED_IDENTIFIER", "quoted identifier"},
-    Toggle{"RECURSIVE_TRIGGERS", "recursive triggers"},
-    Toggle{"TORN_PAGE_DETECTION", "torn page detection"},
 };
 
 /// A setting with values of its own; one that changes several options has a row for each.
@@ -93,9 +68,9 @@ constexpr std::array kChoices{
 std::vector<std::pair<const char*, bool>> databaseSetting(std::string_view option, std::string_view value) {
     const bool on = sameText(value, "ON");
     std::vector<std::pair<const char*, bool>> effects;
-    for (const Toggle& toggle : kToggles) {
-        if (sameText(toggle.setting, option) && (on || sameText(value, "OFF"))) {
-            effects.emplace_back(toggle.option, on);
+    for (const DatabaseOption& known : kOptions) {
+        if (*known.toggle != '\0' && sameText(known.toggle, option) && (on || sameText(value, "OFF"))) {
+            effects.emplace_back(known.name, on);
         }
     }
     for (const Choice& choice : kChoices) {

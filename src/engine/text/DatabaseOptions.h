@@ -11,6 +11,7 @@ namespace engine {
 struct DatabaseOption {
     const char* name;
     bool standard;
+    const char* toggle = ""; ///< the setting of ALTER DATABASE that turns it on and off
 };
 
 std::span<const DatabaseOption> databaseOptions();

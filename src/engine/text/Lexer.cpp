@@ -2,13 +2,13 @@
 
 #include "engine/errors/TextErrors.h"
 #include "engine/values/Ascii.h"
-#include "engine/values/CollationCharacters.h"
+#include "engine/values/Collation.h"
 #include "engine/values/DataType.h"
 
 #include <algorithm>
 #include <array>
+#include <charconv>
 #include <cmath>
-#include <cstdlib>
 
 namespace engine {
 
@@ -30,17 +30,6 @@ bool continuesName(char c) {
     return startsName(c) || isDigit(c) || c == '$';
 }
 
-/// The first characters of a UTF-8 text, all of it where it is shorter.
-std::string_view firstCharacters(std::string_view text, std::size_t count) {
-    std::size_t seen = 0;
-    for (std::size_t i = 0; i < text.size(); ++i) {
-        if (startsCharacter(text[i]) && seen++ == count) {
-            return text.substr(0, i);
-        }
-    }
-    return text;
-}
-
 bool fitsInt(std::string_view digits) {
     constexpr std::string_view kLargest = "2147483647";
     digits.remove_prefix(std::min(digits.find_first_not_of('0'), digits.size()));
@@ -53,8 +42,11 @@ bool fitsDecimal(std::string_view number) {
     return std::count_if(number.begin(), number.end(), isDigit) <= kWidestDecimal;
 }
 
-bool fitsFloat(const std::string_view number) {
-    return std::isfinite(std::strtod(std::string(number).c_str(), nullptr));
+bool fitsFloat(std::string_view number) {
+    long double value = 0; // wide enough to tell a number that is too large from one that is too small
+    const auto read = std::from_chars(number.data(), number.data() + number.size(), value);
+    return read.ec == std::errc::result_out_of_range ? number.find('-') != std::string_view::npos
+                                                     : std::isfinite(static_cast<double>(value));
 }
 
 constexpr std::array<std::string_view, 6> kLongSymbols = {"<>", "!=", "<=", ">=", "!<", "!>"};
@@ -222,7 +214,7 @@ private:
     }
 
     static void refuseLongName(std::string_view name, std::size_t begin) {
-        const auto start = firstCharacters(name, kLongestName);
+        const auto start = leftOf(name, kLongestName);
         if (start.size() < name.size()) {
             throw errors::identifierTooLong(std::string(start), static_cast<int>(begin));
         }

@@ -21,7 +21,7 @@ Grammar::Node Grammar::createDatabase() {
         std::move(logs.begin(), logs.end(), std::back_inserter(node.files));
     }
     if (consumeIf(Keyword::Collate)) {
-        node.collation = expectName();
+        collation();
     }
     return node;
 }

@@ -48,8 +48,7 @@ ExpressionPtr Grammar::primary() {
 
 ExpressionPtr Grammar::literal() {
     const Token& token = consume();
-    return makeExpression(
-        token.position, Literal{literalKind(token), valueOf(token), structural_ ? -1 : token.literal - firstLiteral_});
+    return makeExpression(token.position, literalOf(token, structural_ ? -1 : token.literal - firstLiteral_));
 }
 
 ExpressionPtr Grammar::sign() {

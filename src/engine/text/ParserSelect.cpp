@@ -151,7 +151,6 @@ TableSourcePtr Grammar::tableSource() {
 
 TableSourcePtr Grammar::primarySource() {
     auto source = std::make_unique<TableSource>();
-    source->position = now().position;
     if (at("(") && ahead(1).is(Keyword::Select)) {
         DerivedTable derived;
         derived.select = selectInBrackets();
@@ -215,7 +214,6 @@ Join::Kind Grammar::joinKind() {
 TableSourcePtr Grammar::join(TableSourcePtr left) {
     const Level level(*this);
     auto source = std::make_unique<TableSource>();
-    source->position = now().position;
     Join join{joinKind(), std::move(left), primarySource(), nullptr};
     if (join.kind != Join::Kind::Cross) {
         while (atJoin()) {

@@ -24,9 +24,7 @@ BatchTree Grammar::batch() {
 /// The first statement of a batch may name a procedure without EXECUTE.
 StatementPtr Grammar::bareCall() {
     auto call = std::make_unique<Statement>();
-    call->begin = now().position;
     call->node = procedureCall();
-    call->end = last().end();
     return call;
 }
 
@@ -34,9 +32,7 @@ StatementPtr Grammar::statement() {
     const Level level(*this);
     structural_ = false;
     auto statement = std::make_unique<Statement>();
-    statement->begin = now().position;
     statement->node = statementNode();
-    statement->end = last().end();
     return statement;
 }
 

@@ -26,34 +26,10 @@ const Token& TokenStream::consume() {
     return tokens_[at_++];
 }
 
-bool TokenStream::consumeIf(Keyword keyword) {
-    const bool found = at(keyword);
-    at_ += found ? 1 : 0;
-    return found;
-}
-
-bool TokenStream::consumeIf(std::string_view symbol) {
-    const bool found = at(symbol);
-    at_ += found ? 1 : 0;
-    return found;
-}
-
 bool TokenStream::consumeIfWord(std::string_view word) {
     const bool found = atWord(word);
     at_ += found ? 1 : 0;
     return found;
-}
-
-void TokenStream::expect(Keyword keyword) {
-    if (!consumeIf(keyword)) {
-        refuse();
-    }
-}
-
-void TokenStream::expect(std::string_view symbol) {
-    if (!consumeIf(symbol)) {
-        refuse();
-    }
 }
 
 void TokenStream::expectWord(std::string_view word) {

@@ -24,11 +24,20 @@ protected:
     bool atWord(std::string_view word) const;
 
     const Token& consume();
-    bool consumeIf(Keyword keyword);
-    bool consumeIf(std::string_view symbol);
+    /// A keyword or a symbol.
+    template<class Wanted>
+    bool consumeIf(const Wanted& wanted) {
+        const bool found = at(wanted);
+        at_ += found ? 1 : 0;
+        return found;
+    }
+    template<class Wanted>
+    void expect(const Wanted& wanted) {
+        if (!consumeIf(wanted)) {
+            refuse();
+        }
+    }
     bool consumeIfWord(std::string_view word);
-    void expect(Keyword keyword);
-    void expect(std::string_view symbol);
     void expectWord(std::string_view word);
     std::string expectName();
     std::string expectText();

@@ -40,7 +40,7 @@ constexpr auto kTypes = std::to_array<TypeRow>({{"bigint", {Kind::BigInt}},
                                                 {"real", {Kind::Real}},
                                                 {"smallint", {Kind::SmallInt}},
                                                 {"sysname", {Kind::NVarChar, kSystemNameLength}},
-                                                {"text", {Kind::NVarChar, -1}},
+                                                {"text", {Kind::VarChar, -1}},
                                                 {"tinyint", {Kind::TinyInt}},
                                                 {"varbinary", {Kind::VarBinary}, Size::LengthOrMax, kLongestText},
                                                 {"varchar", {Kind::VarChar}, Size::LengthOrMax, kLongestText}});

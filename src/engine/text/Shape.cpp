@@ -2,49 +2,42 @@
 
 #include "engine/text/Lexer.h"
 #include "engine/values/Ascii.h"
+#include "engine/values/CodePage.h"
 #include "engine/values/Scalar.h"
 
 #include <algorithm>
+#include <array>
 #include <iterator>
 
 namespace engine {
 
 namespace {
 
-std::string_view markerOf(const LiteralToken& literal) {
-    switch (literal.kind) {
-    case Literal::Kind::Null:
-        return "";
-    case Literal::Kind::Integer:
-        return "?i";
-    case Literal::Kind::Decimal:
-        return "?d";
-    case Literal::Kind::Float:
-        return "?f";
-    case Literal::Kind::Text:
-        return typeOf({literal.kind, literal.text}).length < 0 ? "?T" : "?t";
-    case Literal::Kind::NationalText:
-        return typeOf({literal.kind, literal.text}).length < 0 ? "?N" : "?n";
+std::string_view markerOf(const Literal& literal) {
+    constexpr std::array kMarkers{"", "?i", "?d", "?f", "?t", "?n"}; // in the order of Literal::Kind
+    const bool text = literal.kind == Literal::Kind::Text || literal.kind == Literal::Kind::NationalText;
+    if (!text || typeOf(literal).length >= 0) {
+        return kMarkers[static_cast<std::size_t>(literal.kind)];
     }
-    return "";
+    return literal.kind == Literal::Kind::Text ? "?T" : "?N";
 }
 
 } // namespace
 
-Literal::Kind literalKind(const Token& token) {
+Literal literalOf(const Token& token, int index) {
     switch (token.kind) {
     case Token::Kind::Integer:
-        return Literal::Kind::Integer;
+        return {Literal::Kind::Integer, valueOf(token), index};
     case Token::Kind::Decimal:
-        return Literal::Kind::Decimal;
+        return {Literal::Kind::Decimal, valueOf(token), index};
     case Token::Kind::Float:
-        return Literal::Kind::Float;
+        return {Literal::Kind::Float, valueOf(token), index};
     case Token::Kind::Text:
-        return Literal::Kind::Text;
+        return {Literal::Kind::Text, inCodePage(valueOf(token)), index};
     case Token::Kind::NationalText:
-        return Literal::Kind::NationalText;
+        return {Literal::Kind::NationalText, valueOf(token), index};
     default:
-        return Literal::Kind::Null;
+        return {};
     }
 }
 
@@ -60,7 +53,7 @@ Shape shapeOf(std::span<const Token> tokens) {
             shape.key += ' ';
         }
         if (token.isLiteral()) {
-            shape.literals.push_back({literalKind(token), valueOf(token)});
+            shape.literals.push_back(literalOf(token, static_cast<int>(shape.literals.size())));
             shape.key += markerOf(shape.literals.back());
         } else if (token.keyword != Keyword::None) {
             std::transform(token.text.begin(), token.text.end(), std::back_inserter(shape.key), capital);

@@ -23,6 +23,17 @@ struct Name {
     std::vector<std::string> pieces;
     int position = -1;
     const std::string& last() const { return pieces.back(); }
+    /// A piece counted from the right, the last one being 0; empty where there are fewer.
+    std::string piece(std::size_t fromRight) const {
+        return fromRight < pieces.size() ? pieces[pieces.size() - 1 - fromRight] : std::string();
+    }
+    std::string text() const {
+        std::string joined;
+        for (const std::string& piece : pieces) {
+            joined += (&piece == &pieces.front() ? "" : ".") + piece;
+        }
+        return joined;
+    }
 };
 
 /// A column, perhaps behind an alias or a table: `T.id`, `id`.
@@ -141,7 +152,6 @@ struct Join {
 
 struct TableSource {
     std::variant<NamedTable, DerivedTable, Join> node;
-    int position = -1;
 };
 
 struct SelectItem {
@@ -254,7 +264,6 @@ struct DatabaseFile {
 struct CreateDatabase {
     std::string name;
     std::vector<DatabaseFile> files;
-    std::string collation;
 };
 
 /// ALTER DATABASE name SET: `AUTO_CLOSE ON`, `RECOVERY SIMPLE`, `READ_WRITE`.
@@ -317,7 +326,6 @@ struct Statement {
     std::variant<Select, Insert, Update, Delete, CreateTable, AlterTable, CreateIndex, Drop, Truncate, CreateDatabase,
                  AlterDatabase, Use, SetOption, Execute, Reconfigure, Transaction, If, Block, Print>
         node;
-    int begin = 0, end = 0; ///< byte range in the batch
 };
 
 struct BatchTree {

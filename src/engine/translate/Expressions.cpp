@@ -10,13 +10,7 @@ namespace engine::translate {
 namespace {
 
 void writeList(Text& text, const std::vector<bound::ExpressionPtr>& list) {
-    bool first = true;
-    for (const bound::ExpressionPtr& one : list) {
-        text += first ? "" : ", ";
-        first = false;
-        const Text::Many many(text, list.size() >= Text::Many::kLeast && !isBare(*one));
-        write(text, *one);
-    }
+    translate::writeList(text, list, list.size() >= Text::Many::kLeast);
 }
 
 void writeNode(Text& text, const bound::ParameterUse& use) {
@@ -113,8 +107,15 @@ void writeNode(Text& text, const bound::Subselect& subselect) {
 
 } // namespace
 
-bool isBare(const bound::Expression& expression) {
-    return std::holds_alternative<bound::ParameterUse>(expression.node);
+void writeList(Text& text, const std::vector<bound::ExpressionPtr>& list, bool many) {
+    bool first = true;
+    for (const bound::ExpressionPtr& one : list) {
+        text += first ? "" : ", ";
+        first = false;
+        // A parameter alone SQLite takes any number of times quickly.
+        const Text::Many calls(text, many && !std::holds_alternative<bound::ParameterUse>(one->node));
+        write(text, *one);
+    }
 }
 
 std::string rowidOf(const TableInfo& table) {

@@ -21,11 +21,7 @@ Text insert(const bound::Insert& insert) {
     for (const auto& row : insert.rows) {
         text += first ? "(" : ", (";
         first = false;
-        for (std::size_t i = 0; i < row.size(); ++i) {
-            text += i == 0 ? "" : ", ";
-            const Text::Many many(text, expressions >= Text::Many::kLeast && !isBare(*row[i]));
-            write(text, *row[i]);
-        }
+        writeList(text, row, expressions >= Text::Many::kLeast);
         text += ')';
     }
     return text;

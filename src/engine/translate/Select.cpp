@@ -1,5 +1,7 @@
 #include "engine/translate/SqlText.h"
 
+#include <array>
+
 namespace engine::translate {
 
 namespace {
@@ -14,25 +16,12 @@ void writeNode(Text& text, const bound::Derived& derived) {
     text += ") AS " + alias(derived.number);
 }
 
-const char* joinText(Join::Kind kind) {
-    switch (kind) {
-    case Join::Kind::Inner:
-        return " JOIN ";
-    case Join::Kind::Left:
-        return " LEFT JOIN ";
-    case Join::Kind::Right:
-        return " RIGHT JOIN ";
-    case Join::Kind::Full:
-        return " FULL JOIN ";
-    case Join::Kind::Cross:
-        return " CROSS JOIN ";
-    }
-    return "";
-}
+/// In the order of Join::Kind.
+constexpr std::array kJoins = {" JOIN ", " LEFT JOIN ", " RIGHT JOIN ", " FULL JOIN ", " CROSS JOIN "};
 
 void writeNode(Text& text, const bound::Join& join) {
     write(text, *join.left);
-    text += joinText(join.kind);
+    text += kJoins[static_cast<std::size_t>(join.kind)];
     const bool nested = std::holds_alternative<bound::Join>(join.right->node);
     text += nested ? "(" : "";
     write(text, *join.right);
@@ -67,9 +56,9 @@ void writeCore(Text& text, const bound::Core& core, bool compares, const std::st
     text += more;
     bool first = true;
     for (const bound::SourcePtr& source : core.from) {
-        text += first ? " FROM " : " CROSS JOIN ";
+        text += first ? " FROM " : "";
+        writeSource(text, *source, first);
         first = false;
-        write(text, *source);
     }
     writeWhere(text, core.where);
     first = true;
@@ -109,6 +98,20 @@ void writeLimit(Text& text, const bound::Core& core) {
 
 void write(Text& text, const bound::Source& source) {
     std::visit([&](const auto& node) { writeNode(text, node); }, source.node);
+}
+
+bool addsRows(const bound::Source& source) {
+    const auto* join = std::get_if<bound::Join>(&source.node);
+    return join != nullptr &&
+           (join->kind == Join::Kind::Right || join->kind == Join::Kind::Full || addsRows(*join->left));
+}
+
+void writeSource(Text& text, const bound::Source& source, bool first) {
+    const bool apart = !first && addsRows(source);
+    text += first ? "" : " CROSS JOIN ";
+    text += apart ? "(" : "";
+    write(text, source);
+    text += apart ? ")" : "";
 }
 
 void write(Text& text, const bound::Select& select) {

@@ -19,11 +19,16 @@ std::string rowidOf(const TableInfo& table);
 /// A table's alias in the text: `t3`.
 std::string alias(int source);
 
-/// Whether an expression is a parameter alone, as which SQLite takes any number of values quickly.
-bool isBare(const bound::Expression& expression);
 void write(Text& text, const bound::Expression& expression);
 void write(Text& text, const bound::Source& source);
+/// Whether a join gives rows that no row of its left side is in: behind a comma it is made before the rest, in
+/// brackets.
+bool addsRows(const bound::Source& source);
+/// One of the sources of a FROM, which commas separate.
+void writeSource(Text& text, const bound::Source& source, bool first);
 void write(Text& text, const bound::Select& select);
+/// Separated by commas; the parameters inside of the expressions are written as `many` wants it.
+void writeList(Text& text, const std::vector<bound::ExpressionPtr>& list, bool many);
 /// ` WHERE …`, nothing where there is no condition.
 void writeWhere(Text& text, const bound::ExpressionPtr& condition);
 /// ` LIMIT …`, nothing where `most` is 0.

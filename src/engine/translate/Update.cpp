@@ -1,3 +1,4 @@
+#include "engine/errors/DefinitionErrors.h"
 #include "engine/translate/SqlText.h"
 
 namespace engine::translate {
@@ -13,11 +14,20 @@ void writeSources(Text& text, const bound::Update& update) {
     }
     bool first = update.targetInFrom >= 0;
     for (const bound::SourcePtr& source : update.from) {
-        text += first ? "" : " CROSS JOIN ";
+        writeSource(text, *source, first);
         first = false;
-        write(text, *source);
     }
     writeWhere(text, update.where);
+}
+
+/// Whether a table stands in a join in brackets, of which SQLite gives no row numbers.
+bool isInBrackets(const bound::Source& source, int table, bool brackets) {
+    if (const auto* join = std::get_if<bound::Join>(&source.node)) {
+        return isInBrackets(*join->left, table, brackets) ||
+               isInBrackets(*join->right, table, brackets || std::holds_alternative<bound::Join>(join->right->node));
+    }
+    const auto* named = std::get_if<bound::Table>(&source.node);
+    return brackets && named != nullptr && named->number == table;
 }
 
 std::string targetAlias(const bound::Update& update) {
@@ -51,6 +61,11 @@ Text updateFrom(const bound::Update& update, std::int64_t most) {
 } // namespace
 
 Text update(const bound::Update& update, std::int64_t most) {
+    for (std::size_t i = 0; i < update.from.size(); ++i) {
+        if (isInBrackets(*update.from[i], update.targetInFrom, i > 0 && addsRows(*update.from[i]))) {
+            throw errors::notSupported("UPDATE of a table inside of a join");
+        }
+    }
     if (!update.from.empty() || most != 0) {
         return updateFrom(update, most);
     }

@@ -228,7 +228,10 @@ void appendCharacter(std::string& text, char32_t character) {
 }
 
 std::string upper(std::string_view text) {
-    return mapped(text, [](char32_t c) { return static_cast<char32_t>(u_toupper(static_cast<UChar32>(c))); });
+    // The code page has no capitals of these two.
+    return mapped(text, [](char32_t c) {
+        return c == U'µ' || c == U'ƒ' ? c : static_cast<char32_t>(u_toupper(static_cast<UChar32>(c)));
+    });
 }
 
 std::string lower(std::string_view text) {

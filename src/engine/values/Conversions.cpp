@@ -7,9 +7,7 @@
 #include <algorithm>
 #include <array>
 #include <cerrno>
-#include <charconv>
 #include <cmath>
-#include <cstdio>
 #include <limits>
 
 namespace engine {
@@ -21,12 +19,13 @@ struct IntegerKind {
     Kind kind;
     const char* name;
     std::int64_t minimum, maximum;
+    const char* stored = ""; ///< as the error of a text calls the small ones
 };
 
 constexpr std::array<IntegerKind, 5> kIntegerKinds{{
     {Kind::Bit, "bit", 0, 1},
-    {Kind::TinyInt, "tinyint", 0, 255},
-    {Kind::SmallInt, "smallint", -32768, 32767},
+    {Kind::TinyInt, "tinyint", 0, 255, "INT1"},
+    {Kind::SmallInt, "smallint", -32768, 32767, "INT2"},
     {Kind::Int, "int", std::numeric_limits<std::int32_t>::min(), std::numeric_limits<std::int32_t>::max()},
     {Kind::BigInt, "bigint", std::numeric_limits<std::int64_t>::min(), std::numeric_limits<std::int64_t>::max()},
 }};
@@ -40,25 +39,11 @@ const IntegerKind& kindOf(const DataType& target) {
     throw InternalError("a conversion to an integer of a type that is none: " + toText(target));
 }
 
-Error integerRefused(const IntegerKind& kind, std::string_view text, const char* source) {
-    return kind.kind == Kind::BigInt ? errors::conversionError(source, kind.name)
-                                     : errors::intConversion(source, std::string(text), kind.name);
-}
-
-Error integerOverflows(const IntegerKind& kind, std::string_view text, const char* source) {
-    switch (kind.kind) {
-    case Kind::TinyInt:
-        return errors::textOverflowsSmallInt(source, std::string(text), "INT1");
-    case Kind::SmallInt:
-        return errors::textOverflowsSmallInt(source, std::string(text), "INT2");
-    case Kind::Int:
-        return errors::textOverflowsInt(source, std::string(text));
-    default:
-        return errors::conversionOverflow("expression", kind.name);
-    }
-}
-
 } // namespace
+
+IntegerRange rangeOf(const DataType& type) {
+    return {kindOf(type).minimum, kindOf(type).maximum};
+}
 
 std::int64_t toInteger(std::string_view text, const DataType& target, const char* sourceType) {
     const IntegerKind& kind = kindOf(target);
@@ -74,7 +59,8 @@ std::int64_t toInteger(std::string_view text, const DataType& target, const char
                 return word == "true" ? 1 : 0;
             }
         }
-        throw integerRefused(kind, text, sourceType);
+        throw kind.kind == Kind::BigInt ? errors::conversionError(sourceType, kind.name)
+                                        : errors::intConversion(sourceType, text, kind.name);
     }
     if (kind.kind == Kind::Bit) {
         return digits.find_first_not_of('0') == std::string_view::npos ? 0 : 1;
@@ -83,7 +69,9 @@ std::int64_t toInteger(std::string_view text, const DataType& target, const char
     std::int64_t value = 0;
     const auto read = std::from_chars(number.data(), number.data() + number.size(), value);
     if (read.ec != std::errc{} || value < kind.minimum || value > kind.maximum) {
-        throw integerOverflows(kind, text, sourceType);
+        throw kind.kind == Kind::BigInt ? errors::conversionOverflow("expression", kind.name)
+        : kind.kind == Kind::Int        ? errors::textOverflowsInt(sourceType, text)
+                                        : errors::textOverflowsSmallInt(sourceType, text, kind.stored);
     }
     return value;
 }
@@ -98,7 +86,9 @@ std::int64_t toInteger(double number, const DataType& target) {
     const bool inside = whole >= static_cast<double>(kind.minimum) &&
                         (kind.kind == Kind::BigInt ? whole < 0x1p63 : whole <= static_cast<double>(kind.maximum));
     if (!inside) {
-        throw errors::conversionOverflow("expression", kind.name);
+        throw kind.kind == Kind::BigInt
+            ? errors::conversionOverflow("expression", kind.name)
+            : errors::floatOverflow(kind.name, printed(number, std::chars_format::fixed, 6));
     }
     return static_cast<std::int64_t>(whole);
 }
@@ -122,10 +112,6 @@ std::int64_t toInteger(std::int64_t number, const DataType& target) {
     }
     throw kind.kind == Kind::Int ? errors::conversionOverflow("expression", kind.name)
                                  : errors::valueOverflow(kind.name, integerText(number));
-}
-
-bool toBit(std::string_view text) {
-    return toInteger(text, DataType{Kind::Bit}) != 0;
 }
 
 double toDecimal(std::string_view text, const DataType& target) {
@@ -181,23 +167,23 @@ std::string integerText(std::int64_t number) {
     return std::to_string(number);
 }
 
+std::string printed(double number, std::chars_format format, int precision) {
+    std::array<char, 512> buffer{};
+    return {buffer.data(), std::to_chars(buffer.begin(), buffer.end(), number, format, precision).ptr};
+}
+
 std::string floatText(double number, std::optional<int> style) {
     constexpr std::array kLegacyStyles = {126, 128, 129};
     constexpr std::array kDigitsBehindFirst = {7, 15, 16};
     if (std::find(kLegacyStyles.begin(), kLegacyStyles.end(), style) != kLegacyStyles.end()) {
         throw errors::valueNotSupported("style " + std::to_string(*style) + " of float");
     }
-    std::array<char, 32> buffer{};
     if (number == 0) {
         number = 0; // without a sign
     }
-    if (style >= 1 && style <= 3) {
-        std::snprintf(buffer.data(), buffer.size(), "%.*e", kDigitsBehindFirst[static_cast<std::size_t>(*style) - 1],
-                      number);
-    } else {
-        std::snprintf(buffer.data(), buffer.size(), "%.6g", number);
-    }
-    std::string text = buffer.data();
+    std::string text = style >= 1 && style <= 3 ? printed(number, std::chars_format::scientific,
+                                                          kDigitsBehindFirst[static_cast<std::size_t>(*style) - 1])
+                                                : printed(number, std::chars_format::general, 6);
     // The server's exponents have three digits.
     const std::size_t exponent = text.find('e');
     if (exponent != std::string::npos && text.size() - exponent == 4) {

@@ -8,32 +8,21 @@
 namespace engine {
 namespace {
 
-/// Y year, y its last two digits, M month, N its name, D day, d the same filled with a blank, H hour, h hour of the
-/// half day filled with a blank, m minute, s second, f millisecond, A half of the day; everything else stands for
-/// itself.
+/// Y year, y the same or, of a style below 100, its last two digits, M month, N its name, D day, d the same filled with
+/// a blank, H hour, h hour of the half day filled with a blank, m minute, s second, f millisecond, A half of the day;
+/// everything else stands for itself.
 struct StyleText {
     int style;
     const char* layout;
 };
 
 constexpr std::array kStyleTexts{
-    StyleText{0, "N d Y h:mA"},     StyleText{100, "N d Y h:mA"},
-    StyleText{1, "M/D/y"},          StyleText{101, "M/D/Y"},
-    StyleText{2, "y.M.D"},          StyleText{102, "Y.M.D"},
-    StyleText{3, "D/M/y"},          StyleText{103, "D/M/Y"},
-    StyleText{4, "D.M.y"},          StyleText{104, "D.M.Y"},
-    StyleText{5, "D-M-y"},          StyleText{105, "D-M-Y"},
-    StyleText{6, "D N y"},          StyleText{106, "D N Y"},
-    StyleText{7, "N D, y"},         StyleText{107, "N D, Y"},
-    StyleText{8, "H:m:s"},          StyleText{108, "H:m:s"},
-    StyleText{9, "N d Y h:m:s:fA"}, StyleText{109, "N d Y h:m:s:fA"},
-    StyleText{10, "M-D-y"},         StyleText{110, "M-D-Y"},
-    StyleText{11, "y/M/D"},         StyleText{111, "Y/M/D"},
-    StyleText{12, "yMD"},           StyleText{112, "YMD"},
-    StyleText{13, "D N Y H:m:s:f"}, StyleText{113, "D N Y H:m:s:f"},
-    StyleText{14, "H:m:s:f"},       StyleText{114, "H:m:s:f"},
-    StyleText{20, "Y-M-D H:m:s"},   StyleText{120, "Y-M-D H:m:s"},
-    StyleText{21, "Y-M-D H:m:s.f"}, StyleText{121, "Y-M-D H:m:s.f"},
+    StyleText{0, "N d Y h:mA"},     StyleText{1, "M/D/y"},          StyleText{2, "y.M.D"},
+    StyleText{3, "D/M/y"},          StyleText{4, "D.M.y"},          StyleText{5, "D-M-y"},
+    StyleText{6, "D N y"},          StyleText{7, "N D, y"},         StyleText{8, "H:m:s"},
+    StyleText{9, "N d Y h:m:s:fA"}, StyleText{10, "M-D-y"},         StyleText{11, "y/M/D"},
+    StyleText{12, "yMD"},           StyleText{13, "D N Y H:m:s:f"}, StyleText{14, "H:m:s:f"},
+    StyleText{20, "Y-M-D H:m:s"},   StyleText{21, "Y-M-D H:m:s.f"},
 };
 
 constexpr int kInternationalStyle = 126;
@@ -45,7 +34,7 @@ const char* layoutOf(int style, const CalendarDate& date) {
         return date.millisecond == 0 ? "Y-M-DTH:m:s" : "Y-M-DTH:m:s.f";
     }
     for (const StyleText& entry : kStyleTexts) {
-        if (entry.style == style) {
+        if (isStyle(entry.style, style)) {
             return entry.layout;
         }
     }
@@ -58,12 +47,15 @@ std::string filled(int number, int width, char fill) {
     return digits.size() < wanted ? std::string(wanted - digits.size(), fill) + digits : digits;
 }
 
-std::string piece(char letter, const CalendarDate& date) {
+std::string piece(char letter, int style, const CalendarDate& date) {
     switch (letter) {
+    case 'y':
+        if (style < 100) {
+            return filled(date.year % 100, 2, '0');
+        }
+        [[fallthrough]];
     case 'Y':
         return filled(date.year, 4, '0');
-    case 'y':
-        return filled(date.year % 100, 2, '0');
     case 'M':
         return filled(date.month, 2, '0');
     case 'N':
@@ -95,7 +87,7 @@ std::string dateText(std::string_view dateTime, std::optional<int> style) {
     const CalendarDate date = CalendarDate::stored(dateTime);
     std::string text;
     for (const char* letter = layoutOf(style.value_or(0), date); *letter != '\0'; ++letter) {
-        text += piece(*letter, date);
+        text += piece(*letter, style.value_or(0), date);
     }
     return text;
 }

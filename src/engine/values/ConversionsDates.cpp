@@ -21,30 +21,18 @@ constexpr auto kDayFirstOrder = DateOrder::DayMonthYear;
 /// How a style that reads a text orders its numbers; a year of two digits may stand wherever one of four does.
 constexpr std::array kStyleOrders{
     StyleOrder{0, {}},
-    StyleOrder{100, {}},
     StyleOrder{9, {}},
-    StyleOrder{109, {}},
     StyleOrder{1, kMonthFirst},
-    StyleOrder{101, kMonthFirst},
     StyleOrder{10, kMonthFirst},
-    StyleOrder{110, kMonthFirst},
     StyleOrder{2, kYearFirst},
-    StyleOrder{102, kYearFirst},
     StyleOrder{11, kYearFirst},
-    StyleOrder{111, kYearFirst},
     StyleOrder{12, kYearFirst},
-    StyleOrder{112, kYearFirst},
     StyleOrder{20, kYearFirst},
-    StyleOrder{120, kYearFirst},
     StyleOrder{21, kYearFirst},
-    StyleOrder{121, kYearFirst},
     StyleOrder{126, kYearFirst},
     StyleOrder{3, kDayFirstOrder},
-    StyleOrder{103, kDayFirstOrder},
     StyleOrder{4, kDayFirstOrder},
-    StyleOrder{104, kDayFirstOrder},
     StyleOrder{5, kDayFirstOrder},
-    StyleOrder{105, kDayFirstOrder},
 };
 
 DateOrder orderOf(std::optional<int> style, DateOrder session) {
@@ -52,7 +40,7 @@ DateOrder orderOf(std::optional<int> style, DateOrder session) {
         return session;
     }
     for (const StyleOrder& entry : kStyleOrders) {
-        if (entry.style == *style) {
+        if (isStyle(entry.style, *style)) {
             return entry.order.value_or(session);
         }
     }

@@ -1,47 +1,16 @@
 #include "engine/values/DataType.h"
 
+#include <array>
 #include <string_view>
 
 namespace engine {
 
 namespace {
 
-std::string_view nameOf(DataType::Kind kind) {
-    using Kind = DataType::Kind;
-    switch (kind) {
-    case Kind::Unknown:
-        return "NULL";
-    case Kind::Bit:
-        return "bit";
-    case Kind::TinyInt:
-        return "tinyint";
-    case Kind::SmallInt:
-        return "smallint";
-    case Kind::Int:
-        return "int";
-    case Kind::BigInt:
-        return "bigint";
-    case Kind::Decimal:
-        return "decimal";
-    case Kind::Real:
-        return "real";
-    case Kind::Float:
-        return "float";
-    case Kind::DateTime:
-        return "datetime";
-    case Kind::Char:
-        return "char";
-    case Kind::VarChar:
-        return "varchar";
-    case Kind::NChar:
-        return "nchar";
-    case Kind::NVarChar:
-        return "nvarchar";
-    case Kind::VarBinary:
-        return "varbinary";
-    }
-    return "";
-}
+/// In the order of DataType::Kind.
+constexpr std::array<std::string_view, 15> kNames{"NULL",   "bit",     "tinyint", "smallint", "int",
+                                                  "bigint", "decimal", "real",    "float",    "datetime",
+                                                  "char",   "varchar", "nchar",   "nvarchar", "varbinary"};
 
 } // namespace
 
@@ -49,7 +18,7 @@ std::string toText(const DataType& type) {
     if (type.isMoney()) {
         return "money";
     }
-    std::string text(nameOf(type.kind));
+    std::string text(kNames[static_cast<std::size_t>(type.kind)]);
     if (type.kind == DataType::Kind::Decimal) {
         return text + "(" + std::to_string(type.precision) + "," + std::to_string(type.scale) + ")";
     }

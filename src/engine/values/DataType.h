@@ -24,9 +24,9 @@ struct DataType {
         Float,
         DateTime,
         Char,
-        VarChar,
+        VarChar, ///< also text (-1)
         NChar,
-        NVarChar, ///< also sysname (128), ntext and text (-1)
+        NVarChar, ///< also sysname (128) and ntext (-1)
         VarBinary
     };
 

@@ -1,6 +1,7 @@
 #include "engine/values/Scalar.h"
 
 #include "engine/errors/ValueErrors.h"
+#include "engine/values/CodePage.h"
 #include "engine/values/Collation.h"
 #include "engine/values/Conversions.h"
 
@@ -30,7 +31,8 @@ bool holdsAll(const DataType& wide, const DataType& narrow) {
 Scalar toInteger(const Scalar& value, const ConversionRequest& request) {
     if (const auto* text = std::get_if<std::string>(&value)) {
         if (request.from.kind == Kind::DateTime) {
-            return engine::toInteger(std::floor(daysOf(*text) + 0.5), request.to);
+            return engine::toInteger(Decimal::of(static_cast<std::int64_t>(std::floor(daysOf(*text) + 0.5))),
+                                     request.to);
         }
         return engine::toInteger(*text, request.to, typeName(request.from).c_str());
     }
@@ -47,7 +49,7 @@ Scalar toBitValue(const Scalar& value, const ConversionRequest& request) {
         if (request.from.kind == Kind::DateTime) {
             return std::int64_t{daysOf(*text) != 0.0};
         }
-        return std::int64_t{toBit(*text)};
+        return engine::toInteger(*text, request.to);
     }
     return std::int64_t{numberOf(value) != 0.0};
 }
@@ -97,13 +99,28 @@ std::string textOf(const Scalar& value, const ConversionRequest& request) {
     return floatText(std::get<double>(value), request.style);
 }
 
-std::string fit(std::string text, const ConversionRequest& request) {
+/// What a text that is too short for a number shows of it: of the smaller integers an asterisk.
+std::string shownShort(const Scalar& value, const ConversionRequest& request) {
+    if (request.from.kind == Kind::Real || request.from.kind == Kind::Float) {
+        throw errors::floatOverflow(typeName(request.to),
+                                    printed(std::get<double>(value), std::chars_format::fixed, 6));
+    }
+    if (request.from.kind > Kind::Int || request.to.isNational()) {
+        throw errors::overflow("expression", typeName(request.to));
+    }
+    return "*";
+}
+
+std::string fit(std::string text, const Scalar& value, const ConversionRequest& request) {
     const int length = request.to.length;
+    if (request.from.isNational() && !request.to.isNational()) {
+        text = inCodePage(std::move(text));
+    }
     if (length < 0) {
         return text;
     }
     if (request.from.isNumber() && characters(text) > static_cast<std::size_t>(length)) {
-        throw errors::overflow("expression", typeName(request.to));
+        text = shownShort(value, request);
     }
     if (request.purpose == Purpose::Assignment) {
         text = std::string(fitText(text, length));
@@ -134,7 +151,8 @@ Scalar convertDecimal(const Scalar& value, const ConversionRequest& request) {
     if (target.isInteger()) {
         return engine::toInteger(request.from.isMoney() ? number.rounded(0) : number, target);
     }
-    return fit(request.from.isMoney() ? moneyText(number, request.style) : number.text(request.from.scale), request);
+    return fit(request.from.isMoney() ? moneyText(number, request.style) : number.text(request.from.scale), value,
+               request);
 }
 
 } // namespace
@@ -186,8 +204,11 @@ Scalar convert(Scalar value, const ConversionRequest& request) {
     case Kind::VarChar:
     case Kind::NChar:
     case Kind::NVarChar:
+        return fit(textOf(value, request), value, request);
     case Kind::VarBinary:
-        return fit(textOf(value, request), request);
+        throw request.from.isText() && request.purpose == Purpose::Assignment
+            ? errors::implicitConversion(typeName(request.from), typeName(request.to))
+            : errors::valueNotSupported("a conversion to varbinary");
     }
     return value;
 }
@@ -198,7 +219,7 @@ bool needsConversion(const DataType& from, const DataType& to, Purpose purpose) 
     }
     if (to.isText()) {
         const bool padded = to.kind == Kind::Char || to.kind == Kind::NChar;
-        if (!from.isText() || (padded && from != to)) {
+        if (!from.isText() || (padded && from != to) || (from.isNational() && !to.isNational())) {
             return true;
         }
         const bool fits = to.length < 0 || (from.length >= 0 && from.length <= to.length);

@@ -3,7 +3,6 @@
 
 #include <algorithm>
 #include <charconv>
-#include <cstdlib>
 
 namespace engine {
 
@@ -41,7 +40,8 @@ Scalar scalarOf(const Literal& literal, bool negated) {
         return nearest;
     }
     case Literal::Kind::Float: {
-        const double number = std::strtod(literal.text.c_str(), nullptr);
+        double number = 0; // which is what a number too small to be told from it stays
+        std::from_chars(literal.text.data(), literal.text.data() + literal.text.size(), number);
         return negated ? -number : number;
     }
     case Literal::Kind::Text:

@@ -110,8 +110,6 @@ TEST(ErrorTexts, OfDefinitions) {
 
 TEST(ErrorTexts, OfSessionsAndProcedures) {
     expectTexts({
-        {errors::parameterMissing("sp_columns", "@table_name"), 201, kStatement,
-         "Procedure or function 'sp_columns' expects parameter '@table_name', which was not supplied."},
         {errors::invalidObject("Object"), 208, kBatch, "Invalid object name 'Object'."},
         {errors::databaseMissing("Database"), 911, kBatch,
          "Database 'Database' does not exist. Make sure that the name is entered correctly."},

@@ -13,6 +13,8 @@ TEST(ErrorTexts, OfValues) {
     expectTexts({
         {errors::valueOverflow("Target", "Value"), 220, kBatch,
          "Arithmetic overflow error for data type Target, value = Value."},
+        {errors::floatOverflow("Target", "Value"), 232, kBatch,
+         "Arithmetic overflow error for type Target, value = Value."},
         {errors::moneyOfText(), 235, kBatch,
          "Cannot convert a char value to money. The char value has incorrect syntax."},
         {errors::dateConversion(), 241, kBatch,
@@ -26,6 +28,9 @@ TEST(ErrorTexts, OfValues) {
          "Conversion failed when converting the Type value 'Value' to data type Target."},
         {errors::textOverflowsInt("Source", "Value"), 248, kBatch,
          "The conversion of the Source value 'Value' overflowed an int column."},
+        {errors::implicitConversion("Source", "Target"), 257, kBatch,
+         "Implicit conversion from data type Source to Target is not allowed. Use the CONVERT function to run this "
+         "query."},
         {errors::dateStyleOfText(7, "Source"), 281, kBatch,
          "7 is not a valid style number when converting from Source to a character string."},
         {errors::conversionError("Source", "Target"), 8114, kBatch, "Error converting data type Source to Target."},
@@ -159,11 +164,16 @@ TEST(ErrorTexts, OfNamesAndTypes) {
          "of SELECT values must match the number of INSERT columns."},
         {errors::aggregateOfAggregate(), 130, kBatch,
          "Cannot perform an aggregate function on an expression containing an aggregate or a subquery."},
+        {errors::groupedByAggregate(), 144, kBatch,
+         "Cannot use an aggregate or a subquery in an expression used for the group by list of a GROUP BY clause."},
         {errors::aggregateMisplaced(), 147, kBatch,
          "An aggregate may not appear in the WHERE clause unless it is in a subquery contained in a "
          "HAVING clause or a select list, and the column being aggregated is an outer reference."},
         {errors::groupedByConstant(), 164, kBatch,
          "Each GROUP BY expression must contain at least one column that is not an outer reference."},
+        {errors::orderedTwice(), 169, kBatch,
+         "A column has been specified more than once in the order by list. Columns in the order by list must be "
+         "unique."},
         {errors::argumentCount("Function", 7), 174, kBatch, "The Function function requires 7 argument(s)."},
         {errors::unknownFunction("Name"), 195, kBatch, "'Name' is not a recognized built-in function name."},
         {errors::unionCountMismatch(), 205, kBatch,
@@ -182,6 +192,8 @@ TEST(ErrorTexts, OfNamesAndTypes) {
          "into a view, column aliasing can conceal the duplication in your code."},
         {errors::incompatibleTypes("Left", "Right", "Operation"), 402, kBatch,
          "The data types Left and Right are incompatible in the Operation operator."},
+        {errors::orderedByConstant(7), 408, kBatch,
+         "A constant expression was encountered in the ORDER BY list, position 7."},
         {errors::explicitIdentity("Table"), 544, kStatement,
          "Cannot insert explicit value for identity column in table 'Table' when IDENTITY_INSERT is set "
          "to OFF."},
@@ -189,6 +201,10 @@ TEST(ErrorTexts, OfNamesAndTypes) {
          "Explicit value must be specified for identity column in table 'Table' either when "
          "IDENTITY_INSERT is set to ON or when a replication user is inserting into a NOT FOR REPLICATION "
          "identity column."},
+        {errors::sameAlias("Alias"), 1011, kBatch,
+         "The correlation name 'Alias' is specified multiple times in a FROM clause."},
+        {errors::aliasOfTable("Alias", "Table"), 1012, kBatch,
+         "The correlation name 'Alias' has the same exposed name as table 'Table'."},
         {errors::sameExposedName("First", "Second"), 1013, kBatch,
          "The objects \"First\" and \"Second\" in the FROM clause have the same exposed names. Use "
          "correlation names to distinguish them."},
@@ -219,6 +235,7 @@ TEST(ErrorTexts, OfNamesAndTypes) {
         {errors::caseOfNulls(), 8133, kBatch,
          "At least one of the result expressions in a CASE specification must be an expression other than the NULL "
          "constant."},
+        {errors::ambiguousTable("Table"), 8154, kBatch, "The table 'Table' is ambiguous."},
         {errors::valuesCountMismatch(), 10709, kBatch,
          "The number of columns for each row in a table value constructor must be the same."},
         {errors::tooManyRows(), 10738, kBatch,

@@ -17,6 +17,7 @@ struct Case {
 const char* sampleOf(FunctionParameter::Kind kind) {
     switch (kind) {
     case FunctionParameter::Kind::Text:
+    case FunctionParameter::Kind::Written:
         return "'abc'";
     case FunctionParameter::Kind::Int:
         return "1";

@@ -12,6 +12,9 @@ constexpr Case kSettings[] = {
 constexpr Case kComparisons[] = {
 #include "engine/run/DocumentedComparisons.inc"
 };
+constexpr Case kJoins[] = {
+#include "engine/run/DocumentedJoins.inc"
+};
 constexpr Case kKeys[] = {
 #include "engine/run/DocumentedKeys.inc"
 };
@@ -47,19 +50,10 @@ constexpr Case kErrors[] = {
 };
 
 constexpr Kind kKinds[] = {
-    {"Settings", kSettings},
-    {"Comparisons", kComparisons},
-    {"Keys", kKeys},
-    {"Dates", kDates},
-    {"DateStyles", kDateStyles},
-    {"Nulls", kNulls},
-    {"Grouping", kGrouping},
-    {"Texts", kTexts},
-    {"Patterns", kPatterns},
-    {"Catalog", kCatalog},
-    {"Integers", kIntegers},
-    {"Identities", kIdentities},
-    {"Errors", kErrors},
+    {"Settings", kSettings},     {"Comparisons", kComparisons}, {"Joins", kJoins},     {"Keys", kKeys},
+    {"Dates", kDates},           {"DateStyles", kDateStyles},   {"Nulls", kNulls},     {"Grouping", kGrouping},
+    {"Texts", kTexts},           {"Patterns", kPatterns},       {"Catalog", kCatalog}, {"Integers", kIntegers},
+    {"Identities", kIdentities}, {"Errors", kErrors},
 };
 
 constexpr const char* kPreparations[] = {

@@ -14,7 +14,8 @@ class DocumentedMoney : public DocumentedTest {
 protected:
     DocumentedMoney() {
         run("CREATE TABLE voci (n int NOT NULL PRIMARY KEY, m money NULL, d decimal(19,4) NULL, v varchar(20) NULL)");
-        run("INSERT INTO voci VALUES (1, 1, 1, '1.5'), (2, 2.00005, 2, '$2'), (3, '$1,234.5', NULL, NULL)");
+        run("INSERT INTO voci VALUES (1, 1, 1, '1.5'), (2, 2.00005, 2, '$2')");
+        run("INSERT INTO voci VALUES (3, '$1,234.5', NULL, NULL)");
     }
 };
 

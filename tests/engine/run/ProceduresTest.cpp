@@ -40,14 +40,12 @@ TEST_F(Procedures, ADatabaseOptionIsSetAndRead) {
 }
 
 TEST_F(Procedures, ALaterServerHasNoProcedureForDatabaseOptions) {
-    EXPECT_EQ(rows("select serverproperty('ProductVersion'), @@version, @@microsoftversion"),
-              "8.00|Embedded server 8.00|134217728");
+    EXPECT_EQ(rows("select serverproperty('ProductVersion'), @@version"), "8.00|Embedded server 8.00");
     instance->setVersion(11);
     const char* missing = "!2812 Could not find stored procedure 'sp_dboption'.";
     EXPECT_EQ(answer(" sp_dboption N'prova', N'autoclose', N'true'"), missing);
     EXPECT_EQ(answer("sp_dboption"), missing);
-    EXPECT_EQ(rows("select serverproperty('ProductVersion'), @@version, @@microsoftversion"),
-              "11.00|Embedded server 11.00|184549376");
+    EXPECT_EQ(rows("select serverproperty('ProductVersion'), @@version"), "11.00|Embedded server 11.00");
     EXPECT_EQ(rows("sp_configure 'server version'").substr(0, 7), "!15123 ") << "no option of the server's own";
     instance->setVersion(8);
     EXPECT_EQ(answer(" sp_dboption N'prova', N'autoclose', N'true'"), "-");
@@ -101,15 +99,12 @@ TEST_F(Procedures, ADatabaseIsAltered) {
     EXPECT_EQ(answer("ALTER DATABASE prova"), "!102 Incorrect syntax near 'prova'.");
 }
 
-TEST_F(Procedures, TheListsOfTheServer) {
-    run("create table t (id int identity(1,1) not null primary key, b nvarchar(10) null)");
-    EXPECT_EQ(rows("sp_tables"), "prova|dbo|t|TABLE|NULL");
-    EXPECT_EQ(rows("sp_tables 'x%'"), "");
-    EXPECT_EQ(rows("sp_columns 't'"), "prova|dbo|t|id|int identity|NULL|0|NULL|1\nprova|dbo|t|b|nvarchar|10|1|NULL|2");
-    EXPECT_EQ(answer("sp_columns").substr(0, 5), "!201 ");
-    EXPECT_NE(rows("sp_databases").find("prova|"), std::string::npos);
-    EXPECT_EQ(answer("sp_tables 'a', 'b', 'c', 'd', 'e'").substr(0, 6), "!8144 ");
-    EXPECT_EQ(answer("sp_tables @manca = 'b'").substr(0, 6), "!8145 ");
+TEST_F(Procedures, OthersArentThereAndArgumentsAreChecked) {
+    for (const char* procedure : {"sp_tables", "sp_columns", "sp_databases", "sp_manca"}) {
+        EXPECT_EQ(answer(procedure), "!2812 Could not find stored procedure '" + std::string(procedure) + "'.");
+    }
+    EXPECT_EQ(answer("sp_configure 'a', 'b', 'c'").substr(0, 6), "!8144 ");
+    EXPECT_EQ(answer("sp_configure @manca = 'b'").substr(0, 6), "!8145 ");
 }
 
 TEST_F(Procedures, WhatIsPrintedIsAMessage) {

@@ -37,7 +37,7 @@ constexpr std::array kKinds = std::to_array<Kind>({
     {"AlterDatabase", "ALTER DATABASE prova SET AUTO_CLOSE ON", false, Names::Unchecked, RunBy::Definition},
     {"Use", "USE prova", false, Names::EndCheck, RunBy::Definition},
     {"SetOption", "SET DATEFORMAT dmy", false, Names::EndCheck, RunBy::Definition},
-    {"Execute", "EXEC sp_tables", false, Names::EndCheck, RunBy::Procedure},
+    {"Execute", "EXEC sp_configure", false, Names::EndCheck, RunBy::Procedure},
     {"Reconfigure", "RECONFIGURE", false, Names::Unchecked, RunBy::Definition},
     {"Transaction", "BEGIN TRANSACTION", false, Names::Unchecked, RunBy::Definition},
     {"If", "IF 1 = 1 SELECT a FROM t", false, Names::Unchecked, RunBy::Batch},

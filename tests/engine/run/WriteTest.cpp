@@ -80,10 +80,23 @@ TEST_F(Write, RefusalsHaveTheServersWords) {
 }
 
 TEST_F(Write, ValuesTakeTheTypeOfTheirColumn) {
+    run("insert into voci (codice, importo, giorno, chiuso, quante) values ('a    ', 2.345, '20201231', -1, '7')");
     run("insert into voci (codice, importo, giorno, chiuso, quante) values"
-        " ('a    ', 2.345, '20201231', -1, '7'), (12, '3', convert(datetime, '2004-3-7', 102), 'true', 2.9)");
+        " (12, '3', convert(datetime, '2004-3-7', 102), 'true', 2.9)");
     EXPECT_EQ(rows("select codice, importo, giorno, chiuso, quante from voci order by id"),
               "a    |2.35|2020-12-31 00:00:00.000|1|7\n12|3.00|2004-03-07 00:00:00.000|1|2");
+}
+
+TEST_F(Write, TheValuesOfSeveralRowsMeetInOneTypeBeforeTheColumns) {
+    run("insert into voci (codice, importo) values ('7 ', '2.50'), (8, 3), (N'9', default), ('10', 4.25)");
+    EXPECT_EQ(rows("select codice, importo from voci order by id"), "7|2.50\n8|3.00\n9|NULL\n10|4.25");
+    EXPECT_EQ(answer("insert into voci (codice) values ('a'), (12)"),
+              "!245 Conversion failed when converting the varchar value 'a' to data type int.");
+    EXPECT_EQ(answer("insert into voci (codice) values (12), ('b'), ('c')").substr(0, 4), "!245");
+    EXPECT_EQ(answer("insert into voci (codice) values ('a'), (convert(datetime, '20040307', 112))").substr(0, 4),
+              "!241");
+    run("insert into voci (codice) values ('a'), (N'b'), ('c')");
+    EXPECT_EQ(rows("select count(*) from voci"), "7");
 }
 
 TEST_F(Write, TheExcessOfTrailingBlanksIsCutInSilence) {

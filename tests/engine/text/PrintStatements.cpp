@@ -140,7 +140,7 @@ struct Printer {
         for (const auto& file : create.files) {
             list.add(ListText(file.log ? "log" : "file").add(file.logicalName).add(file.fileName).text());
         }
-        return list.addIf(!create.collation.empty(), create.collation).text();
+        return list.text();
     }
 
     std::string operator()(const AlterDatabase& alter) const {

@@ -79,16 +79,16 @@ TEST(IntegerOfText, NamesTheTypeItCameFrom) {
 }
 
 TEST(BitOfText, KnowsWordsAndNumbers) {
-    EXPECT_TRUE(toBit("TRUE"));
-    EXPECT_TRUE(toBit(" true "));
-    EXPECT_FALSE(toBit("False"));
-    EXPECT_TRUE(toBit("-1"));
-    EXPECT_TRUE(toBit("99999999999999999999"));
-    EXPECT_FALSE(toBit("000"));
-    EXPECT_FALSE(toBit(""));
-    EXPECT_EQ(errorOf([] { toBit("vero"); }),
+    EXPECT_EQ(toInteger("TRUE", type(Kind::Bit)), 1);
+    EXPECT_EQ(toInteger(" true ", type(Kind::Bit)), 1);
+    EXPECT_EQ(toInteger("False", type(Kind::Bit)), 0);
+    EXPECT_EQ(toInteger("-1", type(Kind::Bit)), 1);
+    EXPECT_EQ(toInteger("99999999999999999999", type(Kind::Bit)), 1);
+    EXPECT_EQ(toInteger("000", type(Kind::Bit)), 0);
+    EXPECT_EQ(toInteger("", type(Kind::Bit)), 0);
+    EXPECT_EQ(errorOf([] { toInteger("vero", type(Kind::Bit)); }),
               "245 Conversion failed when converting the varchar value 'vero' to data type bit.");
-    EXPECT_EQ(errorNumberOf([] { toBit("1.5"); }), 245);
+    EXPECT_EQ(errorNumberOf([] { toInteger("1.5", type(Kind::Bit)); }), 245);
 }
 
 TEST(IntegerOfNumber, IsCutNotRounded) {
@@ -102,9 +102,12 @@ TEST(IntegerOfNumber, IsCutNotRounded) {
 
 TEST(IntegerOfNumber, OutsideTheRangeIsRefused) {
     const std::string overflow = "8115 Arithmetic overflow error converting expression to data type ";
-    EXPECT_EQ(errorOf([] { toInteger(2147483648.0, type(Kind::Int)); }), overflow + "int.");
+    EXPECT_EQ(errorOf([] { toInteger(2147483648.5, type(Kind::Int)); }),
+              "232 Arithmetic overflow error for type int, value = 2147483648.500000.");
+    EXPECT_EQ(errorOf([] { toInteger(-1.0, type(Kind::TinyInt)); }),
+              "232 Arithmetic overflow error for type tinyint, value = -1.000000.");
     EXPECT_EQ(errorOf([] { toInteger(0x1p63, type(Kind::BigInt)); }), overflow + "bigint.");
-    EXPECT_EQ(errorOf([] { toInteger(std::nan(""), type(Kind::Int)); }), overflow + "int.");
+    EXPECT_EQ(errorOf([] { toInteger(std::nan(""), type(Kind::BigInt)); }), overflow + "bigint.");
     EXPECT_EQ(errorOf([] { toInteger(std::int64_t{2147483648}, type(Kind::Int)); }), overflow + "int.");
     EXPECT_EQ(errorOf([] { toInteger(std::int64_t{300}, type(Kind::TinyInt)); }),
               "220 Arithmetic overflow error for data type tinyint, value = 300.");

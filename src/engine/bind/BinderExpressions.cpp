@@ -210,7 +210,9 @@ bound::ExpressionPtr Binder::node(const In& in) {
         const DataType common =
             comparable(nulls ? operand->type : commonType(operand->type, select->columns.front().type));
         for (bound::Core& core : select->cores) {
-            core.items.front() = convertTo(std::move(core.items.front()), common, Purpose::Cast);
+            // The storage would take an index for the rows, and miss the nulls of a descending one.
+            core.items.front() =
+                bound::prefix("+", convertTo(std::move(core.items.front()), common, Purpose::Cast), common);
         }
         operand = collated(convertTo(std::move(operand), common, Purpose::Cast));
         result->node = bound::Subselect{bound::Subselect::Kind::In, std::move(operand), std::move(select)};

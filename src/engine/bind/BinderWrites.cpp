@@ -219,6 +219,7 @@ bound::Statement Binder::bind(const Update& update) {
     if (update.where) {
         result.where = expression(*update.where);
     }
+    result.selects = selects_;
     return result;
 }
 
@@ -235,6 +236,7 @@ bound::Statement Binder::bind(const Delete& remove) {
     if (remove.where) {
         result.where = expression(*remove.where);
     }
+    result.selects = selects_;
     return result;
 }
 

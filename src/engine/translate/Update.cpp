@@ -51,7 +51,7 @@ Text updateFrom(const bound::Update& update, std::int64_t most) {
 } // namespace
 
 Text update(const bound::Update& update, std::int64_t most) {
-    if (!update.from.empty() || most != 0) {
+    if (!update.from.empty() || most != 0 || update.selects) {
         return updateFrom(update, most);
     }
     Text text("UPDATE " + stored::qualifiedTable(update.table.schema, update.table.info->name) + " AS " +

@@ -56,7 +56,7 @@ void StatementMaker::condition(int depth) {
     case 2:
         return comparison(depth);
     case 3:
-        value(depth - 1);
+        once(8) && !visible_.empty() ? word(visible_.back() + ".y") : value(depth - 1);
         return anyWord(" is null", " is not null");
     case 4:
         text(depth - 1);

@@ -39,13 +39,13 @@ std::string Draft::drawnCalmly(Slot slot, Dice& dice) const {
     case Slot::Word:
         break;
     case Slot::Integer:
-        return dice.from(kIntegers);
+        return dice.once(20) ? dice.from(kWideIntegers) : dice.from(kIntegers);
     case Slot::Divisor:
         return dice.oneOf("1", "2", "3", "7");
     case Slot::Decimal:
-        return dice.from(kDecimals);
+        return dice.once(12) ? dice.from(kWideDecimals) : dice.from(kDecimals);
     case Slot::Float:
-        return dice.from(kFloats);
+        return dice.once(12) ? dice.from(kWideFloats) : dice.from(kFloats);
     case Slot::Text:
         return quoted(dice.from(kTexts));
     case Slot::NationalText:

@@ -301,7 +301,7 @@ std::string StatementMaker::exactNumber(std::vector<std::string> sources) {
 }
 
 std::string StatementMaker::anyColumn(const std::string& source) {
-    constexpr std::string_view kAll = "itsgdembwfrcvknqz";
+    constexpr std::string_view kAll = "itsgdembwfrcvknqyz";
     return source + "." + kAll[static_cast<std::size_t>(below(static_cast<int>(kAll.size())))];
 }
 

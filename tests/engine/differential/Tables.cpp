@@ -11,7 +11,7 @@ namespace {
 constexpr const char* kColumns =
     "(id int not null, b bit null, t tinyint null, s smallint null, i int null, g bigint null, e decimal(18,0) null,"
     " d decimal(9,3) null, m money null, r real null, f float null, q datetime null, c char(8) null,"
-    " v varchar(20) null, k nchar(6) null, n nvarchar(20) null, x nvarchar(max) null, w varchar(12) null,"
+    " v varchar(20) null, k nchar(6) null, n nvarchar(20) null, x nvarchar(max) null, y varbinary(8) null, w varchar(12) null,"
     " z varchar(24) null)";
 
 std::string signedOf(Dice& dice, std::string number) {
@@ -19,25 +19,29 @@ std::string signedOf(Dice& dice, std::string number) {
 }
 
 /// The values of a row in the order of the columns.
-std::string row(Dice& dice, int id) {
+std::string row(Dice& dice, int id, bool wide) {
     const auto text = [&] { return dice.oneOf("", "N") + quoted(dice.from(kTexts)); };
+    const auto number = [&](const auto& usual, const auto& odd) {
+        return signedOf(dice, wide && dice.once(3) ? dice.from(odd) : dice.from(usual));
+    };
     const std::string values[] = {
         dice.oneOf("0", "1"),
         dice.from(kIntegers),
         signedOf(dice, dice.from(kIntegers)),
-        signedOf(dice, dice.from(kIntegers)),
-        dice.once(5) ? "4000000000" : signedOf(dice, dice.from(kIntegers)),
-        signedOf(dice, dice.from(kIntegers)),
+        wide && dice.once(4) ? "2147483647" : signedOf(dice, dice.from(kIntegers)),
+        number(kIntegers, kWideIntegers),
+        wide && dice.once(4) ? "123456789012345" : signedOf(dice, dice.from(kIntegers)),
         signedOf(dice, dice.from(kDecimals)),
-        signedOf(dice, dice.from(kDecimals)),
-        signedOf(dice, dice.from(kFloats)),
-        signedOf(dice, dice.from(kFloats)),
+        number(kDecimals, kWideDecimals),
+        number(kFloats, kDecimals),
+        number(kFloats, kWideFloats),
         quoted(dice.from(kDates)),
         text(),
         text(),
         text(),
         text(),
         text(),
+        "cast(" + quoted(dice.from(kNumberTexts)) + " as varbinary(8))",
         quoted(dice.from(kNumberTexts)),
         quoted(dice.from(kDates)),
     };
@@ -54,13 +58,14 @@ std::vector<std::string> tables(Dice& dice) {
     std::vector<std::string> statements;
     for (const std::string name : {"t", "u"}) {
         statements.push_back("create table " + name + " " + kColumns);
+        const bool wide = dice.once(3);
         const int rows = dice.once(12) ? 0 : 3 + dice.below(15);
         if (rows == 0) {
             continue;
         }
         std::string insert = "insert into " + name + " values ";
         for (int id = 1; id <= rows; ++id) {
-            insert += (id == 1 ? "" : ", ") + row(dice, id);
+            insert += (id == 1 ? "" : ", ") + row(dice, id, wide);
         }
         statements.push_back(insert);
     }
@@ -75,7 +80,7 @@ std::vector<IndexStatement> indexes(Dice& dice) {
         }
         for (int number = dice.below(5); number >= 0; --number) {
             const bool unique = dice.once(2);
-            std::string letters = "btsigedmrfqcvknwz";
+            std::string letters = "btsigedmrfqcvknwyz";
             std::string plain;
             std::string ordered;
             for (int columns = 1 + dice.below(unique ? 3 : 2); columns > 0; --columns) {

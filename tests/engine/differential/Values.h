@@ -9,8 +9,12 @@ namespace engine::differential {
 
 inline constexpr std::string_view kIntegers[] = {"0", "1", "2", "3", "5", "12", "100"};
 inline constexpr std::string_view kDecimals[] = {"0.5", "1.5", "2.250", "12.00", "0.125", "1.0", "3.75", "100.001"};
-/// Sums of them have no rounding, in whatever order they are added.
-inline constexpr std::string_view kFloats[] = {"1e0", "25e-1", "1.25e1", "5e-1", "2e0", "125e-3"};
+inline constexpr std::string_view kFloats[] = {"1e0", "25e-1", "1.25e1", "5e-1", "2e0", "125e-3", "1e-1"};
+/// At the end of a type, or next to what a double tells apart.
+inline constexpr std::string_view kWideIntegers[] = {"2147483647", "9007199254740993", "9007199254740992",
+                                                     "9223372036854775807", "4000000000"};
+inline constexpr std::string_view kWideDecimals[] = {"9223372036.8547", "12345678901.2345", "0.1", "123456789012.0"};
+inline constexpr std::string_view kWideFloats[] = {"9007199254740992e0", "1e300", "123456789012345e-3", "3e-300"};
 inline constexpr std::string_view kNumberTexts[] = {"1", " 2", "12 ", "-3", "007", "5", "0"};
 inline constexpr std::string_view kDates[] = {
     "20040307", "2004-03-07", "20040307 10:30", "19991231 23:59:59.997", "20040229", "20050101 00:00:00.003"};

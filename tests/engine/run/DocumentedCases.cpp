@@ -42,6 +42,9 @@ constexpr Case kIntegers[] = {
 constexpr Case kIdentities[] = {
 #include "engine/run/DocumentedIdentities.inc"
 };
+constexpr Case kWrites[] = {
+#include "engine/run/DocumentedWrites.inc"
+};
 constexpr Case kErrors[] = {
 #include "engine/run/DocumentedErrors.inc"
 };
@@ -59,6 +62,7 @@ constexpr Kind kKinds[] = {
     {"Catalog", kCatalog},
     {"Integers", kIntegers},
     {"Identities", kIdentities},
+    {"Writes", kWrites},
     {"Errors", kErrors},
 };
 

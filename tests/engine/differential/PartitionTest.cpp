@@ -179,7 +179,50 @@ public:
         return true;
     }
 
+    /// An UPDATE stores what a SELECT of the same values shows before it.
+    bool ofAssignments(Dice& dice) {
+        StatementMaker maker(dice, Manner::Calm);
+        const auto [column, type] =
+            kColumns[static_cast<std::size_t>(dice.below(static_cast<int>(std::size(kColumns))))];
+        const std::string value = maker.valueFor(column, {"t"});
+        const std::string where = " where " + maker.condition({"t"});
+        const std::string select = "select t.id, cast(" + value + " as " + type + ") from t" + where;
+        const std::string update = std::string("update t set ") + column + " = " + value + where;
+        const auto before = answered(select);
+        const auto others = answered("select t.id, t." + std::string(column) + " from t");
+        if (!before || !others) {
+            return false;
+        }
+        ask(*on_, "begin transaction");
+        const Answer written = ask(*on_, update);
+        const auto after = answered("select t.id, t." + std::string(column) + " from t");
+        ask(*on_, "rollback");
+        EXPECT_FALSE(written.broken()) << script() << update << "\n" << written.told();
+        if (written.refused()) {
+            return false;
+        }
+        Answer wanted = *others;
+        for (Answer::Row& row : wanted.rows) {
+            for (const Answer::Row& changed : before->rows) {
+                row = row[0] == changed[0] ? changed : row;
+            }
+        }
+        EXPECT_EQ(after->rowsTold(false, true), wanted.rowsTold(false, true)) << script() << select << "\n"
+                                                                              << before->told() << update << "\n"
+                                                                              << after->told();
+        return true;
+    }
+
 private:
+    struct TypedColumn {
+        const char* column;
+        const char* type;
+    };
+    static constexpr TypedColumn kColumns[] = {
+        {"i", "int"},           {"s", "smallint"},    {"d", "decimal(9,3)"}, {"m", "money"},   {"f", "float"},
+        {"q", "datetime"},      {"v", "varchar(20)"}, {"n", "nvarchar(20)"}, {"c", "char(8)"}, {"g", "bigint"},
+        {"e", "decimal(18,0)"}, {"r", "real"},        {"b", "bit"}};
+
     Session* on_ = nullptr;
 };
 
@@ -195,7 +238,8 @@ TEST_F(Partition, GivesAllRowsOnce) {
                   {&Partition::ofOuterJoins, "conditions of outer joins", {}},
                   {&Partition::ofGroups, "conditions of groups", {}},
                   {&Partition::ofSums, "sums of parts", {}},
-                  {&Partition::ofWrites, "conditions of writes", {}}};
+                  {&Partition::ofWrites, "conditions of writes", {}},
+                  {&Partition::ofAssignments, "values of updates", {}}};
     repeat(30, [&](Dice& dice) {
         prepare(dice);
         constexpr int kConditions = 8;

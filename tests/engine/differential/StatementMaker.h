@@ -27,6 +27,8 @@ public:
     std::string groupCondition(const std::string& column);
     /// A sum that doesn't depend on the order of the rows.
     std::string exactNumber(std::vector<std::string> sources);
+    /// What may be stored in the column.
+    std::string valueFor(const std::string& column, std::vector<std::string> sources);
     std::string anyColumn(const std::string& source);
 
 private:

@@ -68,6 +68,12 @@ void StatementMaker::assigned(const std::string& column) {
     }
 }
 
+std::string StatementMaker::valueFor(const std::string& column, std::vector<std::string> sources) {
+    visible_ = std::move(sources);
+    assigned(column);
+    return finished().spelled(dice_);
+}
+
 void StatementMaker::update() {
     visible_ = {"t"};
     word("update t set ");

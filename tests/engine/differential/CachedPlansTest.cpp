@@ -26,7 +26,7 @@ protected:
 TEST_F(CachedPlans, AnswerAsPlansMadeAnew) {
     Tally answers;
     int found = 0;
-    repeat(40, [&](Dice& dice) {
+    repeat(60, [&](Dice& dice) {
         makeTables(dice);
         constexpr int kStatements = 40;
         for (int i = 0; i < kStatements; ++i) {

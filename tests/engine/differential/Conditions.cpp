@@ -4,12 +4,25 @@
 
 namespace engine::differential {
 
+namespace {
+
+constexpr StatementMaker::Negatable kCompared[] = {{" = ", " <> "}, {" = ", " <> "}, {" <> ", " = "}, {" < ", " >= "},
+                                                   {" <= ", " > "}, {" > ", " <= "}, {" >= ", " < "}, {" = ", " <> "}};
+constexpr StatementMaker::Negatable kLike{" like ", " not like "};
+constexpr StatementMaker::Negatable kNotLike{" not like ", " like "};
+constexpr StatementMaker::Negatable kIn{" in (", " not in ("};
+constexpr StatementMaker::Negatable kNotIn{" not in (", " in ("};
+constexpr StatementMaker::Negatable kBetween{" between ", " not between "};
+constexpr StatementMaker::Negatable kNotBetween{" not between ", " between "};
+
+} // namespace
+
 template<class Items>
 void StatementMaker::inner(Items items, int depth) {
     const std::string alias = "s" + std::to_string(++inners_);
     visible_.push_back(alias);
     items();
-    word(dice_.oneOf(" from t as ", " from u as ", " from u as ") + alias);
+    word(dice_.oneOf(" from t as ", " from u as ") + alias);
     if (!once(3)) {
         word(" where ");
         if (visible_.size() > 1 && once(2)) {
@@ -49,23 +62,46 @@ std::string StatementMaker::groupCondition(const std::string& column) {
     return finished().spelled(dice_);
 }
 
+std::pair<std::string, std::string> StatementMaker::inTwoWords(std::vector<std::string> sources) {
+    const Dice same = dice_;
+    std::string usual = condition(sources);
+    const Dice behind = std::exchange(dice_, same);
+    otherWords_ = true;
+    std::string other = condition(std::move(sources));
+    otherWords_ = false;
+    dice_ = behind;
+    return {std::move(usual), std::move(other)};
+}
+
+/// A condition that may be put in other words: `x <> 1` as `not (x = 1)`.
+template<class Operand, class Rest>
+void StatementMaker::negatable(const Negatable& words, Operand operand, Rest rest) {
+    word(otherWords_ ? "not (" : "");
+    operand();
+    word(otherWords_ ? words.opposite : words.usual);
+    rest();
+    word(otherWords_ ? ")" : "");
+}
+
 void StatementMaker::condition(int depth) {
     switch (below(depth <= 0 ? 5 : 12)) {
     case 0:
     case 1:
     case 2:
         return comparison(depth);
-    case 3:
-        once(8) && !visible_.empty() ? word(visible_.back() + ".y") : value(depth - 1);
-        return anyWord(" is null", " is not null");
-    case 4:
-        text(depth - 1);
-        anyWord(" like ", " like ", " not like ");
-        slot(Slot::Pattern);
-        if (once(5)) {
-            word(" escape '_'");
-        }
-        return;
+    case 3: {
+        const auto operand = [&] { once(8) && !visible_.empty() ? word(visible_.back() + ".y") : value(depth - 1); };
+        return once(2) ? negatable({" is null", " is not null"}, operand, [] {})
+                       : negatable({" is not null", " is null"}, operand, [] {});
+    }
+    case 4: {
+        const auto rest = [&] {
+            slot(Slot::Pattern);
+            word(once(5) ? " escape '_'" : "");
+        };
+        return negatable(
+            once(2) ? kLike : kNotLike, [&] { text(depth - 1); }, rest);
+    }
     case 5:
         return inList(depth);
     case 6:
@@ -73,73 +109,69 @@ void StatementMaker::condition(int depth) {
     case 7: {
         const bool dates = once(4);
         const auto bound = [&] { dates ? date(depth - 1) : number(depth - 1); };
-        bound();
-        anyWord(" between ", " not between ");
-        bound();
-        word(" and ");
-        return bound();
+        return negatable(once(2) ? kBetween : kNotBetween, bound, [&] {
+            bound();
+            word(" and ");
+            bound();
+        });
     }
     case 8:
         word("not (");
         condition(depth - 1);
         return word(")");
-    default:
-        word("(");
+    default: {
+        const bool both = once(2);
+        word(otherWords_ ? "not (not (" : "(");
         condition(depth - 1);
-        anyWord(" and ", " or ");
+        word(otherWords_ ? both ? ") or not (" : ") and not (" : both ? " and " : " or ");
         condition(depth - 1);
-        return word(")");
+        return word(otherWords_ ? "))" : ")");
+    }
     }
 }
 
 void StatementMaker::comparison(int depth) {
-    const auto compared = [&] { anyWord(" = ", " = ", " = ", " < ", " <= ", " > ", " >= ", " <> "); };
+    const Negatable words = kCompared[static_cast<std::size_t>(below(static_cast<int>(std::size(kCompared))))];
     if (wild() && once(3)) {
-        value(depth - 1);
-        compared();
-        return value(depth - 1);
+        return negatable(
+            words, [&] { value(depth - 1); }, [&] { value(depth - 1); });
     }
     switch (below(9)) {
     case 0:
     case 1:
     case 2:
-        number(depth - 1);
-        compared();
-        return once(2) ? plainNumber() : number(depth - 1);
+        return negatable(
+            words, [&] { number(depth - 1); }, [&] { once(2) ? plainNumber() : number(depth - 1); });
     case 3:
     case 4:
     case 5:
-        text(depth - 1);
-        compared();
-        return once(2) ? plainText() : text(depth - 1);
+        return negatable(
+            words, [&] { text(depth - 1); }, [&] { once(2) ? plainText() : text(depth - 1); });
     case 6:
         // A text that is a number: the number's type rules.
-        visible_.empty() ? slot(Slot::NumberText) : word(visible_.back() + ".w");
-        compared();
-        return slot(Slot::Integer);
+        return negatable(
+            words, [&] { visible_.empty() ? slot(Slot::NumberText) : word(visible_.back() + ".w"); },
+            [&] { slot(Slot::Integer); });
     case 7:
-        date(depth - 1);
-        compared();
-        return once(2) || visible_.empty() ? slot(Slot::DateText) : word(visible_.back() + ".z");
+        return negatable(
+            words, [&] { date(depth - 1); },
+            [&] { once(2) || visible_.empty() ? slot(Slot::DateText) : word(visible_.back() + ".z"); });
     default:
-        date(depth - 1);
-        compared();
-        return date(depth - 1);
+        return negatable(
+            words, [&] { date(depth - 1); }, [&] { date(depth - 1); });
     }
 }
 
 void StatementMaker::inList(int depth) {
     const int kind = below(3);
     const auto one = [&](int deep) { kind == 0 ? number(deep) : kind == 1 ? text(deep) : date(deep); };
-    one(depth - 1);
-    anyWord(" in (", " in (", " not in (");
-    list(1 + below(3), [&] {
-        once(3) ? one(depth - 1) : slot(kind == 0 ? Slot::Integer : kind == 1 ? Slot::Text : Slot::DateText);
-    });
-    if (once(6)) {
-        word(", null");
-    }
-    word(")");
+    const Slot literal = kind == 0 ? Slot::Integer : kind == 1 ? Slot::Text : Slot::DateText;
+    negatable(
+        once(2) ? kIn : kNotIn, [&] { one(depth - 1); },
+        [&] {
+            list(1 + below(3), [&] { once(3) ? one(depth - 1) : slot(literal); });
+            word(once(6) ? ", null)" : ")");
+        });
 }
 
 void StatementMaker::subselect(int depth) {
@@ -148,12 +180,23 @@ void StatementMaker::subselect(int depth) {
         inner([&] { value(0); }, depth - 1);
         return word(")");
     }
+    const Negatable words = once(2) ? kIn : kNotIn;
+    if (once(3) && !visible_.empty()) {
+        // Nothing but a column on both sides: an index may answer this.
+        const std::string column(1, "itgdvcnq"[below(8)]);
+        return negatable(
+            words, [&] { word(visible_.back() + "." + column); },
+            [&] { word("select " + column + dice_.oneOf(" from t)", " from u)")); });
+    }
     const int kind = below(3);
     const auto one = [&](int deep) { kind == 0 ? number(deep) : kind == 1 ? text(deep) : date(deep); };
-    one(depth - 1);
-    anyWord(" in (select ", " not in (select ");
-    inner([&] { one(0); }, depth - 1);
-    word(")");
+    negatable(
+        words, [&] { one(depth - 1); },
+        [&] {
+            word("select ");
+            inner([&] { one(0); }, depth - 1);
+            word(")");
+        });
 }
 
 void StatementMaker::having(const std::vector<std::string>& columns, int depth) {

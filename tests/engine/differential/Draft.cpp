@@ -78,6 +78,9 @@ std::string Draft::drawnWildly(Slot slot, Dice& dice) const {
     case Slot::Divisor:
         return dice.once(3) ? dice.digits(1, 9) : std::to_string(dice.below(5));
     case Slot::Decimal:
+        if (dice.once(8)) {
+            return drawnWildly(Slot::Float, dice);
+        }
         // Whole numbers over those of int count among the decimals too.
         return dice.once(6) ? "3" + dice.digits(9, 20) : dice.digits(0, 4) + "." + dice.digits(1, 6);
     case Slot::Float:

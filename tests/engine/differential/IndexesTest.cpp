@@ -86,7 +86,7 @@ private:
 TEST_F(Indexes, ChangeNoAnswer) {
     Tally selects;
     Tally writes;
-    repeat(30, [&](Dice& dice) {
+    repeat(80, [&](Dice& dice) {
         makeTables(dice);
         makeIndexes(dice);
         constexpr int kStatements = 60;

@@ -5,6 +5,7 @@
 #include "engine/differential/Draft.h"
 
 #include <string>
+#include <utility>
 #include <vector>
 
 namespace engine::differential {
@@ -23,6 +24,8 @@ public:
 
     /// A condition over rows of these sources.
     std::string condition(std::vector<std::string> sources);
+    /// The same condition twice, the second time in other words: `not (x = 1 or y = 2)` for `x <> 1 and y <> 2`.
+    std::pair<std::string, std::string> inTwoWords(std::vector<std::string> sources);
     /// A condition over groups by this column of the source `a1`, given with its alias.
     std::string groupCondition(const std::string& column);
     /// A sum that doesn't depend on the order of the rows.
@@ -30,6 +33,12 @@ public:
     /// What may be stored in the column.
     std::string valueFor(const std::string& column, std::vector<std::string> sources);
     std::string anyColumn(const std::string& source);
+
+    /// What stands between two operands, and what does so for the opposite.
+    struct Negatable {
+        const char* usual;
+        const char* opposite;
+    };
 
 private:
     using Slot = Draft::Slot;
@@ -69,6 +78,8 @@ private:
     void comparison(int depth);
     void inList(int depth);
     void subselect(int depth);
+    template<class Operand, class Rest>
+    void negatable(const Negatable& words, Operand operand, Rest rest);
     void having(const std::vector<std::string>& columns, int depth);
     /// What stands between the brackets of a subselect: its source is visible in it.
     template<class Items>
@@ -100,6 +111,7 @@ private:
     bool exact_ = false;      ///< no float
     bool aggregated_ = false; ///< no SELECT
     bool inOrder_ = false;
+    bool otherWords_ = false;
 };
 
 } // namespace engine::differential

@@ -37,6 +37,9 @@ void StatementMaker::assigned(const std::string& column) {
     if (once(8)) {
         return word("null");
     }
+    if (!visible_.empty() && once(4) && column.find_first_of("idmfg") == 0) {
+        return scalarSelect(2);
+    }
     switch (column[0]) {
     case 'v':
     case 'n':

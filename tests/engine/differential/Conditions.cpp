@@ -62,6 +62,32 @@ std::string StatementMaker::groupCondition(const std::string& column) {
     return finished().spelled(dice_);
 }
 
+std::string StatementMaker::lateSelect() {
+    visible_ = {"t"};
+    word("(t.id <= ");
+    slot(Slot::Place);
+    word(" or ");
+    const std::string kinds = dice_.oneOf("ii", "gd", "dm", "tt", "is");
+    switch (below(3)) {
+    case 0:
+        word(std::string("t.") + kinds[0] + dice_.oneOf(" < ", " = ", " > ") +
+             dice_.oneOf("(select min(", "(select max(", "(select avg(", "(select sum(") + "s." + kinds[1] +
+             ") from t as s)");
+        break;
+    case 1:
+        anyWord("exists", "not exists");
+        word(" (select 1 from t as s where s.id <= ");
+        slot(Slot::Place);
+        word(")");
+        break;
+    default:
+        word(std::string("t.") + kinds[0] + dice_.oneOf(" in ", " not in ") + "(select s." + kinds[1] +
+             " from t as s where s.id > 0)");
+    }
+    word(")");
+    return finished().spelled(dice_);
+}
+
 std::pair<std::string, std::string> StatementMaker::inTwoWords(std::vector<std::string> sources) {
     const Dice same = dice_;
     std::string usual = condition(sources);
@@ -181,7 +207,7 @@ void StatementMaker::subselect(int depth) {
         return word(")");
     }
     const Negatable words = once(2) ? kIn : kNotIn;
-    if (once(3) && !visible_.empty()) {
+    if (once(2) && !visible_.empty()) {
         // Nothing but a column on both sides: an index may answer this.
         const std::string column(1, "itgdvcnq"[below(8)]);
         return negatable(

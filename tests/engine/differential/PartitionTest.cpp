@@ -166,8 +166,10 @@ public:
 
     /// A DELETE leaves the rows of the two other parts, an UPDATE changes its own.
     bool ofWrites(Dice& dice) {
-        const std::string p = StatementMaker(dice, Manner::Calm).condition({"t"});
-        const int part = dice.below(kParts);
+        StatementMaker maker(dice, Manner::Calm);
+        const bool late = dice.once(2);
+        const std::string p = late ? maker.lateSelect() : maker.condition({"t"});
+        const int part = late ? 0 : dice.below(kParts);
         const bool removes = dice.once(2);
         const std::string write =
             (removes ? "delete from t where " : "update t set x = 'changed' where ") + inPart(p, part);

@@ -26,6 +26,8 @@ public:
     std::string condition(std::vector<std::string> sources);
     /// The same condition twice, the second time in other words: `not (x = 1 or y = 2)` for `x <> 1 and y <> 2`.
     std::pair<std::string, std::string> inTwoWords(std::vector<std::string> sources);
+    /// A condition over rows of `t` whose SELECT is first looked at when some rows were already found true.
+    std::string lateSelect();
     /// A condition over groups by this column of the source `a1`, given with its alias.
     std::string groupCondition(const std::string& column);
     /// A sum that doesn't depend on the order of the rows.

@@ -80,15 +80,16 @@ std::vector<IndexStatement> indexes(Dice& dice) {
         }
         for (int number = dice.below(5); number >= 0; --number) {
             const bool unique = dice.once(2);
-            std::string letters = "btsigedmrfqcvknwyz";
+            std::string letters = "itgdvcnqbsemrfkwyz"; // the first ones are compared more often
             std::string plain;
             std::string ordered;
             for (int columns = 1 + dice.below(unique ? 3 : 2); columns > 0; --columns) {
-                const auto place = static_cast<std::size_t>(dice.below(static_cast<int>(letters.size())));
+                const int limit = dice.once(2) ? 8 : static_cast<int>(letters.size());
+                const auto place = static_cast<std::size_t>(dice.below(limit));
                 const std::string column(1, letters[place]);
                 letters.erase(place, 1);
                 plain += (plain.empty() ? "" : ", ") + column;
-                ordered += (ordered.empty() ? "" : ", ") + column + dice.oneOf("", "", " desc");
+                ordered += (ordered.empty() ? "" : ", ") + column + dice.oneOf("", " desc");
             }
             const std::string name = "ix" + std::to_string(number) + table;
             const std::string text =

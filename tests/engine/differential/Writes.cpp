@@ -38,7 +38,11 @@ void StatementMaker::assigned(const std::string& column) {
         return word("null");
     }
     if (!visible_.empty() && once(4) && column.find_first_of("idmfg") == 0) {
-        return scalarSelect(2);
+        if (once(2)) {
+            return scalarSelect(2);
+        }
+        return word("(select max(s." + column + ") from t as s where s.id " + dice_.oneOf("< ", "<> ", "> ") +
+                    visible_.back() + ".id)");
     }
     switch (column[0]) {
     case 'v':

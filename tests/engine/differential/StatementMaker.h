@@ -97,6 +97,7 @@ private:
     void whole();
     void unions();
     void distinct();
+    void derived();
     void update();
     void updateFrom();
     void insertRows();

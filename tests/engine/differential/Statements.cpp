@@ -11,7 +11,10 @@ Draft StatementMaker::any() {
 
 Draft StatementMaker::select() {
     inOrder_ = false;
-    switch (below(9)) {
+    switch (below(10)) {
+    case 9:
+        derived();
+        break;
     case 0:
     case 1:
         groups();
@@ -106,7 +109,7 @@ void StatementMaker::where() {
 }
 
 void StatementMaker::top() {
-    if (inOrder_ && once(3)) {
+    if ((inOrder_ || wild()) && once(3)) {
         word("top ");
         slot(Slot::Place);
         word(" ");
@@ -124,6 +127,10 @@ void StatementMaker::plainSelect() {
     top();
     list(1 + below(3), [this] { value(2); });
     from(sources);
+    if (wild() && !inOrder_ && once(3)) {
+        word(" order by ");
+        return slot(Slot::Place);
+    }
     if (inOrder_) {
         word(" order by ");
         for (int keys = below(3); keys > 0; --keys) {
@@ -223,6 +230,9 @@ void StatementMaker::unions() {
             anyWord(" union ", " union all ");
         }
         word("select ");
+        if (wild()) {
+            top();
+        }
         visible_ = {"a1"};
         list(columns, [&, at = 0]() mutable {
             const char kind = kinds[static_cast<std::size_t>(at++)];
@@ -235,6 +245,25 @@ void StatementMaker::unions() {
     if (inOrder_) {
         word(columns == 1 ? " order by 1" : dice_.oneOf(" order by 1, 2", " order by 2 desc, 1"));
     }
+}
+
+void StatementMaker::derived() {
+    word("select x.a, x.b + ");
+    plainNumber();
+    word(" from (select ");
+    visible_ = {"a1"};
+    number(2);
+    word(" as a, ");
+    number(2);
+    word(dice_.oneOf(" as b from t as a1", " as b from u as a1"));
+    where();
+    word(") as x");
+    if (once(2)) {
+        word(" where x.a = ");
+        visible_.clear();
+        plainNumber();
+    }
+    word(wild() && once(2) ? " order by 1" : "");
 }
 
 void StatementMaker::distinct() {

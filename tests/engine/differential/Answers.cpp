@@ -33,7 +33,7 @@ bool Answer::refusedAsDouble() const {
 }
 
 bool Answer::broken() const {
-    return error == 8630;
+    return isOneOf(error, {823, 8630});
 }
 
 std::string Answer::told() const {

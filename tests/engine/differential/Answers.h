@@ -25,7 +25,7 @@ struct Answer {
     /// The statement was accepted and a value of some row refused: which rows are looked at is the plan's choice.
     bool refusedInARow() const;
     bool refusedAsDouble() const;
-    /// An error of the engine itself.
+    /// An error of the engine or its storage.
     bool broken() const;
 
     /// Names, types, rows in their order, and the error: all that a client is told.

@@ -17,7 +17,7 @@ namespace engine::differential {
 /// VABO_DIFFERENTIAL_ROUNDS their number, VABO_DIFFERENTIAL_SECONDS a time in the place of a number.
 class DifferentialTest : public SessionTest {
 protected:
-    /// Statements asked and answered; a test that is refused everywhere compares nothing.
+    /// Of what was asked, what could be compared; a test whose statements are all refused compares nothing.
     struct Tally {
         int asked = 0;
         int answered = 0;
@@ -57,8 +57,8 @@ protected:
         std::cout << done << " rounds" << std::endl;
     }
 
-    /// At least so many of a hundred were answered.
-    void expectAnswered(const Tally& tally, int hundredth, const char* kind) {
+    /// At least so many of a hundred were answered; what is usual was measured.
+    void expectShare(const Tally& tally, int hundredth, const char* kind) {
         std::cout << kind << ": " << tally.answered << " of " << tally.asked << std::endl;
         RecordProperty(kind, tally.answered);
         EXPECT_TRUE(HasFailure() || 100 * tally.answered >= hundredth * tally.asked) << kind;

@@ -210,9 +210,7 @@ bound::ExpressionPtr Binder::node(const In& in) {
         const DataType common =
             comparable(nulls ? operand->type : commonType(operand->type, select->columns.front().type));
         for (bound::Core& core : select->cores) {
-            // The storage would take an index for the rows, and miss the nulls of a descending one.
-            core.items.front() =
-                bound::prefix("+", convertTo(std::move(core.items.front()), common, Purpose::Cast), common);
+            core.items.front() = convertTo(std::move(core.items.front()), common, Purpose::Cast);
         }
         operand = collated(convertTo(std::move(operand), common, Purpose::Cast));
         result->node = bound::Subselect{bound::Subselect::Kind::In, std::move(operand), std::move(select)};
@@ -227,6 +225,9 @@ bound::ExpressionPtr Binder::node(const In& in) {
         freeDigits(*operand);
         for (bound::ExpressionPtr& one : list) {
             freeDigits(*one);
+            if (bound::Parameter* literal = bareLiteral(*one)) {
+                literal->trimmed = true; // a set of SQLite's breaks '' where it meets ' ' and '' again
+            }
             one = convertTo(std::move(one), common, Purpose::Cast);
         }
         operand = collated(convertTo(std::move(operand), common, Purpose::Cast));

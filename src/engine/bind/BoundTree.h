@@ -39,6 +39,7 @@ struct Parameter {
     bool digitsMatter = false;
     /// It was compared with another one: a run in which they differ needs another plan.
     bool valueMatters = false;
+    bool trimmed = false; ///< of the blanks at its end
 };
 
 /// A parameter by its place in the binder's list, counted from 0.

@@ -91,9 +91,12 @@ void writeNode(Text& text, const bound::Subselect& subselect) {
     case bound::Subselect::Kind::In:
         text += '(';
         write(text, *subselect.operand);
-        text += " IN (";
+        // Without DISTINCT SQLite would take an index for these rows, and miss the nulls of a descending one, or make a
+        // set of them that breaks '' where it meets ' ' and '' again.
+        text += " IN (SELECT DISTINCT c0";
+        text += subselect.operand->type.isText() ? " COLLATE TSQL FROM (" : " FROM (";
         write(text, *subselect.select);
-        text += "))";
+        text += ")))";
         return;
     case bound::Subselect::Kind::Scalar:
         if (subselect.select->cores.size() == 1 && bound::isOneRow(subselect.select->cores.front())) {

@@ -93,8 +93,7 @@ void writeNode(Text& text, const bound::Subselect& subselect) {
         write(text, *subselect.operand);
         // Without DISTINCT SQLite would take an index for these rows, and miss the nulls of a descending one, or make a
         // set of them that breaks '' where it meets ' ' and '' again.
-        text += " IN (SELECT DISTINCT c0";
-        text += subselect.operand->type.isText() ? " COLLATE TSQL FROM (" : " FROM (";
+        text += " IN (SELECT DISTINCT c0 FROM (";
         write(text, *subselect.select);
         text += ")))";
         return;

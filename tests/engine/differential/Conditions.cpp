@@ -70,9 +70,10 @@ std::string StatementMaker::lateSelect() {
     const std::string kinds = dice_.oneOf("ii", "gd", "dm", "tt", "is");
     switch (below(3)) {
     case 0:
-        word(std::string("t.") + kinds[0] + dice_.oneOf(" < ", " = ", " > ") +
-             dice_.oneOf("(select min(", "(select max(", "(select avg(", "(select sum(") + "s." + kinds[1] +
-             ") from t as s)");
+        word(std::string("t.") + kinds[0]);
+        anyWord(" < ", " = ", " > ");
+        anyWord("(select min(", "(select max(", "(select avg(", "(select sum(");
+        word(std::string("s.") + kinds[1] + ") from t as s)");
         break;
     case 1:
         anyWord("exists", "not exists");

@@ -151,6 +151,7 @@ private:
     int depth_ = 0;
     bool insideAggregate_ = false;
     bool insideGroupBy_ = false;
+    bool selects_ = false; ///< the statement has a SELECT inside
 };
 
 /// Whether two expressions are written alike, but for the values of their literals.

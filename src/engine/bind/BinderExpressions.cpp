@@ -226,6 +226,9 @@ bound::ExpressionPtr Binder::node(const In& in) {
         freeDigits(*operand);
         for (bound::ExpressionPtr& one : list) {
             freeDigits(*one);
+            if (bound::Parameter* literal = bareLiteral(*one)) {
+                literal->trimmed = true; // a set of SQLite's breaks '' where it meets ' ' and '' again
+            }
             one = convertTo(std::move(one), common, Purpose::Cast);
         }
         operand = collated(convertTo(std::move(operand), common, Purpose::Cast));

@@ -132,6 +132,7 @@ bound::Select Binder::inner(const Select& select, Scope* parent) {
     if (!select.orderBy.empty() && !select.cores.back().top) {
         throw errors::orderOfSubquery();
     }
+    selects_ = true;
     return this->select(select, parent);
 }
 

@@ -233,6 +233,7 @@ bound::Statement Binder::bind(const Update& update) {
     if (update.where) {
         result.where = expression(*update.where);
     }
+    result.selects = selects_;
     return result;
 }
 
@@ -245,6 +246,7 @@ bound::Statement Binder::bind(const Delete& remove) {
     if (remove.where) {
         result.where = expression(*remove.where);
     }
+    result.selects = selects_;
     return result;
 }
 

@@ -39,6 +39,7 @@ struct Parameter {
     bool digitsMatter = false;
     /// It was compared with another one: a run in which they differ needs another plan.
     bool valueMatters = false;
+    bool trimmed = false; ///< of the blanks at its end
 };
 
 /// A parameter by its place in the binder's list, counted from 0.
@@ -175,11 +176,13 @@ struct Update {
     /// Number of the source in `from` that is the target again, -1 where the target isn't among them.
     int targetInFrom = -1;
     ExpressionPtr where;
+    bool selects = false; ///< a SELECT inside of it must see no row that it has written
 };
 
 struct Delete {
     Table table;
     ExpressionPtr where;
+    bool selects = false; ///< as of Update
 };
 
 using Statement = std::variant<Select, Insert, Update, Delete>;

@@ -1,5 +1,7 @@
 #include "engine/run/Plan.h"
 
+#include "engine/values/Ascii.h"
+
 namespace engine {
 
 namespace {
@@ -17,6 +19,9 @@ const Literal& writtenLiteral(const bound::Parameter& parameter, const Bindings&
 Scalar valueOf(const bound::Parameter& parameter, const Bindings& bindings) {
     const Literal& literal = writtenLiteral(parameter, bindings);
     Scalar value = scalarOf(literal, parameter.negated);
+    if (auto* text = std::get_if<std::string>(&value); text != nullptr && parameter.trimmed) {
+        text->resize(withoutTrailingBlanks(*text).size());
+    }
     if (parameter.conversion.to.kind == DataType::Kind::Unknown) {
         return literal.kind == Literal::Kind::Decimal ? kept(std::move(value)) : value;
     }

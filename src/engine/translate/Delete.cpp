@@ -14,7 +14,7 @@ Text onTarget(const std::string& verb, const bound::Delete& remove) {
 } // namespace
 
 Text remove(const bound::Delete& remove, std::int64_t most) {
-    if (most == 0) {
+    if (most == 0 && !remove.selects) {
         return onTarget("DELETE FROM ", remove);
     }
     Text text("DELETE FROM " + stored::qualifiedTable(remove.table.schema, remove.table.info->name) + " WHERE " +

@@ -75,6 +75,18 @@ void writeNode(Text& text, const bound::InList& in) {
     text += "))";
 }
 
+/// SQLite may take an index for the rows, and misses the nulls of a descending one, or makes a set of them that breaks
+/// '' where it meets ' ' and '' again: what can be null or a text isn't given to it as it is.
+void writeIn(Text& text, const bound::Subselect& in) {
+    const bool texts = in.operand->type.isText();
+    const bool apart = texts || in.select->columns.front().nullable;
+    text += '(';
+    write(text, *in.operand);
+    text += !apart ? " IN (" : texts ? " IN (SELECT rtrim(c0) FROM (" : " IN (SELECT +c0 FROM (";
+    write(text, *in.select);
+    text += apart ? ")))" : "))";
+}
+
 void writeNode(Text& text, const bound::Subselect& subselect) {
     switch (subselect.kind) {
     case bound::Subselect::Kind::Exists:
@@ -83,11 +95,7 @@ void writeNode(Text& text, const bound::Subselect& subselect) {
         text += ')';
         return;
     case bound::Subselect::Kind::In:
-        text += '(';
-        write(text, *subselect.operand);
-        text += " IN (";
-        write(text, *subselect.select);
-        text += "))";
+        writeIn(text, subselect);
         return;
     case bound::Subselect::Kind::Scalar:
         if (subselect.select->cores.size() == 1 && bound::isOneRow(subselect.select->cores.front())) {

@@ -116,6 +116,9 @@ void writeSource(Text& text, const bound::Source& source, bool first) {
 
 void write(Text& text, const bound::Select& select) {
     const bool several = select.cores.size() > 1;
+    // SQLite's UNION breaks '' where it meets ' ' and '' again; next to another column these don't fill the same space.
+    const bool beside = several && select.columns.size() == 1 && select.columns.front().type.isText();
+    text += beside ? "SELECT c0 FROM (" : "";
     for (std::size_t i = 0; i < select.cores.size(); ++i) {
         const bound::Core& core = select.cores[i];
         if (i > 0) {
@@ -124,12 +127,13 @@ void write(Text& text, const bound::Select& select) {
         // TOP limits its own part of a UNION, SQLite's LIMIT the whole.
         const bool limited = several && core.top.has_value();
         text += limited ? "SELECT * FROM (" : "";
-        writeCore(text, core, several);
+        writeCore(text, core, several, beside ? ", 0" : "");
         if (limited) {
             writeLimit(text, core);
             text += ')';
         }
     }
+    text += beside ? ")" : "";
     writeOrder(text, select.orderBy);
     if (!several) {
         writeLimit(text, select.cores.front());

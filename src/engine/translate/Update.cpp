@@ -66,7 +66,7 @@ Text update(const bound::Update& update, std::int64_t most) {
             throw errors::notSupported("UPDATE of a table inside of a join");
         }
     }
-    if (!update.from.empty() || most != 0) {
+    if (!update.from.empty() || most != 0 || update.selects) {
         return updateFrom(update, most);
     }
     Text text("UPDATE " + stored::qualifiedTable(update.table.schema, update.table.info->name) + " AS " +

@@ -45,15 +45,29 @@ constexpr Case kIntegers[] = {
 constexpr Case kIdentities[] = {
 #include "engine/run/DocumentedIdentities.inc"
 };
+constexpr Case kWrites[] = {
+#include "engine/run/DocumentedWrites.inc"
+};
 constexpr Case kErrors[] = {
 #include "engine/run/DocumentedErrors.inc"
 };
 
 constexpr Kind kKinds[] = {
-    {"Settings", kSettings},     {"Comparisons", kComparisons}, {"Joins", kJoins},     {"Keys", kKeys},
-    {"Dates", kDates},           {"DateStyles", kDateStyles},   {"Nulls", kNulls},     {"Grouping", kGrouping},
-    {"Texts", kTexts},           {"Patterns", kPatterns},       {"Catalog", kCatalog}, {"Integers", kIntegers},
-    {"Identities", kIdentities}, {"Errors", kErrors},
+    {"Settings", kSettings},
+    {"Comparisons", kComparisons},
+    {"Joins", kJoins},
+    {"Keys", kKeys},
+    {"Dates", kDates},
+    {"DateStyles", kDateStyles},
+    {"Nulls", kNulls},
+    {"Grouping", kGrouping},
+    {"Texts", kTexts},
+    {"Patterns", kPatterns},
+    {"Catalog", kCatalog},
+    {"Integers", kIntegers},
+    {"Identities", kIdentities},
+    {"Writes", kWrites},
+    {"Errors", kErrors},
 };
 
 constexpr const char* kPreparations[] = {

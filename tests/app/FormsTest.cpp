@@ -1,4 +1,5 @@
 #include "app/Forms.h"
+
 #include "controls/FormRegistry.h"
 #include "dblife/FormRegistraAziendeNeiDns.h"
 #include "dblife/caricasedecentrale.h"

@@ -18,7 +18,8 @@ int main(int argc, char** argv) {
     }
     for (const QString& side : arguments.mid(2)) {
         const QString folder = arguments[1] + QStringLiteral("/%1x%1/apps").arg(side);
-        if (!QDir().mkpath(folder) || !controls::Mark::picture(side.toInt()).save(folder + QStringLiteral("/vabo.png"))) {
+        if (!QDir().mkpath(folder) ||
+            !controls::Mark::picture(side.toInt()).save(folder + QStringLiteral("/vabo.png"))) {
             std::fprintf(stderr, "vabo-mark: %s can't be written\n", qUtf8Printable(folder));
             return 1;
         }

@@ -53,21 +53,10 @@ constexpr Case kErrors[] = {
 };
 
 constexpr Kind kKinds[] = {
-    {"Settings", kSettings},
-    {"Comparisons", kComparisons},
-    {"Joins", kJoins},
-    {"Keys", kKeys},
-    {"Dates", kDates},
-    {"DateStyles", kDateStyles},
-    {"Nulls", kNulls},
-    {"Grouping", kGrouping},
-    {"Texts", kTexts},
-    {"Patterns", kPatterns},
-    {"Catalog", kCatalog},
-    {"Integers", kIntegers},
-    {"Identities", kIdentities},
-    {"Writes", kWrites},
-    {"Errors", kErrors},
+    {"Settings", kSettings},     {"Comparisons", kComparisons}, {"Joins", kJoins},     {"Keys", kKeys},
+    {"Dates", kDates},           {"DateStyles", kDateStyles},   {"Nulls", kNulls},     {"Grouping", kGrouping},
+    {"Texts", kTexts},           {"Patterns", kPatterns},       {"Catalog", kCatalog}, {"Integers", kIntegers},
+    {"Identities", kIdentities}, {"Writes", kWrites},           {"Errors", kErrors},
 };
 
 constexpr const char* kPreparations[] = {

@@ -36,18 +36,6 @@ bool isSameColumn(const ResultColumn& left, const ResultColumn& right) {
     return !left.baseTable.empty() && left.baseTable == right.baseTable && left.baseColumn == right.baseColumn;
 }
 
-bool isConstant(const bound::Expression& expression) {
-    if (std::holds_alternative<bound::ParameterUse>(expression.node) ||
-        std::holds_alternative<bound::Constant>(expression.node)) {
-        return true;
-    }
-    const auto* call = std::get_if<bound::Call>(&expression.node);
-    const bool opaque = std::holds_alternative<bound::Subselect>(expression.node) || (call && call->aggregate);
-    const auto parts = bound::partsOf(expression);
-    return !opaque && !parts.empty() &&
-           std::all_of(parts.begin(), parts.end(), [](const auto* part) { return isConstant(*part); });
-}
-
 /// Whether two items of an ORDER BY are the same column.
 bool isSameOrder(const bound::Order& left, const bound::Order& right, const bound::Select& select) {
     if (left.ordinal > 0 && right.ordinal > 0) {
@@ -252,7 +240,7 @@ bound::Order Binder::order(const OrderItem& item, const bound::Select& result, b
         throw errors::orderNotSelected();
     }
     order.expression = expression(*item.expression);
-    if (isConstant(*order.expression)) {
+    if (bound::isConstant(*order.expression)) {
         throw errors::orderedByConstant(static_cast<int>(result.orderBy.size()) + 1);
     }
     order.text = order.expression->type.isText();

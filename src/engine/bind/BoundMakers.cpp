@@ -87,6 +87,17 @@ std::vector<const Expression*> partsOf(const Expression& whole) {
     return parts;
 }
 
+bool isConstant(const Expression& expression) {
+    if (std::holds_alternative<ParameterUse>(expression.node) || std::holds_alternative<Constant>(expression.node)) {
+        return true;
+    }
+    const auto* call = std::get_if<Call>(&expression.node);
+    const bool opaque = std::holds_alternative<Subselect>(expression.node) || (call && call->aggregate);
+    const auto parts = partsOf(expression);
+    return !opaque && !parts.empty() &&
+           std::all_of(parts.begin(), parts.end(), [](const auto* part) { return isConstant(*part); });
+}
+
 void giveAllDigits(Expression& value) {
     auto* call = std::get_if<Call>(&value.node);
     if (call != nullptr && call->function == operators::kDecimal) {

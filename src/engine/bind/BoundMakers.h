@@ -36,6 +36,8 @@ ExpressionPtr call(std::string function, const DataType& type, Pointers... argum
 
 /// What an expression is made of, but for what is inside of a SELECT.
 std::vector<const Expression*> partsOf(const Expression& whole);
+/// Whether it is made of literals alone.
+bool isConstant(const Expression& expression);
 
 /// For who takes a result of decimals by all its digits: without this it is refused where a double doesn't keep it.
 void giveAllDigits(Expression& value);

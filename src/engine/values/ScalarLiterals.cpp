@@ -42,7 +42,7 @@ Scalar scalarOf(const Literal& literal, bool negated) {
     case Literal::Kind::Float: {
         double number = 0; // which is what a number too small to be told from it stays
         std::from_chars(literal.text.data(), literal.text.data() + literal.text.size(), number);
-        return negated ? -number : number;
+        return negated ? 0 - number : number; // zero has no sign
     }
     case Literal::Kind::Text:
     case Literal::Kind::NationalText:

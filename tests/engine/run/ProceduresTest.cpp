@@ -96,6 +96,7 @@ TEST_F(Procedures, ADatabaseIsAltered) {
     EXPECT_EQ(answer("ALTER DATABASE prova SET AUTO_CLOSE FORSE"), "!102 Incorrect syntax near 'AUTO_CLOSE'.");
     EXPECT_EQ(answer("ALTER DATABASE prova SET RECOVERY MAI"), "!102 Incorrect syntax near 'RECOVERY'.");
     EXPECT_EQ(answer("ALTER DATABASE prova SET MANCA ON"), "!102 Incorrect syntax near 'MANCA'.");
+    EXPECT_EQ(answer("ALTER DATABASE prova SET [ ] ON"), "!102 Incorrect syntax near ' '.");
     EXPECT_EQ(answer("ALTER DATABASE prova"), "!102 Incorrect syntax near 'prova'.");
 }
 

@@ -10,6 +10,9 @@ protected:
     void makeIndexes(Dice& dice) {
         unique_.clear();
         for (const IndexStatement& index : indexes(dice)) {
+            if (otherHasIdentity() && index.table == "u" && index.uniqueColumns == "id") {
+                continue;
+            }
             const Answer made = ask(*other, index.text);
             const bool doubles = !index.uniqueColumns.empty() && hasDoubles(index);
             EXPECT_EQ(made.refused(), doubles) << script() << index.text << "\n" << made.told();

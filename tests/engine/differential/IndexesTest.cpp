@@ -1,6 +1,8 @@
 #include "engine/differential/DifferentialFixture.h"
 #include "engine/differential/StatementMaker.h"
 
+#include <algorithm>
+
 namespace engine::differential {
 namespace {
 

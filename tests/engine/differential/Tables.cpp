@@ -2,8 +2,6 @@
 
 #include "engine/differential/Values.h"
 
-#include <algorithm>
-
 namespace engine::differential {
 
 namespace {

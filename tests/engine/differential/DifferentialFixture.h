@@ -64,21 +64,28 @@ protected:
         EXPECT_TRUE(HasFailure() || 100 * tally.answered >= hundredth * tally.asked) << kind;
     }
 
-    /// New tables with the same rows in both databases; the statements are kept for a message.
+    /// New tables with the same rows in both databases; the statements are kept for a message. The second `u` may have
+    /// its key from the start, an identity.
     void makeTables(Dice& dice) {
         script_.clear();
         for (Session* one : {session.get(), other.get()}) {
             ask(*one, "drop table t");
             ask(*one, "drop table u");
         }
+        identity_ = dice.once(2);
         for (const std::string& statement : tables(dice)) {
-            script_ += statement + "\n";
-            for (Session* one : {session.get(), other.get()}) {
-                const Answer made = ask(*one, statement);
-                ASSERT_FALSE(made.refused()) << statement << "\n" << made.told();
+            make(*session, statement);
+            std::string second = statement;
+            if (identity_ && statement.starts_with("create table u")) {
+                second.replace(second.find("not null"), 0, "identity primary key ");
+            } else if (identity_ && statement.starts_with("insert into u")) {
+                second = "set identity_insert u on; " + statement + "; set identity_insert u off";
             }
+            make(*other, second);
+            addToScript(second);
         }
     }
+    bool otherHasIdentity() const { return identity_; }
 
     /// For the message of a failure.
     const std::string& script() const { return script_; }
@@ -87,9 +94,15 @@ protected:
     std::unique_ptr<Session> other; ///< of a second database with the same rows
 
 private:
+    static void make(Session& on, const std::string& statement) {
+        const Answer made = ask(on, statement);
+        ASSERT_FALSE(made.refused()) << statement << "\n" << made.told();
+    }
+
     static constexpr long kUsualSeed = 20040307;
 
     std::string script_;
+    bool identity_ = false;
 };
 
 } // namespace engine::differential

@@ -1,6 +1,8 @@
 #include "engine/differential/DifferentialFixture.h"
 #include "engine/differential/StatementMaker.h"
 
+#include <algorithm>
+
 namespace engine::differential {
 namespace {
 
@@ -10,6 +12,9 @@ protected:
     void makeIndexes(Dice& dice) {
         unique_.clear();
         for (const IndexStatement& index : indexes(dice)) {
+            if (otherHasIdentity() && index.table == "u" && index.uniqueColumns == "id") {
+                continue;
+            }
             const Answer made = ask(*other, index.text);
             const bool doubles = !index.uniqueColumns.empty() && hasDoubles(index);
             EXPECT_EQ(made.refused(), doubles) << script() << index.text << "\n" << made.told();

@@ -135,6 +135,17 @@ public:
         return true;
     }
 
+    /// WHERE behind joins, whose missing rows are nulls.
+    bool ofJoinedRows(Dice& dice) {
+        StatementMaker maker(dice, Manner::Calm);
+        std::string from = " from t as a1" + dice.oneOf(" left", " right", " full") + " join u as a2 on ";
+        from += maker.condition({"a1", "a2"});
+        from += dice.oneOf(" join", " left join", " right join", " full join");
+        from += " t as a3 on a3." + dice.oneOf("i = a2.i", "id = a1.id", "v = a2.v", "t <= a1.i");
+        const auto [p, other] = maker.inTwoWords({"a1", "a2", "a3"});
+        return expectParts("a1.id, a2.id, a3.id", from, p, from + " where ", "", other);
+    }
+
     bool ofGroups(Dice& dice) {
         StatementMaker maker(dice, Manner::Calm);
         const std::string key = maker.anyColumn("a1");
@@ -257,6 +268,7 @@ TEST_F(Partition, GivesAllRowsOnce) {
     Row rows[] = {{&Partition::ofRows, "conditions of rows", 90, {}},
                   {&Partition::ofJoins, "conditions of joins", 90, {}},
                   {&Partition::ofOuterJoins, "conditions of outer joins", 90, {}},
+                  {&Partition::ofJoinedRows, "conditions behind joins", 90, {}},
                   {&Partition::ofGroups, "conditions of groups", 90, {}},
                   {&Partition::ofSums, "sums of parts", 75, {}},
                   {&Partition::ofWrites, "conditions of writes", 90, {}},

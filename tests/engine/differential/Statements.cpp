@@ -1,6 +1,5 @@
 #include "engine/differential/StatementMaker.h"
 
-#include <algorithm>
 #include <utility>
 
 namespace engine::differential {

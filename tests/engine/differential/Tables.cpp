@@ -2,8 +2,6 @@
 
 #include "engine/differential/Values.h"
 
-#include <algorithm>
-
 namespace engine::differential {
 
 namespace {
@@ -63,7 +61,8 @@ std::vector<std::string> tables(Dice& dice) {
         if (rows == 0) {
             continue;
         }
-        std::string insert = "insert into " + name + " values ";
+        std::string insert =
+            "insert into " + name + " (id, b, t, s, i, g, e, d, m, r, f, q, c, v, k, n, x, y, w, z) values ";
         for (int id = 1; id <= rows; ++id) {
             insert += (id == 1 ? "" : ", ") + row(dice, id, wide);
         }

@@ -12,11 +12,6 @@ namespace engine::differential {
 /// CREATE TABLE and INSERT for both tables. The column `id` tells their rows apart, and no key says so.
 std::vector<std::string> tables(Dice& dice);
 
-struct UniqueIndex {
-    std::string name;
-    std::string columns; ///< separated by commas
-};
-
 /// Statements that add indexes and keys to `t` and `u`, each of which stands for itself: one that asks for unique
 /// values is refused where the rows have doubles.
 struct IndexStatement {

@@ -5,7 +5,7 @@ set -euo pipefail
 
 build=(g++ cmake ninja-build qt6-base-dev qt6-base-dev-tools libgl-dev qt6-translations-l10n libsqlite3-dev libicu-dev
     unixodbc-dev tdsodbc fonts-dejavu-core)
-test=(libgtest-dev libgmock-dev librapidcheck-dev unixodbc python3 libxcb-xtest0-dev xvfb openbox)
+test=(libgtest-dev libgmock-dev librapidcheck-dev unixodbc python3 locales libxcb-xtest0-dev xvfb openbox)
 check=(clang-format clang-tidy python3)
 bench=(libbenchmark-dev)
 coverage=(gcovr)

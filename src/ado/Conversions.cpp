@@ -5,8 +5,8 @@
 
 #include <algorithm>
 #include <array>
+#include <charconv>
 #include <cmath>
-#include <cstdio>
 #include <limits>
 
 namespace ado {
@@ -73,9 +73,13 @@ Integer toWhole(const Value& value) {
 }
 
 std::string significant(double number, int digits) {
-    char text[40];
-    std::snprintf(text, sizeof text, "%.*G", digits, number == 0 ? 0.0 : number);
-    std::string result(text);
+    // printf would take the separator of the process's locale, which the window system sets.
+    std::array<char, 40> text{};
+    char* const end = std::to_chars(text.data(), text.data() + text.size(), number == 0 ? 0.0 : number,
+                                    std::chars_format::general, digits)
+                          .ptr;
+    std::string result(text.data(), end);
+    std::ranges::replace(result, 'e', 'E');
     std::ranges::replace(result, '.', regionalSettings().decimalSeparator);
     return result;
 }

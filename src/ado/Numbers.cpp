@@ -4,9 +4,9 @@
 #include "ado/Text.h"
 
 #include <algorithm>
+#include <array>
 #include <charconv>
 #include <cmath>
-#include <cstdio>
 
 namespace ado {
 
@@ -149,16 +149,24 @@ struct Digits {
     bool negative = false;
 
     explicit Digits(double number) {
-        char text[40];
-        std::snprintf(text, sizeof text, "%.*e", kSignificantDigits - 1, std::fabs(number));
-        const std::string_view written(text);
+        if (!std::isfinite(number)) {
+            return;
+        }
+        // printf would take the separator of the process's locale, which the window system sets.
+        std::array<char, 40> text{};
+        const char* const end = std::to_chars(text.data(), text.data() + text.size(), std::fabs(number),
+                                              std::chars_format::scientific, kSignificantDigits - 1)
+                                    .ptr;
+        const std::string_view written(text.data(), end);
         const auto e = written.find('e');
         for (const char c : written.substr(0, e)) {
             if (isDigit(c)) {
                 digits += c;
             }
         }
-        point = std::atoi(text + e + 1) + 1;
+        const std::size_t sign = written[e + 1] == '+' ? 2 : 1; // from_chars takes a minus alone
+        std::from_chars(text.data() + e + sign, end, point);
+        ++point;
         negative = std::signbit(number);
         trim();
     }

@@ -143,6 +143,9 @@ void Life::visit(const std::string& form) {
     }
     Gui::handleEvents();
     watchdog_.seeEnd();
+    if (isOfTheStart(form) && visibleNames().empty() && boxes_.last() == "User not allowed! ") {
+        return; // an earlier visit shut the administrator out, and the login is closed
+    }
     for (int steps = dice_.between(60, 300); steps > 0 && !over_ && step(); --steps) {
     }
 }

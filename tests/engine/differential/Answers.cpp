@@ -24,8 +24,8 @@ std::string line(const Answer::Row& row) {
 } // namespace
 
 bool Answer::refusedInARow() const {
-    return isOneOf(
-        error, {220, 232, 241, 242, 244, 245, 248, 295, 512, 517, 535, 536, 537, 3606, 8114, 8115, 8134, 8152, 40517});
+    return isOneOf(error, {220, 232, 235, 241, 242,  244,  245,  248,  295,  512,
+                           517, 535, 536, 537, 3606, 8114, 8115, 8134, 8152, 40517});
 }
 
 bool Answer::refusedAsDouble() const {

@@ -117,7 +117,7 @@ void StatementMaker::condition(int depth) {
     case 2:
         return comparison(depth);
     case 3: {
-        const auto operand = [&] { once(8) && !visible_.empty() ? word(visible_.back() + ".y") : value(depth - 1); };
+        const auto operand = [&] { value(depth - 1); };
         return once(2) ? negatable({" is null", " is not null"}, operand, [] {})
                        : negatable({" is not null", " is null"}, operand, [] {});
     }

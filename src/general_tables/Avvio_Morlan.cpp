@@ -73,7 +73,6 @@ void Avvio_Morlan::Load() {
 }
 
 void Avvio_Morlan::MostraNomeDatabase() {
-    ui_->Combo8->clear();
     ui_->Combo8->addItem(QString::fromStdString(NomeDatabase));
 }
 

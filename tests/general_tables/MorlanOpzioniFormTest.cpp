@@ -1,4 +1,5 @@
 #include "MorlanFixture.h"
+#include "support/SomebodyElse.h"
 
 namespace vabo {
 namespace {
@@ -84,6 +85,26 @@ TEST_F(MorlanOpzioni, EachBoxWritesItsRowAtOnceAndFindsItAtTheNextOpening) {
         riapri();
         EXPECT_EQ(spuntate(), "");
     }
+}
+
+TEST_F(MorlanOpzioni, BothSourcesShowWhatTheRowHoldsWhereTheStoreOfTheClearedOneFails) {
+    esegui("update TabellaUilityConti set Lunghezza = -2 where id = 8");
+    apri();
+    ASSERT_EQ(casella("Check11"), 1);
+    int aperture = 0;
+    script.expectMessage("Rifiutato");
+    {
+        const support::SomebodyElse rifiuto([&](const std::string& testo) {
+            if (testo == "select * from TabellaUilityConti where id = 8" && ++aperture == 2) {
+                throw ado::Error(50000, "Rifiutato");
+            }
+        });
+        clicca("Check10");
+    }
+    EXPECT_EQ(aperture, 2);
+    EXPECT_EQ(lunghezza(8), "-1");
+    EXPECT_EQ(casella("Check10"), 1);
+    EXPECT_EQ(casella("Check11"), 0);
 }
 
 TEST_F(MorlanOpzioni, ANewDatabaseGetsFourRowsAndShowsNothingOnItsFirstOpening) {

@@ -49,7 +49,7 @@ struct Span {
 };
 
 Span spanOf(Part part) {
-    constexpr std::int64_t kDay = 24 * 3600;
+    constexpr std::int64_t kDay = 86'400;
     constexpr std::array kSpans = std::to_array<Span>( // in the order of Part
         {{12, 0}, {3, 0}, {1, 0}, {0, kDay}, {0, kDay}, {0, 7 * kDay}, {0, kDay}, {0, 3600}, {0, 60}, {0, 1}, {0, 0}});
     return kSpans[static_cast<std::size_t>(part)];

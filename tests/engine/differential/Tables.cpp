@@ -12,7 +12,7 @@ constexpr const char* kColumns =
     " v varchar(20) null, k nchar(6) null, n nvarchar(20) null, x nvarchar(max) null, w varchar(12) null,"
     " z varchar(24) null)";
 
-std::string signedOf(Dice& dice, std::string number) {
+std::string signedOf(Dice& dice, const std::string& number) {
     return dice.once(5) ? "-" + number : number;
 }
 

@@ -12,13 +12,16 @@
 #include <QLabel>
 #include <QMessageBox>
 #include <QPlainTextEdit>
+#include <QPointer>
 #include <QPushButton>
+#include <QScopeGuard>
 #include <QScreen>
 #include <QStyle>
 #include <QTextDocument>
 
 #include <algorithm>
 #include <cmath>
+#include <memory>
 
 namespace controls {
 
@@ -96,14 +99,24 @@ void showScrolled(QMessageBox& box, QLabel& label) {
     // Not as needed: the field notices late that a single paragraph is longer than itself.
     text->setVerticalScrollBarPolicy(wanted > most ? Qt::ScrollBarAlwaysOn : Qt::ScrollBarAlwaysOff);
     label.hide();
-    box.layout()->replaceWidget(&label, text);
+    const std::unique_ptr<QLayoutItem> replaced(box.layout()->replaceWidget(&label, text));
 }
 
-/// Shows a box with its buttons; true when the first one was chosen.
+/// The window in front of which a box opens. A form that is closing may still be the active one.
+QWidget* windowBelow() {
+    QWidget* active = QApplication::activeWindow();
+    return active != nullptr && active->isVisible() ? active : nullptr;
+}
+
+/// Shows a box with its buttons; true when the first one was chosen. The box goes with its window, should that be
+/// destroyed meanwhile.
 bool ask(const std::string& text, QMessageBox::Icon icon, const QStringList& captions,
          Leaving leaving = Leaving::ByEscToo) {
     const bool escToo = leaving == Leaving::ByEscToo;
-    QMessageBox box(icon, applicationTitle(), QString(), QMessageBox::NoButton, QApplication::activeWindow());
+    const QPointer<QMessageBox> shown(
+        new QMessageBox(icon, applicationTitle(), QString(), QMessageBox::NoButton, windowBelow()));
+    const auto closing = qScopeGuard([&shown] { delete shown.data(); });
+    QMessageBox& box = *shown;
     box.setTextFormat(Qt::PlainText);
     box.setText(QString::fromStdString(text));
     QList<QPushButton*> buttons;
@@ -129,7 +142,7 @@ bool ask(const std::string& text, QMessageBox::Icon icon, const QStringList& cap
         showScrolled(box, *label);
     }
     box.exec();
-    return box.clickedButton() == buttons.first();
+    return !shown.isNull() && box.clickedButton() == buttons.first();
 }
 
 } // namespace
@@ -147,7 +160,7 @@ bool QtDialogs::confirm(const std::string& text) {
 }
 
 std::string QtDialogs::input(const std::string& prompt, const std::string& title, const std::string& proposed) {
-    QInputDialog box(QApplication::activeWindow());
+    QInputDialog box(windowBelow());
     box.setWindowTitle(titleOr(title));
     box.setLabelText(QString::fromStdString(prompt));
     box.setTextValue(QString::fromStdString(proposed));
@@ -157,7 +170,7 @@ std::string QtDialogs::input(const std::string& prompt, const std::string& title
 }
 
 std::string QtDialogs::folder(const std::string& title) {
-    return chooseFolder(QApplication::activeWindow(), titleOr(title));
+    return chooseFolder(windowBelow(), titleOr(title));
 }
 
 } // namespace controls

@@ -203,6 +203,23 @@ TEST_F(QtDialogs, TheButtonOfAMessageStandsInItsMiddle) {
         });
 }
 
+TEST_F(QtDialogs, ABoxGoesWithTheWindowBelowItAndIsNotAgreedTo) {
+    auto* window = new QWidget;
+    window->show();
+    window->activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(window));
+    bool below = false;
+    const bool agreed = withBox(
+        seen,
+        [&](QDialog& box) {
+            below = box.parentWidget() == window;
+            delete window;
+        },
+        [&] { return dialogs.confirm("Vado?"); });
+    EXPECT_TRUE(below);
+    EXPECT_FALSE(agreed);
+}
+
 TEST_F(QtDialogs, ACancelledInputIsTheEmptyText) {
     const std::string got = withBox(
         seen, [](QDialog& box) { pressKey(box, Qt::Key_Escape); }, [&] { return dialogs.input("Numero:", "", "1"); });

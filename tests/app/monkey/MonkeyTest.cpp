@@ -24,9 +24,11 @@ long fromEnvironment(const char* name, long otherwise) {
 
 QtMessageHandler others = nullptr;
 
-/// The fonts of this machine needn't have what the monkey types.
-void passOverFonts(QtMsgType type, const QMessageLogContext& context, const QString& message) {
-    if (!message.contains(QLatin1String("OpenType support missing for "))) {
+/// The fonts of this machine needn't have what the monkey types, and the first press of a double click may make a list
+/// smaller, so that the second falls beside it.
+void passOverHarmless(QtMsgType type, const QMessageLogContext& context, const QString& message) {
+    if (!message.contains(QLatin1String("OpenType support missing for ")) &&
+        !message.contains(QLatin1String("occurs outside target window"))) {
         others(type, context, message);
     }
 }
@@ -34,7 +36,7 @@ void passOverFonts(QtMsgType type, const QMessageLogContext& context, const QStr
 /// Two halves, so that each ends well within the time that a test may take.
 class Monkey : public testing::TestWithParam<int> {
 protected:
-    Monkey() { others = qInstallMessageHandler(passOverFonts); }
+    Monkey() { others = qInstallMessageHandler(passOverHarmless); }
     ~Monkey() override { qInstallMessageHandler(others); }
 };
 

@@ -1,11 +1,12 @@
 #include "controls/FolderBrowser.h"
 #include "controls/FolderChoice.h"
+#include "controls/Modal.h"
 
 namespace controls {
 
 std::string chooseFolder(QWidget* parent, const QString& title) {
-    FolderBrowser box(parent, title);
-    return box.exec() == QDialog::Accepted ? box.chosen() : std::string();
+    Modal<FolderBrowser> box(parent, title);
+    return box.accepted() ? box->chosen() : std::string();
 }
 
 } // namespace controls

@@ -2,6 +2,7 @@
 
 #include "controls/Captions.h"
 #include "controls/FolderChoice.h"
+#include "controls/Modal.h"
 #include "platform/Workstation.h"
 
 #include <QApplication>
@@ -12,9 +13,7 @@
 #include <QLabel>
 #include <QMessageBox>
 #include <QPlainTextEdit>
-#include <QPointer>
 #include <QPushButton>
-#include <QScopeGuard>
 #include <QScreen>
 #include <QStyle>
 #include <QTextDocument>
@@ -102,20 +101,11 @@ void showScrolled(QMessageBox& box, QLabel& label) {
     const std::unique_ptr<QLayoutItem> replaced(box.layout()->replaceWidget(&label, text));
 }
 
-/// The window in front of which a box opens. A form that is closing may still be the active one.
-QWidget* windowBelow() {
-    QWidget* active = QApplication::activeWindow();
-    return active != nullptr && active->isVisible() ? active : nullptr;
-}
-
-/// Shows a box with its buttons; true when the first one was chosen. The box goes with its window, should that be
-/// destroyed meanwhile.
+/// Shows a box with its buttons; true when the first one was chosen.
 bool ask(const std::string& text, QMessageBox::Icon icon, const QStringList& captions,
          Leaving leaving = Leaving::ByEscToo) {
     const bool escToo = leaving == Leaving::ByEscToo;
-    const QPointer<QMessageBox> shown(
-        new QMessageBox(icon, applicationTitle(), QString(), QMessageBox::NoButton, windowBelow()));
-    const auto closing = qScopeGuard([&shown] { delete shown.data(); });
+    Modal<QMessageBox> shown(icon, applicationTitle(), QString(), QMessageBox::NoButton, QApplication::activeWindow());
     QMessageBox& box = *shown;
     box.setTextFormat(Qt::PlainText);
     box.setText(QString::fromStdString(text));
@@ -141,8 +131,7 @@ bool ask(const std::string& text, QMessageBox::Icon icon, const QStringList& cap
         label != nullptr && needsScrolling(box, *label)) {
         showScrolled(box, *label);
     }
-    box.exec();
-    return !shown.isNull() && box.clickedButton() == buttons.first();
+    return shown.answered() && box.clickedButton() == buttons.first();
 }
 
 } // namespace
@@ -160,17 +149,17 @@ bool QtDialogs::confirm(const std::string& text) {
 }
 
 std::string QtDialogs::input(const std::string& prompt, const std::string& title, const std::string& proposed) {
-    QInputDialog box(windowBelow());
-    box.setWindowTitle(titleOr(title));
-    box.setLabelText(QString::fromStdString(prompt));
-    box.setTextValue(QString::fromStdString(proposed));
-    box.setOkButtonText(kOk);
-    box.setCancelButtonText(kAnnulla);
-    return box.exec() == QDialog::Accepted ? box.textValue().toStdString() : std::string();
+    Modal<QInputDialog> box(QApplication::activeWindow());
+    box->setWindowTitle(titleOr(title));
+    box->setLabelText(QString::fromStdString(prompt));
+    box->setTextValue(QString::fromStdString(proposed));
+    box->setOkButtonText(kOk);
+    box->setCancelButtonText(kAnnulla);
+    return box.accepted() ? box->textValue().toStdString() : std::string();
 }
 
 std::string QtDialogs::folder(const std::string& title) {
-    return chooseFolder(windowBelow(), titleOr(title));
+    return chooseFolder(QApplication::activeWindow(), titleOr(title));
 }
 
 } // namespace controls

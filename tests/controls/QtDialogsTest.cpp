@@ -2,6 +2,7 @@
 
 #include "SeenBox.h"
 #include "controls/RoomyStyle.h"
+#include "support/TestWorkstation.h"
 
 #include <QAbstractButton>
 #include <QApplication>
@@ -203,22 +204,43 @@ TEST_F(QtDialogs, TheButtonOfAMessageStandsInItsMiddle) {
         });
 }
 
-TEST_F(QtDialogs, ABoxGoesWithTheWindowBelowItAndIsNotAgreedTo) {
+struct Left {
+    const char* what;
+    /// What is made of the answer that never came.
+    std::string (*ask)(controls::QtDialogs&);
+};
+
+class AQtDialogOfADestroyedWindow : public testing::TestWithParam<Left> {};
+
+TEST_P(AQtDialogOfADestroyedWindow, GoesWithItAndCountsAsCancelled) {
+    const support::TestWorkstation workstation{support::TestWorkstation::DriveC::Empty};
+    controls::QtDialogs dialogs;
     auto* window = new QWidget;
     window->show();
     window->activateWindow();
     ASSERT_TRUE(QTest::qWaitForWindowActive(window));
+    Seen seen;
     bool below = false;
-    const bool agreed = withBox(
+    const std::string answer = withBox(
         seen,
         [&](QDialog& box) {
             below = box.parentWidget() == window;
             delete window;
         },
-        [&] { return dialogs.confirm("Vado?"); });
+        [&] { return GetParam().ask(dialogs); });
     EXPECT_TRUE(below);
-    EXPECT_FALSE(agreed);
+    EXPECT_EQ(answer, "");
 }
+
+INSTANTIATE_TEST_SUITE_P(
+    EachKind, AQtDialogOfADestroyedWindow,
+    testing::Values(Left{"Confirmation",
+                         [](controls::QtDialogs& dialogs) {
+                             return std::string(dialogs.confirm("Vado?") ? "OK" : "");
+                         }},
+                    Left{"Input", [](controls::QtDialogs& dialogs) { return dialogs.input("Numero:", "", "1"); }},
+                    Left{"Folder", [](controls::QtDialogs& dialogs) { return dialogs.folder("Cartella"); }}),
+    [](const auto& one) { return std::string(one.param.what); });
 
 TEST_F(QtDialogs, ACancelledInputIsTheEmptyText) {
     const std::string got = withBox(

@@ -29,11 +29,12 @@ if(VABO_TIDY)
     set(CMAKE_CXX_CLANG_TIDY ${VABO_CLANG_TIDY};--quiet;--extra-arg=-Wno-unknown-warning-option)
 endif()
 
-# vabo_library(name SOURCES … LINKS …): a static library of one layer.
+# vabo_library(name SOURCES … LINKS … PRIVATE_LINKS …): a static library of one layer; whoever uses it doesn't see the
+# headers of the private ones.
 function(vabo_library name)
-    cmake_parse_arguments(ARG "QT" "" "SOURCES;LINKS" ${ARGN})
+    cmake_parse_arguments(ARG "QT" "" "SOURCES;LINKS;PRIVATE_LINKS" ${ARGN})
     add_library(${name} STATIC ${ARG_SOURCES})
-    target_link_libraries(${name} PUBLIC vabo_options ${ARG_LINKS})
+    target_link_libraries(${name} PUBLIC vabo_options ${ARG_LINKS} PRIVATE ${ARG_PRIVATE_LINKS})
     if(ARG_QT)
         set_target_properties(${name} PROPERTIES AUTOMOC ON AUTOUIC ON AUTORCC ON)
     endif()

@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
-# Installs the Debian packages for the given purposes (build, test, check, bench, coverage, debian, windows, clients).
-# Does nothing where none is missing.
+# Installs the Debian packages for the given purposes (build, test, check, bench, coverage, debian, cross, windows,
+# clients). Does nothing where none is missing.
 set -euo pipefail
 
 build=(g++ cmake ninja-build qt6-base-dev qt6-base-dev-tools libgl-dev qt6-translations-l10n libsqlite3-dev libicu-dev
@@ -10,7 +10,8 @@ check=(clang-format clang-tidy python3)
 bench=(libbenchmark-dev)
 coverage=(gcovr)
 debian=(debhelper dpkg-dev lintian appstream desktop-file-utils)
-windows=(g++-mingw-w64-x86-64-posix wine wine64 fonts-wine nsis tcl icu-devtools dpkg-dev icoutils zip
+cross=(g++-mingw-w64-x86-64-posix)
+windows=("${cross[@]}" wine wine64 fonts-wine nsis tcl icu-devtools dpkg-dev icoutils zip
     qt6-base-private-dev)
 clients=(freetds-bin python3-pyodbc python3-pymssql php8.2-cli php8.2-sybase libdbd-sybase-perl libjtds-java
     openjdk-17-jdk-headless)
@@ -24,10 +25,11 @@ for purpose in "$@"; do
     bench) wanted+=("${bench[@]}") ;;
     coverage) wanted+=("${coverage[@]}") ;;
     debian) wanted+=("${debian[@]}") ;;
+    cross) wanted+=("${cross[@]}") ;;
     windows) wanted+=("${windows[@]}") ;;
     clients) wanted+=("${clients[@]}") ;;
     *)
-        echo "usage: packages.sh [build] [test] [check] [bench] [coverage] [debian] [windows] [clients]" >&2
+        echo "usage: packages.sh [build] [test] [check] [bench] [coverage] [debian] [cross] [windows] [clients]" >&2
         exit 2
         ;;
     esac

@@ -1,6 +1,7 @@
 // vabo-provision: creates a sample workstation, to try the console and to measure it.
 
 #include "kit/PulisciNome.h"
+#include "os/Paths.h"
 #include "platform/Workstation.h"
 #include "provision/Provision.h"
 
@@ -82,7 +83,8 @@ provision::Plan planOf(std::span<char* const> arguments) {
 int layDown(std::span<char* const> arguments) {
     const provision::Plan plan = planOf(arguments);
     const bool made = provision::layDown(plan) == provision::Outcome::Made;
-    std::printf("%s: %s, server %s\n", plan.driveC.c_str(), made ? "laid down" : "already laid down, nothing changed",
+    std::printf("%s: %s, server %s\n", os::utf8Of(plan.driveC).c_str(),
+                made ? "laid down" : "already laid down, nothing changed",
                 provision::serverName(plan.terminal).c_str());
     return 0;
 }

@@ -7,6 +7,9 @@
 #include <QAbstractItemView>
 #include <QApplication>
 #include <QProgressBar>
+#include <QThread>
+
+#include <functional>
 
 namespace tour {
 
@@ -40,14 +43,26 @@ void login(Tour& tour) {
     tour.take("03-login-password", "About");
 }
 
+/// Runs `act` as soon as something waits in a loop of its own. While it is being shown it may get posted events
+/// already, and would then wait for the end of what has ended.
+void onceWaiting(int outerLevel, const std::function<void()>& act) {
+    const auto tryAgain = [=] {
+        if (QThread::currentThread()->loopLevel() > outerLevel) {
+            act();
+        } else {
+            onceWaiting(outerLevel, act);
+        }
+    };
+    QMetaObject::invokeMethod(qApp, tryAgain, Qt::QueuedConnection);
+}
+
 void box(Tour& tour) {
-    const auto takeBox = [&tour] {
+    onceWaiting(QThread::currentThread()->loopLevel(), [&tour] {
         if (auto* shown = QApplication::activeModalWidget()) {
             tour.take("04-messaggio", *shown);
             shown->close();
         }
-    };
-    QMetaObject::invokeMethod(qApp, takeBox, Qt::QueuedConnection);
+    });
     platform::dialogs().message("Utente non abilitato! Contattare l'amministratore di sistema");
 }
 

@@ -4,6 +4,7 @@
 #include "app/Program.h"
 #include "tour/Tour.h"
 
+#include <QFileInfo>
 #include <QProcess>
 #include <QProcessEnvironment>
 #include <QTemporaryFile>
@@ -57,7 +58,8 @@ QByteArray largeScreen() {
 int walkAll(const QString& program, const QString& driveC, const QString& folder) {
     std::filesystem::create_directories(folder.toStdString());
     QTemporaryFile screen;
-    if (!screen.open() || screen.write(largeScreen()) < 0 || !screen.flush()) {
+    const QFileInfo screenFile(screen.open() ? screen.fileName() : QString());
+    if (!screen.isOpen() || screen.write(largeScreen()) < 0 || !screen.flush()) {
         std::fprintf(stderr, "No temporary file can be written.\n");
         return 1;
     }
@@ -68,9 +70,10 @@ int walkAll(const QString& program, const QString& driveC, const QString& folder
         // So that a walk doesn't change the user's data sources.
         environment.insert(QStringLiteral("ODBCINI"), driveC + QStringLiteral("/odbc.ini"));
         environment.insert(QStringLiteral("QT_QPA_PLATFORM"),
-                           QStringLiteral("offscreen:configfile=") + screen.fileName());
+                           QStringLiteral("offscreen:configfile=") + screenFile.fileName());
         QProcess process;
         process.setProcessEnvironment(environment);
+        process.setWorkingDirectory(screenFile.path()); // since a colon in the file's path would end it
         process.setProcessChannelMode(QProcess::ForwardedChannels);
         process.start(program, {driveC, folder, QString::fromLatin1(walk.name)});
         constexpr int kForever = -1;
@@ -98,6 +101,6 @@ int main(int argc, char** argv) {
         return 2;
     }
     const QCoreApplication application(argc, argv);
-    return walkAll(QCoreApplication::applicationFilePath(), QString::fromLocal8Bit(argv[1]),
-                   QString::fromLocal8Bit(argv[2]));
+    const auto absolute = [](const char* path) { return QFileInfo(QString::fromLocal8Bit(path)).absoluteFilePath(); };
+    return walkAll(QCoreApplication::applicationFilePath(), absolute(argv[1]), absolute(argv[2]));
 }

@@ -1,5 +1,5 @@
 #!/usr/bin/env bash
-# check.sh <preset>: whether every source of the program compiles for Windows without a warning. The headers of the
+# check.sh <preset>: whether every source of the programs compiles for Windows without a warning. The headers of the
 # toolkit and of the libraries are this system's, so that nothing has to be built for it; nothing is linked. The preset
 # has been built, for the headers that come of the forms' descriptions.
 set -euo pipefail
@@ -13,7 +13,7 @@ mkdir -p "$headers"
 ln -sfn /usr/include/unicode "$headers/unicode"
 ln -sf /usr/include/sqlite3.h "$headers"
 flags=(-std=c++20 -fsyntax-only -Wall -Wextra -Wpedantic -Werror -DNOMINMAX -DUNICODE -D_UNICODE -DU_STATIC_IMPLEMENTATION
-    -Isrc "-I$build/generated" "-I$build/src/vabo_forms_autogen/include" -isystem "$headers" -isystem "$toolkit")
+    -Isrc -Itools "-I$build/generated" "-I$build/src/vabo_forms_autogen/include" -isystem "$headers" -isystem "$toolkit")
 for part in Core Gui Widgets; do
     flags+=(-isystem "$toolkit/Qt$part")
 done
@@ -21,6 +21,6 @@ compile() {
     git ls-files -z "$@" ':!*Posix.cpp' |
         xargs -0 -P "$(nproc)" -n 4 x86_64-w64-mingw32-g++-posix "${flags[@]}"
 }
-compile 'src/*.cpp' ':!src/ado' ':!src/platform'
+compile 'src/*.cpp' 'tools/provision/*.cpp' ':!src/ado' ':!src/platform'
 flags+=(-include windows.h) # whose types ODBC's headers use
 compile 'src/ado/*.cpp' 'src/platform/*.cpp'

@@ -7,9 +7,6 @@
 #include <QAbstractItemView>
 #include <QApplication>
 #include <QProgressBar>
-#include <QThread>
-
-#include <functional>
 
 namespace tour {
 
@@ -43,21 +40,8 @@ void login(Tour& tour) {
     tour.take("03-login-password", "About");
 }
 
-/// Runs `act` as soon as something waits in a loop of its own. While it is being shown it may get posted events
-/// already, and would then wait for the end of what has ended.
-void onceWaiting(int outerLevel, const std::function<void()>& act) {
-    const auto tryAgain = [=] {
-        if (QThread::currentThread()->loopLevel() > outerLevel) {
-            act();
-        } else {
-            onceWaiting(outerLevel, act);
-        }
-    };
-    QMetaObject::invokeMethod(qApp, tryAgain, Qt::QueuedConnection);
-}
-
 void box(Tour& tour) {
-    onceWaiting(QThread::currentThread()->loopLevel(), [&tour] {
+    Tour::onceWaiting(*qApp, [&tour] {
         if (auto* shown = QApplication::activeModalWidget()) {
             tour.take("04-messaggio", *shown);
             shown->close();

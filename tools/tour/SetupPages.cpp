@@ -16,8 +16,7 @@ public:
 
     bool eventFilter(QObject* watched, QEvent* event) override {
         if (event->type() == QEvent::Show && qobject_cast<QDialog*>(watched) != nullptr) {
-            QMetaObject::invokeMethod(
-                this, [this] { answer(); }, Qt::QueuedConnection);
+            Tour::onceWaiting(*this, [this] { answer(); });
         }
         return false;
     }

@@ -3,6 +3,8 @@
 #include <QApplication>
 #include <QKeyEvent>
 #include <QPixmap>
+#include <QThread>
+#include <QTimer>
 
 #include <stdexcept>
 
@@ -60,6 +62,19 @@ void Tour::press(QWidget& control, Qt::Key key) {
     QKeyEvent up(QEvent::KeyRelease, key, Qt::NoModifier);
     QApplication::sendEvent(&control, &up);
     settle();
+}
+
+void Tour::onceWaiting(QObject& context, const std::function<void()>& act) {
+    auto* look = new QTimer(&context);
+    const int outer = QThread::currentThread()->loopLevel();
+    QObject::connect(look, &QTimer::timeout, &context, [=] {
+        if (QThread::currentThread()->loopLevel() > outer) {
+            look->stop();
+            look->deleteLater();
+            act();
+        }
+    });
+    look->start(1);
 }
 
 void Tour::settle() {

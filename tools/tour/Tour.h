@@ -3,6 +3,7 @@
 #include "controls/FormRegistry.h"
 
 #include <filesystem>
+#include <functional>
 #include <string>
 
 namespace tour {
@@ -27,6 +28,9 @@ public:
     static void type(QWidget& control, const std::string& text);
     static void press(QWidget& control, Qt::Key key);
     static void settle();
+    /// Calls `act` as soon as something waits in a loop of its own, as a box does. A box that is only being shown gets
+    /// events on some systems, and wouldn't notice that it was closed by one. Nothing is called once `context` is gone.
+    static void onceWaiting(QObject& context, const std::function<void()>& act);
 
 private:
     controls::FormRegistry& forms_;

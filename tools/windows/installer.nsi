@@ -4,6 +4,7 @@ Unicode true
 Target amd64-unicode
 SetCompressor /SOLID lzma
 Name "VaBo"
+BrandingText "VaBo ${VERSION}"
 OutFile "${OUTPUT}"
 
 !define MULTIUSER_EXECUTIONLEVEL Highest

@@ -8,6 +8,7 @@
 #include <mutex>
 #include <thread>
 #include <utility>
+#include <vector>
 
 namespace engine {
 
@@ -15,20 +16,14 @@ namespace {
 
 constexpr std::chrono::milliseconds kPiece{25};
 
-/// One thread for all calls of its owner, since a new one for each would cost more than most calls.
+/// A thread that runs one call at a time. It is kept for the next one, since a new thread for each would cost more than
+/// most calls, and is never ended: when a process ends, some systems end its threads first, and nobody could then wait
+/// for this one.
 class Beside {
 public:
-    Beside() : thread_([this] { work(); }) {}
-    ~Beside() {
-        {
-            const std::lock_guard guard(mutex_);
-            ended_ = true;
-        }
-        changed_.notify_all();
-        thread_.join();
+    Beside() {
+        std::thread([this] { work(); }).detach();
     }
-    Beside(const Beside&) = delete;
-    Beside& operator=(const Beside&) = delete;
 
     void run(const std::function<void()>& call) {
         std::unique_lock lock(mutex_);
@@ -45,13 +40,10 @@ public:
     }
 
 private:
-    void work() {
+    [[noreturn]] void work() {
         std::unique_lock lock(mutex_);
         while (true) {
-            changed_.wait(lock, [this] { return ended_ || call_ != nullptr; });
-            if (ended_) {
-                return;
-            }
+            changed_.wait(lock, [this] { return call_ != nullptr; });
             const auto* call = call_;
             lock.unlock();
             try {
@@ -69,15 +61,53 @@ private:
     std::condition_variable changed_;
     const std::function<void()>* call_ = nullptr; ///< the one that runs
     std::exception_ptr failure_;
-    bool ended_ = false;
-    std::thread thread_; // declared last, since it uses the others
+};
+
+/// The threads that wait for a call: as many as there were calls at a time.
+class Waiting {
+public:
+    Beside& take() {
+        const std::lock_guard guard(mutex_);
+        if (waiting_.empty()) {
+            return *new Beside;
+        }
+        Beside& taken = *waiting_.back();
+        waiting_.pop_back();
+        return taken;
+    }
+    void giveBack(Beside& beside) {
+        const std::lock_guard guard(mutex_);
+        waiting_.push_back(&beside);
+    }
+
+private:
+    std::mutex mutex_;
+    std::vector<Beside*> waiting_;
+};
+
+Waiting& waiting() {
+    static Waiting& all = *new Waiting; // never destroyed, as its threads are never ended
+    return all;
+}
+
+class Taken {
+public:
+    Taken() : beside_(waiting().take()) {}
+    ~Taken() { waiting().giveBack(beside_); }
+    Taken(const Taken&) = delete;
+    Taken& operator=(const Taken&) = delete;
+
+    Beside* operator->() const { return &beside_; }
+
+private:
+    Beside& beside_;
 };
 
 } // namespace
 
 void runBeside(const std::function<void()>& call) {
-    thread_local Beside beside;
-    beside.run(call);
+    const Taken beside;
+    beside->run(call);
 }
 
 } // namespace engine

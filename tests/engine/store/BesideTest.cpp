@@ -37,12 +37,11 @@ TEST(Beside, IsOverAsSoonAsItsCall) {
     EXPECT_LT(std::chrono::steady_clock::now() - begun, std::chrono::seconds(2)) << "a fiftieth of a second each";
 }
 
-TEST(Beside, RunsThoseOfAnotherThreadOnAnotherOneThatEndsWithIt) {
+TEST(Beside, KeepsItsThreadForTheCallsOfOthers) {
     const auto mine = besideThread();
     std::thread::id others;
     std::thread([&] { others = besideThread(); }).join();
-    EXPECT_NE(others, mine);
-    EXPECT_EQ(besideThread(), mine);
+    EXPECT_EQ(others, mine);
 }
 
 TEST(Beside, GivesBackWhatACallThrowsAndRunsTheNextOne) {
@@ -70,6 +69,31 @@ TEST(Beside, LetsTheIdlerRunMeanwhile) {
     setIdler(nullptr);
     EXPECT_EQ(status, std::future_status::ready);
     EXPECT_GE(calls, 3);
+}
+
+std::thread::id inner;
+
+TEST(Beside, RunsACallDuringAnotherOnAThreadOfItsOwn) {
+    std::promise<void> ended;
+    enough = &ended;
+    calls = 0;
+    setIdler([]() noexcept {
+        if (++calls == 1) {
+            inner = besideThread();
+            enough->set_value();
+        }
+    });
+    std::thread::id outer;
+    std::future_status status = std::future_status::timeout;
+    runBeside([&] {
+        outer = std::this_thread::get_id();
+        status = ended.get_future().wait_for(std::chrono::seconds(5));
+    });
+    setIdler(nullptr);
+    EXPECT_EQ(status, std::future_status::ready);
+    EXPECT_NE(inner, std::thread::id());
+    EXPECT_NE(inner, outer);
+    EXPECT_NE(inner, std::this_thread::get_id());
 }
 
 } // namespace

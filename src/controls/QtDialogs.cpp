@@ -52,6 +52,16 @@ void fillRoomOfIcon(QMessageBox& box) {
     }
 }
 
+/// A short text's box would be too narrow for its title beside the buttons of the window's frame.
+void leaveRoomForTitle(QMessageBox& box) {
+    constexpr int kFrame = 160;
+    auto* grid = qobject_cast<QGridLayout*>(box.layout());
+    const int wanted = box.fontMetrics().horizontalAdvance(box.windowTitle()) + kFrame;
+    if (grid != nullptr) {
+        grid->addItem(new QSpacerItem(wanted, 0), grid->rowCount(), 0, 1, grid->columnCount());
+    }
+}
+
 /// Of a text that is scrolled: icon, margins and buttons must find room beside it on a small screen too.
 int textWidth(const QMessageBox& box) {
     constexpr int kUsual = 500;
@@ -128,6 +138,7 @@ bool ask(const std::string& text, QMessageBox::Icon icon, const QStringList& cap
     if (icon == QMessageBox::NoIcon) {
         fillRoomOfIcon(box);
     }
+    leaveRoomForTitle(box);
     if (escToo) {
         box.setEscapeButton(buttons.last());
     } else {

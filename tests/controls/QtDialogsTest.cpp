@@ -204,6 +204,21 @@ TEST_F(QtDialogs, TheButtonOfAMessageStandsInItsMiddle) {
         });
 }
 
+TEST_F(QtDialogs, ABoxOfAShortTextHasRoomForItsTitleBesideTheButtonsOfTheFrame) {
+    int room = 0;
+    withBox(
+        seen,
+        [&](QDialog& box) {
+            room = box.width() - box.fontMetrics().horizontalAdvance(box.windowTitle());
+            pressKey(box, Qt::Key_Escape);
+        },
+        [&] {
+            dialogs.message("No", platform::Icon::None);
+            return 0;
+        });
+    EXPECT_GE(room, 160);
+}
+
 TEST_F(QtDialogs, ABoxIsNotOwnedByAWindowThatIsHidden) {
     QWidget window;
     window.show();

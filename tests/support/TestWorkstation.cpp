@@ -5,6 +5,7 @@
 #include "engine/store/Instance.h"
 #include "engine/store/RowLocks.h"
 #include "support/AzzeraVariabili.h"
+#include "support/DataSourceStore.h"
 #include "support/Environment.h"
 #include "support/TestedDriver.h"
 
@@ -39,7 +40,7 @@ void makePresent(const platform::Workstation& workstation) {
 
 TestWorkstation::TestWorkstation(DriveC content) {
     if (content == DriveC::Sample) {
-        fs::copy(VABO_TEST_TEMPLATE, folder_.path(), fs::copy_options::recursive);
+        copyTree(VABO_TEST_TEMPLATE, folder_.path());
     }
     makePresent(workstationOn(folder_.path()));
     useDataSourceFile(dataSourceFile());
@@ -82,6 +83,10 @@ Peer& TestWorkstation::peer() const {
 TestWorkstation::~TestWorkstation() {
     makePresent(workstationOn(nowhere()));
     useDataSourceFile(nowhere() / "odbc.ini");
+}
+
+std::string TestWorkstation::dataSources() const {
+    return dataSourceText(dataSourceFile());
 }
 
 std::filesystem::path TestWorkstation::dataSourceFile() const {

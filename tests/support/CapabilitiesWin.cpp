@@ -1,0 +1,59 @@
+#include "platform/DataSources.h"
+#include "platform/OdbcDataSources.h"
+#include "support/Capabilities.h"
+#include "support/DataSourceStore.h"
+#include "support/Environment.h"
+
+#include <algorithm>
+#include <cstdlib>
+
+namespace support {
+
+namespace {
+
+bool storedSourcesAreFound() {
+    const std::filesystem::path before = dataSourceFileInUse();
+    const std::filesystem::path file = nowhere() / "asked";
+    useDataSourceFile(file);
+    putDataSources(file, "[Asked]\nDriver=SQL Server\n");
+    const bool found = std::ranges::count(platform::OdbcDataSources().names(), "Asked") == 1;
+    useDataSourceFile(before);
+    return found;
+}
+
+} // namespace
+
+const SystemCapabilities& systemCapabilities() {
+    static const SystemCapabilities all = [] {
+        SystemCapabilities some{
+            .otherUsers = {"A test can't become a user without rights, whose password it would need."},
+            .permissionBits = {"Files have no permissions for a group and for others."},
+            .symbolicLinks = {"A link needs a right that users don't have."},
+            .anyFileName = {"The names of files can't have every character."},
+            .caseInFileNames = {"No two files differ in case alone."},
+            .openFilesMove = {"A file that is open can't be moved or removed."},
+            .openMapsShrink = {"A file that is mapped can't be shortened."},
+            .limitedFileSize = {"A process has no limit for the size of its files."},
+            .dataSourcesInAFile = {"Data sources are in the registry."},
+            .driversByEnvironment = {"The environment doesn't choose the ODBC drivers."},
+            .homeByEnvironment = {"The environment doesn't choose the folder of the user's data."},
+            .localeByEnvironment = {"The environment doesn't choose the regional settings."},
+            .shellScripts = {"There is no shell."},
+            .askingToEnd = {"A program can't be sent a signal to end."},
+            .guardedResolver = {"The names that are looked up can't be limited to this machine's."},
+            .storedSourcesAreFound = {},
+            .sourcesOfStartedPrograms = {},
+        };
+        if (!storedSourcesAreFound()) {
+            some.storedSourcesAreFound = {
+                "The driver manager doesn't read the data sources that its installer stores."};
+        }
+        if (std::getenv("VABO_TESTS_OWN_REGISTRY") == nullptr) {
+            some.sourcesOfStartedPrograms = {"A program would write into the registry of whoever runs the test."};
+        }
+        return some;
+    }();
+    return all;
+}
+
+} // namespace support

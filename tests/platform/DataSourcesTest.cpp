@@ -81,6 +81,7 @@ protected:
 };
 
 TEST_F(DataSourcesTest, AnEntryHasAllThatAnyProgramNeedsToConnectByItsName) {
+    VABO_NEEDS(support::systemCapabilities().installerStoresDrivers);
     enter("Tlv_server", "Description=Dati Aurora\rOemToAnsi=No\rSERVER=10.0.0.7,1444\rDatabase=VaBoDatiAurora");
     EXPECT_EQ(entry("Tlv_server"), withDriver({{"Description", "Dati Aurora"},
                                                {"OemToAnsi", "No"},
@@ -108,6 +109,7 @@ TEST_F(DataSourcesTest, AMachineWhoseFileIsNowhereHasNoneOfTheUsersNames) {
 }
 
 TEST_F(DataSourcesTest, AnExistingEntryGetsTheNewValuesWhateverItsCase) {
+    VABO_NEEDS(support::systemCapabilities().installerStoresDrivers);
     enter("Tlv_server", "Server=uno\rDatabase=prima");
     enter("Tlv_Server", "SERVER=due");
     const auto all = entries();
@@ -117,6 +119,7 @@ TEST_F(DataSourcesTest, AnExistingEntryGetsTheNewValuesWhateverItsCase) {
 }
 
 TEST_F(DataSourcesTest, EntriesOfOtherProgramsStayAsTheyAre) {
+    VABO_NEEDS(support::systemCapabilities().installerStoresDrivers);
     const std::string others = putOthers();
     enter("Tlv_server");
     EXPECT_TRUE(text().starts_with(others)) << text();
@@ -124,6 +127,7 @@ TEST_F(DataSourcesTest, EntriesOfOtherProgramsStayAsTheyAre) {
 }
 
 TEST_F(DataSourcesTest, AddingMakesAWholeEntry) {
+    VABO_NEEDS(support::systemCapabilities().installerStoresDrivers);
     EXPECT_EQ(configure(DataSources::kAdd, "DSN=Tlv_Temp|Description=Dati|SERVER=uno|DBQ=VaBoDatiTemp|"), 1);
     EXPECT_EQ(entry("Tlv_Temp"), withDriver({{"Description", "Dati"}, {"SERVER", "uno"}, {"DBQ", "VaBoDatiTemp"}}));
     EXPECT_EQ(configure(DataSources::kAdd, "DSN=Tlv_Temp|SERVER=due|"), 1) << "one that is there";
@@ -131,6 +135,7 @@ TEST_F(DataSourcesTest, AddingMakesAWholeEntry) {
 }
 
 TEST_F(DataSourcesTest, ConfiguringNeedsAnEntry) {
+    VABO_NEEDS(support::systemCapabilities().installerStoresDrivers);
     const std::string others = putOthers();
     EXPECT_EQ(configure(DataSources::kConfigure, "DSN=Tlv_Temp|SERVER=uno|"), 0);
     EXPECT_EQ(configure(DataSources::kConfigure, "DSN=ODBC|SERVER=uno|"), 0) << "no data source";
@@ -173,6 +178,7 @@ TEST_F(DataSourcesTest, NamesThatOdbcRefusesAreRefused) {
 }
 
 TEST_F(DataSourcesTest, NoValueLeavesItsLine) {
+    VABO_NEEDS(support::systemCapabilities().installerStoresDrivers);
     const struct {
         const char* value;
         const char* stored;
@@ -219,6 +225,7 @@ TEST_F(DataSourcesTest, WhatStandsAlreadyIsNotWritten) {
 }
 
 TEST_F(DataSourcesTest, WhatOtherProgramsDoToTheFileIsSeenAtOnce) {
+    VABO_NEEDS(support::systemCapabilities().installerStoresDrivers);
     enter("Tlv_server", "Server=uno");
     enter("Tlv_server", "Server=uno"); // which only reads
     std::string changed = text();

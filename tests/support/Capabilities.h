@@ -48,7 +48,9 @@ struct SystemCapabilities {
     Capability shellScripts;
     Capability askingToEnd;
     Capability guardedResolver;
-    /// That the driver manager finds what its installer has stored; asked once.
+    /// That the installer of data sources stores their driver, and that the driver manager finds what it stores; both
+    /// are tried out once.
+    Capability installerStoresDrivers;
     Capability storedSourcesAreFound;
     /// That a program which a test starts has data sources of its own.
     Capability sourcesOfStartedPrograms;

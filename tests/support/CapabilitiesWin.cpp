@@ -1,24 +1,45 @@
-#include "platform/DataSources.h"
+#include "ado/drivers/odbc/OdbcDriverName.h"
+#include "os/Paths.h"
 #include "platform/OdbcDataSources.h"
 #include "support/Capabilities.h"
 #include "support/DataSourceStore.h"
 #include "support/Environment.h"
 
+#include <windows.h>
+
+#include <odbcinst.h>
+
 #include <algorithm>
 #include <cstdlib>
+#include <string>
+#include <vector>
 
 namespace support {
 
 namespace {
 
-bool storedSourcesAreFound() {
+/// With data sources that nobody has; they are none before and behind it.
+bool tryOut(bool (*work)(const std::filesystem::path& file)) {
     const std::filesystem::path before = dataSourceFileInUse();
-    const std::filesystem::path file = nowhere() / "asked";
+    const std::filesystem::path file = nowhere() / "tried";
     useDataSourceFile(file);
-    putDataSources(file, "[Asked]\nDriver=SQL Server\n");
-    const bool found = std::ranges::count(platform::OdbcDataSources().names(), "Asked") == 1;
+    const bool result = work(file);
+    putDataSources(file, "");
     useDataSourceFile(before);
-    return found;
+    return result;
+}
+
+bool installerStoresDrivers(const std::filesystem::path& file) {
+    const std::vector<std::string> drivers = ado::odbc::registeredDrivers();
+    if (!drivers.empty()) {
+        SQLWriteDSNToIniW(L"Tried", os::pathOf(drivers.front()).c_str());
+    }
+    return dataSourceText(file).find("Driver=") != std::string::npos;
+}
+
+bool storedSourcesAreFound(const std::filesystem::path& file) {
+    putDataSources(file, "[Tried]\nDriver=SQL Server\n");
+    return std::ranges::count(platform::OdbcDataSources().names(), "Tried") == 1;
 }
 
 } // namespace
@@ -41,10 +62,14 @@ const SystemCapabilities& systemCapabilities() {
             .shellScripts = {"There is no shell."},
             .askingToEnd = {"A program can't be sent a signal to end."},
             .guardedResolver = {"The names that are looked up can't be limited to this machine's."},
+            .installerStoresDrivers = {},
             .storedSourcesAreFound = {},
             .sourcesOfStartedPrograms = {},
         };
-        if (!storedSourcesAreFound()) {
+        if (!tryOut(installerStoresDrivers)) {
+            some.installerStoresDrivers = {"The installer of data sources doesn't store their driver."};
+        }
+        if (!tryOut(storedSourcesAreFound)) {
             some.storedSourcesAreFound = {
                 "The driver manager doesn't read the data sources that its installer stores."};
         }

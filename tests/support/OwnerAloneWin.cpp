@@ -37,10 +37,11 @@ bool isForOwnerAlone(const std::filesystem::path& path) {
             continue;
         }
         auto* whom = const_cast<DWORD*>(&allowed->SidStart);
-        if (EqualSid(whom, owner) == 0) {
+        if (EqualSid(whom, owner) != 0) {
+            ofOwner = ofOwner || (allowed->Mask & FILE_ALL_ACCESS) == FILE_ALL_ACCESS;
+        } else if (IsWellKnownSid(whom, WinLocalSystemSid) == 0) { // the system itself is kept out of nothing
             return false;
         }
-        ofOwner = ofOwner || (allowed->Mask & FILE_ALL_ACCESS) == FILE_ALL_ACCESS;
     }
     return ofOwner;
 }

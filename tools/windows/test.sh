@@ -30,9 +30,9 @@ for file in "$build"/test-results/*/*.xml; do
     echo "$(basename "$(dirname "$file")") $(basename "$file" .xml): $(sed -n \
         's/^<testsuites tests="\([0-9]*\)" failures="\([0-9]*\)".*/\1 tests, \2 failed/p' "$file"), $(
         grep -c '<skipped ' "$file" || true) skipped"
-    # The reason of a skipped test stands in the line behind its name.
+    # The reason of a skipped test stands in the line behind its name, behind the place in the source.
     sed -n -e '/result="skipped"/{s/.*testcase name="\([^"]*\)".*classname="\([^"]*\)".*/    \2.\1: /;h}' \
-        -e '/<skipped /{s/.*message="\([^"]*\)".*/\1/;s/&#x0A;//g;s/&apos;/'"'"'/g;H;x;s/\n//;p}' "$file"
+        -e "/<skipped /{s/.*message=\"//;s/\".*//;s/^[^&]*&#x0A;//;s/&#x0A;//g;s/&apos;/'/g;H;x;s/\n//;p}" "$file"
 done
 tools/count-tests.sh "$build"
 exit "$result"

@@ -101,11 +101,17 @@ void showScrolled(QMessageBox& box, QLabel& label) {
     const std::unique_ptr<QLayoutItem> replaced(box.layout()->replaceWidget(&label, text));
 }
 
+/// The window in front of which a box opens. One that was shown and hidden at once may be the active one.
+QWidget* windowBelow() {
+    QWidget* active = QApplication::activeWindow();
+    return active != nullptr && active->isVisible() ? active : nullptr;
+}
+
 /// Shows a box with its buttons; true when the first one was chosen.
 bool ask(const std::string& text, QMessageBox::Icon icon, const QStringList& captions,
          Leaving leaving = Leaving::ByEscToo) {
     const bool escToo = leaving == Leaving::ByEscToo;
-    Modal<QMessageBox> shown(icon, applicationTitle(), QString(), QMessageBox::NoButton, QApplication::activeWindow());
+    Modal<QMessageBox> shown(icon, applicationTitle(), QString(), QMessageBox::NoButton, windowBelow());
     QMessageBox& box = *shown;
     box.setTextFormat(Qt::PlainText);
     box.setText(QString::fromStdString(text));
@@ -149,7 +155,7 @@ bool QtDialogs::confirm(const std::string& text) {
 }
 
 std::string QtDialogs::input(const std::string& prompt, const std::string& title, const std::string& proposed) {
-    Modal<QInputDialog> box(QApplication::activeWindow());
+    Modal<QInputDialog> box(windowBelow());
     box->setWindowTitle(titleOr(title));
     box->setLabelText(QString::fromStdString(prompt));
     box->setTextValue(QString::fromStdString(proposed));
@@ -159,7 +165,7 @@ std::string QtDialogs::input(const std::string& prompt, const std::string& title
 }
 
 std::string QtDialogs::folder(const std::string& title) {
-    return chooseFolder(QApplication::activeWindow(), titleOr(title));
+    return chooseFolder(windowBelow(), titleOr(title));
 }
 
 } // namespace controls

@@ -204,6 +204,28 @@ TEST_F(QtDialogs, TheButtonOfAMessageStandsInItsMiddle) {
         });
 }
 
+TEST_F(QtDialogs, ABoxIsNotOwnedByAWindowThatIsHidden) {
+    QWidget window;
+    window.show();
+    window.activateWindow();
+    window.hide();
+    QCoreApplication::processEvents();
+    ASSERT_EQ(QApplication::activeWindow(), &window) << "made active after it was hidden";
+    const QWidget* owner = &window;
+    withBox(
+        seen,
+        [&](QDialog& box) {
+            owner = box.parentWidget();
+            pressKey(box, Qt::Key_Escape);
+        },
+        [&] {
+            dialogs.message("Solo", platform::Icon::None);
+            return 0;
+        });
+    EXPECT_EQ(seen.text, "Solo");
+    EXPECT_EQ(owner, nullptr);
+}
+
 struct Left {
     const char* what;
     /// What is made of the answer that never came.

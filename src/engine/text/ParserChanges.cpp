@@ -74,6 +74,7 @@ Grammar::Node Grammar::deleteRows() {
     expect(Keyword::Delete);
     consumeIf(Keyword::From);
     node.table = name();
+    refuseWord("FROM", "DELETE … FROM");
     if (consumeIf(Keyword::Where)) {
         node.where = condition();
     }

@@ -127,6 +127,11 @@ ExpressionPtr Grammar::binary(ExpressionPtr left, Binary::Operator op, int prece
         requireCondition(*left);
     }
     const int position = consume().position;
+    if (precedence == kComparison) {
+        for (const char* word : {"ALL", "ANY", "SOME"}) {
+            refuseWord(word, std::string(word) + " (SELECT …)");
+        }
+    }
     auto right = climb(precedence + 1);
     if (joinsConditions) {
         requireCondition(*right);

@@ -67,6 +67,8 @@ std::optional<long long> Grammar::top() {
     if (bracketed) {
         expect(")");
     }
+    refuseWord("PERCENT", "SELECT TOP … PERCENT");
+    refuseWord("WITH", "SELECT TOP … WITH TIES");
     return count;
 }
 

@@ -1,5 +1,6 @@
 #include "engine/text/ParserTokens.h"
 
+#include "engine/errors/DefinitionErrors.h"
 #include "engine/errors/TextErrors.h"
 #include "engine/text/Parser.h"
 
@@ -79,6 +80,12 @@ void TokenStream::refuse(const Token& token) {
         throw errors::syntaxNearKeyword(std::string(token.text), token.position);
     }
     throw errors::syntaxNear(valueOf(token), token.position);
+}
+
+void TokenStream::refuseWord(std::string_view word, std::string_view statement) const {
+    if (sameWord(now().text, word)) {
+        throw errors::notSupported(std::string(statement));
+    }
 }
 
 std::string TokenStream::textBetween(int begin, int end) const {

@@ -48,6 +48,8 @@ protected:
     [[noreturn]] void refuse() const;
     /// 102 or 156 at a token.
     [[noreturn]] static void refuse(const Token& token);
+    /// 40510 where the batch goes on with a word that a server would know here and this one doesn't.
+    void refuseWord(std::string_view word, std::string_view statement) const;
     /// The token that an error noticed here is told to be near.
     const Token& nearest() const { return atEnd() ? last() : now(); }
     /// How many literals of the batch lie behind the present token.

@@ -1,7 +1,5 @@
 #include "support/loopback/Loopback.h"
 
-#include <windows.h>
-
 #include <algorithm>
 #include <system_error>
 #include <thread>

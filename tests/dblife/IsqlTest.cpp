@@ -5,6 +5,7 @@
 #include "ado/ConnectionString.h"
 #include "session/ApriAzienda.h"
 #include "session/SessionFixture.h"
+#include "support/Capabilities.h"
 #include "support/Processes.h"
 
 #include <gmock/gmock.h>
@@ -17,6 +18,7 @@ using support::kOtherCompany;
 
 class Isql : private ConServerDiRete, public SessionTest {
 protected:
+    void SetUp() override { VABO_NEEDS(support::systemCapabilities().driverManagersClient); }
     void apri(const std::string& database) const {
         double id = idOf(database);
         ApriAzienda(id);

@@ -46,6 +46,7 @@ struct SystemCapabilities {
     Capability homeByEnvironment;
     Capability localeByEnvironment;
     Capability shellScripts;
+    Capability driverManagersClient;
     Capability askingToEnd;
     Capability guardedResolver;
     /// That the installer of data sources stores their driver, and that the driver manager finds what it stores; both

@@ -60,6 +60,7 @@ const SystemCapabilities& systemCapabilities() {
             .homeByEnvironment = {"The environment doesn't choose the folder of the user's data."},
             .localeByEnvironment = {"The environment doesn't choose the regional settings."},
             .shellScripts = {"There is no shell."},
+            .driverManagersClient = {"The driver manager has no client of its own."},
             .askingToEnd = {"A program can't be sent a signal to end."},
             .guardedResolver = {"The names that are looked up can't be limited to this machine's."},
             .installerStoresDrivers = {},

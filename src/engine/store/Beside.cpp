@@ -1,10 +1,12 @@
 #include "engine/store/Beside.h"
 
 #include "engine/store/Idler.h"
+#include "os/OfThread.h"
 
 #include <chrono>
 #include <condition_variable>
 #include <exception>
+#include <memory>
 #include <mutex>
 #include <thread>
 #include <utility>
@@ -76,8 +78,8 @@ private:
 } // namespace
 
 void runBeside(const std::function<void()>& call) {
-    thread_local Beside beside;
-    beside.run(call);
+    thread_local Beside* beside = nullptr;
+    os::ofThread(beside, [] { return std::make_unique<Beside>(); }).run(call);
 }
 
 } // namespace engine

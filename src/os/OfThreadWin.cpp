@@ -2,6 +2,7 @@
 
 #include <windows.h>
 
+#include <pthread.h>
 #include <utility>
 #include <vector>
 
@@ -24,7 +25,7 @@ struct Ends {
 const DWORD mainThread = GetCurrentThreadId();
 Ends endsOfMain;
 
-void NTAPI endThread(void* ends) {
+void endThread(void* ends) {
     delete static_cast<Ends*>(ends);
 }
 
@@ -32,11 +33,16 @@ Ends& endsOfThread() {
     if (GetCurrentThreadId() == mainThread) { // whose end comes when the other threads are gone already
         return endsOfMain;
     }
-    static const DWORD slot = FlsAlloc(endThread);
-    auto* ends = static_cast<Ends*>(FlsGetValue(slot));
+    // The threads of the standard library are those of this one. The system's own slots call back under a lock.
+    static const pthread_key_t slot = [] {
+        pthread_key_t made{};
+        pthread_key_create(&made, endThread);
+        return made;
+    }();
+    auto* ends = static_cast<Ends*>(pthread_getspecific(slot));
     if (ends == nullptr) {
         ends = new Ends;
-        FlsSetValue(slot, ends);
+        pthread_setspecific(slot, ends);
     }
     return *ends;
 }

@@ -17,62 +17,68 @@ namespace {
 
 constexpr std::chrono::milliseconds kPiece{25};
 
-/// One thread for all calls of its owner, since a new one for each would cost more than most calls.
+/// What a thread and the one beside it share.
+struct Shared {
+    std::mutex mutex;
+    std::condition_variable changed;
+    const std::function<void()>* call = nullptr; ///< the one that runs
+    std::exception_ptr failure;
+    bool ended = false;
+};
+
+void work(const std::shared_ptr<Shared>& shared) {
+    std::unique_lock lock(shared->mutex);
+    while (true) {
+        shared->changed.wait(lock, [&] { return shared->ended || shared->call != nullptr; });
+        if (shared->ended) {
+            return;
+        }
+        const auto* call = shared->call;
+        lock.unlock();
+        try {
+            (*call)();
+        } catch (...) {
+            shared->failure = std::current_exception();
+        }
+        lock.lock();
+        shared->call = nullptr;
+        shared->changed.notify_all();
+    }
+}
+
+/// One thread for all calls of its owner, since a new one for each would cost more than most calls. It ends soon after
+/// its owner, who can't wait for that: on one system no thread can end as long as another one is ending.
 class Beside {
 public:
-    Beside() : thread_([this] { work(); }) {}
+    Beside() {
+        std::thread([shared = shared_] { work(shared); }).detach();
+    }
     ~Beside() {
         {
-            const std::lock_guard guard(mutex_);
-            ended_ = true;
+            const std::lock_guard guard(shared_->mutex);
+            shared_->ended = true;
         }
-        changed_.notify_all();
-        thread_.join();
+        shared_->changed.notify_all();
     }
     Beside(const Beside&) = delete;
     Beside& operator=(const Beside&) = delete;
 
     void run(const std::function<void()>& call) {
-        std::unique_lock lock(mutex_);
-        call_ = &call;
-        changed_.notify_all();
-        while (!changed_.wait_for(lock, kPiece, [this] { return call_ == nullptr; })) {
+        std::unique_lock lock(shared_->mutex);
+        shared_->call = &call;
+        shared_->changed.notify_all();
+        while (!shared_->changed.wait_for(lock, kPiece, [this] { return shared_->call == nullptr; })) {
             lock.unlock();
             idle();
             lock.lock();
         }
-        if (failure_) {
-            std::rethrow_exception(std::exchange(failure_, nullptr));
+        if (shared_->failure) {
+            std::rethrow_exception(std::exchange(shared_->failure, nullptr));
         }
     }
 
 private:
-    void work() {
-        std::unique_lock lock(mutex_);
-        while (true) {
-            changed_.wait(lock, [this] { return ended_ || call_ != nullptr; });
-            if (ended_) {
-                return;
-            }
-            const auto* call = call_;
-            lock.unlock();
-            try {
-                (*call)();
-            } catch (...) {
-                failure_ = std::current_exception();
-            }
-            lock.lock();
-            call_ = nullptr;
-            changed_.notify_all();
-        }
-    }
-
-    std::mutex mutex_;
-    std::condition_variable changed_;
-    const std::function<void()>* call_ = nullptr; ///< the one that runs
-    std::exception_ptr failure_;
-    bool ended_ = false;
-    std::thread thread_; // declared last, since it uses the others
+    std::shared_ptr<Shared> shared_ = std::make_shared<Shared>();
 };
 
 } // namespace

@@ -10,6 +10,14 @@ endif()
 target_include_directories(vabo_options INTERFACE ${CMAKE_SOURCE_DIR}/src)
 set(CMAKE_CXX_EXTENSIONS OFF)
 set(CMAKE_RUNTIME_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/bin)
+
+# What asks the system has a source for each system, which ends in its name.
+if(WIN32)
+    set(system Win)
+else()
+    set(system Posix)
+endif()
+
 foreach(sanitizer IN LISTS VABO_SANITIZE)
     target_compile_options(vabo_options INTERFACE -fsanitize=${sanitizer} -fno-sanitize-recover=all
                                                   -fno-omit-frame-pointer)
@@ -59,11 +67,16 @@ endfunction()
 
 # vabo_test(name SOURCES … LINKS …): one test executable and its ctest entry. With BOTH_DRIVERS it has two entries, one
 # with each driver of the data layer, labelled "embedded" and "wire"; with WIRE the second alone. tools/count-tests.sh
-# counts from the results what was tested.
+# counts from the results what was tested. Tests of properties with random values, which link rapidcheck, are in
+# sources that end in PropertyTest.cpp.
 function(vabo_test name)
     cmake_parse_arguments(ARG "QT;BOTH_DRIVERS;WIRE" "" "SOURCES;LINKS;LABELS" ${ARGN})
     if(ARG_UNPARSED_ARGUMENTS)
         message(FATAL_ERROR "vabo_test(${name}): unknown ${ARG_UNPARSED_ARGUMENTS}")
+    endif()
+    if(VABO_WITHOUT_PROPERTY_TESTS)
+        list(FILTER ARG_SOURCES EXCLUDE REGEX "PropertyTest\\.cpp$")
+        list(REMOVE_ITEM ARG_LINKS rapidcheck)
     endif()
     add_executable(${name} ${ARG_SOURCES})
     target_link_libraries(${name} PRIVATE vabo_options ${ARG_LINKS} GTest::gtest GTest::gmock)

@@ -3,6 +3,7 @@
 #include "ado/Conversions.h"
 #include "ado/Error.h"
 #include "engine/store/Sqlite.h"
+#include "os/Files.h"
 
 #include <string>
 #include <system_error>
@@ -53,7 +54,7 @@ const fs::path& checked(const fs::path& file) {
     if (fs::file_size(file, reason) == 0 || !engine::sqlite::holdsTable(file, "tables")) {
         throw Error(kUnspecified, "Unrecognized database format.");
     }
-    fs::permissions(file, fs::perms::owner_read | fs::perms::owner_write, reason);
+    os::keepForOwner(file);
     return file;
 }
 

@@ -2,8 +2,10 @@
 
 #include "ado/Error.h"
 #include "engine/store/Idler.h"
+#include "os/OfThread.h"
 
 #include <chrono>
+#include <memory>
 #include <utility>
 
 namespace ado {
@@ -18,37 +20,41 @@ struct Waiting {
     Clock::time_point last;
     bool running = false;
 };
-thread_local Waiting waiting;
+
+Waiting& waiting() {
+    thread_local Waiting* ofThread = nullptr;
+    return os::ofThread(ofThread, [] { return std::make_unique<Waiting>(); });
+}
 
 } // namespace
 
 std::function<void()> setWhileWaiting(std::function<void()> hook) {
     engine::setIdler(hook ? whileWaiting : nullptr);
-    waiting.last = Clock::now();
-    return std::exchange(waiting.hook, std::move(hook));
+    waiting().last = Clock::now();
+    return std::exchange(waiting().hook, std::move(hook));
 }
 
 bool isWaitingUsed() {
-    return static_cast<bool>(waiting.hook);
+    return static_cast<bool>(waiting().hook);
 }
 
 void whileWaiting() noexcept {
-    if (!waiting.hook || waiting.running || Clock::now() - waiting.last < kPause) {
+    if (!waiting().hook || waiting().running || Clock::now() - waiting().last < kPause) {
         return;
     }
-    waiting.running = true;
+    waiting().running = true;
     try {
-        const auto hook = waiting.hook; // a copy, since it may set another
+        const auto hook = waiting().hook; // a copy, since it may set another
         hook();
     } catch (...) { // NOLINT(bugprone-empty-catch)
         // It would pass through the storage or the driver manager.
     }
-    waiting.running = false;
-    waiting.last = Clock::now();
+    waiting().running = false;
+    waiting().last = Clock::now();
 }
 
 void refuseWhileWaiting() {
-    if (waiting.running) {
+    if (waiting().running) {
         throw Error(kStillExecuting);
     }
 }

@@ -5,6 +5,7 @@
 #include <filesystem>
 #include <optional>
 #include <string_view>
+#include <system_error>
 
 namespace os {
 
@@ -21,6 +22,8 @@ void replaceFile(const std::filesystem::path& file, std::string_view bytes,
 /// Makes an empty file that nobody but its owner can ever open. Does nothing where there is one, or where none can be
 /// made.
 void makeFileOfOwner(const std::filesystem::path& file);
+/// Gives a file that is there to its owner alone. The error where that isn't possible.
+std::error_code keepForOwner(const std::filesystem::path& file);
 /// Throws std::system_error.
 void makePrivateFolder(const std::filesystem::path& folder);
 

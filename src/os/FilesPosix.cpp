@@ -119,6 +119,12 @@ void makeFileOfOwner(const fs::path& file) {
     }
 }
 
+std::error_code keepForOwner(const fs::path& file) {
+    std::error_code error;
+    fs::permissions(file, fs::perms::owner_read | fs::perms::owner_write, error);
+    return error;
+}
+
 void makePrivateFolder(const fs::path& folder) {
     if (::mkdir(folder.c_str(), S_IRWXU) != 0) {
         fail("mkdir");

@@ -200,6 +200,13 @@ void makeFileOfOwner(const fs::path& file) {
     }
 }
 
+std::error_code keepForOwner(const fs::path& file) {
+    OfOwnerAlone rights;
+    const BOOL kept = SetFileSecurityW(file.c_str(), DACL_SECURITY_INFORMATION | PROTECTED_DACL_SECURITY_INFORMATION,
+                                       static_cast<PSECURITY_DESCRIPTOR>(rights.attributes()->lpSecurityDescriptor));
+    return kept != 0 ? std::error_code() : std::error_code(static_cast<int>(GetLastError()), std::system_category());
+}
+
 void makePrivateFolder(const fs::path& folder) {
     OfOwnerAlone rights;
     if (CreateDirectoryW(folder.c_str(), rights.attributes()) == 0) {

@@ -1,5 +1,7 @@
 #include "ado/AdoFixture.h"
 
+#include <limits>
+
 namespace ado {
 namespace {
 
@@ -44,7 +46,7 @@ const MoveCase kMoves[] = {
     {"row, by 0", At::First, [](Recordset& rs) { rs.Move(0); }, false, 1},
     {"row, by 2", At::First, [](Recordset& rs) { rs.Move(2); }, false, 3},
     {"row, past the end", At::First, [](Recordset& rs) { rs.Move(99); }, false, -3},
-    {"row, far past the end", At::First, [](Recordset& rs) { rs.Move(0x7fffffffffffffffL); }, false, -3},
+    {"row, far past the end", At::First, [](Recordset& rs) { rs.Move(std::numeric_limits<long>::max()); }, false, -3},
     {"row, past the begin", At::First, [](Recordset& rs) { rs.Move(-99); }, false, -2},
     {"row, previous", At::First, [](Recordset& rs) { rs.MovePrevious(); }, false, -2},
     {"row, from first 2", At::First, [](Recordset& rs) { rs.MoveFromFirst(2); }, false, 3},

@@ -1,11 +1,12 @@
 // The end of a row hold, where the server can't keep what was written.
 
 #include "ado/ExpectError.h"
-#include "ado/LargestFile.h"
 #include "ado/Recordset.h"
 #include "ado/TestServer.h"
 #include "ado/WhileWaiting.h"
+#include "support/Capabilities.h"
 #include "support/CutWire.h"
+#include "support/LargestFile.h"
 
 #include <gtest/gtest.h>
 
@@ -38,11 +39,12 @@ protected:
 };
 
 TEST_F(OdbcCommit, OnAFullDiskFailsTheUpdateAndNothingThatFollowsIsLost) {
+    VABO_NEEDS(support::systemCapabilities().limitedFileSize);
     Recordset rs;
     open(rs, connection);
     rs["t"] = std::string(4000, 'x');
     {
-        const test::LargestFile limit(server.peer().pid(), 1);
+        const support::LargestFile limit(server.peer().pid(), 1);
         const auto error = errorOf([&] { rs.Update(); });
         ASSERT_TRUE(error) << "it looks stored";
     }

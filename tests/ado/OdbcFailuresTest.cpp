@@ -5,7 +5,12 @@
 #include "ado/ExpectError.h"
 #include "ado/Recordset.h"
 #include "ado/TestServer.h"
+#include "support/Capabilities.h"
+#include "support/DataSourceStore.h"
+#include "support/Environment.h"
 #include "support/OneEvent.h"
+
+#include <QByteArray>
 
 #include <gtest/gtest.h>
 
@@ -247,10 +252,11 @@ TEST_F(OdbcFailures, NamesAndPasswordsOfAnyCharactersArriveAsTheyAre) {
 }
 
 TEST(OdbcDrivers, WithoutARegisteredDriverTheRegistrySpeaks) {
+    VABO_NEEDS(support::systemCapabilities().driversByEnvironment);
     GTEST_FLAG_SET(death_test_style, "threadsafe");
     const auto open = [] {
-        ::setenv("ODBCSYSINI", "/nonexistent", 1);
-        ::setenv("ODBCINI", "/nonexistent/odbc.ini", 1);
+        qputenv("ODBCSYSINI", "/nonexistent");
+        support::useDataSourceFile(support::nowhere() / "odbc.ini");
         const auto error = errorOf([] { Connection().Open("Driver=SQL Server;Server=127.0.0.1;UID=sa;PWD=x"); });
         if (error) {
             std::fprintf(stderr, "%d %s\n", error->number(), error->description().c_str());

@@ -1,9 +1,10 @@
 // Every statement gives rows or an error, and the connection can run the next one.
 
 #include "ado/AdoFixture.h"
-#include "ado/LargestFile.h"
 #include "engine/run/InternalErrors.h"
 #include "engine/store/Sqlite.h"
+#include "support/Capabilities.h"
+#include "support/LargestFile.h"
 
 namespace ado {
 namespace {
@@ -95,14 +96,15 @@ TEST_F(StatementErrorsContract, AnInternalErrorOfTheServerIsTheStatementsOwn) {
 }
 
 TEST_F(StatementErrorsContract, AFileAtItsLargestSizeIsAFullDisk) {
+    VABO_NEEDS(support::systemCapabilities().limitedFileSize);
     constexpr int kDiskFull = 1105;
     connection.Execute("create table t (a nvarchar(4000) null)");
     const std::string insert = "insert into t (a) values ('" + std::string(4000, 'x') + "')";
     const long long process = support::testedDriver() == support::TestedDriver::Wire ? server.peer().pid() : 0;
     int written = 0;
     {
-        constexpr rlim_t kLimit = 1'000'000;
-        const test::LargestFile limit(process, kLimit);
+        constexpr std::uint64_t kLimit = 1'000'000;
+        const support::LargestFile limit(process, kLimit);
         constexpr int kMoreThanFit = 2000;
         int refusal = 0;
         while (refusal == 0 && written < kMoreThanFit) {
@@ -120,6 +122,7 @@ TEST_F(StatementErrorsContract, AFileAtItsLargestSizeIsAFullDisk) {
 }
 
 TEST_F(StatementErrorsContract, AFullDiskAtTheCommitTakesTheTransactionBack) {
+    VABO_NEEDS(support::systemCapabilities().limitedFileSize);
     constexpr int kDiskFull = 1105;
     connection.Execute("create table t (a nvarchar(4000) null)");
     const long long process = support::testedDriver() == support::TestedDriver::Wire ? server.peer().pid() : 0;
@@ -128,8 +131,8 @@ TEST_F(StatementErrorsContract, AFullDiskAtTheCommitTakesTheTransactionBack) {
         connection.Execute("insert into t (a) values ('" + std::string(4000, 'x') + "')");
     }
     {
-        constexpr rlim_t kLimit = 150'000;
-        const test::LargestFile limit(process, kLimit);
+        constexpr std::uint64_t kLimit = 150'000;
+        const support::LargestFile limit(process, kLimit);
         EXPECT_EQ(refusalOf("commit"), kDiskFull);
     }
     EXPECT_EQ(cell("select @@trancount"), "0");
@@ -140,6 +143,7 @@ TEST_F(StatementErrorsContract, AFullDiskAtTheCommitTakesTheTransactionBack) {
 }
 
 TEST_F(StatementErrorsContract, AFullDiskLeavesNoHalfOfATransaction) {
+    VABO_NEEDS(support::systemCapabilities().limitedFileSize);
     constexpr int kDiskFull = 1105;
     constexpr int kNoTransaction = 3902;
     connection.Execute("create table t (a nvarchar(4000) null)");
@@ -149,8 +153,8 @@ TEST_F(StatementErrorsContract, AFullDiskLeavesNoHalfOfATransaction) {
     connection.Execute(insert);
     int refusal = 0;
     {
-        constexpr rlim_t kLimit = 300'000;
-        const test::LargestFile limit(process, kLimit);
+        constexpr std::uint64_t kLimit = 300'000;
+        const support::LargestFile limit(process, kLimit);
         // More data than the storage's cache holds, so that it must write before the commit.
         connection.Execute("create table n (i int null)");
         connection.Execute("insert into n (i) values (1), (2), (3), (4), (5), (6), (7), (8), (9), (10)");

@@ -1,9 +1,9 @@
 #include "app/Forms.h"
+#include "os/Paths.h"
+#include "support/Capabilities.h"
 #include "support/Gui.h"
 #include "support/Processes.h"
 #include "support/TestWorkstation.h"
-
-#include <csignal>
 
 namespace {
 
@@ -17,21 +17,24 @@ TEST(Program, KnowsItsFormsByTheirExactNames) {
 }
 
 TEST(Program, RunsUntilItIsTerminated) {
+    VABO_NEEDS(support::systemCapabilities().askingToEnd);
     const support::TestWorkstation workstation;
     support::HelperProcess program("vabo", {},
-                                   {{"VABO_DRIVE_C", workstation.driveC().root().string()},
+                                   {{"VABO_DRIVE_C", os::utf8Of(workstation.driveC().root())},
                                     {"QT_QPA_PLATFORM", "offscreen"},
                                     {"QT_LOGGING_RULES", "vabo.sql.debug=true"}});
     ASSERT_GT(program.pid(), 0);
-    ASSERT_EQ(::kill(static_cast<pid_t>(program.pid()), SIGTERM), 0);
+    ASSERT_TRUE(program.isRunning());
+    program.terminate();
     EXPECT_EQ(program.finish(), -1) << "ended by the signal alone";
 }
 
 TEST(Program, StandsWithItsHiddenStartFormWhenTheLastFormIsClosed) {
+    VABO_NEEDS(support::systemCapabilities().sourcesOfStartedPrograms);
     const support::TestWorkstation workstation;
     support::HelperProcess program(
         "program_probe", {},
-        {{"VABO_DRIVE_C", workstation.driveC().root().string()}, {"QT_QPA_PLATFORM", "offscreen"}});
+        {{"VABO_DRIVE_C", os::utf8Of(workstation.driveC().root())}, {"QT_QPA_PLATFORM", "offscreen"}});
     EXPECT_EQ(program.readLine(), "closed");
     EXPECT_EQ(program.readLine(), "running with the start form");
     EXPECT_EQ(program.finish(), 0);

@@ -1,5 +1,6 @@
 #include "dblife/CollegamentiFixture.h"
 #include "engine/store/Sqlite.h"
+#include "support/Capabilities.h"
 #include "support/Unprivileged.h"
 
 #include <QElapsedTimer>
@@ -91,6 +92,7 @@ TEST_F(CollegaTabelleGuastiTest, WithoutThePointerFileOfTheServerTheLinksStay) {
 }
 
 TEST_F(CollegaTabelleGuastiTest, AReadOnlyCatalogStaysAsItIsAndIsShown) {
+    VABO_NEEDS(support::systemCapabilities().otherUsers);
     main({{"LINK", "dbo_a", kPrima}, {"LINK", "dbo_b", kPrima}});
     std::filesystem::permissions(real(kLocale), std::filesystem::perms::owner_read);
     const std::string told = support::unprivileged(workstation.driveC().root(), [&] {
@@ -102,6 +104,7 @@ TEST_F(CollegaTabelleGuastiTest, AReadOnlyCatalogStaysAsItIsAndIsShown) {
 }
 
 TEST_F(CollegaTabelleGuastiTest, ACatalogWithoutPermissionMakesTheRunEmpty) {
+    VABO_NEEDS(support::systemCapabilities().otherUsers);
     main({{"LINK", "dbo_a", kPrima}});
     std::filesystem::permissions(real(kLocale), std::filesystem::perms::none);
     const std::string told = support::unprivileged(workstation.driveC().root(), [&] {

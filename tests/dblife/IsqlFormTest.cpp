@@ -4,6 +4,7 @@
 #include "dblife/RegistraFormFixture.h"
 #include "platform/DataSources.h"
 #include "session/LinguaClient.h"
+#include "support/Capabilities.h"
 
 #include <gmock/gmock.h>
 
@@ -11,7 +12,10 @@ namespace {
 
 using namespace vabo;
 
-class IsqlRegistra : private ConServerDiRete, public RegistraForm {};
+class IsqlRegistra : private ConServerDiRete, public RegistraForm {
+protected:
+    void SetUp() override { VABO_NEEDS(support::systemCapabilities().driverManagersClient); }
+};
 
 TEST_F(IsqlRegistra, ReadsEachDatabaseOnceTheFormHasRegisteredIt) {
     LeggiLinguaClient("");

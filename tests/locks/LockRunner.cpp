@@ -8,8 +8,8 @@
 #include "session/ApriDbSede.h"
 #include "state/variabili.h"
 #include "support/Environment.h"
+#include "support/SystemProcesses.h"
 
-#include <csignal>
 #include <iostream>
 #include <string>
 
@@ -39,7 +39,7 @@ int main(int count, char** arguments) {
     int inviate = 0;
     ado::setStatementRecorder([&](const std::string& /*testo*/) {
         if (++inviate == fatale) {
-            std::raise(SIGKILL);
+            support::dieAtOnce();
         }
     });
     std::cout << "pronto" << std::endl;

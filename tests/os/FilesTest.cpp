@@ -1,6 +1,7 @@
 #include "os/Files.h"
 
 #include "os/Paths.h"
+#include "support/OwnerAlone.h"
 #include "support/TemporaryFolder.h"
 
 #include <gtest/gtest.h>
@@ -62,6 +63,21 @@ TEST_F(Files, OfTheOwnerAreMadeEmptyAndOnlyOnce) {
     EXPECT_EQ(content(), "uno");
     os::makeFileOfOwner(folder.path() / "manca" / "a.txt");
     EXPECT_EQ(entries(), 1);
+}
+
+TEST_F(Files, BelongToTheirOwnerHoweverTheyAreMade) {
+    os::makeFileOfOwner(file);
+    EXPECT_TRUE(support::isForOwnerAlone(file));
+    os::replaceFile(file, "uno");
+    EXPECT_TRUE(support::isForOwnerAlone(file));
+    const fs::path open = folder.path() / "open.txt";
+    std::ofstream(open) << "uno";
+    EXPECT_FALSE(support::isForOwnerAlone(open));
+    EXPECT_FALSE(os::keepForOwner(open));
+    EXPECT_TRUE(support::isForOwnerAlone(open));
+    EXPECT_TRUE(os::keepForOwner(folder.path() / "manca.txt")) << "an error";
+    os::makePrivateFolder(folder.path() / "own");
+    EXPECT_TRUE(support::isForOwnerAlone(folder.path() / "own"));
 }
 
 TEST_F(Files, StandInFoldersThatAreMadeOnce) {

@@ -4,11 +4,9 @@
 
 #include "ado/Conversions.h"
 #include "ado/Error.h"
-#include "kit/IsEmptyValue.h"
 #include "platform/RegionalSettings.h"
 
 #include <gtest/gtest.h>
-#include <rapidcheck.h>
 
 namespace vabo {
 namespace {
@@ -115,29 +113,6 @@ TEST(ImportoScritto, WhatIsNoNumberIsRefused) {
             EXPECT_EQ(error.number(), 13) << testo.substr(0, 10);
         }
     }
-}
-
-TEST(ImportiACaso, AnAmountWrittenOnceStaysTheSame) {
-    EXPECT_TRUE(rc::check([] {
-        const auto centesimi = *rc::gen::inRange<std::int64_t>(-100'000'000'000, 100'000'000'000);
-        const std::string digitato = ado::formatFixed(static_cast<double>(centesimi) / 100, 2);
-        const std::string una = ImportoScritto(digitato);
-        RC_ASSERT(ImportoScritto(una) == una);
-        if (!IsEmptyValue(digitato)) {
-            RC_ASSERT(ado::formatFixed(ado::toDouble(una), 2) == digitato);
-        }
-    }));
-}
-
-TEST(ImportiACaso, APointOfTheKeypadIsWorthAComma) {
-    EXPECT_TRUE(rc::check([] {
-        const std::string intero = std::to_string(*rc::gen::inRange(0, 1'000'000));
-        const auto cifre = *rc::gen::inRange<std::size_t>(1, 6);
-        std::string decimali = std::to_string(*rc::gen::inRange(0, 100'000));
-        decimali = (std::string(5, '0') + decimali).substr(decimali.size()).substr(0, cifre);
-        RC_PRE(!IsEmptyValue(intero + "," + decimali));
-        RC_ASSERT(ImportoNormale(intero + "." + decimali) == intero + "," + decimali);
-    }));
 }
 
 } // namespace

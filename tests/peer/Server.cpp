@@ -2,72 +2,42 @@
 
 #include "engine/store/Instance.h"
 #include "peer/Client.h"
+#include "support/loopback/Loopback.h"
 
 #include <algorithm>
-#include <arpa/inet.h>
-#include <array>
-#include <cerrno>
 #include <chrono>
 #include <cstdio>
-#include <netinet/in.h>
-#include <netinet/tcp.h>
-#include <poll.h>
 #include <stdexcept>
 #include <string>
-#include <sys/socket.h>
-#include <system_error>
 #include <thread>
-#include <unistd.h>
 
 namespace peer {
 
+namespace loopback = support::loopback;
+
 namespace {
 
-class Socket : public Channel {
+class Connection : public Channel {
 public:
-    explicit Socket(int handle) : handle_(handle) {
-        const int yes = 1;
-        ::setsockopt(handle_, IPPROTO_TCP, TCP_NODELAY, &yes, sizeof yes);
-    }
-    ~Socket() override { ::close(handle_); }
-    Socket(const Socket&) = delete;
-    Socket& operator=(const Socket&) = delete;
+    explicit Connection(const loopback::Socket& socket) : socket_(socket) {}
 
     Bytes read() override {
         Bytes bytes(16384);
-        ssize_t count = 0;
-        do {
-            count = ::recv(handle_, bytes.data(), bytes.size(), 0);
-        } while (count < 0 && errno == EINTR);
-        bytes.resize(count > 0 ? static_cast<std::size_t>(count) : 0);
+        bytes.resize(socket_.receive(bytes.data(), bytes.size()));
         return bytes;
     }
 
     void write(std::span<const std::uint8_t> bytes) override {
-        while (!bytes.empty()) {
-            const ssize_t count = ::send(handle_, bytes.data(), bytes.size(), MSG_NOSIGNAL);
-            if (count < 0 && errno == EINTR) {
-                continue;
-            }
-            if (count <= 0) {
-                throw std::runtime_error("the client has gone");
-            }
-            bytes = bytes.subspan(static_cast<std::size_t>(count));
+        if (!socket_.send(bytes.data(), bytes.size())) {
+            throw std::runtime_error("the client has gone");
         }
     }
 
-    bool waiting() override {
-        pollfd question{handle_, POLLIN, 0};
-        return ::poll(&question, 1, 0) > 0;
-    }
+    bool waiting() override { return loopback::arrives(socket_, std::chrono::milliseconds(0)); }
 
 private:
-    int handle_;
+    const loopback::Socket& socket_;
 };
-
-[[noreturn]] void fail(const char* what) {
-    throw std::system_error(errno, std::generic_category(), what);
-}
 
 std::filesystem::path onDrive(const std::filesystem::path& drive, std::string_view serverPath) {
     std::string path(serverPath.substr(serverPath.size() > 2 && serverPath[1] == ':' ? 3 : 0));
@@ -75,73 +45,39 @@ std::filesystem::path onDrive(const std::filesystem::path& drive, std::string_vi
     return drive / path;
 }
 
-/// A server that comes back binds its port of before, which somebody's connection may have taken for a while.
-void bindListener(int listener, const sockaddr_in& address) {
-    constexpr int kMostTries = 200;
-    constexpr std::chrono::milliseconds kPause{50};
-    for (int tries = 1; ::bind(listener, reinterpret_cast<const sockaddr*>(&address), sizeof address) < 0; ++tries) {
-        if (errno != EADDRINUSE || tries == kMostTries) {
-            fail("bind");
-        }
-        std::this_thread::sleep_for(kPause);
-    }
-}
-
 } // namespace
 
 struct Server::State {
     std::filesystem::path folder;
     engine::InstanceOptions options;
-    int listener = -1;
-    std::uint16_t port = 0;
+    loopback::Socket listener;
 };
 
 Server::Server(std::filesystem::path instanceFolder, std::filesystem::path driveC, int port)
     : state_(std::make_unique<State>()) {
     state_->folder = std::move(instanceFolder);
     state_->options.mapPath = [drive = std::move(driveC)](std::string_view path) { return onDrive(drive, path); };
-    state_->listener = ::socket(AF_INET, SOCK_STREAM | SOCK_CLOEXEC, 0);
-    if (state_->listener < 0) {
-        fail("socket");
-    }
-    sockaddr_in address{};
-    address.sin_family = AF_INET;
-    address.sin_addr.s_addr = htonl(INADDR_LOOPBACK);
-    address.sin_port = htons(static_cast<std::uint16_t>(port));
-    const int yes = 1;
-    ::setsockopt(state_->listener, SOL_SOCKET, SO_REUSEADDR, &yes, sizeof yes);
-    bindListener(state_->listener, address);
-    if (::listen(state_->listener, 64) < 0) {
-        fail("listen");
-    }
-    socklen_t length = sizeof address;
-    if (::getsockname(state_->listener, reinterpret_cast<sockaddr*>(&address), &length) < 0) {
-        fail("getsockname");
-    }
-    state_->port = ntohs(address.sin_port);
+    state_->listener = loopback::listener(port);
 }
 
-Server::~Server() {
-    ::close(state_->listener);
-}
+Server::~Server() = default;
 
-std::uint16_t Server::port() const {
-    return state_->port;
+int Server::port() const {
+    return loopback::portOf(state_->listener);
 }
 
 void Server::serve() {
+    constexpr std::chrono::milliseconds kForever{-1};
     while (true) {
-        const int handle = ::accept4(state_->listener, nullptr, nullptr, SOCK_CLOEXEC);
-        if (handle < 0 && errno == EINTR) {
+        loopback::arrives(state_->listener, kForever);
+        loopback::Socket caller = loopback::accept(state_->listener);
+        if (!caller) {
             continue;
         }
-        if (handle < 0) {
-            fail("accept");
-        }
-        std::thread([handle, folder = state_->folder, options = state_->options] {
-            Socket socket(handle);
+        std::thread([socket = std::move(caller), folder = state_->folder, options = state_->options] {
+            Connection connection(socket);
             try {
-                Client(socket, engine::Instance::open(folder, options)).serve();
+                Client(connection, engine::Instance::open(folder, options)).serve();
             } catch (const std::exception& error) {
                 std::fprintf(stderr, "client dropped: %s\n", error.what());
             }

@@ -1,6 +1,5 @@
 #pragma once
 
-#include <cstdint>
 #include <filesystem>
 #include <memory>
 
@@ -15,7 +14,7 @@ public:
     Server(const Server&) = delete;
     Server& operator=(const Server&) = delete;
 
-    std::uint16_t port() const;
+    int port() const;
     /// Serves until the process is ended.
     void serve();
 

@@ -34,7 +34,7 @@ int main(int argc, char** argv) {
             makeInstance(arguments[0], arguments[1]);
         }
         peer::Server server(arguments[0], arguments[1], count == 3 ? std::atoi(arguments[2]) : 0);
-        std::printf("port %u\n", server.port());
+        std::printf("port %d\n", server.port());
         std::fflush(stdout);
         server.serve();
     } catch (const std::exception& error) {

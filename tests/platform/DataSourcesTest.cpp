@@ -1,6 +1,8 @@
 #include "platform/DataSources.h"
 
 #include "ado/drivers/odbc/OdbcDriverName.h"
+#include "support/Capabilities.h"
+#include "support/DataSourceStore.h"
 #include "support/Environment.h"
 #include "support/TemporaryFolder.h"
 
@@ -9,8 +11,6 @@
 
 #include <algorithm>
 #include <filesystem>
-#include <fstream>
-#include <iterator>
 #include <map>
 #include <sstream>
 #include <string>
@@ -26,18 +26,19 @@ using testing::Not;
 using Entry = std::map<std::string, std::string>;
 
 constexpr const char* kDriver = "SQL Server";
-constexpr const char* kForOthers = "[Magazzino]\nDriver=Altro\nServer=a;b\nNota=x = y\n\n[ODBC]\nTrace=0\n\n";
 
 /// A file of data sources for one test.
 class DataSourcesTest : public testing::Test {
 protected:
     DataSourcesTest() { support::useDataSourceFile(file); }
 
-    void put(const std::string& text) const { std::ofstream(file) << text; }
-    std::string text() const {
-        std::ifstream in(file);
-        return {std::istreambuf_iterator<char>(in), {}};
+    void put(const std::string& text) const { support::putDataSources(file, text); }
+    /// Puts those of other programs, and returns how they stand.
+    std::string putOthers() const {
+        put("[Magazzino]\nDriver=Altro\nServer=a;b\nNota=x = y\n\n[ODBC]\nTrace=0\n\n");
+        return text();
     }
+    std::string text() const { return support::dataSourceText(file); }
     /// The lines below each heading, as programs read such a file.
     std::map<std::string, Entry> entries() const {
         std::map<std::string, Entry> all;
@@ -80,6 +81,7 @@ protected:
 };
 
 TEST_F(DataSourcesTest, AnEntryHasAllThatAnyProgramNeedsToConnectByItsName) {
+    VABO_NEEDS(support::systemCapabilities().installerStoresDrivers);
     enter("Tlv_server", "Description=Dati Aurora\rOemToAnsi=No\rSERVER=10.0.0.7,1444\rDatabase=VaBoDatiAurora");
     EXPECT_EQ(entry("Tlv_server"), withDriver({{"Description", "Dati Aurora"},
                                                {"OemToAnsi", "No"},
@@ -88,6 +90,7 @@ TEST_F(DataSourcesTest, AnEntryHasAllThatAnyProgramNeedsToConnectByItsName) {
 }
 
 TEST_F(DataSourcesTest, TheNamesComeInTheirOrder) {
+    VABO_NEEDS(support::systemCapabilities().storedSourcesAreFound);
     enter("Tlv_Temp");
     enter("Tlv_Azienda");
     const auto names = dataSources().names();
@@ -98,6 +101,7 @@ TEST_F(DataSourcesTest, TheNamesComeInTheirOrder) {
 }
 
 TEST_F(DataSourcesTest, AMachineWhoseFileIsNowhereHasNoneOfTheUsersNames) {
+    VABO_NEEDS(support::systemCapabilities().storedSourcesAreFound);
     enter("Tlv_Temp");
     EXPECT_THAT(dataSources().names(), Contains("Tlv_Temp"));
     support::useDataSourceFile(support::nowhere() / "odbc.ini");
@@ -105,6 +109,7 @@ TEST_F(DataSourcesTest, AMachineWhoseFileIsNowhereHasNoneOfTheUsersNames) {
 }
 
 TEST_F(DataSourcesTest, AnExistingEntryGetsTheNewValuesWhateverItsCase) {
+    VABO_NEEDS(support::systemCapabilities().installerStoresDrivers);
     enter("Tlv_server", "Server=uno\rDatabase=prima");
     enter("Tlv_Server", "SERVER=due");
     const auto all = entries();
@@ -114,13 +119,15 @@ TEST_F(DataSourcesTest, AnExistingEntryGetsTheNewValuesWhateverItsCase) {
 }
 
 TEST_F(DataSourcesTest, EntriesOfOtherProgramsStayAsTheyAre) {
-    put(kForOthers);
+    VABO_NEEDS(support::systemCapabilities().installerStoresDrivers);
+    const std::string others = putOthers();
     enter("Tlv_server");
-    EXPECT_TRUE(text().starts_with(kForOthers)) << text();
+    EXPECT_TRUE(text().starts_with(others)) << text();
     EXPECT_EQ(entry("Tlv_server"), withDriver({{"Server", "uno"}}));
 }
 
 TEST_F(DataSourcesTest, AddingMakesAWholeEntry) {
+    VABO_NEEDS(support::systemCapabilities().installerStoresDrivers);
     EXPECT_EQ(configure(DataSources::kAdd, "DSN=Tlv_Temp|Description=Dati|SERVER=uno|DBQ=VaBoDatiTemp|"), 1);
     EXPECT_EQ(entry("Tlv_Temp"), withDriver({{"Description", "Dati"}, {"SERVER", "uno"}, {"DBQ", "VaBoDatiTemp"}}));
     EXPECT_EQ(configure(DataSources::kAdd, "DSN=Tlv_Temp|SERVER=due|"), 1) << "one that is there";
@@ -128,17 +135,18 @@ TEST_F(DataSourcesTest, AddingMakesAWholeEntry) {
 }
 
 TEST_F(DataSourcesTest, ConfiguringNeedsAnEntry) {
-    put(kForOthers);
+    VABO_NEEDS(support::systemCapabilities().installerStoresDrivers);
+    const std::string others = putOthers();
     EXPECT_EQ(configure(DataSources::kConfigure, "DSN=Tlv_Temp|SERVER=uno|"), 0);
     EXPECT_EQ(configure(DataSources::kConfigure, "DSN=ODBC|SERVER=uno|"), 0) << "no data source";
-    EXPECT_EQ(text(), kForOthers);
+    EXPECT_EQ(text(), others);
     enter("Tlv_Temp");
     EXPECT_EQ(configure(DataSources::kConfigure, "DSN=Tlv_Temp|SERVER=due|"), 1);
     EXPECT_EQ(entry("Tlv_Temp"), withDriver({{"SERVER", "due"}}));
 }
 
 TEST_F(DataSourcesTest, AnyOtherRequestAnUnknownDriverAndAMissingNameDoNothing) {
-    put(kForOthers);
+    const std::string others = putOthers();
     for (const std::int16_t request : std::initializer_list<std::int16_t>{0, 3, 4}) {
         EXPECT_EQ(configure(request, "DSN=Magazzino|SERVER=uno|"), 0) << request;
     }
@@ -146,11 +154,11 @@ TEST_F(DataSourcesTest, AnyOtherRequestAnUnknownDriverAndAMissingNameDoNothing) 
     EXPECT_EQ(configure(DataSources::kAdd, "DSN=Tlv_Temp|", ""), 0);
     EXPECT_EQ(configure(DataSources::kAdd, "SERVER=uno|"), 0);
     EXPECT_THROW(dataSources().registerDatabase("Tlv_Temp", "Nessuno", true, "Server=uno"), std::runtime_error);
-    EXPECT_EQ(text(), kForOthers);
+    EXPECT_EQ(text(), others);
 }
 
 TEST_F(DataSourcesTest, NamesThatOdbcRefusesAreRefused) {
-    put(kForOthers);
+    const std::string others = putOthers();
     for (const std::string name : {"",     " ",
                                    "a[b",  "a]b",
                                    "a{b",  "a}b",
@@ -164,12 +172,13 @@ TEST_F(DataSourcesTest, NamesThatOdbcRefusesAreRefused) {
                                    "a ",   "012345678901234567890123456789012"}) {
         EXPECT_THROW(enter(name), std::runtime_error) << name;
         EXPECT_EQ(configure(DataSources::kAdd, "DSN=" + name + "|"), 0) << name;
-        EXPECT_EQ(text(), kForOthers) << name;
+        EXPECT_EQ(text(), others) << name;
     }
     EXPECT_NO_THROW(enter("01234567890123456789012345678901"));
 }
 
 TEST_F(DataSourcesTest, NoValueLeavesItsLine) {
+    VABO_NEEDS(support::systemCapabilities().installerStoresDrivers);
     const struct {
         const char* value;
         const char* stored;
@@ -185,19 +194,19 @@ TEST_F(DataSourcesTest, NoValueLeavesItsLine) {
         {"Dati\r[Magazzino]\rDSN=Magazzino\r=\r", "Dati"},
         {"Società \"È\" 'x' {y}", "Società \"È\" 'x' {y}"},
     };
-    put(kForOthers);
+    const std::string others = putOthers();
     for (const auto& one : cases) {
         enter("Tlv_server", "Server=uno\rDescription=" + std::string(one.value));
         EXPECT_EQ(entry("Tlv_server"), withDriver({{"Server", "uno"}, {"Description", one.stored}})) << one.value;
-        EXPECT_TRUE(text().starts_with(kForOthers)) << text();
+        EXPECT_TRUE(text().starts_with(others)) << text();
     }
 }
 
 TEST_F(DataSourcesTest, AValueTooLongForALineIsRefusedWhole) {
-    put(kForOthers);
+    const std::string others = putOthers();
     const std::string longest(999 - std::string("Description=\n").size(), 'x');
     EXPECT_THROW(enter("Tlv_server", "Server=uno\rDescription=" + longest + "x"), std::runtime_error);
-    EXPECT_EQ(text(), kForOthers);
+    EXPECT_EQ(text(), others);
     enter("Tlv_server", "Server=uno\rDescription=" + longest);
     enter("Tlv_Temp");
     EXPECT_EQ(entry("Tlv_server")["Description"], longest);
@@ -205,7 +214,8 @@ TEST_F(DataSourcesTest, AValueTooLongForALineIsRefusedWhole) {
 }
 
 TEST_F(DataSourcesTest, WhatStandsAlreadyIsNotWritten) {
-    put(std::string("# mine\n") + kForOthers);
+    VABO_NEEDS(support::systemCapabilities().dataSourcesInAFile);
+    put("# mine\n" + putOthers());
     enter("Tlv_server", "Server= uno \rDescription=\rDatabase=uno\n");
     const auto before = fs::file_time_type::clock::now() - std::chrono::hours(1);
     fs::last_write_time(file, before);
@@ -215,6 +225,7 @@ TEST_F(DataSourcesTest, WhatStandsAlreadyIsNotWritten) {
 }
 
 TEST_F(DataSourcesTest, WhatOtherProgramsDoToTheFileIsSeenAtOnce) {
+    VABO_NEEDS(support::systemCapabilities().installerStoresDrivers);
     enter("Tlv_server", "Server=uno");
     enter("Tlv_server", "Server=uno"); // which only reads
     std::string changed = text();
@@ -229,8 +240,9 @@ TEST_F(DataSourcesTest, WhatOtherProgramsDoToTheFileIsSeenAtOnce) {
 }
 
 TEST_F(DataSourcesTest, PermissionsAndLinksOfTheFileStay) {
+    VABO_NEEDS(support::systemCapabilities().dataSourcesInAFile);
     const fs::path link = folder.path() / "link.ini";
-    put(kForOthers);
+    putOthers();
     fs::permissions(file, fs::perms(0640));
     fs::create_symlink(file, link);
     support::useDataSourceFile(link);
@@ -241,15 +253,17 @@ TEST_F(DataSourcesTest, PermissionsAndLinksOfTheFileStay) {
 }
 
 TEST_F(DataSourcesTest, NothingButTheFileIsLeftBehind) {
+    VABO_NEEDS(support::systemCapabilities().dataSourcesInAFile);
     enter("Tlv_server");
     std::vector<std::string> left;
     for (const auto& each : fs::directory_iterator(folder.path())) {
-        left.push_back(each.path().filename());
+        left.push_back(each.path().filename().string());
     }
     EXPECT_THAT(left, ElementsAre("odbc.ini"));
 }
 
 TEST_F(DataSourcesTest, AFileThatCantBeKeptIsAFailure) {
+    VABO_NEEDS(support::systemCapabilities().dataSourcesInAFile);
     // The library would use the second path for its file of drivers.
     for (const fs::path& place : {support::nowhere() / "odbc.ini", folder.path() / "odbcinst" / "odbc.ini"}) {
         support::useDataSourceFile(place);

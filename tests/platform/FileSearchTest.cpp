@@ -2,6 +2,7 @@
 
 #include "platform/FileSearch.h"
 
+#include "support/Capabilities.h"
 #include "support/TemporaryFolder.h"
 #include "support/Unprivileged.h"
 
@@ -109,6 +110,7 @@ TEST_F(FileSearch, TheFilesOfAFolderComeBeforeItsFoldersInTheOrderOfTheirNames) 
 }
 
 TEST_F(FileSearch, FollowsNoLinkAndFindsNone) {
+    VABO_NEEDS(support::systemCapabilities().symbolicLinks);
     const support::TemporaryFolder elsewhere;
     std::ofstream(elsewhere.path() / "fuori.txt") << "x";
     file("vabo/dentro.txt");
@@ -120,6 +122,7 @@ TEST_F(FileSearch, FollowsNoLinkAndFindsNone) {
 }
 
 TEST_F(FileSearch, PassesOverWhatNoPathCanName) {
+    VABO_NEEDS(support::systemCapabilities().anyFileName);
     file("a\\b/x.txt");
     file("c\\x.txt");
     EXPECT_EQ(found("x.txt"), "nothing");
@@ -129,6 +132,7 @@ TEST_F(FileSearch, PassesOverWhatNoPathCanName) {
 }
 
 TEST_F(FileSearch, PassesOverFoldersThatMayNotBeRead) {
+    VABO_NEEDS(support::systemCapabilities().otherUsers);
     file("a/chiuso/x.txt");
     file("b/x.txt");
     const std::string path = support::unprivileged(root(), [this] {

@@ -3,6 +3,9 @@
 #include "ado/Error.h"
 #include "ado/LinkFile.h"
 #include "engine/store/Sqlite.h"
+#include "os/Paths.h"
+#include "support/Capabilities.h"
+#include "support/OwnerAlone.h"
 #include "support/TestWorkstation.h"
 
 #include <gmock/gmock.h>
@@ -124,7 +127,7 @@ TEST_F(LinkCatalogs, RefuseOtherProvidersAndFilesThatAreNoCatalog) {
 TEST_F(LinkCatalogs, AreForTheirOwnerAndLeaveNoFilesBesideThem) {
     ado::LinkFile::create(file()).add("LINK", "alfa", "ODBC;a");
     platform::linkCatalogs().open(kText)->Tables().at(0)->setProviderString("ODBC;b");
-    EXPECT_EQ(fs::status(file()).permissions(), fs::perms::owner_read | fs::perms::owner_write);
+    EXPECT_TRUE(support::isForOwnerAlone(file()));
     std::vector<std::string> names;
     for (const fs::directory_entry& entry : fs::directory_iterator(file().parent_path())) {
         names.push_back(entry.path().filename().string());
@@ -138,8 +141,9 @@ std::string bytesOf(const fs::path& file) {
 }
 
 TEST_F(LinkCatalogs, RefuseADatabaseOfAnotherKindWithoutTouchingIt) {
+    VABO_NEEDS(support::systemCapabilities().permissionBits);
     sqlite3* other = nullptr;
-    ASSERT_EQ(sqlite3_open(file().c_str(), &other), SQLITE_OK);
+    ASSERT_EQ(sqlite3_open(os::utf8Of(file()).c_str(), &other), SQLITE_OK);
     ASSERT_EQ(sqlite3_exec(other, "CREATE TABLE altro (id INTEGER)", nullptr, nullptr, nullptr), SQLITE_OK);
     sqlite3_close(other);
     fs::permissions(file(), fs::perms::group_read, fs::perm_options::add);
@@ -153,13 +157,13 @@ TEST_F(LinkCatalogs, ThatAnInstallerLeftReadableForAllAreForTheirOwnerOnceOpened
     ado::LinkFile::create(file()).add("LINK", "alfa", "ODBC;a");
     fs::permissions(file(), fs::perms::group_read | fs::perms::others_read, fs::perm_options::add);
     platform::linkCatalogs().open(kText);
-    EXPECT_EQ(fs::status(file()).permissions(), fs::perms::owner_read | fs::perms::owner_write);
+    EXPECT_TRUE(support::isForOwnerAlone(file()));
 }
 
 TEST_F(LinkCatalogs, ThatAnotherProgramKeepsForItselfAreRefused) {
     ado::LinkFile::create(file()).add("LINK", "alfa", "ODBC;a");
     sqlite3* other = nullptr;
-    ASSERT_EQ(sqlite3_open(file().c_str(), &other), SQLITE_OK);
+    ASSERT_EQ(sqlite3_open(os::utf8Of(file()).c_str(), &other), SQLITE_OK);
     ASSERT_EQ(sqlite3_exec(other, "PRAGMA locking_mode=EXCLUSIVE; BEGIN EXCLUSIVE", nullptr, nullptr, nullptr),
               SQLITE_OK);
     EXPECT_EQ(errorOf(kText), ado::kUnspecified);

@@ -1,10 +1,11 @@
 // A workstation without a registered driver for the server.
 
+#include "os/Paths.h"
 #include "session/ApriDbSede.h"
 #include "session/FormFixture.h"
+#include "support/Capabilities.h"
 #include "support/TemporaryFolder.h"
 
-#include <filesystem>
 #include <memory>
 
 namespace vabo {
@@ -18,8 +19,9 @@ class NoDriver : public FormTest {
 protected:
     static void SetUpTestSuite() {
         registry_ = std::make_unique<support::TemporaryFolder>();
-        qputenv("ODBCSYSINI", registry_->path().c_str());
+        qputenv("ODBCSYSINI", os::utf8Of(registry_->path()).c_str());
     }
+    void SetUp() override { VABO_NEEDS(support::systemCapabilities().driversByEnvironment); }
     static void TearDownTestSuite() { registry_.reset(); }
 
 private:
@@ -32,7 +34,7 @@ TEST_F(NoDriver, TheStartSaysSoAndEnds) {
     EXPECT_TRUE(end.endedBy([&] { gui.forms().show("Avvio"); }));
     EXPECT_EQ(gui.visibleForms(), "");
     EXPECT_EQ(*workstation.fileText("C:\\vabo\\IndirizzoServer.txt"), address);
-    EXPECT_FALSE(std::filesystem::exists(workstation.dataSourceFile()));
+    EXPECT_EQ(workstation.dataSources(), "");
 }
 
 TEST_F(NoDriver, TheTemporaryDatabaseStaysShutWithoutAWord) {

@@ -5,6 +5,7 @@
 #include "session/ApriDbSede.h"
 #include "session/Aziende.h"
 #include "session/SessionFixture.h"
+#include "support/Capabilities.h"
 #include "support/Unprivileged.h"
 
 #include <filesystem>
@@ -123,6 +124,7 @@ INSTANTIATE_TEST_SUITE_P(PointerFile, GarbagePointer,
                          [](const auto& test) { return "Text" + std::to_string(test.index); });
 
 TEST_F(SessionTest, AServerFileWithoutRightsEndsTheStartWithItsOwnText) {
+    VABO_NEEDS(support::systemCapabilities().otherUsers);
     const std::filesystem::path file = workstation.driveC().real("C:\\vabo\\IndirizzoServer.txt");
     const std::string heard = support::unprivileged(workstation.driveC().root(), [&] {
         std::filesystem::permissions(file, std::filesystem::perms::none);
@@ -136,6 +138,7 @@ TEST_F(SessionTest, AServerFileWithoutRightsEndsTheStartWithItsOwnText) {
 }
 
 TEST_F(SessionTest, AFolderThatCannotBeWrittenStillGivesTheLocalDefaults) {
+    VABO_NEEDS(support::systemCapabilities().otherUsers);
     removeFile("C:\\vabo\\NomeServerLocal.txt");
     removeFile("C:\\vabo\\Leggi_ServerLocal.txt");
     const std::filesystem::path folder = workstation.driveC().real("C:\\vabo");

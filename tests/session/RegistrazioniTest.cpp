@@ -3,6 +3,7 @@
 #include "dblife/RegistraFixture.h"
 #include "session/ApriAzienda.h"
 #include "session/SessionFixture.h"
+#include "support/Capabilities.h"
 
 #include <gmock/gmock.h>
 
@@ -102,28 +103,27 @@ TEST_F(Registrazioni, TakeNoKeyFromACompanysName) {
     control("update link_programma set NomeAzienda = 'Onlus\rDatabase=master;UID=sa\rPWD=x\nPort=9' "
             "where dbname = 'VaBoDatiAurora'");
     open(kCompany);
-    const auto bytes = workstation.fileText("C:\\odbc.ini");
-    ASSERT_TRUE(bytes.has_value());
-    EXPECT_THAT(*bytes, testing::HasSubstr("\nDescription=Dati Onlus Database=master;UID=sa PWD=x Port=9\n"));
+    const std::string text = workstation.dataSources();
+    EXPECT_THAT(text, testing::HasSubstr("\nDescription=Dati Onlus Database=master;UID=sa PWD=x Port=9\n"));
     for (const char* line : {"\nDatabase=VaBoDatiAurora\n", "\nDatabase=VaBoDatiTemp\n"}) {
-        EXPECT_THAT(*bytes, testing::HasSubstr(line));
+        EXPECT_THAT(text, testing::HasSubstr(line));
     }
     for (const char* line : {"\nDatabase=master", "\nUID=", "\nPWD=", "\nPort="}) {
-        EXPECT_THAT(*bytes, testing::Not(testing::HasSubstr(line)));
+        EXPECT_THAT(text, testing::Not(testing::HasSubstr(line)));
     }
 }
 
 TEST_F(Registrazioni, StandInTheUsersFile) {
+    VABO_NEEDS(support::systemCapabilities().storedSourcesAreFound);
     open(kCompany);
     open(kOtherCompany);
     const auto names = platform::dataSources().names();
     ASSERT_GE(names.size(), 3U);
     EXPECT_THAT(Texts(names.begin(), names.begin() + 3), testing::ElementsAre("Tlv_server", "Tlv_Temp", "Tlv_Azienda"));
-    const auto bytes = workstation.fileText("C:\\odbc.ini");
-    ASSERT_TRUE(bytes.has_value());
-    EXPECT_THAT(*bytes, testing::HasSubstr("\nDatabase=VaBoDatiPonte\n"));
-    EXPECT_THAT(*bytes, testing::HasSubstr("\nDescription=Dati Fondazione Il Ponte\n"));
-    EXPECT_THAT(*bytes, testing::Not(testing::HasSubstr("Aurora")));
+    const std::string text = workstation.dataSources();
+    EXPECT_THAT(text, testing::HasSubstr("\nDatabase=VaBoDatiPonte\n"));
+    EXPECT_THAT(text, testing::HasSubstr("\nDescription=Dati Fondazione Il Ponte\n"));
+    EXPECT_THAT(text, testing::Not(testing::HasSubstr("Aurora")));
 }
 
 } // namespace

@@ -32,7 +32,7 @@ TEST_P(FailureAtStart, IsToldInItsOwnWordsThenTheProcessEndsAndTheNextStartGoesW
     EXPECT_TRUE(end.endedBy([&] { gui.forms().show("Avvio"); }));
     EXPECT_EQ(gui.visibleForms(), "");
     EXPECT_EQ(failing.pointerFiles(), pointers);
-    EXPECT_FALSE(std::filesystem::exists(workstation.dataSourceFile()));
+    EXPECT_EQ(workstation.dataSources(), "");
     failing.repair();
     restart();
     expectLogin();

@@ -31,6 +31,33 @@ inline constexpr Capabilities kWireCapabilities{
     .integratedSecurity = {"Nobody vouches for a user on the loopback: a login has a name and a password."},
 };
 
+/// What the operating system offers to tests.
+struct SystemCapabilities {
+    Capability otherUsers;
+    Capability permissionBits;
+    Capability symbolicLinks;
+    Capability anyFileName;
+    Capability caseInFileNames;
+    Capability openFilesMove;
+    Capability openMapsShrink;
+    Capability limitedFileSize;
+    Capability dataSourcesInAFile;
+    Capability driversByEnvironment;
+    Capability homeByEnvironment;
+    Capability localeByEnvironment;
+    Capability shellScripts;
+    Capability driverManagersClient;
+    Capability askingToEnd;
+    Capability guardedResolver;
+    /// That the installer of data sources stores their driver, and that the driver manager finds what it stores; both
+    /// are tried out once.
+    Capability installerStoresDrivers;
+    Capability storedSourcesAreFound;
+    /// That a program which a test starts has data sources of its own.
+    Capability sourcesOfStartedPrograms;
+};
+const SystemCapabilities& systemCapabilities();
+
 /// What a machine lacks where the programs of a display for tests aren't installed; tools/packages.sh installs them.
 inline constexpr Capability kMachineWithoutDisplay = {"There is no Xvfb, openbox or setxkbmap: tools/packages.sh test"};
 

@@ -1,5 +1,6 @@
 // The last line of the test command: how many tests ran.
 
+#include "support/Capabilities.h"
 #include "support/Processes.h"
 #include "support/TemporaryFolder.h"
 
@@ -15,6 +16,7 @@ namespace {
 
 class CountTests : public testing::Test {
 protected:
+    void SetUp() override { VABO_NEEDS(support::systemCapabilities().shellScripts); }
     /// Writes the results of one executable as the test framework does: a sum of all groups, then one of each.
     void put(const std::string& file, const std::string& groups) const {
         const fs::path path = build.path() / "test-results" / file;

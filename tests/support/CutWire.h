@@ -1,5 +1,7 @@
 #pragma once
 
+#include "support/loopback/Loopback.h"
+
 #include <atomic>
 #include <string>
 #include <thread>
@@ -30,8 +32,8 @@ private:
     void run();
 
     int server_;
-    int listener_;
-    int port_ = 0;
+    loopback::Socket listener_ = loopback::listener();
+    int port_ = loopback::portOf(listener_);
     std::atomic<long> limit_{-1};
     std::atomic<long> passed_{0};
     std::atomic<bool> cut_{false};

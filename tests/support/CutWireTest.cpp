@@ -1,13 +1,12 @@
 #include "support/CutWire.h"
 
-#include "support/Loopback.h"
+#include "support/loopback/Loopback.h"
 
 #include <gtest/gtest.h>
 
 #include <array>
-#include <poll.h>
+#include <chrono>
 #include <string>
-#include <utility>
 
 namespace support {
 namespace {
@@ -15,46 +14,32 @@ namespace {
 /// A server at one end of the proxy, a caller at the other.
 class CutWires : public testing::Test {
 protected:
-    ~CutWires() override {
-        hangUp();
-        ::close(listener_);
-    }
     void call() {
-        hangUp();
+        caller_.close();
+        server_.close();
         caller_ = loopback::call(std::stoi(wire.server().substr(wire.server().find(',') + 1)));
-        pollfd question{listener_, POLLIN, 0};
-        constexpr int kPatience = 10000;
-        ::poll(&question, 1, kPatience);
+        loopback::arrives(listener_, std::chrono::seconds(10));
         server_ = loopback::accept(listener_);
     }
-    void answer(const std::string& text) const {
-        ASSERT_EQ(::send(server_, text.data(), text.size(), 0), static_cast<ssize_t>(text.size()));
-    }
+    void answer(const std::string& text) const { ASSERT_TRUE(server_.send(text.data(), text.size())); }
     /// Reads that many bytes, or up to the end of the connection.
     std::string heard(std::size_t bytes) const {
         std::string text;
         std::array<char, 64> piece{};
         while (text.size() < bytes) {
-            const ssize_t count = ::recv(caller_, piece.data(), piece.size(), 0);
-            if (count <= 0) {
+            const std::size_t count = caller_.receive(piece.data(), piece.size());
+            if (count == 0) {
                 break;
             }
-            text.append(piece.data(), static_cast<std::size_t>(count));
+            text.append(piece.data(), count);
         }
         return text;
     }
-    void hangUp() {
-        for (int* end : {&caller_, &server_}) {
-            if (*end >= 0) {
-                ::close(std::exchange(*end, -1));
-            }
-        }
-    }
 
 private:
-    int listener_ = loopback::listener();
-    int caller_ = -1;
-    int server_ = -1;
+    loopback::Socket listener_ = loopback::listener();
+    loopback::Socket caller_;
+    loopback::Socket server_;
 
 protected:
     CutWire wire{loopback::portOf(listener_)};

@@ -6,6 +6,7 @@
 #include "platform/Dialogs.h"
 #include "platform/Forms.h"
 #include "platform/RegionalSettings.h"
+#include "support/DataSourceStore.h"
 #include "support/Warnings.h"
 
 #include <gtest/gtest.h>
@@ -54,10 +55,6 @@ platform::Workstation workstationOn(const std::filesystem::path& driveC) {
 
 std::filesystem::path nowhere() {
     return "/nonexistent/drive-c";
-}
-
-void useDataSourceFile(const std::filesystem::path& file) {
-    qputenv("ODBCINI", file.c_str());
 }
 
 } // namespace support

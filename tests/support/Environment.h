@@ -18,7 +18,4 @@ platform::Workstation workstationOn(const std::filesystem::path& driveC);
 /// A drive C that doesn't exist.
 std::filesystem::path nowhere();
 
-/// Sets the user's file of data sources for this process and those that it starts.
-void useDataSourceFile(const std::filesystem::path& file);
-
 } // namespace support

@@ -21,8 +21,8 @@ public:
     long long pid() const { return process_->pid(); }
     void kill() { process_->kill(); }
     /// Stops the process, and lets it continue.
-    void freeze() const;
-    void thaw() const;
+    void freeze() const { process_->freeze(); }
+    void thaw() const { process_->thaw(); }
     /// After `kill`: starts it again with the same databases on the same port.
     void restart() { start(port_); }
 

@@ -1,11 +1,11 @@
 #include "support/Processes.h"
 
+#include "support/SystemProcesses.h"
+
 #include <QCoreApplication>
+#include <QDir>
 
 #include <gtest/gtest.h>
-
-#include <csignal>
-#include <sys/prctl.h>
 
 namespace support {
 
@@ -15,7 +15,7 @@ constexpr int kPatience = 120'000; // milliseconds; only a process that hangs ta
 
 QString pathOf(const std::string& program) {
     const QString name = QString::fromStdString(program);
-    return name.contains('/') ? name : QCoreApplication::applicationDirPath() + '/' + name;
+    return QDir::isAbsolutePath(name) ? name : QCoreApplication::applicationDirPath() + '/' + name;
 }
 
 } // namespace
@@ -36,8 +36,7 @@ HelperProcess::HelperProcess(const std::string& program, const std::vector<std::
     }
     process_.setProcessEnvironment(all);
     process_.setProcessChannelMode(QProcess::ForwardedErrorChannel);
-    process_.setChildProcessModifier([] { ::prctl(PR_SET_PDEATHSIG, SIGKILL); }); // however the test ends
-    process_.start(pathOf(program), list);
+    startBound(process_, pathOf(program), list);
     if (!process_.waitForStarted(kPatience)) {
         ADD_FAILURE() << program << " doesn't start: " << process_.errorString().toStdString();
     }
@@ -68,7 +67,15 @@ std::optional<std::string> HelperProcess::readLine() {
 
 std::string HelperProcess::readAll() {
     finish();
-    return process_.readAllStandardOutput().toStdString();
+    return process_.readAllStandardOutput().replace("\r\n", "\n").toStdString();
+}
+
+void HelperProcess::freeze() const {
+    support::freeze(pid());
+}
+
+void HelperProcess::thaw() const {
+    support::thaw(pid());
 }
 
 bool HelperProcess::isRunning() {

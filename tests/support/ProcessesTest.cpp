@@ -1,12 +1,16 @@
 #include "support/Processes.h"
 
+#include "os/FileLock.h"
+#include "os/Paths.h"
+#include "support/Capabilities.h"
+#include "support/SystemProcesses.h"
+#include "support/TemporaryFolder.h"
+
 #include <gtest/gtest.h>
 
-#include <array>
-#include <csignal>
-#include <poll.h>
-#include <sys/wait.h>
-#include <unistd.h>
+#include <chrono>
+#include <future>
+#include <thread>
 
 using support::HelperProcess;
 
@@ -37,7 +41,8 @@ TEST(Processes, AKilledHelperIsGoneAndSaysNothingMore) {
 }
 
 TEST(Processes, AHelperRunsUntilItIsAskedToEnd) {
-    HelperProcess helper("/bin/sleep", {"60"});
+    VABO_NEEDS(support::systemCapabilities().askingToEnd);
+    HelperProcess helper("support_echo");
     EXPECT_TRUE(helper.isRunning());
     helper.terminate();
     EXPECT_EQ(helper.finish(), -1);
@@ -49,19 +54,34 @@ TEST(Processes, AllOutputCanBeReadAtOnce) {
     EXPECT_EQ(helper.readAll(), "one\ntwo\n");
 }
 
+TEST(Processes, AFrozenHelperIsSilentUntilItIsThawed) {
+    HelperProcess helper("support_echo", {"first"});
+    ASSERT_EQ(helper.readLine(), "first");
+    helper.freeze();
+    helper.writeLine("ciao");
+    const auto start = std::chrono::steady_clock::now();
+    constexpr std::chrono::milliseconds kAWhile{300};
+    const auto thaw = std::async(std::launch::async, [process = helper.pid(), kAWhile] {
+        std::this_thread::sleep_for(kAWhile);
+        support::thaw(process);
+    });
+    EXPECT_EQ(helper.readLine(), "ciao");
+    EXPECT_GE(std::chrono::steady_clock::now() - start, kAWhile);
+}
+
 TEST(Processes, AHelperDiesWithATestThatCrashes) {
-    std::array<int, 2> ends{}; // reading from it ends when no process has it open any more
-    ASSERT_EQ(::pipe(ends.data()), 0);
-    const pid_t test = ::fork();
-    if (test == 0) {
-        const HelperProcess helper("/bin/sleep", {"60"});
-        ::raise(SIGKILL);
+    const support::TemporaryFolder folder;
+    const auto file = folder.path() / "held";
+    HelperProcess test("support_orphan", {os::utf8Of(file)});
+    ASSERT_EQ(test.readLine(), "held") << "by its helper";
+    os::FileLock lock(file);
+    ASSERT_FALSE(lock.tryExclusive(0));
+    test.kill();
+    const auto end = std::chrono::steady_clock::now() + std::chrono::seconds(30);
+    bool free = false;
+    while (!free && std::chrono::steady_clock::now() < end) {
+        std::this_thread::sleep_for(std::chrono::milliseconds(5));
+        free = lock.tryExclusive(0);
     }
-    ::close(ends[1]);
-    int status = 0;
-    ASSERT_EQ(::waitpid(test, &status, 0), test);
-    EXPECT_TRUE(WIFSIGNALED(status));
-    pollfd end{ends[0], POLLIN, 0};
-    EXPECT_EQ(::poll(&end, 1, 30'000), 1) << "the helper lives on";
-    ::close(ends[0]);
+    EXPECT_TRUE(free) << "the helper lives on";
 }

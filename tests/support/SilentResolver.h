@@ -1,8 +1,10 @@
 #pragma once
 
-#include "support/Loopback.h"
+#include "os/Machine.h"
+#include "support/loopback/Loopback.h"
 
 #include <array>
+#include <chrono>
 #include <cstdint>
 #include <string>
 
@@ -12,38 +14,29 @@ namespace support {
 /// answers.
 class SilentResolver {
 public:
-    SilentResolver() {
-        constexpr int kPort = 1434;
-        sockaddr_in place = loopback::address(kPort);
-        place.sin_addr.s_addr = htonl(address_);
-        if (::bind(handle_, reinterpret_cast<sockaddr*>(&place), sizeof place) < 0) {
-            throw std::runtime_error("No place for a resolver on loopback.");
-        }
-    }
-    ~SilentResolver() { ::close(handle_); }
-    SilentResolver(const SilentResolver&) = delete;
-    SilentResolver& operator=(const SilentResolver&) = delete;
-
     std::string address() const {
-        std::array<char, INET_ADDRSTRLEN> text{};
-        const in_addr place{htonl(address_)};
-        return ::inet_ntop(AF_INET, &place, text.data(), text.size());
+        const auto part = [this](unsigned bits) { return std::to_string((address_ >> bits) & 0xffU); };
+        return part(24) + "." + part(16) + "." + part(8) + "." + part(0);
     }
 
     /// How often it was asked since the last call of this function.
     int questions() const {
         int count = 0;
         std::array<char, 512> question{};
-        while (::recv(handle_, question.data(), question.size(), 0) >= 0) {
+        while (loopback::arrives(socket_, std::chrono::milliseconds(0)) &&
+               socket_.receive(question.data(), question.size()) > 0) {
             ++count;
         }
         return count;
     }
 
 private:
+    static constexpr std::uint32_t kFirst = 0x7f000002; // 127.0.0.2
+    static constexpr int kPort = 1434;
+
     /// 127.x.y.z from the process id, so that tests that run at the same time have different addresses.
-    std::uint32_t address_ = INADDR_LOOPBACK + 1 + (static_cast<std::uint32_t>(::getpid()) & 0x3fffffU);
-    int handle_ = ::socket(AF_INET, SOCK_DGRAM | SOCK_CLOEXEC | SOCK_NONBLOCK, 0);
+    std::uint32_t address_ = kFirst + (static_cast<std::uint32_t>(os::processNumber()) & 0x3fffffU);
+    loopback::Socket socket_ = loopback::datagrams(address_, kPort);
 };
 
 } // namespace support

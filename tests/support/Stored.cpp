@@ -87,7 +87,7 @@ Stored allStored(const TestWorkstation& posto) {
     }
     addFiles(all, posto, "c:\\vabo");
     addFiles(all, posto, "c:\\vabo\\files");
-    all["sources"] = {{textOf(posto.dataSourceFile())}};
+    all["sources"] = {{posto.dataSources()}};
     hideServer(all, posto.serverName());
     all.merge(posto.tables(kCompany));
     return all;

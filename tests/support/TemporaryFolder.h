@@ -19,4 +19,8 @@ private:
     std::filesystem::path path_;
 };
 
+/// Copies a folder with all that is in it; `to` may be there already. The standard library's own function takes all
+/// files for one where the system gives them no numbers.
+void copyTree(const std::filesystem::path& from, const std::filesystem::path& to);
+
 } // namespace support

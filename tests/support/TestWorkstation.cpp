@@ -5,6 +5,7 @@
 #include "engine/store/Instance.h"
 #include "engine/store/RowLocks.h"
 #include "support/AzzeraVariabili.h"
+#include "support/DataSourceStore.h"
 #include "support/Environment.h"
 #include "support/TestedDriver.h"
 
@@ -35,11 +36,15 @@ void makePresent(const platform::Workstation& workstation) {
     vabo::AzzeraVariabili();
 }
 
+engine::InstanceOptions instanceOptions(const platform::DriveC& driveC) {
+    return {.mapPath = [drive = driveC](std::string_view path) { return drive.real(path); }};
+}
+
 } // namespace
 
 TestWorkstation::TestWorkstation(DriveC content) {
     if (content == DriveC::Sample) {
-        fs::copy(VABO_TEST_TEMPLATE, folder_.path(), fs::copy_options::recursive);
+        copyTree(VABO_TEST_TEMPLATE, folder_.path());
     }
     makePresent(workstationOn(folder_.path()));
     useDataSourceFile(dataSourceFile());
@@ -84,6 +89,10 @@ TestWorkstation::~TestWorkstation() {
     useDataSourceFile(nowhere() / "odbc.ini");
 }
 
+std::string TestWorkstation::dataSources() const {
+    return dataSourceText(dataSourceFile());
+}
+
 std::filesystem::path TestWorkstation::dataSourceFile() const {
     return folder_.path() / "odbc.ini";
 }
@@ -107,9 +116,7 @@ void TestWorkstation::putFile(std::string_view path, std::string_view bytes) con
 }
 
 std::unique_ptr<engine::Session> TestWorkstation::engineSession(const std::string& database) const {
-    const engine::InstanceOptions options{
-        .mapPath = [drive = driveC()](std::string_view path) { return drive.real(path); }};
-    return engine::Session::open(engine::Instance::open(instance_, options),
+    return engine::Session::open(engine::Instance::open(instance_, instanceOptions(driveC())),
                                  {.user = {}, .password = {}, .database = database});
 }
 
@@ -185,10 +192,7 @@ void TestWorkstation::drop(const std::string& database) const {
 }
 
 fs::path TestWorkstation::databaseFile(const std::string& database) const {
-    const std::string file =
-        value("master", "select filename from master.dbo.sysdatabases where name = '" + database + "'");
-    // A name without a drive is a path of this system, where the server has put the file.
-    return file.starts_with('/') ? fs::path(file) : driveC().real(file);
+    return engine::Instance::open(instance_, instanceOptions(driveC()))->database(database).value().file;
 }
 
 void TestWorkstation::waitUntilNoRowIsHeld(const std::string& database) const {

@@ -32,7 +32,9 @@ public:
     ~TestWorkstation();
 
     const platform::DriveC& driveC() const;
-    /// The user's file of data sources; it doesn't exist before the first one is registered.
+    /// The user's data sources as the text of a file; empty before the first one is registered.
+    std::string dataSources() const;
+    /// The file they are in, or are called by (see DataSourceStore.h).
     std::filesystem::path dataSourceFile() const;
     /// The server's name in the sample's pointer files.
     std::string serverName() const;

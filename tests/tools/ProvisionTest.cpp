@@ -4,6 +4,7 @@
 #include "engine/errors/Error.h"
 #include "provision/PointerFiles.h"
 #include "provision/Sql.h"
+#include "support/OwnerAlone.h"
 #include "support/TemporaryFolder.h"
 #include "tools/SampleWorkstation.h"
 
@@ -95,7 +96,7 @@ TEST(Provision, MakesALocalFileForEachCompanyAndOneForReports) {
     EXPECT_EQ(std::distance(fs::directory_iterator(files), fs::directory_iterator()), 3);
     for (const char* const name : {"tlv_locale_sql.mdb", "tlv_locale_ponte.mdb", "Tlv_personalizzate.mdb"}) {
         const support::TemporaryFolder copy;
-        fs::copy(files / name, copy.path()); // the shared workstation is only read
+        fs::copy_file(files / name, copy.path() / name); // the shared workstation is only read
         ado::LinkFile file(copy.path() / name);
         std::map<std::string, int> types;
         for (const ado::LinkFile::Entry& entry : file.entries()) {
@@ -111,7 +112,8 @@ TEST(Provision, MakesALocalFileForEachCompanyAndOneForReports) {
 
 TEST(Provision, LinksTheTablesOfACompanyAndThoseOfItsDocuments) {
     const support::TemporaryFolder copy;
-    fs::copy(SampleWorkstation::shared().vabo() / "Files" / "tlv_locale_sql.mdb", copy.path());
+    fs::copy_file(SampleWorkstation::shared().vabo() / "Files" / "tlv_locale_sql.mdb",
+                  copy.path() / "tlv_locale_sql.mdb");
     ado::LinkFile file(copy.path() / "tlv_locale_sql.mdb");
     const auto server = SampleWorkstation::shared().session(provision::kFirstDatabase);
     int found = 0;
@@ -138,11 +140,9 @@ TEST(Provision, LinksTheTablesOfACompanyAndThoseOfItsDocuments) {
 
 TEST(Provision, KeepsEverythingForTheOwner) {
     const fs::path vabo = SampleWorkstation::shared().vabo();
-    EXPECT_EQ(fs::status(vabo).permissions(), fs::perms::owner_all);
+    EXPECT_TRUE(support::isForOwnerAlone(vabo));
     for (const fs::directory_entry& entry : fs::recursive_directory_iterator(vabo)) {
-        const auto expected =
-            entry.is_directory() ? fs::perms::owner_all : fs::perms::owner_read | fs::perms::owner_write;
-        EXPECT_EQ(entry.status().permissions(), expected) << entry.path();
+        EXPECT_TRUE(support::isForOwnerAlone(entry.path())) << entry.path();
     }
 }
 
@@ -202,7 +202,7 @@ TEST(Provision, TakesAnEmptyFolderAndADriveThatIsNotThereYet) {
     const support::TemporaryFolder folder;
     const fs::path driveC = folder.path() / "deep" / "c";
     EXPECT_EQ(layDown(smallPlan(driveC)), Outcome::Made);
-    EXPECT_EQ(fs::status(driveC).permissions(), fs::perms::owner_all);
+    EXPECT_TRUE(support::isForOwnerAlone(driveC));
 
     const support::TemporaryFolder other;
     fs::create_directory(other.path() / "vabo");
@@ -276,7 +276,7 @@ TEST(Provision, RefusesAPlanThatCanNotBe) {
 
 TEST(Provision, CanBeMovedToAnotherFolder) {
     const support::TemporaryFolder copy;
-    fs::copy(SampleWorkstation::shared().plan().driveC, copy.path(), fs::copy_options::recursive);
+    support::copyTree(SampleWorkstation::shared().plan().driveC, copy.path());
     provision::run(*openSession(copy.path(), provision::kFirstDatabase), "DELETE FROM partitadoppia");
     EXPECT_EQ(ledgerRows(copy.path()), 0);
     EXPECT_EQ(ledgerRows(SampleWorkstation::shared().plan().driveC), 200);

@@ -2,6 +2,7 @@
 
 #include "engine/run/Session.h"
 #include "engine/store/Instance.h"
+#include "os/Files.h"
 #include "platform/DriveC.h"
 #include "provision/Companies.h"
 #include "provision/Folders.h"
@@ -42,8 +43,9 @@ std::string instanceFolder(const Plan& plan) {
 
 /// Creates folders that only the owner can access, with missing parents.
 void makeFolders(const platform::DriveC& drive) {
-    if (fs::create_directories(drive.root())) {
-        fs::permissions(drive.root(), fs::perms::owner_all);
+    if (!fs::exists(drive.root())) {
+        fs::create_directories(drive.root().parent_path());
+        os::makePrivateFolder(drive.root());
     }
     if (!drive.isFolder(folders::kRoot)) {
         drive.makeFolder(folders::kRoot);

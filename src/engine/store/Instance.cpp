@@ -4,6 +4,7 @@
 #include "engine/store/RowLocks.h"
 #include "engine/values/Collation.h"
 #include "engine/values/Conversions.h"
+#include "os/Files.h"
 #include "os/Machine.h"
 #include "os/Paths.h"
 
@@ -56,8 +57,9 @@ void makeEmptyFile(const std::filesystem::path& file) {
         throw std::filesystem::filesystem_error("cannot make the file of a database", file,
                                                 std::make_error_code(std::errc::io_error));
     }
-    using std::filesystem::perms;
-    std::filesystem::permissions(file, perms::owner_read | perms::owner_write);
+    if (const std::error_code error = os::keepForOwner(file)) {
+        throw std::filesystem::filesystem_error("cannot keep the file of a database for its owner", file, error);
+    }
 }
 
 std::string now(sqlite::Connection& connection) {
@@ -92,8 +94,9 @@ std::shared_ptr<Instance> Instance::open(const std::filesystem::path& folder, co
 }
 
 std::shared_ptr<Instance> Instance::create(const std::filesystem::path& folder, const InstanceOptions& options) {
-    if (std::filesystem::create_directories(folder)) {
-        std::filesystem::permissions(folder, std::filesystem::perms::owner_all);
+    if (!std::filesystem::exists(folder)) {
+        std::filesystem::create_directories(folder.parent_path());
+        os::makePrivateFolder(folder); // whose rights are those of the files that SQLite makes, on some systems
     }
     return std::make_shared<Instance>(folder, options, true);
 }

@@ -2,6 +2,7 @@
 
 #include "engine/values/Ascii.h"
 #include "engine/values/CollationCharacters.h"
+#include "os/OfThread.h"
 
 #include <unicode/uchar.h>
 #include <unicode/ucol.h>
@@ -20,22 +21,23 @@
 namespace engine {
 namespace {
 
-struct CloseCollator {
-    void operator()(UCollator* collator) const { ucol_close(collator); }
+struct Collator {
+    Collator() {
+        UErrorCode status = U_ZERO_ERROR;
+        opened.reset(ucol_open("en", &status));
+        if (U_FAILURE(status)) {
+            throw std::runtime_error(std::string("the collation can't be opened: ") + u_errorName(status));
+        }
+        ucol_setStrength(opened.get(), UCOL_SECONDARY);
+    }
+
+    std::unique_ptr<UCollator, decltype(&ucol_close)> opened{nullptr, &ucol_close};
 };
 
 /// Opened once a thread: opening takes long, and threads may not share a collator.
 UCollator* collator() {
-    thread_local const std::unique_ptr<UCollator, CloseCollator> opened = [] {
-        UErrorCode status = U_ZERO_ERROR;
-        std::unique_ptr<UCollator, CloseCollator> made(ucol_open("en", &status));
-        if (U_FAILURE(status)) {
-            throw std::runtime_error(std::string("the collation can't be opened: ") + u_errorName(status));
-        }
-        ucol_setStrength(made.get(), UCOL_SECONDARY);
-        return made;
-    }();
-    return opened.get();
+    thread_local Collator* ofThread = nullptr;
+    return os::ofThread(ofThread, [] { return std::make_unique<Collator>(); }).opened.get();
 }
 
 int collatedLetters(std::string_view left, std::string_view right) {

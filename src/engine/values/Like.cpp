@@ -1,7 +1,9 @@
 #include "engine/values/Collation.h"
 #include "engine/values/CollationCharacters.h"
+#include "os/OfThread.h"
 
 #include <algorithm>
+#include <memory>
 #include <optional>
 #include <string>
 #include <utility>
@@ -173,7 +175,8 @@ struct LastPattern {
 };
 
 const Pattern& patternOf(std::string_view text, std::string_view escape) {
-    thread_local LastPattern last;
+    thread_local LastPattern* ofThread = nullptr;
+    LastPattern& last = os::ofThread(ofThread, [] { return std::make_unique<LastPattern>(); });
     if (!last.pattern || last.text != text || last.escape != escape) {
         last.pattern.reset();
         last.text = text;

@@ -1,5 +1,7 @@
 #include "app/monkey/Growth.h"
 
+#include "app/monkey/Process.h"
+
 #include <QCoreApplication>
 #include <QEvent>
 #include <QObject>
@@ -8,15 +10,9 @@
 #include <algorithm>
 #include <array>
 #include <atomic>
-#include <filesystem>
-#include <malloc.h>
 
 // The toolkit's own counters for tools: a table of functions that it calls for each object made and destroyed.
 extern Q_CORE_EXPORT quintptr qtHookData[];
-// Only a process with the sanitizer of addresses has it.
-// NOLINTNEXTLINE(bugprone-reserved-identifier): the sanitizer's own name
-extern "C" __attribute__((weak)) std::size_t __sanitizer_get_current_allocated_bytes();
-
 namespace monkey {
 
 namespace {
@@ -31,19 +27,6 @@ void made(QObject* /*object*/) {
 
 void gone(QObject* /*object*/) {
     --objects;
-}
-
-std::size_t heap() {
-    if (&__sanitizer_get_current_allocated_bytes != nullptr) {
-        return __sanitizer_get_current_allocated_bytes();
-    }
-    const struct mallinfo2 all = ::mallinfo2();
-    return all.uordblks + all.hblkhd;
-}
-
-int openFiles() {
-    const std::filesystem::directory_iterator all("/proc/self/fd");
-    return static_cast<int>(std::distance(begin(all), end(all)));
 }
 
 } // namespace

@@ -3,6 +3,7 @@
 #include "app/monkey/Growth.h"
 #include "app/monkey/Life.h"
 #include "app/monkey/Story.h"
+#include "support/Capabilities.h"
 #include "support/TestedDriver.h"
 
 #include <gtest/gtest.h>
@@ -42,6 +43,7 @@ protected:
 
 // VABO_MONKEY_SEED and VABO_MONKEY_EVENTS set the seed and the number of events of each half. A failure prints both.
 TEST_P(Monkey, FindsNothingThatBreaksTheProgram) {
+    VABO_NEEDS(support::systemCapabilities().guardedResolver);
     constexpr long kEvents = 100'000;
     constexpr long kEventsOnTheWire = 5'000;
     const bool wire = support::testedDriver() == support::TestedDriver::Wire;

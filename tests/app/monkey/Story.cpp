@@ -1,15 +1,11 @@
 #include "app/monkey/Story.h"
 
+#include "app/monkey/Process.h"
+
 #include <algorithm>
 #include <array>
-#include <csignal>
 #include <cstring>
 #include <string_view>
-#include <unistd.h>
-
-// Only a process with a sanitizer has it.
-// NOLINTNEXTLINE(bugprone-reserved-identifier): the sanitizer's own name
-extern "C" __attribute__((weak)) void __sanitizer_set_death_callback(void (*callback)());
 
 namespace monkey::story {
 
@@ -36,24 +32,11 @@ void visitLines(Visit&& visit) {
     }
 }
 
-void dieBySignal(int signal) {
-    print();
-    std::signal(signal, SIG_DFL);
-    std::raise(signal);
-}
-
 } // namespace
 
 void printAtDeath(const std::string& text) {
     put(headline, text);
-    if (&__sanitizer_set_death_callback != nullptr) {
-        __sanitizer_set_death_callback(print);
-    } else {
-        for (const int signal : {SIGSEGV, SIGBUS, SIGFPE, SIGILL}) {
-            std::signal(signal, dieBySignal);
-        }
-    }
-    std::signal(SIGABRT, dieBySignal);
+    callAtDeath(print);
 }
 
 void tell(const QString& step) {
@@ -73,8 +56,8 @@ std::string text() {
 
 void print() {
     visitLines([](const char* line) {
-        [[maybe_unused]] const auto written = ::write(STDERR_FILENO, line, std::strlen(line));
-        [[maybe_unused]] const auto ended = ::write(STDERR_FILENO, "\n", 1);
+        writeRaw(line);
+        writeRaw("\n");
     });
 }
 

@@ -3,6 +3,7 @@
 #include "engine/run/InternalErrors.h"
 #include "engine/run/Session.h"
 #include "engine/store/Instance.h"
+#include "os/Machine.h"
 
 #include <algorithm>
 #include <cstdio>
@@ -11,7 +12,6 @@
 #include <memory>
 #include <string>
 #include <string_view>
-#include <unistd.h>
 
 namespace engine::fuzz {
 
@@ -41,7 +41,7 @@ public:
         }
         remove();
         runs_ = 0;
-        folder_ = std::filesystem::temp_directory_path() / ("engine-fuzz-" + std::to_string(getpid()));
+        folder_ = std::filesystem::temp_directory_path() / ("engine-fuzz-" + std::to_string(os::processNumber()));
         std::filesystem::create_directories(folder_ / "drive");
         instance_ = Instance::create(folder_ / "server", {[this](std::string_view path) { return onDrive(path); }});
         instance_->addLogin("sa", "segreta");

@@ -1,5 +1,6 @@
 #include "engine/SessionFixture.h"
 #include "engine/store/Sqlite.h"
+#include "support/Capabilities.h"
 #include "support/Processes.h"
 
 #include <algorithm>
@@ -85,6 +86,7 @@ TEST_F(Killing, AWriterLosesNoStatementThatReturnedAndLeavesNoHalfTransaction) {
 
 /// SQLite maps the index of its log: shortening that file may end a process that uses it, but no row is lost.
 TEST_F(Killing, AnEmptiedIndexOfTheLogLosesNoStatementThatReturned) {
+    VABO_NEEDS(support::systemCapabilities().openMapsShrink);
     session.reset(); // this process must not have it mapped
     support::HelperProcess writer("engine_session_helper", {instance->folder().string(), "prova"});
     writer.writeLine("insert into t (note) values ('prima')");

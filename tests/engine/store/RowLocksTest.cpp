@@ -1,14 +1,13 @@
 #include "engine/store/RowLocks.h"
 
+#include "os/Paths.h"
+#include "support/OwnerAlone.h"
+#include "support/Processes.h"
 #include "support/TemporaryFolder.h"
 
 #include <gtest/gtest.h>
 
-#include <array>
-#include <csignal>
 #include <filesystem>
-#include <sys/wait.h>
-#include <unistd.h>
 
 namespace engine {
 namespace {
@@ -95,53 +94,13 @@ TEST_F(Locks, TellWhetherADatabaseIsInUse) {
 
 TEST_F(Locks, BelongToTheOwner) {
     RowLocks locks(database);
-    using std::filesystem::perms;
-    EXPECT_EQ(std::filesystem::status(folder.path() / "a.mdf.locks").permissions(),
-              perms::owner_read | perms::owner_write);
+    EXPECT_TRUE(support::isForOwnerAlone(folder.path() / "a.mdf.locks"));
 }
-
-/// A process that holds a row until it is told to end or is killed.
-class Holder {
-public:
-    explicit Holder(const std::filesystem::path& database) {
-        EXPECT_EQ(pipe(ready_.data()), 0);
-        child_ = fork();
-        if (child_ == 0) {
-            RowLocks locks(database);
-            const char held = locks.acquire("t", 1) ? 'y' : 'n';
-            if (write(ready_[1], &held, 1) == 1) {
-                pause();
-            }
-            _exit(0);
-        }
-        char held = 0;
-        EXPECT_EQ(read(ready_[0], &held, 1), 1);
-        EXPECT_EQ(held, 'y');
-    }
-    ~Holder() {
-        kill();
-        close(ready_[0]);
-        close(ready_[1]);
-    }
-    Holder(const Holder&) = delete;
-    Holder& operator=(const Holder&) = delete;
-
-    void kill() {
-        if (child_ > 0) {
-            ::kill(child_, SIGKILL);
-            waitpid(child_, nullptr, 0);
-            child_ = -1;
-        }
-    }
-
-private:
-    std::array<int, 2> ready_{};
-    pid_t child_ = -1;
-};
 
 TEST_F(Locks, OfAnotherProcessAreSeenAndDieWithIt) {
     RowLocks locks(database);
-    Holder holder(database);
+    support::HelperProcess holder("engine_row_holder", {os::utf8Of(database)});
+    ASSERT_EQ(holder.readLine(), "held");
     EXPECT_TRUE(locks.anyHeldByOthers());
     EXPECT_TRUE(locks.heldByOthers("t", 1));
     EXPECT_FALSE(locks.acquire("T", 1));

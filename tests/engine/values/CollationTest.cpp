@@ -1,18 +1,13 @@
 #include "engine/values/Collation.h"
 
-#include <gtest/gtest.h>
-#include <rapidcheck.h>
-#include <unicode/ucol.h>
+#include "engine/values/CompareByLibrary.h"
 
-#include <memory>
+#include <gtest/gtest.h>
+
 #include <string>
 
 namespace engine {
 namespace {
-
-int sign(int value) {
-    return value < 0 ? -1 : value > 0 ? 1 : 0;
-}
 
 struct Comparison {
     const char* left;
@@ -66,77 +61,6 @@ TEST(Comparison, FollowsTheCollation) {
         EXPECT_EQ(sign(compareTexts(c.right, c.left)), -c.result) << '"' << c.right << "\" \"" << c.left << '"';
         EXPECT_EQ(collationKey(c.left) == collationKey(c.right), c.result == 0) << c.left << ' ' << c.right;
     }
-}
-
-int compareLetters(const std::string& left, const std::string& right) {
-    UErrorCode status = U_ZERO_ERROR;
-    static const std::unique_ptr<UCollator, decltype(&ucol_close)> collator = [] {
-        UErrorCode opening = U_ZERO_ERROR;
-        UCollator* opened = ucol_open("en", &opening);
-        ucol_setStrength(opened, UCOL_SECONDARY);
-        return std::unique_ptr<UCollator, decltype(&ucol_close)>(opened, &ucol_close);
-    }();
-    return ucol_strcollUTF8(collator.get(), left.data(), static_cast<int32_t>(left.size()), right.data(),
-                            static_cast<int32_t>(right.size()), &status);
-}
-
-/// Takes the apostrophes and hyphens out of a text, each as its place and itself.
-std::string takeMarks(std::string& text) {
-    std::string marks;
-    for (std::size_t found = text.find_first_of("'-"); found != std::string::npos; found = text.find_first_of("'-")) {
-        marks += std::to_string(1'000'000 + found) + text[found];
-        text.erase(found, 1);
-    }
-    return marks;
-}
-
-/// What the library alone answers, without the ranks of ASCII.
-int compareByLibrary(std::string left, std::string right) {
-    const auto trim = [](std::string& text) { text.erase(text.find_last_not_of(' ') + 1); };
-    trim(left);
-    trim(right);
-    const std::string marksOfLeft = takeMarks(left);
-    const std::string marksOfRight = takeMarks(right);
-    trim(left);
-    trim(right);
-    const int order = compareLetters(left, right);
-    return order != 0 ? order : sign(marksOfLeft.compare(marksOfRight));
-}
-
-void agree(const std::string& left, const std::string& right) {
-    RC_ASSERT(sign(compareTexts(left, right)) == compareByLibrary(left, right));
-    RC_ASSERT((collationKey(left) == collationKey(right)) == (compareByLibrary(left, right) == 0));
-}
-
-TEST(Comparison, OfAsciiTextsAgreesWithTheLibrary) {
-    const bool held = rc::check("any ASCII, control characters too", [] {
-        const auto text = [] {
-            return rc::gen::container<std::string>(
-                rc::gen::map(rc::gen::inRange(0, 128), [](int c) { return char(c); }));
-        };
-        agree(*text(), *text());
-    });
-    EXPECT_TRUE(held);
-}
-
-TEST(Comparison, OfTextsThatHardlyDifferAgreesWithTheLibrary) {
-    const bool held = rc::check("one alphabet of few letters", [] {
-        const auto piece = [] {
-            return rc::gen::element<std::string>("a", "A", "b", "l", " ", "-", "'", "1", "\u00e0", "\u00b7", "\u0301",
-                                                 "\u200b", "\uff41", "\x01", "ss", "\u00df", "\u20ac");
-        };
-        const auto text = [&] {
-            std::string joined;
-            for (const std::string& part : *rc::gen::container<std::vector<std::string>>(piece())) {
-                joined += part;
-            }
-            return joined;
-        };
-        const std::string left = text();
-        const std::string right = text();
-        agree(left, right);
-    });
-    EXPECT_TRUE(held);
 }
 
 TEST(Comparison, OrdersAllPairsOfPrintableCharactersAsTheLibrary) {

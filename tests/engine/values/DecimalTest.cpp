@@ -1,54 +1,14 @@
 #include "engine/values/Decimal.h"
 
 #include "engine/ExpectError.h"
+#include "engine/values/DecimalOfDigits.h"
 
 #include <gtest/gtest.h>
-#include <rapidcheck.h>
 
-#include <cmath>
 #include <limits>
-#include <string>
 
 namespace engine {
 namespace {
-
-constexpr int kMostPlaces = 22;
-constexpr std::int64_t kBeyond = 1'000'000'000'000'000; // a digit more than is kept
-
-/// Digits without their point, and how many of them stand behind it.
-Decimal decimal(std::int64_t digits, int places) {
-    std::string text = std::to_string(std::abs(digits));
-    text.insert(0, std::max<std::size_t>(static_cast<std::size_t>(places) + 1, text.size()) - text.size(), '0');
-    text.insert(text.size() - static_cast<std::size_t>(places), ".");
-    return *Decimal::parse((digits < 0 ? "-" : "") + text, places);
-}
-
-struct Digits {
-    std::int64_t digits;
-    int places;
-};
-
-/// Of every length, since numbers of a full range are almost all long.
-Digits anyDigits() {
-    const auto most = static_cast<std::int64_t>(std::pow(10, *rc::gen::inRange(1, 16)));
-    return {*rc::gen::inRange(-most + 1, most), *rc::gen::inRange(0, kMostPlaces + 1)};
-}
-
-TEST(Decimals, ComeBackFromTheirDoubles) {
-    EXPECT_TRUE(rc::check("fifteen digits", [] {
-        const auto [digits, places] = anyDigits();
-        const Decimal number = decimal(digits, places);
-        RC_ASSERT(Decimal::of(number.kept()).text(places) == number.text(places));
-    }));
-}
-
-TEST(Decimals, HaveDoublesInTheirOwnOrder) {
-    EXPECT_TRUE(rc::check("neighbours", [] {
-        const auto [digits, places] = anyDigits();
-        RC_PRE(digits + 1 < kBeyond);
-        RC_ASSERT(decimal(digits, places).kept() < decimal(digits + 1, places).kept());
-    }));
-}
 
 TEST(Decimals, OfMoreDigitsAreRefused) {
     EXPECT_EQ(decimal(kBeyond - 1, 0).kept(), 999999999999999.0);

@@ -1,0 +1,17 @@
+#pragma once
+
+#include <QProcess>
+
+namespace support {
+
+/// Starts a process that ends with this one, however this one ends.
+void startBound(QProcess& process, const QString& program, const QStringList& arguments);
+
+/// Stops a process, and lets it continue.
+void freeze(long long process);
+void thaw(long long process);
+
+/// Ends this process as a power cut would.
+[[noreturn]] void dieAtOnce();
+
+} // namespace support

@@ -1,0 +1,38 @@
+#!/usr/bin/env bash
+# Runs the tests for Windows that tools/windows/build.sh has built, under Wine: all but those with an X server of their
+# own. Tells how many tests of each program ran, and each that was skipped with its reason; fails where one fails.
+#   tools/windows/test.sh               all
+#   tools/windows/test.sh -R engine     what ctest chooses by these options
+# VABO_WINDOWS_BUILD and VABO_WINDOWS_PREFIX are where the tests and the toolkit are, if not in build/windows.
+set -euo pipefail
+cd "$(dirname "$0")/../.."
+work=$PWD/build/windows
+build=${VABO_WINDOWS_BUILD:-$work/vabo}
+prefix=${VABO_WINDOWS_PREFIX:-$work/prefix}
+compiler=/usr/lib/gcc/x86_64-w64-mingw32/12-posix
+runtime=/usr/x86_64-w64-mingw32/lib
+
+there() { printf 'Z:%s' "${1//\//\\}"; } # a path in the spelling of that system
+export WINEARCH=win64 WINEDEBUG=-all WINEPATH
+WINEPATH="$(there "$prefix/bin");$(there "$compiler");$(there "$runtime")"
+# A registry of their own, so that programs which the tests start may write there.
+export WINEPREFIX=${VABO_WINDOWS_WINE:-$work/wine-tests} VABO_TESTS_OWN_REGISTRY=1
+export QT_QPA_FONTDIR
+QT_QPA_FONTDIR=$(there /usr/share/fonts/truetype/dejavu)
+[ -e "$WINEPREFIX/system.reg" ] || { wineboot --init && wineserver --wait; }
+
+rm -rf "$build/test-results"
+result=0
+ctest --test-dir "$build" --timeout 1800 -j "${VABO_JOBS:-$(nproc)}" --output-on-failure -LE layers "$@" || result=$?
+
+for file in "$build"/test-results/*/*.xml; do
+    [ -e "$file" ] || break
+    echo "$(basename "$(dirname "$file")") $(basename "$file" .xml): $(sed -n \
+        's/^<testsuites tests="\([0-9]*\)" failures="\([0-9]*\)".*/\1 tests, \2 failed/p' "$file"), $(
+        grep -c '<skipped ' "$file" || true) skipped"
+    # The reason of a skipped test stands in the line behind its name, behind the place in the source.
+    sed -n -e '/result="skipped"/{s/.*testcase name="\([^"]*\)".*classname="\([^"]*\)".*/    \2.\1: /;h}' \
+        -e "/<skipped /{s/.*message=\"//;s/\".*//;s/^[^&]*&#x0A;//;s/&#x0A;//g;s/&apos;/'/g;H;x;s/\n//;p}" "$file"
+done
+tools/count-tests.sh "$build"
+exit "$result"

@@ -76,7 +76,7 @@ TEST(ManPages, OfTheSampleNamesItsUsersAndTheirPasswords) {
     const std::string text = page("vabo-provision.1");
     const std::string users = help().substr(help().find("Users of both companies"));
     Words names = found(users, R"(\n  ([a-z_]+))");
-    names.merge(found(users, "password ([a-z0-9]+)"));
+    names.merge(found(users, "password ([a-z0-9]+)[,\n]"));
     EXPECT_EQ(names.size(), 7U);
     for (const std::string& name : names) {
         EXPECT_THAT(text, HasSubstr(name));

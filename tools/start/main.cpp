@@ -6,6 +6,7 @@
 #include "controls/Style.h"
 #include "os/Machine.h"
 #include "platform/Dialogs.h"
+#include "platform/Workstation.h"
 #include "start/FirstStart.h"
 
 #include <QApplication>
@@ -20,6 +21,8 @@ namespace {
 
 bool setUp(int argc, char** argv) {
     QApplication application(argc, argv);
+    // The desktop knows the window as one of the console by that.
+    QApplication::setApplicationName(QString::fromStdString(platform::workstation().productName));
     controls::style::install(application);
     QApplication::setWindowIcon(controls::Mark::icon());
     platform::setDialogs(std::make_unique<controls::QtDialogs>());

@@ -26,9 +26,7 @@ bool setUp(int argc, char** argv) {
     controls::style::install(application);
     QApplication::setWindowIcon(controls::Mark::icon());
     platform::setDialogs(std::make_unique<controls::QtDialogs>());
-    const bool done = start::setUp();
-    platform::setDialogs(nullptr);
-    return done;
+    return start::setUp();
 }
 
 } // namespace

@@ -9,7 +9,7 @@ test=(libgtest-dev libgmock-dev librapidcheck-dev unixodbc python3 locales libxc
 check=(clang-format clang-tidy python3)
 bench=(libbenchmark-dev)
 coverage=(gcovr)
-debian=(git debhelper dpkg-dev lintian appstream desktop-file-utils mmdebstrap)
+debian=(git build-essential debhelper dpkg-dev lintian appstream desktop-file-utils mmdebstrap)
 windows=(g++-mingw-w64-x86-64-posix wine wine64 fonts-wine nsis tcl icu-devtools dpkg-dev icoutils zip
     qt6-base-private-dev)
 clients=(freetds-bin python3-pyodbc python3-pymssql php8.2-cli php8.2-sybase libdbd-sybase-perl libjtds-java

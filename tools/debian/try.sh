@@ -38,8 +38,8 @@ anna 'vabo-provision ~/.local/share/vabo/c'
 anna 'xvfb-run -a sh /tmp/shows.sh "Ver.Nr."'
 
 kept >/tmp/before
-apt-get remove -y -qq vabo >/dev/null
-apt-get purge -y -qq vabo >/dev/null
+dpkg --remove vabo
+dpkg --purge vabo
 kept | diff /tmp/before -
 test "$(wc -l </tmp/before)" -gt 20
 ! find /usr /etc /var -iname '*vabo*' | grep .

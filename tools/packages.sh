@@ -9,7 +9,7 @@ test=(libgtest-dev libgmock-dev librapidcheck-dev unixodbc python3 locales libxc
 check=(clang-format clang-tidy python3)
 bench=(libbenchmark-dev)
 coverage=(gcovr)
-debian=(debhelper dpkg-dev lintian appstream desktop-file-utils)
+debian=(git build-essential debhelper dpkg-dev lintian appstream desktop-file-utils mmdebstrap)
 cross=(g++-mingw-w64-x86-64-posix)
 windows=("${cross[@]}" wine wine64 fonts-wine nsis tcl icu-devtools dpkg-dev icoutils zip
     qt6-base-private-dev)

@@ -71,7 +71,7 @@ configure() {
 program() {
     icon
     configure
-    cmake --build "$work/vabo" -j "$jobs" --target vabo vabo-provision vabo-tour
+    cmake --build "$work/vabo" -j "$jobs" --target vabo vabo-start vabo-provision vabo-tour
 }
 
 tests() {

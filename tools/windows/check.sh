@@ -21,6 +21,6 @@ compile() {
     git ls-files -z "$@" ':!*Posix.cpp' |
         xargs -0 -P "$(nproc)" -n 4 x86_64-w64-mingw32-g++-posix "${flags[@]}"
 }
-compile 'src/*.cpp' 'tools/provision/*.cpp' ':!src/ado' ':!src/platform'
+compile 'src/*.cpp' 'tools/provision/*.cpp' 'tools/start/*.cpp' ':!src/ado' ':!src/platform'
 flags+=(-include windows.h) # whose types ODBC's headers use
 compile 'src/ado/*.cpp' 'src/platform/*.cpp'

@@ -10,7 +10,7 @@ dist=$work/VaBo
 
 rm -rf "$dist"
 mkdir -p "$dist/platforms" "$dist/styles" "$dist/translations"
-cp "$work"/vabo/bin/vabo{,-provision}.exe "$prefix"/bin/Qt6{Core,Gui,Widgets}.dll "$compiler/libstdc++-6.dll" \
+cp "$work"/vabo/bin/vabo{,-start,-provision}.exe "$prefix"/bin/Qt6{Core,Gui,Widgets}.dll "$compiler/libstdc++-6.dll" \
     "$compiler/libgcc_s_seh-1.dll" "$runtime/libwinpthread-1.dll" "$dist"
 cp "$prefix/plugins/platforms/qwindows.dll" "$dist/platforms"
 cp "$prefix/plugins/styles/qwindowsvistastyle.dll" "$dist/styles"

@@ -12,11 +12,9 @@ host=/usr/lib/$(gcc -print-multiarch)/cmake
 export VABO_WINDOWS_PREFIX=$work/prefix
 . "$here/sources.sh"
 
-# For a program that the build runs: where it finds its libraries, in the spelling of that system.
-compiler=/usr/lib/gcc/x86_64-w64-mingw32/12-posix
-runtime=/usr/x86_64-w64-mingw32/lib
-export WINEPREFIX=$work/wine WINEARCH=win64 WINEDEBUG=-all
-export WINEPATH="Z:${VABO_WINDOWS_PREFIX//\//\\}\\bin;Z:${compiler//\//\\};Z:${runtime//\//\\}"
+# For a program that the build runs.
+. "$here/wine.sh"
+export WINEPREFIX=$work/wine
 
 sources() {
     mkdir -p "$work/sources"
@@ -53,9 +51,9 @@ libraries() {
 
 # The icon is drawn by the program's own code, here; the system there wants one file with all sizes.
 icon() {
-    cmake --preset release -DVABO_BUILD_TESTS=OFF -DVABO_BUILD_BENCH=OFF >/dev/null
-    cmake --build --preset release -j "$jobs" --target vabo-mark
-    QT_QPA_PLATFORM=offscreen build/release/bin/vabo-mark "$work/icon" 16 24 32 48 64 128 256
+    cmake -G Ninja -S . -B "$work/here" -DCMAKE_BUILD_TYPE=Release -DVABO_BUILD_TESTS=OFF >/dev/null
+    cmake --build "$work/here" -j "$jobs" --target vabo-mark
+    QT_QPA_PLATFORM=offscreen "$work/here/bin/vabo-mark" "$work/icon" 16 24 32 48 64 128 256
     icotool --create --output="$work/vabo.ico" "$work"/icon/*/apps/vabo.png
 }
 

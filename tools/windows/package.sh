@@ -3,17 +3,16 @@
 set -euo pipefail
 here=$(cd "$(dirname "$0")" && pwd)
 work=$1 version=$2
-prefix=$work/prefix
-compiler=/usr/lib/gcc/x86_64-w64-mingw32/12-posix
-runtime=/usr/x86_64-w64-mingw32/lib
+export VABO_WINDOWS_PREFIX=$work/prefix
+. "$here/wine.sh"
 dist=$work/VaBo
 
 rm -rf "$dist"
 mkdir -p "$dist/platforms" "$dist/styles" "$dist/translations"
-cp "$work"/vabo/bin/vabo{,-start,-provision}.exe "$prefix"/bin/Qt6{Core,Gui,Widgets}.dll "$compiler/libstdc++-6.dll" \
-    "$compiler/libgcc_s_seh-1.dll" "$runtime/libwinpthread-1.dll" "$dist"
-cp "$prefix/plugins/platforms/qwindows.dll" "$dist/platforms"
-cp "$prefix/plugins/styles/qwindowsvistastyle.dll" "$dist/styles"
+cp "$work"/vabo/bin/vabo{,-start,-provision}.exe "$VABO_WINDOWS_PREFIX"/bin/Qt6{Core,Gui,Widgets}.dll \
+    "$windows_compiler"/{libstdc++-6,libgcc_s_seh-1}.dll "$windows_runtime/libwinpthread-1.dll" "$dist"
+cp "$VABO_WINDOWS_PREFIX/plugins/platforms/qwindows.dll" "$dist/platforms"
+cp "$VABO_WINDOWS_PREFIX/plugins/styles/qwindowsvistastyle.dll" "$dist/styles"
 cp /usr/share/qt6/translations/qtbase_it.qm "$dist/translations"
 cp "$here/../../LICENSE" "$dist/LICENSE.txt"
 printf '[Paths]\r\nPrefix=.\r\nPlugins=.\r\nTranslations=translations\r\n' >"$dist/qt.conf"

@@ -8,13 +8,8 @@ set -euo pipefail
 cd "$(dirname "$0")/../.."
 work=$PWD/build/windows
 build=${VABO_WINDOWS_BUILD:-$work/vabo}
-prefix=${VABO_WINDOWS_PREFIX:-$work/prefix}
-compiler=/usr/lib/gcc/x86_64-w64-mingw32/12-posix
-runtime=/usr/x86_64-w64-mingw32/lib
-
-there() { printf 'Z:%s' "${1//\//\\}"; } # a path in the spelling of that system
-export WINEARCH=win64 WINEDEBUG=-all WINEPATH
-WINEPATH="$(there "$prefix/bin");$(there "$compiler");$(there "$runtime")"
+export VABO_WINDOWS_PREFIX=${VABO_WINDOWS_PREFIX:-$work/prefix}
+. tools/windows/wine.sh
 # A registry of their own, so that programs which the tests start may write there.
 export WINEPREFIX=${VABO_WINDOWS_WINE:-$work/wine-tests} VABO_TESTS_OWN_REGISTRY=1
 export QT_QPA_FONTDIR

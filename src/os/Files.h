@@ -26,5 +26,8 @@ void makeFileOfOwner(const std::filesystem::path& file);
 std::error_code keepForOwner(const std::filesystem::path& file);
 /// Throws std::system_error.
 void makePrivateFolder(const std::filesystem::path& folder);
+/// Makes that folder, which only its owner can use, and those above it. Does nothing where there is one. Throws
+/// std::system_error.
+void makePrivateFolders(const std::filesystem::path& folder);
 
 } // namespace os

@@ -1,35 +1,22 @@
 #include "os/OfThread.h"
+#include "os/ThreadEnds.h"
 
 #include <windows.h>
 
 #include <pthread.h>
-#include <utility>
-#include <vector>
 
 namespace os {
 
 namespace {
 
-struct Ends {
-    std::vector<std::pair<void (*)(void*), void*>> all;
-
-    ~Ends() {
-        while (!all.empty()) {
-            const auto [function, argument] = all.back();
-            all.pop_back();
-            function(argument);
-        }
-    }
-};
-
 const DWORD mainThread = GetCurrentThreadId();
-Ends endsOfMain;
+ThreadEnds endsOfMain;
 
 void endThread(void* ends) {
-    delete static_cast<Ends*>(ends);
+    delete static_cast<ThreadEnds*>(ends);
 }
 
-Ends& endsOfThread() {
+ThreadEnds& endsOfThread() {
     if (GetCurrentThreadId() == mainThread) { // whose end comes when the other threads are gone already
         return endsOfMain;
     }
@@ -39,9 +26,9 @@ Ends& endsOfThread() {
         pthread_key_create(&made, endThread);
         return made;
     }();
-    auto* ends = static_cast<Ends*>(pthread_getspecific(slot));
+    auto* ends = static_cast<ThreadEnds*>(pthread_getspecific(slot));
     if (ends == nullptr) {
-        ends = new Ends;
+        ends = new ThreadEnds;
         pthread_setspecific(slot, ends);
     }
     return *ends;

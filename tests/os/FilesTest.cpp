@@ -97,6 +97,26 @@ TEST_F(Files, StandInFoldersThatAreMadeOnce) {
     }
 }
 
+TEST_F(Files, PrivateFoldersAreMadeWithThoseAbove) {
+    const fs::path below = folder.path() / "sopra" / "mezzo" / "sotto";
+    os::makePrivateFolders(below);
+    EXPECT_TRUE(support::isForOwnerAlone(below));
+    os::makePrivateFolders(below);
+    EXPECT_TRUE(fs::is_empty(below));
+}
+
+TEST_F(Files, PrivateFoldersMayBeNamedFromWhereTheProgramIsAndWithASeparatorBehind) {
+    const fs::path before = fs::current_path();
+    fs::current_path(folder.path());
+    os::makePrivateFolders("uno");
+    os::makePrivateFolders("due/");
+    os::makePrivateFolders("./tre/quattro/");
+    fs::current_path(before);
+    for (const char* made : {"uno", "due", "tre/quattro"}) {
+        EXPECT_TRUE(support::isForOwnerAlone(folder.path() / made)) << made;
+    }
+}
+
 TEST_F(Files, AreFoundInTheSpellingOfTheDisk) {
     os::makeFileOfOwner(file);
     EXPECT_EQ(os::entryOf(folder.path(), name), file);

@@ -37,6 +37,17 @@ TEST(ProvisionCommand, LaysDownAndSaysSo) {
     EXPECT_THAT(second.words, HasSubstr("already laid down, nothing changed, server POSTO_9\\sqlexpress"));
 }
 
+TEST(ProvisionCommand, MakesTheFolderWhereItIsMissingHoweverItIsNamed) {
+    const support::TemporaryFolder above;
+    const fs::path before = fs::current_path();
+    fs::current_path(above.path());
+    for (const char* folder : {"uno", "due/", "./tre/quattro"}) {
+        EXPECT_EQ(provisionWith({folder, "--ledger", "10"}).code, 0) << folder;
+        EXPECT_TRUE(fs::is_directory(above.path() / folder / "vabo" / "istanze")) << folder;
+    }
+    fs::current_path(before);
+}
+
 TEST(ProvisionCommand, RefusesWhatItDoesNotUnderstand) {
     const support::TemporaryFolder driveC;
     const std::string folder = driveC.path().string();

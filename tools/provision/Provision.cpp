@@ -43,10 +43,7 @@ std::string instanceFolder(const Plan& plan) {
 
 /// Creates folders that only the owner can access, with missing parents.
 void makeFolders(const platform::DriveC& drive) {
-    if (!fs::exists(drive.root())) {
-        fs::create_directories(drive.root().parent_path());
-        os::makePrivateFolder(drive.root());
-    }
+    os::makePrivateFolders(drive.root());
     if (!drive.isFolder(folders::kRoot)) {
         drive.makeFolder(folders::kRoot);
     }

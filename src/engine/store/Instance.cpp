@@ -94,10 +94,7 @@ std::shared_ptr<Instance> Instance::open(const std::filesystem::path& folder, co
 }
 
 std::shared_ptr<Instance> Instance::create(const std::filesystem::path& folder, const InstanceOptions& options) {
-    if (!std::filesystem::exists(folder)) {
-        std::filesystem::create_directories(folder.parent_path());
-        os::makePrivateFolder(folder); // whose rights are those of the files that SQLite makes, on some systems
-    }
+    os::makePrivateFolders(folder); // whose rights are those of the files that SQLite makes, on some systems
     return std::make_shared<Instance>(folder, options, true);
 }
 

@@ -22,6 +22,8 @@ void replaceFile(const std::filesystem::path& file, std::string_view bytes,
 /// Makes an empty file that nobody but its owner can ever open. Does nothing where there is one, or where none can be
 /// made.
 void makeFileOfOwner(const std::filesystem::path& file);
+/// False while a program has the file open, where the system keeps such a file; else true, also where there is none.
+bool canBeRemoved(const std::filesystem::path& file);
 /// Gives a file that is there to its owner alone. The error where that isn't possible.
 std::error_code keepForOwner(const std::filesystem::path& file);
 /// Throws std::system_error.

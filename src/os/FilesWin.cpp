@@ -200,6 +200,16 @@ void makeFileOfOwner(const fs::path& file) {
     }
 }
 
+bool canBeRemoved(const fs::path& file) {
+    constexpr DWORD kAll = FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE;
+    const HANDLE opened = CreateFileW(file.c_str(), DELETE, kAll, nullptr, OPEN_EXISTING, 0, nullptr);
+    if (opened == INVALID_HANDLE_VALUE) {
+        return GetLastError() != ERROR_SHARING_VIOLATION;
+    }
+    CloseHandle(opened);
+    return true;
+}
+
 std::error_code keepForOwner(const fs::path& file) {
     OfOwnerAlone rights;
     const BOOL kept = SetFileSecurityW(file.c_str(), DACL_SECURITY_INFORMATION | PROTECTED_DACL_SECURITY_INFORMATION,

@@ -3,12 +3,16 @@
 #include "ado/TestServer.h"
 #include "engine/run/DocumentedCases.h"
 
+#include <QString>
+
 #include <gtest/gtest.h>
 #include <sql.h>
 #include <sqlext.h>
 
+#include <array>
 #include <stdexcept>
 #include <string>
+#include <string_view>
 #include <vector>
 
 namespace ado {
@@ -16,19 +20,26 @@ namespace {
 
 namespace documented = engine::documented;
 
-SQLCHAR* chars(std::string& text) {
-    return reinterpret_cast<SQLCHAR*>(text.data());
+std::vector<SQLWCHAR> wide(const std::string& text) {
+    const std::u16string units = QString::fromStdString(text).toStdU16String();
+    std::vector<SQLWCHAR> all(units.begin(), units.end());
+    all.push_back(0);
+    return all;
+}
+
+std::string utf8(const SQLWCHAR* text) {
+    return QString::fromUtf16(reinterpret_cast<const char16_t*>(text)).toStdString();
 }
 
 /// One statement handle of one connection, which answers as `shown` of engine/SessionFixture.h does.
 class OdbcSession {
 public:
-    explicit OdbcSession(std::string connectionText) {
+    explicit OdbcSession(const std::string& connectionText) {
         SQLAllocHandle(SQL_HANDLE_ENV, SQL_NULL_HANDLE, &environment_);
         SQLSetEnvAttr(environment_, SQL_ATTR_ODBC_VERSION, reinterpret_cast<SQLPOINTER>(SQL_OV_ODBC3), 0);
         SQLAllocHandle(SQL_HANDLE_DBC, environment_, &connection_);
-        const SQLRETURN code = SQLDriverConnect(connection_, nullptr, chars(connectionText), SQL_NTS, nullptr, 0,
-                                                nullptr, SQL_DRIVER_NOPROMPT);
+        const SQLRETURN code = SQLDriverConnectW(connection_, nullptr, wide(connectionText).data(), SQL_NTS, nullptr, 0,
+                                                 nullptr, SQL_DRIVER_NOPROMPT);
         if (!SQL_SUCCEEDED(code)) {
             throw std::runtime_error(diagnoses(SQL_HANDLE_DBC, connection_));
         }
@@ -44,9 +55,9 @@ public:
     OdbcSession& operator=(const OdbcSession&) = delete;
 
     /// Without the results of statements that neither give nor write rows: the interface doesn't tell them.
-    std::string answer(std::string text) {
+    std::string answer(const std::string& text) {
         std::string all;
-        for (SQLRETURN code = SQLExecDirect(statement_, chars(text), SQL_NTS); code != SQL_NO_DATA;
+        for (SQLRETURN code = SQLExecDirectW(statement_, wide(text).data(), SQL_NTS); code != SQL_NO_DATA;
              code = SQLMoreResults(statement_)) {
             all += result(code);
         }
@@ -83,20 +94,19 @@ private:
     }
 
     std::string columnName(SQLSMALLINT column) const {
-        SQLCHAR name[256] = {};
-        SQLSMALLINT length = 0;
-        SQLDescribeCol(statement_, static_cast<SQLUSMALLINT>(column), name, sizeof name, &length, nullptr, nullptr,
-                       nullptr, nullptr);
-        return {reinterpret_cast<const char*>(name), static_cast<std::size_t>(length)};
+        std::array<SQLWCHAR, 256> name{};
+        SQLDescribeColW(statement_, static_cast<SQLUSMALLINT>(column), name.data(),
+                        static_cast<SQLSMALLINT>(name.size()), nullptr, nullptr, nullptr, nullptr, nullptr);
+        return utf8(name.data());
     }
 
     std::string value(SQLSMALLINT column) const {
         std::string all;
-        char piece[4096];
+        std::array<SQLWCHAR, 4096> piece{};
         SQLLEN length = 0;
         while (true) {
-            const SQLRETURN code =
-                SQLGetData(statement_, static_cast<SQLUSMALLINT>(column), SQL_C_CHAR, piece, sizeof piece, &length);
+            const SQLRETURN code = SQLGetData(statement_, static_cast<SQLUSMALLINT>(column), SQL_C_WCHAR, piece.data(),
+                                              sizeof piece, &length);
             if (code == SQL_NO_DATA) {
                 return all;
             }
@@ -106,7 +116,7 @@ private:
             if (length == SQL_NULL_DATA) {
                 return "NULL";
             }
-            all += piece;
+            all += utf8(piece.data());
             if (code == SQL_SUCCESS) {
                 return all;
             }
@@ -117,16 +127,17 @@ private:
     static std::string diagnoses(SQLSMALLINT kind, SQLHANDLE handle) {
         constexpr std::string_view kBefore = "[FreeTDS][SQL Server]";
         std::string all;
-        SQLCHAR state[6] = {};
-        SQLCHAR text[2048] = {};
+        std::array<SQLWCHAR, 6> state{};
+        std::array<SQLWCHAR, 2048> text{};
         SQLINTEGER number = 0;
-        for (SQLSMALLINT i = 1;
-             SQL_SUCCEEDED(SQLGetDiagRec(kind, handle, i, state, &number, text, sizeof text, nullptr)); ++i) {
-            std::string_view words = reinterpret_cast<const char*>(text);
-            words.remove_prefix(words.starts_with(kBefore) ? kBefore.size() : 0);
-            const bool said = std::string_view(reinterpret_cast<const char*>(state)).starts_with("01");
-            all += said ? std::to_string(number) + ": " : "!" + std::to_string(number) + " ";
-            all += std::string(words) + "\n";
+        for (SQLSMALLINT i = 1; SQL_SUCCEEDED(SQLGetDiagRecW(kind, handle, i, state.data(), &number, text.data(),
+                                                             static_cast<SQLSMALLINT>(text.size()), nullptr));
+             ++i) {
+            std::string words = utf8(text.data());
+            words.erase(0, words.starts_with(kBefore) ? kBefore.size() : 0);
+            all += utf8(state.data()).starts_with("01") ? std::to_string(number) + ": "
+                                                        : "!" + std::to_string(number) + " ";
+            all += words + "\n";
         }
         return all;
     }

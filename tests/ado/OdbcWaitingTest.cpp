@@ -5,6 +5,7 @@
 #include "ado/TestServer.h"
 #include "ado/WhileWaiting.h"
 #include "ado/drivers/odbc/Aside.h"
+#include "support/Capabilities.h"
 #include "support/SilentServer.h"
 
 #include <gtest/gtest.h>
@@ -31,6 +32,7 @@ protected:
 };
 
 TEST_F(OdbcWaiting, AServerThatEndsMeanwhileGivesTheErrorOfALostConnection) {
+    VABO_NEEDS(support::systemCapabilities().killedServerIsNoticed);
     {
         const WhileWaiting waiting([this] {
             if (++times == 1) {

@@ -1,6 +1,7 @@
 #include "os/Files.h"
 
 #include "os/Paths.h"
+#include "support/Capabilities.h"
 #include "support/OwnerAlone.h"
 #include "support/TemporaryFolder.h"
 
@@ -78,6 +79,16 @@ TEST_F(Files, BelongToTheirOwnerHoweverTheyAreMade) {
     EXPECT_TRUE(os::keepForOwner(folder.path() / "manca.txt")) << "an error";
     os::makePrivateFolder(folder.path() / "own");
     EXPECT_TRUE(support::isForOwnerAlone(folder.path() / "own"));
+}
+
+TEST_F(Files, CanBeRemovedOnceTheyAreClosed) {
+    EXPECT_TRUE(os::canBeRemoved(file)) << "there is none";
+    std::ofstream open(file);
+    open << "uno" << std::flush;
+    EXPECT_EQ(os::canBeRemoved(file), bool(support::systemCapabilities().openFilesMove));
+    open.close();
+    EXPECT_TRUE(os::canBeRemoved(file));
+    EXPECT_EQ(content(), "uno");
 }
 
 TEST_F(Files, StandInFoldersThatAreMadeOnce) {

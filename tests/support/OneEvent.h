@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QAbstractEventDispatcher>
 #include <QEventLoop>
 #include <QTimer>
 
@@ -12,7 +13,8 @@ inline void inOneEvent(const std::function<void()>& work) {
     QEventLoop loop;
     QTimer::singleShot(0, &loop, [&] {
         work();
-        QTimer::singleShot(1, &loop, &QEventLoop::quit);
+        QObject::connect(QAbstractEventDispatcher::instance(), &QAbstractEventDispatcher::aboutToBlock, &loop,
+                         &QEventLoop::quit, Qt::SingleShotConnection);
     });
     loop.exec();
 }

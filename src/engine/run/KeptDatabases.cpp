@@ -29,6 +29,11 @@ std::shared_ptr<Database> KeptDatabases::take(const DatabaseEntry& entry) {
     return database->enter() ? database : nullptr;
 }
 
+void KeptDatabases::forget(const DatabaseEntry& entry) {
+    const std::scoped_lock guard(mutex_);
+    std::erase_if(databases_, [&](const auto& one) { return one->entry() == entry; });
+}
+
 void KeptDatabases::keep(std::shared_ptr<Database> database) {
     const std::scoped_lock guard(mutex_);
     if (started_ && database.use_count() == 1 && database->leave()) {

@@ -19,6 +19,8 @@ public:
 
     /// nullptr where none is kept, or its file has gone or is another one by now.
     std::shared_ptr<Database> take(const DatabaseEntry& entry);
+    /// Closes those of that entry.
+    void forget(const DatabaseEntry& entry);
     /// Closes it where something of its session is left: a hold, a transaction, another database beside it.
     void keep(std::shared_ptr<Database> database);
 

@@ -96,6 +96,9 @@ void ServerSession::forget(std::string_view name) {
     if (!sameText(name, current_->name())) {
         databases_.erase(collationKey(name));
     }
+    if (const auto entry = instance_->database(name); entry && kept_ != nullptr) {
+        kept_->forget(*entry);
+    }
 }
 
 std::unique_ptr<Batch> ServerSession::begin(std::string_view text) {

@@ -39,7 +39,8 @@ public:
     std::shared_ptr<Database> open(std::string_view name);
     /// Throws 911.
     void use(std::string_view name);
-    /// Before a database is dropped: closes this session's own connection to it, unless it is the current one.
+    /// Before a database is dropped: closes this session's own connection to it, unless it is the current one, and
+    /// those that are kept for the next session.
     void forget(std::string_view name);
 
     Settings settings;

@@ -2,6 +2,7 @@
 
 #include "engine/errors/StoreErrors.h"
 #include "engine/store/RowLocks.h"
+#include "engine/store/Watched.h"
 #include "engine/values/Collation.h"
 #include "engine/values/Conversions.h"
 #include "os/Files.h"
@@ -50,6 +51,18 @@ void removeParts(const std::filesystem::path& database, std::initializer_list<co
         std::filesystem::path part = database;
         std::filesystem::remove(part += ending);
     }
+}
+
+/// Where an open file can't be removed, another program's event may still have it open, without a session: an event
+/// doesn't last long.
+bool isSoonClosed(const std::filesystem::path& database) {
+    sqlite::Patience patience;
+    for (int times = 0; !os::canBeRemoved(database); ++times) {
+        if (sqlite::waitForWriter(&patience, times) == 0) {
+            return false;
+        }
+    }
+    return true;
 }
 
 void makeEmptyFile(const std::filesystem::path& file) {
@@ -244,7 +257,7 @@ void Instance::dropDatabase(const std::string& name) {
     if (entry->id <= static_cast<int>(kSystemDatabases.size())) {
         throw errors::systemDatabase(entry->name);
     }
-    if (RowLocks::databaseInUse(entry->file)) {
+    if (RowLocks::databaseInUse(entry->file) || !isSoonClosed(entry->file)) {
         throw errors::databaseInUse(entry->name);
     }
     for (const char* text :

@@ -190,7 +190,7 @@ void Connection::waitAtMost(std::int64_t milliseconds) {
 bool Connection::isMoved() const {
     int moved = 0;
     sqlite3_file_control(handle_, "main", SQLITE_FCNTL_HAS_MOVED, &moved);
-    return moved != 0 || wasEmptied(sqlite3_db_filename(handle_, "main"));
+    return moved != 0 || wasEmptied(os::pathOf(sqlite3_db_filename(handle_, "main")));
 }
 
 std::int64_t Connection::changes() const {

@@ -3,9 +3,12 @@
 #include "engine/run/KeptDatabases.h"
 
 #include "engine/SessionFixture.h"
+#include "support/Capabilities.h"
 
+#include <chrono>
 #include <filesystem>
 #include <system_error>
+#include <thread>
 
 namespace engine {
 namespace {
@@ -65,11 +68,36 @@ TEST_F(KeptDatabasesTest, SeeWhatOthersHaveDefinedMeanwhile) {
 
 TEST_F(KeptDatabasesTest, AreNotInUse) {
     EXPECT_EQ(nextRows(kRows), "1");
+    const fs::path open = file();
+    session.reset();
+    EXPECT_EQ(engine::answer(*next("master"), "DROP DATABASE prova"), "-");
+    EXPECT_FALSE(fs::exists(open));
+}
+
+TEST_F(KeptDatabasesTest, AreInUseForAStrangerOnlyWhereOpenFilesStay) {
+    EXPECT_EQ(nextRows(kRows), "1");
+    const fs::path open = file();
     session = connect("master");
+    const bool goes{support::systemCapabilities().openFilesMove};
+    EXPECT_EQ(answer("DROP DATABASE prova"),
+              goes ? "-" : "!3702 Cannot drop database \"prova\" because it is currently in use.");
+    EXPECT_EQ(fs::exists(open), !goes);
+    EXPECT_EQ(instance->database("prova").has_value(), !goes);
+}
+
+TEST_F(KeptDatabasesTest, AreDroppedByAStrangerWhenTheirEventEnds) {
+    EXPECT_EQ(nextRows(kRows), "1");
+    session = connect("master");
+    std::thread event([this] {
+        std::this_thread::sleep_for(std::chrono::milliseconds(100));
+        kept->stop();
+    });
     EXPECT_EQ(answer("DROP DATABASE prova"), "-");
+    event.join();
 }
 
 TEST_F(KeptDatabasesTest, AreNoneOfADatabaseMadeAnewUnderTheSameName) {
+    VABO_NEEDS(support::systemCapabilities().openFilesMove);
     EXPECT_EQ(nextRows(kRows), "1");
     session = connect("master");
     run("DROP DATABASE prova");
@@ -84,6 +112,7 @@ TEST_F(KeptDatabasesTest, AreNoneOfADatabaseMadeAnewUnderTheSameName) {
 }
 
 TEST_F(KeptDatabasesTest, AreNoneOfAFileThatTookTheirPlace) {
+    VABO_NEEDS(support::systemCapabilities().openFilesMove);
     EXPECT_EQ(nextRows(kRows), "1");
     instance->createDatabase("altra", "", "");
     session = connect("altra");
@@ -99,6 +128,7 @@ TEST_F(KeptDatabasesTest, AreNoneOfAFileThatTookTheirPlace) {
 }
 
 TEST_F(KeptDatabasesTest, AreNoneOfAFolderThatHasGone) {
+    VABO_NEEDS(support::systemCapabilities().openFilesMove);
     EXPECT_EQ(nextRows(kRows), "1");
     session.reset();
     EXPECT_TRUE(instance->isThere());
@@ -164,8 +194,8 @@ TEST_F(KeptDatabasesTest, KeepNoOtherDatabaseBesideThem) {
     };
     makeAnew("1");
     EXPECT_EQ(nextRows(read), "1");
-    session = connect("master");
-    run("DROP DATABASE altra");
+    session.reset();
+    EXPECT_EQ(engine::answer(*next("master"), "DROP DATABASE altra"), "-");
     makeAnew("2");
     EXPECT_EQ(nextRows(read), "2");
 }

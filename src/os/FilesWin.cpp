@@ -165,12 +165,13 @@ bool isDevice(std::string_view name) {
 } // namespace
 
 bool isFileName(std::string_view name) {
+    constexpr std::size_t kLongest = 255;
     constexpr std::string_view kReserved = "<>:\"/\\|?*";
     const auto isReserved = [&](char c) {
         return static_cast<unsigned char>(c) < ' ' || kReserved.find(c) != std::string_view::npos;
     };
     return !name.empty() && std::ranges::none_of(name, isReserved) && !name.ends_with('.') && !name.ends_with(' ') &&
-           !isDevice(name);
+           !isDevice(name) && pathOf(name).native().size() <= kLongest;
 }
 
 std::optional<fs::path> entryOf(const fs::path& folder, std::string_view name) {

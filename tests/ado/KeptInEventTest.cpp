@@ -5,6 +5,7 @@
 #include "ado/Recordset.h"
 #include "ado/TestServer.h"
 #include "engine/store/Instance.h"
+#include "support/Capabilities.h"
 #include "support/OneEvent.h"
 
 #include <gtest/gtest.h>
@@ -108,6 +109,7 @@ TEST_F(KeptInEvent, APasswordChangedMeanwhileIsRefusedAtOnce) {
 }
 
 TEST_F(KeptInEvent, AnInstanceThatTookThePlaceOfAnotherIsReadAnew) {
+    VABO_NEEDS(support::systemCapabilities().openFilesMove);
     inOneEvent([&] {
         EXPECT_EQ(count(), 1);
         fs::remove_all(folder());

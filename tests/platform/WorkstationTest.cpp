@@ -1,36 +1,21 @@
 #include "platform/Workstation.h"
 
 #include "ado/Drivers.h"
-#include "support/Processes.h"
+#include "platform/ProbedWorkstation.h"
+#include "support/Capabilities.h"
 #include "support/TemporaryFolder.h"
 
+#include <QString>
 #include <QSysInfo>
 
 #include <gtest/gtest.h>
 
-#include <map>
-#include <sstream>
+#include <filesystem>
+#include <string>
 
-namespace {
-
-using Environment = std::map<std::string, std::string>;
-using Facts = std::map<std::string, std::string>;
-
-/// The output of the probe when it is started with this environment.
-Facts probe(Environment environment) {
-    for (const char* name : {"VABO_DRIVE_C", "XDG_DATA_HOME", "LC_ALL", "LANG", "LC_NUMERIC", "LANGUAGE"}) {
-        environment.try_emplace(name, "");
-    }
-    support::HelperProcess helper("workstation_probe", {}, environment);
-    std::istringstream lines(helper.readAll());
-    Facts facts;
-    for (std::string line; std::getline(lines, line);) {
-        facts[line.substr(0, line.find(' '))] = line.substr(line.find(' ') + 1);
-    }
-    return facts;
-}
-
-} // namespace
+namespace fs = std::filesystem;
+using platform::Facts;
+using platform::probe;
 
 TEST(Workstation, TheTerminalIsTheHostUpToItsFirstDot) {
     EXPECT_EQ(platform::terminalName("srv-01.example.org"), "srv-01");
@@ -40,19 +25,9 @@ TEST(Workstation, TheTerminalIsTheHostUpToItsFirstDot) {
     EXPECT_EQ(platform::terminalName(""), "");
 }
 
-TEST(Workstation, DriveCIsAskedOfTheEnvironmentFirst) {
-    EXPECT_EQ(probe({{"VABO_DRIVE_C", "/srv/c"}, {"XDG_DATA_HOME", "/data"}, {"HOME", "/home/anna"}})["drive"],
-              "/srv/c");
-    EXPECT_EQ(probe({{"XDG_DATA_HOME", "/data"}, {"HOME", "/home/anna"}})["drive"], "/data/vabo/c");
-    EXPECT_EQ(probe({{"XDG_DATA_HOME", "not/absolute"}, {"HOME", "/home/anna"}})["drive"],
-              "/home/anna/.local/share/vabo/c");
-    EXPECT_EQ(probe({{"HOME", "/home/anna"}})["drive"], "/home/anna/.local/share/vabo/c");
-    EXPECT_EQ(probe({{"VABO_DRIVE_C", "/srv/./x/../c"}})["drive"], "/srv/c");
-}
-
 TEST(Workstation, ARelativeDriveCIsMadeAbsolute) {
     const std::string drive = probe({{"VABO_DRIVE_C", "some/c"}})["drive"];
-    EXPECT_EQ(drive, (std::filesystem::current_path() / "some/c").string());
+    EXPECT_EQ(drive, (fs::current_path() / "some" / "c").string());
 }
 
 TEST(Workstation, OfARealMachineIsReadAtTheFirstQuestion) {
@@ -61,10 +36,11 @@ TEST(Workstation, OfARealMachineIsReadAtTheFirstQuestion) {
     EXPECT_EQ(facts["program"], "workstation_probe");
     EXPECT_EQ(facts["product"], "VaBo");
     EXPECT_EQ(facts["version"], VABO_VERSION);
-    EXPECT_EQ(facts["instance"], "/srv/c/vabo/istanze/POSTO$sqlexpress");
+    EXPECT_EQ(fs::path(facts["instance"]), fs::absolute("/srv/c/vabo/istanze/POSTO$sqlexpress"));
 }
 
 TEST(Workstation, RegionalSettingsAreTheSystemsAndItalianWithoutAny) {
+    VABO_NEEDS(support::systemCapabilities().localeByEnvironment);
     EXPECT_EQ(probe({{"LC_ALL", "C"}})["number"], ",.");
     EXPECT_EQ(probe({{"LC_ALL", "POSIX"}})["number"], ",.");
     EXPECT_EQ(probe({{"LC_ALL", "C.UTF-8"}})["number"], ",.");

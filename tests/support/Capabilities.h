@@ -38,6 +38,7 @@ struct SystemCapabilities {
     Capability symbolicLinks;
     Capability anyFileName;
     Capability caseInFileNames;
+    Capability longPaths;
     Capability openFilesMove;
     Capability openMapsShrink;
     Capability limitedFileSize;

@@ -56,6 +56,7 @@ const SystemCapabilities& systemCapabilities() {
             .symbolicLinks = {"A link needs a right that users don't have."},
             .anyFileName = {"The names of files can't have every character."},
             .caseInFileNames = {"No two files differ in case alone."},
+            .longPaths = {"The compiler's library reads no folder whose path has more than 259 characters."},
             .openFilesMove = {"A file that is open can't be moved or removed."},
             .openMapsShrink = {"A file that is mapped can't be shortened."},
             .limitedFileSize = {"A process has no limit for the size of its files."},

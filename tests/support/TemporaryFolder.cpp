@@ -28,7 +28,7 @@ TemporaryFolder::TemporaryFolder() {
         throw std::runtime_error("No temporary folder: " + folder.errorString().toStdString());
     }
     folder.setAutoRemove(false); // Qt's removal fails for folders that a test has made unreadable
-    path_ = os::pathOf(folder.path().toStdString());
+    path_ = os::pathOf(folder.path().toStdString()).make_preferred();
 }
 
 TemporaryFolder::~TemporaryFolder() {

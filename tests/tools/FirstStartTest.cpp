@@ -15,10 +15,11 @@ namespace {
 
 class FirstStart : public testing::Test {
 protected:
-    std::string root() const { return workstation.driveC().root().string(); }
+    fs::path vabo() const { return workstation.driveC().root() / "vabo"; }
     std::string offer() const {
-        return "Questa postazione non è ancora configurata: manca il file che indica il server,\n" + root() +
-               "/vabo/IndirizzoServer.txt\n\nPreparare una postazione di prova, con un server proprio e due aziende "
+        return "Questa postazione non è ancora configurata: manca il file che indica il server,\n" +
+               (vabo() / "IndirizzoServer.txt").string() +
+               "\n\nPreparare una postazione di prova, con un server proprio e due aziende "
                "di esempio?\n\nSi entra con il nome utente amministratore e la password primavera.";
     }
 
@@ -58,7 +59,7 @@ TEST_F(FirstStart, AnInterruptedSampleIsOfferedAndMadeAgain) {
 TEST_F(FirstStart, AFolderOfSomebodyElseIsLeftAloneAndThatIsSaid) {
     workstation.putFile("C:\\vabo\\NomeServer.txt", "ALTRO\r\n");
     script.expectQuestion(offer(), true);
-    script.expectMessage(root() + "/vabo was made by somebody else and is left alone", platform::Icon::Stop);
+    script.expectMessage(vabo().string() + " was made by somebody else and is left alone", platform::Icon::Stop);
     EXPECT_FALSE(start::setUp());
     EXPECT_EQ(workstation.fileText("C:\\vabo\\NomeServer.txt"), "ALTRO\r\n");
     EXPECT_FALSE(start::isSetUp());

@@ -248,7 +248,7 @@ TEST(Provision, SaysWhatIsMissing) {
         layDown(smallPlan(driveC.path()));
         fs::remove_all(driveC.path() / "vabo" / name);
         EXPECT_THAT(refusal(smallPlan(driveC.path())),
-                    HasSubstr((driveC.path() / "vabo" / name).string() + " is missing"));
+                    HasSubstr((driveC.path() / "vabo" / name).make_preferred().string() + " is missing"));
     }
 }
 

@@ -12,8 +12,11 @@ export VABO_WINDOWS_PREFIX=${VABO_WINDOWS_PREFIX:-$work/prefix}
 . tools/windows/wine.sh
 # A registry of their own, so that programs which the tests start may write there.
 export WINEPREFIX=${VABO_WINDOWS_WINE:-$work/wine-tests} VABO_TESTS_OWN_REGISTRY=1
-export QT_QPA_FONTDIR
-QT_QPA_FONTDIR=$(there /usr/share/fonts/truetype/dejavu)
+# Wine keeps variables of these names from its programs, but for those that begin with its own. The fonts are Debian's.
+mkdir -p "$build/fonts"
+ln -sf /usr/share/fonts/truetype/dejavu/DejaVuSans{,-Bold}.ttf "$build/fonts"
+export WINEQT_QPA_PLATFORM=offscreen WINEQT_QPA_FONTDIR
+WINEQT_QPA_FONTDIR=$(there "$build/fonts")
 [ -e "$WINEPREFIX/system.reg" ] || { wineboot --init && wineserver --wait; }
 
 rm -rf "$build/test-results"

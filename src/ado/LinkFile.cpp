@@ -51,7 +51,7 @@ const fs::path& checked(const fs::path& file) {
     if (!fs::is_regular_file(file, reason)) {
         throw Error(kUnspecified, "Could not find file.");
     }
-    if (fs::file_size(file, reason) == 0 || !engine::sqlite::holdsTable(file, "tables")) {
+    if (!LinkFile::isOne(file)) {
         throw Error(kUnspecified, "Unrecognized database format.");
     }
     os::keepForOwner(file);
@@ -59,6 +59,10 @@ const fs::path& checked(const fs::path& file) {
 }
 
 } // namespace
+
+bool LinkFile::isOne(const fs::path& file) {
+    return os::sizeOf(file).value_or(0) > 0 && engine::sqlite::holdsTable(file, "tables");
+}
 
 LinkFile LinkFile::create(const fs::path& file) {
     LinkFile made(opened(file, true));

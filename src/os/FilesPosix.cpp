@@ -119,6 +119,30 @@ void makeFileOfOwner(const fs::path& file) {
     }
 }
 
+std::optional<std::uintmax_t> sizeOf(const fs::path& file) {
+    std::error_code missing;
+    const std::uintmax_t size = fs::file_size(file, missing);
+    return missing ? std::nullopt : std::optional(size);
+}
+
+void removeFile(const fs::path& file) {
+    fs::remove(file);
+}
+
+FolderContent contentOf(const fs::path& folder) {
+    FolderContent content;
+    std::error_code ignored;
+    for (fs::directory_iterator entry(folder, ignored), end; entry != end; entry.increment(ignored)) {
+        const fs::file_type type = entry->symlink_status(ignored).type();
+        if (type == fs::file_type::regular) {
+            content.files.push_back(entry->path());
+        } else if (type == fs::file_type::directory) {
+            content.folders.push_back(entry->path());
+        }
+    }
+    return content;
+}
+
 bool canBeRemoved(const fs::path& /*file*/) {
     return true; // those who have it open keep a file without a name
 }

@@ -10,6 +10,7 @@
 #include <memory>
 #include <random>
 #include <string>
+#include <string_view>
 #include <system_error>
 #include <vector>
 
@@ -94,9 +95,32 @@ private:
     SECURITY_ATTRIBUTES attributes_{};
 };
 
+/// Repeats what fails because another program has the file open: one that looks for viruses does so for a moment.
+template<typename Work>
+bool insistently(Work work) {
+    constexpr int kMostTries = 20;
+    constexpr DWORD kPause = 25; // milliseconds
+    for (int tries = 1; work() == 0; ++tries) {
+        const DWORD error = GetLastError();
+        const bool busy =
+            error == ERROR_SHARING_VIOLATION || error == ERROR_LOCK_VIOLATION || error == ERROR_ACCESS_DENIED;
+        if (!busy || tries == kMostTries) {
+            return false;
+        }
+        Sleep(kPause);
+    }
+    return true;
+}
+
 HANDLE newFile(const fs::path& file) {
     OfOwnerAlone rights;
     return CreateFileW(file.c_str(), GENERIC_WRITE, 0, rights.attributes(), CREATE_NEW, FILE_ATTRIBUTE_NORMAL, nullptr);
+}
+
+/// Whatever other programs do with the file.
+HANDLE openedBeside(const fs::path& file, DWORD access) {
+    constexpr DWORD kAll = FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE;
+    return CreateFileW(file.c_str(), access, kAll, nullptr, OPEN_EXISTING, 0, nullptr);
 }
 
 fs::path siblingIn(const fs::path& folder) {
@@ -139,7 +163,8 @@ public:
 
     void takeThePlaceOf(const fs::path& file) {
         file_.close();
-        if (MoveFileExW(name_.c_str(), file.c_str(), MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH) == 0) {
+        constexpr DWORD kAtOnce = MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH;
+        if (!insistently([&] { return MoveFileExW(name_.c_str(), file.c_str(), kAtOnce); })) {
             fail("rename");
         }
         kept_ = true;
@@ -201,9 +226,55 @@ void makeFileOfOwner(const fs::path& file) {
     }
 }
 
+// What the folder tells is older while a program has the file open.
+std::optional<std::uintmax_t> sizeOf(const fs::path& file) {
+    const HANDLE opened = openedBeside(file, FILE_READ_ATTRIBUTES);
+    if (opened == INVALID_HANDLE_VALUE) {
+        return std::nullopt;
+    }
+    LARGE_INTEGER size{};
+    const BOOL told = GetFileSizeEx(opened, &size);
+    CloseHandle(opened);
+    return told != 0 ? std::optional(static_cast<std::uintmax_t>(size.QuadPart)) : std::nullopt;
+}
+
+void removeFile(const fs::path& file) {
+    if (!insistently([&] { return DeleteFileW(file.c_str()); }) && GetLastError() != ERROR_FILE_NOT_FOUND &&
+        GetLastError() != ERROR_PATH_NOT_FOUND) {
+        throw fs::filesystem_error("cannot remove", file,
+                                   std::error_code(static_cast<int>(GetLastError()), std::system_category()));
+    }
+}
+
+// A name that isn't text could be told to nobody.
+FolderContent contentOf(const fs::path& folder) {
+    FolderContent content;
+    WIN32_FIND_DATAW found{};
+    const HANDLE search = FindFirstFileExW((folder / L"*").c_str(), FindExInfoBasic, &found, FindExSearchNameMatch,
+                                           nullptr, FIND_FIRST_EX_LARGE_FETCH);
+    if (search == INVALID_HANDLE_VALUE) {
+        return content;
+    }
+    do {
+        const auto has = [&](DWORD attributes) { return (found.dwFileAttributes & attributes) == attributes; };
+        const std::wstring_view name = found.cFileName;
+        const bool isText =
+            WideCharToMultiByte(CP_UTF8, WC_ERR_INVALID_CHARS, found.cFileName, -1, nullptr, 0, nullptr, nullptr) != 0;
+        if (has(FILE_ATTRIBUTE_REPARSE_POINT) || !isText || name == L"." || name == L"..") {
+            continue;
+        }
+        if (!has(FILE_ATTRIBUTE_DIRECTORY)) {
+            content.files.push_back(folder / name);
+        } else if (!has(FILE_ATTRIBUTE_HIDDEN | FILE_ATTRIBUTE_SYSTEM)) {
+            content.folders.push_back(folder / name);
+        }
+    } while (FindNextFileW(search, &found) != 0);
+    FindClose(search);
+    return content;
+}
+
 bool canBeRemoved(const fs::path& file) {
-    constexpr DWORD kAll = FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE;
-    const HANDLE opened = CreateFileW(file.c_str(), DELETE, kAll, nullptr, OPEN_EXISTING, 0, nullptr);
+    const HANDLE opened = openedBeside(file, DELETE);
     if (opened == INVALID_HANDLE_VALUE) {
         return GetLastError() != ERROR_SHARING_VIOLATION;
     }

@@ -6,6 +6,8 @@
 #include <ctime>
 #include <filesystem>
 #include <string>
+#include <system_error>
+#include <vector>
 
 namespace os {
 
@@ -13,6 +15,9 @@ namespace os {
 std::string hostName();
 std::int64_t processNumber();
 std::filesystem::path programFile();
+/// Becomes another program, with the arguments that stand behind its name in this one's. Returns only where that isn't
+/// possible, with the reason.
+std::error_code become(const std::filesystem::path& program, const std::vector<std::string>& arguments);
 /// The folder used as drive C: $VABO_DRIVE_C, or else the drive itself where the system has one, or `vabo/c` in the
 /// user's data folder.
 std::filesystem::path driveC();

@@ -1,6 +1,7 @@
 #include "os/Machine.h"
 
 #include <array>
+#include <cerrno>
 #include <csignal>
 #include <cstdlib>
 #include <pwd.h>
@@ -44,6 +45,18 @@ std::int64_t processNumber() {
 fs::path programFile() {
     std::error_code ignored;
     return fs::read_symlink("/proc/self/exe", ignored);
+}
+
+std::error_code become(const fs::path& program, const std::vector<std::string>& arguments) {
+    std::string name = program.filename().string();
+    std::vector<std::string> copies = arguments;
+    std::vector<char*> all{name.data()};
+    for (std::string& argument : copies) {
+        all.push_back(argument.data());
+    }
+    all.push_back(nullptr);
+    ::execv(program.c_str(), all.data());
+    return {errno, std::generic_category()};
 }
 
 fs::path driveC() {

@@ -3,7 +3,9 @@
 
 #include <windows.h>
 
+#include <cerrno>
 #include <cstdlib>
+#include <process.h>
 
 namespace os {
 
@@ -33,6 +35,21 @@ fs::path programFile() {
     }
     name.resize(length);
     return name;
+}
+
+// The library puts the arguments together without quotes, and the other program takes them apart at blanks.
+std::error_code become(const fs::path& program, const std::vector<std::string>& arguments) {
+    std::vector<std::wstring> copies{L'"' + program.filename().native() + L'"'};
+    for (const std::string& argument : arguments) {
+        copies.push_back(L'"' + pathOf(argument).native() + L'"');
+    }
+    std::vector<const wchar_t*> all;
+    for (const std::wstring& argument : copies) {
+        all.push_back(argument.c_str());
+    }
+    all.push_back(nullptr);
+    _wexecv(program.c_str(), all.data());
+    return {errno, std::generic_category()};
 }
 
 fs::path driveC() {

@@ -17,8 +17,9 @@ class AutomationObject {
 public:
     using Argument = std::variant<bool, int, std::string>;
 
-    /// Whether an application of that name is registered.
-    static bool isRegistered(const std::string& progId);
+    /// Whether there is a library of objects of that name that this process can load: one that is registered may be for
+    /// processes of another kind.
+    static bool isLibrary(const std::string& progId);
 
     /// Starts an application.
     explicit AutomationObject(const std::string& progId);

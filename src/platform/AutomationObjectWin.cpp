@@ -75,10 +75,21 @@ DISPID idOf(IDispatch& object, const std::string& member) {
     return id;
 }
 
+/// An application that is at work, or shows a box, rejects calls.
+bool isBusy(HRESULT answer) {
+    return answer == RPC_E_CALL_REJECTED || answer == RPC_E_SERVERCALL_RETRYLATER;
+}
+
 void invoke(IDispatch& object, const std::string& member, WORD kind, DISPPARAMS parameters, Variant& result) {
+    constexpr int kMostTries = 300;
+    constexpr DWORD kPause = 100; // milliseconds
+    const DISPID id = idOf(object, member);
     EXCEPINFO told{};
-    const HRESULT answer = object.Invoke(idOf(object, member), IID_NULL, LOCALE_USER_DEFAULT, kind, &parameters,
-                                         &result.value, &told, nullptr);
+    HRESULT answer = RPC_E_CALL_REJECTED;
+    for (int tries = 0; tries < kMostTries && isBusy(answer); ++tries) {
+        Sleep(tries == 0 ? 0 : kPause);
+        answer = object.Invoke(id, IID_NULL, LOCALE_USER_DEFAULT, kind, &parameters, &result.value, &told, nullptr);
+    }
     if (FAILED(answer)) {
         throw failure(answer, told);
     }
@@ -120,9 +131,19 @@ AutomationObject::AutomationObject(const std::string& progId) {
     object_.reset(static_cast<IDispatch*>(made));
 }
 
-bool AutomationObject::isRegistered(const std::string& progId) {
+bool AutomationObject::isLibrary(const std::string& progId) {
     CLSID id{};
-    return SUCCEEDED(CLSIDFromProgID(wide(progId).c_str(), &id));
+    void* factory = nullptr;
+    if (FAILED(CoInitialize(nullptr))) {
+        return false;
+    }
+    const bool found = SUCCEEDED(CLSIDFromProgID(wide(progId).c_str(), &id)) &&
+                       SUCCEEDED(CoGetClassObject(id, CLSCTX_INPROC_SERVER, nullptr, IID_IClassFactory, &factory));
+    if (found) {
+        static_cast<IClassFactory*>(factory)->Release();
+    }
+    CoUninitialize();
+    return found;
 }
 
 void AutomationObject::call(const std::string& member, const std::vector<Argument>& arguments) const {

@@ -2,6 +2,7 @@
 
 #include "os/Files.h"
 #include "os/Paths.h"
+#include "os/SystemText.h"
 
 #include <QString>
 
@@ -118,7 +119,8 @@ FileError refusal(const fs::path& file, std::error_code reason) {
     if (reason == std::errc::filename_too_long) {
         return FileError(kPathNotFound);
     }
-    if (reason == std::errc::permission_denied || reason == std::errc::operation_not_permitted) {
+    if (reason == std::errc::permission_denied || reason == std::errc::operation_not_permitted ||
+        reason == std::errc::device_or_resource_busy) {
         return FileError(kDenied);
     }
     if (reason == std::errc::is_a_directory || reason == std::errc::file_exists ||
@@ -228,7 +230,7 @@ std::string DriveC::firstLine(std::string_view path) const {
     if (!line) {
         throw FileError(kEndOfFile);
     }
-    return QString::fromStdString(*line).toStdString(); // invalid UTF-8 becomes U+FFFD
+    return QString::fromStdString(os::fromSystemText(*line)).toStdString(); // invalid UTF-8 becomes U+FFFD
 }
 
 void DriveC::writeLine(std::string_view path, std::string_view line) const {
@@ -238,7 +240,7 @@ void DriveC::writeLine(std::string_view path, std::string_view line) const {
         throw FileError(kAccessError);
     }
     try {
-        os::replaceFile(place, std::string(line) + "\r\n");
+        os::replaceFile(place, os::toSystemText(line) + "\r\n");
     } catch (const std::system_error& error) {
         throw refusal(place, error.code());
     }

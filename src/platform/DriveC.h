@@ -36,7 +36,8 @@ public:
     bool isFile(std::string_view path) const;
     bool isFolder(std::string_view path) const;
 
-    /// The first line without its line break, CRLF or LF. Throws FileError, with number 62 for an empty file.
+    /// The first line without its line break, CRLF or LF. The text is in the system's code page, also in `writeLine`.
+    /// Throws FileError, with number 62 for an empty file.
     std::string firstLine(std::string_view path) const;
     /// Replaces the whole file by one line and CRLF. A kill leaves the old file or the new one. Throws FileError.
     void writeLine(std::string_view path, std::string_view line) const;

@@ -1,5 +1,6 @@
 #include "ado/ConnectionString.h"
 #include "ado/Error.h"
+#include "ado/LinkFile.h"
 #include "os/Paths.h"
 #include "platform/AutomationObject.h"
 #include "platform/FileLinkCatalogs.h"
@@ -71,20 +72,24 @@ private:
     AutomationObject catalog_;
 };
 
-class JetCatalogs : public LinkCatalogs {
+/// A file that is a catalog of the program's own needs no provider.
+class JetCatalogs : public FileLinkCatalogs {
 public:
     std::unique_ptr<LinkCatalog> open(const std::string& connection) override {
         // The provider knows the system's paths, not those of a folder that stands for the drive.
         const ado::ConnectionString text(connection);
-        const std::string place = os::utf8Of(workstation().driveC.real(text.server()));
-        return std::make_unique<JetCatalog>("Provider=" + text.provider() + ";Data Source=" + place);
+        const std::filesystem::path place = workstation().driveC.real(text.server());
+        if (ado::LinkFile::isOne(place)) {
+            return FileLinkCatalogs::open(connection);
+        }
+        return std::make_unique<JetCatalog>("Provider=" + text.provider() + ";Data Source=" + os::utf8Of(place));
     }
 };
 
 } // namespace
 
 std::unique_ptr<LinkCatalogs> systemLinkCatalogs() {
-    if (AutomationObject::isRegistered(kProvider) && AutomationObject::isRegistered(kCatalog)) {
+    if (AutomationObject::isLibrary(kProvider) && AutomationObject::isLibrary(kCatalog)) {
         return std::make_unique<JetCatalogs>();
     }
     return std::make_unique<FileLinkCatalogs>();

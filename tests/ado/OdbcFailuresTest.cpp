@@ -92,7 +92,6 @@ TEST_F(OdbcFailures, AServerThatFallsSilentGivesAnErrorAndIsReachedAgainOnceItIs
 }
 
 TEST_F(OdbcFailures, AServerThatEndsBetweenTwoStatementsGivesAnError) {
-    VABO_NEEDS(support::systemCapabilities().killedServerIsNoticed);
     fill(connection);
     peer.kill();
     const auto error = errorOf([&] { connection.Execute("update Prova set n = 1"); });
@@ -137,7 +136,6 @@ TEST_F(OdbcFailures, ARecordsetIsReadAnewOnAnOpenConnectionOnceItsServerIsBack) 
 }
 
 TEST_F(OdbcFailures, AServerThatEndsInTheMiddleOfAResultGivesAnError) {
-    VABO_NEEDS(support::systemCapabilities().killedServerIsNoticed);
     fill(connection);
     for (int n = 2; n <= 128; n *= 2) {
         const std::string many = std::to_string(n / 2);

@@ -5,7 +5,6 @@
 #include "ado/TestServer.h"
 #include "ado/WhileWaiting.h"
 #include "ado/drivers/odbc/Aside.h"
-#include "support/Capabilities.h"
 #include "support/SilentServer.h"
 
 #include <gtest/gtest.h>
@@ -32,7 +31,6 @@ protected:
 };
 
 TEST_F(OdbcWaiting, AServerThatEndsMeanwhileGivesTheErrorOfALostConnection) {
-    VABO_NEEDS(support::systemCapabilities().killedServerIsNoticed);
     {
         const WhileWaiting waiting([this] {
             if (++times == 1) {

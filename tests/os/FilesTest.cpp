@@ -7,10 +7,13 @@
 
 #include <gtest/gtest.h>
 
+#include <chrono>
 #include <fstream>
 #include <iterator>
 #include <string>
 #include <system_error>
+#include <thread>
+#include <vector>
 
 namespace {
 
@@ -89,6 +92,53 @@ TEST_F(Files, CanBeRemovedOnceTheyAreClosed) {
     open.close();
     EXPECT_TRUE(os::canBeRemoved(file));
     EXPECT_EQ(content(), "uno");
+}
+
+TEST_F(Files, HaveTheirSizeAlsoWhileTheyAreWritten) {
+    EXPECT_EQ(os::sizeOf(file), std::nullopt);
+    std::ofstream open(file);
+    EXPECT_EQ(os::sizeOf(file), 0U);
+    open << "uno" << std::flush;
+    EXPECT_EQ(os::sizeOf(file), 3U);
+    EXPECT_EQ(os::sizeOf(folder.path()), std::nullopt) << "a folder";
+}
+
+TEST_F(Files, AreRemovedWhereTheyAre) {
+    os::removeFile(file);
+    os::removeFile(folder.path() / "manca" / "a.txt");
+    os::replaceFile(file, "uno");
+    os::removeFile(file);
+    EXPECT_EQ(entries(), 0);
+    fs::create_directories(file / "dentro");
+    EXPECT_THROW(os::removeFile(file), fs::filesystem_error);
+}
+
+// Another program reads it for a moment, where that keeps it from being replaced or removed.
+TEST_F(Files, ThatAreInUseForAMomentAreReplacedAndRemoved) {
+    const auto whileItIsRead = [&](const auto& work) {
+        std::ifstream reader(file);
+        std::thread other([&] {
+            std::this_thread::sleep_for(std::chrono::milliseconds(50));
+            reader.close();
+        });
+        EXPECT_NO_THROW(work());
+        other.join();
+    };
+    os::replaceFile(file, "uno");
+    whileItIsRead([&] { os::replaceFile(file, "due"); });
+    EXPECT_EQ(content(), "due");
+    whileItIsRead([&] { os::removeFile(file); });
+    EXPECT_EQ(entries(), 0);
+}
+
+TEST_F(Files, AndFoldersAreTheContentOfAFolder) {
+    os::replaceFile(file, "uno");
+    fs::create_directory(folder.path() / "sotto");
+    const os::FolderContent content = os::contentOf(folder.path());
+    EXPECT_EQ(content.files, std::vector{file});
+    EXPECT_EQ(content.folders, std::vector{folder.path() / "sotto"});
+    EXPECT_TRUE(os::contentOf(folder.path() / "sotto").files.empty());
+    EXPECT_TRUE(os::contentOf(folder.path() / "manca").folders.empty());
 }
 
 TEST_F(Files, StandInFoldersThatAreMadeOnce) {

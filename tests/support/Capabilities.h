@@ -50,7 +50,6 @@ struct SystemCapabilities {
     Capability driverManagersClient;
     Capability askingToEnd;
     Capability guardedResolver;
-    Capability killedServerIsNoticed;
     /// That the installer of data sources stores their driver, and that the driver manager finds what it stores; both
     /// are tried out once.
     Capability installerStoresDrivers;

@@ -37,10 +37,6 @@ bool installerStoresDrivers(const std::filesystem::path& file) {
     return dataSourceText(file).find("Driver=") != std::string::npos;
 }
 
-bool isWine() {
-    return GetProcAddress(GetModuleHandleW(L"ntdll.dll"), "wine_get_version") != nullptr;
-}
-
 bool storedSourcesAreFound(const std::filesystem::path& file) {
     putDataSources(file, "[Tried]\nDriver=SQL Server\n");
     return std::ranges::count(platform::OdbcDataSources().names(), "Tried") == 1;
@@ -68,14 +64,10 @@ const SystemCapabilities& systemCapabilities() {
             .driverManagersClient = {"The driver manager has no client of its own."},
             .askingToEnd = {"A program can't be sent a signal to end."},
             .guardedResolver = {"The names that are looked up can't be limited to this machine's."},
-            .killedServerIsNoticed = {},
             .installerStoresDrivers = {},
             .storedSourcesAreFound = {},
             .sourcesOfStartedPrograms = {},
         };
-        if (isWine()) {
-            some.killedServerIsNoticed = {"Wine may leave the connections of a killed process open."};
-        }
         if (!tryOut(installerStoresDrivers)) {
             some.installerStoresDrivers = {"The installer of data sources doesn't store their driver."};
         }

@@ -11,6 +11,9 @@ void startBound(QProcess& process, const QString& program, const QStringList& ar
 void freeze(long long process);
 void thaw(long long process);
 
+/// Before a process is killed: ends its connections, where the system wouldn't do so at once.
+void endConnections(long long process);
+
 /// Ends this process as a power cut would.
 [[noreturn]] void dieAtOnce();
 

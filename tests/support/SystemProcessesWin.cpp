@@ -2,6 +2,7 @@
 
 #include <windows.h>
 
+#include <cstdint>
 #include <cstdlib>
 #include <memory>
 #include <stdexcept>
@@ -58,6 +59,25 @@ void freeze(long long process) {
 
 void thaw(long long process) {
     visitThreads(process, [](HANDLE thread) { ResumeThread(thread); });
+}
+
+// Wine may leave a connection open whose end a killed process was waiting for.
+void endConnections(long long process) {
+    constexpr std::uintptr_t kLastHandle = 2048;
+    constexpr int kBothWays = 2; // SD_BOTH, which the header of the sockets of today has
+    WSADATA version{};
+    WSAStartup(MAKEWORD(2, 2), &version);
+    const Handle other(OpenProcess(PROCESS_DUP_HANDLE, FALSE, static_cast<DWORD>(process)));
+    freeze(process);
+    for (std::uintptr_t number = 4; number <= kLastHandle; number += 4) {
+        HANDLE copy = nullptr;
+        if (DuplicateHandle(other.get(), reinterpret_cast<HANDLE>(number), GetCurrentProcess(), &copy, 0, FALSE,
+                            DUPLICATE_SAME_ACCESS) != 0) {
+            shutdown(reinterpret_cast<SOCKET>(copy), kBothWays); // an error where it is no socket
+            CloseHandle(copy);
+        }
+    }
+    WSACleanup();
 }
 
 void dieAtOnce() {

@@ -7,6 +7,7 @@
 
 #include <filesystem>
 #include <string>
+#include <system_error>
 
 namespace fs = std::filesystem;
 using support::TestWorkstation;
@@ -68,4 +69,11 @@ TEST_F(FirstStart, AFolderOfSomebodyElseIsLeftAloneAndThatIsSaid) {
 TEST_F(FirstStart, AWorkstationWithTheServersAddressIsSetUp) {
     workstation.putFile("C:\\Vabo\\indirizzoserver.txt", "Driver=SQL Server;Server=s;UID=u;PWD=p;\r\n");
     EXPECT_TRUE(start::isSetUp());
+}
+
+TEST_F(FirstStart, AConsoleThatDoesNotStartIsNamedWithTheSystemsReason) {
+    script.expectMessage("Il programma non si avvia: /opt/vabo/vabo\n" +
+                             std::make_error_code(std::errc::permission_denied).message(),
+                         platform::Icon::Stop);
+    start::tellNotStarted("/opt/vabo/vabo", std::make_error_code(std::errc::permission_denied));
 }

@@ -66,7 +66,7 @@ provision::Plan planOf(std::span<char* const> arguments) {
         } else if (argument.starts_with("-") || !plan.driveC.empty()) {
             throw Usage("unknown argument '" + std::string(argument) + "'");
         } else {
-            plan.driveC = argument;
+            plan.driveC = os::pathOf(argument);
         }
     }
     if (plan.driveC.empty()) {

@@ -47,4 +47,9 @@ bool setUp() {
     return true;
 }
 
+void tellNotStarted(const std::filesystem::path& console, std::error_code reason) {
+    platform::dialogs().message("Il programma non si avvia: " + os::utf8Of(console) + "\n" + reason.message(),
+                                platform::Icon::Stop);
+}
+
 } // namespace start

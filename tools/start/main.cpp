@@ -5,43 +5,51 @@
 #include "controls/QtDialogs.h"
 #include "controls/Style.h"
 #include "os/Machine.h"
-#include "os/Paths.h"
 #include "platform/Dialogs.h"
 #include "platform/Workstation.h"
 #include "start/FirstStart.h"
 
 #include <QApplication>
 
-#include <cstdio>
+#include <filesystem>
 #include <memory>
 #include <string>
-#include <unistd.h>
+#include <system_error>
 #include <vector>
 
 namespace {
 
-bool setUp(int argc, char** argv) {
-    QApplication application(argc, argv);
-    // The desktop knows the window as one of the console by that.
-    QApplication::setApplicationName(QString::fromStdString(platform::workstation().productName));
-    controls::style::install(application);
-    QApplication::setWindowIcon(controls::Mark::icon());
-    platform::setDialogs(std::make_unique<controls::QtDialogs>());
-    return start::setUp();
-}
+/// Something to be said or asked before there is a console.
+class Desktop {
+public:
+    Desktop(int argc, char** argv) : argc_(argc), application_(argc_, argv) {
+        // The desktop knows the window as one of the console by that.
+        QApplication::setApplicationName(QString::fromStdString(platform::workstation().productName));
+        controls::style::install(application_);
+        QApplication::setWindowIcon(controls::Mark::icon());
+        platform::setDialogs(std::make_unique<controls::QtDialogs>());
+    }
+
+private:
+    int argc_;
+    QApplication application_;
+};
 
 } // namespace
 
 int main(int argc, char** argv) {
     // The toolkit takes its own options out of argv, and the console is to have them too.
-    std::vector<char*> arguments(argv, argv + argc + 1);
-    if (!start::isSetUp() && !setUp(argc, argv)) {
-        return 1;
+    const std::vector<std::string> arguments(argv + 1, argv + argc);
+    if (!start::isSetUp()) {
+        const Desktop desktop(argc, argv);
+        if (!start::setUp()) {
+            return 1;
+        }
     }
-    const std::string console = os::utf8Of(os::programFile().parent_path() / "vabo");
-    std::string name = "vabo"; // not the path, which one system would take apart at a blank
-    arguments.front() = name.data();
-    ::execv(console.c_str(), arguments.data());
-    std::perror(console.c_str());
+    std::filesystem::path console = os::programFile();
+    console.replace_filename("vabo").replace_extension(os::programFile().extension());
+    const std::error_code reason = os::become(console, arguments);
+    const Desktop desktop(argc, argv);
+    start::tellNotStarted(console, reason);
     return 1;
 }

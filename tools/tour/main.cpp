@@ -2,6 +2,7 @@
 // saves a picture of each, three times: normal, at 200 per cent, and with a dark palette.
 
 #include "app/Program.h"
+#include "os/Paths.h"
 #include "tour/Tour.h"
 
 #include <QFileInfo>
@@ -56,7 +57,7 @@ QByteArray largeScreen() {
 
 /// Each walk is its own process, since the scale can't be changed after the start.
 int walkAll(const QString& program, const QString& driveC, const QString& folder) {
-    std::filesystem::create_directories(folder.toStdString());
+    std::filesystem::create_directories(os::pathOf(folder.toStdString()));
     QTemporaryFile screen;
     const QFileInfo screenFile(screen.open() ? screen.fileName() : QString());
     if (!screen.isOpen() || screen.write(largeScreen()) < 0 || !screen.flush()) {

@@ -16,8 +16,13 @@ OutFile "${OUTPUT}"
 !define MULTIUSER_INSTALLMODE_INSTDIR_REGISTRY_VALUENAME "Folder"
 !define MULTIUSER_INSTALLMODE_DEFAULT_REGISTRY_KEY "Software\VaBo"
 !define MULTIUSER_INSTALLMODE_DEFAULT_REGISTRY_VALUENAME "Folder"
+!define MULTIUSER_INIT_TEXT_ADMINREQUIRED "Per tutti gli utenti installa o rimuove soltanto un amministratore: \
+  avviare con «Esegui come amministratore»."
+!define MULTIUSER_INIT_TEXT_POWERREQUIRED "${MULTIUSER_INIT_TEXT_ADMINREQUIRED}"
+!define MULTIUSER_INIT_TEXT_ALLUSERSNOTPOSSIBLE "${MULTIUSER_INIT_TEXT_ADMINREQUIRED}"
 !include MultiUser.nsh
 !include MUI2.nsh
+!include LogicLib.nsh
 
 !define MUI_ICON "${ICON}"
 !define MUI_UNICON "${ICON}"
@@ -36,9 +41,28 @@ VIAddVersionKey /LANG=1040 "FileDescription" "Installazione di VaBo"
 VIAddVersionKey /LANG=1040 "FileVersion" "${VERSION}"
 VIAddVersionKey /LANG=1040 "LegalCopyright" "Copyright (c) 2026 the maintainers"
 
+; A program that runs can be neither replaced nor removed, and half of either would be worse than none.
+!macro RefuseWhileItRuns FILE
+  ${If} ${FileExists} "$INSTDIR\${FILE}"
+    ClearErrors
+    FileOpen $0 "$INSTDIR\${FILE}" a
+    ${If} ${Errors}
+      MessageBox MB_OK|MB_ICONSTOP "VaBo è in uso. Chiudere il programma e riprovare." /SD IDOK
+      SetErrorLevel 2
+      Abort
+    ${EndIf}
+    FileClose $0
+  ${EndIf}
+!macroend
+
+; The choice of the mode sets the folder; one that the command names (/D=) counts more.
 Function .onInit
   SetRegView 64
+  StrCpy $1 $INSTDIR
   !insertmacro MULTIUSER_INIT
+  ${If} $1 != ""
+    StrCpy $INSTDIR $1
+  ${EndIf}
 FunctionEnd
 
 Function un.onInit
@@ -47,6 +71,8 @@ Function un.onInit
 FunctionEnd
 
 Section
+  !insertmacro RefuseWhileItRuns "vabo.exe"
+  !insertmacro RefuseWhileItRuns "vabo-start.exe"
   SetOutPath "$INSTDIR"
   File /r "${CONTENT}/*"
   WriteUninstaller "$INSTDIR\rimuovi.exe"
@@ -63,6 +89,8 @@ SectionEnd
 
 ; Only what was installed is removed; whatever else stands in the folder stays.
 Section "Uninstall"
+  !insertmacro RefuseWhileItRuns "vabo.exe"
+  !insertmacro RefuseWhileItRuns "vabo-start.exe"
   Delete "$SMPROGRAMS\VaBo.lnk"
   Delete "$INSTDIR\vabo.exe"
   Delete "$INSTDIR\vabo-start.exe"

@@ -49,7 +49,7 @@ constexpr std::string_view kSeparators = "\\/:";
 void removeParts(const std::filesystem::path& database, std::initializer_list<const char*> endings) {
     for (const char* ending : endings) {
         std::filesystem::path part = database;
-        std::filesystem::remove(part += ending);
+        os::removeFile(part += ending);
     }
 }
 
@@ -200,7 +200,7 @@ Instance::Place Instance::placeOf(const std::string& name, const std::string& fi
 
 /// An empty file without a database is free: a process left it that died before it had registered its database.
 bool Instance::isTaken(const std::filesystem::path& file) const {
-    if (std::filesystem::exists(file) && !std::filesystem::is_empty(file)) {
+    if (std::filesystem::exists(file) && os::sizeOf(file) != 0U) {
         return true;
     }
     sqlite::Statement rows(registry_, kDatabaseColumns);

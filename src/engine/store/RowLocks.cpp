@@ -2,6 +2,7 @@
 
 #include "engine/values/Collation.h"
 #include "os/FileLock.h"
+#include "os/Files.h"
 
 #include <string>
 #include <unordered_map>
@@ -93,7 +94,7 @@ bool RowLocks::databaseInUse(const std::filesystem::path& database) {
 }
 
 void RowLocks::removeFile(const std::filesystem::path& database) {
-    std::filesystem::remove(lockFile(database));
+    os::removeFile(lockFile(database));
 }
 
 } // namespace engine

@@ -68,7 +68,7 @@ bool wasEmptied(const std::filesystem::path& file) {
         std::filesystem::path part = file;
         return std::filesystem::exists(part += ending, missing);
     };
-    return std::filesystem::file_size(file, missing) == 0 && (beside("-wal") || beside("-shm"));
+    return os::sizeOf(file) == 0U && (beside("-wal") || beside("-shm"));
 }
 
 /// Turning the write-ahead log on needs an exclusive lock for a moment, and the busy timeout doesn't cover it when two
@@ -142,7 +142,7 @@ bool holdsTable(const std::filesystem::path& file, std::string_view table) {
 
 Connection::Connection(const std::filesystem::path& file, bool create) : patience_(std::make_unique<Patience>()) {
     if (create) {
-        os::makeFileOfOwner(file); // SQLite gives the files beside a database (log and index of the log) its rights
+        os::makeFileOfOwner(file); // the files beside it (log and index of the log) get its rights, or the folder's
     }
     if (wasEmptied(file)) {
         throw Failure(SQLITE_NOTADB, sqlite3_errstr(SQLITE_NOTADB));

@@ -209,16 +209,19 @@ TEST_F(Waiting, IsFilledWhileAnotherConnectionWrites) {
     EXPECT_EQ(cell("select count(*) from Comuni where cap = '2'"), "4");
 }
 
-/// None of these rows takes long.
+/// None of these rows takes long, nor do all of one result on a fast machine.
 TEST_F(Waiting, IsFilledWhileRowsAreRead) {
+    constexpr int kMostResults = 100;
     const WhileWaiting waiting(counting());
-    const auto result = connection.driverConnection()->run("select a.n from Numeri a, Numeri b where b.n <= 300");
-    ASSERT_TRUE(result->nextResult());
-    int rows = 0;
-    while (result->nextRow()) {
-        ++rows;
+    for (int results = 0; times < 2 && results < kMostResults; ++results) {
+        const auto result = connection.driverConnection()->run("select a.n from Numeri a, Numeri b where b.n <= 300");
+        ASSERT_TRUE(result->nextResult());
+        int rows = 0;
+        while (result->nextRow()) {
+            ++rows;
+        }
+        EXPECT_EQ(rows, 300 * kNumbers);
     }
-    EXPECT_EQ(rows, 300 * kNumbers);
     EXPECT_GE(times, 2);
 }
 

@@ -52,6 +52,17 @@ TEST_F(KeptDatabasesTest, StayOpenBetweenTwoSessionsUntilTheyAreStopped) {
     EXPECT_FALSE(isOpen()) << "nothing is kept before the next start";
 }
 
+TEST_F(KeptDatabasesTest, AreClosedOneByOneWhenTheyAreForgotten) {
+    instance->createDatabase("altra", "", "");
+    EXPECT_EQ(nextRows(kRows), "1");
+    EXPECT_EQ(rowsOf(*next("altra"), "SELECT 1"), "1");
+    session.reset();
+    kept->forget(*instance->database("altra"));
+    EXPECT_TRUE(isOpen());
+    kept->forget(*instance->database("prova"));
+    EXPECT_FALSE(isOpen());
+}
+
 TEST_F(KeptDatabasesTest, SeeWhatOthersHaveWrittenMeanwhile) {
     EXPECT_EQ(nextRows(kRows), "1");
     run("INSERT INTO t (n) VALUES (2)");

@@ -1,7 +1,6 @@
 #include "support/Peer.h"
 
 #include "os/Paths.h"
-#include "support/SystemProcesses.h"
 
 #include <stdexcept>
 #include <utility>
@@ -11,11 +10,6 @@ namespace support {
 Peer::Peer(std::filesystem::path instance, std::filesystem::path driveC)
     : instance_(std::move(instance)), driveC_(std::move(driveC)) {
     start(0);
-}
-
-void Peer::kill() {
-    endConnections(pid());
-    process_->kill();
 }
 
 void Peer::start(int port) {

@@ -19,7 +19,7 @@ public:
     int port() const { return port_; }
 
     long long pid() const { return process_->pid(); }
-    void kill();
+    void kill() { process_->kill(); }
     /// Stops the process, and lets it continue.
     void freeze() const { process_->freeze(); }
     void thaw() const { process_->thaw(); }

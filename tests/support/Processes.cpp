@@ -86,6 +86,7 @@ void HelperProcess::kill() {
     if (process_.state() == QProcess::NotRunning) {
         return;
     }
+    endConnections(pid());
     process_.kill();
     process_.waitForFinished(kPatience);
 }

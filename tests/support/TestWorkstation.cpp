@@ -4,6 +4,7 @@
 #include "engine/errors/StoreErrors.h"
 #include "engine/store/Instance.h"
 #include "engine/store/RowLocks.h"
+#include "os/SystemText.h"
 #include "support/AzzeraVariabili.h"
 #include "support/DataSourceStore.h"
 #include "support/Environment.h"
@@ -106,13 +107,13 @@ std::optional<std::string> TestWorkstation::fileText(std::string_view path) cons
     if (!file) {
         return std::nullopt;
     }
-    return std::string(std::istreambuf_iterator<char>(file), {});
+    return os::fromSystemText(std::string(std::istreambuf_iterator<char>(file), {}));
 }
 
-void TestWorkstation::putFile(std::string_view path, std::string_view bytes) const {
+void TestWorkstation::putFile(std::string_view path, std::string_view text) const {
     const fs::path place = driveC().real(path);
     fs::create_directories(place.parent_path());
-    std::ofstream(place, std::ios::binary) << bytes;
+    std::ofstream(place, std::ios::binary) << os::toSystemText(text);
 }
 
 std::unique_ptr<engine::Session> TestWorkstation::engineSession(const std::string& database) const {

@@ -41,10 +41,10 @@ public:
     /// The server process. Throws std::logic_error with the embedded driver.
     Peer& peer() const;
 
-    /// The bytes of a file of drive C; nothing where it is missing.
+    /// The text of a file of drive C, in UTF-8; nothing where it is missing.
     std::optional<std::string> fileText(std::string_view path) const;
-    /// Writes a file with these bytes and creates its folders.
-    void putFile(std::string_view path, std::string_view bytes) const;
+    /// Writes a file with this text and creates its folders.
+    void putFile(std::string_view path, std::string_view text) const;
 
     // Direct access to the server's tables, not through the program's connections.
     std::unique_ptr<engine::Session> engineSession(const std::string& database) const;

@@ -98,7 +98,11 @@ function(vabo_test name)
 endfunction()
 
 function(vabo_test_entry entry target label)
+    set(results ${CMAKE_BINARY_DIR}/test-results)
+    if(CMAKE_CROSSCOMPILING)
+        set(results "Z:${results}") # under Wine a path without a drive would count from the test's own folder
+    endif()
     add_test(NAME ${entry} COMMAND ${target} ${ARGN})
     set_tests_properties(${entry} PROPERTIES LABELS ${label} ENVIRONMENT
-        "QT_QPA_PLATFORM=offscreen;LC_ALL=C.UTF-8;GTEST_OUTPUT=xml:${CMAKE_BINARY_DIR}/test-results/${label}/${entry}.xml")
+        "QT_QPA_PLATFORM=offscreen;LC_ALL=C.UTF-8;GTEST_OUTPUT=xml:${results}/${label}/${entry}.xml")
 endfunction()

@@ -4,6 +4,7 @@
 #include "platform/Dialogs.h"
 #include "support/Gui.h"
 
+#include <QAbstractEventDispatcher>
 #include <QApplication>
 #include <QMessageBox>
 #include <QPushButton>
@@ -58,8 +59,11 @@ public:
     bool eventFilter(QObject* watched, QEvent* event) override {
         auto* box = qobject_cast<QMessageBox*>(watched);
         if (box != nullptr && event->type() == QEvent::Show) {
-            QMetaObject::invokeMethod(
-                box, [this, box] { answer(*box); }, Qt::QueuedConnection);
+            // Not while the box is being shown: one system handles what is posted then too, and the box would wait on.
+            QObject::connect(
+                QAbstractEventDispatcher::instance(), &QAbstractEventDispatcher::aboutToBlock, box,
+                [this, box] { answer(*box); },
+                static_cast<Qt::ConnectionType>(Qt::QueuedConnection | Qt::SingleShotConnection));
         }
         return false;
     }

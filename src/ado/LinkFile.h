@@ -23,6 +23,7 @@ public:
         Value type, name; ///< null where the file has none
     };
 
+    /// Whether a file is a catalog. Writes nothing to it.
     static bool isOne(const std::filesystem::path& file);
     /// Creates an empty catalog that only its owner can read. Where the file exists, it must be empty.
     static LinkFile create(const std::filesystem::path& file);

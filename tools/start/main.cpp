@@ -22,7 +22,8 @@ namespace {
 /// Something to be said or asked before there is a console.
 class Desktop {
 public:
-    Desktop(int argc, char** argv) : argc_(argc), application_(argc_, argv) {
+    /// Takes the toolkit's options out of both.
+    Desktop(int& argc, char** argv) : application_(argc, argv) {
         // The desktop knows the window as one of the console by that.
         QApplication::setApplicationName(QString::fromStdString(platform::workstation().productName));
         controls::style::install(application_);
@@ -31,7 +32,6 @@ public:
     }
 
 private:
-    int argc_;
     QApplication application_;
 };
 

@@ -98,7 +98,8 @@ bool Socket::send(const void* bytes, std::size_t count) const {
 }
 
 std::size_t Socket::receive(void* room, std::size_t size) const {
-    // Wine doesn't end the connection of a process that is killed while it reads, but where it waits to be told.
+    // Under Wine the connection of a process that is killed inside of recv stays open; waiting ahead of it mostly
+    // avoids that.
     arrivals({this});
     const int count = ::recv(number(*this), static_cast<char*>(room), asLength(size), 0);
     return count > 0 ? static_cast<std::size_t>(count) : 0;

@@ -59,11 +59,8 @@ public:
     bool eventFilter(QObject* watched, QEvent* event) override {
         auto* box = qobject_cast<QMessageBox*>(watched);
         if (box != nullptr && event->type() == QEvent::Show) {
-            // Not while the box is being shown: one system handles what is posted then too, and the box would wait on.
-            QObject::connect(
-                QAbstractEventDispatcher::instance(), &QAbstractEventDispatcher::aboutToBlock, box,
-                [this, box] { answer(*box); },
-                static_cast<Qt::ConnectionType>(Qt::QueuedConnection | Qt::SingleShotConnection));
+            QMetaObject::invokeMethod(
+                box, [this, box] { answer(*box); }, Qt::QueuedConnection);
         }
         return false;
     }
@@ -83,6 +80,8 @@ private:
             const auto* button = qobject_cast<QWidget*>(box.buttons().first());
             QTest::mouseClick(window, Qt::LeftButton, Qt::NoModifier, button->mapTo(&box, button->rect().center()));
         }
+        // The answer has ended the box's loop and then waited, which on Windows takes along what lets the loop see it.
+        QAbstractEventDispatcher::instance()->interrupt();
     }
     void release() {
         if (QWindow* window = std::exchange(pressed_, nullptr).data()) {

@@ -62,6 +62,8 @@ function(vabo_program target description)
         string(LENGTH "${VABO_ICON}" VABO_HAS_ICON)
         configure_file(${CMAKE_SOURCE_DIR}/tools/windows/resources.rc.in ${target}.rc @ONLY)
         target_sources(${target} PRIVATE ${CMAKE_CURRENT_BINARY_DIR}/${target}.rc)
+        set(compiled_in ${VABO_MANIFEST} ${VABO_ICON})
+        set_source_files_properties(${CMAKE_CURRENT_BINARY_DIR}/${target}.rc PROPERTIES OBJECT_DEPENDS "${compiled_in}")
     endif()
 endfunction()
 

@@ -5,6 +5,8 @@
 # The toolkit and the libraries are kept: the first run takes half an hour, the next ones some minutes.
 set -euo pipefail
 cd "$(dirname "$0")/../.."
+tools/packages.sh build windows # ahead of all else, which needs some of them
+
 here=$PWD/tools/windows
 work=$PWD/build/windows
 jobs=${VABO_JOBS:-$(nproc)}
@@ -27,26 +29,39 @@ sources() {
     cd - >/dev/null
 }
 
+# begin <folder> <rule…>: whether something is left to be made there. A build that was interrupted goes on; where a
+# version or one of the files with its rules has changed, all is made anew.
+begin() {
+    local folder=$1 made_of
+    made_of=$(cd "$here" && cat sources.sh toolchain.cmake "${@:2}" | sha256sum)
+    if [ "$(cat "$folder/made-of" 2>/dev/null)" != "$made_of" ]; then
+        rm -rf "$folder"
+        mkdir -p "$folder"
+        echo "$made_of" >"$folder/made-of"
+    fi
+    [ ! -e "$folder/done" ]
+}
+
 toolkit() {
-    [ -e "$work/toolkit.$qt_version" ] && return
+    begin "$work/toolkit" toolkit.sh || return 0
     sources
     "$here/toolkit.sh" "$work/sources/qtbase" "$work/toolkit" "$VABO_WINDOWS_PREFIX"
-    touch "$work/toolkit.$qt_version"
+    touch "$work/toolkit/done"
 }
 
 libraries() {
-    local made=$work/libraries.$icu_version.$sqlite_version.$googletest_version
-    [ -e "$made" ] && return
+    local made=$work/libraries
+    begin "$made" icu-data.sh libraries/CMakeLists.txt || return 0
     sources
-    "$here/icu-data.sh" "$work/sources/icu" "$work/icu-data"
-    mkdir -p "$work/amalgamation"
-    (cd "$work/amalgamation" && ../sources/sqlite/configure --disable-tcl >/dev/null && make sqlite3.c >/dev/null)
-    cmake -G Ninja -S "$here/libraries" -B "$work/libraries" -DCMAKE_TOOLCHAIN_FILE="$here/toolchain.cmake" \
+    "$here/icu-data.sh" "$work/sources/icu" "$made/icu-data"
+    mkdir -p "$made/amalgamation"
+    (cd "$made/amalgamation" && "$work/sources/sqlite/configure" --disable-tcl >/dev/null && make sqlite3.c >/dev/null)
+    cmake -G Ninja -S "$here/libraries" -B "$made" -DCMAKE_TOOLCHAIN_FILE="$here/toolchain.cmake" \
         -DCMAKE_BUILD_TYPE=Release -DCMAKE_INSTALL_PREFIX="$VABO_WINDOWS_PREFIX" -DSOURCES="$work/sources" \
-        -DAMALGAMATION="$work/amalgamation" -DICU_DATA="$work/icu-data/icudt.S"
-    cmake --build "$work/libraries" -j "$jobs"
-    cmake --install "$work/libraries" >/dev/null
-    touch "$made"
+        -DAMALGAMATION="$made/amalgamation" -DICU_DATA="$made/icu-data/icudt.S"
+    cmake --build "$made" -j "$jobs"
+    cmake --install "$made" >/dev/null
+    touch "$made/done"
 }
 
 # The icon is drawn by the program's own code, here; the system there wants one file with all sizes.
@@ -57,8 +72,11 @@ icon() {
     icotool --create --output="$work/vabo.ico" "$work"/icon/*/apps/vabo.png
 }
 
+# Optimised as Debian's own packages are, with the lines of the sources for who looks into a crash; those files are
+# stripped where they are shipped. The toolkit's tools, which the build runs, are this system's.
 configure() {
-    [ -e "$WINEPREFIX/system.reg" ] || prepare_wine
+    [ -e "$WINEPREFIX/vabo" ] || prepare_wine
+    [ -e "$work/vabo.ico" ] || icon
     cmake -G Ninja -S . -B "$work/vabo" -DCMAKE_TOOLCHAIN_FILE="$here/toolchain.cmake" \
         -DCMAKE_BUILD_TYPE=RelWithDebInfo -DCMAKE_CXX_FLAGS_RELWITHDEBINFO="-O2 -g1" \
         -DCMAKE_PREFIX_PATH="$VABO_WINDOWS_PREFIX" -DVABO_ICON="$work/vabo.ico" \
@@ -88,9 +106,9 @@ prepare_wine() {
         wine reg add 'HKCU\Software\Wine\Fonts\Replacements' /v "$wanted" /d "DejaVu Sans" /f >/dev/null
     done
     wineserver --wait
+    touch "$WINEPREFIX/vabo" # all of this is done
 }
 
-tools/packages.sh build windows
 mkdir -p "$work"
 for step in "${@:-toolkit libraries program tests package}"; do
     for each in $step; do

@@ -2,6 +2,7 @@
 # icu-data.sh <ICU's source> <folder>: makes <folder>/icudt.S, which holds what the program asks of ICU and no more: the
 # order of texts, and for the sample workstation the names of countries, their areas and currencies in Italian.
 set -euo pipefail
+PATH=$PATH:/usr/sbin # for users who don't have ICU's tools in theirs
 whole=$(echo "$1"/source/data/in/icudt*l.dat)
 name=$(basename "$whole" l.dat)
 mkdir -p "$2"

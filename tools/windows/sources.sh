@@ -16,11 +16,14 @@ source_lists() {
     apt-get -qq "${apt_source[@]}" update
 }
 
-# get_source <package> <version> <folder>: the package, unpacked and with the distribution's changes.
+# get_source <package> <version> <link>: the package, unpacked and with the distribution's changes, and a link to it.
 get_source() {
-    [ -d "$3" ] && return
-    apt-get -qq "${apt_source[@]}" source --download-only "$1=$2"
-    rm -rf "$3.part"
-    dpkg-source --no-check --extract "$1_${2#*:}.dsc" "$3.part" >/dev/null
-    mv "$3.part" "$3"
+    local unpacked=$1-$2
+    if [ ! -d "$unpacked" ]; then
+        apt-get -qq "${apt_source[@]}" source --download-only "$1=$2"
+        rm -rf "$unpacked.part"
+        dpkg-source --no-check --extract "$1_$2.dsc" "$unpacked.part" >/dev/null
+        mv "$unpacked.part" "$unpacked"
+    fi
+    ln -sfn "$unpacked" "$3"
 }

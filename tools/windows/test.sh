@@ -22,7 +22,7 @@ wineboot --init >/dev/null 2>&1
 
 rm -rf "$build/test-results"
 result=0
-ctest --test-dir "$build" --timeout 1800 -j "${VABO_JOBS:-$(nproc)}" --output-on-failure -LE layers "$@" || result=$?
+ctest --test-dir "$build" --no-tests=error --timeout 1800 -j "${VABO_JOBS:-$(nproc)}" --output-on-failure -LE layers "$@" || result=$?
 
 for file in "$build"/test-results/*/*.xml; do
     [ -e "$file" ] || break
@@ -33,5 +33,9 @@ for file in "$build"/test-results/*/*.xml; do
     sed -n -e '/result="skipped"/{s/.*testcase name="\([^"]*\)".*classname="\([^"]*\)".*/    \2.\1: /;h}' \
         -e "/<skipped /{s/.*message=\"//;s/\".*//;s/^[^&]*&#x0A;//;s/&#x0A;//g;s/&apos;/'/g;H;x;s/\n//;p}" "$file"
 done
+if grep -q '^VABO_RAPIDCHECK:.*-NOTFOUND$' "$build/CMakeCache.txt"; then
+    echo "Not built, since there is no rapidcheck for that system:"
+    git ls-files 'tests/*PropertyTest.cpp' | sed 's/^/    /'
+fi
 tools/count-tests.sh "$build"
 exit "$result"

@@ -10,4 +10,4 @@ set(CMAKE_FIND_ROOT_PATH $ENV{VABO_WINDOWS_PREFIX} /usr/x86_64-w64-mingw32)
 set(CMAKE_FIND_ROOT_PATH_MODE_PROGRAM NEVER) # programs run here, all else is for there
 set(CMAKE_FIND_ROOT_PATH_MODE_LIBRARY ONLY)
 set(CMAKE_FIND_ROOT_PATH_MODE_INCLUDE ONLY)
-set(CMAKE_FIND_ROOT_PATH_MODE_PACKAGE BOTH)
+set(CMAKE_FIND_ROOT_PATH_MODE_PACKAGE BOTH) # the toolkit's packages name its tools, which are this system's

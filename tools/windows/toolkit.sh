@@ -23,6 +23,8 @@ features=()
 for feature in "${off[@]}"; do
     features+=("-DFEATURE_$feature=OFF")
 done
+# The tools that the build runs are Debian's, of the same version, and none is built for there. Precompiled headers save
+# time.
 cmake -G Ninja -S "$source" -B "$build" -DCMAKE_TOOLCHAIN_FILE="$here/toolchain.cmake" \
     -DCMAKE_INSTALL_PREFIX="$VABO_WINDOWS_PREFIX" -DCMAKE_BUILD_TYPE=Release \
     -DQT_HOST_PATH=/usr -DQT_HOST_PATH_CMAKE_DIR="$host" -DQt6HostInfo_DIR="$host/Qt6HostInfo" \

@@ -28,6 +28,7 @@ OutFile "${OUTPUT}"
 !define MUI_UNICON "${ICON}"
 !define UNINSTALL "Software\Microsoft\Windows\CurrentVersion\Uninstall\VaBo"
 
+!define MULTIUSER_PAGE_CUSTOMFUNCTION_LEAVE KeepGivenFolder
 !insertmacro MULTIUSER_PAGE_INSTALLMODE
 !insertmacro MUI_PAGE_DIRECTORY
 !insertmacro MUI_PAGE_INSTFILES
@@ -42,6 +43,11 @@ VIAddVersionKey /LANG=1040 "FileVersion" "${VERSION}"
 VIAddVersionKey /LANG=1040 "LegalCopyright" "Copyright (c) 2026 the maintainers"
 
 ; A program that runs can be neither replaced nor removed, and half of either would be worse than none.
+!macro RefuseWhileOneRuns
+  !insertmacro RefuseWhileItRuns "vabo.exe"
+  !insertmacro RefuseWhileItRuns "vabo-start.exe"
+  !insertmacro RefuseWhileItRuns "vabo-provision.exe"
+!macroend
 !macro RefuseWhileItRuns FILE
   ${If} ${FileExists} "$INSTDIR\${FILE}"
     ClearErrors
@@ -55,24 +61,46 @@ VIAddVersionKey /LANG=1040 "LegalCopyright" "Copyright (c) 2026 the maintainers"
   ${EndIf}
 !macroend
 
-; The choice of the mode sets the folder; one that the command names (/D=) counts more.
-Function .onInit
-  SetRegView 64
-  StrCpy $1 $INSTDIR
-  !insertmacro MULTIUSER_INIT
-  ${If} $1 != ""
-    StrCpy $INSTDIR $1
+; A silent installation asks nobody and tells nobody, but by its result.
+Function EndSilentlyWithoutTheRights
+  ${GetParameters} $0
+  ${StrStr} $0 $0 "/AllUsers"
+  UserInfo::GetAccountType
+  Pop $1
+  ${If} ${Silent}
+  ${AndIf} $0 != ""
+  ${AndIf} $1 != "Admin"
+    SetErrorLevel 2
+    Quit
   ${EndIf}
 FunctionEnd
 
+; The choice of the mode sets the folder; one that the command names (/D=) counts more.
+Var GivenFolder
+Function KeepGivenFolder
+  ${If} $GivenFolder != ""
+    StrCpy $INSTDIR $GivenFolder
+  ${EndIf}
+FunctionEnd
+
+Function .onInit
+  SetRegView 64
+  StrCpy $GivenFolder $INSTDIR
+  Call EndSilentlyWithoutTheRights
+  !insertmacro MULTIUSER_INIT
+  Call KeepGivenFolder
+FunctionEnd
+
+; What removes is in the folder that it removes, whichever was installed last.
 Function un.onInit
   SetRegView 64
+  StrCpy $GivenFolder $INSTDIR
   !insertmacro MULTIUSER_UNINIT
+  StrCpy $INSTDIR $GivenFolder
 FunctionEnd
 
 Section
-  !insertmacro RefuseWhileItRuns "vabo.exe"
-  !insertmacro RefuseWhileItRuns "vabo-start.exe"
+  !insertmacro RefuseWhileOneRuns
   SetOutPath "$INSTDIR"
   File /r "${CONTENT}/*"
   WriteUninstaller "$INSTDIR\rimuovi.exe"
@@ -89,28 +117,14 @@ SectionEnd
 
 ; Only what was installed is removed; whatever else stands in the folder stays.
 Section "Uninstall"
-  !insertmacro RefuseWhileItRuns "vabo.exe"
-  !insertmacro RefuseWhileItRuns "vabo-start.exe"
-  Delete "$SMPROGRAMS\VaBo.lnk"
-  Delete "$INSTDIR\vabo.exe"
-  Delete "$INSTDIR\vabo-start.exe"
-  Delete "$INSTDIR\vabo-provision.exe"
-  Delete "$INSTDIR\Qt6Core.dll"
-  Delete "$INSTDIR\Qt6Gui.dll"
-  Delete "$INSTDIR\Qt6Widgets.dll"
-  Delete "$INSTDIR\libstdc++-6.dll"
-  Delete "$INSTDIR\libgcc_s_seh-1.dll"
-  Delete "$INSTDIR\libwinpthread-1.dll"
-  Delete "$INSTDIR\platforms\qwindows.dll"
-  Delete "$INSTDIR\styles\qwindowsvistastyle.dll"
-  Delete "$INSTDIR\translations\qtbase_it.qm"
-  Delete "$INSTDIR\LICENSE.txt"
-  Delete "$INSTDIR\qt.conf"
+  !insertmacro RefuseWhileOneRuns
+  !include "${INSTALLED}"
   Delete "$INSTDIR\rimuovi.exe"
-  RMDir "$INSTDIR\platforms"
-  RMDir "$INSTDIR\styles"
-  RMDir "$INSTDIR\translations"
   RMDir "$INSTDIR"
-  DeleteRegKey SHCTX "${UNINSTALL}"
-  DeleteRegKey SHCTX "Software\VaBo"
+  ReadRegStr $0 SHCTX "Software\VaBo" "Folder"
+  ${If} $0 == $INSTDIR
+    Delete "$SMPROGRAMS\VaBo.lnk"
+    DeleteRegKey SHCTX "${UNINSTALL}"
+    DeleteRegKey SHCTX "Software\VaBo"
+  ${EndIf}
 SectionEnd

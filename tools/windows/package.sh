@@ -15,12 +15,19 @@ cp "$VABO_WINDOWS_PREFIX/plugins/platforms/qwindows.dll" "$dist/platforms"
 cp "$VABO_WINDOWS_PREFIX/plugins/styles/qwindowsvistastyle.dll" "$dist/styles"
 cp /usr/share/qt6/translations/qtbase_it.qm "$dist/translations"
 cp "$here/../../LICENSE" "$dist/LICENSE.txt"
+"$here/licences.sh" "$work/sources" "$dist/licenze"
 printf '[Paths]\r\nPrefix=.\r\nPlugins=.\r\nTranslations=translations\r\n' >"$dist/qt.conf"
 x86_64-w64-mingw32-strip "$dist"/*.exe "$dist"/*.dll "$dist"/*/*.dll
+
+# What the removal takes away is just what the installation has brought.
+{
+    find "$dist" -type f -printf '%P\n' | sort | tr / '\\' | sed 's/.*/Delete "$INSTDIR\\&"/'
+    find "$dist" -mindepth 1 -type d -printf '%P\n' | sort -r | tr / '\\' | sed 's/.*/RMDir "$INSTDIR\\&"/'
+} >"$work/installed.nsh"
 
 rm -f "$work/VaBo-$version.zip"
 (cd "$work" && zip -q -r -9 "VaBo-$version.zip" VaBo)
 makensis -V2 -DOUTPUT="$work/VaBo-$version.exe" -DCONTENT="$dist" -DVERSION="$version" -DICON="$work/vabo.ico" \
-    "$here/installer.nsi"
+    -DINSTALLED="$work/installed.nsh" "$here/installer.nsi"
 du -sh "$dist" | sed 's/\t.*/ installed/'
 ls -l "$work/VaBo-$version".{zip,exe}

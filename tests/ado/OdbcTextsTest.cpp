@@ -60,11 +60,13 @@ TEST(OdbcText, CarriesServerDatabaseUserAndWhatTheDriverNeeds) {
         {"Driver=SQL Server;Server=SEDE\\sqlexpress;UID=sa;PWD=segreta;DATABase=Vabo", "SQL Server",
          "DRIVER={SQL Server};SERVER=SEDE\\sqlexpress;DATABASE=Vabo;UID=sa;PWD=segreta;"},
         {"Server=S;ID utente=sa;Password=x;Port=1433", "FreeTDS",
-         "DRIVER={FreeTDS};SERVER=S;PORT=1433;UID=sa;PWD=x;TDS_Version=7.4;ClientCharset=UTF-8;Encryption=request;"},
+         "DRIVER={FreeTDS};SERVER=S,1433;UID=sa;PWD=x;TDS_Version=7.4;ClientCharset=UTF-8;Encryption=request;"},
         {"Provider=SQLOLEDB;Data Source=S;Integrated Security=SSPI;Initial Catalog=a b",
          "ODBC Driver 18 for SQL Server",
          "DRIVER={ODBC Driver 18 for SQL Server};SERVER=S;DATABASE=a b;Trusted_Connection=Yes;Encrypt=Optional;"
          "TrustServerCertificate=Yes;"},
+        {"Server=S,1433;Port=9;UID=sa;PWD=x", "SQL Server", "DRIVER={SQL Server};SERVER=S,1433;UID=sa;PWD=x;"},
+        {"Server=S\\A;Port=;UID=sa;PWD=x", "SQL Server", "DRIVER={SQL Server};SERVER=S\\A;UID=sa;PWD=x;"},
         {"Server=S;UID=sa;PWD={a;b}}c}", "SQL Server", "DRIVER={SQL Server};SERVER=S;UID=sa;PWD={a;b}}c};"},
     };
     for (const Text& text : texts) {

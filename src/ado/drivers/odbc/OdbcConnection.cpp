@@ -34,6 +34,13 @@ std::string braced(const std::string& value) {
     return out + "}";
 }
 
+/// The server's name and its port as all drivers read them: Microsoft's know no port of its own.
+std::string serverWithPort(const ConnectionString& text) {
+    const std::string server = text.server();
+    const std::string port = text.value("Port").value_or("");
+    return port.empty() || server.find(',') != std::string::npos ? server : server + "," + port;
+}
+
 /// unixODBC copies the name to a buffer of this size on its stack without checking its length.
 void checkLength(const std::string& driver) {
     constexpr std::size_t kLongest = 1000;
@@ -62,13 +69,9 @@ bool isOutOfReach(const Error& error) {
     return std::ranges::find(kStates, error.sqlState()) != std::end(kStates);
 }
 
-std::string placeOf(const ConnectionString& text) {
-    return text.server() + ";" + text.value("Port").value_or("");
-}
-
 Error notReached(const Error& error, const ConnectionString& text) {
     if (isSilence(error)) {
-        rememberSilent(placeOf(text), error);
+        rememberSilent(serverWithPort(text), error);
     }
     return outOfReach(error);
 }
@@ -93,7 +96,7 @@ void connect(const Handle& connection, const ConnectionString& text, const std::
             throw;
         }
         if (waited.elapsed() >= kWaitMilliseconds) {
-            rememberSilent(placeOf(text), error);
+            rememberSilent(serverWithPort(text), error);
         }
         throw notReached(error, text);
     }
@@ -102,10 +105,7 @@ void connect(const Handle& connection, const ConnectionString& text, const std::
 } // namespace
 
 std::string driverText(const ConnectionString& text, const std::string& resolvedDriver) {
-    std::string out = "DRIVER={" + resolvedDriver + "};SERVER=" + braced(text.server()) + ";";
-    if (const auto port = text.value("Port")) {
-        out += "PORT=" + braced(*port) + ";";
-    }
+    std::string out = "DRIVER={" + resolvedDriver + "};SERVER=" + braced(serverWithPort(text)) + ";";
     if (!text.database().empty()) {
         out += "DATABASE=" + braced(text.database()) + ";";
     }
@@ -127,7 +127,7 @@ int patience(std::string_view text, int loginSeconds) {
 class SharedConnection : public std::enable_shared_from_this<SharedConnection> {
 public:
     explicit SharedConnection(const ConnectionString& text)
-        : handle_(SQL_HANDLE_DBC, environment()), place_(placeOf(text)), timeout_(timeoutOf(text)) {
+        : handle_(SQL_HANDLE_DBC, environment()), place_(serverWithPort(text)), timeout_(timeoutOf(text)) {
         const std::string driver = resolveDriver(text.value("Driver").value_or(kServerDriver), registeredDrivers());
         checkLength(driver);
         check(SQLSetConnectAttrW(handle_.get(), SQL_ATTR_LOGIN_TIMEOUT,
@@ -237,7 +237,7 @@ namespace {
 /// tried, and when none is left a new one.
 std::shared_ptr<SharedConnection> preparedConnection(const ConnectionString& text) {
     constexpr int kMostKept = 100;
-    refuseSilent(placeOf(text));
+    refuseSilent(serverWithPort(text));
     for (int kept = 0;; ++kept) {
         auto connection = std::make_shared<SharedConnection>(text);
         if (connection->isPrepared()) {

@@ -28,17 +28,26 @@ void unlockRange(HANDLE file, std::uint64_t place, std::uint64_t length) {
     UnlockFileEx(file, 0, static_cast<DWORD>(length), static_cast<DWORD>(length >> 32U), &position);
 }
 
+[[noreturn]] void fail(const char* what, const std::filesystem::path& file) {
+    throw std::filesystem::filesystem_error(what, file,
+                                            std::error_code(static_cast<int>(GetLastError()), std::system_category()));
+}
+
 /// This system can't be asked who holds a byte: to learn it one takes the byte. Whoever takes or asks holds the byte
 /// behind all places meanwhile, so that nobody meets a lock that only asks.
 class Turn {
 public:
-    explicit Turn(HANDLE file) : file_(file) { lockRange(file_, FileLock::kEnd, 1, LOCKFILE_EXCLUSIVE_LOCK); }
-    ~Turn() { unlockRange(file_, FileLock::kEnd, 1); }
+    Turn(HANDLE handle, const std::filesystem::path& file) : handle_(handle) {
+        if (!lockRange(handle_, FileLock::kEnd, 1, LOCKFILE_EXCLUSIVE_LOCK)) {
+            fail("cannot lock", file);
+        }
+    }
+    ~Turn() { unlockRange(handle_, FileLock::kEnd, 1); }
     Turn(const Turn&) = delete;
     Turn& operator=(const Turn&) = delete;
 
 private:
-    HANDLE file_;
+    HANDLE handle_;
 };
 
 } // namespace
@@ -51,7 +60,7 @@ public:
                               FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE, nullptr, OPEN_EXISTING,
                               FILE_ATTRIBUTE_NORMAL, nullptr);
         if (handle_ == INVALID_HANDLE_VALUE) {
-            fail("cannot open the file of locks");
+            fail("cannot open the file of locks", file_);
         }
     }
     ~OpenFile() {
@@ -69,7 +78,7 @@ public:
         if (own != own_.end() && own->second == kind) {
             return true;
         }
-        const Turn turn(handle_);
+        const Turn turn(handle_, file_);
         if (own == own_.end()) {
             if (!tryTake(kind, place)) {
                 return false;
@@ -82,7 +91,7 @@ public:
         if (changed) {
             own->second = kind;
         } else {
-            tryTake(own->second, place);
+            takeBack(own->second, place);
         }
         return changed;
     }
@@ -94,7 +103,7 @@ public:
     }
 
     bool heldByOthers(std::uint64_t place, std::uint64_t length) const {
-        const Turn turn(handle_);
+        const Turn turn(handle_, file_);
         const std::uint64_t end = place + length;
         for (auto own = own_.lower_bound(place); own != own_.end() && own->first < end; ++own) {
             if (!isFree(place, own->first - place) || isSharedWithOthers(*own)) {
@@ -106,20 +115,22 @@ public:
     }
 
 private:
-    [[noreturn]] void fail(const char* what) const {
-        throw std::filesystem::filesystem_error(
-            what, file_, std::error_code(static_cast<int>(GetLastError()), std::system_category()));
-    }
-
     bool tryTake(Kind kind, std::uint64_t place) const {
         const DWORD flags = LOCKFILE_FAIL_IMMEDIATELY | (kind == Kind::Exclusive ? LOCKFILE_EXCLUSIVE_LOCK : 0);
         if (lockRange(handle_, place, 1, flags)) {
             return true;
         }
         if (GetLastError() != ERROR_LOCK_VIOLATION && GetLastError() != ERROR_IO_PENDING) {
-            fail("cannot lock");
+            fail("cannot lock", file_);
         }
         return false;
+    }
+
+    /// What was given up in the same turn.
+    void takeBack(Kind kind, std::uint64_t place) const {
+        if (!tryTake(kind, place)) {
+            fail("cannot lock again", file_);
+        }
     }
 
     bool isFree(std::uint64_t place, std::uint64_t length) const {
@@ -139,7 +150,7 @@ private:
         }
         unlockRange(handle_, own.first, 1);
         const bool alone = isFree(own.first, 1);
-        tryTake(Kind::Shared, own.first);
+        takeBack(Kind::Shared, own.first);
         return !alone;
     }
 

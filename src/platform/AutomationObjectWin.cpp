@@ -50,7 +50,10 @@ ado::Error failure(HRESULT result, EXCEPINFO& told) {
     constexpr unsigned kNumberBits = 0xffff;
     int number = kAutomationError;
     QString words = QStringLiteral("Automation error");
-    if (result == DISP_E_EXCEPTION) {
+    if (result == DISP_E_UNKNOWNNAME) {
+        number = kNoSuchMember;
+        words = QStringLiteral("Object doesn't support this property or method");
+    } else if (result == DISP_E_EXCEPTION) {
         if (told.pfnDeferredFillIn != nullptr) {
             told.pfnDeferredFillIn(&told);
         }
@@ -65,16 +68,6 @@ ado::Error failure(HRESULT result, EXCEPINFO& told) {
     return ado::Error(number, words.toStdString());
 }
 
-DISPID idOf(IDispatch& object, const std::string& member) {
-    std::wstring name = wide(member);
-    OLECHAR* names = name.data();
-    DISPID id = DISPID_UNKNOWN;
-    if (FAILED(object.GetIDsOfNames(IID_NULL, &names, 1, LOCALE_USER_DEFAULT, &id))) {
-        throw ado::Error(kNoSuchMember, "Object doesn't support this property or method");
-    }
-    return id;
-}
-
 /// An application that is at work, or shows a box, rejects calls.
 bool isBusy(HRESULT answer) {
     return answer == RPC_E_CALL_REJECTED || answer == RPC_E_SERVERCALL_RETRYLATER;
@@ -83,12 +76,17 @@ bool isBusy(HRESULT answer) {
 void invoke(IDispatch& object, const std::string& member, WORD kind, DISPPARAMS parameters, Variant& result) {
     constexpr int kMostTries = 300;
     constexpr DWORD kPause = 100; // milliseconds
-    const DISPID id = idOf(object, member);
+    std::wstring name = wide(member);
+    OLECHAR* names = name.data();
     EXCEPINFO told{};
     HRESULT answer = RPC_E_CALL_REJECTED;
     for (int tries = 0; tries < kMostTries && isBusy(answer); ++tries) {
         Sleep(tries == 0 ? 0 : kPause);
-        answer = object.Invoke(id, IID_NULL, LOCALE_USER_DEFAULT, kind, &parameters, &result.value, &told, nullptr);
+        DISPID id = DISPID_UNKNOWN;
+        answer = object.GetIDsOfNames(IID_NULL, &names, 1, LOCALE_USER_DEFAULT, &id); // a call like any other
+        if (SUCCEEDED(answer)) {
+            answer = object.Invoke(id, IID_NULL, LOCALE_USER_DEFAULT, kind, &parameters, &result.value, &told, nullptr);
+        }
     }
     if (FAILED(answer)) {
         throw failure(answer, told);

@@ -7,11 +7,16 @@
 #include "platform/SystemLinkCatalogs.h"
 #include "platform/Workstation.h"
 
+#include <algorithm>
+#include <array>
+#include <utility>
+
 namespace platform {
 
 namespace {
 
-constexpr const char* kProvider = "Microsoft.Jet.OLEDB.4.0";
+/// The first one is for processes of 32 bits alone; its successors read the same files.
+constexpr std::array kProviders = {"Microsoft.Jet.OLEDB.4.0", "Microsoft.ACE.OLEDB.16.0", "Microsoft.ACE.OLEDB.12.0"};
 constexpr const char* kCatalog = "ADOX.Catalog";
 constexpr const char* kConnection = "ADODB.Connection";
 constexpr int kProviderString = 5; ///< its place among the properties of a link
@@ -75,6 +80,8 @@ private:
 /// A file that is a catalog of the program's own needs no provider.
 class JetCatalogs : public FileLinkCatalogs {
 public:
+    explicit JetCatalogs(std::string provider) : provider_(std::move(provider)) {}
+
     std::unique_ptr<LinkCatalog> open(const std::string& connection) override {
         // The provider knows the system's paths, not those of a folder that stands for the drive.
         const ado::ConnectionString text(connection);
@@ -82,15 +89,19 @@ public:
         if (ado::LinkFile::isOne(place)) {
             return FileLinkCatalogs::open(connection);
         }
-        return std::make_unique<JetCatalog>("Provider=" + text.provider() + ";Data Source=" + os::utf8Of(place));
+        return std::make_unique<JetCatalog>("Provider=" + provider_ + ";Data Source=" + os::utf8Of(place));
     }
+
+private:
+    std::string provider_;
 };
 
 } // namespace
 
 std::unique_ptr<LinkCatalogs> systemLinkCatalogs() {
-    if (AutomationObject::isLibrary(kProvider) && AutomationObject::isLibrary(kCatalog)) {
-        return std::make_unique<JetCatalogs>();
+    const auto* const provider = std::ranges::find_if(kProviders, AutomationObject::isLibrary);
+    if (provider != kProviders.end() && AutomationObject::isLibrary(kCatalog)) {
+        return std::make_unique<JetCatalogs>(*provider);
     }
     return std::make_unique<FileLinkCatalogs>();
 }

@@ -246,18 +246,6 @@ void DriveC::writeLine(std::string_view path, std::string_view line) const {
     }
 }
 
-void DriveC::remove(std::string_view path) const {
-    const fs::path place = real(path);
-    std::error_code reason;
-    if (fs::is_directory(place, reason)) {
-        throw FileError(kAccessError);
-    }
-    if (fs::remove(place, reason)) {
-        return;
-    }
-    throw refusal(place, reason ? reason : make_error_code(std::errc::no_such_file_or_directory));
-}
-
 void DriveC::makeFolder(std::string_view path) const {
     const fs::path place = real(path);
     try {

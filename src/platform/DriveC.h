@@ -41,7 +41,6 @@ public:
     std::string firstLine(std::string_view path) const;
     /// Replaces the whole file by one line and CRLF. A kill leaves the old file or the new one. Throws FileError.
     void writeLine(std::string_view path, std::string_view line) const;
-    void remove(std::string_view path) const;
     /// Creates one folder. Throws FileError, with number 75 where it exists.
     void makeFolder(std::string_view path) const;
 

@@ -84,7 +84,7 @@ TEST_F(CollegaTabelleGuastiTest, ALinkThatCanNotBeWrittenStaysAndTheRunGoesOn) {
 TEST_F(CollegaTabelleGuastiTest, WithoutThePointerFileOfTheServerTheLinksStay) {
     main({{"LINK", "dbo_a", kPrima}, {"PASS-THROUGH", "b", ado::Null{}}});
     for (const char* file : {"C:\\vabo\\NomeServer.txt", "C:\\vabo\\IndirizzoServer.txt"}) {
-        workstation.driveC().remove(file);
+        workstation.removeFile(file);
         CollegaTabelle();
         EXPECT_THAT(links(), ElementsAre(kPrima, "null")) << file;
     }

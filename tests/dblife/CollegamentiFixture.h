@@ -60,7 +60,7 @@ protected:
         vabo::NomeDatabase = support::kCompany;
         vabo::CartellaFile = "C:\\Vabo\\Files";
         vabo::PercorsoFileLocale = "C:\\Vabo\\Files\\prova.mdb";
-        workstation.driveC().remove(kPersonalizzate);
+        workstation.removeFile(kPersonalizzate);
         // On the wire the server has another name, and its text another login.
         server("UID=sa;PWD=Campione-2024;");
     }

@@ -27,7 +27,7 @@ public:
         CartellaFile = "C:\\Vabo\\Files";
         PercorsoFileLocale = "C:\\Vabo\\Files\\prova.mdb";
         for (const char* file : {"tlv_locale_ponte.mdb", "tlv_locale_sql.mdb", "Tlv_personalizzate.mdb"}) {
-            posto.driveC().remove(std::string("C:\\Vabo\\Files\\") + file);
+            posto.removeFile(std::string("C:\\Vabo\\Files\\") + file);
         }
     }
     void TestBody() override {}

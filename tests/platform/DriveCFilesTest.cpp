@@ -159,15 +159,6 @@ TEST_F(DriveCFiles, WritingSaysWhyItCannot) {
     EXPECT_EQ(names("vabo"), std::vector<std::string>{"file.txt"});
 }
 
-TEST_F(DriveCFiles, AFileIsRemovedWhateverItsSpelling) {
-    put("vabo/NomeServer.txt", "x");
-    drive_.remove("C:\\VABO\\nomeserver.txt");
-    EXPECT_TRUE(names("vabo").empty());
-    EXPECT_EQ(outcome([&] { drive_.remove("C:\\vabo\\NomeServer.txt"); }), kFileNotFound);
-    EXPECT_EQ(outcome([&] { drive_.remove("C:\\missing\\NomeServer.txt"); }), kPathNotFound);
-    EXPECT_EQ(outcome([&] { drive_.remove("C:\\vabo"); }), kAccessError);
-}
-
 TEST_F(DriveCFiles, AFolderIsMadeForTheOwnerAlone) {
     drive_.makeFolder("C:\\Vabo\\Sedi\\");
     EXPECT_TRUE(support::isForOwnerAlone(root() / "vabo/Sedi"));
@@ -199,7 +190,6 @@ TEST_F(DriveCFiles, WithoutRightsEverythingIsDenied) {
     EXPECT_EQ(bound([&] { return writeOutcome("C:\\vabo\\readonly.txt"); }), kDenied);
     EXPECT_EQ(bound([&] { return writeOutcome("C:\\fixed\\new.txt"); }), kDenied);
     EXPECT_EQ(bound([&] { return writeOutcome("C:\\locked\\new.txt"); }), kDenied);
-    EXPECT_EQ(bound([&] { return outcome([&] { drive_.remove("C:\\fixed\\x.txt"); }); }), kDenied);
     EXPECT_EQ(bound([&] { return outcome([&] { drive_.makeFolder("C:\\fixed\\new"); }); }), kDenied);
     EXPECT_EQ(bytes("vabo/readonly.txt"), "x");
     EXPECT_EQ(bytes("fixed/x.txt"), "x");
@@ -221,5 +211,4 @@ TEST_F(DriveCFiles, ThatAreOpenAreDeniedWhereTheSystemKeepsThem) {
     put("vabo/x.txt", "uno");
     const std::ifstream open(root() / "vabo/x.txt");
     EXPECT_EQ(writeOutcome("C:\\vabo\\x.txt"), expected);
-    EXPECT_EQ(outcome([&] { drive_.remove("C:\\vabo\\x.txt"); }), expected);
 }

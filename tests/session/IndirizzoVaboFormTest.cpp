@@ -149,7 +149,7 @@ TEST_F(IndirizzoVaboForm, TheCompanysConnectionTextIsAnOddOneFromThePickOn) {
 TEST_F(IndirizzoVaboForm, WithoutTheServersPointerFileTheErrorEndsThePickAheadOfTheBrowser) {
     apri();
     const Puntatori prima = puntatori(posto);
-    posto.driveC().remove("C:\\vabo\\IndirizzoServer.txt");
+    posto.removeFile("C:\\vabo\\IndirizzoServer.txt");
     StringaAzienda = "prima";
     script.expectMessage(kAnnuncio);
     script.expectMessage("File not found");
@@ -164,7 +164,7 @@ TEST_F(IndirizzoVaboForm, TheServersLineIsTheFirstOneOfItsFile) {
     posto.putFile("C:\\vabo\\IndirizzoServer.txt", "prima riga;\r\nseconda\r\n");
     const auto& form = dynamic_cast<const IndirizzoVaboSuServer&>(gui.form(kForm));
     EXPECT_EQ(ado::toText(form.Leggi_Server()), "prima riga;");
-    posto.driveC().remove("C:\\vabo\\IndirizzoServer.txt");
+    posto.removeFile("C:\\vabo\\IndirizzoServer.txt");
     EXPECT_THROW(form.Leggi_Server(), platform::FileError);
 }
 

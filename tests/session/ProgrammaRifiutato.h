@@ -28,7 +28,7 @@ public:
     void prepara() const {
         workstation.run("master", "CREATE DATABASE [VaBoDatiTemp]");
         for (const char* file : {"tlv_locale_ponte.mdb", "tlv_locale_sql.mdb", "Tlv_personalizzate.mdb"}) {
-            workstation.driveC().remove(std::string("C:\\Vabo\\Files\\") + file);
+            workstation.removeFile(std::string("C:\\Vabo\\Files\\") + file);
         }
     }
     void mostra(const char* form) {

@@ -41,7 +41,7 @@ inline void metti(const support::TestWorkstation& posto, const Puntatori& tutti)
 
 /// Makes one of them impossible to write.
 inline void impedisci(const support::TestWorkstation& posto, const std::string& nome) {
-    posto.driveC().remove("C:\\vabo\\" + nome);
+    posto.removeFile("C:\\vabo\\" + nome);
     posto.driveC().makeFolder("C:\\vabo\\" + nome);
 }
 

@@ -49,7 +49,7 @@ protected:
         drop(support::kCompany);
         drop(support::kOtherCompany);
     }
-    void removeFile(const std::string& path) const { workstation.driveC().remove(path); }
+    void removeFile(const std::string& path) const { workstation.removeFile(path); }
 
     support::TestWorkstation workstation;
     support::DialogScript script; ///< no box but those that the test expects

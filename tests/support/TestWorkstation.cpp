@@ -116,6 +116,12 @@ void TestWorkstation::putFile(std::string_view path, std::string_view text) cons
     std::ofstream(place, std::ios::binary) << os::toSystemText(text);
 }
 
+void TestWorkstation::removeFile(std::string_view path) const {
+    if (!fs::remove(driveC().real(path))) {
+        throw std::runtime_error("no file " + std::string(path));
+    }
+}
+
 std::unique_ptr<engine::Session> TestWorkstation::engineSession(const std::string& database) const {
     return engine::Session::open(engine::Instance::open(instance_, instanceOptions(driveC())),
                                  {.user = {}, .password = {}, .database = database});

@@ -45,6 +45,8 @@ public:
     std::optional<std::string> fileText(std::string_view path) const;
     /// Writes a file with this text and creates its folders.
     void putFile(std::string_view path, std::string_view text) const;
+    /// Throws std::runtime_error where there is none.
+    void removeFile(std::string_view path) const;
 
     // Direct access to the server's tables, not through the program's connections.
     std::unique_ptr<engine::Session> engineSession(const std::string& database) const;

@@ -12,7 +12,7 @@ set(allowed_kit kit/ state/ platform/ ado/)
 
 # The headers of one operating system.
 set(system_headers
-    "^(unistd|fcntl|pwd|crypt|poll|dlfcn|langinfo|termios|netdb|grp|malloc|windows|bcrypt|objbase|shlobj|aclapi|sddl|psapi|tlhelp32|winsock2|ws2tcpip)\\.h$|^(sys|netinet|arpa)/")
+    "^(unistd|fcntl|pwd|crypt|poll|dlfcn|langinfo|termios|netdb|grp|malloc|process|pthread|windows|bcrypt|oaidl|objbase|oleauto|shlobj|aclapi|sddl|psapi|tlhelp32|winsock2|ws2tcpip)\\.h$|^(sys|netinet|arpa)/")
 
 # The folders of the engine from the lowest up: each may include itself and those before it.
 set(engine_folders errors values text store functions bind translate run)

@@ -50,6 +50,8 @@ struct SystemCapabilities {
     Capability driverManagersClient;
     Capability askingToEnd;
     Capability guardedResolver;
+    /// Text files in code page 1252, as in all of western Europe.
+    Capability westernTextFiles;
     /// That the installer of data sources stores their driver, and that the driver manager finds what it stores; both
     /// are tried out once.
     Capability installerStoresDrivers;

@@ -3,7 +3,11 @@
 namespace support {
 
 const SystemCapabilities& systemCapabilities() {
-    static constexpr SystemCapabilities kAll{};
+    static constexpr SystemCapabilities kAll = [] {
+        SystemCapabilities all;
+        all.westernTextFiles = {"Text files are in UTF-8."};
+        return all;
+    }();
     return kAll;
 }
 

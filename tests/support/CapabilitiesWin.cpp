@@ -10,7 +10,9 @@
 #include <odbcinst.h>
 
 #include <algorithm>
+#include <array>
 #include <cstdlib>
+#include <iterator>
 #include <string>
 #include <vector>
 
@@ -27,6 +29,12 @@ bool tryOut(bool (*work)(const std::filesystem::path& file)) {
     putDataSources(file, "");
     useDataSourceFile(before);
     return result;
+}
+
+std::wstring textFilesCodePage() {
+    std::array<wchar_t, 8> number{};
+    GetLocaleInfoEx(LOCALE_NAME_SYSTEM_DEFAULT, LOCALE_IDEFAULTANSICODEPAGE, number.data(), std::ssize(number));
+    return number.data();
 }
 
 bool installerStoresDrivers(const std::filesystem::path& file) {
@@ -64,10 +72,14 @@ const SystemCapabilities& systemCapabilities() {
             .driverManagersClient = {"The driver manager has no client of its own."},
             .askingToEnd = {"A program can't be sent a signal to end."},
             .guardedResolver = {"The names that are looked up can't be limited to this machine's."},
+            .westernTextFiles = {},
             .installerStoresDrivers = {},
             .storedSourcesAreFound = {},
             .sourcesOfStartedPrograms = {},
         };
+        if (textFilesCodePage() != L"1252") {
+            some.westernTextFiles = {"The system's code page isn't 1252."};
+        }
         if (!tryOut(installerStoresDrivers)) {
             some.installerStoresDrivers = {"The installer of data sources doesn't store their driver."};
         }

@@ -66,6 +66,8 @@ TEST(OdbcText, CarriesServerDatabaseUserAndWhatTheDriverNeeds) {
          "DRIVER={ODBC Driver 18 for SQL Server};SERVER=S;DATABASE=a b;Trusted_Connection=Yes;Encrypt=Optional;"
          "TrustServerCertificate=Yes;"},
         {"Server=S,1433;Port=9;UID=sa;PWD=x", "SQL Server", "DRIVER={SQL Server};SERVER=S,1433;UID=sa;PWD=x;"},
+        {"Server=S;Port={9;UID=altro};UID=sa;PWD=x", "SQL Server",
+         "DRIVER={SQL Server};SERVER={S,9;UID=altro};UID=sa;PWD=x;"},
         {"Server=S\\A;Port=;UID=sa;PWD=x", "SQL Server", "DRIVER={SQL Server};SERVER=S\\A;UID=sa;PWD=x;"},
         {"Server=S;UID=sa;PWD={a;b}}c}", "SQL Server", "DRIVER={SQL Server};SERVER=S;UID=sa;PWD={a;b}}c};"},
     };

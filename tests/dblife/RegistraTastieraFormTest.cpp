@@ -4,6 +4,9 @@
 #include "support/HeardBoxes.h"
 
 #include <filesystem>
+#include <fstream>
+#include <iterator>
+#include <string>
 #include <utility>
 
 namespace vabo {
@@ -18,15 +21,14 @@ protected:
         AzzeraVariabili();
         app::registerForms(gui.forms());
     }
-    /// Makes the database's file unreadable; the server still lists the database.
+    /// Makes the database's file unreadable, which somebody may have open; the server still lists the database.
     void guasta() {
         const std::string file = workstation.value(
             "master", std::string("select filename from master.dbo.sysdatabases where name = '") + kCompany + "'");
         posto_ = workstation.driveC().real(file);
-        std::filesystem::rename(posto_, salvato());
-        workstation.putFile(file, "no database");
+        inizio_ = sostituito("no database     ");
     }
-    void ripara() const { std::filesystem::rename(salvato(), posto_); }
+    void ripara() const { sostituito(inizio_); }
     void scrivi(const std::string& nome, const std::string& testo) {
         ASSERT_EQ(fuoco(), nome);
         gui.type(testo);
@@ -34,9 +36,19 @@ protected:
     }
 
 private:
-    std::filesystem::path salvato() const { return posto_.string() + ".salvato"; }
+    /// What the file began with.
+    std::string sostituito(const std::string& inizio) const {
+        std::fstream file(posto_, std::ios::in | std::ios::out | std::ios::binary);
+        std::string prima(inizio.size(), ' ');
+        file.read(prima.data(), std::ssize(prima));
+        file.seekp(0);
+        file << inizio << std::flush;
+        EXPECT_TRUE(file);
+        return prima;
+    }
 
     std::filesystem::path posto_;
+    std::string inizio_;
 };
 
 TEST_F(RegistraTastiera, ACompanyLostBetweenStartAndLoginLeadsToTheForm) {

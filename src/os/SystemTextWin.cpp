@@ -9,8 +9,8 @@ namespace {
 /// That of the other programs: this one's own is UTF-8.
 UINT systemCodePage() {
     DWORD number = CP_ACP;
-    GetLocaleInfoEx(LOCALE_NAME_SYSTEM_DEFAULT, LOCALE_IDEFAULTANSICODEPAGE | LOCALE_RETURN_NUMBER,
-                    reinterpret_cast<wchar_t*>(&number), sizeof number / sizeof(wchar_t));
+    GetLocaleInfoW(LOCALE_SYSTEM_DEFAULT, LOCALE_IDEFAULTANSICODEPAGE | LOCALE_RETURN_NUMBER,
+                   reinterpret_cast<wchar_t*>(&number), sizeof number / sizeof(wchar_t));
     return number;
 }
 

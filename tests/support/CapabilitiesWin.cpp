@@ -33,7 +33,7 @@ bool tryOut(bool (*work)(const std::filesystem::path& file)) {
 
 std::wstring textFilesCodePage() {
     std::array<wchar_t, 8> number{};
-    GetLocaleInfoEx(LOCALE_NAME_SYSTEM_DEFAULT, LOCALE_IDEFAULTANSICODEPAGE, number.data(), std::ssize(number));
+    GetLocaleInfoW(LOCALE_SYSTEM_DEFAULT, LOCALE_IDEFAULTANSICODEPAGE, number.data(), std::ssize(number));
     return number.data();
 }
 

@@ -25,5 +25,6 @@ get_source() {
         dpkg-source --no-check --extract "$1_$2.dsc" "$unpacked.part" >/dev/null
         mv "$unpacked.part" "$unpacked"
     fi
+    [ -L "$3" ] || rm -rf "$3" # where a link would land inside
     ln -sfn "$unpacked" "$3"
 }
